@@ -1,0 +1,103 @@
+# The borders between modules, enforced by include paths.
+#
+#   nalvo_interface(NAME ModXxx [PUBLIC dir ...] [USES ModYyy ...])
+#     The face of a module: the library ModXxx_If with the include path ModXxx/If (and the further folders that are named, for
+#     value types that cross the border). It may hold sources of such value types. USES names the faces that its headers need.
+#
+#   nalvo_module(NAME ModXxx [USES ModYyy ...] [LIBS Qt5::Svg ...])
+#     The module itself: an object library that sees its own folder, its own face, src/Common and the faces of the modules it
+#     names. Any other include does not compile.
+
+set_property(GLOBAL PROPERTY NALVO_OBJECT_LIBS "")
+
+# One precompiled header for all: the Qt headers that nearly every file needs.
+add_library(NalvoPch OBJECT "${CMAKE_SOURCE_DIR}/cmake/pch.cpp")
+set_target_properties(NalvoPch PROPERTIES AUTOMOC OFF)
+
+function(nalvo_setup_pch)
+  target_link_libraries(NalvoPch PUBLIC NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
+  target_precompile_headers(NalvoPch PRIVATE "${CMAKE_SOURCE_DIR}/cmake/pch.h")
+endfunction()
+
+function(_nalvo_object_library target)
+  target_link_libraries(${target} PRIVATE NalvoFlags)
+  target_precompile_headers(${target} REUSE_FROM NalvoPch)
+  set_property(GLOBAL APPEND PROPERTY NALVO_OBJECT_LIBS ${target})
+endfunction()
+
+function(nalvo_interface)
+  cmake_parse_arguments(ARG "" "NAME" "PUBLIC;USES" ${ARGN})
+  set(dirs "${CMAKE_CURRENT_SOURCE_DIR}")
+  foreach(dir IN LISTS ARG_PUBLIC)
+    list(APPEND dirs "${CMAKE_CURRENT_SOURCE_DIR}/../${dir}")
+  endforeach()
+  set(sources "")
+  foreach(dir IN LISTS dirs)
+    file(GLOB_RECURSE found CONFIGURE_DEPENDS "${dir}/*.cpp" "${dir}/*.h")
+    list(APPEND sources ${found})
+  endforeach()
+  set(deps Qt5::Core Qt5::Gui Qt5::Widgets Common_If)
+  foreach(use IN LISTS ARG_USES)
+    list(APPEND deps ${use}_If)
+  endforeach()
+  set(cpp ${sources})
+  list(FILTER cpp INCLUDE REGEX "\\.cpp$")
+  add_library(${ARG_NAME}_If INTERFACE)
+  target_include_directories(${ARG_NAME}_If INTERFACE ${dirs})
+  target_link_libraries(${ARG_NAME}_If INTERFACE ${deps})
+  if(cpp)
+    add_library(${ARG_NAME}_IfObj OBJECT ${sources})
+    target_link_libraries(${ARG_NAME}_IfObj PRIVATE ${ARG_NAME}_If)
+    _nalvo_object_library(${ARG_NAME}_IfObj)
+  endif()
+endfunction()
+
+function(nalvo_module)
+  cmake_parse_arguments(ARG "" "NAME" "USES;LIBS" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  # What belongs to the face is built with the face.
+  get_target_property(face ${ARG_NAME}_If INTERFACE_INCLUDE_DIRECTORIES)
+  foreach(dir IN LISTS face)
+    list(FILTER sources EXCLUDE REGEX "^${dir}/")
+  endforeach()
+  add_library(${ARG_NAME} OBJECT ${sources})
+  file(GLOB_RECURSE headers "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  set(own "${CMAKE_CURRENT_SOURCE_DIR}")
+  foreach(header IN LISTS headers)
+    get_filename_component(dir "${header}" DIRECTORY)
+    list(APPEND own "${dir}")
+  endforeach()
+  list(REMOVE_DUPLICATES own)
+  target_include_directories(${ARG_NAME} PRIVATE ${own})
+  set_target_properties(${ARG_NAME} PROPERTIES NALVO_OWN_DIRS "${own}")
+  target_link_libraries(${ARG_NAME} PRIVATE ${ARG_NAME}_If Qt5::Core Qt5::Gui Qt5::Widgets ${ARG_LIBS})
+  foreach(use IN LISTS ARG_USES)
+    target_link_libraries(${ARG_NAME} PRIVATE ${use}_If)
+  endforeach()
+  _nalvo_object_library(${ARG_NAME})
+endfunction()
+
+# nalvo_library(): the library `nalvo` of all modules declared so far, for the programs and the tests.
+function(nalvo_library)
+  get_property(libs GLOBAL PROPERTY NALVO_OBJECT_LIBS)
+  set(objects "")
+  foreach(lib IN LISTS libs)
+    list(APPEND objects $<TARGET_OBJECTS:${lib}>)
+  endforeach()
+  add_library(nalvo STATIC ${objects})
+  set_target_properties(nalvo PROPERTIES LINKER_LANGUAGE CXX AUTOMOC OFF)
+  target_link_libraries(nalvo PUBLIC NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
+endfunction()
+
+# nalvo_use_module(TARGET MODULE ...): lets a program or a test see the inside of the named modules.
+function(nalvo_use_module target)
+  foreach(module IN LISTS ARGN)
+    target_link_libraries(${target} PRIVATE ${module}_If)
+    if(TARGET ${module})
+      get_target_property(own ${module} NALVO_OWN_DIRS)
+      if(own)
+        target_include_directories(${target} PRIVATE ${own})
+      endif()
+    endif()
+  endforeach()
+endfunction()

@@ -1,0 +1,1 @@
+// Carries the precompiled header; it has no content of its own.

@@ -1,0 +1,43 @@
+#pragma once
+
+class ModEditorHookIf;
+
+/// A client of the editor.
+class ModEditorPluginIf
+{
+public:
+    virtual ~ModEditorPluginIf() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModEditorHookIf* modEditorHook = nullptr;
+};
+
+/// The assembler's role towards the editor; no class has it at present.
+class ModEditorPluginIfAssembler
+{
+public:
+    virtual ~ModEditorPluginIfAssembler() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModEditorHookIf* modEditorHook = nullptr;
+};
+
+/// A client that wants the hook and nothing else.
+class ModEditorPluginIfInterMod
+{
+public:
+    virtual ~ModEditorPluginIfInterMod() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModEditorHookIf* modEditorHook = nullptr;
+};
+
+/// A running simulator; the editor tells simulators by the list that they are in.
+class ModEditorPluginIfSimulator
+{
+public:
+    virtual ~ModEditorPluginIfSimulator() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModEditorHookIf* modEditorHook = nullptr;
+};

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+
+class ModFindReplacePluginIf;
+class QWidget;
+
+/// The find and replace strip. Served by nsModFindReplace::ModFindReplace.
+class ModFindReplaceHookIf
+{
+public:
+    virtual ~ModFindReplaceHookIf() = default;
+
+    /// Routes find and replace to the plug-in while the widget is current.
+    /// @param features bit mask of what the widget can do
+    virtual void registerPluginWidget(ModFindReplacePluginIf* plugin, QWidget* widget, int features) = 0;
+    virtual void unregisterPluginWidget(QWidget* widget) = 0;
+
+    virtual QString findString() = 0;
+    virtual QString replaceString() = 0;
+    virtual bool isCaseSensitive() = 0;
+    virtual bool isWholeWords() = 0;
+};

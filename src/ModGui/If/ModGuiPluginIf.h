@@ -1,0 +1,29 @@
+#pragma once
+
+#include "ModGuiHookIf.h"
+
+/// A client with widgets in the main window.
+class ModGuiPluginIf
+{
+public:
+    virtual ~ModGuiPluginIf() = default;
+
+    /// The user asks to close one of the client's widgets; who agrees calls ModGuiHookIf::removeWidget().
+    virtual void removeWidgetRequest(QWidget* widget) = 0;
+    /// The current widget of an area has changed.
+    /// @param plugin owner of the widget, may be null
+    virtual void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) = 0;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModGuiHookIf* modGuiHook = nullptr;
+};
+
+/// A client that wants the hook and nothing else.
+class ModGuiPluginIfInterMod
+{
+public:
+    virtual ~ModGuiPluginIfInterMod() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModGuiHookIf* modGuiHook = nullptr;
+};

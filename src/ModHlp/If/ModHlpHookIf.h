@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QString>
+#include <QUrl>
+
+class ModHlpPluginIf;
+class QWidget;
+
+/// The help browser. Served by nsModHlp::ModHlp.
+class ModHlpHookIf
+{
+public:
+    virtual ~ModHlpHookIf() = default;
+
+    virtual void registerPlugin(ModHlpPluginIf* plugin) = 0;
+    virtual void unregisterPlugin(ModHlpPluginIf* plugin) = 0;
+
+    /// Shows the help page beside a dialog.
+    /// @param ref a reference such as "pageId://configPageAsmFe"; upper and lower case are the same
+    virtual void showDialogHlpRef(QWidget* dialog, QString ref) = 0;
+    virtual void showHlp(QUrl url) = 0;
+    virtual void closeDialogHlp(QWidget* dialog) = 0;
+};

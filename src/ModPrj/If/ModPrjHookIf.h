@@ -1,0 +1,56 @@
+#pragma once
+
+#include <QColor>
+#include <QDir>
+#include <QFont>
+#include <QString>
+#include <QStringList>
+
+class ModPrjPluginIf;
+class ModPrjPluginIfInterMod;
+
+/// The open project: its settings tree, its place on the disk and its title. Served by nsModPrj::ModPrj.
+///
+/// Every getter takes a key such as "AsmFe/behavior/equ" and the value to answer when the key does not exist.
+class ModPrjHookIf
+{
+public:
+    virtual ~ModPrjHookIf() = default;
+
+    virtual void registerPlugin(ModPrjPluginIfInterMod* plugin) = 0;
+    virtual void unregisterPlugin(ModPrjPluginIfInterMod* plugin) = 0;
+    /// While a project is open, the new client gets prjOpen() and prjOpened() at once.
+    virtual void registerPlugin(ModPrjPluginIf* plugin) = 0;
+    /// While a project is open, the leaving client gets prjSave() and prjClose().
+    virtual void unregisterPlugin(ModPrjPluginIf* plugin) = 0;
+
+    /// @return a project is open
+    virtual bool isValid() = 0;
+    /// Collects the settings of all clients and writes the project file.
+    virtual void savePrjCfg() = 0;
+
+    virtual QString value(QString key, QString dflt) = 0;
+    virtual void setValue(QString key, QString value) = 0;
+    virtual int value(QString key, int dflt) = 0;
+    virtual void setValue(QString key, int value) = 0;
+    virtual QStringList value(QString key, QStringList dflt) = 0;
+    virtual void setValue(QString key, QStringList value) = 0;
+    virtual QColor value(QString key, QColor dflt) = 0;
+    virtual void setValue(QString key, QColor value) = 0;
+    virtual QFont font(QString key, QFont dflt) = 0;
+    virtual void setFont(QString key, QFont value) = 0;
+
+    /// Folder of the project file, QDir("") without a project.
+    virtual QDir prjDir() = 0;
+    /// File name without folder, a null string without a project.
+    virtual QString prjFileName() = 0;
+    /// The path relative to the project's folder; the argument itself without a project.
+    virtual QString convToRelPath(QString path) = 0;
+    virtual void convToRelPath(QString* path) = 0;
+    /// The path made absolute against the project's folder; the argument itself without a project.
+    virtual QString convToAbsPath(QString path) = 0;
+    virtual void convToAbsPath(QString* path) = 0;
+    virtual QString prjTitle() = 0;
+    virtual QString prjVersion() = 0;
+    virtual QString prjComment() = 0;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+class ModPrjHookIf;
+
+/// A client that takes part in the life of the project.
+class ModPrjPluginIf
+{
+public:
+    virtual ~ModPrjPluginIf() = default;
+
+    /// The project file has been read: read your own keys. Other clients may not have read theirs.
+    virtual void prjOpen() = 0;
+    /// All clients have read their keys.
+    virtual void prjOpened() = 0;
+    /// The project is about to be written: write your own keys.
+    virtual void prjSave() = 0;
+    /// The project is closed, its tree is empty: drop what you hold of it.
+    virtual void prjClose() = 0;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModPrjHookIf* modPrjHook = nullptr;
+};
+
+/// A client that wants the hook and nothing else.
+class ModPrjPluginIfInterMod
+{
+public:
+    virtual ~ModPrjPluginIfInterMod() = default;
+
+    /// Set by the server while the client is registered, null otherwise. Not owned.
+    ModPrjHookIf* modPrjHook = nullptr;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class ModSourcesPluginIf;
+
+/// The ordered list of the project's sources. Served by nsModSources::ModSources.
+class ModSourcesHookIf
+{
+public:
+    virtual ~ModSourcesHookIf() = default;
+
+    virtual void registerPlugin(ModSourcesPluginIf* plugin) = 0;
+    virtual void unregisterPlugin(ModSourcesPluginIf* plugin) = 0;
+
+    /// Is the file one of the project's sources? Asks the user to add it if it is not.
+    /// @param path absolute path; an empty one answers false
+    virtual bool chkProjectMembership(QString path) = 0;
+    /// A copy of the list: absolute paths, in project order.
+    virtual QStringList files() = 0;
+    /// A source was written: tells all clients.
+    virtual void setFileContentChanged() = 0;
+};

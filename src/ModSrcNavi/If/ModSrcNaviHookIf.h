@@ -1,0 +1,23 @@
+#pragma once
+
+class ModSrcNaviPluginIf;
+
+namespace nsModSrcNavi {
+struct NaviTag;
+}
+
+/// The table of contents of the sources. Served by nsModSrcNavi::ModSrcNavi.
+class ModSrcNaviHookIf
+{
+public:
+    virtual ~ModSrcNaviHookIf() = default;
+
+    virtual void registerPlugin(ModSrcNaviPluginIf* plugin) = 0;
+    virtual void unregisterPlugin(ModSrcNaviPluginIf* plugin) = 0;
+
+    virtual void clearTagList() = 0;
+    /// Appends a tag; takes its ownership.
+    virtual void addTag(nsModSrcNavi::NaviTag* tag) = 0;
+    /// All tags of a run are there: shows them.
+    virtual void showTagList() = 0;
+};

@@ -1,0 +1,24 @@
+#pragma once
+
+class ModSyscallPluginIf;
+
+namespace nsModSyscall {
+
+/// Events on which external programs run.
+enum eEvent_t { eEventButton1 = 0, eEventButton2 = 1, eEventSave = 2 };
+
+} // namespace nsModSyscall
+
+/// External programs bound to assembler events. Served by nsModSyscall::ModSyscall.
+class ModSyscallHookIf
+{
+public:
+    virtual ~ModSyscallHookIf() = default;
+
+    virtual void registerPlugin(ModSyscallPluginIf* plugin) = 0;
+    virtual void unregisterPlugin(ModSyscallPluginIf* plugin) = 0;
+
+    /// Runs the programs of the event.
+    /// @return false: the caller is to stop
+    virtual bool run(nsModSyscall::eEvent_t event) = 0;
+};

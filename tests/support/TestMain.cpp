@@ -1,0 +1,26 @@
+// main() of every test program: no display, no settings of the person who runs it, no locale surprises.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
+    qunsetenv("SOURCE_DATE_EPOCH");
+    QTemporaryDir home;
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_CACHE_HOME", home.path().toLocal8Bit());
+    // The discovery of tests must not need a display connection either, so the application comes first.
+    QApplication app(argc, argv);
+    QApplication::setStyle("fusion");
+    QCoreApplication::setOrganizationName("NalvoTests");
+    QCoreApplication::setApplicationName("NalvoTests");
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
