@@ -1,0 +1,121 @@
+#include "IconRenderer.h"
+#include "IconList.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QPainter>
+#include <QSet>
+#include <QSvgRenderer>
+#include <QXmlStreamReader>
+
+namespace {
+
+/// Elements that Qt's SVG renderer leaves out without a word, or that make the result depend on the machine's fonts.
+bool isUnsupportedElement(const QString& name)
+{
+    static const QSet<QString> names = {QStringLiteral("filter"),   QStringLiteral("mask"),   QStringLiteral("style"),
+                                        QStringLiteral("clipPath"), QStringLiteral("symbol"), QStringLiteral("marker"),
+                                        QStringLiteral("text"),     QStringLiteral("image"),  QStringLiteral("pattern")};
+    return names.contains(name);
+}
+
+/// True if nothing at all is visible in the image.
+bool isBlank(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) != 0) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+/// "img/a.png" gives "img/a@2x.png" for density 2; density 1 leaves the name as it is.
+QString targetName(const QString& target, int density)
+{
+    if (density == 1) {
+        return target;
+    }
+    const int dot = target.lastIndexOf(QLatin1Char('.'));
+    return target.left(dot) + QStringLiteral("@%1x").arg(density) + target.mid(dot);
+}
+
+} // namespace
+
+IconRenderer::IconRenderer(const QDir& svgDir, const QDir& outDir)
+    : m_svgDir(svgDir)
+    , m_outDir(outDir)
+{
+}
+
+bool IconRenderer::render(const IconEntry& entry)
+{
+    m_errorText.clear();
+    const QString svgFile = m_svgDir.filePath(entry.svg + QStringLiteral(".svg"));
+    if (!checkSource(svgFile)) {
+        return false;
+    }
+    QSvgRenderer renderer;
+    if (!renderer.load(svgFile)) {
+        return fail(svgFile + QStringLiteral(": not a drawing that can be rendered"));
+    }
+    return renderOne(renderer, entry, 1) && renderOne(renderer, entry, 2);
+}
+
+bool IconRenderer::checkSource(const QString& svgFile)
+{
+    QFile file(svgFile);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return fail(svgFile + QStringLiteral(": ") + file.errorString());
+    }
+    QXmlStreamReader reader(&file);
+    while (!reader.atEnd()) {
+        if (reader.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        const QString name = reader.name().toString();
+        const QString place = QStringLiteral("%1:%2: ").arg(svgFile).arg(reader.lineNumber());
+        if (isUnsupportedElement(name)) {
+            return fail(place + QStringLiteral("element \"%1\" is not rendered").arg(name));
+        }
+        if (reader.attributes().hasAttribute(QLatin1String("class"))) {
+            return fail(place + QStringLiteral("attribute \"class\" is not rendered"));
+        }
+    }
+    if (reader.hasError()) {
+        return fail(QStringLiteral("%1:%2: %3").arg(svgFile).arg(reader.lineNumber()).arg(reader.errorString()));
+    }
+    return true;
+}
+
+bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, int density)
+{
+    QImage image(entry.size * density, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    renderer.render(&painter, QRectF(QPointF(0, 0), QSizeF(image.size())));
+    painter.end();
+    if (isBlank(image)) {
+        return fail(entry.svg + QStringLiteral(": the rendered picture is empty"));
+    }
+
+    const QString fileName = m_outDir.filePath(targetName(entry.target, density));
+    if (!m_outDir.mkpath(QFileInfo(fileName).path())) {
+        return fail(QStringLiteral("can not create folder for ") + fileName);
+    }
+    if (!image.convertToFormat(QImage::Format_ARGB32).save(fileName, "PNG")) {
+        return fail(QStringLiteral("can not write ") + fileName);
+    }
+    return true;
+}
+
+bool IconRenderer::fail(const QString& text)
+{
+    m_errorText = text;
+    return false;
+}

@@ -1,0 +1,48 @@
+// Renders the SVG sources of the icons to PNG files.
+//
+//     nalvo-icon-render <list file> <folder of the SVG sources> <output folder>
+//
+// Ends with 0 if all pictures were written, with 1 and a message on the error stream otherwise.
+
+#include "IconList.h"
+#include "IconRenderer.h"
+
+#include <QGuiApplication>
+#include <QHash>
+#include <QStringList>
+
+#include <cstdio>
+
+namespace {
+
+int fail(const QString& text)
+{
+    std::fprintf(stderr, "nalvo-icon-render: %s\n", qPrintable(text));
+    return 1;
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The build may run without a display, and its result must not depend on the desktop.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qSetGlobalQHashSeed(0);
+    QGuiApplication app(argc, argv);
+
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() != 4) {
+        return fail(QStringLiteral("usage: nalvo-icon-render <list file> <svg folder> <output folder>"));
+    }
+    IconList list;
+    if (!list.read(arguments.at(1))) {
+        return fail(list.errorText());
+    }
+    IconRenderer renderer(QDir(arguments.at(2)), QDir(arguments.at(3)));
+    for (const IconEntry& entry : list.entries()) {
+        if (!renderer.render(entry)) {
+            return fail(QStringLiteral("%1:%2: %3").arg(arguments.at(1)).arg(entry.line).arg(renderer.errorText()));
+        }
+    }
+    return 0;
+}
