@@ -14,9 +14,10 @@ namespace {
 /// Elements that Qt's SVG renderer leaves out without a word, or that make the result depend on the machine's fonts.
 bool isUnsupportedElement(const QString& name)
 {
-    static const QSet<QString> names = {QStringLiteral("filter"),   QStringLiteral("mask"),   QStringLiteral("style"),
-                                        QStringLiteral("clipPath"), QStringLiteral("symbol"), QStringLiteral("marker"),
-                                        QStringLiteral("text"),     QStringLiteral("image"),  QStringLiteral("pattern")};
+    static const QSet<QString> names = {
+        QStringLiteral("filter"),   QStringLiteral("mask"),   QStringLiteral("style"),
+        QStringLiteral("clipPath"), QStringLiteral("symbol"), QStringLiteral("marker"),
+        QStringLiteral("text"),     QStringLiteral("image"),  QStringLiteral("pattern")};
     return names.contains(name);
 }
 

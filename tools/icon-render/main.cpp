@@ -7,7 +7,7 @@
 #include "IconList.h"
 #include "IconRenderer.h"
 
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QHash>
 #include <QStringList>
 
@@ -25,12 +25,11 @@ int fail(const QString& text)
 
 int main(int argc, char* argv[])
 {
-    // The build may run without a display, and its result must not depend on the desktop.
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // No GUI application: painting on images without text needs neither a display nor the fonts of the desktop.
     qSetGlobalQHashSeed(0);
-    QGuiApplication app(argc, argv);
+    QCoreApplication app(argc, argv);
 
-    const QStringList arguments = QGuiApplication::arguments();
+    const QStringList arguments = QCoreApplication::arguments();
     if (arguments.size() != 4) {
         return fail(QStringLiteral("usage: nalvo-icon-render <list file> <svg folder> <output folder>"));
     }
