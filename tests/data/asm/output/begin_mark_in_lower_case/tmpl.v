@@ -1,0 +1,3 @@
+{INIT_00} {NAME}
+// here: {begin Template} {INIT_00} {NAME}
+{INIT_00}

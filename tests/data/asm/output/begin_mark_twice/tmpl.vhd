@@ -1,0 +1,5 @@
+head of the template, not for the output
+{BEGIN TEMPLATE}
+a
+{BEGIN TEMPLATE}
+{INIT_00}

@@ -1,0 +1,4 @@
+entity boot_rom is
+end boot_rom;
+rom: boot_rom, {Name} boot_rom
+1FFF1EEE1DDD1CCC1BBB1AAA1999188817771666155514441333122211111000

@@ -1,0 +1,5 @@
+head of the template, not for the output
+{BEGIN TEMPLATE}
+module {ENTITYNAME} (clk); // {NAME}
+module {NAME} (clk);
+{INIT_00}

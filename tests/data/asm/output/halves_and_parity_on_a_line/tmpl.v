@@ -1,0 +1,20 @@
+head of the template, not for the output
+{BEGIN TEMPLATE}
+{[17:9]_INIT_00} {[17:9]_INITP_00}
+{[8:0]_INIT_00} {[8:0]_INITP_00}
+{INIT_00}
+{INIT_01}
+{INIT_02}
+{INIT_03}
+{INIT_04}
+{INIT_05}
+{INIT_06}
+{INIT_07}
+{INIT_08}
+{INIT_09}
+{INIT_0A}
+{INIT_0B}
+{INIT_0C}
+{INIT_0D}
+{INIT_0E}
+{INIT_0F}

@@ -1,0 +1,3 @@
+head of the template, not for the output
+{BEGIN TEMPLATE}
+a {init_00} b

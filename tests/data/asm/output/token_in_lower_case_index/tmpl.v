@@ -1,0 +1,34 @@
+head of the template, not for the output
+{BEGIN TEMPLATE}
+{INIT_00}
+{INIT_01}
+{INIT_02}
+{INIT_03}
+{INIT_04}
+{INIT_05}
+{INIT_06}
+{INIT_07}
+{INIT_08}
+{INIT_09}
+{INIT_0A}
+{INIT_0B}
+{INIT_0C}
+{INIT_0D}
+{INIT_0E}
+{INIT_0F}
+{INIT_10}
+{INIT_11}
+{INIT_12}
+{INIT_13}
+{INIT_14}
+{INIT_15}
+{INIT_16}
+{INIT_17}
+{INIT_18}
+{INIT_19}
+{INIT_1A}
+{INIT_1B}
+{INIT_1C}
+{INIT_1D}
+{INIT_1E}
+{init_1f}
