@@ -1,0 +1,50 @@
+#include "EmptyPage.h"
+
+#include <QCoreApplication>
+#include <QPainter>
+
+namespace nsModGui {
+
+namespace {
+
+const QColor groundColor(0xff, 0xff, 0xff);
+const QColor lineColor(0xd5, 0xda, 0xe1);
+const QColor nameColor(0xb8, 0xc0, 0xcc);
+const QColor hintColor(0x52, 0x60, 0x6d);
+const int gap = 8; ///< pixels between name and hint
+
+} // namespace
+
+EmptyPage::EmptyPage(QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("emptyPage"));
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+void EmptyPage::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.setPen(lineColor);
+    painter.setBrush(groundColor);
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+
+    QFont nameFont = font();
+    nameFont.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);
+    nameFont.setWeight(QFont::Light);
+    const int nameHeight = QFontMetrics(nameFont).height();
+    const int hintHeight = fontMetrics().height();
+    // A little above the middle is where the eye looks for the middle.
+    const int top = qMax(0, (height() - nameHeight - gap - hintHeight) * 2 / 5);
+
+    painter.setFont(nameFont);
+    painter.setPen(nameColor);
+    painter.drawText(QRect(0, top, width(), nameHeight), Qt::AlignCenter, QCoreApplication::applicationName());
+    painter.setFont(font());
+    painter.setPen(hintColor);
+    painter.drawText(QRect(0, top + nameHeight + gap, width(), hintHeight), Qt::AlignCenter,
+                     tr("Open a project: Configuration > Open project..."));
+}
+
+} // namespace nsModGui

@@ -1,0 +1,408 @@
+#include "ModGui.h"
+
+#include "SplashScreen.h"
+#include "StatusFrame.h"
+#include "WidgetAreaDock.h"
+#include "WidgetAreaStacked.h"
+#include "WidgetAreaTabbed.h"
+
+#include "ModCfgAppHookIf.h"
+
+#include <QCoreApplication>
+#include <QDebug>
+#include <QFile>
+#include <QMainWindow>
+#include <QSplitter>
+#include <QStatusBar>
+#include <QVBoxLayout>
+
+namespace nsModGui {
+
+namespace {
+
+const QString keyWidth = QStringLiteral("ModGui/width");
+const QString keyHeight = QStringLiteral("ModGui/height");
+const QString keyX = QStringLiteral("ModGui/x");
+const QString keyY = QStringLiteral("ModGui/y");
+
+const QSize smallestWindow(800, 600);
+const QSize pictureWindow(1280, 750); ///< window size for pictures of the program
+const int pictureDockHeight = 200;    ///< height of the bottom dock in these
+const QSize windowIconSize(22, 22);
+const int centerWidth = 500; ///< starting width of the tabs
+const int rightWidth = 300;  ///< starting width of the area to the right of them
+
+} // namespace
+
+ModGui::ModGui(QMainWindow* window)
+    : QObject(window)
+    , m_window(window)
+{
+    setupCenter();
+    setupDocks();
+    setupStatusBar();
+    setupStyle();
+    setWindowTitle(QString());
+}
+
+ModGui::~ModGui()
+{
+    delete m_splashScreen;
+    qDeleteAll(m_widgets);
+}
+
+template <class Area>
+void ModGui::setArea(eLocation_t location, Area* area)
+{
+    m_areas[location].widget = area;
+    m_areas[location].area = area;
+}
+
+void ModGui::setupCenter()
+{
+    auto* center = new QWidget(m_window);
+    auto* layout = new QVBoxLayout(center);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+
+    auto* splitter = new QSplitter(center);
+    splitter->setObjectName(QStringLiteral("splitterCenter"));
+    splitter->setChildrenCollapsible(false);
+    auto* tabbed = new WidgetAreaTabbed;
+    auto* right = new WidgetAreaStacked;
+    splitter->addWidget(tabbed);
+    splitter->addWidget(right);
+    splitter->setSizes({centerWidth, rightWidth});
+    // The page is what the room is for.
+    splitter->setStretchFactor(0, 1);
+    splitter->setStretchFactor(1, 0);
+    layout->addWidget(splitter, 1);
+
+    auto* below = new WidgetAreaStacked(center);
+    layout->addWidget(below);
+    m_window->setCentralWidget(center);
+
+    setArea(eLocationTabs, tabbed);
+    setArea(eLocationCenterRight, right);
+    setArea(eLocationCenterBelow, below);
+    connect(tabbed, &WidgetAreaTabbed::removeWidgetRequest, this, &ModGui::removeWidgetRequest);
+    connect(tabbed, &WidgetAreaTabbed::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
+}
+
+void ModGui::setupDocks()
+{
+    const struct
+    {
+        eLocation_t location;
+        Qt::DockWidgetArea side;
+        const char* title;
+        const char* objectName;
+    } docks[] = {
+        {eLocationDockLeft, Qt::LeftDockWidgetArea, QT_TR_NOOP("Dock widget left"), "dockLeft"},
+        {eLocationDockBottom, Qt::BottomDockWidgetArea, QT_TR_NOOP("Dock widget bottom"), "dockBottom"},
+        {eLocationDockRight, Qt::RightDockWidgetArea, QT_TR_NOOP("Dock widget right"), "dockRight"},
+    };
+    for (const auto& entry : docks) {
+        auto* dock = new WidgetAreaDock(tr(entry.title), m_window);
+        dock->setObjectName(QLatin1String(entry.objectName));
+        m_window->addDockWidget(entry.side, dock);
+        setArea(entry.location, dock);
+        connect(dock, &WidgetAreaDock::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
+    }
+}
+
+void ModGui::setupStatusBar()
+{
+    for (eLocation_t location : {eLocationStatusFirst, eLocationStatusSecond, eLocationStatusThird}) {
+        auto* frame = new StatusFrame;
+        m_window->statusBar()->addPermanentWidget(frame);
+        setArea(location, frame->area());
+    }
+}
+
+void ModGui::setupStyle()
+{
+    QFile file(QStringLiteral(":/styles/styles/stylesheet.css"));
+    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
+        m_window->setStyleSheet(QString::fromUtf8(file.readAll()));
+    else
+        qDebug("Can not open style sheet");
+    m_window->setWindowIcon(QIcon(QStringLiteral(":/ModGui/img/appIcon.png")));
+}
+
+WidgetArea* ModGui::area(int location) const
+{
+    if (location <= eLocationNone || location >= areaCount || m_areas[location].widget == nullptr)
+        return nullptr;
+    return m_areas[location].area;
+}
+
+WidgetAreaTabbed* ModGui::tabs() const
+{
+    return static_cast<WidgetAreaTabbed*>(m_areas[eLocationTabs].widget.data());
+}
+
+ModGuiHookIf::eLocation_t ModGui::locationOf(QWidget* widget) const
+{
+    for (int location = eLocationTabs; location < areaCount; ++location) {
+        const WidgetArea* candidate = area(location);
+        if (candidate != nullptr && candidate->hasWidget(widget))
+            return static_cast<eLocation_t>(location);
+    }
+    return eLocationNone;
+}
+
+void ModGui::registerPlugin(ModGuiPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modGuiHook = this;
+}
+
+void ModGui::unregisterPlugin(ModGuiPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modGuiHook = nullptr;
+}
+
+void ModGui::registerPlugin(ModGuiPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modGuiHook = this;
+}
+
+void ModGui::unregisterPlugin(ModGuiPluginIf* plugin)
+{
+    if (!m_plugins.remove(plugin))
+        return;
+    plugin->modGuiHook = nullptr;
+    // Who leaves may be about to go for good: its widgets, where it left any, stand without an owner from now on.
+    for (sWidgetData_t* data : qAsConst(m_widgets)) {
+        if (data->plugin == plugin)
+            data->plugin = nullptr;
+    }
+}
+
+void ModGui::setWindowTitle(QString text)
+{
+    if (m_window == nullptr)
+        return;
+    const QString name = QCoreApplication::applicationName();
+    m_window->setWindowTitle(text.isEmpty() ? name : name + QStringLiteral(" - ") + text);
+}
+
+void ModGui::addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* widget, QString name)
+{
+    WidgetArea* target = area(location);
+    if (target == nullptr || widget == nullptr)
+        return;
+    const eLocation_t before = locationOf(widget);
+    forgetWidget(widget);
+    if (before != eLocationNone)
+        area(before)->removeWidget(widget);
+
+    if (location == eLocationTabs)
+        m_centerWidgets.append(widget);
+    // Becoming current is told to the clients before the owner is on record, so that an owner who is still at its set-up does not
+    // get a call of its own in the middle of it.
+    const QPointer<QWidget> alive(widget);
+    target->addWidget(name, widget);
+    if (alive.isNull()) {
+        m_centerWidgets.removeAll(widget);
+        return;
+    }
+    if (!target->hasWidget(widget))
+        return; // a client that heard of the widget has moved it away again
+
+    forgetWidget(widget);
+    if (location == eLocationTabs)
+        m_centerWidgets.append(widget);
+    auto* data = new sWidgetData_t;
+    data->plugin = plugin;
+    data->destroyed = connect(widget, &QObject::destroyed, this, [this, widget] { forgetWidget(widget); });
+    m_widgets.insert(widget, data);
+}
+
+void ModGui::forgetWidget(QWidget* widget)
+{
+    m_centerWidgets.removeAll(widget);
+    sWidgetData_t* data = m_widgets.take(widget);
+    if (data == nullptr)
+        return;
+    disconnect(data->destroyed);
+    delete data;
+}
+
+void ModGui::removeWidget(QWidget* widget)
+{
+    const eLocation_t location = locationOf(widget);
+    forgetWidget(widget);
+    if (location != eLocationNone)
+        area(location)->removeWidget(widget);
+}
+
+void ModGui::setCurrentWidget(QWidget* widget)
+{
+    if (WidgetArea* owner = area(locationOf(widget)))
+        owner->showWidget(widget);
+}
+
+void ModGui::setWidgetName(QWidget* widget, QString name)
+{
+    if (tabs() != nullptr)
+        tabs()->setWidgetName(widget, name);
+}
+
+void ModGui::setWidgetIcon(QWidget* widget, QIcon icon)
+{
+    if (tabs() != nullptr)
+        tabs()->setWidgetIcon(widget, icon);
+}
+
+QWidget* ModGui::currentWidget(eLocation_t location)
+{
+    const WidgetArea* asked = area(location);
+    return asked != nullptr ? asked->currentAreaWidget() : nullptr;
+}
+
+void ModGui::setWidgetVisible(eLocation_t location, bool visible)
+{
+    if (WidgetArea* asked = area(location))
+        asked->setAreaVisible(visible);
+}
+
+bool ModGui::widgetVisible(eLocation_t location)
+{
+    const WidgetArea* asked = area(location);
+    return asked != nullptr && asked->isAreaVisible();
+}
+
+bool ModGui::hasWidget(eLocation_t location, QWidget* widget)
+{
+    const WidgetArea* asked = area(location);
+    return asked != nullptr && asked->hasWidget(widget);
+}
+
+void ModGui::setEnabled(QWidget* widget, bool enabled)
+{
+    if (WidgetArea* owner = area(locationOf(widget)))
+        owner->setWidgetEnabled(widget, enabled);
+}
+
+void ModGui::setStatusBarText(QString text)
+{
+    if (m_window == nullptr)
+        return;
+    m_window->statusBar()->showMessage(text, 0);
+    if (sWidgetData_t* data = m_widgets.value(currentWidget(eLocationTabs)))
+        data->statusBarText = text;
+}
+
+void ModGui::clearStatusBarText()
+{
+    if (m_window == nullptr)
+        return;
+    m_window->statusBar()->clearMessage();
+    if (sWidgetData_t* data = m_widgets.value(currentWidget(eLocationTabs)))
+        data->statusBarText.clear();
+}
+
+void ModGui::removeWidgetRequest(QWidget* widget)
+{
+    const sWidgetData_t* data = m_widgets.value(widget);
+    if (data != nullptr && data->plugin != nullptr)
+        data->plugin->removeWidgetRequest(widget);
+}
+
+void ModGui::showStoredStatusText(QWidget* widget)
+{
+    const sWidgetData_t* data = m_widgets.value(widget);
+    if (data != nullptr && m_window != nullptr && hasWidget(eLocationTabs, widget))
+        m_window->statusBar()->showMessage(data->statusBarText, 0);
+}
+
+void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
+{
+    const sWidgetData_t* data = m_widgets.value(widget);
+    ModGuiPluginIf* owner = data != nullptr ? data->plugin : nullptr;
+    showStoredStatusText(widget);
+    const eLocation_t location = locationOf(widget);
+    m_plugins.forEach([&](ModGuiPluginIf* plugin) {
+        if (plugin != owner)
+            plugin->setFocus(location, owner, widget);
+    });
+    // The others may have done anything with the widget and its owner meanwhile.
+    data = m_widgets.value(widget);
+    if (owner != nullptr && data != nullptr && data->plugin == owner)
+        owner->setFocus(location, owner, widget);
+    if (location == eLocationTabs && m_centerWidgets.removeAll(widget) > 0)
+        m_centerWidgets.append(widget);
+}
+
+void ModGui::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModGuiPluginIf>(modules, this);
+    registerPluginsOf<ModGuiPluginIfInterMod>(modules, this);
+}
+
+void ModGui::modInit()
+{
+    if (m_actions != nullptr)
+        return;
+    m_actions = new GuiActions(this);
+    m_actions->setEnabled(true);
+    connect(m_actions, qOverload<GuiActions::eAction_t>(&GuiActions::triggered), this, &ModGui::handleActions);
+}
+
+void ModGui::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+QList<QAction*> ModGui::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+}
+
+QList<QAction*> ModGui::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+}
+
+void ModGui::handleActions(GuiActions::eAction_t action)
+{
+    if (action != GuiActions::eActionSetDefaultWindowSize || m_window == nullptr)
+        return;
+    m_window->resize(pictureWindow);
+    if (auto* dock = static_cast<WidgetAreaDock*>(m_areas[eLocationDockBottom].widget.data()))
+        dock->setHeight(pictureDockHeight);
+}
+
+void ModGui::rdAppCfg()
+{
+    if (modCfgAppHook == nullptr || m_window == nullptr)
+        return;
+    const QSize size(modCfgAppHook->value(keyWidth, smallestWindow.width()),
+                     modCfgAppHook->value(keyHeight, smallestWindow.height()));
+    const QPoint position(modCfgAppHook->value(keyX, 0), modCfgAppHook->value(keyY, 0));
+    const QRect geometry(position, size.expandedTo(smallestWindow));
+    m_window->setGeometry(geometry);
+    m_window->setIconSize(windowIconSize);
+
+    delete m_splashScreen;
+    m_splashScreen = new SplashScreen;
+    m_splashScreen->show(geometry.x(), geometry.y(), geometry.width(), geometry.height());
+}
+
+void ModGui::wrAppCfg()
+{
+    if (modCfgAppHook == nullptr || m_window == nullptr)
+        return;
+    const QRect geometry = m_window->geometry();
+    modCfgAppHook->setValue(keyWidth, geometry.width());
+    modCfgAppHook->setValue(keyHeight, geometry.height());
+    modCfgAppHook->setValue(keyX, geometry.x());
+    modCfgAppHook->setValue(keyY, geometry.y());
+}
+
+} // namespace nsModGui

@@ -1,0 +1,46 @@
+#include "SplashScreen.h"
+
+#include <QCoreApplication>
+#include <QIcon>
+#include <QTimer>
+
+namespace nsModGui {
+
+namespace {
+
+const int showTime = 2500; ///< milliseconds
+const QColor messageColor(0x17, 0x30, 0x49);
+
+/// By way of an icon the picture comes in the resolution of the screen.
+QPixmap splashPixmap()
+{
+    const QString path = QStringLiteral(":/SplashScreen/img/splashScreen.png");
+    const QIcon icon(path);
+    return icon.pixmap(icon.availableSizes().value(0, QSize(0, 0)));
+}
+
+} // namespace
+
+SplashScreen::SplashScreen()
+    : QSplashScreen(splashPixmap())
+{
+    setObjectName(QStringLiteral("splashScreen"));
+    showMessage(tr("Release %1").arg(QCoreApplication::applicationVersion()),
+                Qt::AlignHCenter | Qt::AlignBottom | Qt::AlignVCenter, messageColor);
+}
+
+void SplashScreen::show(int x, int y, int width, int height)
+{
+    move(x + (width - this->width()) / 2, y + (height - this->height()) / 2);
+    QSplashScreen::show();
+    // Before the events: one of them could be the end of the program.
+    QTimer::singleShot(showTime, this, &SplashScreen::splashScreenStop);
+    QCoreApplication::processEvents();
+}
+
+void SplashScreen::splashScreenStop()
+{
+    deleteLater();
+}
+
+} // namespace nsModGui

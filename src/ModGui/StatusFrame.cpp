@@ -1,0 +1,29 @@
+#include "StatusFrame.h"
+
+#include "WidgetAreaStacked.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+
+namespace nsModGui {
+
+StatusFrame::StatusFrame(QWidget* parent)
+    : QFrame(parent)
+    , m_area(new WidgetAreaStacked(this))
+{
+    setFrameStyle(QFrame::Panel | QFrame::Sunken);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_area);
+    m_area->installEventFilter(this);
+    setVisible(false);
+}
+
+bool StatusFrame::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_area && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
+        setVisible(!m_area->isHidden());
+    return QFrame::eventFilter(watched, event);
+}
+
+} // namespace nsModGui

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "WidgetArea.h"
+
+#include <QWidget>
+
+class QStackedWidget;
+
+namespace nsModGui {
+
+/// An area that shows one of its widgets at a time and is hidden while it has none.
+class WidgetAreaStacked : public QWidget, public WidgetArea
+{
+    Q_OBJECT
+
+public:
+    explicit WidgetAreaStacked(QWidget* parent = nullptr);
+
+    void addWidget(QWidget* widget);
+    void setCurrentWidget(QWidget* widget);
+
+    // WidgetArea
+    void addWidget(const QString&, QWidget* widget) override { addWidget(widget); }
+    void removeWidget(QWidget* widget) override;
+    bool hasWidget(QWidget* widget) const override;
+    QWidget* currentAreaWidget() const override;
+    void showWidget(QWidget* widget) override;
+    void setWidgetEnabled(QWidget*, bool) override {}
+    void setAreaVisible(bool visible) override { setVisible(visible); }
+    bool isAreaVisible() const override { return !isHidden(); }
+
+private:
+    QStackedWidget* m_stack;
+};
+
+} // namespace nsModGui

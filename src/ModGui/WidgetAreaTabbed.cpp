@@ -1,0 +1,134 @@
+#include "WidgetAreaTabbed.h"
+
+#include "EmptyPage.h"
+
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QRegExp>
+
+namespace nsModGui {
+
+WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
+    : QTabWidget(parent)
+    , m_closeButton(new QPushButton(this))
+    , m_emptyPage(new EmptyPage(this))
+{
+    setObjectName(QStringLiteral("widgetAreaTabs"));
+    m_closeButton->setObjectName(QStringLiteral("buttonCloseTab"));
+    m_closeButton->setFlat(true);
+    m_closeButton->setIcon(QIcon(QStringLiteral(":/ModGui/img/tab-close.png")));
+    m_closeButton->setToolTip(tr("Close page"));
+    m_closeButton->setAccessibleName(m_closeButton->toolTip());
+    setCornerWidget(m_closeButton);
+    connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
+    connect(this, &QTabWidget::currentChanged, this,
+            [this](int index) { emit currentWidgetChanged(this, widget(index)); });
+    updateEmptyState();
+}
+
+QString WidgetAreaTabbed::chkAppName(const QString& name) const
+{
+    int uses = 0;
+    for (int index = 0; index < count(); ++index) {
+        QString text = tabText(index);
+        text.remove(QRegExp(QStringLiteral(" \\[[0-9]*\\]$")));
+        if (text == name)
+            ++uses;
+    }
+    return uses == 0 ? name : name + QStringLiteral(" [%1]").arg(uses + 1);
+}
+
+void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
+{
+    if (!hasWidget(widget))
+        return;
+    const int index = indexOf(widget);
+    // A tab must not count itself.
+    setTabText(index, QString());
+    setTabText(index, chkAppName(name));
+}
+
+void WidgetAreaTabbed::setWidgetIcon(QWidget* widget, const QIcon& icon)
+{
+    if (hasWidget(widget))
+        setTabIcon(indexOf(widget), icon);
+}
+
+void WidgetAreaTabbed::addWidget(const QString& name, QWidget* widget)
+{
+    if (widget == nullptr)
+        return;
+    removeWidget(widget);
+    addTab(widget, chkAppName(name));
+    QTabWidget::setCurrentWidget(widget);
+}
+
+void WidgetAreaTabbed::removeWidget(QWidget* widget)
+{
+    if (!hasWidget(widget))
+        return;
+    removeTab(indexOf(widget));
+    widget->setParent(nullptr);
+}
+
+bool WidgetAreaTabbed::hasWidget(QWidget* widget) const
+{
+    return widget != nullptr && indexOf(widget) >= 0;
+}
+
+void WidgetAreaTabbed::showWidget(QWidget* widget)
+{
+    if (!hasWidget(widget))
+        return;
+    QTabWidget::setCurrentWidget(widget);
+    setVisible(true);
+}
+
+void WidgetAreaTabbed::setWidgetEnabled(QWidget* widget, bool enabled)
+{
+    if (hasWidget(widget))
+        setTabEnabled(indexOf(widget), enabled);
+}
+
+void WidgetAreaTabbed::requestClose()
+{
+    emit removeWidgetRequest(currentWidget());
+}
+
+void WidgetAreaTabbed::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Close)) {
+        requestClose();
+        return;
+    }
+    QTabWidget::keyPressEvent(event);
+}
+
+void WidgetAreaTabbed::resizeEvent(QResizeEvent* event)
+{
+    QTabWidget::resizeEvent(event);
+    m_emptyPage->setGeometry(rect());
+}
+
+void WidgetAreaTabbed::tabInserted(int index)
+{
+    QTabWidget::tabInserted(index);
+    updateEmptyState();
+}
+
+void WidgetAreaTabbed::tabRemoved(int index)
+{
+    QTabWidget::tabRemoved(index);
+    updateEmptyState();
+}
+
+void WidgetAreaTabbed::updateEmptyState()
+{
+    const bool empty = count() == 0;
+    m_closeButton->setEnabled(!empty);
+    m_emptyPage->setVisible(empty);
+    if (empty)
+        m_emptyPage->raise();
+}
+
+} // namespace nsModGui

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "WidgetArea.h"
+
+#include <QTabWidget>
+
+class QPushButton;
+
+namespace nsModGui {
+
+class EmptyPage;
+
+/// The tabbed centre of the main window.
+class WidgetAreaTabbed : public QTabWidget, public WidgetArea
+{
+    Q_OBJECT
+
+public:
+    explicit WidgetAreaTabbed(QWidget* parent = nullptr);
+
+    /// The name as it is if no tab has it yet, otherwise with the number of its uses appended, such as "main.psm [2]".
+    QString chkAppName(const QString& name) const;
+    void setWidgetName(QWidget* widget, const QString& name);
+    void setWidgetIcon(QWidget* widget, const QIcon& icon);
+
+    // WidgetArea
+    void addWidget(const QString& name, QWidget* widget) override;
+    void removeWidget(QWidget* widget) override;
+    bool hasWidget(QWidget* widget) const override;
+    QWidget* currentAreaWidget() const override { return currentWidget(); }
+    void showWidget(QWidget* widget) override;
+    void setWidgetEnabled(QWidget* widget, bool enabled) override;
+    void setAreaVisible(bool visible) override { setVisible(visible); }
+    bool isAreaVisible() const override { return !isHidden(); }
+
+signals:
+    /// The user asks to close the page.
+    void removeWidgetRequest(QWidget* widget);
+    /// @param area this
+    /// @param widget the current page, null when the last one has gone
+    void currentWidgetChanged(QWidget* area, QWidget* widget);
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void tabInserted(int index) override;
+    void tabRemoved(int index) override;
+
+private slots:
+    void requestClose();
+
+private:
+    void updateEmptyState();
+
+    QPushButton* m_closeButton;
+    EmptyPage* m_emptyPage;
+};
+
+} // namespace nsModGui

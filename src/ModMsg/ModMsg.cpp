@@ -1,0 +1,197 @@
+#include "ModMsg.h"
+
+#include "MsgViewer.h"
+
+#include "ModGuiHookIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModScriptHookIf.h"
+
+#include <QWidget>
+
+namespace nsModMsg {
+
+ModMsg::ModMsg(QWidget* parent)
+    : QObject(parent)
+{
+}
+
+ModMsg::~ModMsg()
+{
+    if (m_viewer != nullptr && m_viewer->parentWidget() == nullptr)
+        delete m_viewer;
+}
+
+void ModMsg::registerPlugin(ModMsgPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modMsgHook = this;
+}
+
+void ModMsg::unregisterPlugin(ModMsgPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modMsgHook = nullptr;
+}
+
+void ModMsg::registerPlugin(ModMsgPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modMsgHook = this;
+}
+
+void ModMsg::unregisterPlugin(ModMsgPluginIf* plugin)
+{
+    if (m_plugins.remove(plugin))
+        plugin->modMsgHook = nullptr;
+}
+
+ModMsg::UrlHndlrList* ModMsg::urlHndlrs(eUrlHndlr_t kind)
+{
+    switch (kind) {
+    case eUrlHndlrHelp:
+        return &m_hlpUrlHndlrs;
+    case eUrlHndlrSource:
+        return &m_srcUrlHndlrs;
+    }
+    return nullptr;
+}
+
+void ModMsg::registerPluginUrlHndlr(eUrlHndlr_t kind, ModMsgPluginIfUrlHndlr* handler)
+{
+    if (UrlHndlrList* list = urlHndlrs(kind))
+        list->add(handler);
+}
+
+void ModMsg::unregisterPluginUrlHndlr(eUrlHndlr_t kind, ModMsgPluginIfUrlHndlr* handler)
+{
+    if (UrlHndlrList* list = urlHndlrs(kind))
+        list->remove(handler);
+}
+
+void ModMsg::clearMessages()
+{
+    if (m_viewer != nullptr)
+        m_viewer->clearMessages();
+}
+
+void ModMsg::openMessageGroup(QString text, QUrl hlpDoc)
+{
+    if (m_viewer != nullptr)
+        m_viewer->openMessageGroup(text, hlpDoc);
+}
+
+void ModMsg::closeMessageGroup(bool success)
+{
+    if (m_viewer == nullptr)
+        return;
+    // The closing line is a message like any other, so that a failure marks the group that it ends.
+    if (success)
+        showInfoMessage(tr("Done"));
+    else
+        showErrorMessage(tr("Failure"));
+    m_viewer->closeMessageGroup();
+}
+
+void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcFile)
+{
+    if (m_viewer == nullptr)
+        return;
+    switch (type) {
+    case eMsgInfo:
+        m_viewer->showInfoMessage(text, hlpDoc, srcFile);
+        break;
+    case eMsgWarning:
+        m_viewer->showWarningMessage(text, hlpDoc, srcFile);
+        break;
+    case eMsgError:
+        m_viewer->showErrorMessage(text, hlpDoc, srcFile);
+        break;
+    }
+}
+
+void ModMsg::showInfoMessage(QString text, QUrl hlpDoc, MsgUrl srcFile)
+{
+    showMessage(eMsgInfo, text, hlpDoc, srcFile);
+}
+
+void ModMsg::showWarningMessage(QString text, QUrl hlpDoc, MsgUrl srcFile)
+{
+    showMessage(eMsgWarning, text, hlpDoc, srcFile);
+}
+
+void ModMsg::showErrorMessage(QString text, QUrl hlpDoc, MsgUrl srcFile)
+{
+    showMessage(eMsgError, text, hlpDoc, srcFile);
+}
+
+void ModMsg::openMessageGroup(QString text)
+{
+    openMessageGroup(text, QUrl());
+}
+
+void ModMsg::showInfoMessage(QString text)
+{
+    showInfoMessage(text, QUrl(), MsgUrl());
+}
+
+void ModMsg::showInfoMessage(QString text, QUrl hlpDoc)
+{
+    showInfoMessage(text, hlpDoc, MsgUrl());
+}
+
+void ModMsg::showWarningMessage(QString text)
+{
+    showWarningMessage(text, QUrl(), MsgUrl());
+}
+
+void ModMsg::showWarningMessage(QString text, QUrl hlpDoc)
+{
+    showWarningMessage(text, hlpDoc, MsgUrl());
+}
+
+void ModMsg::showErrorMessage(QString text)
+{
+    showErrorMessage(text, QUrl(), MsgUrl());
+}
+
+void ModMsg::showErrorMessage(QString text, QUrl hlpDoc)
+{
+    showErrorMessage(text, hlpDoc, MsgUrl());
+}
+
+void ModMsg::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModMsgPluginIf>(modules, this);
+    registerPluginsOf<ModMsgPluginIfInterMod>(modules, this);
+}
+
+void ModMsg::modInit()
+{
+    if (m_viewer != nullptr)
+        return;
+    m_viewer = new MsgViewer;
+    connect(m_viewer, &MsgViewer::hlpUrlClicked, this, &ModMsg::showHlpUrl);
+    connect(m_viewer, &MsgViewer::srcUrlClicked, this, &ModMsg::showSrcUrl);
+}
+
+void ModMsg::modInitIntermod()
+{
+    if (modGuiHook != nullptr)
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_viewer, tr("Messages"));
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, QStringLiteral("msg"));
+}
+
+void ModMsg::showHlpUrl(QUrl url)
+{
+    if (!url.isEmpty())
+        m_hlpUrlHndlrs.forEach([&url](ModMsgPluginIfUrlHndlr* handler) { handler->handleUrl(url); });
+}
+
+void ModMsg::showSrcUrl(QUrl url)
+{
+    if (!url.isEmpty())
+        m_srcUrlHndlrs.forEach([&url](ModMsgPluginIfUrlHndlr* handler) { handler->handleUrl(url); });
+}
+
+} // namespace nsModMsg

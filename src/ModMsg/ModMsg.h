@@ -1,0 +1,83 @@
+#pragma once
+
+#include "ModGuiPluginIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPluginIf.h"
+#include "ModScriptPluginIf.h"
+#include "PluginList.h"
+
+#include <QObject>
+#include <QPointer>
+
+namespace nsModMsg {
+
+class MsgViewer;
+
+/// The message service: shows what the modules report in the view at the bottom of the window, and passes clicked links on.
+///
+/// Visible to scripts as "msg". Calls before modInit() show nothing.
+class ModMsg : public QObject,
+               public ModMsgHookIf,
+               public ModPluginIf,
+               public ModGuiPluginIf,
+               public ModScriptPluginIf
+{
+    Q_OBJECT
+
+public:
+    explicit ModMsg(QWidget* parent = nullptr);
+    ~ModMsg() override;
+
+    // ModMsgHookIf
+    void registerPlugin(ModMsgPluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModMsgPluginIfInterMod* plugin) override;
+    void registerPlugin(ModMsgPluginIf* plugin) override;
+    void unregisterPlugin(ModMsgPluginIf* plugin) override;
+    void registerPluginUrlHndlr(eUrlHndlr_t kind, ModMsgPluginIfUrlHndlr* handler) override;
+    void unregisterPluginUrlHndlr(eUrlHndlr_t kind, ModMsgPluginIfUrlHndlr* handler) override;
+    Q_INVOKABLE void clearMessages() override;
+    void openMessageGroup(QString text, QUrl hlpDoc) override;
+    Q_INVOKABLE void closeMessageGroup(bool success) override;
+    void showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcFile) override;
+    void showInfoMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
+    void showWarningMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
+    void showErrorMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
+
+    // What scripts call.
+    Q_INVOKABLE void openMessageGroup(QString text);
+    Q_INVOKABLE void showInfoMessage(QString text);
+    Q_INVOKABLE void showInfoMessage(QString text, QUrl hlpDoc);
+    Q_INVOKABLE void showWarningMessage(QString text);
+    Q_INVOKABLE void showWarningMessage(QString text, QUrl hlpDoc);
+    Q_INVOKABLE void showErrorMessage(QString text);
+    Q_INVOKABLE void showErrorMessage(QString text, QUrl hlpDoc);
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override {}
+    void modExit() override {}
+
+    // ModGuiPluginIf: the view stays where it is.
+    void removeWidgetRequest(QWidget*) override {}
+    void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
+
+private slots:
+    void showHlpUrl(QUrl url);
+    void showSrcUrl(QUrl url);
+
+private:
+    using UrlHndlrList = PluginList<ModMsgPluginIfUrlHndlr>;
+
+    UrlHndlrList* urlHndlrs(eUrlHndlr_t kind);
+
+    QPointer<MsgViewer> m_viewer; ///< in the bottom dock, which owns it; ours while it stands nowhere
+    PluginList<ModMsgPluginIf> m_plugins;
+    UrlHndlrList m_hlpUrlHndlrs;
+    UrlHndlrList m_srcUrlHndlrs;
+};
+
+} // namespace nsModMsg

@@ -1,0 +1,245 @@
+#include "MsgViewer.h"
+
+#include "MsgItemDelegate.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace nsModMsg {
+
+namespace {
+
+const char* const iconPaths[] = {
+    ":/ModMsg/img/msgOk.png",
+    ":/ModMsg/img/msgWarning.png",
+    ":/ModMsg/img/msgError.png",
+};
+
+/// An update that takes longer than this (milliseconds) is not made after every single message.
+const qint64 cheapUpdate = 4;
+/// Longest time (milliseconds) that the newest message can stay out of sight.
+const qint64 longestDelay = 100;
+
+} // namespace
+
+MsgViewer::MsgViewer(QWidget* parent)
+    : QTreeWidget(parent)
+{
+    setObjectName(QStringLiteral("msgViewer"));
+    setAlternatingRowColors(true);
+    setAnimated(true);
+    setUniformRowHeights(true);
+    setMouseTracking(true);
+    setItemDelegate(new MsgItemDelegate(this));
+    for (int grade = ModMsgHookIf::eMsgInfo; grade <= ModMsgHookIf::eMsgError; ++grade)
+        m_icons[grade] = QIcon(QLatin1String(iconPaths[grade]));
+    setupColumns();
+    resetGroups();
+
+    m_updateTimer.setSingleShot(true);
+    connect(&m_updateTimer, &QTimer::timeout, this, &MsgViewer::updateView);
+    connect(this, &QTreeWidget::itemClicked, this, &MsgViewer::handleClick);
+    connect(this, &QTreeWidget::itemExpanded, this, &MsgViewer::scheduleUpdate);
+    connect(this, &QTreeWidget::itemCollapsed, this, &MsgViewer::scheduleUpdate);
+    // Whoever empties the tree by the means of QTreeWidget leaves no pointer to a deleted item behind.
+    connect(model(), &QAbstractItemModel::modelReset, this, &MsgViewer::resetGroups);
+    connect(model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, &MsgViewer::dropNewest);
+}
+
+MsgViewer::~MsgViewer()
+{
+    // The model empties itself once more on its way out, when there is nothing left here to reset.
+    model()->disconnect(this);
+}
+
+void MsgViewer::setupColumns()
+{
+    setColumnCount(eColumnCount);
+    setHeaderLabels({tr("Message"), tr("Help link"), tr("Source link")});
+    header()->setMinimumSectionSize(fontMetrics().horizontalAdvance(QLatin1Char('x')) * 16);
+    header()->setSectionResizeMode(eColumnMessage, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(eColumnHelpLink, QHeaderView::ResizeToContents);
+    header()->setSectionResizeMode(eColumnSourceLink, QHeaderView::Stretch);
+    header()->setSectionsMovable(false);
+}
+
+void MsgViewer::resetGroups()
+{
+    m_groups.clear();
+    m_currentParent = invisibleRootItem();
+    m_newest = nullptr;
+}
+
+void MsgViewer::dropNewest(const QModelIndex&, int, int)
+{
+    // Nothing in here takes single items out; somebody else does, and we cannot tell which of our items go with them.
+    resetGroups();
+}
+
+QTreeWidgetItem* MsgViewer::makeItem(eMsgType_t grade, const QString& text, const QUrl& hlpDoc) const
+{
+    auto* item = new QTreeWidgetItem;
+    item->setText(eColumnMessage, text);
+    item->setIcon(eColumnMessage, m_icons[grade]);
+    if (!hlpDoc.isEmpty()) {
+        item->setText(eColumnHelpLink, tr("Show help page"));
+        item->setData(eColumnHelpLink, urlRole, hlpDoc);
+    }
+    return item;
+}
+
+void MsgViewer::openMessageGroup(const QString& text, const QUrl& hlpDoc)
+{
+    QTreeWidgetItem* item = makeItem(ModMsgHookIf::eMsgInfo, text, hlpDoc);
+    m_currentParent->addChild(item);
+    m_currentParent = item;
+    m_groups.insert(item, ModMsgHookIf::eMsgInfo);
+    m_newest = item;
+    scheduleUpdate();
+}
+
+bool MsgViewer::isCleanGroup(QTreeWidgetItem* item) const
+{
+    return m_groups.value(item, ModMsgHookIf::eMsgError) == ModMsgHookIf::eMsgInfo;
+}
+
+void MsgViewer::closeMessageGroup()
+{
+    for (QTreeWidgetItem* item = m_currentParent; item != nullptr && isCleanGroup(item); item = item->parent())
+        item->setExpanded(false);
+    m_groups.remove(m_currentParent);
+    QTreeWidgetItem* parent = m_currentParent->parent();
+    m_currentParent = parent != nullptr ? parent : invisibleRootItem();
+    scheduleUpdate();
+}
+
+void MsgViewer::showInfoMessage(const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile)
+{
+    showMessage(ModMsgHookIf::eMsgInfo, text, hlpDoc, srcFile);
+}
+
+void MsgViewer::showWarningMessage(const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile)
+{
+    raiseGroups(ModMsgHookIf::eMsgWarning);
+    showMessage(ModMsgHookIf::eMsgWarning, text, hlpDoc, srcFile);
+}
+
+void MsgViewer::showErrorMessage(const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile)
+{
+    raiseGroups(ModMsgHookIf::eMsgError);
+    showMessage(ModMsgHookIf::eMsgError, text, hlpDoc, srcFile);
+}
+
+void MsgViewer::raiseGroups(eMsgType_t grade)
+{
+    for (auto it = m_groups.begin(); it != m_groups.end(); ++it) {
+        if (it.value() >= grade)
+            continue;
+        it.value() = grade;
+        it.key()->setIcon(eColumnMessage, m_icons[grade]);
+        it.key()->setExpanded(true);
+    }
+}
+
+void MsgViewer::showMessage(eMsgType_t grade, const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile)
+{
+    QTreeWidgetItem* item = makeItem(grade, text, hlpDoc);
+    QString source = srcFile.displayName();
+    if (source.isEmpty() && !srcFile.isEmpty()) {
+        source = srcFile.path();
+        if (srcFile.hasFragment())
+            source += QStringLiteral("#%1").arg(srcFile.fragment());
+    }
+    if (!source.isEmpty()) {
+        item->setText(eColumnSourceLink, source);
+        item->setData(eColumnSourceLink, urlRole, static_cast<const QUrl&>(srcFile));
+    }
+    m_currentParent->addChild(item);
+    m_newest = item;
+    scheduleUpdate();
+    emit contentChanged(this);
+}
+
+void MsgViewer::clearMessages()
+{
+    if (m_currentParent != invisibleRootItem())
+        return;
+    clear();
+    setupColumns();
+    resetGroups();
+    viewport()->repaint();
+}
+
+void MsgViewer::scheduleUpdate()
+{
+    if (m_updateTimer.isActive())
+        return;
+    // A small tree is brought up to date at once; a big one gets room to work between two updates.
+    const qint64 delay = m_updateCost <= cheapUpdate ? 0 : qMin(4 * m_updateCost, longestDelay);
+    m_updateTimer.start(static_cast<int>(delay));
+}
+
+void MsgViewer::updateView()
+{
+    QElapsedTimer clock;
+    clock.start();
+    // The order matters: groups that open may need wider columns, and wider columns a scroll bar that takes the lowest row.
+    QTreeWidgetItem* target = m_newest != nullptr ? scrollTarget() : nullptr;
+    for (QTreeWidgetItem* group = target != nullptr ? target->parent() : nullptr; group != nullptr; group = group->parent())
+        group->setExpanded(true);
+    for (int column = 0; column < eColumnCount; ++column)
+        resizeColumnToContents(column);
+    if (target != nullptr)
+        scrollToItem(target);
+    m_newest = nullptr;
+    // Opening the groups on the way to the item asks for an update again, which this one has been.
+    m_updateTimer.stop();
+    m_updateCost = clock.elapsed();
+}
+
+QTreeWidgetItem* MsgViewer::scrollTarget() const
+{
+    // Scrolling opens what is folded on the way to the item. That is wanted for groups at work; one that has been closed and
+    // folded away stays folded, and its own line is what the user gets to see.
+    QTreeWidgetItem* target = m_newest;
+    for (QTreeWidgetItem* group = m_newest->parent(); group != nullptr; group = group->parent()) {
+        if (!group->isExpanded() && !m_groups.contains(group))
+            target = group;
+    }
+    return target;
+}
+
+void MsgViewer::handleClick(QTreeWidgetItem* item, int column)
+{
+    if (item == nullptr || column < 0 || column >= eColumnCount)
+        return;
+    const bool help = column == eColumnHelpLink;
+    const QUrl url = item->data(help ? eColumnHelpLink : eColumnSourceLink, urlRole).toUrl();
+    if (url.isEmpty())
+        return;
+    if (help)
+        emit hlpUrlClicked(url);
+    else
+        emit srcUrlClicked(url);
+}
+
+void MsgViewer::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        handleClick(currentItem(), currentColumn());
+        event->accept();
+        return;
+    }
+    QTreeWidget::keyPressEvent(event);
+}
+
+void MsgViewer::mouseMoveEvent(QMouseEvent* event)
+{
+    const QModelIndex index = indexAt(event->pos());
+    const bool link = index.isValid() && index.column() != eColumnMessage && !index.data(urlRole).toUrl().isEmpty();
+    viewport()->setCursor(link ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    QTreeWidget::mouseMoveEvent(event);
+}
+
+} // namespace nsModMsg

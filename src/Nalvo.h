@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ModulePhases.h"
+
+#include <QMainWindow>
+
+namespace nsModArgs {
+class ModArgs;
+}
+namespace nsModPrj {
+class ModPrj;
+}
+
+/// The main window: makes the modules, drives them through their phases, and hands over what the command line names.
+///
+/// Visible to scripts as "app". The modules are children of the window; it knows them by the module list alone, but for the two
+/// that the command line concerns.
+class Nalvo : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    /// Makes and starts all modules, shows the window, and opens the project that the command line names.
+    Nalvo(int argc, char** argv);
+
+    /// Ends the event loop at once: no exit phase runs, neither settings nor project are saved.
+    Q_INVOKABLE void exit();
+
+    /// The module list, in order.
+    const QList<ModPluginIf*>& modules() const { return m_phases.modules(); }
+
+    /// The menu that shows and hides tool bars; the docks have no part in it, as they cannot be closed.
+    QMenu* createPopupMenu() override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void makeModules();
+    void handleArgs();
+
+    ModulePhases m_phases;
+    nsModArgs::ModArgs* m_modArgs = nullptr;
+    nsModPrj::ModPrj* m_modPrj = nullptr;
+};

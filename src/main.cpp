@@ -1,0 +1,22 @@
+#include "Nalvo.h"
+#include "Release.h"
+
+#include <QApplication>
+
+#include <new>
+
+int main(int argc, char** argv)
+{
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    // Both live until the process ends.
+    static QApplication* const application = new (std::nothrow) QApplication(argc, argv);
+    if (application == nullptr)
+        return -1;
+    QApplication::setStyle(QStringLiteral("fusion"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+    static Nalvo* const window = new (std::nothrow) Nalvo(argc, argv);
+    if (window == nullptr)
+        return -1;
+    return QApplication::exec();
+}
