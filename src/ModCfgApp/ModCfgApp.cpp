@@ -1,0 +1,211 @@
+#include "ModCfgApp.h"
+
+#include "ModMsgHookIf.h"
+
+#include <QCoreApplication>
+#include <QSettings>
+#include <QVector>
+
+namespace nsModCfgApp {
+
+namespace {
+
+const QString rootName = QStringLiteral("app");
+
+} // namespace
+
+ModCfgApp::ModCfgApp(QObject* parent)
+    : CfgTree(parent)
+{
+    getNode(QStringList())->setName(rootName);
+}
+
+ModCfgApp::~ModCfgApp() = default;
+
+// --- file ---
+
+void ModCfgApp::loadAppConfig()
+{
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
+                       QCoreApplication::applicationName());
+    // Settings of the whole organisation or machine are none of this user's.
+    settings.setFallbacksEnabled(false);
+    for (const QString& key : settings.allKeys()) {
+        const QVariant stored = settings.value(key);
+        // A text with commas that was typed into the file without quotes arrives as a list.
+        const bool isList = stored.userType() == QMetaType::QStringList;
+        CfgTree::setValue(key, isList ? stored.toStringList().join(QLatin1String(", ")) : stored.toString());
+    }
+}
+
+void ModCfgApp::saveAppConfig()
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showInfoMessage(tr("Saving application configuation"));
+    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
+                       QCoreApplication::applicationName());
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    settings.clear();
+    CfgNode* root = getNode(QStringList());
+    for (CfgNode* child : root->childs())
+        saveAppCfgNode(child, &settings);
+    // An empty tree is written too, by the destructor.
+    if (root->hasChild())
+        settings.sync();
+}
+
+void ModCfgApp::saveAppCfgNode(CfgNode* top, QSettings* settings)
+{
+    struct Entry
+    {
+        CfgNode* node;
+        int pathLength; ///< of the parent's path
+    };
+    QString path;
+    QVector<Entry> open{{top, 0}};
+    while (!open.isEmpty()) {
+        const Entry entry = open.takeLast();
+        path.truncate(entry.pathLength);
+        path += entry.node->name();
+        if (!entry.node->value().isEmpty())
+            settings->setValue(path, entry.node->value());
+        path += QLatin1Char('/');
+        const QList<CfgNode*> childs = entry.node->childs();
+        for (int i = childs.size() - 1; i >= 0; --i)
+            open.append({childs.at(i), path.size()});
+    }
+}
+
+void ModCfgApp::distributeAppConfigToModules()
+{
+    m_plugins.forEach([](ModCfgAppPluginIf* plugin) { plugin->rdAppCfg(); });
+}
+
+void ModCfgApp::collectAppConfigFromModules()
+{
+    m_plugins.forEach([](ModCfgAppPluginIf* plugin) { plugin->wrAppCfg(); });
+}
+
+// --- clients ---
+
+void ModCfgApp::registerPlugin(ModCfgAppPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modCfgAppHook = this;
+}
+
+void ModCfgApp::unregisterPlugin(ModCfgAppPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modCfgAppHook = nullptr;
+}
+
+void ModCfgApp::registerPlugin(ModCfgAppPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modCfgAppHook = this;
+}
+
+void ModCfgApp::unregisterPlugin(ModCfgAppPluginIf* plugin)
+{
+    if (!m_plugins.contains(plugin))
+        return;
+    plugin->wrAppCfg();
+    m_plugins.remove(plugin);
+    plugin->modCfgAppHook = nullptr;
+}
+
+// --- settings ---
+
+QString ModCfgApp::value(QString key, QString dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModCfgApp::setValue(QString key, QString value)
+{
+    CfgTree::setValue(key, value);
+}
+
+int ModCfgApp::value(QString key, int dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModCfgApp::setValue(QString key, int value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QStringList ModCfgApp::value(QString key, QStringList dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModCfgApp::setValue(QString key, QStringList value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QColor ModCfgApp::value(QString key, QColor dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModCfgApp::setValue(QString key, QColor value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QDate ModCfgApp::value(QString key, QDate dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModCfgApp::setValue(QString key, QDate value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QFont ModCfgApp::font(QString key, QFont dflt)
+{
+    return CfgTree::font(key, dflt);
+}
+
+void ModCfgApp::setFont(QString key, QFont value)
+{
+    CfgTree::setFont(key, value);
+}
+
+// --- life cycle ---
+
+void ModCfgApp::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModCfgAppPluginIf>(modules, this);
+    registerPluginsOf<ModCfgAppPluginIfInterMod>(modules, this);
+}
+
+void ModCfgApp::modInit() {}
+
+void ModCfgApp::modInitIntermod()
+{
+    loadAppConfig();
+    distributeAppConfigToModules();
+}
+
+void ModCfgApp::modRun() {}
+
+bool ModCfgApp::modExitRequest()
+{
+    return true;
+}
+
+void ModCfgApp::modExitIntermod()
+{
+    collectAppConfigFromModules();
+    saveAppConfig();
+}
+
+void ModCfgApp::modExit() {}
+
+} // namespace nsModCfgApp

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "CfgTree.h"
+#include "ModCfgAppHookIf.h"
+#include "ModCfgAppPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "PluginList.h"
+
+class QSettings;
+
+namespace nsModCfgApp {
+
+/// The settings of one user, kept from one run of the program to the next in an ini file that is named by the
+/// application's organisation and name.
+///
+/// The file is replaced in one step, so it always holds the old or the new settings. Nothing is reported when it can
+/// not be read or written.
+class ModCfgApp : public CfgTree, public ModCfgAppHookIf, public ModPluginIf, public ModMsgPluginIfInterMod
+{
+    Q_OBJECT
+
+public:
+    explicit ModCfgApp(QObject* parent = nullptr);
+    ~ModCfgApp() override;
+
+    /// Reads the file into the tree.
+    void loadAppConfig();
+    /// Tells all clients to take their settings.
+    void distributeAppConfigToModules();
+    /// Tells all clients to put their settings into the tree.
+    void collectAppConfigFromModules();
+
+    // ModCfgAppHookIf
+    void registerPlugin(ModCfgAppPluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModCfgAppPluginIfInterMod* plugin) override;
+    void registerPlugin(ModCfgAppPluginIf* plugin) override;
+    void unregisterPlugin(ModCfgAppPluginIf* plugin) override;
+    /// A key with an empty value is not stored: its default returns at the next start.
+    void saveAppConfig() override;
+    QString value(QString key, QString dflt) override;
+    void setValue(QString key, QString value) override;
+    int value(QString key, int dflt) override;
+    void setValue(QString key, int value) override;
+    QStringList value(QString key, QStringList dflt) override;
+    void setValue(QString key, QStringList value) override;
+    QColor value(QString key, QColor dflt) override;
+    void setValue(QString key, QColor value) override;
+    QDate value(QString key, QDate dflt) override;
+    void setValue(QString key, QDate value) override;
+    QFont font(QString key, QFont dflt) override;
+    void setFont(QString key, QFont value) override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override;
+    bool modExitRequest() override;
+    void modExitIntermod() override;
+    void modExit() override;
+
+private:
+    static void saveAppCfgNode(CfgNode* top, QSettings* settings);
+
+    PluginList<ModCfgAppPluginIf> m_plugins;
+};
+
+} // namespace nsModCfgApp

@@ -1,0 +1,483 @@
+#include "ModPrj.h"
+
+#include "PrjFile.h"
+
+#include "ModActionHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModScriptHookIf.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QFileInfo>
+
+namespace nsModPrj {
+
+namespace {
+
+const QString keyTitle = QStringLiteral("PrjInfo/title");
+const QString keyVersion = QStringLiteral("PrjInfo/version");
+const QString keyComment = QStringLiteral("PrjInfo/comment");
+
+/// Are both names of the same file? Links count as what they lead to.
+bool isSameFile(const QString& a, const QString& b)
+{
+    const QFileInfo infoA(a);
+    const QFileInfo infoB(b);
+    return infoA.exists() && infoB.exists() && infoA.canonicalFilePath() == infoB.canonicalFilePath();
+}
+
+} // namespace
+
+ModPrj::ModPrj(QObject* parent)
+    : CfgTree(parent)
+{
+}
+
+ModPrj::~ModPrj() = default;
+
+// --- files ---
+
+bool ModPrj::readPrjFile(CfgTree* tree, QString file)
+{
+    QString message;
+    if (PrjFile::read(tree, file, &message))
+        return true;
+    error(message);
+    return false;
+}
+
+bool ModPrj::savePrjFile(CfgTree* tree, QString file)
+{
+    QString message;
+    QStringList dropped;
+    const bool success = PrjFile::write(tree, file, &dropped, &message);
+    for (const QString& key : dropped)
+        warning(tr("Project setting can not be saved: ") + key);
+    if (!success)
+        error(message);
+    return success;
+}
+
+void ModPrj::rdPrjInfo(CfgTree* tree, PrjConfig* config)
+{
+    config->cfgTitle = tree->value(keyTitle, QString());
+    config->cfgVersion = tree->value(keyVersion, QString());
+    config->cfgComment = tree->value(keyComment, QString());
+}
+
+void ModPrj::wrPrjInfo(CfgTree* tree, const PrjConfig& config)
+{
+    tree->setValue(keyTitle, config.cfgTitle);
+    tree->setValue(keyVersion, config.cfgVersion);
+    tree->setValue(keyComment, config.cfgComment);
+}
+
+// --- open, save, close ---
+
+bool ModPrj::openPrj(QString file)
+{
+    if (m_closing)
+        return false;
+    if (isValid())
+        closePrj();
+    // A file that broke off left its first part behind.
+    CfgTree::clear();
+    if (!readPrjFile(this, file))
+        return false;
+    m_path = QFileInfo(file).absoluteFilePath();
+    const int serial = ++m_openCount;
+    const auto isOpen = [this, serial] { return isValid() && m_openCount == serial; };
+    info(tr("Open project: ") + file);
+    rdPrjInfo(this, this);
+    // A client may close the project, or open another one; the clients behind it then have nothing to read.
+    m_plugins.forEach([&](ModPrjPluginIf* plugin) {
+        if (isOpen())
+            plugin->prjOpen();
+    });
+    m_plugins.forEach([&](ModPrjPluginIf* plugin) {
+        if (isOpen())
+            plugin->prjOpened();
+    });
+    if (!isOpen())
+        return false;
+    updateCloseAction();
+    setWindowTitle();
+    info(tr("Open project: Done"));
+    return true;
+}
+
+void ModPrj::savePrjCfg()
+{
+    if (!isValid()) {
+        error(tr("No project file set."));
+        return;
+    }
+    // A client that saves from within prjSave() is served by the save that is under way.
+    if (m_saving)
+        return;
+    m_saving = true;
+    info(tr("Saving project configuration"));
+    wrPrjInfo(this, *this);
+    m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjSave(); });
+    savePrjFile(this, m_path);
+    m_saving = false;
+}
+
+bool ModPrj::closePrj()
+{
+    if (m_closing || m_saving)
+        return false;
+    if (!isValid()) {
+        error(tr("No project to close!"));
+        return false;
+    }
+    m_closing = true;
+    if (modGuiHook != nullptr) {
+        savePrjCfg();
+        modGuiHook->setWindowTitle(QString());
+    }
+    m_path.clear();
+    CfgTree::clear();
+    updateCloseAction();
+    m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjClose(); });
+    m_closing = false;
+    info(tr("Close project: Done"));
+    return true;
+}
+
+bool ModPrj::newPrj(QString file)
+{
+    // Closing writes the present project into its file, so this has to come before the new content.
+    if (isValid() && isSameFile(file, m_path))
+        closePrj();
+    CfgTree tree;
+    PrjConfig config;
+    config.cfgTitle = QFileInfo(file).completeBaseName();
+    tree.setValue(keyTitle, config.cfgTitle);
+    tree.setValue(keyVersion, config.cfgVersion);
+    return savePrjFile(&tree, file) && openPrj(file);
+}
+
+bool ModPrj::open(QString file)
+{
+    return openPrj(file);
+}
+
+void ModPrj::close()
+{
+    closePrj();
+}
+
+// --- clients ---
+
+void ModPrj::registerPlugin(ModPrjPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modPrjHook = this;
+}
+
+void ModPrj::unregisterPlugin(ModPrjPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modPrjHook = nullptr;
+}
+
+void ModPrj::registerPlugin(ModPrjPluginIf* plugin)
+{
+    if (!m_plugins.add(plugin))
+        return;
+    plugin->modPrjHook = this;
+    if (isValid())
+        plugin->prjOpen();
+    if (isValid() && m_plugins.contains(plugin))
+        plugin->prjOpened();
+}
+
+void ModPrj::unregisterPlugin(ModPrjPluginIf* plugin)
+{
+    if (!m_plugins.contains(plugin))
+        return;
+    if (isValid()) {
+        plugin->prjSave();
+        plugin->prjClose();
+    }
+    m_plugins.remove(plugin);
+    plugin->modPrjHook = nullptr;
+}
+
+// --- settings ---
+
+bool ModPrj::isValid()
+{
+    return !m_path.isEmpty();
+}
+
+QString ModPrj::value(QString key, QString dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModPrj::setValue(QString key, QString value)
+{
+    CfgTree::setValue(key, value);
+}
+
+int ModPrj::value(QString key, int dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModPrj::setValue(QString key, int value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QStringList ModPrj::value(QString key, QStringList dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModPrj::setValue(QString key, QStringList value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QColor ModPrj::value(QString key, QColor dflt)
+{
+    return CfgTree::value(key, dflt);
+}
+
+void ModPrj::setValue(QString key, QColor value)
+{
+    CfgTree::setValue(key, value);
+}
+
+QFont ModPrj::font(QString key, QFont dflt)
+{
+    return CfgTree::font(key, dflt);
+}
+
+void ModPrj::setFont(QString key, QFont value)
+{
+    CfgTree::setFont(key, value);
+}
+
+// --- place and name ---
+
+QDir ModPrj::prjDir()
+{
+    return isValid() ? QFileInfo(m_path).dir() : QDir(QLatin1String(""));
+}
+
+QString ModPrj::prjFileName()
+{
+    return isValid() ? QFileInfo(m_path).fileName() : QString();
+}
+
+QString ModPrj::convToRelPath(QString path)
+{
+    return isValid() ? prjDir().relativeFilePath(path) : path;
+}
+
+void ModPrj::convToRelPath(QString* path)
+{
+    if (path != nullptr)
+        *path = convToRelPath(*path);
+}
+
+QString ModPrj::convToAbsPath(QString path)
+{
+    return isValid() ? prjDir().absoluteFilePath(path) : path;
+}
+
+void ModPrj::convToAbsPath(QString* path)
+{
+    if (path != nullptr)
+        *path = convToAbsPath(*path);
+}
+
+QString ModPrj::prjTitle()
+{
+    return cfgTitle;
+}
+
+QString ModPrj::prjVersion()
+{
+    return cfgVersion;
+}
+
+QString ModPrj::prjComment()
+{
+    return cfgComment;
+}
+
+// --- life cycle ---
+
+void ModPrj::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModPrjPluginIf>(modules, this);
+    registerPluginsOf<ModPrjPluginIfInterMod>(modules, this);
+}
+
+void ModPrj::modInit()
+{
+    // Actions belong to menus; a batch program has neither.
+    if (modActionHook == nullptr)
+        return;
+    m_actions = new PrjActions(this);
+    connect(m_actions, QOverload<PrjActions::eAction_t>::of(&PrjActions::triggered), this, &ModPrj::hndlAction);
+    updateCloseAction();
+}
+
+void ModPrj::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, QStringLiteral("project"));
+}
+
+void ModPrj::modRun() {}
+
+bool ModPrj::modExitRequest()
+{
+    return true;
+}
+
+void ModPrj::modExitIntermod() {}
+
+void ModPrj::modExit()
+{
+    if (isValid())
+        closePrj();
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+void ModPrj::rdAppCfg() {}
+
+void ModPrj::wrAppCfg() {}
+
+void ModPrj::removeWidgetRequest(QWidget*) {}
+
+void ModPrj::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) {}
+
+// --- settings dialog: while it is open, the project can not be changed ---
+
+nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(false);
+    return nullptr;
+}
+
+void ModPrj::configPageClose(bool accepted)
+{
+    if (accepted)
+        setWindowTitle();
+}
+
+void ModPrj::configPagesClosed(bool)
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(true);
+    updateCloseAction();
+}
+
+// --- actions ---
+
+QList<QAction*> ModPrj::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    if (m_actions == nullptr || actionClass != ModActionHookIf::eActionClassConfiguration)
+        return {};
+    return m_actions->menuActions();
+}
+
+QList<QAction*> ModPrj::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    if (m_actions == nullptr || actionClass != ModActionHookIf::eActionClassConfiguration)
+        return {};
+    return m_actions->toolBarActions();
+}
+
+void ModPrj::hndlAction(PrjActions::eAction_t action)
+{
+    switch (action) {
+    case PrjActions::eActionNew:
+        askForNewPrj();
+        break;
+    case PrjActions::eActionOpen:
+        askForPrj();
+        break;
+    case PrjActions::eActionClose:
+        closePrj();
+        break;
+    }
+}
+
+void ModPrj::askForNewPrj()
+{
+    if (modGuiHook == nullptr)
+        return;
+    QFileDialog dialog(QApplication::activeWindow(), tr("New project file"));
+    setupFileDialog(&dialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        newPrj(dialog.selectedFiles().constFirst());
+}
+
+void ModPrj::askForPrj()
+{
+    if (modGuiHook == nullptr)
+        return;
+    QFileDialog dialog(QApplication::activeWindow(), tr("Select project file to open"));
+    setupFileDialog(&dialog);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
+        openPrj(dialog.selectedFiles().constFirst());
+}
+
+void ModPrj::setupFileDialog(QFileDialog* dialog)
+{
+    dialog->setNameFilters({tr("Nalvo project files(*.nalvo)"), tr("Any files(*)")});
+    dialog->setDefaultSuffix(QStringLiteral("nalvo"));
+    if (isValid())
+        dialog->setDirectory(prjDir());
+}
+
+// --- reports ---
+
+void ModPrj::setWindowTitle()
+{
+    if (!isValid() || modGuiHook == nullptr)
+        return;
+    modGuiHook->setWindowTitle(convToRelPath(m_path) + tr(" ( Title: ") + cfgTitle + tr(", Project version: ") +
+                               cfgVersion + QLatin1Char(')'));
+}
+
+void ModPrj::updateCloseAction()
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(PrjActions::eActionClose, isValid());
+}
+
+void ModPrj::info(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showInfoMessage(text);
+}
+
+void ModPrj::warning(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showWarningMessage(text);
+}
+
+void ModPrj::error(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showErrorMessage(text);
+}
+
+} // namespace nsModPrj

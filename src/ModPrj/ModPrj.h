@@ -1,0 +1,143 @@
+#pragma once
+
+#include "CfgTree.h"
+#include "ModActionPluginIf.h"
+#include "ModCfgAppPluginIf.h"
+#include "ModConfigPluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModHlpPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjHookIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
+#include "PluginList.h"
+#include "PrjActions.h"
+#include "PrjConfig.h"
+
+class QFileDialog;
+
+namespace nsModPrj {
+
+/// The open project. The module's own tree holds the project's settings; clients read and write their keys in it.
+///
+/// A project is open exactly while the path of its file is not empty. Closing saves, without a question. Sections of
+/// the file that no client knows stay in the tree and are written back.
+///
+/// In a program without a main window (no ModGuiHookIf) nothing is written unless savePrjCfg() is called: closing drops
+/// the project.
+class ModPrj : public CfgTree,
+               public ModPrjHookIf,
+               public ModPluginIf,
+               public ModCfgAppPluginIf,
+               public ModMsgPluginIf,
+               public ModGuiPluginIf,
+               public ModHlpPluginIf,
+               public ModConfigPluginIfDflt,
+               public ModActionPluginIf,
+               public ModScriptPluginIf,
+               public PrjConfig
+{
+    Q_OBJECT
+
+public:
+    explicit ModPrj(QObject* parent = nullptr);
+    ~ModPrj() override;
+
+    /// Closes the open project, then opens the file.
+    /// @return false: the file can not be read, which was reported; no project is open then
+    bool openPrj(QString file);
+    /// Saves and closes the project.
+    /// @return false: there is none, which was reported
+    bool closePrj();
+    /// Creates a project file that holds only a title, made of the file's name, and a version, and opens it.
+    /// @return false: the file can not be written, which was reported; the present project then stays open
+    bool newPrj(QString file);
+
+    /// Reads a project file into a tree and reports what is wrong with it.
+    bool readPrjFile(CfgTree* tree, QString file);
+    /// Writes a tree as a project file and reports what is wrong.
+    bool savePrjFile(CfgTree* tree, QString file);
+    /// Takes title, version and comment out of the tree; a missing one becomes a null string.
+    static void rdPrjInfo(CfgTree* tree, PrjConfig* config);
+    static void wrPrjInfo(CfgTree* tree, const PrjConfig& config);
+
+    /// The same as openPrj() and closePrj(), for scripts.
+    Q_INVOKABLE bool open(QString file);
+    Q_INVOKABLE void close();
+
+    // ModPrjHookIf
+    void registerPlugin(ModPrjPluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModPrjPluginIfInterMod* plugin) override;
+    void registerPlugin(ModPrjPluginIf* plugin) override;
+    void unregisterPlugin(ModPrjPluginIf* plugin) override;
+    bool isValid() override;
+    void savePrjCfg() override;
+    QString value(QString key, QString dflt) override;
+    void setValue(QString key, QString value) override;
+    int value(QString key, int dflt) override;
+    void setValue(QString key, int value) override;
+    QStringList value(QString key, QStringList dflt) override;
+    void setValue(QString key, QStringList value) override;
+    QColor value(QString key, QColor dflt) override;
+    void setValue(QString key, QColor value) override;
+    QFont font(QString key, QFont dflt) override;
+    void setFont(QString key, QFont value) override;
+    QDir prjDir() override;
+    QString prjFileName() override;
+    QString convToRelPath(QString path) override;
+    void convToRelPath(QString* path) override;
+    QString convToAbsPath(QString path) override;
+    void convToAbsPath(QString* path) override;
+    QString prjTitle() override;
+    QString prjVersion() override;
+    QString prjComment() override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override;
+    bool modExitRequest() override;
+    void modExitIntermod() override;
+    void modExit() override;
+
+    // ModCfgAppPluginIf
+    void rdAppCfg() override;
+    void wrAppCfg() override;
+
+    // ModGuiPluginIf
+    void removeWidgetRequest(QWidget* widget) override;
+    void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
+
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageClose(bool accepted) override;
+    void configPagesClosed(bool accepted) override;
+
+    // ModActionPluginIf
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
+    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
+
+public slots:
+    void hndlAction(nsModPrj::PrjActions::eAction_t action);
+
+private:
+    void setWindowTitle();
+    void updateCloseAction();
+    void askForNewPrj();
+    void askForPrj();
+    void setupFileDialog(QFileDialog* dialog);
+    void info(const QString& text);
+    void warning(const QString& text);
+    void error(const QString& text);
+
+    QString m_path;      ///< absolute path of the project file; empty: no project is open
+    int m_openCount = 0; ///< number of projects opened so far: tells whether the project is still the same one
+    bool m_saving = false;
+    bool m_closing = false;
+    PrjActions* m_actions = nullptr; ///< null in a program without menus
+    PluginList<ModPrjPluginIf> m_plugins;
+};
+
+} // namespace nsModPrj

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QByteArray>
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+
+class CfgTree;
+
+namespace nsModPrj {
+
+/// The project file: a configuration tree as XML, one element a node.
+///
+/// A node without children is an element with the node's escaped value and without attributes; a node with children is
+/// an element with the node's attributes and without its value. Nothing here knows what the nodes mean.
+class PrjFile
+{
+    Q_DECLARE_TR_FUNCTIONS(nsModPrj::PrjFile)
+
+public:
+    static constexpr qint64 maxBytes = 32 * 1024 * 1024; ///< size of a file that is still read and written
+    static constexpr int maxNodes = 500000;              ///< number of elements and attributes
+    static constexpr int maxDepth = 1000;                ///< levels of elements below the root
+    static constexpr int maxAttributes = 1000;           ///< attributes of one element
+
+    /// Reads a file into the tree, behind what the tree already holds.
+    /// @param error the message for the user, when the result is false; the tree then holds what came before the error
+    static bool read(CfgTree* tree, const QString& path, QString* error);
+
+    /// Writes the tree. The file is replaced in one step: it always holds the old or the new text, whole. A symbolic
+    /// link stays.
+    /// @param dropped keys of nodes that the format can not carry and that were left out, may be null
+    /// @param error the message for the user, when the result is false; the old file is then untouched
+    static bool write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error);
+
+    /// The text of the file for a tree; empty when the tree has more than maxNodes.
+    /// @param dropped as in write()
+    static QByteArray format(CfgTree* tree, QStringList* dropped);
+
+    /// Reads a text into the tree.
+    /// @return false: the text is no well-formed XML, or it is beyond the limits above
+    static bool parse(CfgTree* tree, const QByteArray& text);
+
+    /// The escaping of values below that of XML, which the format has beside it.
+    static QString escape(QString value);
+    static QString unescape(QString text);
+};
+
+} // namespace nsModPrj

@@ -1,0 +1,175 @@
+#include "ModSources.h"
+
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QMessageBox>
+
+namespace nsModSources {
+
+namespace {
+
+const QString keySrcFiles = QStringLiteral("sources/srcFiles");
+
+} // namespace
+
+ModSources::ModSources(QObject* parent)
+    : QObject(parent)
+{
+}
+
+ModSources::~ModSources() = default;
+
+// --- clients ---
+
+void ModSources::registerPlugin(ModSourcesPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modSourcesHook = this;
+}
+
+void ModSources::unregisterPlugin(ModSourcesPluginIf* plugin)
+{
+    if (m_plugins.remove(plugin))
+        plugin->modSourcesHook = nullptr;
+}
+
+// --- the list ---
+
+QStringList ModSources::files()
+{
+    return srcFiles;
+}
+
+void ModSources::setFileContentChanged()
+{
+    m_plugins.forEach([](ModSourcesPluginIf* plugin) { plugin->srcFileContentChanged(); });
+}
+
+void ModSources::setFilesListChanged()
+{
+    m_plugins.forEach([](ModSourcesPluginIf* plugin) { plugin->srcFileListChanged(); });
+}
+
+void ModSources::addFile(QString path)
+{
+    if (srcFiles.contains(path))
+        return;
+    srcFiles.append(path);
+    if (modMsgHook != nullptr)
+        modMsgHook->showInfoMessage(tr("Added file to the project: ") + path);
+    setFilesListChanged();
+}
+
+void ModSources::removeFile(QString path)
+{
+    if (srcFiles.removeOne(path))
+        setFilesListChanged();
+}
+
+bool ModSources::chkProjectMembership(QString path)
+{
+    const bool listed = srcFiles.contains(path);
+    if (listed || path.isEmpty())
+        return listed;
+    if (!askToAdd(path))
+        return false;
+    addFile(path);
+    return true;
+}
+
+bool ModSources::askToAdd(const QString& path)
+{
+    // A program without windows has nobody to ask.
+    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
+        return false;
+    const QString shown = modPrjHook != nullptr ? modPrjHook->convToRelPath(path) : path;
+    const QString text = QLatin1String("<p>") + tr("The file is not added to the project:") + QLatin1String("</p>") +
+                         QLatin1String("<p><b>") + shown.toHtmlEscaped() + QLatin1String("</b><p>") +
+                         QLatin1String("<p>") + tr("Do you want to add the file to the project?") +
+                         QLatin1String("</p>");
+    return QMessageBox::warning(QApplication::activeWindow(), tr("Add file to project"), text,
+                                QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+}
+
+// --- project ---
+
+void ModSources::prjOpen()
+{
+    srcFiles.clear();
+    if (modPrjHook == nullptr)
+        return;
+    for (const QString& entry : modPrjHook->value(keySrcFiles, QStringList())) {
+        const QString path = modPrjHook->convToAbsPath(entry);
+        const QFileInfo info(path);
+        if (!info.exists()) {
+            if (modMsgHook != nullptr)
+                modMsgHook->showErrorMessage(tr("File does not exist: ") + path);
+            continue;
+        }
+        if (modMsgHook != nullptr && !info.isReadable())
+            modMsgHook->showWarningMessage(tr("No read access for file: ") + path);
+        if (modMsgHook != nullptr && !info.isWritable())
+            modMsgHook->showWarningMessage(tr("File is not writable: ") + path);
+        srcFiles.append(path);
+    }
+}
+
+void ModSources::prjOpened()
+{
+    setFilesListChanged();
+}
+
+void ModSources::prjSave()
+{
+    if (modPrjHook == nullptr)
+        return;
+    QStringList list;
+    for (const QString& path : srcFiles)
+        list.append(modPrjHook->convToRelPath(path));
+    modPrjHook->setValue(keySrcFiles, list);
+}
+
+void ModSources::prjClose()
+{
+    srcFiles.clear();
+}
+
+// --- life cycle ---
+
+void ModSources::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModSourcesPluginIf>(modules, this);
+}
+
+void ModSources::modInit() {}
+
+void ModSources::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, QStringLiteral("sources"));
+}
+
+void ModSources::modRun() {}
+
+bool ModSources::modExitRequest()
+{
+    return true;
+}
+
+void ModSources::modExitIntermod() {}
+
+void ModSources::modExit() {}
+
+// --- settings dialog ---
+
+void ModSources::configPagesClosed(bool accepted)
+{
+    if (accepted && modPrjHook != nullptr && modPrjHook->isValid())
+        setFilesListChanged();
+}
+
+} // namespace nsModSources

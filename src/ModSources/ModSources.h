@@ -1,0 +1,72 @@
+#pragma once
+
+#include "ModConfigPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
+#include "ModSourcesHookIf.h"
+#include "ModSourcesPluginIf.h"
+#include "PluginList.h"
+#include "SourcesConfig.h"
+
+#include <QObject>
+
+namespace nsModSources {
+
+/// The ordered list of the project's sources; the assembler reads them in this order as one program.
+class ModSources : public QObject,
+                   public ModSourcesHookIf,
+                   public ModPluginIf,
+                   public ModPrjPluginIf,
+                   public ModMsgPluginIf,
+                   public ModConfigPluginIfDflt,
+                   public ModScriptPluginIf,
+                   public SourcesConfig
+{
+    Q_OBJECT
+
+public:
+    explicit ModSources(QObject* parent = nullptr);
+    ~ModSources() override;
+
+    // ModSourcesHookIf
+    void registerPlugin(ModSourcesPluginIf* plugin) override;
+    void unregisterPlugin(ModSourcesPluginIf* plugin) override;
+    bool chkProjectMembership(QString path) override;
+    QStringList files() override;
+    void setFileContentChanged() override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override;
+    bool modExitRequest() override;
+    void modExitIntermod() override;
+    void modExit() override;
+
+    // ModPrjPluginIf
+    void prjOpen() override;
+    void prjOpened() override;
+    void prjSave() override;
+    void prjClose() override;
+
+    // ModConfigPluginIf
+    void configPagesClosed(bool accepted) override;
+
+protected:
+    /// Appends a file and tells the clients; a known one does nothing.
+    /// @param path absolute path
+    void addFile(QString path);
+    /// Takes a file out and tells the clients; an unknown one does nothing.
+    void removeFile(QString path);
+
+private:
+    void setFilesListChanged();
+    bool askToAdd(const QString& path);
+
+    PluginList<ModSourcesPluginIf> m_plugins;
+};
+
+} // namespace nsModSources
