@@ -17,7 +17,7 @@ namespace {
 const QLatin1String rootName("project");
 const QLatin1String versionAttribute("version");
 const QLatin1String fileVersion("3");
-const QLatin1String declaration("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n");
+const QLatin1String declaration("<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>");
 
 const int maxDtd = 16 * 1024; // characters; no project file needs one
 
@@ -83,6 +83,7 @@ public:
 
     QByteArray run(CfgNode* root)
     {
+        // The writer ends the line of the declaration.
         m_writer.writeStartElement(rootName);
         m_writer.writeAttribute(versionAttribute, fileVersion);
         m_open.append({root, root->childs(), 0});
