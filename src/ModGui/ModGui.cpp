@@ -326,11 +326,13 @@ void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
     ModGuiPluginIf* owner = data != nullptr ? data->plugin : nullptr;
     showStoredStatusText(widget);
     const eLocation_t location = locationOf(widget);
+    // Each client that is told may do anything with the widget and its owner.
+    const QPointer<QWidget> alive(widget);
+    const bool any = widget != nullptr;
     m_plugins.forEach([&](ModGuiPluginIf* plugin) {
-        if (plugin != owner)
+        if (plugin != owner && !(any && alive.isNull()))
             plugin->setFocus(location, owner, widget);
     });
-    // The others may have done anything with the widget and its owner meanwhile.
     data = m_widgets.value(widget);
     if (owner != nullptr && data != nullptr && data->plugin == owner)
         owner->setFocus(location, owner, widget);
