@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
@@ -321,11 +322,14 @@ TEST_F(ModCfgAppTest, KilledWhileSavingTheFileIsWhole)
 {
     int last = 0;
     int progress = 0;
-    for (int round = 0; round < 40; ++round) {
+    QElapsedTimer clock;
+    clock.start();
+    // On a slow disk a child may be killed before its first save, so some more of them have their chance.
+    for (int round = 0; round < 40 || (progress < 10 && clock.elapsed() < 30000); ++round) {
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0)
-            saveForEver(1000 * (round + 1));
+            saveForEver(last + 1);
         usleep(5000 + 733 * round % 20000);
         ASSERT_EQ(kill(child, SIGKILL), 0);
         int status = 0;
@@ -340,8 +344,7 @@ TEST_F(ModCfgAppTest, KilledWhileSavingTheFileIsWhole)
         progress += number != last ? 1 : 0;
         last = number;
     }
-    // The children have really been at work.
-    EXPECT_GT(progress, 3);
+    EXPECT_GE(progress, 10);
 }
 
 } // namespace
