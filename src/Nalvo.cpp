@@ -1,27 +1,21 @@
 #include "Nalvo.h"
 
 #include "ModAction.h"
+#include "ModArgs.h"
+#include "ModCfgApp.h"
 #include "ModGui.h"
 #include "ModMsg.h"
+#include "ModPrj.h"
+#include "ModSources.h"
 
-#if __has_include("ModArgs.h")
-#include "ModArgs.h"
-#endif
 #if __has_include("ModAsmFe.h")
 #include "ModAsmFe.h"
-#endif
-#if __has_include("ModCfgApp.h")
-#include "ModCfgApp.h"
-#endif
-#if __has_include("ModPrj.h")
-#include "ModPrj.h"
 #endif
 #if __has_include("ModProcessor.h")
 #include "ModProcessor.h"
 #endif
-#if __has_include("ModSources.h")
-#include "ModSources.h"
-#endif
+
+#include "ModMsgHookIf.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -54,20 +48,14 @@ Nalvo::Nalvo(int, char**)
 
 void Nalvo::makeModules()
 {
-    // The order of creation and that of the list differ: settings, for one, are read at the place of ModCfgApp in the list.
-#if __has_include("ModArgs.h")
+    // These two are also called by their classes, for what the command line names. The order of creation differs from that of the
+    // list: the settings, for one, are read at the place of ModCfgApp in the list.
     m_modArgs = new nsModArgs::ModArgs(this);
-#endif
-#if __has_include("ModPrj.h")
     m_modPrj = new nsModPrj::ModPrj(this);
-#endif
+
     m_phases.append(new nsModMsg::ModMsg(this));
-#if __has_include("ModPrj.h")
     m_phases.append(m_modPrj);
-#endif
-#if __has_include("ModSources.h")
     m_phases.append(new nsModSources::ModSources(this));
-#endif
 #if __has_include("ModProcessor.h")
     m_phases.append(new nsModProcessor::ModProcessor(this));
 #endif
@@ -75,17 +63,21 @@ void Nalvo::makeModules()
     m_phases.append(new nsModAsmFe::ModAsmFe(this));
 #endif
     m_phases.append(new nsModAction::ModAction(this));
-#if __has_include("ModArgs.h")
     m_phases.append(m_modArgs);
-#endif
-#if __has_include("ModCfgApp.h")
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
-#endif
     m_phases.append(new nsModGui::ModGui(this));
 }
 
 void Nalvo::handleArgs()
 {
+    if (m_modArgs->hasError())
+        return;
+    const QString project = m_modArgs->prjFile();
+    if (!project.isEmpty() && !m_modPrj->open(project))
+        return;
+    const QString script = m_modArgs->scriptFile();
+    if (!script.isEmpty() && m_modArgs->modMsgHook != nullptr)
+        m_modArgs->modMsgHook->showErrorMessage(tr("This release can not run scripts: %1").arg(script));
 }
 
 void Nalvo::exit()

@@ -17,9 +17,9 @@ const char* const iconPaths[] = {
 };
 
 /// An update that takes longer than this (milliseconds) is not made after every single message.
-const qint64 cheapUpdate = 4;
+const qint64 cheapUpdate = 30;
 /// Longest time (milliseconds) that the newest message can stay out of sight.
-const qint64 longestDelay = 100;
+const qint64 longestDelay = 150;
 
 } // namespace
 
@@ -176,7 +176,7 @@ void MsgViewer::scheduleUpdate()
     if (m_updateTimer.isActive())
         return;
     // A small tree is brought up to date at once; a big one gets room to work between two updates.
-    const qint64 delay = m_updateCost <= cheapUpdate ? 0 : qMin(4 * m_updateCost, longestDelay);
+    const qint64 delay = m_updateCost <= cheapUpdate ? 0 : qMin(2 * m_updateCost, longestDelay);
     m_updateTimer.start(static_cast<int>(delay));
 }
 

@@ -210,9 +210,10 @@ TEST_F(MsgTest, NewestMessageIsInSightAndColumnsFitWhenControlReturns)
     QCoreApplication::processEvents();
     for (int i = 0; i < 300; ++i)
         hook->showInfoMessage(QString("message number %1").arg(i));
-    QCoreApplication::processEvents();
-    const QTreeWidgetItem* last = viewer->topLevelItem(299);
-    EXPECT_TRUE(viewer->viewport()->rect().contains(viewer->visualItemRect(last).center()));
+    const auto isSeen = [this](int row) {
+        return viewer->viewport()->rect().contains(viewer->visualItemRect(viewer->topLevelItem(row)).center());
+    };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(299); }));
     EXPECT_GE(viewer->columnWidth(0), viewer->fontMetrics().horizontalAdvance("message number 299"));
     EXPECT_EQ(viewer->header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
     EXPECT_EQ(viewer->header()->sectionResizeMode(1), QHeaderView::ResizeToContents);
@@ -222,8 +223,7 @@ TEST_F(MsgTest, NewestMessageIsInSightAndColumnsFitWhenControlReturns)
     QCoreApplication::processEvents();
     EXPECT_EQ(viewer->verticalScrollBar()->value(), 0);
     hook->showInfoMessage("newest");
-    QCoreApplication::processEvents();
-    EXPECT_TRUE(viewer->viewport()->rect().contains(viewer->visualItemRect(viewer->topLevelItem(300)).center()));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(300); }));
 }
 
 TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
@@ -238,10 +238,10 @@ TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
     hook->showInfoMessage("one");
     hook->closeMessageGroup(true);
     hook->closeMessageGroup(true);
-    QCoreApplication::processEvents();
     const QTreeWidgetItem* outer = viewer->topLevelItem(100);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }));
     EXPECT_FALSE(outer->isExpanded());
-    EXPECT_TRUE(viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()));
 }
 
 TEST_F(MsgTest, MessagesOfSeveralLinesKeepTheHeightOfTheRows)

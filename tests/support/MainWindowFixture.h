@@ -1,0 +1,109 @@
+#pragma once
+
+#include "ModPluginIf.h"
+#include "Nalvo.h"
+#include "Release.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTreeWidget>
+
+#include <memory>
+
+/// The whole main window with a settings folder of its own, for tests of modules in their real surroundings.
+///
+/// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a test:
+///   get_property(modules GLOBAL PROPERTY NALVO_APP_MODULES)
+///   nalvo_test(NAME test_Xxx MODULES NalvoApp ${modules} LIBS NalvoAppResources)
+class MainWindowFixture : public ::testing::Test
+{
+protected:
+    MainWindowFixture()
+    {
+        QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir());
+        QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+    }
+    ~MainWindowFixture() override { window.reset(); }
+
+    /// Makes and shows the window; one that exists is deleted without a close.
+    void makeWindow()
+    {
+        static char name[] = "nalvo";
+        char* arguments[] = {name, nullptr};
+        window.reset();
+        window = std::make_unique<Nalvo>(1, arguments);
+    }
+    /// Closes the window as its user does: the exit phases run.
+    bool closeWindow() { return window->close(); }
+
+    /// The module of the class, or a module that serves the hook; null if there is none.
+    template <class Type>
+    Type* module() const
+    {
+        for (ModPluginIf* candidate : window->modules()) {
+            if (Type* found = dynamic_cast<Type*>(candidate))
+                return found;
+        }
+        return nullptr;
+    }
+
+    QString settingsDir() const { return folder.path() + QStringLiteral("/settings"); }
+    QString settingsFile() const { return settingsDir() + QStringLiteral("/Brelmont/Nalvo.ini"); }
+    /// Writes one key into the settings that the next window reads.
+    void writeSetting(const QString& key, const QString& value) const
+    {
+        QSettings(settingsFile(), QSettings::IniFormat).setValue(key, value);
+    }
+    QString readSetting(const QString& key) const
+    {
+        return QSettings(settingsFile(), QSettings::IniFormat).value(key).toString();
+    }
+
+    /// Folder for the project of the test.
+    QString projectDir() const
+    {
+        QDir().mkpath(folder.path() + QStringLiteral("/project"));
+        return folder.path() + QStringLiteral("/project");
+    }
+    /// Writes a file into the folder of the project. @return its path
+    QString writeFile(const QString& name, const QByteArray& content) const
+    {
+        const QString path = projectDir() + QLatin1Char('/') + name;
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+            ADD_FAILURE() << "can not write " << qPrintable(path);
+        return path;
+    }
+
+    QTreeWidget* messageView() const { return window->findChild<QTreeWidget*>(QStringLiteral("msgViewer")); }
+    /// Texts of all messages and groups in the message view, from top to bottom.
+    QStringList messageTexts() const
+    {
+        QStringList result;
+        for (QTreeWidgetItemIterator it(messageView()); *it != nullptr; ++it)
+            result.append((*it)->text(0));
+        return result;
+    }
+
+    /// Lets the window come to rest, then writes its picture into the folder of screenshots of the build.
+    QString screenshot(const QString& name) const
+    {
+        const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
+        QDir().mkpath(dir);
+        // Long enough for folds that move.
+        QTest::qWait(350);
+        const QString path = dir + QLatin1Char('/') + name + QStringLiteral(".png");
+        if (!window->grab().save(path))
+            ADD_FAILURE() << "can not write " << qPrintable(path);
+        return path;
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<Nalvo> window;
+};
