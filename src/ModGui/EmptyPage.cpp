@@ -26,9 +26,8 @@ EmptyPage::EmptyPage(QWidget* parent)
 void EmptyPage::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.setPen(lineColor);
-    painter.setBrush(groundColor);
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), lineColor);
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), groundColor);
 
     QFont nameFont = font();
     nameFont.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);

@@ -18,8 +18,6 @@ protected:
         writeSetting("ModGui/width", "1280");
         writeSetting("ModGui/height", "750");
         makeWindow();
-        // The splash screen has had its time.
-        QTest::qWait(10);
         msg = module<ModMsgHookIf>();
         gui = module<ModGuiHookIf>();
     }
@@ -72,6 +70,19 @@ protected:
 };
 
 } // namespace
+
+TEST_F(Screenshots, SplashScreen)
+{
+    QWidget* splash = nullptr;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget->objectName() == "splashScreen")
+            splash = widget;
+    }
+    ASSERT_NE(splash, nullptr);
+    const QString path = QStringLiteral(NALVO_BINARY_DIR "/screenshots/splash.png");
+    EXPECT_TRUE(splash->grab().save(path));
+    check(path);
+}
 
 TEST_F(Screenshots, MainWindowEmpty)
 {
