@@ -79,9 +79,7 @@ TEST_F(Screenshots, SplashScreen)
             splash = widget;
     }
     ASSERT_NE(splash, nullptr);
-    const QString path = QStringLiteral(NALVO_BINARY_DIR "/screenshots/splash.png");
-    EXPECT_TRUE(splash->grab().save(path));
-    check(path);
+    check(screenshot("splash", splash));
 }
 
 TEST_F(Screenshots, MainWindowEmpty)

@@ -92,14 +92,20 @@ protected:
     }
 
     /// Lets the window come to rest, then writes its picture into the folder of screenshots of the build.
+    /// @return path of the picture
     QString screenshot(const QString& name) const
+    {
+        // Long enough for folds that move.
+        QTest::qWait(350);
+        return screenshot(name, window.get());
+    }
+    /// The same for another widget, as it is.
+    static QString screenshot(const QString& name, QWidget* widget)
     {
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
-        // Long enough for folds that move.
-        QTest::qWait(350);
         const QString path = dir + QLatin1Char('/') + name + QStringLiteral(".png");
-        if (!window->grab().save(path))
+        if (!widget->grab().save(path))
             ADD_FAILURE() << "can not write " << qPrintable(path);
         return path;
     }
