@@ -3,6 +3,9 @@
 #include "ModMsgHookIf.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QVector>
 
@@ -11,6 +14,19 @@ namespace nsModCfgApp {
 namespace {
 
 const QString rootName = QStringLiteral("app");
+
+/// Removes locks of the settings file that are empty: their owner was killed between creating and filling them. Writing
+/// would wait half a minute for such an owner, as nothing tells that it is gone. The removal of a lock has a lock of
+/// its own, and so on.
+void removeDeadLocks(const QString& settingsFile)
+{
+    const QFileInfo file(settingsFile);
+    const QStringList pattern(file.fileName() + QLatin1String(".lock*"));
+    for (const QFileInfo& lock : file.dir().entryInfoList(pattern, QDir::Files | QDir::Hidden)) {
+        if (lock.size() == 0)
+            QFile::remove(lock.filePath());
+    }
+}
 
 } // namespace
 
@@ -45,6 +61,7 @@ void ModCfgApp::saveAppConfig()
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
                        QCoreApplication::applicationName());
     QSettings::setDefaultFormat(QSettings::IniFormat);
+    removeDeadLocks(settings.fileName());
     settings.clear();
     CfgNode* root = getNode(QStringList());
     for (CfgNode* child : root->childs())

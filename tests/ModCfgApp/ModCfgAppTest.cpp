@@ -275,6 +275,21 @@ TEST_F(ModCfgAppTest, NoMessageServiceIsNeeded)
     EXPECT_EQ(content(), QByteArray("[A]\nkey=1\n"));
 }
 
+TEST_F(ModCfgAppTest, TheLockOfAKilledProgramDoesNotStopTheNextOne)
+{
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(fileName()).path()));
+    QFile lock(fileName() + str(".lock"));
+    ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    cfg.setValue(str("A/key"), 1);
+    QElapsedTimer clock;
+    clock.start();
+    cfg.saveAppConfig();
+    EXPECT_LT(clock.elapsed(), 10000);
+    EXPECT_EQ(content(), QByteArray("[A]\nkey=1\n"));
+    EXPECT_FALSE(lock.exists());
+}
+
 // --- clients ---
 
 TEST_F(ModCfgAppTest, Clients)
@@ -344,7 +359,8 @@ TEST_F(ModCfgAppTest, KilledWhileSavingTheFileIsWhole)
         progress += number != last ? 1 : 0;
         last = number;
     }
-    EXPECT_GE(progress, 10);
+    EXPECT_GE(progress, 10)
+        << QDir(QFileInfo(fileName()).path()).entryList(QDir::Files).join(QLatin1Char(' ')).toStdString();
 }
 
 } // namespace
