@@ -1,0 +1,76 @@
+#include "EquList.h"
+
+#include "EquListView.h"
+
+#include <cstdio>
+
+namespace nsModAsmFe {
+
+EquList::EquList() = default;
+
+EquList::~EquList()
+{
+    clear();
+    if (m_listView != nullptr && m_listView->parent() == nullptr)
+        delete m_listView;
+}
+
+void EquList::clear()
+{
+    while (m_first != nullptr) {
+        Equ* next = m_first->next;
+        delete m_first;
+        m_first = next;
+    }
+    m_last = nullptr;
+    m_byName.clear();
+    m_names.clear();
+}
+
+void EquList::append(Equ* equ)
+{
+    equ->prev = m_last;
+    if (m_last == nullptr)
+        m_first = equ;
+    else
+        m_last->next = equ;
+    m_last = equ;
+    m_byName.insert(equ->nameSpace, equ->name, equ);
+    m_names.insert(equ->name);
+}
+
+void EquList::print() const
+{
+    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next) {
+        std::printf("equ:\t%s = %s (%s, %d)\n", qPrintable(qualifiedName(equ->nameSpace, equ->name)),
+                    qPrintable(equ->arg->dispName), argTypeName(equ->arg->type), equ->arg->iValue);
+        std::printf("\tsrcRef:\t%04d, %04d, %04d\n", equ->srcRef.fileNo, equ->srcRef.lineNo, equ->srcRef.absLineNo);
+    }
+}
+
+QStringList EquList::nameList() const
+{
+    QStringList names;
+    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next)
+        names.append(qualifiedName(equ->nameSpace, equ->name));
+    return names;
+}
+
+EquListView* EquList::listView()
+{
+    if (m_listView == nullptr)
+        m_listView = new EquListView;
+    return m_listView;
+}
+
+void EquList::showToListView()
+{
+    if (m_listView == nullptr)
+        return;
+    m_listView->beginFill();
+    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next)
+        m_listView->addItem(equ->name, equ->nameSpace, equ->arg->iValue);
+    m_listView->endFill();
+}
+
+} // namespace nsModAsmFe

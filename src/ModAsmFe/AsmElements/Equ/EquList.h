@@ -1,0 +1,53 @@
+#pragma once
+
+#include "Equ.h"
+#include "SymbolHash.h"
+
+#include <QPointer>
+#include <QSet>
+#include <QStringList>
+
+namespace nsModAsmFe {
+
+class EquListView;
+
+/// The `#EQU` directives of the program, in source order. Owns them.
+class EquList
+{
+public:
+    EquList();
+    ~EquList();
+    EquList(const EquList&) = delete;
+    EquList& operator=(const EquList&) = delete;
+
+    /// Deletes all elements.
+    void clear();
+    /// Takes the ownership. Namespace and name must be set and stay.
+    void append(Equ* equ);
+    /// Null if the list is empty.
+    Equ* first() const { return m_first; }
+    /// Dumps the list to standard output.
+    void print() const;
+
+    bool contains(const QString& nameSpace, const QString& name) const { return find(nameSpace, name) != nullptr; }
+    /// Is the name used in any namespace?
+    bool containsName(const QString& name) const { return m_names.contains(name); }
+    /// Null if there is no such `#EQU`; names are compared with case.
+    Equ* find(const QString& nameSpace, const QString& name) const { return m_byName.find(nameSpace, name); }
+    /// All names in list order, with namespace and "::" where there is one.
+    QStringList nameList() const;
+
+    /// The table that shows the list to the user, made on the first call. Whoever takes it into a window owns it from then on.
+    EquListView* listView();
+    /// Fills the table, if it was ever asked for.
+    void showToListView();
+
+private:
+    Equ* m_first = nullptr;
+    Equ* m_last = nullptr;
+    SymbolHash<Equ> m_byName;
+    QSet<QString> m_names;
+    QPointer<EquListView> m_listView;
+};
+
+} // namespace nsModAsmFe

@@ -1,0 +1,73 @@
+#include "EquListView.h"
+
+#include "SymbolHash.h"
+
+#include <QFontDatabase>
+#include <QHeaderView>
+#include <QLabel>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+namespace nsModAsmFe {
+
+EquListView::EquListView(QWidget* parent) : QWidget(parent), m_tree(new QTreeWidget(this))
+{
+    m_tree->setObjectName("equListView");
+    m_tree->setColumnCount(2);
+    m_tree->setHeaderLabels({tr("Name"), tr("Value")});
+    m_tree->setRootIsDecorated(false);
+    m_tree->setUniformRowHeights(true);
+    m_tree->setAlternatingRowColors(true);
+    m_tree->setToolTip(tr("Names and values of all EQU directives"));
+    m_tree->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    m_tree->header()->setStretchLastSection(false);
+    m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_tree->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+
+    auto* note = new QLabel(
+        tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
+    note->setWordWrap(true);
+    note->setMargin(8);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_tree);
+    layout->addWidget(note);
+}
+
+void EquListView::addItem(QString name, QString nameSpace, int value)
+{
+    auto* item = new QTreeWidgetItem;
+    item->setText(0, qualifiedName(nameSpace, name));
+    item->setText(1, QStringLiteral("0x%1").arg(uint(value), 0, 16));
+    item->setFont(1, QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    if (m_filling) {
+        m_gathered.append(item);
+        return;
+    }
+    m_tree->addTopLevelItem(item);
+    emit contentChanged(this);
+}
+
+void EquListView::clear()
+{
+    m_tree->clear();
+}
+
+void EquListView::beginFill()
+{
+    m_filling = true;
+    m_tree->clear();
+}
+
+void EquListView::endFill()
+{
+    m_filling = false;
+    m_tree->addTopLevelItems(m_gathered);
+    m_gathered.clear();
+    emit contentChanged(this);
+}
+
+} // namespace nsModAsmFe

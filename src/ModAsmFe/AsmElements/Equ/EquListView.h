@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace nsModAsmFe {
+
+/// The table of all `#EQU` names and their values, as of the last run.
+class EquListView : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit EquListView(QWidget* parent = nullptr);
+
+    /// Adds a line: the name with its namespace, the value in hexadecimal.
+    void addItem(QString name, QString nameSpace, int value);
+    void clear();
+
+    /// Between these two, addItem() only gathers: a table of ten thousand lines is shown in one go.
+    void beginFill();
+    void endFill();
+
+signals:
+    /// The table has new lines.
+    void contentChanged(QWidget* widget);
+
+private:
+    QTreeWidget* m_tree = nullptr;
+    QList<QTreeWidgetItem*> m_gathered;
+    bool m_filling = false;
+};
+
+} // namespace nsModAsmFe

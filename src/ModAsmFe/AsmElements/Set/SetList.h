@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Set.h"
+#include "SymbolHash.h"
+
+namespace nsModAsmFe {
+
+/// The `#SET` directives of the program, in source order. Owns them.
+class SetList
+{
+public:
+    SetList() = default;
+    ~SetList();
+    SetList(const SetList&) = delete;
+    SetList& operator=(const SetList&) = delete;
+
+    /// Deletes all elements.
+    void clear();
+    /// Takes the ownership. Namespace and name must be set and stay.
+    void append(Set* set);
+    /// Null if the list is empty.
+    Set* first() const { return m_first; }
+    /// Dumps the list to standard output.
+    void print() const;
+
+    /// The namespace is compared as written, the parameter's name in upper case.
+    bool contains(const QString& nameSpace, const QString& nameUpper) const
+    {
+        return find(nameSpace, nameUpper) != nullptr;
+    }
+    /// The first such parameter, or null.
+    Set* find(const QString& nameSpace, const QString& nameUpper) const
+    {
+        return m_byName.find(nameSpace, nameUpper);
+    }
+
+private:
+    Set* m_first = nullptr;
+    Set* m_last = nullptr;
+    SymbolHash<Set> m_byName;
+};
+
+} // namespace nsModAsmFe

@@ -1,0 +1,29 @@
+#include "AsmFeStatusBar.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace nsModAsmFe {
+
+AsmFeStatusBar::AsmFeStatusBar(QWidget* parent) : QWidget(parent), m_name(new QLabel(this))
+{
+    auto* title = new QLabel(tr("Processor:"), this);
+    title->setObjectName("statusBarTitle");
+    m_name->setObjectName("asmFeStatusBarProcessor");
+    setToolTip(tr("Processor of the project"));
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 0, 8, 0);
+    layout->setSpacing(8);
+    layout->addWidget(title);
+    layout->addWidget(m_name);
+    setProcessorName(QString());
+}
+
+void AsmFeStatusBar::setProcessorName(QString name)
+{
+    m_processorName = name;
+    m_name->setText(name);
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,53 @@
+#include "AsmFeFileHndlr.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace nsModAsmFe {
+
+AsmFeFileHndlr::AsmFeFileHndlr(QObject* parent) : QObject(parent) {}
+
+void AsmFeFileHndlr::setPrjDir(QString dir)
+{
+    m_prjDir = dir;
+}
+
+void AsmFeFileHndlr::setFiles(QStringList files)
+{
+    m_files = files;
+}
+
+void AsmFeFileHndlr::clear()
+{
+    m_files.clear();
+}
+
+QString AsmFeFileHndlr::file(int fileNo) const
+{
+    return m_files.value(fileNo);
+}
+
+QString AsmFeFileHndlr::absSrcFilePath(int fileNo) const
+{
+    return m_files.value(fileNo);
+}
+
+QString AsmFeFileHndlr::relSrcFilePath(int fileNo) const
+{
+    return fileNo < 0 || fileNo >= m_files.size() ? QString() : convToRelPath(m_files.at(fileNo));
+}
+
+QString AsmFeFileHndlr::convToRelPath(QString path) const
+{
+    // A path that is relative already, as relSrcFilePath() gives it, must not be taken against the working folder.
+    if (m_prjDir.isEmpty() || !QDir::isAbsolutePath(path))
+        return path;
+    return QFileInfo(m_prjDir).dir().relativeFilePath(path);
+}
+
+int AsmFeFileHndlr::fileNo(QString path) const
+{
+    return m_files.indexOf(path);
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,129 @@
+#include "AsmFeMsgHndlr.h"
+
+#include "AsmFeFileHndlr.h"
+
+#include <cstring>
+
+namespace nsModAsmFe {
+
+namespace {
+
+/// Fills %1 to %3 in one go, so that a percent sign inside an argument stays what it is.
+QString filled(const QString& text, const QString& arg1, const QString& arg2, const QString& arg3)
+{
+    const QString* const args[] = {&arg1, &arg2, &arg3};
+    QString result;
+    result.reserve(text.size() + arg1.size() + arg2.size() + arg3.size());
+    for (int i = 0; i < text.size(); ++i) {
+        const int number = text.at(i) == '%' && i + 1 < text.size() ? text.at(i + 1).unicode() - '0' : 0;
+        if (number >= 1 && number <= 3) {
+            result += *args[number - 1];
+            ++i;
+        } else {
+            result += text.at(i);
+        }
+    }
+    return result;
+}
+
+ModMsgHookIf::eMsgType_t grade(const char* key)
+{
+    if (std::strncmp(key, "info", 4) == 0)
+        return ModMsgHookIf::eMsgInfo;
+    if (std::strncmp(key, "warn", 4) == 0)
+        return ModMsgHookIf::eMsgWarning;
+    return ModMsgHookIf::eMsgError;
+}
+
+} // namespace
+
+AsmFeMsgHndlr::AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent) : QObject(parent), m_fileHndlr(fileHndlr) {}
+
+void AsmFeMsgHndlr::signMsg(eMsgType_t type, const SrcReference* srcRef, QString arg1, QString arg2, QString arg3)
+{
+    const sMsgText_t* text = msgText(type);
+    if (text == nullptr) {
+        signInternalError(tr("Unsupported simulator message."));
+        return;
+    }
+    if (m_held != nullptr) {
+        m_held->push_back({type, srcRef != nullptr, srcRef != nullptr ? *srcRef : SrcReference(), arg1, arg2, arg3});
+        return;
+    }
+    if (modMsgHook == nullptr)
+        return;
+    const QString words = filled(tr(text->text), arg1, arg2, arg3);
+    const nsModMsg::MsgUrl link = srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl();
+    switch (grade(text->key)) {
+    case ModMsgHookIf::eMsgInfo:
+        modMsgHook->showInfoMessage(words, helpUrl(text->key), link);
+        break;
+    case ModMsgHookIf::eMsgWarning:
+        modMsgHook->showWarningMessage(words, helpUrl(text->key), link);
+        break;
+    case ModMsgHookIf::eMsgError:
+        modMsgHook->showErrorMessage(words, helpUrl(text->key), link);
+        break;
+    }
+}
+
+void AsmFeMsgHndlr::signMsg(eMsgType_t type, QString arg1, QString arg2, QString arg3)
+{
+    signMsg(type, static_cast<const SrcReference*>(nullptr), arg1, arg2, arg3);
+}
+
+void AsmFeMsgHndlr::signMsgGroup(eMsgGrp_t group, QString arg1)
+{
+    const sMsgText_t* text = msgGrpText(group);
+    if (text == nullptr) {
+        signInternalError(tr("Unsupported simulator message."));
+        return;
+    }
+    if (modMsgHook != nullptr)
+        modMsgHook->openMessageGroup(filled(tr(text->text), arg1, QString(), QString()), helpUrl(text->key));
+}
+
+void AsmFeMsgHndlr::signInternalError(QString text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showErrorMessage(tr("Internal error: ") + text);
+}
+
+void AsmFeMsgHndlr::signError(QString text, const SrcReference* srcRef)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showErrorMessage(text, QUrl(), srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl());
+}
+
+nsModMsg::MsgUrl AsmFeMsgHndlr::srcUrl(const SrcReference& srcRef) const
+{
+    nsModMsg::MsgUrl url;
+    url.setScheme("file");
+    url.setPath(m_fileHndlr->absSrcFilePath(srcRef.fileNo));
+    url.setFragment(srcRef.lineNo);
+    url.setDisplayName(m_fileHndlr->convToRelPath(m_fileHndlr->relSrcFilePath(srcRef.fileNo)) + '#' +
+                       QString::number(srcRef.lineNo + 1));
+    return url;
+}
+
+AsmFeMsgHndlr::HeldMsgs* AsmFeMsgHndlr::setHeldMsgs(HeldMsgs* held)
+{
+    HeldMsgs* before = m_held;
+    m_held = held;
+    return before;
+}
+
+void AsmFeMsgHndlr::signHeldMsgs(const HeldMsgs& held)
+{
+    for (const sHeldMsg_t& msg : held)
+        signMsg(eMsgType_t(msg.type), msg.hasSrcRef ? &msg.srcRef : nullptr, msg.arg1, msg.arg2, msg.arg3);
+}
+
+QUrl AsmFeMsgHndlr::helpUrl(const char* key) const
+{
+    QUrl url("pageid://asmFeMessages");
+    url.setFragment(QString::fromLatin1(key));
+    return url;
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,220 @@
+#include "ModAsmFe.h"
+
+#include "AsmFeFileHndlr.h"
+#include "AsmFeParseArg.h"
+#include "AsmFeStatusBar.h"
+
+#include "EquListView.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+
+namespace nsModAsmFe {
+
+ModAsmFe::ModAsmFe(QObject* parent)
+    : QObject(parent)
+    , m_fileHndlr(new AsmFeFileHndlr(this))
+    , m_msgHndlr(new AsmFeMsgHndlr(m_fileHndlr, this))
+    , m_parseArg(new AsmFeParseArg(m_msgHndlr, this))
+{
+    setupKeywordLists();
+}
+
+ModAsmFe::~ModAsmFe() = default;
+
+void ModAsmFe::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModAsmFePluginIf>(modules, this);
+    registerPluginsOf<ModAsmFePluginIfInterMod>(modules, this);
+    registerPluginsOf<ModAsmFePluginIfBackend>(modules, this);
+}
+
+void ModAsmFe::modInit()
+{
+    m_actions = new AsmFeActions(this);
+    m_actions->setEnabled(false);
+    connect(m_actions, SIGNAL(triggered(nsModAsmFe::AsmFeActions::eAction_t)), this,
+            SLOT(handleActions(nsModAsmFe::AsmFeActions::eAction_t)));
+}
+
+void ModAsmFe::modInitIntermod()
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->registerPlugin(m_msgHndlr);
+    if (modGuiHook != nullptr) {
+        m_statusBar = new AsmFeStatusBar;
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equList.listView(), tr("EQU list"));
+    }
+    setupSupportMenuBasic();
+}
+
+void ModAsmFe::modExitIntermod()
+{
+    if (modGuiHook != nullptr && m_statusBar != nullptr) {
+        modGuiHook->removeWidget(m_statusBar);
+        modGuiHook->removeWidget(m_equList.listView());
+    }
+    delete m_statusBar;
+    m_statusBar = nullptr;
+    if (modMsgHook != nullptr)
+        modMsgHook->unregisterPlugin(m_msgHndlr);
+}
+
+void ModAsmFe::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+void ModAsmFe::registerPlugin(ModAsmFePluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modAsmFeHook = this;
+}
+
+void ModAsmFe::unregisterPlugin(ModAsmFePluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modAsmFeHook = nullptr;
+}
+
+void ModAsmFe::registerPlugin(ModAsmFePluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modAsmFeHook = this;
+}
+
+void ModAsmFe::unregisterPlugin(ModAsmFePluginIf* plugin)
+{
+    if (m_plugins.remove(plugin))
+        plugin->modAsmFeHook = nullptr;
+}
+
+void ModAsmFe::registerPlugin(ModAsmFePluginIfBackend* plugin)
+{
+    if (plugin == nullptr || plugin == m_asmBe)
+        return;
+    if (m_asmBe != nullptr)
+        m_asmBe->modAsmFeHook = nullptr;
+    m_asmBe = plugin;
+    m_asmBe->modAsmFeHook = this;
+    applyBackendConfig();
+}
+
+void ModAsmFe::unregisterPlugin(ModAsmFePluginIfBackend* plugin)
+{
+    if (plugin == nullptr || plugin != m_asmBe)
+        return;
+    m_asmBe->modAsmFeHook = nullptr;
+    m_asmBe = nullptr;
+    applyBackendConfig();
+}
+
+bool ModAsmFe::instMemConfig(int* pageSize, int* pageCount, bool* sharedMemHi)
+{
+    *pageSize = m_pageSize;
+    *pageCount = m_pageCount;
+    *sharedMemHi = m_sharedMemHi;
+    return m_assembled;
+}
+
+void ModAsmFe::prjOpen()
+{
+    static_cast<AsmFeConfig&>(*this) = AsmFeConfig();
+    rdAsmFeConfig(modPrjHook);
+    // The handler takes the folder of a path, so it gets the path of a file in the project's folder.
+    m_fileHndlr->setPrjDir(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
+    applyBaseConfig();
+    if (m_actions != nullptr)
+        m_actions->setEnabled(AsmFeActions::eActionAssemble, true);
+}
+
+void ModAsmFe::prjSave()
+{
+    wrAsmFeConfig(modPrjHook);
+}
+
+void ModAsmFe::prjClose()
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(false);
+    if (m_statusBar != nullptr)
+        m_statusBar->setProcessorName(QString());
+    clearAll();
+    m_equList.showToListView();
+    m_assembled = false;
+    m_runSucceeded = false;
+    m_fileHndlr->setPrjDir(QString());
+}
+
+void ModAsmFe::srcFileListChanged()
+{
+    if (m_assembleOnChange)
+        assemble(eEventNone);
+}
+
+void ModAsmFe::srcFileContentChanged()
+{
+    if (m_assembleOnChange)
+        assemble(eEventSave);
+}
+
+void ModAsmFe::removeWidgetRequest(QWidget*)
+{
+    // The views of the assembler stand in docks and stay there.
+}
+
+void ModAsmFe::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) {}
+
+QList<QAction*> ModAsmFe::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return actionClass == ModActionHookIf::eActionClassAssembler && m_actions != nullptr ? m_actions->menuActions()
+                                                                                         : QList<QAction*>();
+}
+
+QList<QAction*> ModAsmFe::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return actionClass == ModActionHookIf::eActionClassAssembler && m_actions != nullptr ? m_actions->toolBarActions()
+                                                                                         : QList<QAction*>();
+}
+
+void ModAsmFe::handleActions(AsmFeActions::eAction_t action)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->clearMessages();
+    switch (action) {
+    case AsmFeActions::eActionAssemble:
+        assemble(eEventSave);
+        break;
+    case AsmFeActions::eActionButton1:
+        assemble(eEventButton1);
+        break;
+    case AsmFeActions::eActionButton2:
+        assemble(eEventButton2);
+        break;
+    }
+}
+
+void ModAsmFe::applyBaseConfig()
+{
+    setupDefaultCodec(defaultCharset);
+    setHighlighter();
+}
+
+void ModAsmFe::applyBackendConfig()
+{
+    m_regTable.clear();
+    m_bankTable.clear();
+    if (m_asmBe != nullptr) {
+        if (const QHash<QString, int>* regs = m_asmBe->regNames())
+            m_regTable = *regs;
+        if (const QHash<QString, int>* banks = m_asmBe->regBankNames())
+            m_bankTable = *banks;
+    }
+    if (m_statusBar != nullptr)
+        m_statusBar->setProcessorName(m_asmBe != nullptr ? m_asmBe->processorName() : QString());
+    setupSupportMenuHardware();
+    setHighlighter();
+}
+
+} // namespace nsModAsmFe

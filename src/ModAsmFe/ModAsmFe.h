@@ -1,0 +1,375 @@
+#pragma once
+
+#include "AsmFeActions.h"
+#include "AsmFeConfig.h"
+#include "AsmFeFormula.h"
+#include "AsmFeLineHndlr.h"
+#include "AsmFeMsgHndlr.h"
+#include "EquList.h"
+#include "IODevList.h"
+#include "LabelList.h"
+#include "MemRangeList.h"
+#include "MetaTags.h"
+#include "ModActionPluginIf.h"
+#include "ModAsmFeHookIf.h"
+#include "ModAsmFePluginIf.h"
+#include "ModConfigPluginIf.h"
+#include "ModEditorPluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModSourcesPluginIf.h"
+#include "ModSrcNaviPluginIf.h"
+#include "ModSyscallPluginIf.h"
+#include "OpcodeList.h"
+#include "OrgList.h"
+#include "PluginList.h"
+#include "SetList.h"
+#include "StringPool.h"
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QSet>
+#include <QStringList>
+
+#include <memory>
+
+class QTextCodec;
+
+namespace nsModAsmFe {
+
+class AsmFeFileHndlr;
+class AsmFeParseArg;
+class AsmFeStatusBar;
+class Opcode;
+
+/// The assembler: all that is common to the processors, from the sources to the output files.
+///
+/// assemble() runs the stages in a fixed order and is the only place that decides when a run stops. Each stage walks all its
+/// elements before it answers, so that one run shows all the errors of a stage; a failed stage prevents the later ones. A run is
+/// synchronous. The stages stand in source files of their own: ModAsmFeParse, ModAsmFeDirectives, ModAsmFeArguments and so on.
+class ModAsmFe : public QObject,
+                 public ModAsmFeHookIf,
+                 public ModPluginIf,
+                 public ModMsgPluginIf,
+                 public ModPrjPluginIf,
+                 public ModConfigPluginIfDflt,
+                 public ModGuiPluginIf,
+                 public ModSourcesPluginIf,
+                 public ModEditorPluginIf,
+                 public ModSrcNaviPluginIf,
+                 public ModActionPluginIf,
+                 public ModSyscallPluginIf,
+                 public AsmFeConfig,
+                 public AsmFeLineHndlr
+{
+    Q_OBJECT
+
+public:
+    /// Why a run was started: which output files and external programs belong to it.
+    enum eAssembleEvent_t { eEventNone = 0, eEventButton1 = 1, eEventButton2 = 2, eEventSave = 3 };
+
+    /// Largest instruction memory and largest IO device, in words. Larger ones are refused, so that a slip of the pen in a
+    /// `#SET` does not ask for all the memory of the machine.
+    static const int maxMemWords = 1 << 24;
+    /// Longest source line in characters; what exceeds it is reported and skipped.
+    static const int maxLineLength = 1 << 24;
+
+    explicit ModAsmFe(QObject* parent = nullptr);
+    ~ModAsmFe() override;
+
+    /// Runs the assembler on the open project, from the sources on the disk to the files of the event.
+    void assemble(eAssembleEvent_t event);
+    /// Whether a saved source or a changed list of sources starts a run; on by default. A batch program starts its run itself.
+    void setAssembleOnChange(bool enabled) { m_assembleOnChange = enabled; }
+    /// Output files that the last run has written, absolute, in order.
+    QStringList writtenFiles() const { return m_writtenFiles; }
+    /// @return the last run assembled the program and wrote all files of its event
+    bool runSucceeded() const { return m_runSucceeded; }
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override;
+    void modExit() override;
+
+    // ModAsmFeHookIf
+    void registerPlugin(ModAsmFePluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModAsmFePluginIfInterMod* plugin) override;
+    void registerPlugin(ModAsmFePluginIf* plugin) override;
+    void unregisterPlugin(ModAsmFePluginIf* plugin) override;
+    void registerPlugin(ModAsmFePluginIfBackend* plugin) override;
+    void unregisterPlugin(ModAsmFePluginIfBackend* plugin) override;
+    LabelList* labelList() override { return &m_labelList; }
+    EquList* equList() override { return &m_equList; }
+    OrgList* orgList() override { return &m_orgList; }
+    SetList* setList() override { return &m_setList; }
+    OpcodeList* opcodeList() override { return &m_opcodeList; }
+    IODevList* ioDevList() override { return &m_ioDevList; }
+    bool setOverwriteBehaviorError() override { return behaviorSet == setError; }
+    bool setOverwriteBehaviorWarning() override { return behaviorSet == setWarn; }
+    bool isAssembled() override { return m_assembled; }
+    bool instMemConfig(int* pageSize, int* pageCount, bool* sharedMemHi) override;
+    AsmFeFileHndlr* fileHndlr() override { return m_fileHndlr; }
+    AsmFeMsgHndlr* msgHndlr() override { return m_msgHndlr; }
+    AsmFeParseArg* parseArg() override { return m_parseArg; }
+    int asmBehaviorChkIntVector() override { return behaviorChkIntVector; }
+
+    // ModPrjPluginIf
+    void prjOpen() override;
+    void prjOpened() override {}
+    void prjSave() override;
+    void prjClose() override;
+
+    // ModSourcesPluginIf
+    void srcFileListChanged() override;
+    void srcFileContentChanged() override;
+
+    // ModGuiPluginIf
+    void removeWidgetRequest(QWidget* widget) override;
+    void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
+
+    // ModActionPluginIf
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
+    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
+
+    const MemRangeList* memRangeList() const { return &m_memRangeList; }
+    QStringList defines() const { return m_defines; }
+    /// The instruction words, as the name rule and the highlighter know them.
+    const QStringList& instructionWords() const { return m_instructionWords; }
+
+public slots:
+    void handleActions(nsModAsmFe::AsmFeActions::eAction_t action);
+
+private:
+    // Life of a run (ModAsmFeAssemble.cpp)
+    void clearAll();
+    void runStages(eAssembleEvent_t event);
+    bool runFrontEndStages();
+    void runBackEndStages();
+    void finishRun();
+    void writeOutputs(eAssembleEvent_t event);
+    template <class Stage>
+    bool runGroup(eMsgGrp_t group, const QString& arg, Stage stage);
+    bool execSysCall(eAssembleEvent_t event);
+    void setupMetaTags();
+    void setupMemPageAddrMap();
+    void setupTextCompleter();
+    void applyBaseConfig();
+    void applyBackendConfig();
+    void openGroup(const QString& text);
+    void closeGroup(bool success);
+
+    // Reading (ModAsmFeParse.cpp)
+    bool parseFiles();
+    bool parseFile(SrcReference* srcRef, const QString& file);
+    bool parseLine(SrcReference* srcRef, QString line);
+    void parseLineNaviTag(SrcReference* srcRef);
+    QString parseLineNaviTagLineRef(QString* line, const QString& word);
+    void addNaviTag(const SrcReference& srcRef, int type, const QString& title, const QString& lineRef);
+    bool parseLineDirectiveLabel(SrcReference* srcRef);
+    bool parseLineOpcode(SrcReference* srcRef, const QString& word);
+    void splitFromArgAttr(SrcReference* srcRef, QString* arg, QString* attr);
+    void splitFromArgRange(SrcReference* srcRef, QString* arg, QString* range);
+    bool splitFromArgParentheseOpen(QString* arg);
+    bool splitFromArgParentheseClose(QString* arg);
+
+    // Directives (ModAsmFeDirectives.cpp)
+    bool parseLineConditional(SrcReference* srcRef, const QString& word, bool* isConditional);
+    bool parseLineDirective(SrcReference* srcRef, const QString& word, bool* isDirective);
+    bool parseLineDirectiveIf(SrcReference* srcRef);
+    bool parseLineDirectiveElseIf(SrcReference* srcRef);
+    bool parseLineDirectiveElse(SrcReference* srcRef);
+    bool parseLineDirectiveEndIf(SrcReference* srcRef);
+    bool parseLineDirectiveDef(SrcReference* srcRef);
+    bool parseLineDirectiveEqu(SrcReference* srcRef);
+    bool parseLineDirectiveNs(SrcReference* srcRef);
+    bool parseLineDirectiveEndNs(SrcReference* srcRef);
+    bool parseLineDirectiveSet(SrcReference* srcRef);
+    bool parseLineDirectiveOrg(SrcReference* srcRef);
+    // Macros are reserved words without a meaning: nobody calls these two.
+    bool parseLineDirectiveMacro(SrcReference*) { return true; }
+    bool parseLineDirectiveEndMacro(SrcReference*) { return true; }
+    bool refuseArguments(SrcReference* srcRef);
+    void addDefine(const QString& name);
+    bool syntacticsCheckSet();
+    bool syntacticsCheckSetAsm(Set* set);
+    bool syntacticsCheckSetEditor(Set* set);
+    void classifySet(Set* set);
+
+    // Arguments (ModAsmFeArguments.cpp)
+    bool syntacticsCheckArgNumeric(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    bool syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    bool syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    bool syntacticsCheckArgType(const SrcReference* srcRef, Arg* arg, ArgExt* ext, Arg::eArgType_t type);
+    bool refuseArgExt(const SrcReference* srcRef, const ArgExt* ext, bool parenthesesToo);
+    void syntacticsSetArgParentheses(Arg* arg, ArgExt* ext);
+    void syntacticsSetArgNameSpace(Arg* arg, const QString& nameSpace);
+    bool syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode);
+    bool formula(const SrcReference* srcRef, const QString& nameSpace, const QString& text, unsigned int* value);
+    bool formulaTermValue(const SrcReference* srcRef, const QString& nameSpace, const QString& term, int* value);
+    bool syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg);
+    static bool isFormula(const QString& text) { return AsmFeFormula::isFormula(text); }
+
+    // Strings and character sets (ModAsmFeStrings.cpp)
+    static bool isString(const QString& text);
+    static QString toString(QString text);
+    static QByteArray toEncString(const QString& text, QTextCodec* codec);
+    bool syntacticsCheckArgString(const SrcReference* srcRef, Arg* arg, ArgExt* ext, bool keepString);
+    bool encodeString(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    QTextCodec* codecOfString(const SrcReference* srcRef, ArgExt* ext);
+    bool selectFromString(const SrcReference* srcRef, Arg* arg, ArgExt* ext, bool keepString);
+    bool setupDefaultCodec(const QString& name);
+    bool syntacticsCheckDefaultTextCodec();
+    bool isCharset(const QString& upperName);
+    const QStringList& charsetNames();
+
+    // Symbols (ModAsmFeSymbols.cpp)
+    void setupKeywordLists();
+    static bool isValidName(const QString& name);
+    bool checkName(const SrcReference* srcRef, const QString& name);
+    bool syntacticsCheckLabel();
+    bool syntacticsCheckEquNames();
+    bool syntacticsCheckEquArguments();
+    bool syntacticsCheckEquArgument(Equ* equ);
+    bool resolveEqu(Equ* equ);
+    QList<Equ*> equDependencies(Equ* equ);
+    bool checkEquAlias(Equ* equ, bool* isAlias);
+    bool checkEquValue(Equ* equ);
+    void prepareEqu(Equ* equ);
+    bool syntacticsCheckOpcode();
+    bool syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg, ArgExt* ext);
+    bool syntacticsCheckOpcodeArgumentLabel(Opcode* opcode, Arg* arg, ArgExt* ext);
+    bool syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgExt* ext);
+    void usageCheck();
+
+    // Memory mapping (ModAsmFeMemMap.cpp)
+    bool mapOpcodeToMem();
+    bool mapOpcodeToMemCheckOrgDirectives();
+    bool mapOpcodeToMemSetConfig();
+    bool mapOpcodeToMemSetConfigNumber(Set* set, int* value, const char* name);
+    bool mapOpcodeToMemSetConfigSharedLocation(Set* set);
+    bool mapOpcodeToMemSetRanges();
+    bool addMemRanges();
+    void assignMemRanges();
+    bool mapOpcodeToMemSetAddresses();
+    bool applyOrgAddresses();
+    bool mapSharedRange(int* pageStart, int* pageLimit);
+    bool placeOpcode(Opcode* opcode, int range, int* free, int limit);
+    bool mapOpcodeToMemSetAddressesUpwards(int range, int start, int* limit);
+    bool mapOpcodeToMemSetAddressesDownwards(int range, int* start, int limit);
+    bool mapOpcodeToMemCheckForUnmappedOpcode();
+    bool mapOpcodeToMemCheckForInterPageReferencing();
+    void mapOpcodeToMemSignErrorOutOfMemoryRange(const SrcReference* srcRef, int range, int addr);
+    QString memRangeName(int range) const;
+
+    // IO devices (ModAsmFeIODev.cpp, ModAsmFeIODevValue.cpp)
+    bool setupIODevs();
+    bool setupIODev(IODev* dev);
+    bool setupIODevAttrSize(IODev* dev);
+    bool setupIODevAttrBaseAddr(IODev* dev);
+    bool setupIODevAttrInitValue(IODev* dev);
+    bool setupIODevAttrSimEn(IODev* dev);
+    bool setupIODevAttrSimAccessMode(IODev* dev);
+    bool setupIODevAttrType(IODev* dev);
+    bool setupIODevAttrValues(IODev* dev);
+    bool setupIODevAttrValue(IODev* dev, Set* set);
+    bool setupIODevAttrValueNumeric(IODev* dev, Set* set, const QString& item, int addr);
+    bool setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& item, int* addr);
+    bool setupIODevAttrTargetVhdl(IODev* dev);
+    bool setupIODevAttrTargetVerilog(IODev* dev);
+    bool setupIODevAttrTargetHex(IODev* dev);
+    bool setupIODevAttrTargetMem(IODev* dev);
+    bool setupIODevAttrTargetMemGapStuffing(IODev* dev);
+    bool setupIODevAttrTargetFile(IODev* dev, const QString& kind, bool* en, QString* file);
+    bool setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity, QString* templateFile,
+                                 QString* targetFile);
+    bool setupIODevSetNumeric(Set* set, int* value);
+    bool setupIODevSetBoolean(Set* set, bool* value);
+    bool setupIODevSetString(Set* set, QString* value);
+    bool setupIODevSetPath(Set* set, QString* value);
+    bool setupIODevDefault();
+    bool setupIODevChkInstMemMapped();
+    struct sInstMemSpan_t;
+    bool parseInstMemItem(Set* set, const QString& item, sInstMemSpan_t* span);
+    bool parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t* span);
+    bool parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* span);
+    bool mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr);
+    bool mapInstWord(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr, Opcode* opcode, qint64 memAddr);
+
+    // Output (ModAsmFeOutput.cpp)
+    bool mapIODevToFile(eAssembleEvent_t event);
+    bool mapIODevToFileVhdl();
+    bool mapIODevToFileVerilog();
+    bool mapIODevToFileHex();
+    bool mapIODevToFileMem();
+    template <class Write>
+    bool mapIODevToFiles(const QString& groupText, bool IODev::*en, QString IODev::*file, Write write);
+    bool checkTargetFile(const QString& file);
+
+    // Insertion menu and highlighting (ModAsmFeMenus.cpp)
+    void setupSupportMenuBasic();
+    void setupSupportMenuDynamics();
+    void setupSupportMenuHardware();
+    void setHighlighter();
+
+    PluginList<ModAsmFePluginIf> m_plugins;
+    ModAsmFePluginIfBackend* m_asmBe = nullptr; ///< not owned
+
+    AsmFeActions* m_actions = nullptr;
+    AsmFeFileHndlr* m_fileHndlr;
+    AsmFeMsgHndlr* m_msgHndlr;
+    AsmFeParseArg* m_parseArg;
+    AsmFeStatusBar* m_statusBar = nullptr;
+
+    QStringList m_charsetNames; ///< upper case; filled on first use, as asking the platform for them takes its time
+    QSet<QString> m_charsetSet;
+    QStringList m_instructionWords;
+    QStringList m_argumentWords;
+    QSet<QString> m_instructionWordSet;
+    QSet<QString> m_argumentWordSet;
+    QHash<QString, int> m_regTable;
+    QHash<QString, int> m_bankTable;
+    QTextCodec* m_defaultCodec = nullptr; ///< not owned, may be null
+
+    bool m_assembleOnChange = true;
+    bool m_assembled = false;
+    bool m_running = false; ///< a run must not be started from within a run
+    bool m_runSucceeded = false;
+    QStringList m_writtenFiles;
+
+    // State of reading
+    int m_ifActive = 0;
+    bool m_ifMatched = false;
+    bool m_ifSkip = false;
+    QStringList m_defines; ///< upper case
+    QSet<QString> m_defineSet;
+    QString m_nameSpace;
+    StringPool m_pool;
+
+    // Elements of the run
+    EquList m_equList;
+    SetList m_setList;
+    OrgList m_orgList;
+    OpcodeList m_opcodeList;
+    LabelList m_labelList;
+    IODevList m_ioDevList;
+    MemRangeList m_memRangeList;
+    MetaTags m_metaTags;
+
+    /// What went wrong with an `#EQU`: a further `#EQU` that depends on it says the same again.
+    QHash<Equ*, AsmFeMsgHndlr::HeldMsgs> m_failedEqus;
+    QSet<int> m_equCheckStack; ///< `absLineNo` of the `#EQU`s on the present path of resolution
+
+    int m_pageSize = 0;
+    int m_pageCount = 1;
+    bool m_sharedMemHi = true;
+    bool m_instMemMapped = false; ///< some device took the instructions
+};
+
+} // namespace nsModAsmFe

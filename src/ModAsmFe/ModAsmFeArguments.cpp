@@ -1,0 +1,215 @@
+// Arguments: numbers, registers, parentheses, namespaces and expressions.
+
+#include "ModAsmFe.h"
+
+#include "AsmFeParseArg.h"
+#include "Opcode.h"
+
+#include <QRegExp>
+
+namespace nsModAsmFe {
+
+namespace {
+
+/// The value with its bytes in the opposite order, over two or four bytes.
+int swapped(int value, int bytes)
+{
+    const unsigned int v = static_cast<unsigned int>(value);
+    if (bytes == 2)
+        return int(((v >> 8) & 0xffu) | ((v << 8) & 0xffffu));
+    return int((v >> 24) | ((v >> 8) & 0xff00u) | ((v << 8) & 0xff0000u) | (v << 24));
+}
+
+} // namespace
+
+bool ModAsmFe::syntacticsCheckArgNumeric(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+{
+    if (arg->type != Arg::numeric) {
+        arg->iValue = m_parseArg->toNumeric(arg->name);
+        arg->type = Arg::numeric;
+    }
+    if (!ext->attr.isEmpty()) {
+        QRegExp bigEndian("^([24])+BE$");
+        if (!bigEndian.exactMatch(ext->attrUpper)) {
+            m_msgHndlr->signMsg(errUnsupportedAttribute, srcRef, ext->attr);
+            return false;
+        }
+        const int bytes = bigEndian.cap(1) == QLatin1String("2") ? 2 : 4;
+        if (bytes == 2 && arg->iValue > 0xffff)
+            m_msgHndlr->signMsg(warnNumericTruncated, srcRef);
+        arg->iValue = swapped(arg->iValue, bytes);
+        arg->name = QString::number(arg->iValue);
+    }
+    if (!ext->range.isEmpty()) {
+        unsigned int value = static_cast<unsigned int>(arg->iValue);
+        if (!m_parseArg->extractRangeFromNumeric(ext->range, &value)) {
+            m_msgHndlr->signMsg(errIvldRange, srcRef, ext->range);
+            return false;
+        }
+        arg->iValue = static_cast<int>(value);
+    }
+    return true;
+}
+
+/// @return no range, no attribute and, if asked for, no parentheses stand around the argument; else what stands there is reported
+bool ModAsmFe::refuseArgExt(const SrcReference* srcRef, const ArgExt* ext, bool parenthesesToo)
+{
+    if (!ext->range.isEmpty()) {
+        m_msgHndlr->signMsg(errUnsupportedRange, srcRef);
+        return false;
+    }
+    if (!ext->attr.isEmpty()) {
+        m_msgHndlr->signMsg(errUnsupportedAttribute, srcRef, ext->attr);
+        return false;
+    }
+    if (parenthesesToo && ext->parentheses != ArgExt::parenthesesNone) {
+        m_msgHndlr->signMsg(errUnsupportedParenthese, srcRef);
+        return false;
+    }
+    return true;
+}
+
+bool ModAsmFe::syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+{
+    arg->type = Arg::reg;
+    arg->strValue = arg->name;
+    arg->iValue = m_regTable.value(arg->name);
+    return refuseArgExt(srcRef, ext, false);
+}
+
+bool ModAsmFe::syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+{
+    arg->type = Arg::regBank;
+    arg->strValue = arg->name;
+    arg->iValue = m_bankTable.value(arg->name);
+    return refuseArgExt(srcRef, ext, true);
+}
+
+bool ModAsmFe::syntacticsCheckArgType(const SrcReference* srcRef, Arg* arg, ArgExt* ext, Arg::eArgType_t type)
+{
+    arg->type = type;
+    return refuseArgExt(srcRef, ext, true);
+}
+
+void ModAsmFe::syntacticsSetArgParentheses(Arg* arg, ArgExt* ext)
+{
+    if (arg->name.isEmpty() || (!arg->name.startsWith('(') && !arg->name.endsWith(')')) || isFormula(arg->name))
+        return;
+    if (splitFromArgParentheseOpen(&arg->name))
+        ext->parentheses |= ArgExt::parenthesesOpen;
+    if (splitFromArgParentheseClose(&arg->name))
+        ext->parentheses |= ArgExt::parenthesesClose;
+    arg->name = arg->name.trimmed();
+}
+
+void ModAsmFe::syntacticsSetArgNameSpace(Arg* arg, const QString& nameSpace)
+{
+    // The terms of an expression have prefixes of their own.
+    if (!arg->name.contains(QLatin1String("::")) || isFormula(arg->name) ||
+        !AsmFeParseArg::splitNsFromArg(&arg->name, &arg->nameSpace))
+        arg->nameSpace = nameSpace;
+}
+
+bool ModAsmFe::syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode)
+{
+    Arg* arg0 = opcode->arg0;
+    Arg* arg1 = opcode->arg1;
+    const int p0 = opcode->arg0Ext->parentheses;
+    const int p1 = opcode->arg1Ext->parentheses;
+    const auto refuse = [&](eMsgType_t type) {
+        m_msgHndlr->signMsg(type, &opcode->srcRef);
+        return false;
+    };
+    const bool enclosed0 = arg0->type == Arg::reg && p0 != ArgExt::parenthesesNone;
+    if (!enclosed0 && (arg1->type != Arg::reg || p1 == ArgExt::parenthesesNone))
+        return true;
+    if (enclosed0 && p0 == ArgExt::parenthesesBoth) {
+        arg0->type = Arg::regRef;
+        // A second register in parentheses of its own is a reference too.
+        if (arg1->type == Arg::reg && p1 == ArgExt::parenthesesBoth)
+            arg1->type = Arg::regRef;
+        return true;
+    }
+    if (enclosed0) {
+        if (arg1->type != Arg::reg)
+            return refuse(errUnsupportedParenthese);
+        if (p0 != ArgExt::parenthesesOpen)
+            return refuse(errMissingParentheseOpen);
+        if (p1 != ArgExt::parenthesesClose)
+            return refuse(errMissingParentheseClose);
+    } else {
+        if (p1 == ArgExt::parenthesesBoth) {
+            arg1->type = Arg::regRef;
+            return true;
+        }
+        if (arg0->type != Arg::reg)
+            return refuse(errUnsupportedParenthese);
+        if (p0 != ArgExt::parenthesesOpen)
+            return refuse(errMissingParentheseOpen);
+        if (p1 != ArgExt::parenthesesClose)
+            return refuse(errMissingParentheseClose);
+    }
+    arg0->type = Arg::regRef;
+    arg1->type = Arg::regRef;
+    return true;
+}
+
+bool ModAsmFe::formula(const SrcReference* srcRef, const QString& nameSpace, const QString& text, unsigned int* value)
+{
+    AsmFeFormula evaluator;
+    const auto result = evaluator.evaluate(
+        text, [&](const QString& term, int* v) { return formulaTermValue(srcRef, nameSpace, term, v); }, value);
+    switch (result) {
+    case AsmFeFormula::resultOk:
+        return true;
+    case AsmFeFormula::resultSyntax:
+        m_msgHndlr->signMsg(errSyntax, srcRef);
+        return false;
+    case AsmFeFormula::resultMissingOpen:
+        m_msgHndlr->signMsg(errMissingParentheseOpen, srcRef);
+        return false;
+    case AsmFeFormula::resultMissingClose:
+        m_msgHndlr->signMsg(errMissingParentheseClose, srcRef);
+        return false;
+    case AsmFeFormula::resultFailed:
+        break;
+    }
+    return false;
+}
+
+bool ModAsmFe::formulaTermValue(const SrcReference* srcRef, const QString& nameSpace, const QString& term, int* value)
+{
+    if (AsmFeParseArg::isNumeric(term)) {
+        *value = m_parseArg->toNumeric(term);
+        return true;
+    }
+    QString name = term;
+    QString termNameSpace = nameSpace;
+    AsmFeParseArg::splitNsFromArg(&name, &termNameSpace);
+    Equ* equ = m_equList.find(termNameSpace, name);
+    if (equ == nullptr) {
+        m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
+        return false;
+    }
+    if (equ->arg->type == Arg::unset && !syntacticsCheckEquArgument(equ))
+        return false;
+    if (equ->arg->type != Arg::numeric) {
+        m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
+        return false;
+    }
+    equ->used = true;
+    *value = equ->arg->iValue;
+    return true;
+}
+
+bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg)
+{
+    arg->type = Arg::numeric;
+    unsigned int value = 0;
+    if (!formula(srcRef, arg->nameSpace, arg->name, &value))
+        return false;
+    arg->iValue = static_cast<int>(value);
+    return true;
+}
+
+} // namespace nsModAsmFe

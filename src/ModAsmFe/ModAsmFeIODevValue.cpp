@@ -1,0 +1,229 @@
+// Contents of IO devices: lists of values, and pieces of the instruction memory.
+
+#include "ModAsmFe.h"
+
+#include "AsmFeParseArg.h"
+#include "Opcode.h"
+
+#include <QRegExp>
+
+namespace nsModAsmFe {
+
+/// Which words, and which bits of them, an item takes from the instruction memory.
+struct ModAsmFe::sInstMemSpan_t
+{
+    int start = 0;
+    int stop = 0; ///< below `start` the words go into the device in descending order
+    int low = 0;
+    unsigned int mask = ~0u;
+
+    int count() const { return (stop >= start ? stop - start : start - stop) + 1; }
+    bool contains(qint64 addr) const { return addr >= qMin(start, stop) && addr <= qMax(start, stop); }
+};
+
+bool ModAsmFe::setupIODevAttrValues(IODev* dev)
+{
+    dev->initDevice();
+    for (Set* set = m_setList.first(); set != nullptr; set = set->next) {
+        if (set->nameUpper == QLatin1String("VALUE") && set->nameSpace == dev->devName &&
+            !setupIODevAttrValue(dev, set))
+            return false;
+    }
+    return true;
+}
+
+bool ModAsmFe::setupIODevAttrValue(IODev* dev, Set* set)
+{
+    QString list = set->value;
+    list.remove(QRegExp("[\\s]*"));
+    int addr = 0;
+    QRegExp withAddr("^([\\\\0xb]*[0-9a-fA-F]+)\\s*:(.*)");
+    QRegExp withAppend("^append\\s*:(.*)");
+    if (withAddr.exactMatch(list)) {
+        const QString start = withAddr.cap(1);
+        if (!AsmFeParseArg::isNumeric(start)) {
+            m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, start);
+            return false;
+        }
+        addr = m_parseArg->toNumeric(start);
+        list = withAddr.cap(2);
+    } else if (withAppend.exactMatch(list)) {
+        addr = dev->appendAddr;
+        list = withAppend.cap(1);
+    }
+    const QStringList items = list.split(',', Qt::SkipEmptyParts);
+    for (const QString& item : items) {
+        bool success = false;
+        if (AsmFeParseArg::isNumeric(item))
+            success = setupIODevAttrValueNumeric(dev, set, item, addr);
+        else if (item.startsWith(QLatin1String("INSTMEM"), Qt::CaseInsensitive))
+            success = setupIODevAttrValueInstMem(dev, set, item, &addr);
+        else
+            m_msgHndlr->signMsg(errUnsupportedArgument, &set->srcRef, item);
+        if (!success)
+            return false;
+        ++addr;
+    }
+    set->used = true;
+    return true;
+}
+
+bool ModAsmFe::setupIODevAttrValueNumeric(IODev* dev, Set* set, const QString& item, int addr)
+{
+    if (!dev->isInitValue(addr))
+        m_msgHndlr->signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(addr));
+    if (dev->setValue(addr, static_cast<unsigned int>(m_parseArg->toNumeric(item)), &set->srcRef, false))
+        return true;
+    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(addr),
+                        QString::number(dev->memSize));
+    return false;
+}
+
+bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& item, int* addr)
+{
+    m_instMemMapped = true;
+    dev->instMem = true;
+    sInstMemSpan_t span;
+    if (!parseInstMemItem(set, item, &span))
+        return false;
+    if (span.count() > dev->memSize) {
+        m_msgHndlr->signMsg(errIODevInstMemRangeExceedsIODeviceRange, &set->srcRef, QString::number(span.count()),
+                            QString::number(dev->memSize));
+        return false;
+    }
+    if (!mapInstMem(dev, set, span, *addr))
+        return false;
+    // The item counts as its whole length; the caller goes on behind its last cell.
+    *addr += span.count() - 1;
+    return true;
+}
+
+bool ModAsmFe::parseInstMemItem(Set* set, const QString& item, sInstMemSpan_t* span)
+{
+    QString text = item.toUpper();
+    text.remove(QLatin1String("INSTMEM"));
+    const int total = m_pageSize * m_pageCount;
+    QRegExp rangeAndBits("\\[(\\S+)\\]\\[(\\S+)\\]");
+    QRegExp rangeOnly("\\[(\\S+)\\]");
+    if (text.isEmpty()) {
+        span->stop = total - 1;
+    } else if (rangeAndBits.exactMatch(text)) {
+        if (!parseInstMemRange(set, rangeAndBits.cap(1), span) || !parseInstMemBits(set, rangeAndBits.cap(2), span))
+            return false;
+    } else if (rangeOnly.exactMatch(text)) {
+        if (!parseInstMemRange(set, rangeOnly.cap(1), span))
+            return false;
+    } else {
+        m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+        return false;
+    }
+    return true;
+}
+
+bool ModAsmFe::parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t* span)
+{
+    const qint64 total = qint64(m_pageSize) * m_pageCount;
+    qint64 start = 0;
+    qint64 stop = 0;
+    QRegExp page("PAGE([0-9])+");
+    QRegExp pair("(\\S+):(\\S+)");
+    if (range.startsWith(QLatin1String("PAGE"))) {
+        if (!page.exactMatch(range)) {
+            m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+            return false;
+        }
+        bool ok = false;
+        const qint64 number = range.mid(4).toLongLong(&ok);
+        start = ok && number < m_pageCount ? number * m_pageSize : total;
+        stop = start + m_pageSize - 1;
+    } else if (AsmFeParseArg::isNumeric(range)) {
+        start = stop = m_parseArg->toNumeric(range);
+    } else if (pair.exactMatch(range)) {
+        for (const QString& part : {pair.cap(1), pair.cap(2)}) {
+            if (!AsmFeParseArg::isNumeric(part)) {
+                m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, part);
+                return false;
+            }
+        }
+        start = m_parseArg->toNumeric(pair.cap(1));
+        stop = m_parseArg->toNumeric(pair.cap(2));
+    } else {
+        m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+        return false;
+    }
+    const auto outside = [total](qint64 addr) { return addr < 0 || addr >= total; };
+    if (outside(start) || outside(stop)) {
+        m_msgHndlr->signMsg(outside(start) ? errIODevRangeStartAddrOutsideOfInstMem
+                                           : errIODevRangeStopAddrOutsideOfInstMem,
+                            &set->srcRef, QString::number(outside(start) ? start : stop), QString::number(total - 1));
+        return false;
+    }
+    span->start = int(start);
+    span->stop = int(stop);
+    return true;
+}
+
+bool ModAsmFe::parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* span)
+{
+    QRegExp pair("(\\S+):(\\S+)");
+    if (!pair.exactMatch(bits)) {
+        m_msgHndlr->signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
+        return false;
+    }
+    for (const QString& part : {pair.cap(1), pair.cap(2)}) {
+        if (!AsmFeParseArg::isNumeric(part)) {
+            m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, part);
+            return false;
+        }
+    }
+    const int high = m_parseArg->toNumeric(pair.cap(1));
+    const int low = m_parseArg->toNumeric(pair.cap(2));
+    if (high < low || low < 0 || low > 31) {
+        m_msgHndlr->signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
+        return false;
+    }
+    span->low = low;
+    span->mask = qint64(high) - low + 1 >= 32 ? ~0u : (1u << (high - low + 1)) - 1;
+    return true;
+}
+
+bool ModAsmFe::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr)
+{
+    for (Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+        if (opcode->memRange != 0) {
+            if (!mapInstWord(dev, set, span, addr, opcode, opcode->memAddr))
+                return false;
+            continue;
+        }
+        const qint64 end = qMax(span.start, span.stop);
+        for (qint64 memAddr = opcode->memAddr; memAddr <= end; memAddr += m_pageSize) {
+            if (!mapInstWord(dev, set, span, addr, opcode, memAddr))
+                return false;
+        }
+    }
+    return true;
+}
+
+/// Copies one word into the device, if it lies in the span.
+bool ModAsmFe::mapInstWord(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr, Opcode* opcode, qint64 memAddr)
+{
+    if (!span.contains(memAddr))
+        return true;
+    opcode->mappedToIODev = true;
+    const qint64 cell = addr + (span.stop >= span.start ? memAddr - span.start : span.start - memAddr);
+    if (cell > maxMemWords) {
+        m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell),
+                            QString::number(dev->memSize));
+        return false;
+    }
+    if (!dev->isInitValue(int(cell)))
+        m_msgHndlr->signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(cell));
+    const unsigned int word = (static_cast<unsigned int>(opcode->instWord) >> span.low) & span.mask;
+    if (dev->setValue(int(cell), word, &opcode->srcRef, opcode->memRange == 0))
+        return true;
+    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell),
+                        QString::number(dev->memSize));
+    return false;
+}
+
+} // namespace nsModAsmFe

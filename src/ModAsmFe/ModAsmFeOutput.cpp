@@ -1,0 +1,117 @@
+// Output files: which kinds an event writes, and their writers.
+
+#include "ModAsmFe.h"
+
+#include "AsmFeFileHndlr.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "TargetFileWriteVerilog.h"
+#include "TargetFileWriteVhdl.h"
+#include "TargetWriteFileHex.h"
+#include "TargetWriteFileMem.h"
+
+#include <QFileInfo>
+
+namespace nsModAsmFe {
+
+bool ModAsmFe::mapIODevToFile(eAssembleEvent_t event)
+{
+    const auto wanted = [event](const TargetConfig& config) {
+        switch (event) {
+        case eEventButton1:
+            return config.writeFileEventBut1;
+        case eEventButton2:
+            return config.writeFileEventBut2;
+        case eEventSave:
+            return config.writeFileEventSave;
+        case eEventNone:
+            break;
+        }
+        return false;
+    };
+    if (!wanted(targetVhdl) && !wanted(targetVerilog) && !wanted(targetHex) && !wanted(targetMem)) {
+        m_msgHndlr->signMsg(infoIODevNothingToDoForWriteEvent);
+        return true;
+    }
+    // A kind that fails does not keep the others from being written.
+    bool success = true;
+    if (wanted(targetVhdl))
+        success = mapIODevToFileVhdl() && success;
+    if (wanted(targetVerilog))
+        success = mapIODevToFileVerilog() && success;
+    if (wanted(targetHex))
+        success = mapIODevToFileHex() && success;
+    if (wanted(targetMem))
+        success = mapIODevToFileMem() && success;
+    return success;
+}
+
+/// @return the file is none that the run has read: those would be lost
+bool ModAsmFe::checkTargetFile(const QString& file)
+{
+    const QString canonical = QFileInfo(file).canonicalFilePath();
+    if (canonical.isEmpty())
+        return true;
+    QStringList inputs = m_fileHndlr->files();
+    inputs.append(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
+    for (const QString& input : qAsConst(inputs)) {
+        if (QFileInfo(input).canonicalFilePath() == canonical) {
+            m_msgHndlr->signError(tr("Output file would overwrite a file of the project: %1").arg(file));
+            return false;
+        }
+    }
+    return true;
+}
+
+template <class Write>
+bool ModAsmFe::mapIODevToFiles(const QString& groupText, bool IODev::*en, QString IODev::*file, Write write)
+{
+    openGroup(groupText);
+    bool success = true;
+    bool any = false;
+    for (IODev* dev : m_ioDevList.devices()) {
+        if (!(dev->*en))
+            continue;
+        any = true;
+        if (!checkTargetFile(dev->*file) || !write(dev)) {
+            success = false;
+            break;
+        }
+        m_msgHndlr->signMsg(infoIODevWriteFile, dev->devName, dev->*file);
+        m_writtenFiles.append(dev->*file);
+    }
+    if (!any)
+        m_msgHndlr->signMsg(warnIODevNoFileToWrite);
+    closeGroup(success);
+    return success;
+}
+
+bool ModAsmFe::mapIODevToFileVhdl()
+{
+    TargetFileWriteVhdl writer(modMsgHook);
+    return mapIODevToFiles(tr("Writing vhdl files..."), &IODev::targetVhdlEn, &IODev::vhdlTargetFile,
+                           [&](IODev* dev) { return writer.writeFile(dev, &m_metaTags); });
+}
+
+bool ModAsmFe::mapIODevToFileVerilog()
+{
+    TargetFileWriteVerilog writer(modMsgHook);
+    return mapIODevToFiles(tr("Writing verilog files..."), &IODev::targetVerilogEn, &IODev::verilogTargetFile,
+                           [&](IODev* dev) { return writer.writeFile(dev, &m_metaTags); });
+}
+
+bool ModAsmFe::mapIODevToFileHex()
+{
+    TargetWriteFileHex writer(modMsgHook);
+    return mapIODevToFiles(tr("Writing hex files..."), &IODev::targetHexEn, &IODev::hexTargetFile,
+                           [&](IODev* dev) { return writer.writeFile(dev); });
+}
+
+bool ModAsmFe::mapIODevToFileMem()
+{
+    TargetWriteFileMem writer(modMsgHook);
+    return mapIODevToFiles(tr("Writing mem files..."), &IODev::targetMemEn, &IODev::memTargetFile,
+                           [&](IODev* dev) { return writer.writeFile(dev); });
+}
+
+} // namespace nsModAsmFe

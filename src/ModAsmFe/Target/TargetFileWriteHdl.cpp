@@ -1,0 +1,251 @@
+#include "TargetFileWriteHdl.h"
+
+#include "IODev.h"
+#include "MetaTags.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstring>
+
+namespace nsModAsmFe {
+
+/// One kind of block: the token that stands for it, without its index and closing brace, and who delivers it.
+struct TargetFileWriteHdl::sBlock_t
+{
+    const char* prefix;
+    QByteArray (TargetFileWriteHdl::*get)(qint64 index);
+};
+
+namespace {
+
+bool isHexDigit(char c)
+{
+    return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+/// Finds the last token of a kind in a line: the prefix in any case, hexadecimal digits and a closing brace.
+/// @param digits whether digits stand between prefix and brace
+/// @return the token as written, empty if there is none
+QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
+{
+    const int prefixLength = int(std::strlen(prefix));
+    for (int pos = line.size() - prefixLength - 1; pos >= 0; --pos) {
+        if (qstrnicmp(line.constData() + pos, prefix, uint(prefixLength)) != 0)
+            continue;
+        int end = pos + prefixLength;
+        while (digits && end < line.size() && isHexDigit(line.at(end)))
+            ++end;
+        if (end < line.size() && line.at(end) == '}' && (!digits || end > pos + prefixLength))
+            return line.mid(pos, end + 1 - pos);
+    }
+    return QByteArray();
+}
+
+void appendDigit(QByteArray* text, unsigned int value)
+{
+    text->append("0123456789ABCDEF"[value & 0xf]);
+}
+
+const int digitsPerBlock = 64;
+
+} // namespace
+
+bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
+{
+    m_dev = dev;
+    m_warnStuffing = true;
+    m_dev->clearWritten();
+    const sTarget_t hdl = target(dev);
+    if (!checkType(dev))
+        return false;
+    if (hdl.entityName.isEmpty())
+        return fail(tr("%1 entity name for %2 is not defined.").arg(hdl.language, dev->devName));
+    if (hdl.templateFile.isEmpty())
+        return fail(tr("%1 template file for %2 is not defined.").arg(hdl.language, dev->devName));
+    if (hdl.outputFile.isEmpty())
+        return fail(tr("%1 output file for %2 is not defined.").arg(hdl.language, dev->devName));
+    if (!checkSize(dev))
+        return false;
+    // The template is read before the output is touched; and an output that is the template would destroy it.
+    QByteArray text;
+    if (!fillTemplate(hdl, *metaTags, &text))
+        return fail(tr("Can not open template file: %1").arg(hdl.templateFile));
+    const QString canonical = QFileInfo(hdl.outputFile).canonicalFilePath();
+    if (!canonical.isEmpty() && canonical == QFileInfo(hdl.templateFile).canonicalFilePath())
+        return fail(tr("Can not open destination file: %1").arg(hdl.outputFile));
+    return writeBytes(hdl.outputFile, text, tr("Can not open destination file: %1")) && checkComplete();
+}
+
+bool TargetFileWriteHdl::fillTemplate(const sTarget_t& target, const MetaTags& metaTags, QByteArray* text)
+{
+    QFile templ(target.templateFile);
+    if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    bool begun = false;
+    while (!templ.atEnd()) {
+        QByteArray line = templ.readLine();
+        if (!begun) {
+            begun = line.toUpper().contains("{BEGIN TEMPLATE}");
+            continue;
+        }
+        // A NUL byte ends its line.
+        line.truncate(int(qstrnlen(line.constData(), uint(line.size()))));
+        fillLine(&line, target, metaTags);
+        text->append(line);
+    }
+    return true;
+}
+
+bool TargetFileWriteHdl::fillBlock(QByteArray* line, const sBlock_t& block)
+{
+    const QByteArray token = lastToken(*line, block.prefix, true);
+    if (token.isEmpty())
+        return false;
+    const int prefixLength = int(std::strlen(block.prefix));
+    const int index = token.mid(prefixLength, token.size() - prefixLength - 1).toInt(nullptr, 16);
+    line->replace(token, (this->*block.get)(index));
+    return true;
+}
+
+void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+{
+    if (!line->contains('{'))
+        return;
+    static const sBlock_t init = {"{INIT_", &TargetFileWriteHdl::getInit};
+    static const sBlock_t initP = {"{INITP_", &TargetFileWriteHdl::getInitP};
+    static const sBlock_t initH = {"{[17:9]_INIT_", &TargetFileWriteHdl::getInitH};
+    static const sBlock_t initHP = {"{[17:9]_INITP_", &TargetFileWriteHdl::getInitHP};
+    static const sBlock_t initL = {"{[8:0]_INIT_", &TargetFileWriteHdl::getInitL};
+    static const sBlock_t initPL = {"{[8:0]_INITP_", &TargetFileWriteHdl::getInitPL};
+    if (!fillBlock(line, init))
+        fillBlock(line, initP);
+    if (!fillBlock(line, initH))
+        fillBlock(line, initHP);
+    if (!fillBlock(line, initL) && !fillBlock(line, initPL))
+        fillMetaTag(line, target, metaTags);
+}
+
+bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+{
+    const struct
+    {
+        const char* prefix;
+        const QString& text;
+    } tags[] = {
+        {"{ENTITYNAME", target.entityName},          {"{TIMESTAMP", metaTags.dateTime},
+        {"{PROJECTTITLE", metaTags.prjTitle},        {"{PROJECTCOMMENT", metaTags.prjComment},
+        {"{PROJECTVERSION", metaTags.prjVersion},    {"{PROJECTPATH", metaTags.prjPath},
+        {"{PROJECTFILENAME", metaTags.prjFileName},  {"{NAME", target.entityName},
+        {"{PSMNAME", metaTags.prjFileName},
+    };
+    for (const auto& tag : tags) {
+        const QByteArray token = lastToken(*line, tag.prefix, false);
+        if (token.isEmpty())
+            continue;
+        line->replace(token, tag.text.toUtf8());
+        return true;
+    }
+    return false;
+}
+
+unsigned int TargetFileWriteHdl::getOpcode(int addr)
+{
+    unsigned int value = 0;
+    if (!m_dev->value(addr, &value))
+        return m_dev->initValue;
+    m_dev->setWritten(addr);
+    return value;
+}
+
+void TargetFileWriteHdl::signWarningStuffingMemory()
+{
+    if (m_warnStuffing)
+        warn(tr("Template memory size bigger than expected: Stuffing with zeros"));
+    m_warnStuffing = false;
+}
+
+/// @param words words in a block
+/// @param wordsPerStep words that one call of `digits` takes, from the address that it gets downwards
+template <class Digits>
+QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerStep, Digits digits)
+{
+    const qint64 first = index * words;
+    if (first < 0 || first + words - 1 >= m_dev->memSize) {
+        signWarningStuffingMemory();
+        return QByteArray(digitsPerBlock, '0');
+    }
+    QByteArray text;
+    text.reserve(digitsPerBlock);
+    for (int addr = int(first) + words - 1; addr >= int(first); addr -= wordsPerStep)
+        digits(&text, addr);
+    return text;
+}
+
+QByteArray TargetFileWriteHdl::getInit(qint64 index)
+{
+    return getBlock(index, 16, 1, [this](QByteArray* text, int addr) {
+        const unsigned int value = getOpcode(addr);
+        for (int shift = 12; shift >= 0; shift -= 4)
+            appendDigit(text, value >> shift);
+    });
+}
+
+QByteArray TargetFileWriteHdl::getInitP(qint64 index)
+{
+    return getBlock(index, 128, 2, [this](QByteArray* text, int addr) {
+        const unsigned int high = getOpcode(addr);
+        const unsigned int low = getOpcode(addr - 1);
+        appendDigit(text, ((low >> 16) & 3u) | ((high >> 14) & 12u));
+    });
+}
+
+QByteArray TargetFileWriteHdl::getInitL(qint64 index)
+{
+    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+        const unsigned int value = getOpcode(addr);
+        appendDigit(text, value >> 4);
+        appendDigit(text, value);
+    });
+}
+
+QByteArray TargetFileWriteHdl::getInitH(qint64 index)
+{
+    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+        const unsigned int value = getOpcode(addr) >> 9;
+        appendDigit(text, value >> 4);
+        appendDigit(text, value);
+    });
+}
+
+/// One bit of each of 256 words, four to a digit, the lowest address in the digit's lowest bit.
+QByteArray TargetFileWriteHdl::getParityBlock(qint64 index, int bit)
+{
+    return getBlock(index, 256, 4, [this, bit](QByteArray* text, int addr) {
+        unsigned int digit = 0;
+        for (int i = 0; i < 4; ++i)
+            digit = (digit << 1) | ((getOpcode(addr - i) >> bit) & 1u);
+        appendDigit(text, digit);
+    });
+}
+
+QByteArray TargetFileWriteHdl::getInitPL(qint64 index)
+{
+    return getParityBlock(index, 8);
+}
+
+QByteArray TargetFileWriteHdl::getInitHP(qint64 index)
+{
+    return getParityBlock(index, 17);
+}
+
+bool TargetFileWriteHdl::checkComplete()
+{
+    for (int addr = 0; addr < m_dev->memSize; ++addr) {
+        if (!m_dev->isWritten(addr))
+            return fail(tr("Opcode at address %1 was not written to file!").arg(addr));
+    }
+    return true;
+}
+
+} // namespace nsModAsmFe

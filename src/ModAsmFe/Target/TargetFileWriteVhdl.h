@@ -1,0 +1,19 @@
+#pragma once
+
+#include "TargetFileWriteHdl.h"
+
+namespace nsModAsmFe {
+
+/// Fills a VHDL template.
+class TargetFileWriteVhdl : public TargetFileWriteHdl
+{
+    Q_OBJECT
+
+public:
+    using TargetFileWriteHdl::TargetFileWriteHdl;
+
+protected:
+    sTarget_t target(const IODev* dev) const override;
+};
+
+} // namespace nsModAsmFe

@@ -1,0 +1,28 @@
+#include "TargetWriteFileHex.h"
+
+#include "HexText.h"
+#include "IODev.h"
+
+namespace nsModAsmFe {
+
+bool TargetWriteFileHex::writeFile(IODev* dev)
+{
+    if (!checkType(dev))
+        return false;
+    if (dev->hexTargetFile.isEmpty())
+        return fail(tr("Hex output file for %1 is not defined.").arg(dev->devName));
+    if (!checkSize(dev))
+        return false;
+    QByteArray text;
+    text.reserve(dev->memSize * 6);
+    for (int addr = 0; addr < dev->memSize; ++addr) {
+        unsigned int value = 0;
+        if (!dev->value(addr, &value))
+            return fail(tr("Internal error: addrIterator exceeds memSize"));
+        appendHexWord(&text, value);
+        text.append('\n');
+    }
+    return writeBytes(dev->hexTargetFile, text, tr("Can not open output file: %1"));
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "TargetMapper.h"
+
+namespace nsModAsmFe {
+
+/// Writes a device's contents as a hex file: one word a line, from address 0 to the end.
+class TargetWriteFileHex : public TargetMapper
+{
+    Q_OBJECT
+
+public:
+    using TargetMapper::TargetMapper;
+
+    /// @return false after a reported error
+    bool writeFile(IODev* dev);
+};
+
+} // namespace nsModAsmFe

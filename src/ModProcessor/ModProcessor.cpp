@@ -1,0 +1,117 @@
+#include "ModProcessor.h"
+
+#include "ModActionHookIf.h"
+#include "ModAsmFeHookIf.h"
+#include "ModCfgAppHookIf.h"
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
+#include "ProcList.h"
+#include "ProcPluginIf.h"
+
+namespace nsModProcessor {
+
+namespace {
+
+const char* const keyProcessor = "ModProcessor/processor";
+
+template <class Plugin, class Hook>
+void registerAt(Hook* hook, ProcPluginIf* processor)
+{
+    if (hook != nullptr)
+        hook->registerPlugin(static_cast<Plugin*>(processor));
+}
+
+template <class Plugin, class Hook>
+void unregisterAt(Hook* hook, ProcPluginIf* processor)
+{
+    if (hook != nullptr)
+        hook->unregisterPlugin(static_cast<Plugin*>(processor));
+}
+
+} // namespace
+
+ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_unique<ProcList>()) {}
+
+ModProcessor::~ModProcessor() = default;
+
+void ModProcessor::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, "processor");
+}
+
+void ModProcessor::prjOpen()
+{
+    processor = modPrjHook->value(keyProcessor, QString());
+    setupProcessorIf();
+    if (m_current != nullptr)
+        m_current->rdCfg();
+}
+
+void ModProcessor::prjSave()
+{
+    modPrjHook->setValue(keyProcessor, processor);
+    if (m_current != nullptr)
+        m_current->wrCfg();
+}
+
+void ModProcessor::prjClose()
+{
+    if (m_current == nullptr)
+        return;
+    ProcPluginIf* leaving = m_current;
+    m_current = nullptr;
+    detach(leaving);
+}
+
+bool ModProcessor::configPageCloseRequest()
+{
+    return m_current == nullptr || m_current->configWidgetCloseRequest();
+}
+
+void ModProcessor::setupProcessorIf()
+{
+    setupProcessorIf(m_list->interface(processor));
+}
+
+void ModProcessor::setupProcessorIf(ProcPluginIf* next)
+{
+    if (next == m_current)
+        return;
+    if (m_current != nullptr)
+        detach(m_current);
+    if (next != nullptr)
+        attach(next);
+    m_current = next;
+}
+
+void ModProcessor::attach(ProcPluginIf* next)
+{
+    next->modInit();
+    registerAt<ModGuiPluginIf>(modGuiHook, next);
+    registerAt<ModMsgPluginIf>(modMsgHook, next);
+    registerAt<ModEditorPluginIf>(modEditorHook, next);
+    registerAt<ModAsmFePluginIfBackend>(modAsmFeHook, next);
+    registerAt<ModActionPluginIf>(modActionHook, next);
+    registerAt<ModCfgAppPluginIfInterMod>(modCfgAppHook, next);
+    registerAt<ModPrjPluginIfInterMod>(modPrjHook, next);
+    next->modInitIntermod();
+}
+
+void ModProcessor::detach(ProcPluginIf* leaving)
+{
+    leaving->modExitIntermod();
+    unregisterAt<ModPrjPluginIfInterMod>(modPrjHook, leaving);
+    unregisterAt<ModCfgAppPluginIfInterMod>(modCfgAppHook, leaving);
+    unregisterAt<ModGuiPluginIf>(modGuiHook, leaving);
+    unregisterAt<ModMsgPluginIf>(modMsgHook, leaving);
+    unregisterAt<ModEditorPluginIf>(modEditorHook, leaving);
+    unregisterAt<ModAsmFePluginIfBackend>(modAsmFeHook, leaving);
+    unregisterAt<ModActionPluginIf>(modActionHook, leaving);
+    leaving->modExit();
+}
+
+} // namespace nsModProcessor

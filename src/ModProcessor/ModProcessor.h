@@ -1,0 +1,85 @@
+#pragma once
+
+#include "ModActionPluginIf.h"
+#include "ModAsmFePluginIf.h"
+#include "ModCfgAppPluginIf.h"
+#include "ModConfigPluginIf.h"
+#include "ModEditorPluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
+#include "ProcConfig.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace nsModProcessor {
+
+class ProcList;
+class ProcPluginIf;
+
+/// The registry of processors: keeps exactly one of them, or none, attached to the other modules.
+///
+/// All processors live as long as the module; which of them is attached is the project's choice.
+class ModProcessor : public QObject,
+                     public ModPluginIf,
+                     public ModMsgPluginIf,
+                     public ModConfigPluginIfDflt,
+                     public ModPrjPluginIf,
+                     public ModGuiPluginIf,
+                     public ModScriptPluginIf,
+                     public ModCfgAppPluginIfInterMod,
+                     public ModEditorPluginIfInterMod,
+                     public ModAsmFePluginIfInterMod,
+                     public ModActionPluginIfInterMod,
+                     public ProcConfig
+{
+    Q_OBJECT
+
+public:
+    explicit ModProcessor(QObject* parent = nullptr);
+    ~ModProcessor() override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*>) override {}
+    void modInit() override {}
+    void modInitIntermod() override;
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override {}
+    void modExit() override {}
+
+    // ModPrjPluginIf
+    void prjOpen() override;
+    void prjOpened() override {}
+    void prjSave() override;
+    void prjClose() override;
+
+    // ModGuiPluginIf
+    void removeWidgetRequest(QWidget*) override {}
+    void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
+
+    // ModConfigPluginIf
+    bool configPageCloseRequest() override;
+
+    /// Attaches the processor that the present configuration names, or none.
+    void setupProcessorIf();
+    /// Attaches the processor in place of the present one. The same one again keeps its state.
+    /// @param processor may be null
+    void setupProcessorIf(ProcPluginIf* processor);
+    /// The attached processor, null if there is none. Owned by the list.
+    ProcPluginIf* currentProcessor() const { return m_current; }
+    ProcList* processorList() const { return m_list.get(); }
+
+private:
+    void attach(ProcPluginIf* processor);
+    void detach(ProcPluginIf* processor);
+
+    std::unique_ptr<ProcList> m_list;
+    ProcPluginIf* m_current = nullptr; ///< not owned
+};
+
+} // namespace nsModProcessor

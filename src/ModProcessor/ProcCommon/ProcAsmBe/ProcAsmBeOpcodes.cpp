@@ -1,0 +1,188 @@
+// The machine words: one function a form, each with the checks of its arguments in their order.
+
+#include "ProcAsmBe.h"
+
+#include "AsmFeMsgHndlr.h"
+#include "ModAsmFeHookIf.h"
+#include "Opcode.h"
+#include "OpcodeList.h"
+
+namespace nsProc {
+
+using namespace nsModAsmFe;
+
+namespace {
+
+/// Place of the word for a flag; wordAlways if the argument is none.
+eWordFlow_t wordOfFlag(const Arg* arg)
+{
+    switch (arg->type) {
+    case Arg::flagZ:
+        return wordZ;
+    case Arg::flagNZ:
+        return wordNZ;
+    case Arg::flagC:
+        return wordC;
+    case Arg::flagNC:
+        return wordNC;
+    default:
+        return wordAlways;
+    }
+}
+
+bool exceeds(const Arg* arg, int maximum)
+{
+    // Negative numbers are too large, as they are to the hardware.
+    return static_cast<unsigned int>(arg->iValue) > static_cast<unsigned int>(maximum);
+}
+
+} // namespace
+
+bool ProcAsmBe::assembleOpcodes()
+{
+    bool success = true;
+    for (Opcode* opcode = m_opcodes->first(); opcode != nullptr; opcode = opcode->next)
+        success = assembleOpcode(opcode) && success;
+    return success;
+}
+
+bool ProcAsmBe::assembleOpcode(Opcode* opcode)
+{
+    const sInstr_t* instr = opcode->opcode < ocCount ? m_instrOf[opcode->opcode] : nullptr;
+    if (instr == nullptr) {
+        modAsmFeHook->msgHndlr()->signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
+        return false;
+    }
+    switch (instr->form) {
+    case formTwoOperand:
+        return assembleTwoOperand(opcode, *instr);
+    case formPort:
+    case formScrpd:
+        return assemblePort(opcode, *instr);
+    case formFlow:
+        return assembleFlow(opcode, *instr);
+    case formReturn:
+        return assembleReturn(opcode, *instr);
+    case formSwitch:
+        return assembleSwitch(opcode, *instr);
+    case formNone:
+        return assembleNone(opcode, *instr);
+    case formReg:
+        return assembleReg(opcode, *instr);
+    }
+    return false;
+}
+
+/// Reports an argument that has no place in the instruction. @return false
+bool ProcAsmBe::refuse(const Opcode* opcode, const Arg* arg)
+{
+    modAsmFeHook->msgHndlr()->signMsg(errUnsupportedArgument, &opcode->srcRef, arg->name);
+    return false;
+}
+
+bool ProcAsmBe::assembleTwoOperand(Opcode* opcode, const sInstr_t& instr)
+{
+    const Arg* arg0 = opcode->arg0;
+    const Arg* arg1 = opcode->arg1;
+    if (arg0->type != Arg::reg)
+        return refuse(opcode, arg0);
+    const int dst = assembleArg_regDst(arg0->strValue);
+    if (arg1->type == Arg::reg) {
+        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1->strValue);
+        return true;
+    }
+    if (arg1->type != Arg::numeric)
+        return refuse(opcode, arg1);
+    if (exceeds(arg1, m_layout.maxNumber)) {
+        signMsg(errExceededMaxNumeric, &opcode->srcRef, arg1->name, m_layout.maxNumber);
+        return false;
+    }
+    opcode->instWord = instr.words[wordNumber] + dst + arg1->iValue;
+    return true;
+}
+
+bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
+{
+    const Arg* arg0 = opcode->arg0;
+    const Arg* arg1 = opcode->arg1;
+    const bool isPort = instr.form == formPort;
+    if (arg0->type != Arg::reg)
+        return refuse(opcode, arg0);
+    const int dst = assembleArg_regDst(arg0->strValue);
+    if (arg1->type == Arg::regRef) {
+        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1->strValue);
+        return true;
+    }
+    if (arg1->type == Arg::numeric) {
+        const int maximum = isPort ? m_layout.maxPort : m_scrpdMax;
+        if (exceeds(arg1, maximum)) {
+            signMsg(isPort ? errExceededMaxPort : errExceededScrpdSize, &opcode->srcRef, arg1->name, maximum);
+            return false;
+        }
+        opcode->instWord = instr.words[wordNumber] + dst + arg1->iValue;
+        return true;
+    }
+    if (arg1->type == Arg::reg) {
+        signMsg(errUnenclosedRegister, &opcode->srcRef, arg1->name, 0);
+        return false;
+    }
+    return refuse(opcode, arg1);
+}
+
+bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
+{
+    const Arg* arg0 = opcode->arg0;
+    const Arg* arg1 = opcode->arg1;
+    const bool always = arg1->type == Arg::empty;
+    const eWordFlow_t word = wordOfFlag(arg0);
+    if (!always && word == wordAlways)
+        return refuse(opcode, arg0);
+    const Arg* target = always ? arg0 : arg1;
+    if (target->type != Arg::label)
+        return refuse(opcode, target);
+    opcode->instWord = instr.words[always ? wordAlways : word] + target->labelOpcode->pageAddr;
+    return true;
+}
+
+bool ProcAsmBe::assembleReturn(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg1->type != Arg::empty)
+        return refuse(opcode, opcode->arg1);
+    const eWordFlow_t word = wordOfFlag(opcode->arg0);
+    if (word == wordAlways && opcode->arg0->type != Arg::empty)
+        return refuse(opcode, opcode->arg0);
+    opcode->instWord = instr.words[word];
+    return true;
+}
+
+bool ProcAsmBe::assembleSwitch(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg1->type != Arg::empty)
+        return refuse(opcode, opcode->arg1);
+    if (opcode->arg0->type != Arg::enable && opcode->arg0->type != Arg::disable)
+        return refuse(opcode, opcode->arg0);
+    opcode->instWord = instr.words[opcode->arg0->type == Arg::enable ? wordEnable : wordDisable];
+    return true;
+}
+
+bool ProcAsmBe::assembleNone(Opcode* opcode, const sInstr_t& instr)
+{
+    for (const Arg* arg : {opcode->arg0, opcode->arg1}) {
+        if (arg->type != Arg::empty)
+            return refuse(opcode, arg);
+    }
+    opcode->instWord = instr.words[0];
+    return true;
+}
+
+bool ProcAsmBe::assembleReg(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg0->type != Arg::reg)
+        return refuse(opcode, opcode->arg0);
+    if (opcode->arg1->type != Arg::empty)
+        return refuse(opcode, opcode->arg1);
+    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0->strValue);
+    return true;
+}
+
+} // namespace nsProc

@@ -1,0 +1,147 @@
+#include "ProcShell.h"
+
+#include "ProcAsmBe.h"
+
+#include "ModAsmFeHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+
+namespace nsProc {
+
+ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent) : QObject(parent), m_config(config) {}
+
+void ProcShell::modInit()
+{
+    if (m_asmBe == nullptr) {
+        m_asmBe = createAsmBe();
+        m_asmBe->setParent(this);
+    }
+}
+
+void ProcShell::modInitIntermod()
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->registerPlugin(m_asmBe);
+    if (modAsmFeHook != nullptr)
+        modAsmFeHook->registerPlugin(m_asmBe);
+}
+
+void ProcShell::modExitIntermod()
+{
+    if (m_asmBe == nullptr)
+        return;
+    if (modMsgHook != nullptr)
+        modMsgHook->unregisterPlugin(m_asmBe);
+    if (modAsmFeHook != nullptr)
+        modAsmFeHook->unregisterPlugin(m_asmBe);
+}
+
+void ProcShell::modExit()
+{
+    delete m_asmBe;
+    m_asmBe = nullptr;
+}
+
+nsModProcessor::ProcConfigPluginIf* ProcShell::configWidget()
+{
+    return nullptr;
+}
+
+void ProcShell::configWidgetSetConfig() {}
+
+void ProcShell::configWidgetFetchConfig() {}
+
+bool ProcShell::configWidgetCloseRequest()
+{
+    return true;
+}
+
+void ProcShell::configWidgetClose() {}
+
+QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
+{
+    return {{"memMap/pageSize", &settings->pageSize}};
+}
+
+void ProcShell::rdCfg()
+{
+    if (modPrjHook == nullptr)
+        return;
+    m_settings = defaultConfig();
+    // A frequency is stored in whole Hz, and may be larger than an int.
+    m_settings.clkFreq =
+        modPrjHook->value(cfgSection() + "/clkFreq", QString::number(m_settings.clkFreq, 'f', 0)).toDouble();
+    for (const auto& number : cfgNumbers(&m_settings))
+        *number.second = modPrjHook->value(cfgSection() + '/' + number.first, *number.second);
+    setSettings(m_settings);
+}
+
+void ProcShell::setSettings(const ProcCoreConfig& settings)
+{
+    m_settings = settings;
+    *m_config = settings;
+}
+
+void ProcShell::wrCfg()
+{
+    if (modPrjHook == nullptr)
+        return;
+    modPrjHook->setValue(cfgSection() + "/clkFreq", QString::number(m_settings.clkFreq, 'f', 0));
+    for (const auto& number : cfgNumbers(&m_settings))
+        modPrjHook->setValue(cfgSection() + '/' + number.first, *number.second);
+}
+
+QString ProcShell::processorDefine()
+{
+    return m_asmBe != nullptr ? m_asmBe->processorDefine() : QString();
+}
+
+const QHash<QString, int>* ProcShell::regNames()
+{
+    return m_asmBe != nullptr ? m_asmBe->regNames() : nullptr;
+}
+
+const QHash<QString, int>* ProcShell::regBankNames()
+{
+    return m_asmBe != nullptr ? m_asmBe->regBankNames() : nullptr;
+}
+
+bool ProcShell::assembleStage1()
+{
+    if (modAsmFeHook == nullptr || m_asmBe == nullptr)
+        return false;
+    *m_config = m_settings;
+    return modAsmFeHook->instMemConfig(&m_config->pageSize, &m_config->pageCount, &m_config->sharedMemHi) &&
+           m_asmBe->assembleStage1(m_config);
+}
+
+bool ProcShell::assembleStage2()
+{
+    return m_asmBe != nullptr && m_asmBe->assembleStage2();
+}
+
+void ProcShell::setAssembled(bool)
+{
+    // Only a running simulator takes interest in the result.
+}
+
+int ProcShell::beConfig()
+{
+    return m_settings.pageSize;
+}
+
+void ProcShell::removeWidgetRequest(QWidget*) {}
+
+void ProcShell::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) {}
+
+QList<QAction*> ProcShell::menuActions(ModActionHookIf::eActionClass_t)
+{
+    return {};
+}
+
+QList<QAction*> ProcShell::toolBarActions(ModActionHookIf::eActionClass_t)
+{
+    return {};
+}
+
+} // namespace nsProc

@@ -1,0 +1,32 @@
+#include "XPBlze3.h"
+
+#include "XPBlze3AsmBe.h"
+
+namespace nsXPBlze3 {
+
+XPBlze3::XPBlze3(QObject* parent) : ProcShell(this, parent)
+{
+    setSettings(defaultConfig());
+}
+
+QString XPBlze3::processorName()
+{
+    return QStringLiteral("Xilinx PicoBlaze 3");
+}
+
+nsProc::ProcAsmBe* XPBlze3::createAsmBe()
+{
+    return new XPBlze3AsmBe;
+}
+
+QString XPBlze3::cfgSection() const
+{
+    return QStringLiteral("XPBlze3");
+}
+
+nsProc::ProcCoreConfig XPBlze3::defaultConfig() const
+{
+    return XPBlze3Config();
+}
+
+} // namespace nsXPBlze3

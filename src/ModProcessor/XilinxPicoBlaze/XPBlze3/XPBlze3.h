@@ -1,0 +1,24 @@
+#pragma once
+
+#include "ProcShell.h"
+#include "XPBlze3Config.h"
+
+namespace nsXPBlze3 {
+
+/// The PicoBlaze 3.
+class XPBlze3 : public nsProc::ProcShell, public XPBlze3Config
+{
+    Q_OBJECT
+
+public:
+    explicit XPBlze3(QObject* parent = nullptr);
+
+    QString processorName() override;
+
+protected:
+    nsProc::ProcAsmBe* createAsmBe() override;
+    QString cfgSection() const override;
+    nsProc::ProcCoreConfig defaultConfig() const override;
+};
+
+} // namespace nsXPBlze3

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ProcAsmBe.h"
+
+namespace nsXPBlze3 {
+
+/// The assembler back end of the PicoBlaze 3.
+class XPBlze3AsmBe : public nsProc::ProcAsmBe
+{
+    Q_OBJECT
+
+public:
+    explicit XPBlze3AsmBe(QObject* parent = nullptr);
+
+    QString processorDefine() const override;
+
+protected:
+    int startScrpdMax() const override;
+};
+
+} // namespace nsXPBlze3

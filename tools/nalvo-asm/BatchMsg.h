@@ -1,0 +1,63 @@
+#pragma once
+
+#include "BatchOptions.h"
+#include "ModMsgHookIf.h"
+#include "ModPluginIf.h"
+#include "PluginList.h"
+
+#include <QStringList>
+
+namespace nsNalvoAsm {
+
+/// The message service of the batch assembler: prints each message as it comes, and counts.
+class BatchMsg : public ModMsgHookIf, public ModPluginIf
+{
+public:
+    explicit BatchMsg(const BatchOptions& options);
+
+    int errors() const { return m_errors; }
+    int warnings() const { return m_warnings; }
+    /// Prints the closing line.
+    void showSummary(bool success, int instructions, const QStringList& files);
+
+    // ModMsgHookIf
+    void registerPlugin(ModMsgPluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModMsgPluginIfInterMod* plugin) override;
+    void registerPlugin(ModMsgPluginIf* plugin) override;
+    void unregisterPlugin(ModMsgPluginIf* plugin) override;
+    void registerPluginUrlHndlr(eUrlHndlr_t, ModMsgPluginIfUrlHndlr*) override {}
+    void unregisterPluginUrlHndlr(eUrlHndlr_t, ModMsgPluginIfUrlHndlr*) override {}
+    /// Messages that were printed stay printed.
+    void clearMessages() override {}
+    void openMessageGroup(QString text, QUrl hlpDoc) override;
+    void closeMessageGroup(bool success) override;
+    void showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
+    void showInfoMessage(QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
+    void showWarningMessage(QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
+    void showErrorMessage(QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override {}
+    void modInitIntermod() override {}
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override {}
+    void modExit() override {}
+
+private:
+    bool isShown(eMsgType_t type) const;
+    void printText(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
+    void printJson(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
+
+    BatchOptions m_options;
+    PluginList<ModMsgPluginIf> m_plugins;
+    QStringList m_groups;
+    int m_errors = 0;
+    int m_warnings = 0;
+};
+
+/// The path as a user sees it: relative to the working folder.
+QString shownPath(const QString& path);
+
+} // namespace nsNalvoAsm

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "ModAsmFe.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace nsNalvoAsm {
+
+/// What the command line asks for.
+struct BatchOptions
+{
+    enum eFormat_t { formatText, formatJson };
+    enum eParse_t {
+        parseRun,   ///< go on with the options
+        parseEnd,   ///< help or version was shown
+        parseWrong, ///< the command line is wrong, which was told
+    };
+
+    /// Reads the arguments, and shows help, version or what is wrong with them.
+    eParse_t parse(const QStringList& arguments);
+
+    QString project;
+    nsModAsmFe::ModAsmFe::eAssembleEvent_t event = nsModAsmFe::ModAsmFe::eEventButton1;
+    eFormat_t format = formatText;
+    QString listingFile; ///< empty: none; "-": standard output
+    QString symbolsFile; ///< empty: none; "-": standard output
+    bool werror = false;
+    bool quiet = false;   ///< errors alone
+    bool verbose = false; ///< info messages and groups too
+
+private:
+    bool wrongUsage(const QString& text);
+    bool check();
+};
+
+} // namespace nsNalvoAsm

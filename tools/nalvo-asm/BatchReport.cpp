@@ -1,0 +1,160 @@
+#include "BatchReport.h"
+
+#include "AsmFeFileHndlr.h"
+#include "BatchMsg.h"
+#include "LineReader.h"
+#include "ModAsmFe.h"
+#include "Opcode.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSaveFile>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace nsNalvoAsm {
+
+using namespace nsModAsmFe;
+
+namespace {
+
+/// The instructions in the order of the memory. Shared code comes where it stands, once.
+std::vector<const Opcode*> opcodesByAddr(ModAsmFe* asmFe)
+{
+    std::vector<const Opcode*> opcodes;
+    for (const Opcode* opcode = asmFe->opcodeList()->first(); opcode != nullptr; opcode = opcode->next)
+        opcodes.push_back(opcode);
+    std::stable_sort(opcodes.begin(), opcodes.end(),
+                     [](const Opcode* a, const Opcode* b) { return a->memAddr < b->memAddr; });
+    return opcodes;
+}
+
+/// The lines of a source, without their ends, as bytes.
+std::vector<QByteArray> sourceLines(const QString& file)
+{
+    std::vector<QByteArray> lines;
+    QFile source(file);
+    if (!source.open(QIODevice::ReadOnly))
+        return lines;
+    LineReader reader(&source, ModAsmFe::maxLineLength);
+    QString line;
+    while (reader.readLine(&line)) {
+        if (line.endsWith('\n'))
+            line.chop(1);
+        lines.push_back(line.toLatin1());
+    }
+    return lines;
+}
+
+QByteArray hex(int value, int digits)
+{
+    return QByteArray::number(value, 16).toUpper().rightJustified(digits, '0');
+}
+
+QString rangeName(const ModAsmFe* asmFe, int number)
+{
+    const MemRange* range = asmFe->memRangeList()->find(number);
+    return range != nullptr ? range->name.toUpper() : QString();
+}
+
+QJsonValue equValue(const Arg* arg)
+{
+    switch (arg->type) {
+    case Arg::numeric:
+        return arg->iValue;
+    case Arg::stringUtf16:
+    case Arg::stringEncoded:
+    case Arg::reg:
+    case Arg::regBank:
+        return arg->strValue;
+    default:
+        return QJsonValue();
+    }
+}
+
+QString equKind(const Arg* arg)
+{
+    switch (arg->type) {
+    case Arg::stringUtf16:
+    case Arg::stringEncoded:
+        return QStringLiteral("string");
+    case Arg::reg:
+        return QStringLiteral("register");
+    case Arg::regBank:
+        return QStringLiteral("bank");
+    default:
+        return QString::fromLatin1(argTypeName(arg->type));
+    }
+}
+
+} // namespace
+
+QByteArray listingText(ModAsmFe* asmFe)
+{
+    std::vector<std::vector<QByteArray>> sources;
+    QList<QByteArray> files;
+    for (const QString& file : asmFe->fileHndlr()->files()) {
+        sources.push_back(sourceLines(file));
+        files.append(shownPath(file).toLocal8Bit());
+    }
+    QByteArray text;
+    for (const Opcode* opcode : opcodesByAddr(asmFe)) {
+        const SrcReference& ref = opcode->srcRef;
+        const std::vector<QByteArray>& lines = sources.at(size_t(ref.fileNo));
+        text += hex(opcode->memAddr, 4) + ' ' + rangeName(asmFe, opcode->memRange).toLocal8Bit() + ' ' +
+                hex(opcode->pageAddr, 3) + ' ' + hex(opcode->instWord, 5) + ' ' + files.at(ref.fileNo) + ':' +
+                QByteArray::number(ref.lineNo + 1) + ' ' +
+                (size_t(ref.lineNo) < lines.size() ? lines[size_t(ref.lineNo)] : QByteArray()) + '\n';
+    }
+    return text;
+}
+
+QByteArray symbolsText(ModAsmFe* asmFe)
+{
+    const AsmFeFileHndlr* files = asmFe->fileHndlr();
+    const auto place = [files](QJsonObject* object, const SrcReference& ref) {
+        object->insert("file", shownPath(files->absSrcFilePath(ref.fileNo)));
+        object->insert("line", ref.lineNo + 1);
+    };
+    QJsonArray labels;
+    for (const Label* label = asmFe->labelList()->first(); label != nullptr; label = label->next) {
+        const Opcode* target = asmFe->opcodeList()->nextOfLineIndex(label->srcRef.absLineNo);
+        const bool bound = target != nullptr && target->nameSpace == label->nameSpace;
+        QJsonObject object{{"name", qualifiedName(label->nameSpace, label->name)},
+                           {"address", bound ? QJsonValue(target->pageAddr) : QJsonValue()},
+                           {"page", bound ? QJsonValue(rangeName(asmFe, target->memRange)) : QJsonValue()}};
+        place(&object, label->srcRef);
+        labels.append(object);
+    }
+    QJsonArray equs;
+    for (const Equ* equ = asmFe->equList()->first(); equ != nullptr; equ = equ->next) {
+        QJsonObject object{{"name", qualifiedName(equ->nameSpace, equ->name)},
+                           {"kind", equKind(equ->arg)},
+                           {"value", equValue(equ->arg)},
+                           {"used", equ->used}};
+        place(&object, equ->srcRef);
+        equs.append(object);
+    }
+    return QJsonDocument(QJsonObject{{"labels", labels}, {"equs", equs}}).toJson();
+}
+
+bool writeReport(const QString& file, const QByteArray& text)
+{
+    if (file == "-") {
+        const bool written = std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size());
+        return std::fflush(stdout) == 0 && written;
+    }
+    // Written aside and renamed where that can be done; a device or a pipe is written directly.
+    QSaveFile report(file);
+    report.setDirectWriteFallback(true);
+    if (report.open(QIODevice::WriteOnly) && report.write(text) == text.size() && report.commit())
+        return true;
+    std::fprintf(stderr, "nalvo-asm: can not write %s: %s\n", file.toLocal8Bit().constData(),
+                 report.errorString().toLocal8Bit().constData());
+    return false;
+}
+
+} // namespace nsNalvoAsm
