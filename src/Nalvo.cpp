@@ -48,8 +48,8 @@ Nalvo::Nalvo(int, char**)
 
 void Nalvo::makeModules()
 {
-    // These two are also called by their classes, for what the command line names. The order of creation differs from that of the
-    // list: the settings, for one, are read at the place of ModCfgApp in the list.
+    // These two are also called by their classes, for what the command line names. The order of creation differs from
+    // that of the list: the settings, for one, are read at the place of ModCfgApp in the list.
     m_modArgs = new nsModArgs::ModArgs(this);
     m_modPrj = new nsModPrj::ModPrj(this);
 

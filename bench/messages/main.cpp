@@ -23,12 +23,14 @@ nsModMsg::MsgUrl sourceLink(int line)
     return url;
 }
 
-/// As a run of the assembler reports: one group around all, a group a stage, one inside that, every third message with a grade.
+/// As a run of the assembler reports: one group around all, a group a stage, one inside that, every third message with
+/// a grade.
 void report(ModMsgHookIf* hook)
 {
     hook->openMessageGroup(QStringLiteral("Run"));
     for (int i = 0; i < messageCount; i += messagesPerGroup) {
-        hook->openMessageGroup(QStringLiteral("Stage %1").arg(i), QUrl(QStringLiteral("pageid://asmFeMessages#grpStage")));
+        hook->openMessageGroup(QStringLiteral("Stage %1").arg(i),
+                               QUrl(QStringLiteral("pageid://asmFeMessages#grpStage")));
         hook->openMessageGroup(QStringLiteral("Part"));
         for (int k = 0; k < messagesPerGroup - 2; ++k) {
             const auto type = static_cast<ModMsgHookIf::eMsgType_t>(i % 300 == 0 ? k % 3 : ModMsgHookIf::eMsgInfo);

@@ -4,7 +4,8 @@
 
 class ModPluginIf;
 
-/// Drives the modules through their life: each phase for all modules, in the order of the list, before the next one starts.
+/// Drives the modules through their life: each phase for all modules, in the order of the list, before the next one
+/// starts.
 ///
 /// This is the one place where phases run. Each of the two halves runs once, whatever is called how often.
 class ModulePhases
@@ -22,7 +23,12 @@ public:
     bool stop();
 
 private:
-    enum class eState_t { created, running, stopped };
+    enum class eState_t
+    {
+        created,
+        running,
+        stopped
+    };
 
     template <class Phase>
     void run(Phase phase) const;

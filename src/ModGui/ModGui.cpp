@@ -202,8 +202,8 @@ void ModGui::addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* wi
 
     if (location == eLocationTabs)
         m_centerWidgets.append(widget);
-    // Becoming current is told to the clients before the owner is on record, so that an owner who is still at its set-up does not
-    // get a call of its own in the middle of it.
+    // Becoming current is told to the clients before the owner is on record, so that an owner who is still at its
+    // set-up does not get a call of its own in the middle of it.
     const QPointer<QWidget> alive(widget);
     target->addWidget(name, widget);
     if (alive.isNull()) {

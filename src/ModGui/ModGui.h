@@ -24,8 +24,8 @@ class WidgetAreaTabbed;
 
 /// Divides the main window into its nine areas, and looks after its title, style sheet, geometry and splash screen.
 ///
-/// All areas are made in the constructor and stay as long as the window. Widgets in them stay with their owners: one that its
-/// owner deletes is forgotten here.
+/// All areas are made in the constructor and stay as long as the window. Widgets in them stay with their owners: one
+/// that its owner deletes is forgotten here.
 class ModGui : public QObject,
                public ModGuiHookIf,
                public ModPluginIf,

@@ -13,14 +13,11 @@ namespace nsModMsg {
 
 class MsgViewer;
 
-/// The message service: shows what the modules report in the view at the bottom of the window, and passes clicked links on.
+/// The message service: shows what the modules report in the view at the bottom of the window, and passes clicked links
+/// on.
 ///
 /// Visible to scripts as "msg". Calls before modInit() show nothing.
-class ModMsg : public QObject,
-               public ModMsgHookIf,
-               public ModPluginIf,
-               public ModGuiPluginIf,
-               public ModScriptPluginIf
+class ModMsg : public QObject, public ModMsgHookIf, public ModPluginIf, public ModGuiPluginIf, public ModScriptPluginIf
 {
     Q_OBJECT
 

@@ -45,8 +45,8 @@ bool MsgItemDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view, cons
     const bool cut = sizeHint(option, index).width() > visible.width() || text.contains(QLatin1Char('\n'));
     // Messages are plain text, whatever they look like.
     if (cut && !text.isEmpty())
-        QToolTip::showText(event->globalPos(), QStringLiteral("<p style='white-space:pre-wrap'>%1</p>")
-                                                   .arg(text.toHtmlEscaped()), view);
+        QToolTip::showText(event->globalPos(),
+                           QStringLiteral("<p style='white-space:pre-wrap'>%1</p>").arg(text.toHtmlEscaped()), view);
     else
         QToolTip::hideText();
     return true;

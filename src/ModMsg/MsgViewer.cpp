@@ -184,9 +184,11 @@ void MsgViewer::updateView()
 {
     QElapsedTimer clock;
     clock.start();
-    // The order matters: groups that open may need wider columns, and wider columns a scroll bar that takes the lowest row.
+    // The order matters: groups that open may need wider columns, and wider columns a scroll bar that takes the lowest
+    // row.
     QTreeWidgetItem* target = m_newest != nullptr ? scrollTarget() : nullptr;
-    for (QTreeWidgetItem* group = target != nullptr ? target->parent() : nullptr; group != nullptr; group = group->parent())
+    for (QTreeWidgetItem* group = target != nullptr ? target->parent() : nullptr; group != nullptr;
+         group = group->parent())
         group->setExpanded(true);
     for (int column = 0; column < eColumnCount; ++column)
         resizeColumnToContents(column);
@@ -200,8 +202,8 @@ void MsgViewer::updateView()
 
 QTreeWidgetItem* MsgViewer::scrollTarget() const
 {
-    // Scrolling opens what is folded on the way to the item. That is wanted for groups at work; one that has been closed and
-    // folded away stays folded, and its own line is what the user gets to see.
+    // Scrolling opens what is folded on the way to the item. That is wanted for groups at work; one that has been
+    // closed and folded away stays folded, and its own line is what the user gets to see.
     QTreeWidgetItem* target = m_newest;
     for (QTreeWidgetItem* group = m_newest->parent(); group != nullptr; group = group->parent()) {
         if (!group->isExpanded() && !m_groups.contains(group))

@@ -12,15 +12,21 @@ namespace nsModMsg {
 
 /// The view of all messages: a tree with one line a message and one branch a group.
 ///
-/// Items stand in the tree, with grade and fold, as soon as a call returns. What costs a layout of the whole tree (fitting the
-/// columns, scrolling to the newest item) is gathered and done once when control returns to the event loop, so that a run with
-/// tens of thousands of messages stays quick.
+/// Items stand in the tree, with grade and fold, as soon as a call returns. What costs a layout of the whole tree
+/// (fitting the columns, scrolling to the newest item) is gathered and done once when control returns to the event
+/// loop, so that a run with tens of thousands of messages stays quick.
 class MsgViewer : public QTreeWidget
 {
     Q_OBJECT
 
 public:
-    enum eColumn_t { eColumnMessage = 0, eColumnHelpLink = 1, eColumnSourceLink = 2, eColumnCount = 3 };
+    enum eColumn_t
+    {
+        eColumnMessage = 0,
+        eColumnHelpLink = 1,
+        eColumnSourceLink = 2,
+        eColumnCount = 3
+    };
 
     /// Role under which a link column keeps its QUrl.
     static constexpr int urlRole = Qt::UserRole;
@@ -66,12 +72,12 @@ private:
     void updateView();
     QTreeWidgetItem* scrollTarget() const;
 
-    QIcon m_icons[3];                              ///< by grade
-    QTreeWidgetItem* m_currentParent = nullptr;    ///< where new items go: the open group, or the invisible root item
-    QHash<QTreeWidgetItem*, eMsgType_t> m_groups;  ///< every group not yet closed, with its worst state so far
-    QTreeWidgetItem* m_newest = nullptr;           ///< item to scroll to, null when that has been done
+    QIcon m_icons[3];                             ///< by grade
+    QTreeWidgetItem* m_currentParent = nullptr;   ///< where new items go: the open group, or the invisible root item
+    QHash<QTreeWidgetItem*, eMsgType_t> m_groups; ///< every group not yet closed, with its worst state so far
+    QTreeWidgetItem* m_newest = nullptr;          ///< item to scroll to, null when that has been done
     QTimer m_updateTimer;
-    qint64 m_updateCost = 0;                       ///< milliseconds that the last gathered update took
+    qint64 m_updateCost = 0; ///< milliseconds that the last gathered update took
 };
 
 } // namespace nsModMsg

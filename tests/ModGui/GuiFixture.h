@@ -38,8 +38,9 @@ struct GuiClient : public ModGuiPluginIf
         log->append(QStringLiteral("%1:%2:%3:%4")
                         .arg(name)
                         .arg(location)
-                        .arg(plugin == this ? QStringLiteral("own") : plugin != nullptr ? QStringLiteral("other")
-                                                                                         : QStringLiteral("none"))
+                        .arg(plugin == this      ? QStringLiteral("own")
+                             : plugin != nullptr ? QStringLiteral("other")
+                                                 : QStringLiteral("none"))
                         .arg(widget != nullptr ? widget->objectName() : QStringLiteral("null")));
         // Once each, so that what it does to the window does not call it again.
         if (onFocus)

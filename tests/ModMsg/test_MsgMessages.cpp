@@ -239,8 +239,8 @@ TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
     hook->closeMessageGroup(true);
     hook->closeMessageGroup(true);
     const QTreeWidgetItem* outer = viewer->topLevelItem(100);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }));
     EXPECT_FALSE(outer->isExpanded());
 }
 
@@ -257,8 +257,8 @@ TEST_F(MsgTest, MessagesOfSeveralLinesKeepTheHeightOfTheRows)
 
 TEST_F(MsgTest, ManyMessagesTakeNoMoreThanTheirShare)
 {
-    // No layout of the whole tree a message: ten times the messages may not take a hundred times the time. The bound is generous,
-    // as machines differ; the benchmark gives the number.
+    // No layout of the whole tree a message: ten times the messages may not take a hundred times the time. The bound is
+    // generous, as machines differ; the benchmark gives the number.
     viewer->resize(600, 200);
     viewer->show();
     QCoreApplication::processEvents();

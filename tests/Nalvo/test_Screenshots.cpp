@@ -45,7 +45,8 @@ protected:
         stage("Checking #SET directives", {});
         msg->openMessageGroup("Checking labels", QUrl("pageid://asmFeMessages#chkLabelDirectives"));
         if (withWarning)
-            msg->showWarningMessage("Label \"uart_wait\" is never used.", QUrl("pageid://asmFeMessages#warnX"), link(41));
+            msg->showWarningMessage("Label \"uart_wait\" is never used.", QUrl("pageid://asmFeMessages#warnX"),
+                                    link(41));
         if (withError)
             msg->showErrorMessage("Label \"loop\" is defined twice.", QUrl("pageid://asmFeMessages#errX"), link(72));
         msg->closeMessageGroup(!withError);

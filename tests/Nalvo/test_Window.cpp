@@ -36,17 +36,28 @@ struct PrjClient : public ModPrjPluginIf
 TEST_F(MainWindowFixture, ModulesStandInTheirOrder)
 {
     makeWindow();
-    const QStringList order{"nsModMsg::ModMsg",           "nsModPrj::ModPrj",
-                            "nsModSources::ModSources",   "nsModProcessor::ModProcessor",
-                            "nsModAsmFe::ModAsmFe",       "nsModSyscall::ModSyscall",
-                            "nsModEditor::ModEditor",     "nsModSrcNavi::ModSrcNavi",
-                            "nsModHlp::ModHlp",           "nsModNetwork::ModNetwork",
-                            "nsModSwUpdate::ModSwUpdate", "nsModAction::ModAction",
-                            "nsModArgs::ModArgs",         "nsModCfgApp::ModCfgApp",
-                            "nsModClipboard::ModClipboard", "nsModConfig::ModConfig",
-                            "nsModFindReplace::ModFindReplace", "nsModGui::ModGui",
-                            "nsModTemplates::ModTemplates", "nsModScript::ModScript",
-                            "nsModImport::ModImport",     "nsModFonts::ModFonts"};
+    const QStringList order{"nsModMsg::ModMsg",
+                            "nsModPrj::ModPrj",
+                            "nsModSources::ModSources",
+                            "nsModProcessor::ModProcessor",
+                            "nsModAsmFe::ModAsmFe",
+                            "nsModSyscall::ModSyscall",
+                            "nsModEditor::ModEditor",
+                            "nsModSrcNavi::ModSrcNavi",
+                            "nsModHlp::ModHlp",
+                            "nsModNetwork::ModNetwork",
+                            "nsModSwUpdate::ModSwUpdate",
+                            "nsModAction::ModAction",
+                            "nsModArgs::ModArgs",
+                            "nsModCfgApp::ModCfgApp",
+                            "nsModClipboard::ModClipboard",
+                            "nsModConfig::ModConfig",
+                            "nsModFindReplace::ModFindReplace",
+                            "nsModGui::ModGui",
+                            "nsModTemplates::ModTemplates",
+                            "nsModScript::ModScript",
+                            "nsModImport::ModImport",
+                            "nsModFonts::ModFonts"};
     QStringList present;
     for (ModPluginIf* candidate : window->modules()) {
         auto* object = dynamic_cast<QObject*>(candidate);
@@ -74,8 +85,8 @@ TEST_F(MainWindowFixture, WindowComesUpWithNameMenusAndMessages)
     QStringList titles;
     for (const QAction* action : window->menuBar()->actions())
         titles.append(action->menu()->title());
-    EXPECT_EQ(titles, (QStringList{"Configuration", "File", "Edit", "Navigation", "Assembler", "Simulator", "Tools",
-                                   "Help"}));
+    EXPECT_EQ(titles,
+              (QStringList{"Configuration", "File", "Edit", "Navigation", "Assembler", "Simulator", "Tools", "Help"}));
     QStringList help;
     for (const QAction* action : window->menuBar()->actions().last()->menu()->actions())
         help.append(action->text());

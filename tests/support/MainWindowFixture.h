@@ -18,7 +18,8 @@
 
 /// The whole main window with a settings folder of its own, for tests of modules in their real surroundings.
 ///
-/// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a test:
+/// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a
+/// test:
 ///   get_property(modules GLOBAL PROPERTY NALVO_APP_MODULES)
 ///   nalvo_test(NAME test_Xxx MODULES NalvoApp ${modules} LIBS NalvoAppResources)
 class MainWindowFixture : public ::testing::Test
@@ -28,6 +29,8 @@ protected:
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir());
         QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+        // As in the program; for pictures at other scales (QT_SCALE_FACTOR).
+        QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     }
     ~MainWindowFixture() override { window.reset(); }
 

@@ -1,4 +1,5 @@
-// Makes the main window with the command line that it is started with, and writes what came of it to the standard output.
+// Makes the main window with the command line that it is started with, and writes what came of it to the standard
+// output.
 
 #include "ModPluginIf.h"
 #include "ModPrjHookIf.h"
