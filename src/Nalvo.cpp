@@ -2,18 +2,13 @@
 
 #include "ModAction.h"
 #include "ModArgs.h"
+#include "ModAsmFe.h"
 #include "ModCfgApp.h"
 #include "ModGui.h"
 #include "ModMsg.h"
 #include "ModPrj.h"
-#include "ModSources.h"
-
-#if __has_include("ModAsmFe.h")
-#include "ModAsmFe.h"
-#endif
-#if __has_include("ModProcessor.h")
 #include "ModProcessor.h"
-#endif
+#include "ModSources.h"
 
 #include "ModMsgHookIf.h"
 
@@ -25,9 +20,7 @@
 /// The pictures and the style sheet; at global scope, as the macro declares a function of the resource compiler.
 static void initResources()
 {
-#ifdef NALVO_HAS_RESOURCES
     Q_INIT_RESOURCE(nalvo);
-#endif
 }
 
 Nalvo::Nalvo(int, char**)
@@ -56,12 +49,8 @@ void Nalvo::makeModules()
     m_phases.append(new nsModMsg::ModMsg(this));
     m_phases.append(m_modPrj);
     m_phases.append(new nsModSources::ModSources(this));
-#if __has_include("ModProcessor.h")
     m_phases.append(new nsModProcessor::ModProcessor(this));
-#endif
-#if __has_include("ModAsmFe.h")
     m_phases.append(new nsModAsmFe::ModAsmFe(this));
-#endif
     m_phases.append(new nsModAction::ModAction(this));
     m_phases.append(m_modArgs);
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
