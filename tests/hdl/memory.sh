@@ -100,7 +100,11 @@ compare_mem()
         { sub(/\r$/, "") }
         part == 1 { want[FNR - 1] = $0; next }
         /^@[0-9]+$/ { address = substr($0, 2) + 0; next }
-        { if ($0 != want[address]) differ("mem file, address " address ": " $0 " instead of " want[address]); ++address; ++words }
+        {
+            if ($0 != want[address]) differ("mem file, address " address ": " $0 " instead of " want[address])
+            ++address
+            ++words
+        }
         END { if (!words) differ("the mem file holds no word"); exit count > 0 }' "$2" "$1"
 }
 
@@ -108,7 +112,12 @@ compare_mem()
 join_words()
 {
     awk -v shift="$3" '
-        function value(text,  i, v) { for (i = 1; i <= length(text); ++i) v = v * 16 + index("0123456789ABCDEF", substr(text, i, 1)) - 1; return v }
+        function value(text,  i, v)
+        {
+            for (i = 1; i <= length(text); ++i)
+                v = v * 16 + index("0123456789ABCDEF", substr(text, i, 1)) - 1
+            return v
+        }
         FNR == 1 { ++part }
         part == 1 { low[$1] = $2; next }
         { print $1, sprintf("%05X", value($2) * 2 ^ shift + value(low[$1])) }' "$1" "$2"

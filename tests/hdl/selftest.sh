@@ -13,7 +13,7 @@ failures=0
 
 zeros() { printf '%0*d' "$1" 0; }
 
-# The first line ends in 56781234 and the last one begins with ABCD; the parity ends in 1001 and begins with 1000, binary.
+# The first line ends in 56781234, the last one begins with ABCD; the parity ends in 1001 and begins with 1000, binary.
 first_line=$(zeros 56)56781234
 last_line=ABCD$(zeros 60)
 first_parity=$(zeros 63)9
