@@ -1,0 +1,73 @@
+#pragma once
+
+#include "AsmCase.h"
+#include "FakeMsgHook.h"
+
+#include "ModAsmFe.h"
+#include "ModPrj.h"
+#include "ModProcessor.h"
+#include "ModSources.h"
+#include "ModSrcNaviHookIf.h"
+#include "NaviTag.h"
+
+#include <QDir>
+#include <QStringList>
+
+/// Stands in for the source navigator: keeps the tags.
+class FakeSrcNaviHook : public ModSrcNaviHookIf
+{
+public:
+    ~FakeSrcNaviHook() override { clearTagList(); }
+    void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
+    void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
+    void clearTagList() override
+    {
+        qDeleteAll(tags);
+        tags.clear();
+    }
+    void addTag(nsModSrcNavi::NaviTag* tag) override { tags.append(tag); }
+    void showTagList() override { ++shown; }
+
+    QList<nsModSrcNavi::NaviTag*> tags;
+    int shown = 0;
+};
+
+/// One case, run through the real modules in a folder of its own, and compared with what it expects.
+class AsmRun
+{
+public:
+    explicit AsmRun(const AsmCase& asmCase);
+    ~AsmRun();
+
+    /// Everything that differs from the case's expectations, one line each; empty if nothing does.
+    QStringList differences();
+    /// Keys of all messages and groups that the run has shown.
+    QStringList provokedKeys() const;
+
+private:
+    void prepareFolder();
+    void writeProject();
+    void run();
+    void compareResult();
+    void compareMessages();
+    void compareInfos();
+    void compareFact(const ExpectedFact& fact);
+    void compareOpcodeFact(const ExpectedFact& fact);
+    void compareEquFact(const ExpectedFact& fact);
+    void compareNavTag(const ExpectedFact& fact);
+    void compareWholeFact(const QString& name, const QString& value);
+    void compareCell(const QString& text);
+    void compareDevice(const QString& text);
+    void compareGoldenFiles();
+    void differ(const QString& text) { m_differences.append(text); }
+
+    const AsmCase& m_case;
+    QDir m_dir;
+    QStringList m_differences;
+    FakeMsgHook m_msg;
+    FakeSrcNaviHook m_navi;
+    nsModPrj::ModPrj m_prj;
+    nsModSources::ModSources m_sources;
+    nsModAsmFe::ModAsmFe m_asmFe;
+    nsModProcessor::ModProcessor m_processor;
+};
