@@ -105,7 +105,8 @@ void AsmCase::readComment(const QString& file, int line, int lineCount, const QS
 {
     const int colon = comment.indexOf(':');
     const QString word = comment.left(colon);
-    const QString rest = comment.mid(colon + 1).trimmed();
+    // A remark that is no expectation may follow: it starts with the next free-standing semicolon.
+    const QString rest = comment.mid(colon + 1).section(" ; ", 0, 0).trimmed();
     if (word == "error" || word == "warning") {
         addMessage(word, rest, file, line);
     } else if (lineFacts.contains(word)) {
