@@ -327,10 +327,10 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgEx
     if (word != words.constEnd())
         return syntacticsCheckArgType(srcRef, arg, ext, *word);
     if (isString(arg->name)) {
-        if (!syntacticsCheckArgString(srcRef, arg, ext, false))
-            return false;
+        const bool success = syntacticsCheckArgString(srcRef, arg, ext, false);
         if (arg->type == Arg::numeric)
-            return true;
+            return success;
+        // Beside what is wrong with the string, this tells how a string reaches an instruction.
         m_msgHndlr->signMsg(errStrExpectRange, srcRef);
         return false;
     }

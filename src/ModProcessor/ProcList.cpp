@@ -1,11 +1,15 @@
 #include "ProcList.h"
 
+#include "LMico8v3x.h"
 #include "XPBlze3.h"
+#include "XPBlze6.h"
 
 namespace nsModProcessor {
 
 ProcList::ProcList()
 {
+    m_processors.append(new nsLMico8v3x::LMico8v3x);
+    m_processors.append(new nsXPBlze6::XPBlze6);
     m_processors.append(new nsXPBlze3::XPBlze3);
 }
 

@@ -82,7 +82,7 @@ void AsmCase::readSource(const QString& name)
                 break;
             const QRegularExpressionMatch next = start.match(line, match.capturedEnd());
             const int end = next.hasMatch() ? next.capturedStart() : line.size();
-            readComment(name, i, lines.size(), line.mid(match.capturedStart(1), end - match.capturedStart(1)).trimmed());
+            readComment(name, i, lines.size(), line.mid(match.capturedStart(1), end - match.capturedStart(1)).section(" ; ", 0, 0).trimmed());
             pos = match.capturedEnd();
         }
     }

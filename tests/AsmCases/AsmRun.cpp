@@ -104,6 +104,7 @@ void AsmRun::run()
     }
     m_asmFe.behaviorChkIntVector = m_case.intVector;
     m_msg.dropOnClear = false;
+    m_infosFrom = m_msg.log.size();
     m_asmFe.assemble(ModAsmFe::eAssembleEvent_t(m_case.event));
 }
 
@@ -183,7 +184,9 @@ void AsmRun::compareInfos()
     for (ExpectedMsg want : m_case.infos) {
         want.text.replace("{prj}", m_dir.absolutePath());
         bool found = false;
-        for (const FakeMsgHook::Entry& entry : m_msg.messages(ModMsgHookIf::eMsgInfo)) {
+        for (const FakeMsgHook::Entry& entry : m_msg.log.mid(m_infosFrom)) {
+            if (entry.kind != FakeMsgHook::kindMessage || entry.type != ModMsgHookIf::eMsgInfo)
+                continue;
             const QString key = entry.key().isEmpty() ? QString("-") : entry.key();
             found = found || (want.key == key && (want.text.isEmpty() || want.text == entry.text.trimmed()));
         }
@@ -262,9 +265,7 @@ void AsmRun::compareNavTag(const ExpectedFact& fact)
     for (const nsModSrcNavi::NaviTag* tag : qAsConst(m_navi.tags)) {
         if (QFileInfo(tag->filePath).fileName() != fact.file || tag->line != fact.line)
             continue;
-        // The expectation itself stands in the comment, so a title without quotes goes on with it.
-        const QString title = tag->title.section("; @", 0, 0).trimmed();
-        if (tag->type == match.captured(1).toInt() && (title == match.captured(2) || tag->title == match.captured(2)))
+        if (tag->type == match.captured(1).toInt() && tag->title == match.captured(2))
             return;
         there.append(QString::number(tag->type) + ' ' + tag->title);
     }
@@ -289,7 +290,7 @@ void AsmRun::compareWholeFact(const QString& name, const QString& value)
     } else {
         const bool isGroup = name.endsWith("group");
         bool found = false;
-        for (const FakeMsgHook::Entry& entry : m_msg.log)
+        for (const FakeMsgHook::Entry& entry : m_msg.log.mid(m_infosFrom))
             found = found || (entry.key() == value && (entry.kind == FakeMsgHook::kindGroupOpen) == isGroup);
         if (found == name.startsWith("no-"))
             differ(name + ": " + value + (found ? " was shown" : " was not shown"));

@@ -50,7 +50,7 @@ INSTANTIATE_TEST_SUITE_P(data, AsmCases, ::testing::ValuesIn(allCases()), caseNa
 
 /// Messages that no stage can show, as the catalogue holds them for other uses, or as an earlier check makes them impossible.
 const QSet<QString> unreachable = {
-    "warnNothingTodo", "errMissingArgument", "errSetMissingEndNsBeforeNs", "errExprEmptyParentheses", "warnIODevNoType",
+    "warnNothingTodo", "errSetMissingEndNsBeforeNs", "errExprEmptyParentheses", "warnIODevNoType",
     "warnMMapIODevOverwriteValues", "errIODevUnsupportedDstFileType", "errIODevUnsupportedDirection", "errIODevDuplicate",
     "errIODevExpectDevList", "errMMEmptyDevList", "errMMDevDuplicate", "errMMDevNotDefinedAsIODev", "errMMapIODevNotDefined",
     "errMMapIODevIvldDevCnt",

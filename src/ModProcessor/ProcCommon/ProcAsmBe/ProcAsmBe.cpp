@@ -104,9 +104,24 @@ bool ProcAsmBe::setConfigClkFreq(Set* set)
     return false;
 }
 
-bool ProcAsmBe::checkConfigStage1()
+bool ProcAsmBe::overrideConfig(Set* set, int* field, const char* name)
 {
-    return checkConfigIntVectorAddr(nullptr);
+    set->used = true;
+    if (!expectNumeric(set))
+        return false;
+    if (modAsmFeHook->setOverwriteBehaviorError()) {
+        modAsmFeHook->msgHndlr()->signMsg(errSetOverwriteGuiSettings, &set->srcRef);
+        return false;
+    }
+    if (modAsmFeHook->setOverwriteBehaviorWarning() && set->iValue != *field)
+        modAsmFeHook->msgHndlr()->signMsg(warnSetOverwriteGuiSettings, &set->srcRef, QString::fromLatin1(name));
+    *field = set->iValue;
+    return true;
+}
+
+int ProcAsmBe::startScrpdMax() const
+{
+    return m_config->scrpdSize - 1;
 }
 
 bool ProcAsmBe::checkConfigIntVectorAddr(const SrcReference* srcRef)

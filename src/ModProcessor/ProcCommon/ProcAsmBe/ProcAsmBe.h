@@ -55,16 +55,20 @@ public:
     bool assembleOpcode(nsModAsmFe::Opcode* opcode);
 
 protected:
-    /// Largest accepted scratchpad address at the start of a run.
-    virtual int startScrpdMax() const = 0;
+    /// Largest accepted scratchpad address at the start of a run: the last byte of the scratchpad.
+    virtual int startScrpdMax() const;
     /// One `#SET` of the processor's namespace.
     /// @param known false leaves the parameter to the usage check
     virtual bool setConfigFromDirective(nsModAsmFe::Set* set, bool* known);
     /// Checks of the settings after the directives.
-    virtual bool checkConfigStage1();
+    virtual bool checkConfigStage1() = 0;
 
     bool setConfigScrpdIODev(nsModAsmFe::Set* set);
     bool setConfigClkFreq(nsModAsmFe::Set* set);
+    /// Takes a parameter that overrides a setting of the configuration, as far as the configuration allows that.
+    /// @param name the setting's name in the warning
+    /// @return false after a reported error
+    bool overrideConfig(nsModAsmFe::Set* set, int* field, const char* name);
     /// @return the parameter's value is a number; else an error is reported
     bool expectNumeric(const nsModAsmFe::Set* set);
     /// @param srcRef may be null
@@ -98,6 +102,14 @@ private:
     bool assembleSwitch(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
     bool assembleNone(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
     bool assembleReg(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleRegNumber(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleRotate(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleFlag(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleBank(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleConstantPort(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    bool assembleComputedFlow(nsModAsmFe::Opcode* opcode, const sInstr_t& instr);
+    int assembleArg_labelOffsAddr(int from, int to);
+    bool checkNumber(const nsModAsmFe::Opcode* opcode, const nsModAsmFe::Arg* arg);
 
     sInstrLayout_t m_layout;
     QString m_helpPage;

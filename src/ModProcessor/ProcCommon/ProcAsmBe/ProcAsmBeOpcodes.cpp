@@ -69,6 +69,14 @@ bool ProcAsmBe::assembleOpcode(Opcode* opcode)
         return assembleNone(opcode, *instr);
     case formReg:
         return assembleReg(opcode, *instr);
+    case formRegNumber:
+        return assembleRegNumber(opcode, *instr);
+    case formRotate:
+        return assembleRotate(opcode, *instr);
+    case formFlag:
+        return assembleFlag(opcode, *instr);
+    case formBank:
+        return assembleBank(opcode, *instr);
     }
     return false;
 }
@@ -77,6 +85,15 @@ bool ProcAsmBe::assembleOpcode(Opcode* opcode)
 bool ProcAsmBe::refuse(const Opcode* opcode, const Arg* arg)
 {
     modAsmFeHook->msgHndlr()->signMsg(errUnsupportedArgument, &opcode->srcRef, arg->name);
+    return false;
+}
+
+/// @return the number fits into an immediate; else an error is reported
+bool ProcAsmBe::checkNumber(const Opcode* opcode, const Arg* arg)
+{
+    if (!exceeds(arg, m_layout.maxNumber))
+        return true;
+    signMsg(errExceededMaxNumeric, &opcode->srcRef, arg->name, m_layout.maxNumber);
     return false;
 }
 
@@ -93,10 +110,8 @@ bool ProcAsmBe::assembleTwoOperand(Opcode* opcode, const sInstr_t& instr)
     }
     if (arg1->type != Arg::numeric)
         return refuse(opcode, arg1);
-    if (exceeds(arg1, m_layout.maxNumber)) {
-        signMsg(errExceededMaxNumeric, &opcode->srcRef, arg1->name, m_layout.maxNumber);
+    if (!checkNumber(opcode, arg1))
         return false;
-    }
     opcode->instWord = instr.words[wordNumber] + dst + arg1->iValue;
     return true;
 }
@@ -106,6 +121,8 @@ bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
     const bool isPort = instr.form == formPort;
+    if (arg0->type == Arg::numeric && isPort && instr.words[wordConstant] != 0)
+        return assembleConstantPort(opcode, instr);
     if (arg0->type != Arg::reg)
         return refuse(opcode, arg0);
     const int dst = assembleArg_regDst(arg0->strValue);
@@ -116,10 +133,11 @@ bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
     if (arg1->type == Arg::numeric) {
         const int maximum = isPort ? m_layout.maxPort : m_scrpdMax;
         if (exceeds(arg1, maximum)) {
-            signMsg(isPort ? errExceededMaxPort : errExceededScrpdSize, &opcode->srcRef, arg1->name, maximum);
+            const eAsmMsg_t portMsg = m_layout.portIsNumber ? errExceededMaxNumeric : errExceededMaxPort;
+            signMsg(isPort ? portMsg : errExceededScrpdSize, &opcode->srcRef, arg1->name, maximum);
             return false;
         }
-        opcode->instWord = instr.words[wordNumber] + dst + arg1->iValue;
+        opcode->instWord = instr.words[wordNumber] + dst + (arg1->iValue << m_layout.addrShift);
         return true;
     }
     if (arg1->type == Arg::reg) {
@@ -129,10 +147,51 @@ bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
     return refuse(opcode, arg1);
 }
 
+bool ProcAsmBe::assembleConstantPort(Opcode* opcode, const sInstr_t& instr)
+{
+    const Arg* port = opcode->arg1;
+    if (!checkNumber(opcode, opcode->arg0))
+        return false;
+    if (port->type != Arg::numeric)
+        return refuse(opcode, port);
+    if (exceeds(port, maxConstantPort)) {
+        signMsg(errExceededMaxPort, &opcode->srcRef, port->name, maxConstantPort);
+        return false;
+    }
+    opcode->instWord = instr.words[wordConstant] + (opcode->arg0->iValue << constantShift) + port->iValue;
+    return true;
+}
+
+/// The distance of a jump in 12 bits. One that does not fit is cut, as the assembler goes on after it.
+int ProcAsmBe::assembleArg_labelOffsAddr(int from, int to)
+{
+    const int offset = to - from;
+    if (offset > 2047)
+        modAsmFeHook->msgHndlr()->signInternalError(tr("Offset exceeds maximum of 2047"));
+    if (offset < -2048)
+        modAsmFeHook->msgHndlr()->signInternalError(tr("Offset exceeds minimum of -2048"));
+    return offset & 0xfff;
+}
+
+bool ProcAsmBe::assembleComputedFlow(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg0->type == Arg::reg) {
+        signMsg(errUnenclosedRegisters, &opcode->srcRef, QString(), 0);
+        return false;
+    }
+    if (opcode->arg1->type != Arg::regRef)
+        return refuse(opcode, opcode->arg1);
+    opcode->instWord = instr.words[wordComputed] + assembleArg_regDst(opcode->arg0->strValue) +
+                       assembleArg_regSrc(opcode->arg1->strValue);
+    return true;
+}
+
 bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
+    if (instr.words[wordComputed] != 0 && (arg0->type == Arg::reg || arg0->type == Arg::regRef))
+        return assembleComputedFlow(opcode, instr);
     const bool always = arg1->type == Arg::empty;
     const eWordFlow_t word = wordOfFlag(arg0);
     if (!always && word == wordAlways)
@@ -140,7 +199,9 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
     const Arg* target = always ? arg0 : arg1;
     if (target->type != Arg::label)
         return refuse(opcode, target);
-    opcode->instWord = instr.words[always ? wordAlways : word] + target->labelOpcode->pageAddr;
+    const int addr = target->labelOpcode->pageAddr;
+    opcode->instWord = instr.words[always ? wordAlways : word] +
+                       (m_layout.relativeFlow ? assembleArg_labelOffsAddr(opcode->pageAddr, addr) : addr);
     return true;
 }
 
@@ -182,6 +243,56 @@ bool ProcAsmBe::assembleReg(Opcode* opcode, const sInstr_t& instr)
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
     opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0->strValue);
+    return true;
+}
+
+bool ProcAsmBe::assembleRegNumber(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg0->type != Arg::reg)
+        return refuse(opcode, opcode->arg0);
+    if (opcode->arg1->type != Arg::numeric)
+        return refuse(opcode, opcode->arg1);
+    if (!checkNumber(opcode, opcode->arg1))
+        return false;
+    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0->strValue) + opcode->arg1->iValue;
+    return true;
+}
+
+bool ProcAsmBe::assembleRotate(Opcode* opcode, const sInstr_t& instr)
+{
+    const Arg* arg0 = opcode->arg0;
+    const Arg* arg1 = opcode->arg1;
+    if (arg0->type != Arg::reg)
+        return refuse(opcode, arg0);
+    if (arg1->type != Arg::reg && arg1->type != Arg::empty)
+        return refuse(opcode, arg1);
+    // With one register, it is source and destination.
+    const Arg* source = arg1->type == Arg::reg ? arg1 : arg0;
+    opcode->instWord = instr.words[0] + assembleArg_regDst(arg0->strValue) + assembleArg_regSrc(source->strValue);
+    return true;
+}
+
+bool ProcAsmBe::assembleFlag(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg1->type != Arg::empty)
+        return refuse(opcode, opcode->arg1);
+    if (opcode->arg0->type == Arg::empty) {
+        modAsmFeHook->msgHndlr()->signMsg(errMissingArgument, &opcode->srcRef);
+        return false;
+    }
+    if (opcode->arg0->type != Arg::flagC && opcode->arg0->type != Arg::flagZ)
+        return refuse(opcode, opcode->arg0);
+    opcode->instWord = instr.words[opcode->arg0->type == Arg::flagC ? wordFlagC : wordFlagZ];
+    return true;
+}
+
+bool ProcAsmBe::assembleBank(Opcode* opcode, const sInstr_t& instr)
+{
+    if (opcode->arg0->type != Arg::regBank || !m_banks.contains(opcode->arg0->strValue))
+        return refuse(opcode, opcode->arg0);
+    if (opcode->arg1->type != Arg::empty)
+        return refuse(opcode, opcode->arg1);
+    opcode->instWord = instr.words[0] + m_banks.value(opcode->arg0->strValue);
     return true;
 }
 

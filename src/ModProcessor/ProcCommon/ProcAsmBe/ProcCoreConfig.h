@@ -4,7 +4,7 @@
 
 namespace nsProc {
 
-/// What all processors have to set.
+/// What processors have to set. A processor gives the defaults, and leaves alone what it does not have.
 struct ProcCoreConfig
 {
     int pageSize = 1024;        ///< words of an instruction memory page; also the limit of an interrupt vector
@@ -15,6 +15,8 @@ struct ProcCoreConfig
     int scrpdSize = 64;         ///< bytes of the scratchpad
     QString scrpdIODev;         ///< IO device with the scratchpad's initial contents; empty if none
     double clkFreq = 80000000;  ///< Hz
+    int regCount = 16;          ///< registers, where the hardware can be built with more or less
+    int instrClkCnt = 2;        ///< clock cycles of an instruction
 };
 
 } // namespace nsProc

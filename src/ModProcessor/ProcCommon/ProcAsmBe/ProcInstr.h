@@ -7,35 +7,52 @@ namespace nsProc {
 /// The forms that an instruction can have, with the order of the checks of its arguments.
 enum eInstrForm_t {
     formTwoOperand, ///< register and number, or two registers
-    formPort,       ///< register and port number, or register and register in parentheses
+    formPort,       ///< register and port number, or register and register in parentheses; or number and constant port
     formScrpd,      ///< register and scratchpad address, or register and register in parentheses
-    formFlow,       ///< label, or flag and label
+    formFlow,       ///< label, or flag and label; or two registers in parentheses
     formReturn,     ///< nothing, or a flag
     formSwitch,     ///< DISABLE or ENABLE
     formNone,       ///< no argument
     formReg,        ///< one register
+    formRegNumber,  ///< register and number
+    formRotate,     ///< one register, or two of them
+    formFlag,       ///< C or Z
+    formBank,       ///< a register bank
 };
 
-// Places in sInstr_t::words, by form.
-enum eWordOperand_t { wordNumber = 0, wordRegister = 1 };                                    // formTwoOperand, Port, Scrpd
-enum eWordFlow_t { wordAlways = 0, wordZ = 1, wordNZ = 2, wordC = 3, wordNC = 4 };           // formFlow, formReturn
-enum eWordSwitch_t { wordDisable = 0, wordEnable = 1 };                                      // formSwitch
+// Places in sInstr_t::words, by form. The others have one word, in the first place.
+
+/// formTwoOperand, formPort, formScrpd. A word of 0 says that there is no constant port.
+enum eWordOperand_t { wordNumber = 0, wordRegister = 1, wordConstant = 2 };
+/// formFlow, formReturn. A word of 0 says that there is no computed target.
+enum eWordFlow_t { wordAlways = 0, wordZ = 1, wordNZ = 2, wordC = 3, wordNC = 4, wordComputed = 5 };
+/// formSwitch
+enum eWordSwitch_t { wordDisable = 0, wordEnable = 1 };
+/// formFlag
+enum eWordFlag_t { wordFlagC = 0, wordFlagZ = 1 };
 
 /// One row of a processor's instruction set: the instruction's form and its machine words without operands.
 struct sInstr_t
 {
     nsModAsmFe::eOpcode_t opcode;
     eInstrForm_t form;
-    int words[5];
+    int words[6];
 };
 
 /// How a processor's words are laid out, and its limits.
 struct sInstrLayout_t
 {
-    int dstShift;  ///< place of the first register
-    int srcShift;  ///< place of the second register
-    int maxNumber; ///< largest immediate
-    int maxPort;   ///< largest port number
+    int dstShift;        ///< place of the first register
+    int srcShift;        ///< place of the second register
+    int addrShift;       ///< place of a port number or scratchpad address
+    int maxNumber;       ///< largest immediate
+    int maxPort;         ///< largest port number
+    bool relativeFlow;   ///< jumps hold the distance to their target, in 12 bits
+    bool portIsNumber;   ///< a port number that is too large is reported as a number that is too large
 };
+
+/// The number and the constant port of a write of a constant.
+const int constantShift = 4;
+const int maxConstantPort = 15;
 
 } // namespace nsProc

@@ -45,8 +45,7 @@ const QVector<sInstr_t>& instrs()
     return table;
 }
 
-const sInstrLayout_t layout = {8, 4, 255, 255};
-const int highestScrpdAddr = 63;
+const sInstrLayout_t layout = {8, 4, 0, 255, 255, false, false};
 
 } // namespace
 
@@ -61,9 +60,9 @@ QString XPBlze3AsmBe::processorDefine() const
     return QStringLiteral("PROC::XPBLZE3");
 }
 
-int XPBlze3AsmBe::startScrpdMax() const
+bool XPBlze3AsmBe::checkConfigStage1()
 {
-    return highestScrpdAddr;
+    return checkConfigIntVectorAddr(nullptr);
 }
 
 } // namespace nsXPBlze3

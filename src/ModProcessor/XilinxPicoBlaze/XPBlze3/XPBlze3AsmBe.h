@@ -15,7 +15,7 @@ public:
     QString processorDefine() const override;
 
 protected:
-    int startScrpdMax() const override;
+    bool checkConfigStage1() override;
 };
 
 } // namespace nsXPBlze3

@@ -4,7 +4,7 @@
 
 namespace nsXPBlze3 {
 
-/// Settings of a PicoBlaze 3. The interrupt vector and the scratchpad's size are fixed by the hardware.
+/// Settings of a PicoBlaze 3. Its interrupt vector and the size of its scratchpad are fixed by the hardware.
 struct XPBlze3Config : nsProc::ProcCoreConfig
 {
 };

@@ -1,0 +1,40 @@
+#include "LMico8v3x.h"
+
+#include "LMico8v3xAsmBe.h"
+
+namespace nsLMico8v3x {
+
+LMico8v3x::LMico8v3x(QObject* parent) : ProcShell(this, parent)
+{
+    setSettings(defaultConfig());
+}
+
+QString LMico8v3x::processorName()
+{
+    return QStringLiteral("Lattice Mico8 v3.x");
+}
+
+nsProc::ProcAsmBe* LMico8v3x::createAsmBe()
+{
+    return new LMico8v3xAsmBe;
+}
+
+QString LMico8v3x::cfgSection() const
+{
+    return QStringLiteral("LMico8v3x");
+}
+
+nsProc::ProcCoreConfig LMico8v3x::defaultConfig() const
+{
+    return LMico8v3xConfig();
+}
+
+QList<QPair<QString, int*>> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const
+{
+    return {{"scrpdSize", &settings->scrpdSize},
+            {"instrClkCnt", &settings->instrClkCnt},
+            {"regCount", &settings->regCount},
+            {"memMap/pageSize", &settings->pageSize}};
+}
+
+} // namespace nsLMico8v3x

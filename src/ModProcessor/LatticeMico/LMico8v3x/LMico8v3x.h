@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ProcShell.h"
+#include "LMico8v3xConfig.h"
+
+namespace nsLMico8v3x {
+
+/// The Mico8 v3.x.
+class LMico8v3x : public nsProc::ProcShell, public LMico8v3xConfig
+{
+    Q_OBJECT
+
+public:
+    explicit LMico8v3x(QObject* parent = nullptr);
+
+    QString processorName() override;
+
+protected:
+    nsProc::ProcAsmBe* createAsmBe() override;
+    QString cfgSection() const override;
+    nsProc::ProcCoreConfig defaultConfig() const override;
+    QList<QPair<QString, int*>> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
+};
+
+} // namespace nsLMico8v3x

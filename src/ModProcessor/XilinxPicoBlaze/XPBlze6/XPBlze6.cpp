@@ -1,0 +1,39 @@
+#include "XPBlze6.h"
+
+#include "XPBlze6AsmBe.h"
+
+namespace nsXPBlze6 {
+
+XPBlze6::XPBlze6(QObject* parent) : ProcShell(this, parent)
+{
+    setSettings(defaultConfig());
+}
+
+QString XPBlze6::processorName()
+{
+    return QStringLiteral("Xilinx PicoBlaze 6");
+}
+
+nsProc::ProcAsmBe* XPBlze6::createAsmBe()
+{
+    return new XPBlze6AsmBe;
+}
+
+QString XPBlze6::cfgSection() const
+{
+    return QStringLiteral("XPBlze6");
+}
+
+nsProc::ProcCoreConfig XPBlze6::defaultConfig() const
+{
+    return XPBlze6Config();
+}
+
+QList<QPair<QString, int*>> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const
+{
+    return {{"scrpdSize", &settings->scrpdSize},
+            {"intVectorAddr", &settings->intVectorAddr},
+            {"memMap/pageSize", &settings->pageSize}};
+}
+
+} // namespace nsXPBlze6
