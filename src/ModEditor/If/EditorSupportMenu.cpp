@@ -1,0 +1,97 @@
+#include "EditorSupportMenu.h"
+
+#include <QAction>
+#include <QFile>
+#include <QMenu>
+#include <QPoint>
+#include <QRegExp>
+
+namespace nsModEditor {
+
+namespace {
+
+QStringList components(const QString& path)
+{
+    return path.split('/', Qt::SkipEmptyParts);
+}
+
+/// What a template file inserts: all behind the line of its mark.
+bool templateText(const QString& path, QString* text)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return false;
+    const QRegExp mark("template\\s*=");
+    bool begun = false;
+    while (!file.atEnd()) {
+        const QString line = QString::fromLatin1(file.readLine());
+        if (begun)
+            *text += line;
+        else
+            begun = mark.indexIn(line) >= 0;
+    }
+    return true;
+}
+
+} // namespace
+
+EditorSupportMenu::EditorSupportMenu(QObject* parent) : EditorSupportMenuNode(QString(), parent)
+{
+    menu = new QMenu(tr("Insert..."));
+    // Entries of sub menus report through the menu that they are shown from.
+    connect(menu, SIGNAL(triggered(QAction*)), this, SLOT(handleAction(QAction*)));
+}
+
+void EditorSupportMenu::setEntry(QString path, QString data, eType_t type)
+{
+    const QStringList names = components(path);
+    if (names.isEmpty())
+        return;
+    EditorSupportMenuNode* entry = node(names);
+    entry->data = data;
+    entry->type = type;
+}
+
+void EditorSupportMenu::removeEntry(QString path)
+{
+    removeNode(components(path));
+}
+
+void EditorSupportMenu::setEntrySortEn(QString path, bool enabled)
+{
+    setSortEn(components(path), enabled);
+}
+
+void EditorSupportMenu::setEnabled(bool enabled)
+{
+    menu->setEnabled(enabled);
+}
+
+void EditorSupportMenu::showMenu(QMenu* shown, const QPoint& pos)
+{
+    shown->addSeparator();
+    addSupportMenu(shown);
+    shown->exec(pos);
+}
+
+void EditorSupportMenu::addSupportMenu(QMenu* shown)
+{
+    if (!children.isEmpty())
+        shown->addMenu(menu);
+}
+
+void EditorSupportMenu::handleAction(QAction* chosen)
+{
+    const auto* entry = chosen->data().value<EditorSupportMenuNode*>();
+    if (entry == nullptr)
+        return;
+    if (entry->type == typeText) {
+        emit insertText(entry->data);
+    } else if (entry->type == typeFile) {
+        QString text;
+        if (templateText(entry->data, &text))
+            emit insertText(text);
+    }
+}
+
+} // namespace nsModEditor
