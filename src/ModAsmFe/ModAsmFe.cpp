@@ -30,6 +30,9 @@ void ModAsmFe::modRegisterPlugins(QList<ModPluginIf*> modules)
 
 void ModAsmFe::modInit()
 {
+    // Without menus nobody can trigger an action, and making one asks the platform for fonts.
+    if (modActionHook == nullptr && modGuiHook == nullptr)
+        return;
     m_actions = new AsmFeActions(this);
     m_actions->setEnabled(false);
     connect(m_actions, SIGNAL(triggered(nsModAsmFe::AsmFeActions::eAction_t)), this,

@@ -203,7 +203,7 @@ void ModAsmFe::setupMemPageAddrMap()
         return;
     QStringList files = m_fileHndlr->files();
     auto map = std::make_unique<nsModEditor::EditorMemPageAddrMap>(&files);
-    for (const Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (const Opcode* opcode : m_opcodeList) {
         if (!map->addItem(opcode->srcRef.fileNo, opcode->srcRef.lineNo, opcode->pageAddr))
             return;
     }

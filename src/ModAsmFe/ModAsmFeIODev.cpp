@@ -277,7 +277,7 @@ bool ModAsmFe::setupIODevDefault()
                             QString::number(dev->memSize));
         success = false;
     };
-    for (Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (Opcode* opcode : m_opcodeList) {
         opcode->mappedToIODev = true;
         if (opcode->memRange != 0) {
             setValue(opcode->memAddr, opcode, false);

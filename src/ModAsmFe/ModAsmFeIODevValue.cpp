@@ -189,7 +189,7 @@ bool ModAsmFe::parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* s
 
 bool ModAsmFe::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr)
 {
-    for (Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (Opcode* opcode : m_opcodeList) {
         if (opcode->memRange != 0) {
             if (!mapInstWord(dev, set, span, addr, opcode, opcode->memAddr))
                 return false;

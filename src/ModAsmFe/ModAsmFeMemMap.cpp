@@ -261,7 +261,7 @@ bool ModAsmFe::mapOpcodeToMemSetAddresses()
         if (!mapOpcodeToMemSetAddressesUpwards(number, pageStart, &limit))
             return false;
     }
-    for (Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next)
+    for (Opcode* opcode : m_opcodeList)
         opcode->memAddr =
             opcode->memRange > 0 ? (opcode->memRange - 1) * m_pageSize + opcode->pageAddr : opcode->pageAddr;
     return true;
@@ -333,7 +333,7 @@ QString ModAsmFe::memRangeName(int range) const
 
 bool ModAsmFe::mapOpcodeToMemCheckForUnmappedOpcode()
 {
-    for (const Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (const Opcode* opcode : m_opcodeList) {
         if (opcode->memRange < 0 || opcode->pageAddr < 0) {
             m_msgHndlr->signMsg(errMMCodeOutsideRange, &opcode->srcRef);
             return false;
@@ -345,10 +345,12 @@ bool ModAsmFe::mapOpcodeToMemCheckForUnmappedOpcode()
 bool ModAsmFe::mapOpcodeToMemCheckForInterPageReferencing()
 {
     bool success = true;
-    for (const Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (const Opcode* opcode : m_opcodeList) {
+        // The instruction check tells the mnemonic and the kinds of the arguments together.
+        if (opcode->memRange <= 0 || (opcode->opcode != ocJump && opcode->opcode != ocCall))
+            continue;
         const Arg* arg = opcode->arg0->type == Arg::label ? opcode->arg0 : opcode->arg1;
-        if (arg->type != Arg::label || arg->labelOpcode == nullptr || opcode->memRange <= 0 ||
-            (opcode->name != QLatin1String("JUMP") && opcode->name != QLatin1String("CALL")))
+        if (arg->type != Arg::label || arg->labelOpcode == nullptr)
             continue;
         const int target = arg->labelOpcode->memRange;
         if (target > 0 && target != opcode->memRange) {

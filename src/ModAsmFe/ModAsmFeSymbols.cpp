@@ -239,7 +239,7 @@ bool ModAsmFe::syntacticsCheckOpcode()
         return false;
     }
     bool success = true;
-    for (Opcode* opcode = m_opcodeList.first(); opcode != nullptr; opcode = opcode->next) {
+    for (Opcode* opcode : m_opcodeList) {
         opcode->opcode = opcodeOfMnemonic(opcode->name);
         if (opcode->opcode == ocUndefined) {
             m_msgHndlr->signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
@@ -269,15 +269,23 @@ bool ModAsmFe::syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg, ArgExt* e
     }
     syntacticsSetArgParentheses(arg, ext);
     syntacticsSetArgNameSpace(arg, opcode->nameSpace);
-    if (Equ* equ = m_equList.find(arg->nameSpace, arg->name)) {
+    // No constant has the name of a number, a register or a bank, so these need no look-up.
+    bool numeric = AsmFeParseArg::isNumeric(arg->name);
+    bool reg = !numeric && m_regTable.contains(arg->name);
+    bool bank = !numeric && !reg && m_bankTable.contains(arg->name);
+    Equ* equ = numeric || reg || bank ? nullptr : m_equList.find(arg->nameSpace, arg->name);
+    if (equ != nullptr) {
         equ->used = true;
         arg->takeValue(*equ->arg);
+        numeric = AsmFeParseArg::isNumeric(arg->name);
+        reg = m_regTable.contains(arg->name);
+        bank = m_bankTable.contains(arg->name);
     }
-    if (AsmFeParseArg::isNumeric(arg->name))
+    if (numeric)
         return syntacticsCheckArgNumeric(srcRef, arg, ext);
-    if (m_regTable.contains(arg->name))
+    if (reg)
         return syntacticsCheckArgReg(srcRef, arg, ext);
-    if (m_bankTable.contains(arg->name))
+    if (bank)
         return syntacticsCheckArgBankName(srcRef, arg, ext);
     if (m_labelList.contains(arg->nameSpace, arg->name))
         return syntacticsCheckOpcodeArgumentLabel(opcode, arg, ext);

@@ -32,12 +32,6 @@ struct Modules
         asmFe.setAssembleOnChange(false);
     }
 
-    ~Modules()
-    {
-        processor.prjClose();
-        phases.stop();
-    }
-
     BatchMsg msg;
     nsModPrj::ModPrj prj;
     nsModSources::ModSources sources;
@@ -63,7 +57,8 @@ bool writeReports(const BatchOptions& options, nsModAsmFe::ModAsmFe* asmFe)
 
 int run(const BatchOptions& options)
 {
-    Modules modules(options);
+    // The process ends with the run: taking a large program apart piece by piece would only cost time.
+    static Modules& modules = *new Modules(options);
     if (!modules.prj.openPrj(QFileInfo(options.project).absoluteFilePath())) {
         modules.msg.showSummary(false, 0, {});
         return exitWrongUsage;

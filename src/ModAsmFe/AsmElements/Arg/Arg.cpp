@@ -7,7 +7,7 @@ const char* argTypeName(Arg::eArgType_t type)
     static const char* const names[] = {"unset",  "empty",   "numeric", "string UTF-16", "string encoded",
                                         "reg",    "regRef",  "regBank", "flagZ",         "flagNZ",
                                         "flagC",  "flagNC",  "enable",  "disable",       "label"};
-    return type >= 0 && type <= Arg::label ? names[type] : "unset";
+    return type <= Arg::label ? names[type] : "unset";
 }
 
 } // namespace nsModAsmFe

@@ -11,7 +11,7 @@ class Opcode;
 class Arg
 {
 public:
-    enum eArgType_t {
+    enum eArgType_t : quint8 {
         unset,
         empty,
         numeric,

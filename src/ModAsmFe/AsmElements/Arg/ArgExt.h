@@ -15,10 +15,11 @@ public:
     QString attr;      ///< text behind the last `'`, empty if none
     QString attrUpper; ///< the same in upper case
     QString range;     ///< text between `[` and `]`, empty if none
-    int attrType = unset;
-    int rangeStart = 0;
-    int rangeStop = 0;
-    int parentheses = parenthesesNone; ///< bit 0: began with `(`; bit 1: ended with `)`
+    // A program can have millions of arguments: these are kept small.
+    qint16 rangeStart = 0;
+    qint16 rangeStop = 0;
+    qint8 attrType = unset;
+    qint8 parentheses = parenthesesNone; ///< bit 0: began with `(`; bit 1: ended with `)`
 };
 
 } // namespace nsModAsmFe

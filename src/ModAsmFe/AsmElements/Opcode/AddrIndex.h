@@ -2,6 +2,7 @@
 
 #include <QtGlobal>
 
+#include <algorithm>
 #include <vector>
 
 namespace nsModAsmFe {
@@ -13,8 +14,11 @@ namespace nsModAsmFe {
 class AddrIndex
 {
 public:
-    /// Enters the addresses; the position in the vector is what find() answers.
-    void build(const std::vector<qint64>& addrs);
+    /// Enters the addresses of all elements.
+    /// @param count number of elements
+    /// @param addrOf address of the element at a position; the position is what find() answers
+    template <class AddrOf>
+    void build(size_t count, AddrOf addrOf);
     /// @return position of the first element with this address, -1 if there is none
     int find(qint64 addr) const;
     void clear();
@@ -29,5 +33,29 @@ private:
     std::vector<int> m_dense;
     std::vector<sEntry_t> m_sorted;
 };
+
+template <class AddrOf>
+void AddrIndex::build(size_t count, AddrOf addrOf)
+{
+    clear();
+    qint64 highest = -1;
+    for (size_t pos = 0; pos < count; ++pos)
+        highest = std::max(highest, addrOf(pos));
+    if (highest < qint64(count) * 4 + 4096) {
+        m_dense.assign(size_t(highest + 1), -1);
+        for (size_t pos = count; pos-- > 0;) {
+            if (addrOf(pos) >= 0)
+                m_dense[size_t(addrOf(pos))] = int(pos);
+        }
+        return;
+    }
+    m_sorted.reserve(count);
+    for (size_t pos = 0; pos < count; ++pos) {
+        if (addrOf(pos) >= 0)
+            m_sorted.push_back({addrOf(pos), int(pos)});
+    }
+    std::stable_sort(m_sorted.begin(), m_sorted.end(),
+                     [](const sEntry_t& a, const sEntry_t& b) { return a.addr < b.addr; });
+}
 
 } // namespace nsModAsmFe

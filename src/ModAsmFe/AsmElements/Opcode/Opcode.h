@@ -13,23 +13,21 @@ namespace nsModAsmFe {
 ///
 /// Its fields fill up within one run and never go back: text after parsing, types after the instruction check, `instWord` after
 /// the back end's first stage. Whoever writes `memRange`, `pageAddr` or `memAddr` tells the list by addressesChanged().
-class Opcode
+class alignas(64) Opcode
 {
 public:
-    Opcode() : arg0(&m_arg0), arg1(&m_arg1), arg0Ext(&m_arg0Ext), arg1Ext(&m_arg1Ext) {}
+    Opcode() = default;
     Opcode(const Opcode&) = delete;
     Opcode& operator=(const Opcode&) = delete;
 
+    // Instructions come by the million and are walked often: they lie in blocks, and what every walk reads stands first.
+    static void* operator new(size_t size);
+    static void operator delete(void* memory);
+
     SrcReference srcRef;
+    eOpcode_t opcode = ocUndefined;
     Opcode* prev = nullptr; ///< in source order; not owned
     Opcode* next = nullptr;
-    QString nameSpace; ///< namespace at this line
-    QString name;      ///< mnemonic in upper case
-    eOpcode_t opcode = ocUndefined;
-    Arg* const arg0; ///< owned, always there; a missing argument has the type `empty`
-    Arg* const arg1;
-    ArgExt* const arg0Ext;
-    ArgExt* const arg1Ext;
     int memRange = -1; ///< 0 the shared range, n + 1 for page n, -1 until mapped
     int memAddr = -1;  ///< address in the instruction memory, -1 until mapped
     int pageAddr = -1; ///< address within the range, -1 until mapped
@@ -37,13 +35,13 @@ public:
     bool mappedToIODev = false;
     /// Simulator breakpoint; only the simulators write it.
     char breakpoint = 0;
-
-private:
-    // The arguments lie inside the opcode: one allocation an instruction, and neighbours in memory.
-    Arg m_arg0;
-    Arg m_arg1;
-    ArgExt m_arg0Ext;
-    ArgExt m_arg1Ext;
+    QString nameSpace; ///< namespace at this line
+    QString name;      ///< mnemonic in upper case
+    // Each of these is an array of one element, so that it reads as the pointer to an argument that is always there.
+    Arg arg0[1]; ///< a missing argument has the type `empty`
+    Arg arg1[1];
+    ArgExt arg0Ext[1];
+    ArgExt arg1Ext[1];
 };
 
 } // namespace nsModAsmFe

@@ -118,20 +118,22 @@ void OpcodeList::buildIndexes() const
 {
     if (m_indexed)
         return;
-    m_rangeStride = 0;
-    for (const Opcode* opcode : m_opcodes)
-        m_rangeStride = std::max(m_rangeStride, qint64(opcode->pageAddr) + 1);
-
-    std::vector<qint64> keys(m_opcodes.size());
-    const auto build = [&](AddrIndex& index, auto key) {
-        std::transform(m_opcodes.begin(), m_opcodes.end(), keys.begin(), key);
-        index.build(keys);
-    };
-    build(m_byMemAddr, [](const Opcode* opcode) { return qint64(opcode->memAddr); });
-    build(m_byPageAddr, [](const Opcode* opcode) { return qint64(opcode->pageAddr); });
-    build(m_byRange, [this](const Opcode* opcode) {
-        return opcode->memRange < 0 || opcode->pageAddr < 0 ? qint64(-1)
-                                                            : opcode->memRange * m_rangeStride + opcode->pageAddr;
+    const size_t count = m_opcodes.size();
+    std::vector<int> memAddrs(count);
+    std::vector<int> pageAddrs(count);
+    std::vector<int> ranges(count);
+    int highest = -1;
+    for (size_t i = 0; i < count; ++i) {
+        memAddrs[i] = m_opcodes[i]->memAddr;
+        pageAddrs[i] = m_opcodes[i]->pageAddr;
+        ranges[i] = m_opcodes[i]->memRange;
+        highest = std::max(highest, pageAddrs[i]);
+    }
+    m_rangeStride = qint64(highest) + 1;
+    m_byMemAddr.build(count, [&](size_t i) { return qint64(memAddrs[i]); });
+    m_byPageAddr.build(count, [&](size_t i) { return qint64(pageAddrs[i]); });
+    m_byRange.build(count, [&](size_t i) {
+        return ranges[i] < 0 || pageAddrs[i] < 0 ? qint64(-1) : ranges[i] * m_rangeStride + pageAddrs[i];
     });
     m_indexed = true;
 }

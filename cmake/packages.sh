@@ -1,0 +1,27 @@
+# Sourced by the commands of the root: installs what is missing on a bare Debian 12, and does nothing when all is there.
+
+NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev libgtest-dev libgmock-dev"
+NALVO_RUN_PACKAGES="fonts-dejavu-core"
+NALVO_TEST_PACKAGES="ghdl iverilog"
+
+# need_packages NAME ...
+need_packages() {
+  missing=""
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "ok installed" || missing="$missing $package"
+  done
+  [ -n "$missing" ] || return 0
+  echo "Installing packages:$missing" >&2
+  as_root=""
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null 2>&1 || {
+      echo "These packages are missing, and sudo is not there to install them. As root, run: apt-get install$missing" >&2
+      return 1
+    }
+    as_root="sudo"
+  fi
+  $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends $missing >&2 || {
+    $as_root apt-get -q update >&2 &&
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends $missing >&2
+  }
+}
