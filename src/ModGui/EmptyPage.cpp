@@ -23,6 +23,12 @@ EmptyPage::EmptyPage(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
+void EmptyPage::setOpenText(const QString& text)
+{
+    m_openText = text;
+    update();
+}
+
 void EmptyPage::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -42,8 +48,14 @@ void EmptyPage::paintEvent(QPaintEvent*)
     painter.drawText(QRect(0, top, width(), nameHeight), Qt::AlignCenter, QCoreApplication::applicationName());
     painter.setFont(font());
     painter.setPen(hintColor);
-    painter.drawText(QRect(0, top + nameHeight + gap, width(), hintHeight), Qt::AlignCenter,
-                     tr("Open a project: Configuration > Open project..."));
+    QRect line(2 * gap, top + nameHeight + gap, width() - 4 * gap, hintHeight);
+    if (m_openText.isEmpty()) {
+        painter.drawText(line, Qt::AlignCenter, tr("Open a project: Configuration > Open project..."));
+        return;
+    }
+    painter.drawText(line, Qt::AlignCenter, fontMetrics().elidedText(m_openText, Qt::ElideMiddle, line.width()));
+    line.translate(0, hintHeight + gap / 2);
+    painter.drawText(line, Qt::AlignCenter, tr("Run it through the assembler: Assembler > Run assembler"));
 }
 
 } // namespace nsModGui

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QString>
 #include <QWidget>
 
 namespace nsModGui {
@@ -12,8 +13,14 @@ class EmptyPage : public QWidget
 public:
     explicit EmptyPage(QWidget* parent = nullptr);
 
+    /// @param text what is open, such as the project; empty if nothing is
+    void setOpenText(const QString& text);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    QString m_openText;
 };
 
 } // namespace nsModGui

@@ -68,7 +68,8 @@ void ModGui::setupCenter()
     auto* splitter = new QSplitter(center);
     splitter->setObjectName(QStringLiteral("splitterCenter"));
     splitter->setChildrenCollapsible(false);
-    auto* tabbed = new WidgetAreaTabbed;
+    m_tabbed = new WidgetAreaTabbed;
+    auto* tabbed = m_tabbed;
     auto* right = new WidgetAreaStacked;
     splitter->addWidget(tabbed);
     splitter->addWidget(right);
@@ -188,6 +189,7 @@ void ModGui::setWindowTitle(QString text)
         return;
     const QString name = QCoreApplication::applicationName();
     m_window->setWindowTitle(text.isEmpty() ? name : name + QStringLiteral(" - ") + text);
+    m_tabbed->setOpenText(text);
 }
 
 void ModGui::addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* widget, QString name)

@@ -110,6 +110,7 @@ private:
     void showStoredStatusText(QWidget* widget);
 
     QPointer<QMainWindow> m_window;
+    WidgetAreaTabbed* m_tabbed = nullptr; ///< owned by the window
     sArea_t m_areas[areaCount]; ///< by location; the first stays empty
     PluginList<ModGuiPluginIf> m_plugins;
     QHash<QWidget*, sWidgetData_t*> m_widgets;

@@ -48,6 +48,11 @@ void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
     setTabText(index, chkAppName(name));
 }
 
+void WidgetAreaTabbed::setOpenText(const QString& text)
+{
+    m_emptyPage->setOpenText(text);
+}
+
 void WidgetAreaTabbed::setWidgetIcon(QWidget* widget, const QIcon& icon)
 {
     if (hasWidget(widget))

@@ -22,6 +22,8 @@ public:
     QString chkAppName(const QString& name) const;
     void setWidgetName(QWidget* widget, const QString& name);
     void setWidgetIcon(QWidget* widget, const QIcon& icon);
+    /// What the area names as open while it has no page; empty if nothing is.
+    void setOpenText(const QString& text);
 
     // WidgetArea
     void addWidget(const QString& name, QWidget* widget) override;

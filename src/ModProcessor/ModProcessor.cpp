@@ -35,7 +35,19 @@ void unregisterAt(Hook* hook, ProcPluginIf* processor)
 
 ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_unique<ProcList>()) {}
 
-ModProcessor::~ModProcessor() = default;
+ModProcessor::~ModProcessor()
+{
+    // Where the window goes without a close, the servers may be gone already: the processor must not call them any more.
+    if (m_current == nullptr)
+        return;
+    m_current->modGuiHook = nullptr;
+    m_current->modMsgHook = nullptr;
+    m_current->modEditorHook = nullptr;
+    m_current->modAsmFeHook = nullptr;
+    m_current->modActionHook = nullptr;
+    m_current->modCfgAppHook = nullptr;
+    m_current->modPrjHook = nullptr;
+}
 
 void ModProcessor::modInitIntermod()
 {

@@ -1,0 +1,179 @@
+// An example project in the window, from opening to the files of a button, with clicks where a user would click.
+
+#include "MainWindowFixture.h"
+
+#include "ModPrj.h"
+
+#include <QDirIterator>
+#include <QLabel>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QToolBar>
+#include <QToolButton>
+
+namespace {
+
+/// Copies a folder with all below it.
+void copyFolder(const QString& from, const QString& to)
+{
+    QDir().mkpath(to);
+    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        const QString path = it.next();
+        const QString target = to + '/' + QDir(from).relativeFilePath(path);
+        QDir().mkpath(QFileInfo(target).path());
+        QFile::remove(target);
+        QFile::copy(path, target);
+        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    }
+}
+
+QByteArray content(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+class ExampleProject : public MainWindowFixture
+{
+protected:
+    ExampleProject()
+    {
+        copyFolder(NALVO_SOURCE_DIR "/examples", projectDir());
+        writeSetting("ModGui/width", "1280");
+        writeSetting("ModGui/height", "750");
+        makeWindow();
+    }
+
+    QString project() const { return projectDir() + "/uart_monitor/uart_monitor.nalvo"; }
+    QString output(const QString& suffix) const { return projectDir() + "/uart_monitor/output/uart_monitor_rom." + suffix; }
+    bool open() { return module<nsModPrj::ModPrj>()->openPrj(project()); }
+
+    /// The button of a tool bar that triggers the action with this text.
+    QToolButton* button(const QString& text) const
+    {
+        for (QToolButton* candidate : window->findChildren<QToolButton*>()) {
+            if (candidate->defaultAction() != nullptr && candidate->defaultAction()->text() == text)
+                return candidate;
+        }
+        return nullptr;
+    }
+    void click(const QString& text)
+    {
+        QToolButton* found = button(text);
+        ASSERT_NE(found, nullptr);
+        ASSERT_TRUE(found->isEnabled());
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+    QTreeWidgetItem* messageItem(const QString& start) const
+    {
+        QTreeWidgetItemIterator it(messageView());
+        for (; *it != nullptr; ++it) {
+            if ((*it)->text(0).startsWith(start))
+                return *it;
+        }
+        return nullptr;
+    }
+};
+
+TEST_F(ExampleProject, buttonsWriteTheSameFilesAsTheBatchAssembler)
+{
+    ASSERT_TRUE(open());
+    EXPECT_TRUE(window->windowTitle().startsWith("Nalvo - uart_monitor.nalvo"));
+    for (const char* suffix : {"hex", "mem", "vhd", "v"})
+        EXPECT_FALSE(QFile::exists(output(suffix))) << suffix;
+    click("Write output files button 1");
+    screenshot("example-assembled");
+    ASSERT_NE(messageItem("Writing IO device"), nullptr);
+    for (QTreeWidgetItem* item : {messageItem("Assembling..."), messageItem("Write IO devices to files...")}) {
+        ASSERT_NE(item, nullptr);
+        EXPECT_FALSE(item->isExpanded());
+    }
+    // One word a line: as many as the memory has.
+    const QByteArray hex = content(output("hex"));
+    EXPECT_EQ(hex.count('\n'), 1024);
+    EXPECT_EQ(hex.size(), 1024 * 6);
+    EXPECT_TRUE(content(output("mem")).startsWith("@0\r\n"));
+    EXPECT_TRUE(content(output("vhd")).contains("INIT_00"));
+    EXPECT_TRUE(content(output("v")).contains("INIT_00"));
+    EXPECT_FALSE(content(output("vhd")).contains("{INIT"));
+}
+
+TEST_F(ExampleProject, equListFillsWithTheRun)
+{
+    ASSERT_TRUE(open());
+    click("Run assembler");
+    const auto* list = window->findChild<QTreeWidget*>("equListView");
+    ASSERT_NE(list, nullptr);
+    EXPECT_GT(list->topLevelItemCount(), 20);
+    const QList<QTreeWidgetItem*> items = list->findItems("VECTOR", Qt::MatchContains);
+    EXPECT_TRUE(items.isEmpty() || items.first()->text(1).startsWith("0x"));
+    const auto* processor = window->findChild<QLabel*>("asmFeStatusBarProcessor");
+    ASSERT_NE(processor, nullptr);
+    EXPECT_EQ(processor->text(), "Xilinx PicoBlaze 3");
+}
+
+TEST_F(ExampleProject, anErrorStandsOpenWithItsLinks)
+{
+    const QString source = projectDir() + "/uart_monitor/src/main.psm";
+    QFile file(source);
+    ASSERT_TRUE(file.open(QIODevice::Append));
+    const int line = content(source).count('\n') + 1;
+    file.write("    LOAD s0, not_there\n    LOAD s1, 256\n");
+    file.close();
+    ASSERT_TRUE(open());
+    click("Run assembler");
+    screenshot("example-error");
+    const QTreeWidgetItem* error = messageItem("Unsupported argument: not_there");
+    ASSERT_NE(error, nullptr);
+    EXPECT_EQ(error->text(1), "Show help page");
+    EXPECT_EQ(error->text(2), QString("src/main.psm#%1").arg(line));
+    EXPECT_TRUE(error->parent()->isExpanded());
+    EXPECT_TRUE(messageItem("Assembling...")->isExpanded());
+    EXPECT_FALSE(QFile::exists(output("hex")));
+    EXPECT_FALSE(button("Write output files button 1")->isEnabled());
+    EXPECT_TRUE(button("Run assembler")->isEnabled());
+
+    // Mended, it runs again, from the same window.
+    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray text = file.readAll();
+    text.replace("    LOAD s0, not_there\n    LOAD s1, 256\n", "");
+    file.resize(0);
+    file.write(text);
+    file.close();
+    click("Run assembler");
+    EXPECT_EQ(messageItem("Unsupported argument"), nullptr);
+    EXPECT_TRUE(button("Write output files button 1")->isEnabled());
+}
+
+TEST_F(ExampleProject, everyExampleOpensAssemblesAndCloses)
+{
+    const QFileInfoList folders = QDir(projectDir()).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot);
+    int projects = 0;
+    for (const QFileInfo& folder : folders) {
+        for (const QFileInfo& file : QDir(folder.filePath()).entryInfoList({"*.nalvo"}, QDir::Files)) {
+            SCOPED_TRACE(qPrintable(file.fileName()));
+            ++projects;
+            auto* prj = module<nsModPrj::ModPrj>();
+            ASSERT_TRUE(prj->openPrj(file.filePath()));
+            click("Write output files button 1");
+            EXPECT_EQ(messageItem("Failure"), nullptr);
+            EXPECT_NE(messageItem("Writing IO device"), nullptr);
+            EXPECT_TRUE(prj->closePrj());
+            EXPECT_FALSE(button("Run assembler")->isEnabled());
+        }
+    }
+    EXPECT_GE(projects, 3);
+}
+
+TEST_F(ExampleProject, savedProjectKeepsTheProcessorAndItsSources)
+{
+    ASSERT_TRUE(open());
+    click("Close project");
+    ASSERT_TRUE(open());
+    click("Write output files button 1");
+    EXPECT_NE(messageItem("Writing IO device"), nullptr);
+    EXPECT_EQ(messageItem("Failure"), nullptr);
+}
+
+} // namespace
