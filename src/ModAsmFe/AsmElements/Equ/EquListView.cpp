@@ -2,7 +2,6 @@
 
 #include "SymbolHash.h"
 
-#include <QFontDatabase>
 #include <QHeaderView>
 #include <QLabel>
 #include <QTreeWidget>
@@ -24,6 +23,10 @@ EquListView::EquListView(QWidget* parent) : QWidget(parent), m_tree(new QTreeWid
     m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_tree->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
 
+    m_numberFont = QFont("DejaVu Sans Mono");
+    m_numberFont.setStyleHint(QFont::Monospace);
+    m_numberFont.setPointSizeF(font().pointSizeF());
+
     auto* note = new QLabel(
         tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
     note->setWordWrap(true);
@@ -36,12 +39,19 @@ EquListView::EquListView(QWidget* parent) : QWidget(parent), m_tree(new QTreeWid
     layout->addWidget(note);
 }
 
+QSize EquListView::sizeHint() const
+{
+    // Wide enough for names of a usual length beside their values.
+    return QSize(fontMetrics().averageCharWidth() * 38, fontMetrics().height() * 16);
+}
+
 void EquListView::addItem(QString name, QString nameSpace, int value)
 {
     auto* item = new QTreeWidgetItem;
     item->setText(0, qualifiedName(nameSpace, name));
     item->setText(1, QStringLiteral("0x%1").arg(uint(value), 0, 16));
-    item->setFont(1, QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    item->setToolTip(0, item->text(0));
+    item->setFont(1, m_numberFont);
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     if (m_filling) {
         m_gathered.append(item);

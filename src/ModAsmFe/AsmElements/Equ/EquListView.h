@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QFont>
 #include <QWidget>
 
 class QTreeWidget;
@@ -23,12 +24,15 @@ public:
     void beginFill();
     void endFill();
 
+    QSize sizeHint() const override;
+
 signals:
     /// The table has new lines.
     void contentChanged(QWidget* widget);
 
 private:
     QTreeWidget* m_tree = nullptr;
+    QFont m_numberFont;
     QList<QTreeWidgetItem*> m_gathered;
     bool m_filling = false;
 };
