@@ -91,7 +91,13 @@ void EditorSupportMenuNode::removeNode(QStringList path)
 
 void EditorSupportMenuNode::setSortEn(QStringList path, bool enabled)
 {
-    node(path)->sortEn = enabled;
+    // Only a sub menu has something to sort, so a missing node becomes one and not a leaf.
+    EditorSupportMenuNode* at = this;
+    for (const QString& component : path) {
+        EditorSupportMenuNode* next = at->child(component);
+        at = next != nullptr ? next : at->addChild(component, true);
+    }
+    at->sortEn = enabled;
 }
 
 void EditorSupportMenuNode::sort()
