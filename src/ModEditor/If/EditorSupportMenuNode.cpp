@@ -42,9 +42,9 @@ QAction* EditorSupportMenuNode::menuEntry() const
 EditorSupportMenuNode* EditorSupportMenuNode::addChild(const QString& childName, bool inner)
 {
     auto* added = new EditorSupportMenuNode(childName);
-    // What hangs below a leaf has no menu to stand in.
+    // What hangs below a leaf has no menu to stand in. A sub menu reports through the menu that it belongs to.
     if (menu != nullptr && inner) {
-        added->menu = new QMenu(childName);
+        added->menu = new QMenu(childName, menu);
     } else if (menu != nullptr) {
         added->action = new QAction(childName, nullptr);
         added->action->setData(QVariant::fromValue(added));
