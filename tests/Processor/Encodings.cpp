@@ -8,10 +8,10 @@ const std::vector<const sInstrSet*>& allInstrSets()
 
 QStringList allMnemonics()
 {
-    return {"ADD",   "ADDC", "AND",     "CALL", "CLR",  "COMP",  "COMPC", "INT",   "HWBUILD", "JUMP",
-            "LOAD",  "LOADRET", "NOP",  "OR",   "RDMEM", "RDPRT", "REGBANK", "RET", "RETI",   "ROL",
-            "ROLC",  "ROR",  "RORC",    "SET",  "SL0",  "SL1",   "SLX",   "SR0",   "SR1",     "SRX",
-            "STAR",  "WRMEM", "WRPRT",  "SUB",  "SUBC", "TEST",  "TESTC", "XOR"};
+    return {"ADD",  "ADDC",    "AND",   "CALL", "CLR",   "COMP",  "COMPC",   "INT", "HWBUILD", "JUMP",
+            "LOAD", "LOADRET", "NOP",   "OR",   "RDMEM", "RDPRT", "REGBANK", "RET", "RETI",    "ROL",
+            "ROLC", "ROR",     "RORC",  "SET",  "SL0",   "SL1",   "SLX",     "SR0", "SR1",     "SRX",
+            "STAR", "WRMEM",   "WRPRT", "SUB",  "SUBC",  "TEST",  "TESTC",   "XOR"};
 }
 
 QString mnemonicOf(const QString& text)

@@ -6,10 +6,11 @@
 
 #include <vector>
 
-// The instruction sets as the manuals of the processors give them, as data of the tests alone: each form of each instruction with
-// its word.
+// The instruction sets as the manuals of the processors give them, as data of the tests alone: each form of each
+// instruction with its word.
 
-/// One form of an instruction. The word is `word` + `first` * (value of the first operand) + `second` * (value of the second).
+/// One form of an instruction. The word is `word` + `first` * (value of the first operand) + `second` * (value of the
+/// second).
 ///
 /// Operands in the text:
 ///   {r} register   {k} number of a byte   {p} port   {c} port of a constant   {s} scratchpad address
@@ -25,12 +26,12 @@ struct sEncoding
 /// One processor.
 struct sInstrSet
 {
-    QString name;            ///< display name
-    QString section;         ///< first component of its keys in the project
-    char regLetter;          ///< registers are this letter and a number
-    int regBase;             ///< base of that number
+    QString name;    ///< display name
+    QString section; ///< first component of its keys in the project
+    char regLetter;  ///< registers are this letter and a number
+    int regBase;     ///< base of that number
     int regCount;
-    QString numberTooLarge;  ///< key and text of the message; %1 is the number
+    QString numberTooLarge; ///< key and text of the message; %1 is the number
     QString portTooLarge;
     QString constPortTooLarge;
     QString addressTooLarge; ///< of the scratchpad

@@ -32,7 +32,8 @@ QString operandText(const sInstrSet& set, QChar letter, int value, int address)
     }
 }
 
-ProcProgram::ProcProgram(const sInstrSet& set) : m_set(set)
+ProcProgram::ProcProgram(const sInstrSet& set)
+    : m_set(set)
 {
     for (int i = 0; i < margin; ++i)
         add("NOP", 0);

@@ -12,8 +12,8 @@ struct sProgramLine
     int word = 0;
 };
 
-/// A source for one run over thousands of instructions. Each line is an instruction; line n has the address n and the label `Ln`,
-/// so that any address can be a target.
+/// A source for one run over thousands of instructions. Each line is an instruction; line n has the address n and the
+/// label `Ln`, so that any address can be a target.
 class ProcProgram
 {
 public:

@@ -1,5 +1,5 @@
-// Every mnemonic with every pair of kinds of arguments: accepted where a form of the instruction set has this pair, otherwise
-// refused with exactly one message.
+// Every mnemonic with every pair of kinds of arguments: accepted where a form of the instruction set has this pair,
+// otherwise refused with exactly one message.
 
 #include "Encodings.h"
 #include "InstrSetTest.h"
@@ -19,11 +19,8 @@ struct sKind
 
 QList<sKind> kindsOf(const sInstrSet& set)
 {
-    QList<sKind> kinds = {{"", ""},
-                          {"{r}", set.regName(1)},
-                          {"({r})", '(' + set.regName(2) + ')'},
-                          {"number", "5"},
-                          {"label", "here"}};
+    QList<sKind> kinds = {
+        {"", ""}, {"{r}", set.regName(1)}, {"({r})", '(' + set.regName(2) + ')'}, {"number", "5"}, {"label", "here"}};
     for (const char* word : {"Z", "NZ", "C", "NC", "ENABLE", "DISABLE"})
         kinds.append(sKind{word, word});
     if (set.section == "XPBlze6") {

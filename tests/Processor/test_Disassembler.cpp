@@ -19,13 +19,16 @@ INSTANTIATE_TEST_SUITE_P(processors, DisassemblerTest, ::testing::ValuesIn(allIn
 
 /// How many words have a text.
 const QHash<QString, int> canonicalWords = {
-    // 10 * (4096 + 256) with two operands, 2 * (4096 + 256) ports, 2 * (1024 + 256) scratchpad, 10 * 1024 jumps and calls,
+    // 10 * (4096 + 256) with two operands, 2 * (4096 + 256) ports, 2 * (1024 + 256) scratchpad, 10 * 1024 jumps and
+    // calls,
     // 5 RET, 2 INT, 2 RETI, 160 shifts
     {"XPBlze3", 65193},
-    // 13 * (4096 + 256) with two operands, 4 * (4096 + 256) ports and scratchpad, 4096 constant ports, 10 * 4096 + 512 jumps and
+    // 13 * (4096 + 256) with two operands, 4 * (4096 + 256) ports and scratchpad, 4096 constant ports, 10 * 4096 + 512
+    // jumps and
     // calls, 4096 LOADRET, 5 RET, 2 RETI, 2 INT, 2 REGBANK, 16 HWBUILD, 160 shifts
     {"XPBlze6", 123835},
-    // 10 * (1024 + 8192) with two operands, 4096 rotates, 8 * 1024 ports and scratchpad, 10 * 4096 jumps and calls, RET, RETI,
+    // 10 * (1024 + 8192) with two operands, 4096 rotates, 8 * 1024 ports and scratchpad, 10 * 4096 jumps and calls,
+    // RET, RETI,
     // 4 flags, 2 INT
     {"LMico8v3x", 145416},
 };
@@ -79,7 +82,8 @@ TEST_P(DisassemblerTest, masksAndFieldsCoverEachBitOnce)
 }
 
 /// Why a text is not what comes back for its word.
-enum eOverlap_t {
+enum eOverlap_t
+{
     overlapNone,      ///< it is
     overlapNop,       ///< NOP is a load of a register with itself
     overlapRotate,    ///< a rotate inside one register is one of two registers
@@ -121,7 +125,8 @@ TEST_P(DisassemblerTest, everyTextComesBackAsItselfOrAsAKnownOther)
         ++counts[overlap];
         ASSERT_NE(overlap, overlapUnexpected) << line.text.toStdString() << " -> " << canonical.toStdString();
     }
-    // Of a Mico8, 4 instructions have 32 registers with 224 addresses above 31; from register 31 on there is nothing further up.
+    // Of a Mico8, 4 instructions have 32 registers with 224 addresses above 31; from register 31 on there is nothing
+    // further up.
     const int jumps = 4 * (1 + 2 + 3 + 4 + 5 + 6 + 7) * 32;
     const bool isMico8 = set().section == "LMico8v3x";
     EXPECT_EQ(counts[overlapNop], 1);

@@ -28,7 +28,8 @@ QStringList wrongWords(const ProcProgram& program, const ProcRun& run)
     for (int address = program.firstAddress(); address < program.nextAddress() && wrong.size() < 10; ++address) {
         const sProgramLine& line = program.line(address);
         if (run.words().at(address) != line.word)
-            wrong.append(QString("%1: expected %2, is %3").arg(line.text, hex(line.word), hex(run.words().at(address))));
+            wrong.append(
+                QString("%1: expected %2, is %3").arg(line.text, hex(line.word), hex(run.words().at(address))));
     }
     return wrong;
 }
@@ -48,9 +49,10 @@ TEST_P(Encodings, everyInstructionWithEveryOperand)
         // 10 pairs of forms with two operands; ports, scratchpad; jumps and calls; RET, INT, RETI, NOP; shifts
         {"XPBlze3", 10 * (256 + 4096) + 2 * (4096 + 256) + 2 * (1024 + 256) + 2 * 5 * 1024 + 5 + 2 + 2 + 1 + 10 * 16},
         // the same, and constant ports, computed targets, LOADRET, REGBANK, HWBUILD
-        {"XPBlze6", 13 * (256 + 4096) + 4 * (4096 + 256) + 4096 + 2 * (5 * 4096 + 256) + 5 + 2 + 2 + 4096 + 2 + 16 + 1 +
-                        10 * 16},
-        // two operands, rotates of two and of one register, ports and scratchpad, jumps and calls, RET, RETI, flags, INT, NOP
+        {"XPBlze6",
+         13 * (256 + 4096) + 4 * (4096 + 256) + 4096 + 2 * (5 * 4096 + 256) + 5 + 2 + 2 + 4096 + 2 + 16 + 1 + 10 * 16},
+        // two operands, rotates of two and of one register, ports and scratchpad, jumps and calls, RET, RETI, flags,
+        // INT, NOP
         {"LMico8v3x", 10 * (1024 + 8192) + 4 * (1024 + 32) + 4 * (8192 + 1024) + 2 * 5 * 4096 + 2 + 4 + 2 + 1},
     };
     EXPECT_EQ(program.count(), counts.value(set().section));
@@ -118,8 +120,7 @@ TEST_P(Encodings, mnemonicsThatTheProcessorLacks)
     EXPECT_FALSE(run.assemble(lines));
     for (int line = 1; line < lines.size(); ++line) {
         const QString mnemonic = lacking.at((line - 1) / 4);
-        EXPECT_EQ(run.messages().value(line),
-                  QStringList("errOcUnsupported | Unsupported instruction: " + mnemonic))
+        EXPECT_EQ(run.messages().value(line), QStringList("errOcUnsupported | Unsupported instruction: " + mnemonic))
             << lines.at(line).toStdString();
     }
     EXPECT_EQ(run.messages().value(0), QStringList());
@@ -134,7 +135,8 @@ TEST_P(Encodings, scratchpadAddressesOfEachSize)
         settings.insert(set().section + "/scrpdSize", size);
         QStringList lines;
         for (int addr = 0; addr < 300; ++addr)
-            lines.append(QString(addr % 2 == 0 ? "RDMEM %1, %2" : "WRMEM %1, %2").arg(set().regName(addr % 16)).arg(addr));
+            lines.append(
+                QString(addr % 2 == 0 ? "RDMEM %1, %2" : "WRMEM %1, %2").arg(set().regName(addr % 16)).arg(addr));
         ProcRun run(set().name, settings);
         EXPECT_FALSE(run.assemble(lines));
         for (int addr = 0; addr < lines.size(); ++addr) {

@@ -8,8 +8,9 @@
 
 /// One form of an instruction as a decoder sees it: the bits that must have a value, and fields for the rest.
 ///
-/// Fields in the text are a letter of an operand and the place of its lowest bit, such as {r8}; see Encodings.h for the letters.
-/// Registers have 4 or 5 bits, numbers and ports 8, constant ports 4, scratchpad addresses and targets as many as given below.
+/// Fields in the text are a letter of an operand and the place of its lowest bit, such as {r8}; see Encodings.h for the
+/// letters. Registers have 4 or 5 bits, numbers and ports 8, constant ports 4, scratchpad addresses and targets as many
+/// as given below.
 struct sDecoding
 {
     int mask;
@@ -39,13 +40,17 @@ const sDecoder& mico8Decoder();
 /// Turns words back into the text of instructions.
 ///
 /// Only canonical words have a text: words that the assembler can make. Some of their bits hold nothing, such as the
-/// lowest four of a register form; a word with any of those bits set has no text, since no text makes it. Where two texts make
-/// one word, the more general one is given: a NOP is the load of the first register with itself, a rotate inside one register
-/// is one of two registers, and a Mico8 port number beyond 31 is what its sum with the register makes of it.
+/// lowest four of a register form; a word with any of those bits set has no text, since no text makes it. Where two
+/// texts make one word, the more general one is given: a NOP is the load of the first register with itself, a rotate
+/// inside one register is one of two registers, and a Mico8 port number beyond 31 is what its sum with the register
+/// makes of it.
 class Disassembler
 {
 public:
-    explicit Disassembler(const sInstrSet& set) : m_decoder(decoderOf(set)) {}
+    explicit Disassembler(const sInstrSet& set)
+        : m_decoder(decoderOf(set))
+    {
+    }
 
     /// The instruction of a word, with the labels of ProcProgram as targets; empty if there is none.
     /// @param address of the word, to which relative targets are counted

@@ -1,0 +1,237 @@
+#pragma once
+
+#include "FakeHooks.h"
+
+#include "ModAsmFeHookIf.h"
+#include "ModAsmFePluginIf.h"
+#include "ModEditorHookIf.h"
+#include "ModEditorPluginIf.h"
+
+#include <QMap>
+#include <QRegExp>
+#include <QStringList>
+#include <QUrl>
+
+// Services that write into one common log who registers with them, as "+ModGuiPluginIf" and "-ModGuiPluginIf".
+
+class RecordingGuiHook : public FakeGuiHook
+{
+public:
+    explicit RecordingGuiHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    using FakeGuiHook::registerPlugin;
+    using FakeGuiHook::unregisterPlugin;
+    void registerPlugin(ModGuiPluginIf* plugin) override
+    {
+        m_log->append("+ModGuiPluginIf");
+        FakeGuiHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModGuiPluginIf* plugin) override
+    {
+        m_log->append("-ModGuiPluginIf");
+        FakeGuiHook::unregisterPlugin(plugin);
+    }
+
+private:
+    QStringList* m_log;
+};
+
+class RecordingMsgHook : public FakeMsgHook
+{
+public:
+    explicit RecordingMsgHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    using FakeMsgHook::registerPlugin;
+    using FakeMsgHook::unregisterPlugin;
+    void registerPlugin(ModMsgPluginIf* plugin) override
+    {
+        m_log->append("+ModMsgPluginIf");
+        FakeMsgHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModMsgPluginIf* plugin) override
+    {
+        m_log->append("-ModMsgPluginIf");
+        FakeMsgHook::unregisterPlugin(plugin);
+    }
+
+private:
+    QStringList* m_log;
+};
+
+class RecordingActionHook : public FakeActionHook
+{
+public:
+    explicit RecordingActionHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    using FakeActionHook::registerPlugin;
+    using FakeActionHook::unregisterPlugin;
+    void registerPlugin(ModActionPluginIf* plugin) override
+    {
+        m_log->append("+ModActionPluginIf");
+        FakeActionHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModActionPluginIf* plugin) override
+    {
+        m_log->append("-ModActionPluginIf");
+        FakeActionHook::unregisterPlugin(plugin);
+    }
+
+private:
+    QStringList* m_log;
+};
+
+class RecordingCfgAppHook : public FakeCfgAppHook
+{
+public:
+    explicit RecordingCfgAppHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    using FakeCfgAppHook::registerPlugin;
+    using FakeCfgAppHook::unregisterPlugin;
+    void registerPlugin(ModCfgAppPluginIfInterMod* plugin) override
+    {
+        m_log->append("+ModCfgAppPluginIfInterMod");
+        FakeCfgAppHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModCfgAppPluginIfInterMod* plugin) override
+    {
+        m_log->append("-ModCfgAppPluginIfInterMod");
+        FakeCfgAppHook::unregisterPlugin(plugin);
+    }
+
+private:
+    QStringList* m_log;
+};
+
+class RecordingPrjHook : public FakePrjHook
+{
+public:
+    explicit RecordingPrjHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    using FakePrjHook::registerPlugin;
+    using FakePrjHook::unregisterPlugin;
+    void registerPlugin(ModPrjPluginIfInterMod* plugin) override
+    {
+        m_log->append("+ModPrjPluginIfInterMod");
+        FakePrjHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModPrjPluginIfInterMod* plugin) override
+    {
+        m_log->append("-ModPrjPluginIfInterMod");
+        FakePrjHook::unregisterPlugin(plugin);
+    }
+
+private:
+    QStringList* m_log;
+};
+
+class RecordingAsmFeHook : public ModAsmFeHookIf
+{
+public:
+    explicit RecordingAsmFeHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    void registerPlugin(ModAsmFePluginIf* plugin) override { enter("+ModAsmFePluginIf", plugin, this); }
+    void unregisterPlugin(ModAsmFePluginIf* plugin) override { enter("-ModAsmFePluginIf", plugin, nullptr); }
+    void registerPlugin(ModAsmFePluginIfInterMod* plugin) override { enter("+ModAsmFePluginIfInterMod", plugin, this); }
+    void unregisterPlugin(ModAsmFePluginIfInterMod* plugin) override
+    {
+        enter("-ModAsmFePluginIfInterMod", plugin, nullptr);
+    }
+    void registerPlugin(ModAsmFePluginIfBackend* plugin) override { enter("+ModAsmFePluginIfBackend", plugin, this); }
+    void unregisterPlugin(ModAsmFePluginIfBackend* plugin) override
+    {
+        enter("-ModAsmFePluginIfBackend", plugin, nullptr);
+    }
+    nsModAsmFe::LabelList* labelList() override { return nullptr; }
+    nsModAsmFe::EquList* equList() override { return nullptr; }
+    nsModAsmFe::OrgList* orgList() override { return nullptr; }
+    nsModAsmFe::SetList* setList() override { return nullptr; }
+    nsModAsmFe::OpcodeList* opcodeList() override { return nullptr; }
+    nsModAsmFe::IODevList* ioDevList() override { return nullptr; }
+    bool setOverwriteBehaviorError() override { return false; }
+    bool setOverwriteBehaviorWarning() override { return false; }
+    bool isAssembled() override { return false; }
+    bool instMemConfig(int*, int*, bool*) override { return false; }
+    nsModAsmFe::AsmFeFileHndlr* fileHndlr() override { return nullptr; }
+    nsModAsmFe::AsmFeMsgHndlr* msgHndlr() override { return nullptr; }
+    nsModAsmFe::AsmFeParseArg* parseArg() override { return nullptr; }
+    int asmBehaviorChkIntVector() override { return 2; }
+
+private:
+    template <class Plugin>
+    void enter(const char* text, Plugin* plugin, ModAsmFeHookIf* hook)
+    {
+        m_log->append(text);
+        plugin->modAsmFeHook = hook;
+    }
+
+    QStringList* m_log;
+};
+
+class RecordingEditorHook : public ModEditorHookIf
+{
+public:
+    explicit RecordingEditorHook(QStringList* log)
+        : m_log(log)
+    {
+    }
+    void registerPlugin(ModEditorPluginIf* plugin) override { enter("+ModEditorPluginIf", plugin, this); }
+    void unregisterPlugin(ModEditorPluginIf* plugin) override { enter("-ModEditorPluginIf", plugin, nullptr); }
+    void registerPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = this; }
+    void unregisterPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = nullptr; }
+    void registerPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = this; }
+    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = nullptr; }
+    void registerPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = this; }
+    void unregisterPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = nullptr; }
+    void newFile(QString) override {}
+    bool openFile(QString) override { return false; }
+    void reloadAllFiles() override {}
+    void reloadFile() override {}
+    bool selectFile(QString) override { return false; }
+    void saveAllFiles() override {}
+    bool saveFile() override { return false; }
+    bool saveFileAs() override { return false; }
+    bool saveFileAs(QString) override { return false; }
+    void closeAllFiles() override {}
+    void closeOtherFiles() override {}
+    void closeFile() override {}
+    void printFile() override {}
+    void setCursorToLine(QString, QString, int) override {}
+    void setCursorToLine(QString, int) override {}
+    void setCursorToLine(QUrl) override {}
+    bool cursorLine(QString*, int*) override { return false; }
+    void clearLineHighlited() override {}
+    void setLineHighlighted(QUrl) override {}
+    void setLineHighlighted(QString, int) override {}
+    void clearHighlighter() override {}
+    void configHighlighterAddRegExp(eHighlightRule_t, QRegExp) override {}
+    void setTabIndent(int) override {}
+    void setMemPageAddrMap(nsModEditor::EditorMemPageAddrMap*) override {}
+    QMap<QString, QList<int>> simBreakpoints() override { return {}; }
+    bool simBreakpointsChanged() override { return false; }
+    bool simStartPointer(QString*, int*) override { return false; }
+    void simEn(bool) override {}
+    void setTextCompletionList(QStringList&) override {}
+    nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
+
+private:
+    template <class Plugin>
+    void enter(const char* text, Plugin* plugin, ModEditorHookIf* hook)
+    {
+        m_log->append(text);
+        plugin->modEditorHook = hook;
+    }
+
+    QStringList* m_log;
+};
