@@ -137,6 +137,8 @@ void AsmCase::readRunComment(const QString& file, int line, int lineCount, const
     } else if (word == "set") {
         const int equals = rest.indexOf('=');
         settings.append({rest.left(equals).trimmed(), rest.mid(equals + 1).trimmed()});
+    } else if (word == "remove") {
+        removedFiles.append(rest);
     } else if (word == "intvector") {
         intVector = rest.toInt();
     } else if (word == "event") {

@@ -46,6 +46,7 @@ public:
 
     QString processor = QStringLiteral("Xilinx PicoBlaze 3");
     QList<QPair<QString, QString>> settings;
+    QStringList removedFiles; ///< names of files that vanish between opening and assembling
     int intVector = 2;
     int event = 0;
     QString result; ///< "assembled", "failed", or empty

@@ -102,6 +102,8 @@ void AsmRun::run()
         differ("the project could not be opened");
         return;
     }
+    for (const QString& file : m_case.removedFiles)
+        QFile::remove(m_dir.filePath(file));
     m_asmFe.behaviorChkIntVector = m_case.intVector;
     m_msg.dropOnClear = false;
     m_infosFrom = m_msg.log.size();
