@@ -1,13 +1,13 @@
 #include "BatchMsg.h"
 
+#include "BatchOutput.h"
+
 #include "ModMsgPluginIf.h"
 
-#include <QDir>
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-
-#include <cstdio>
 
 namespace nsNalvoAsm {
 
@@ -26,27 +26,17 @@ const char* severity(ModMsgHookIf::eMsgType_t type)
     return "error";
 }
 
-void printLine(FILE* stream, const QByteArray& line)
+QString tr(const char* text)
 {
-    std::fwrite(line.constData(), 1, size_t(line.size()), stream);
-    std::fputc('\n', stream);
-}
-
-/// A message is one line, whatever its text holds.
-QString oneLine(QString text)
-{
-    return text.replace('\n', ' ').remove('\r');
+    return QCoreApplication::translate("nalvo-asm", text);
 }
 
 } // namespace
 
-QString shownPath(const QString& path)
+BatchMsg::BatchMsg(const BatchOptions& options)
+    : m_options(options)
 {
-    static const QDir working = QDir::current();
-    return path.isEmpty() ? path : working.relativeFilePath(path);
 }
-
-BatchMsg::BatchMsg(const BatchOptions& options) : m_options(options) {}
 
 void BatchMsg::registerPlugin(ModMsgPluginIfInterMod* plugin)
 {
@@ -93,7 +83,9 @@ void BatchMsg::closeMessageGroup(bool)
 
 bool BatchMsg::isShown(eMsgType_t type) const
 {
-    return type == eMsgError || (type == eMsgWarning && !m_options.quiet) || (type == eMsgInfo && m_options.verbose);
+    // A warning that makes the run fail is never hidden.
+    const bool warningCounts = !m_options.quiet || m_options.werror;
+    return type == eMsgError || (type == eMsgWarning && warningCounts) || (type == eMsgInfo && m_options.verbose);
 }
 
 void BatchMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile)
@@ -134,17 +126,17 @@ void BatchMsg::printText(eMsgType_t type, const QString& text, const QString& ke
         shown = file + ':' + QString::number(line) + ": ";
     else if (!file.isEmpty())
         shown = file + ": ";
-    shown += QLatin1String(severity(type)) + QLatin1String(": ") + oneLine(text);
+    shown += QLatin1String(severity(type)) + QLatin1String(": ") + readable(text);
     if (!key.isEmpty())
         shown += " [" + key + ']';
-    printLine(stderr, shown.toLocal8Bit());
+    printLine(stderr, oneLine(shown).toLocal8Bit());
 }
 
 void BatchMsg::printJson(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line)
 {
     const QJsonObject object{{"severity", severity(type)},
                              {"key", key},
-                             {"text", text},
+                             {"text", readable(text)},
                              {"file", file.isEmpty() ? QJsonValue() : QJsonValue(file)},
                              {"line", line > 0 ? QJsonValue(line) : QJsonValue()},
                              {"groups", QJsonArray::fromStringList(m_groups)}};
@@ -153,22 +145,29 @@ void BatchMsg::printJson(eMsgType_t type, const QString& text, const QString& ke
 
 void BatchMsg::showSummary(bool success, int instructions, const QStringList& files)
 {
-    QStringList shown;
-    for (const QString& file : files)
-        shown.append(shownPath(file));
-    const char* const result = success ? "assembled" : "failed";
     if (m_options.format == BatchOptions::formatJson) {
-        const QJsonObject object{{"result", result},
+        QStringList shown;
+        for (const QString& file : files)
+            shown.append(shownPath(file));
+        const QJsonObject object{{"result", success ? "assembled" : "failed"},
                                  {"errors", m_errors},
                                  {"warnings", m_warnings},
                                  {"instructions", instructions},
                                  {"files", QJsonArray::fromStringList(shown)}};
         printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
-    } else if (!m_options.quiet) {
-        std::fprintf(stderr, "nalvo-asm: %s, %d errors, %d warnings, %d instructions, %d files written\n", result,
-                     m_errors, m_warnings, instructions, int(shown.size()));
+        return;
     }
-    std::fflush(stdout);
+    if (m_options.quiet)
+        return;
+    QStringList parts;
+    parts << (success ? tr("assembled") : tr("failed"));
+    parts << (m_errors == 1 ? tr("1 error") : tr("%1 errors").arg(m_errors));
+    parts << (m_warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(m_warnings));
+    if (m_options.werror && m_warnings > 0)
+        parts.last() += m_warnings == 1 ? tr(" (counts as an error)") : tr(" (count as errors)");
+    parts << (instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(instructions));
+    parts << (files.size() == 1 ? tr("1 file written") : tr("%1 files written").arg(files.size()));
+    printComplaint(parts.join(", "));
 }
 
 } // namespace nsNalvoAsm

@@ -57,7 +57,4 @@ private:
     int m_warnings = 0;
 };
 
-/// The path as a user sees it: relative to the working folder.
-QString shownPath(const QString& path);
-
 } // namespace nsNalvoAsm

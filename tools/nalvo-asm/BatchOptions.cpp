@@ -1,9 +1,10 @@
 #include "BatchOptions.h"
 
+#include "BatchOutput.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
-
-#include <cstdio>
+#include <QFileInfo>
 
 namespace nsNalvoAsm {
 
@@ -16,39 +17,60 @@ QString tr(const char* text)
     return QCoreApplication::translate("nalvo-asm", text);
 }
 
+// The parser breaks the lines of the options, but not these.
+const char* const description = "Assembles a Nalvo project as the program's window does, without a display.\n"
+                                "The project and the settings stay as they are; external programs are not run.\n"
+                                "\n"
+                                "Messages go to standard error, one a line:\n"
+                                "    path:line: error: text [key]\n"
+                                "With --format json they go to standard output, one object a line; the last\n"
+                                "object sums up.\n"
+                                "\n"
+                                "Exit status:\n"
+                                "    0  assembled, and all files are written\n"
+                                "    1  not assembled, a file not written, an error reported, or a warning with\n"
+                                "       --werror\n"
+                                "    2  wrong usage, or the project can not be opened\n"
+                                "\n"
+                                "With SOURCE_DATE_EPOCH in the environment, {TIMESTAMP} in templates is that\n"
+                                "time in UTC.";
+
 void setup(QCommandLineParser* parser)
 {
-    parser->setApplicationDescription(
-        tr("Assembles a Nalvo project as the program's window does, without a display.\n\n"
-           "Messages go to standard error as path:line: error: text [key]; with --format json they go to standard output, one "
-           "object a line, and a last object sums up.\n\n"
-           "Exit status: 0 assembled and all files written; 1 not, or an error was reported, or a warning under --werror; "
-           "2 wrong usage, or the project cannot be opened."));
+    parser->setApplicationDescription(tr(description));
     parser->addOptions({
         {{"e", "event"},
-         tr("Which output files to write: those of button1 (default), button2, save, or none."),
+         tr("Write the output files of this event: button1 (default), button2, save, or none."),
          tr("event"),
          "button1"},
-        {{"f", "format"}, tr("How to show messages: text (default) or json."), tr("format"), "text"},
-        {{"l", "listing"}, tr("Write a listing, one line an instruction. - is standard output."), tr("FILE")},
-        {{"s", "symbols"}, tr("Write labels and constants as JSON. - is standard output."), tr("FILE")},
-        {{"W", "werror"}, tr("Treat warnings as errors.")},
-        {"q", tr("Show errors alone, and no summary.")},
+        {{"f", "format"}, tr("Show messages as text (default) or json."), tr("format"), "text"},
+        {{"l", "listing"}, tr("Write a listing, one line an instruction, to FILE. - is standard output."), tr("FILE")},
+        {{"s", "symbols"}, tr("Write labels and #EQUs as JSON to FILE. - is standard output."), tr("FILE")},
+        {{"W", "werror"}, tr("Count warnings as errors.")},
+        {"q", tr("Show errors alone, and no summary. With -W, warnings too.")},
         {"v", tr("Show info messages and groups too.")},
         {{"h", "help"}, tr("Show this help.")},
         {"version", tr("Show the version.")},
     });
-    parser->addPositionalArgument("PROJECT.nalvo", tr("The project to assemble."));
+    parser->addPositionalArgument("PROJECT.nalvo", tr("The project to assemble."), "[--] PROJECT.nalvo");
+}
+
+bool wrongUsage(const QString& text)
+{
+    printComplaint(text);
+    printComplaint(tr("try nalvo-asm --help"));
+    return false;
+}
+
+/// The file that a name leads to, existing or not.
+QString target(const QString& name)
+{
+    const QFileInfo info(name);
+    return info.exists() ? info.canonicalFilePath()
+                         : QFileInfo(info.path()).canonicalFilePath() + '/' + info.fileName();
 }
 
 } // namespace
-
-bool BatchOptions::wrongUsage(const QString& text)
-{
-    std::fprintf(stderr, "nalvo-asm: %s\n%s\n", text.toLocal8Bit().constData(),
-                 tr("Try nalvo-asm --help.").toLocal8Bit().constData());
-    return false;
-}
 
 BatchOptions::eParse_t BatchOptions::parse(const QStringList& arguments)
 {
@@ -59,57 +81,62 @@ BatchOptions::eParse_t BatchOptions::parse(const QStringList& arguments)
         return parseWrong;
     }
     if (parser.isSet("help")) {
-        std::fputs(parser.helpText().toLocal8Bit().constData(), stdout);
+        print(stdout, parser.helpText().toLocal8Bit());
         return parseEnd;
     }
     if (parser.isSet("version")) {
-        std::printf("nalvo-asm %s\n", QCoreApplication::applicationVersion().toLocal8Bit().constData());
+        printLine(stdout, "nalvo-asm " + QCoreApplication::applicationVersion().toLocal8Bit());
         return parseEnd;
     }
+    return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
+}
+
+bool BatchOptions::readProject(const QCommandLineParser& parser)
+{
     const QStringList projects = parser.positionalArguments();
-    if (projects.size() != 1) {
-        wrongUsage(projects.isEmpty() ? tr("No project given.") : tr("More than one project given."));
-        return parseWrong;
-    }
+    if (projects.isEmpty())
+        return wrongUsage(tr("No project given."));
+    if (projects.size() > 1)
+        return wrongUsage(tr("More than one project given: %1").arg(projects.join(", ")));
+    project = projects.first();
+    return true;
+}
+
+bool BatchOptions::readChoices(const QCommandLineParser& parser)
+{
     static const QHash<QString, ModAsmFe::eAssembleEvent_t> events = {{"none", ModAsmFe::eEventNone},
                                                                       {"button1", ModAsmFe::eEventButton1},
                                                                       {"button2", ModAsmFe::eEventButton2},
                                                                       {"save", ModAsmFe::eEventSave}};
     static const QHash<QString, eFormat_t> formats = {{"text", formatText}, {"json", formatJson}};
-    if (!events.contains(parser.value("event"))) {
-        wrongUsage(tr("Unknown event: %1").arg(parser.value("event")));
-        return parseWrong;
-    }
-    if (!formats.contains(parser.value("format"))) {
-        wrongUsage(tr("Unknown format: %1").arg(parser.value("format")));
-        return parseWrong;
-    }
-    project = projects.first();
-    event = events.value(parser.value("event"));
-    format = formats.value(parser.value("format"));
-    listingFile = parser.value("listing");
-    symbolsFile = parser.value("symbols");
+    const QString eventName = parser.value("event");
+    const QString formatName = parser.value("format");
+    if (!events.contains(eventName))
+        return wrongUsage(tr("Unknown event: %1").arg(eventName));
+    if (!formats.contains(formatName))
+        return wrongUsage(tr("Unknown format: %1").arg(formatName));
+    event = events.value(eventName);
+    format = formats.value(formatName);
     werror = parser.isSet("werror");
     quiet = parser.isSet("q");
     verbose = parser.isSet("v");
-    if (parser.isSet("listing") && listingFile.isEmpty()) {
-        wrongUsage(tr("The name of the listing file is empty."));
-        return parseWrong;
-    }
-    if (parser.isSet("symbols") && symbolsFile.isEmpty()) {
-        wrongUsage(tr("The name of the symbols file is empty."));
-        return parseWrong;
-    }
-    return check() ? parseRun : parseWrong;
+    return quiet && verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;
 }
 
-bool BatchOptions::check()
+bool BatchOptions::readFiles(const QCommandLineParser& parser)
 {
-    if (quiet && verbose)
-        return wrongUsage(tr("-q and -v exclude each other."));
+    listingFile = parser.value("listing");
+    symbolsFile = parser.value("symbols");
+    if (parser.isSet("listing") && listingFile.isEmpty())
+        return wrongUsage(tr("The name of the listing file is empty."));
+    if (parser.isSet("symbols") && symbolsFile.isEmpty())
+        return wrongUsage(tr("The name of the symbols file is empty."));
     const int atStdout = int(listingFile == "-") + int(symbolsFile == "-") + int(format == formatJson);
     if (atStdout > 1)
-        return wrongUsage(tr("Only one of messages as JSON, listing and symbols can go to standard output."));
+        return wrongUsage(tr("Only one of JSON messages, listing and symbols can go to standard output."));
+    const bool bothFiles = !listingFile.isEmpty() && !symbolsFile.isEmpty() && atStdout == 0;
+    if (bothFiles && target(listingFile) == target(symbolsFile) && !target(listingFile).startsWith("/dev/"))
+        return wrongUsage(tr("Listing and symbols can not go to the same file: %1").arg(listingFile));
     return true;
 }
 

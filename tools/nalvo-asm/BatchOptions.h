@@ -5,13 +5,20 @@
 #include <QString>
 #include <QStringList>
 
+class QCommandLineParser;
+
 namespace nsNalvoAsm {
 
 /// What the command line asks for.
 struct BatchOptions
 {
-    enum eFormat_t { formatText, formatJson };
-    enum eParse_t {
+    enum eFormat_t
+    {
+        formatText,
+        formatJson
+    };
+    enum eParse_t
+    {
         parseRun,   ///< go on with the options
         parseEnd,   ///< help or version was shown
         parseWrong, ///< the command line is wrong, which was told
@@ -30,8 +37,9 @@ struct BatchOptions
     bool verbose = false; ///< info messages and groups too
 
 private:
-    bool wrongUsage(const QString& text);
-    bool check();
+    bool readProject(const QCommandLineParser& parser);
+    bool readChoices(const QCommandLineParser& parser);
+    bool readFiles(const QCommandLineParser& parser);
 };
 
 } // namespace nsNalvoAsm

@@ -1,19 +1,19 @@
 #include "BatchReport.h"
 
 #include "AsmFeFileHndlr.h"
-#include "BatchMsg.h"
+#include "BatchOutput.h"
 #include "LineReader.h"
 #include "ModAsmFe.h"
 #include "Opcode.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSaveFile>
 
 #include <algorithm>
-#include <cstdio>
 
 namespace nsNalvoAsm {
 
@@ -69,7 +69,7 @@ QJsonValue equValue(const Arg* arg)
     case Arg::stringEncoded:
     case Arg::reg:
     case Arg::regBank:
-        return arg->strValue;
+        return readable(arg->strValue);
     default:
         return QJsonValue();
     }
@@ -88,6 +88,14 @@ QString equKind(const Arg* arg)
     default:
         return QString::fromLatin1(argTypeName(arg->type));
     }
+}
+
+/// A file is written aside and renamed. A device or a pipe must be written directly, as it would be lost.
+bool isReplaceable(const QString& file)
+{
+    const QFileInfo info(file);
+    const QString path = info.absoluteFilePath();
+    return (!info.exists() || info.isFile()) && !path.startsWith("/dev/") && !path.startsWith("/proc/");
 }
 
 } // namespace
@@ -141,20 +149,22 @@ QByteArray symbolsText(ModAsmFe* asmFe)
     return QJsonDocument(QJsonObject{{"labels", labels}, {"equs", equs}}).toJson();
 }
 
-bool writeReport(const QString& file, const QByteArray& text)
+QString writeReport(const QString& file, const QByteArray& text)
 {
     if (file == "-") {
-        const bool written = std::fwrite(text.constData(), 1, size_t(text.size()), stdout) == size_t(text.size());
-        return std::fflush(stdout) == 0 && written;
+        print(stdout, text);
+        return stdoutFailure();
     }
-    // Written aside and renamed where that can be done; a device or a pipe is written directly.
+    if (!isReplaceable(file)) {
+        QFile device(file);
+        if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
+            return device.errorString();
+        return device.write(text) == text.size() ? QString() : device.errorString();
+    }
     QSaveFile report(file);
     report.setDirectWriteFallback(true);
-    if (report.open(QIODevice::WriteOnly) && report.write(text) == text.size() && report.commit())
-        return true;
-    std::fprintf(stderr, "nalvo-asm: can not write %s: %s\n", file.toLocal8Bit().constData(),
-                 report.errorString().toLocal8Bit().constData());
-    return false;
+    const bool written = report.open(QIODevice::WriteOnly) && report.write(text) == text.size() && report.commit();
+    return written ? QString() : report.errorString();
 }
 
 } // namespace nsNalvoAsm
