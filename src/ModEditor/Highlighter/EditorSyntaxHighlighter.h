@@ -1,0 +1,60 @@
+#pragma once
+
+#include "HighlightSpan.h"
+
+#include <QPointer>
+#include <QRegExp>
+#include <QString>
+#include <QSyntaxHighlighter>
+#include <QTextLayout>
+#include <QVector>
+
+#include <memory>
+
+namespace nsModEditor {
+
+class EditorSyntaxHighlighterConfig;
+class HighlightPattern;
+
+/// Paints one document by the shared list of rules, and over it what is selected in its editor.
+///
+/// Without a configuration, or after its end, the text is plain. A change of the rules repaints the document by itself.
+class EditorSyntaxHighlighter : public QSyntaxHighlighter
+{
+    Q_OBJECT
+
+public:
+    /// @param document owns the highlighter; may be null
+    explicit EditorSyntaxHighlighter(QTextDocument* document);
+    ~EditorSyntaxHighlighter() override;
+
+    /// @param config not owned, may be null
+    void setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config);
+    /// What rehighlight() is to mark: all whole words that match the text, whose characters work as pattern characters. An empty
+    /// text marks nothing.
+    void setSelection(const QString& text);
+
+    /// Called for each line that changes; formats the line.
+    void highlightBlock(const QString& text) override;
+    /// Lays the marks of the selection over the formats of the line.
+    void highlightSelection(const QString& text);
+
+public slots:
+    /// Brings the formats of all lines up to date. It touches only lines whose formats differ, so it is much faster than the
+    /// operation of the base class, with the same result.
+    void rehighlight();
+
+private:
+    void compileSelection();
+    /// Ranges of the selection in a line, ascending.
+    void selectionSpans(const QString& text, HighlightSpans* spans);
+    bool applyToBlock(QTextBlock block);
+
+    QPointer<EditorSyntaxHighlighterConfig> m_config;
+    QString m_selection;
+    QRegExp m_selectionRegExp; ///< empty when nothing is selected, or when the selection can match no line
+    std::unique_ptr<HighlightPattern> m_selectionPattern;
+    HighlightSpans m_selectionSpans; ///< scratch
+};
+
+} // namespace nsModEditor
