@@ -1,7 +1,6 @@
 #include "BatchOutput.h"
 
 #include <QDir>
-#include <QTextCodec>
 
 #include <cerrno>
 #include <cstring>
@@ -24,13 +23,22 @@ bool isControl(QChar c)
            c == QChar(QChar::ParagraphSeparator);
 }
 
-/// The characters of UTF-8 bytes, or nothing if the bytes are none.
-QString fromUtf8(const QByteArray& bytes)
+/// The characters of the UTF-8 sequence at the position, or nothing if there is none of more than one byte.
+QString sequenceAt(const QString& text, int pos, int* length)
 {
-    QTextCodec::ConverterState state;
-    static QTextCodec* const codec = QTextCodec::codecForName("UTF-8");
-    const QString text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0 ? text : QString();
+    const ushort lead = text.at(pos).unicode();
+    *length = lead < 0xc2 || lead > 0xf4 ? 0 : lead < 0xe0 ? 2 : lead < 0xf0 ? 3 : 4;
+    if (*length == 0 || pos + *length > text.size())
+        return QString();
+    QByteArray bytes;
+    for (int i = pos; i < pos + *length; ++i) {
+        const ushort byte = text.at(i).unicode();
+        if (i > pos && (byte < 0x80 || byte > 0xbf))
+            return QString();
+        bytes += char(byte);
+    }
+    const QString decoded = QString::fromUtf8(bytes);
+    return decoded.contains(QChar::ReplacementCharacter) ? QString() : decoded;
 }
 
 } // namespace
@@ -79,17 +87,13 @@ QString oneLine(const QString& text)
 
 QString readable(const QString& text)
 {
-    const auto isByte = [](QChar c) { return c.unicode() >= 0x80 && c.unicode() <= 0xff; };
     QString result;
     result.reserve(text.size());
     for (int i = 0; i < text.size();) {
-        int end = i;
-        while (end < text.size() && isByte(text.at(end)) == isByte(text.at(i)))
-            ++end;
-        const QString run = text.mid(i, end - i);
-        const QString decoded = isByte(text.at(i)) ? fromUtf8(run.toLatin1()) : QString();
-        result += decoded.isEmpty() ? run : decoded;
-        i = end;
+        int length = 0;
+        const QString decoded = sequenceAt(text, i, &length);
+        result += decoded.isEmpty() ? QString(text.at(i)) : decoded;
+        i += decoded.isEmpty() ? 1 : length;
     }
     return result;
 }

@@ -65,9 +65,10 @@ public:
         : m_modules(modules)
     {
         nsModAsmFe::ModAsmFe& asmFe = modules->asmFe;
-        m_taken << project << asmFe.fileHndlr()->files() << asmFe.writtenFiles();
+        m_taken << project << asmFe.fileHndlr()->files();
         for (const nsModAsmFe::IODev* dev : asmFe.ioDevList()->devices())
-            m_taken << dev->vhdlTemplateFile << dev->verilogTemplateFile;
+            m_taken << dev->vhdlTemplateFile << dev->vhdlTargetFile << dev->verilogTemplateFile
+                    << dev->verilogTargetFile << dev->hexTargetFile << dev->memTargetFile;
     }
 
     bool write(const QString& file, QByteArray (*text)(nsModAsmFe::ModAsmFe*))
