@@ -1,0 +1,115 @@
+#include "ModClipboard.h"
+
+#include "PluginList.h"
+
+#include <QAction>
+#include <QMainWindow>
+
+namespace nsModClipboard {
+
+ModClipboard::ModClipboard(QMainWindow* window)
+    : QObject(window)
+{
+}
+
+void ModClipboard::registerPlugin(ModClipboardPluginIf* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modClipboardHook = this;
+}
+
+void ModClipboard::setFeatureEnable(eClipboardFeature_t features, bool enable)
+{
+    if (m_actions == nullptr)
+        return;
+    if ((features & eClipboardFeatureCut) != 0)
+        m_actions->setEnabled(ClipboardActions::eActionCut, enable);
+    if ((features & eClipboardFeatureCopy) != 0)
+        m_actions->setEnabled(ClipboardActions::eActionCopy, enable);
+    if ((features & eClipboardFeaturePaste) != 0)
+        m_actions->setEnabled(ClipboardActions::eActionPaste, enable);
+}
+
+void ModClipboard::switchAllOff()
+{
+    setFeatureEnable(static_cast<eClipboardFeature_t>(0xff), false);
+}
+
+void ModClipboard::registerPluginWidget(ModClipboardPluginIf* plugin, QWidget* widget)
+{
+    if (plugin == nullptr || widget == nullptr)
+        return;
+    // A widget that goes without a word must not leave its address to the next one.
+    if (!m_plugins.contains(widget))
+        connect(widget, &QObject::destroyed, this, [this, widget] { m_plugins.remove(widget); });
+    m_plugins.insert(widget, plugin);
+}
+
+void ModClipboard::unregisterPluginWidget(QWidget* widget)
+{
+    if (m_plugins.remove(widget) == 0)
+        return;
+    disconnect(widget, &QObject::destroyed, this, nullptr);
+    if (modGuiHook != nullptr && modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) == widget)
+        switchAllOff();
+}
+
+void ModClipboard::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModClipboardPluginIf>(modules, this);
+}
+
+void ModClipboard::modInit()
+{
+    if (m_actions != nullptr)
+        return;
+    m_actions = new ClipboardActions(this);
+    m_actions->setEnabled(false);
+    connect(m_actions, qOverload<ClipboardActions::eAction_t>(&ClipboardActions::triggered), this,
+            &ModClipboard::handleAction);
+}
+
+void ModClipboard::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+void ModClipboard::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
+{
+    // The plug-in of a registered page sets the features itself.
+    if (location == ModGuiHookIf::eLocationTabs && !m_plugins.contains(widget))
+        switchAllOff();
+}
+
+QList<QAction*> ModClipboard::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+}
+
+QList<QAction*> ModClipboard::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+}
+
+void ModClipboard::handleAction(ClipboardActions::eAction_t action)
+{
+    if (modGuiHook == nullptr)
+        return;
+    ModClipboardPluginIf* plugin = m_plugins.value(modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs));
+    if (plugin == nullptr)
+        return;
+    switch (action) {
+    case ClipboardActions::eActionCut:
+        plugin->clipboardAction(eClipboardFeatureCut);
+        break;
+    case ClipboardActions::eActionCopy:
+        plugin->clipboardAction(eClipboardFeatureCopy);
+        break;
+    case ClipboardActions::eActionPaste:
+        plugin->clipboardAction(eClipboardFeaturePaste);
+        break;
+    }
+}
+
+} // namespace nsModClipboard

@@ -1,0 +1,257 @@
+#include "FindReplaceWidget.h"
+
+#include <QCheckBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QToolButton>
+
+namespace nsModFindReplace {
+
+namespace {
+
+const QString iconClose = QStringLiteral(":/ModFindReplace/img/widget/closeWidget.png");
+const QString iconExpand = QStringLiteral(":/ModFindReplace/img/widget/expand.png");
+const QString iconCollapse = QStringLiteral(":/ModFindReplace/img/widget/collapse.png");
+
+constexpr int gap = 8;          ///< the grid of the interface
+constexpr int smallestEdit = 120; ///< width of the text fields in a narrow window
+
+enum eColumn_t
+{
+    columnClose,
+    columnToggle,
+    columnLabel,
+    columnEdit,
+    columnButtons,
+    columnRest
+};
+
+} // namespace
+
+FindReplaceWidget::FindReplaceWidget(QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("findReplaceWidget"));
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(gap / 2, gap / 2, gap, gap / 2);
+    layout->setHorizontalSpacing(gap);
+    layout->setVerticalSpacing(gap / 2);
+    setupFindRow(layout);
+    setupReplaceRow(layout);
+    layout->setColumnStretch(columnEdit, 1);
+    setupTabOrder();
+    setFocusProxy(m_find);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    setMode(eModeFind);
+    chkFindStringVld(QString());
+}
+
+void FindReplaceWidget::setupFindRow(QGridLayout* layout)
+{
+    m_close = addToolButton("buttonClose", iconClose, tr("Close the search bar (Escape)"));
+    m_toggle = addToolButton("buttonToggleMode", iconExpand, QString());
+    auto* label = new QLabel(tr("Find:"), this);
+    m_find = new QLineEdit(this);
+    m_find->setObjectName(QStringLiteral("editFind"));
+    m_find->setClearButtonEnabled(true);
+    m_find->setMinimumWidth(smallestEdit);
+    m_find->setToolTip(tr("Text to find. Enter finds the next hit, Shift and Enter the previous one."));
+    label->setBuddy(m_find);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(gap);
+    m_nextButton = addButton(buttons, "buttonNext", tr("&Next"), tr("Find the next hit"));
+    m_prevButton = addButton(buttons, "buttonPrevious", tr("&Previous"), tr("Find the previous hit"));
+    m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
+    m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
+    buttons->addSpacing(gap);
+    buttons->addWidget(m_caseSensitive);
+    buttons->addWidget(m_wholeWords);
+
+    layout->addWidget(m_close, 0, columnClose);
+    layout->addWidget(m_toggle, 0, columnToggle);
+    layout->addWidget(label, 0, columnLabel);
+    layout->addWidget(m_find, 0, columnEdit);
+    layout->addLayout(buttons, 0, columnButtons);
+
+    connect(m_find, &QLineEdit::textChanged, this, &FindReplaceWidget::chkFindStringVld);
+    connect(m_nextButton, &QPushButton::clicked, this, &FindReplaceWidget::findNext);
+    connect(m_prevButton, &QPushButton::clicked, this, &FindReplaceWidget::findPrev);
+    connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_toggle, &QToolButton::clicked, this, &FindReplaceWidget::toggleMode);
+    connect(m_close, &QToolButton::clicked, this, &FindReplaceWidget::closeRequest);
+}
+
+void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
+{
+    m_replaceLabel = new QLabel(tr("Replace:"), this);
+    m_replace = new QLineEdit(this);
+    m_replace->setObjectName(QStringLiteral("editReplace"));
+    m_replace->setClearButtonEnabled(true);
+    m_replace->setMinimumWidth(smallestEdit);
+    m_replace->setToolTip(tr("Text that takes the place of a hit. Enter replaces the selected hit."));
+    m_replaceLabel->setBuddy(m_replace);
+
+    m_replaceButtons = new QWidget(this);
+    auto* buttons = new QHBoxLayout(m_replaceButtons);
+    buttons->setContentsMargins(0, 0, 0, 0);
+    buttons->setSpacing(gap);
+    m_replaceButton = addButton(buttons, "buttonReplace", tr("&Replace"),
+                                tr("Replace the selected hit and find the next one"));
+    m_replaceAllButton = addButton(buttons, "buttonReplaceAll", tr("Replace &all"), tr("Replace all hits"));
+    buttons->addStretch();
+
+    layout->addWidget(m_replaceLabel, 1, columnLabel);
+    layout->addWidget(m_replace, 1, columnEdit);
+    layout->addWidget(m_replaceButtons, 1, columnButtons);
+
+    connect(m_replace, &QLineEdit::textChanged, this, &FindReplaceWidget::configChanged);
+    connect(m_replaceButton, &QPushButton::clicked, this, &FindReplaceWidget::replace);
+    connect(m_replaceAllButton, &QPushButton::clicked, this, &FindReplaceWidget::replaceAll);
+}
+
+void FindReplaceWidget::setupTabOrder()
+{
+    const QList<QWidget*> order = {m_find,         m_replace,          m_nextButton,    m_prevButton, m_replaceButton,
+                                   m_replaceAllButton, m_caseSensitive, m_wholeWords, m_toggle,     m_close};
+    for (int i = 1; i < order.size(); ++i)
+        setTabOrder(order.at(i - 1), order.at(i));
+}
+
+QToolButton* FindReplaceWidget::addToolButton(const char* name, const QString& icon, const QString& toolTip)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setAutoRaise(true);
+    button->setIcon(QIcon(icon));
+    button->setIconSize(QSize(16, 16));
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    return button;
+}
+
+QPushButton* FindReplaceWidget::addButton(QHBoxLayout* layout, const char* name, const QString& text,
+                                          const QString& toolTip)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QLatin1String(name));
+    button->setToolTip(toolTip);
+    layout->addWidget(button);
+    return button;
+}
+
+QCheckBox* FindReplaceWidget::addCheckBox(const char* name, const QString& text, const QString& toolTip)
+{
+    auto* box = new QCheckBox(text, this);
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(toolTip);
+    return box;
+}
+
+QString FindReplaceWidget::findString() const
+{
+    return m_find->text();
+}
+
+QString FindReplaceWidget::replaceString() const
+{
+    return m_replace->text();
+}
+
+bool FindReplaceWidget::isCaseSensitive() const
+{
+    return m_caseSensitive->isChecked();
+}
+
+bool FindReplaceWidget::isWholeWords() const
+{
+    return m_wholeWordsEn && m_wholeWords->isChecked();
+}
+
+bool FindReplaceWidget::isFindEnabled() const
+{
+    return !m_find->text().isEmpty();
+}
+
+void FindReplaceWidget::setInitString(QString text, eMode_t mode)
+{
+    setMode(mode);
+    m_find->setFocus();
+    if (text.isEmpty())
+        m_find->selectAll();
+    else
+        m_find->setText(text);
+    emit configChanged();
+}
+
+void FindReplaceWidget::setMode(eMode_t mode)
+{
+    m_mode = m_replaceEn ? mode : eModeFind;
+    const bool shown = m_mode == eModeReplace;
+    // The focus must not leave the bar with the row.
+    if (!shown && (m_replace->hasFocus() || m_replaceButton->hasFocus() || m_replaceAllButton->hasFocus()))
+        m_find->setFocus();
+    for (QWidget* part : {static_cast<QWidget*>(m_replaceLabel), static_cast<QWidget*>(m_replace), m_replaceButtons})
+        part->setVisible(shown);
+    m_toggle->setIcon(QIcon(shown ? iconCollapse : iconExpand));
+    m_toggle->setToolTip(shown ? tr("Hide the replacement") : tr("Show the replacement"));
+    m_toggle->setAccessibleName(m_toggle->toolTip());
+}
+
+void FindReplaceWidget::setReplaceEnable(bool enable)
+{
+    m_replaceEn = enable;
+    m_toggle->setEnabled(enable);
+    setMode(m_mode);
+}
+
+void FindReplaceWidget::setWholeWordsEnable(bool enable)
+{
+    m_wholeWordsEn = enable;
+    m_wholeWords->setEnabled(enable);
+}
+
+void FindReplaceWidget::toggleMode()
+{
+    setMode(m_mode == eModeFind ? eModeReplace : eModeFind);
+}
+
+void FindReplaceWidget::chkFindStringVld(QString text)
+{
+    for (QPushButton* button : {m_nextButton, m_prevButton, m_replaceButton, m_replaceAllButton})
+        button->setEnabled(!text.isEmpty());
+    emit configChanged();
+}
+
+bool FindReplaceWidget::enterPressed(const QKeyEvent* event)
+{
+    if (!isFindEnabled())
+        return false;
+    if (m_replace->hasFocus())
+        emit replace();
+    else if (m_find->hasFocus() && (event->modifiers() & Qt::ShiftModifier) != 0)
+        emit findPrev();
+    else if (m_find->hasFocus())
+        emit findNext();
+    else
+        return false;
+    return true;
+}
+
+void FindReplaceWidget::keyPressEvent(QKeyEvent* event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (event->key() == Qt::Key_Escape)
+        emit closeRequest();
+    else if (!isEnter || !enterPressed(event))
+        QWidget::keyPressEvent(event);
+}
+
+} // namespace nsModFindReplace

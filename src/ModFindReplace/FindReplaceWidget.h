@@ -1,0 +1,93 @@
+#pragma once
+
+#include <QWidget>
+
+class QCheckBox;
+class QGridLayout;
+class QHBoxLayout;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QToolButton;
+
+namespace nsModFindReplace {
+
+/// The search bar: what to find and how, and in its second row what to put in its place. It searches nothing itself.
+class FindReplaceWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    enum eMode_t
+    {
+        eModeFind = 0,
+        eModeReplace = 1
+    };
+
+    explicit FindReplaceWidget(QWidget* parent = nullptr);
+
+    QString findString() const;
+    QString replaceString() const;
+    bool isCaseSensitive() const;
+    /// False as well while the choice is not offered.
+    bool isWholeWords() const;
+    /// There is a text to find.
+    bool isFindEnabled() const;
+    eMode_t mode() const { return m_mode; }
+
+    /// Opens the bar for a search: sets the mode and moves the focus to the text to find.
+    /// @param text new text to find; empty keeps the one that stands there, and selects it
+    void setInitString(QString text, eMode_t mode);
+    /// Shows or hides the second row. Without setReplaceEnable() it stays hidden.
+    void setMode(eMode_t mode);
+    /// Offers the second row.
+    void setReplaceEnable(bool enable);
+    /// Offers the choice "Whole words only"; its state is kept meanwhile.
+    void setWholeWordsEnable(bool enable);
+
+public slots:
+    void toggleMode();
+
+signals:
+    /// The text to find, its replacement or an option has changed.
+    void configChanged();
+    void findNext();
+    void findPrev();
+    void replace();
+    void replaceAll();
+    /// The user wants the bar to go.
+    void closeRequest();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private slots:
+    void chkFindStringVld(QString text);
+
+private:
+    void setupFindRow(QGridLayout* layout);
+    void setupReplaceRow(QGridLayout* layout);
+    void setupTabOrder();
+    QToolButton* addToolButton(const char* name, const QString& icon, const QString& toolTip);
+    QPushButton* addButton(QHBoxLayout* layout, const char* name, const QString& text, const QString& toolTip);
+    QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
+    bool enterPressed(const QKeyEvent* event);
+
+    QToolButton* m_close = nullptr;
+    QToolButton* m_toggle = nullptr;
+    QLineEdit* m_find = nullptr;
+    QLineEdit* m_replace = nullptr;
+    QLabel* m_replaceLabel = nullptr;
+    QWidget* m_replaceButtons = nullptr;
+    QPushButton* m_nextButton = nullptr;
+    QPushButton* m_prevButton = nullptr;
+    QPushButton* m_replaceButton = nullptr;
+    QPushButton* m_replaceAllButton = nullptr;
+    QCheckBox* m_caseSensitive = nullptr;
+    QCheckBox* m_wholeWords = nullptr;
+    eMode_t m_mode = eModeFind;
+    bool m_replaceEn = true;
+    bool m_wholeWordsEn = true;
+};
+
+} // namespace nsModFindReplace

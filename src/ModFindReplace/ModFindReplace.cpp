@@ -1,0 +1,304 @@
+#include "ModFindReplace.h"
+
+#include "PluginList.h"
+
+#include <QAction>
+
+namespace nsModFindReplace {
+
+namespace {
+
+constexpr int featureReplace = 1;
+constexpr int featureWholeWords = 2;
+
+} // namespace
+
+ModFindReplace::ModFindReplace(QObject* parent)
+    : QObject(parent)
+{
+}
+
+ModFindReplace::~ModFindReplace()
+{
+    delete m_widget.data();
+}
+
+// --- clients ---
+
+void ModFindReplace::registerPlugin(ModFindReplacePluginIf* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modFindReplaceHook = this;
+}
+
+void ModFindReplace::registerPluginWidget(ModFindReplacePluginIf* plugin, QWidget* widget, int features)
+{
+    if (plugin == nullptr || widget == nullptr)
+        return;
+    // A widget that goes without a word must not leave its address to the next one.
+    if (!m_widgets.contains(widget))
+        connect(widget, &QObject::destroyed, this, [this, widget] { forgetWidget(widget); });
+    sWidgetParameter_t parameter;
+    parameter.plugin = plugin;
+    parameter.replaceEn = (features & featureReplace) != 0;
+    parameter.wholeWordsEn = (features & featureWholeWords) != 0;
+    m_widgets.insert(widget, parameter);
+    // The page may have become the current one before it was registered.
+    if (widget == currentWidget())
+        setActionsEn(widget);
+}
+
+void ModFindReplace::unregisterPluginWidget(QWidget* widget)
+{
+    if (!m_widgets.contains(widget))
+        return;
+    disconnect(widget, &QObject::destroyed, this, nullptr);
+    forgetWidget(widget);
+    if (widget == currentWidget())
+        setActionsEn(widget);
+}
+
+void ModFindReplace::forgetWidget(QWidget* widget)
+{
+    const ModFindReplacePluginIf* plugin = m_widgets.take(widget).plugin;
+    if (plugin != m_activePlugin)
+        return;
+    for (const sWidgetParameter_t& parameter : qAsConst(m_widgets)) {
+        if (parameter.plugin == plugin)
+            return;
+    }
+    // A client without widgets may be about to go; it is not called any more.
+    m_activePlugin = nullptr;
+}
+
+QString ModFindReplace::findString()
+{
+    return m_widget != nullptr ? m_widget->findString() : QString();
+}
+
+QString ModFindReplace::replaceString()
+{
+    return m_widget != nullptr ? m_widget->replaceString() : QString();
+}
+
+bool ModFindReplace::isCaseSensitive()
+{
+    return m_widget != nullptr && m_widget->isCaseSensitive();
+}
+
+bool ModFindReplace::isWholeWords()
+{
+    return m_widget != nullptr && m_widget->isWholeWords();
+}
+
+// --- life cycle ---
+
+void ModFindReplace::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModFindReplacePluginIf>(modules, this);
+}
+
+void ModFindReplace::modInit()
+{
+    if (m_actions != nullptr)
+        return;
+    m_widget = new FindReplaceWidget;
+    connectWidget();
+    m_actions = new FindReplaceActions(this);
+    m_actions->setEnabled(false);
+    connect(m_actions, qOverload<FindReplaceActions::eAction_t>(&FindReplaceActions::triggered), this,
+            &ModFindReplace::handleActions);
+}
+
+void ModFindReplace::connectWidget()
+{
+    connect(m_widget, &FindReplaceWidget::configChanged, this, &ModFindReplace::setConfigChanged);
+    connect(m_widget, &FindReplaceWidget::findNext, this, &ModFindReplace::findNext);
+    connect(m_widget, &FindReplaceWidget::findPrev, this, &ModFindReplace::findPrev);
+    connect(m_widget, &FindReplaceWidget::replace, this, &ModFindReplace::replace);
+    connect(m_widget, &FindReplaceWidget::replaceAll, this, &ModFindReplace::replaceAll);
+    connect(m_widget, &FindReplaceWidget::closeRequest, this, &ModFindReplace::closeWidget);
+}
+
+void ModFindReplace::modInitIntermod()
+{
+    if (modGuiHook == nullptr || m_widget == nullptr)
+        return;
+    modGuiHook->addWidget(this, ModGuiHookIf::eLocationCenterBelow, m_widget, QString());
+    hideWidget();
+}
+
+void ModFindReplace::modExitIntermod()
+{
+    if (modGuiHook != nullptr && m_widget != nullptr)
+        modGuiHook->removeWidget(m_widget);
+}
+
+void ModFindReplace::modExit()
+{
+    m_activePlugin = nullptr;
+    delete m_widget.data();
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+// --- the bar ---
+
+QWidget* ModFindReplace::currentWidget() const
+{
+    return modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
+}
+
+ModFindReplacePluginIf* ModFindReplace::currentPlugin() const
+{
+    return m_widgets.value(currentWidget()).plugin;
+}
+
+void ModFindReplace::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
+{
+    if (location == ModGuiHookIf::eLocationTabs)
+        setActionsEn(widget);
+}
+
+void ModFindReplace::initWidget(FindReplaceWidget::eMode_t mode)
+{
+    if (m_activePlugin != nullptr) {
+        ModFindReplacePluginIf* plugin = m_activePlugin;
+        m_activePlugin = nullptr;
+        plugin->findExit();
+    }
+    setActionsEn(currentWidget());
+    const auto it = m_widgets.constFind(currentWidget());
+    if (it == m_widgets.constEnd() || m_widget == nullptr)
+        return;
+    const sWidgetParameter_t parameter = *it;
+    m_activePlugin = parameter.plugin;
+    m_widget->setReplaceEnable(parameter.replaceEn);
+    m_widget->setWholeWordsEnable(parameter.wholeWordsEn);
+    // A field that is not shown yet does not take the focus.
+    showWidget();
+    m_widget->setInitString(parameter.plugin->findInit(), mode);
+}
+
+void ModFindReplace::setActionsEn(QWidget* widget)
+{
+    if (m_actions == nullptr || m_widget == nullptr)
+        return;
+    m_actions->setEnabled(false);
+    const auto it = m_widgets.constFind(widget);
+    if (it == m_widgets.constEnd()) {
+        hideWidget();
+        return;
+    }
+    m_actions->setEnabled(FindReplaceActions::eActionFind, true);
+    m_actions->setEnabled(FindReplaceActions::eActionReplace, it->replaceEn);
+    if (it->plugin != m_activePlugin) {
+        hideWidget();
+        return;
+    }
+    m_actions->setEnabled(FindReplaceActions::eActionFindNext, m_widget->isFindEnabled());
+    m_actions->setEnabled(FindReplaceActions::eActionFindPrev, m_widget->isFindEnabled());
+    showWidget();
+}
+
+void ModFindReplace::showWidget()
+{
+    if (modGuiHook == nullptr)
+        return;
+    modGuiHook->setCurrentWidget(m_widget);
+    modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, true);
+    // Whoever types the replacement goes on typing there.
+    const QWidget* focus = m_widget->window()->focusWidget();
+    if (focus == nullptr || !m_widget->isAncestorOf(focus))
+        m_widget->setFocus();
+}
+
+void ModFindReplace::hideWidget()
+{
+    if (modGuiHook != nullptr)
+        modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, false);
+}
+
+void ModFindReplace::closeWidget()
+{
+    ModFindReplacePluginIf* plugin = m_activePlugin;
+    m_activePlugin = nullptr;
+    if (plugin != nullptr)
+        plugin->findExit();
+    setActionsEn(currentWidget());
+    if (QWidget* page = currentWidget())
+        page->setFocus();
+}
+
+void ModFindReplace::setConfigChanged()
+{
+    if (currentPlugin() == nullptr)
+        return;
+    m_configChanged = true;
+    setActionsEn(currentWidget());
+}
+
+bool ModFindReplace::takeConfigChanged()
+{
+    const bool changed = m_configChanged;
+    m_configChanged = false;
+    return changed;
+}
+
+// --- passing on ---
+
+void ModFindReplace::findNext()
+{
+    if (ModFindReplacePluginIf* plugin = currentPlugin())
+        plugin->findNext(takeConfigChanged());
+}
+
+void ModFindReplace::findPrev()
+{
+    if (ModFindReplacePluginIf* plugin = currentPlugin())
+        plugin->findPrev(takeConfigChanged());
+}
+
+void ModFindReplace::replace()
+{
+    if (ModFindReplacePluginIf* plugin = currentPlugin())
+        plugin->replace(takeConfigChanged());
+}
+
+void ModFindReplace::replaceAll()
+{
+    if (ModFindReplacePluginIf* plugin = currentPlugin())
+        plugin->replaceAll(takeConfigChanged());
+}
+
+// --- actions ---
+
+QList<QAction*> ModFindReplace::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+}
+
+QList<QAction*> ModFindReplace::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+}
+
+void ModFindReplace::handleActions(FindReplaceActions::eAction_t action)
+{
+    switch (action) {
+    case FindReplaceActions::eActionFind:
+        initWidget(FindReplaceWidget::eModeFind);
+        break;
+    case FindReplaceActions::eActionReplace:
+        initWidget(FindReplaceWidget::eModeReplace);
+        break;
+    case FindReplaceActions::eActionFindNext:
+        findNext();
+        break;
+    case FindReplaceActions::eActionFindPrev:
+        findPrev();
+        break;
+    }
+}
+
+} // namespace nsModFindReplace

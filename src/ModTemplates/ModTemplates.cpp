@@ -1,0 +1,89 @@
+#include "ModTemplates.h"
+
+#include "EditorSupportMenu.h"
+#include "ModEditorHookIf.h"
+#include "ModMsgHookIf.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegExp>
+
+namespace nsModTemplates {
+
+ModTemplates::ModTemplates(QObject* parent)
+    : QObject(parent)
+{
+}
+
+QString ModTemplates::templateDir(const QString& programDir)
+{
+    // Beside the folder of an installed program, one further up, and in the source tree seen from a build tree.
+    for (const char* place : {"/../asmTemplates/", "/../../asmTemplates/", "/../../Common/asmTemplates/"}) {
+        const QString dir = QDir::cleanPath(programDir + QLatin1String(place));
+        if (QFileInfo(dir).isDir())
+            return dir;
+    }
+    return QString();
+}
+
+QStringList ModTemplates::scanDirectory(const QString& dir)
+{
+    QStringList files;
+    QDirIterator it(dir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files.append(it.next());
+    files.sort();
+    return files;
+}
+
+void ModTemplates::initTemplates(const QString& dir)
+{
+    if (dir.isEmpty())
+        return;
+    for (const QString& file : scanDirectory(dir))
+        setupSupportMenu(file);
+}
+
+void ModTemplates::initTemplates()
+{
+    // A link to the program leads to the folder that the templates were shipped with.
+    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
+    const QString dir = program.isEmpty() ? QCoreApplication::applicationDirPath() : QFileInfo(program).path();
+    initTemplates(templateDir(dir));
+}
+
+void ModTemplates::setupSupportMenu(const QString& path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        if (modMsgHook != nullptr)
+            modMsgHook->showWarningMessage(tr("Can not read template file: ") + path);
+        return;
+    }
+    QRegExp menuItem(QStringLiteral("menuItem\\s*=\\s*(\\S+.*)$"));
+    const QRegExp leading(QStringLiteral("^\\s*"));
+    const QRegExp lineEnd(QStringLiteral("[\\r\\n]*$"));
+    while (!file.atEnd()) {
+        const QString line = QString::fromLatin1(file.readLine());
+        if (!menuItem.exactMatch(line))
+            continue;
+        setupSupportMenuFile(menuItem.cap(1).remove(leading).remove(lineEnd), path);
+    }
+}
+
+void ModTemplates::setupSupportMenuFile(const QString& path, const QString& file)
+{
+    nsModEditor::EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
+    if (menu != nullptr)
+        menu->setEntry(path, file, nsModEditor::EditorSupportMenu::typeFile);
+}
+
+void ModTemplates::modInitIntermod()
+{
+    initTemplates();
+}
+
+} // namespace nsModTemplates
