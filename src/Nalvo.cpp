@@ -4,11 +4,14 @@
 #include "ModArgs.h"
 #include "ModAsmFe.h"
 #include "ModCfgApp.h"
+#include "ModClipboard.h"
+#include "ModFindReplace.h"
 #include "ModGui.h"
 #include "ModMsg.h"
 #include "ModPrj.h"
 #include "ModProcessor.h"
 #include "ModSources.h"
+#include "ModTemplates.h"
 
 #include "ModMsgHookIf.h"
 
@@ -54,7 +57,10 @@ void Nalvo::makeModules()
     m_phases.append(new nsModAction::ModAction(this));
     m_phases.append(m_modArgs);
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
+    m_phases.append(new nsModClipboard::ModClipboard(this));
+    m_phases.append(new nsModFindReplace::ModFindReplace(this));
     m_phases.append(new nsModGui::ModGui(this));
+    m_phases.append(new nsModTemplates::ModTemplates(this));
 }
 
 void Nalvo::handleArgs()
