@@ -6,8 +6,7 @@
 #include <QRegExp>
 #include <QString>
 #include <QSyntaxHighlighter>
-#include <QTextLayout>
-#include <QVector>
+#include <QTextBlock>
 
 #include <memory>
 
@@ -45,16 +44,13 @@ public slots:
     void rehighlight();
 
 private:
-    void compileSelection();
-    /// Ranges of the selection in a line, ascending.
-    void selectionSpans(const QString& text, HighlightSpans* spans);
-    bool applyToBlock(QTextBlock block);
+    HighlightSpans selectionMarks(const QString& text) const;
+    bool updateBlock(QTextBlock block);
 
     QPointer<EditorSyntaxHighlighterConfig> m_config;
     QString m_selection;
     QRegExp m_selectionRegExp; ///< empty when nothing is selected, or when the selection can match no line
     std::unique_ptr<HighlightPattern> m_selectionPattern;
-    HighlightSpans m_selectionSpans; ///< scratch
 };
 
 } // namespace nsModEditor
