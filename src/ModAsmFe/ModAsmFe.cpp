@@ -110,6 +110,7 @@ void ModAsmFe::unregisterPlugin(ModAsmFePluginIfBackend* plugin)
         return;
     m_asmBe->modAsmFeHook = nullptr;
     m_asmBe = nullptr;
+    m_assembled = false;
     applyBackendConfig();
 }
 
@@ -123,7 +124,10 @@ bool ModAsmFe::instMemConfig(int* pageSize, int* pageCount, bool* sharedMemHi)
 
 void ModAsmFe::prjOpen()
 {
+    // The check of the interrupt vector has no key: it stays as it is until the program ends.
+    const int chkIntVector = behaviorChkIntVector;
     static_cast<AsmFeConfig&>(*this) = AsmFeConfig();
+    behaviorChkIntVector = chkIntVector;
     rdAsmFeConfig(modPrjHook);
     // The handler takes the folder of a path, so it gets the path of a file in the project's folder.
     m_fileHndlr->setPrjDir(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));

@@ -213,7 +213,7 @@ private:
     bool syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode);
     bool formula(const SrcReference* srcRef, const QString& nameSpace, const QString& text, unsigned int* value);
     bool formulaTermValue(const SrcReference* srcRef, const QString& nameSpace, const QString& term, int* value);
-    bool syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg);
+    bool syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
     static bool isFormula(const QString& text) { return AsmFeFormula::isFormula(text); }
 
     // Strings and character sets (ModAsmFeStrings.cpp)
@@ -240,6 +240,7 @@ private:
     bool resolveEqu(Equ* equ);
     QList<Equ*> equDependencies(Equ* equ);
     bool checkEquAlias(Equ* equ, bool* isAlias);
+    bool checkEquAliasExt(Equ* equ);
     bool checkEquValue(Equ* equ);
     void prepareEqu(Equ* equ);
     bool syntacticsCheckOpcode();
@@ -286,7 +287,8 @@ private:
     bool setupIODevAttrTargetHex(IODev* dev);
     bool setupIODevAttrTargetMem(IODev* dev);
     bool setupIODevAttrTargetMemGapStuffing(IODev* dev);
-    bool setupIODevAttrTargetFile(IODev* dev, const QString& kind, bool* en, QString* file);
+    bool setupIODevAttrTargetEn(IODev* dev, const QString& kind, bool* en);
+    bool setupIODevAttrTargetFile(IODev* dev, const QString& kind, QString* file);
     bool setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity, QString* templateFile,
                                  QString* targetFile);
     bool setupIODevSetNumeric(Set* set, int* value);
@@ -366,6 +368,8 @@ private:
     QHash<Equ*, AsmFeMsgHndlr::HeldMsgs> m_failedEqus;
     QSet<int> m_equCheckStack; ///< `absLineNo` of the `#EQU`s on the present path of resolution
 
+    const SrcReference* m_devSrcRef = nullptr; ///< where the device that is set up was declared; not owned
+    int m_devWords = 0;                        ///< cells of all devices so far
     int m_pageSize = 0;
     int m_pageCount = 1;
     bool m_sharedMemHi = true;

@@ -121,34 +121,27 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode)
         return false;
     };
     const bool enclosed0 = arg0->type == Arg::reg && p0 != ArgExt::parenthesesNone;
-    if (!enclosed0 && (arg1->type != Arg::reg || p1 == ArgExt::parenthesesNone))
-        return true;
+    const bool enclosed1 = arg1->type == Arg::reg && p1 != ArgExt::parenthesesNone;
     if (enclosed0 && p0 == ArgExt::parenthesesBoth) {
         arg0->type = Arg::regRef;
         // A second register in parentheses of its own is a reference too.
-        if (arg1->type == Arg::reg && p1 == ArgExt::parenthesesBoth)
+        if (enclosed1 && p1 == ArgExt::parenthesesBoth)
             arg1->type = Arg::regRef;
         return true;
     }
-    if (enclosed0) {
-        if (arg1->type != Arg::reg)
-            return refuse(errUnsupportedParenthese);
-        if (p0 != ArgExt::parenthesesOpen)
-            return refuse(errMissingParentheseOpen);
-        if (p1 != ArgExt::parenthesesClose)
-            return refuse(errMissingParentheseClose);
-    } else {
-        if (p1 == ArgExt::parenthesesBoth) {
-            arg1->type = Arg::regRef;
-            return true;
-        }
-        if (arg0->type != Arg::reg)
-            return refuse(errUnsupportedParenthese);
-        if (p0 != ArgExt::parenthesesOpen)
-            return refuse(errMissingParentheseOpen);
-        if (p1 != ArgExt::parenthesesClose)
-            return refuse(errMissingParentheseClose);
+    if (!enclosed0 && enclosed1 && p1 == ArgExt::parenthesesBoth) {
+        arg1->type = Arg::regRef;
+        return true;
     }
+    if (!enclosed0 && !enclosed1)
+        return true;
+    // What is left is one pair of parentheses around both registers.
+    if (arg0->type != Arg::reg || arg1->type != Arg::reg)
+        return refuse(errUnsupportedParenthese);
+    if (p0 != ArgExt::parenthesesOpen)
+        return refuse(errMissingParentheseOpen);
+    if (p1 != ArgExt::parenthesesClose)
+        return refuse(errMissingParentheseClose);
     arg0->type = Arg::regRef;
     arg1->type = Arg::regRef;
     return true;
@@ -191,8 +184,9 @@ bool ModAsmFe::formulaTermValue(const SrcReference* srcRef, const QString& nameS
         m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
         return false;
     }
-    if (equ->arg->type == Arg::unset && !syntacticsCheckEquArgument(equ))
-        return false;
+    // What is wrong with the constant stands at the constant; that it gives no value here, stands here.
+    if (equ->arg->type == Arg::unset)
+        syntacticsCheckEquArgument(equ);
     if (equ->arg->type != Arg::numeric) {
         m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
         return false;
@@ -202,14 +196,15 @@ bool ModAsmFe::formulaTermValue(const SrcReference* srcRef, const QString& nameS
     return true;
 }
 
-bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg)
+bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
 {
     arg->type = Arg::numeric;
     unsigned int value = 0;
     if (!formula(srcRef, arg->nameSpace, arg->name, &value))
         return false;
     arg->iValue = static_cast<int>(value);
-    return true;
+    // A range or a byte order behind an expression means the whole of it.
+    return syntacticsCheckArgNumeric(srcRef, arg, ext);
 }
 
 } // namespace nsModAsmFe

@@ -159,6 +159,7 @@ void ModAsmFe::writeOutputs(eAssembleEvent_t event)
     m_msgHndlr->signMsgGroup(grpWriteIODevToFile);
     const bool written = mapIODevToFile(event);
     closeGroup(written);
+    m_assembled = written;
     m_runSucceeded = written;
     if (!written)
         return;

@@ -10,6 +10,7 @@ namespace nsModAsmFe {
 bool ModAsmFe::setupIODevs()
 {
     bool success = true;
+    m_devWords = 0;
     for (Set* set = m_setList.first(); set != nullptr; set = set->next) {
         if (!set->nameSpaceUpper.startsWith(QLatin1String("IODEV::")) || set->nameUpper != QLatin1String("EN") ||
             set->valueType != Set::valueTrue)
@@ -20,6 +21,7 @@ bool ModAsmFe::setupIODevs()
         dev->devNameUpper = set->nameSpaceUpper;
         dev->en = true;
         dev->memGapStuffingEn = false;
+        m_devSrcRef = &set->srcRef;
         if (setupIODev(dev.get()))
             m_ioDevList.append(dev.release());
         else
@@ -85,17 +87,18 @@ bool ModAsmFe::setupIODevAttrSize(IODev* dev)
 {
     Set* set = m_setList.find(dev->devName, "SIZE");
     if (set == nullptr) {
-        m_msgHndlr->signMsg(errSetMissingDirective, dev->devName + "::size");
+        m_msgHndlr->signMsg(errSetMissingDirective, m_devSrcRef, dev->devName + "::size");
         return false;
     }
     if (!setupIODevSetNumeric(set, &dev->memSize))
         return false;
-    if (dev->memSize > maxMemWords) {
-        m_msgHndlr->signError(tr("Size of IO device %1 exceeds maximum of %2 words: %3")
+    if (dev->memSize > maxMemWords - m_devWords) {
+        m_msgHndlr->signError(tr("Size of IO device %1 exceeds maximum of %2 words for all devices: %3")
                                   .arg(dev->devName, QString::number(maxMemWords), set->value),
                               &set->srcRef);
         return false;
     }
+    m_devWords += qMax(dev->memSize, 0);
     return true;
 }
 
@@ -169,17 +172,16 @@ bool ModAsmFe::setupIODevAttrType(IODev* dev)
     return true;
 }
 
-/// What all kinds of output file have: a switch and a path.
-bool ModAsmFe::setupIODevAttrTargetFile(IODev* dev, const QString& kind, bool* en, QString* file)
+bool ModAsmFe::setupIODevAttrTargetEn(IODev* dev, const QString& kind, bool* en)
 {
-    const QString prefix = kind.toUpper();
-    Set* enSet = m_setList.find(dev->devName, prefix + "EN");
-    if (enSet != nullptr && !setupIODevSetBoolean(enSet, en))
-        return false;
-    Set* fileSet = m_setList.find(dev->devName, prefix + "TARGETFILE");
-    if (fileSet != nullptr && !setupIODevSetPath(fileSet, file))
-        return false;
-    return true;
+    Set* set = m_setList.find(dev->devName, kind.toUpper() + "EN");
+    return set == nullptr || setupIODevSetBoolean(set, en);
+}
+
+bool ModAsmFe::setupIODevAttrTargetFile(IODev* dev, const QString& kind, QString* file)
+{
+    Set* set = m_setList.find(dev->devName, kind.toUpper() + "TARGETFILE");
+    return set == nullptr || setupIODevSetPath(set, file);
 }
 
 bool ModAsmFe::setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity,
@@ -188,18 +190,18 @@ bool ModAsmFe::setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en
     const QString prefix = kind.toUpper();
     Set* entitySet = m_setList.find(dev->devName, prefix + "ENTITYNAME");
     Set* templateSet = m_setList.find(dev->devName, prefix + "TMPLFILE");
-    if (!setupIODevAttrTargetFile(dev, kind, en, targetFile) ||
-        (entitySet != nullptr && !setupIODevSetString(entitySet, entity)) ||
-        (templateSet != nullptr && !setupIODevSetPath(templateSet, templateFile)))
+    if (!setupIODevAttrTargetEn(dev, kind, en) || (entitySet != nullptr && !setupIODevSetString(entitySet, entity)) ||
+        (templateSet != nullptr && !setupIODevSetPath(templateSet, templateFile)) ||
+        !setupIODevAttrTargetFile(dev, kind, targetFile))
         return false;
     if (!*en)
         return true;
     if (entity->isEmpty())
-        m_msgHndlr->signMsg(errIODevMissingEntityName, kind, dev->devName);
+        m_msgHndlr->signMsg(errIODevMissingEntityName, m_devSrcRef, kind, dev->devName);
     else if (templateFile->isEmpty())
-        m_msgHndlr->signMsg(errIODevMissingTemplateFile, kind, dev->devName);
+        m_msgHndlr->signMsg(errIODevMissingTemplateFile, m_devSrcRef, kind, dev->devName);
     else if (targetFile->isEmpty())
-        m_msgHndlr->signMsg(errIODevMissingTargetFile, kind, dev->devName);
+        m_msgHndlr->signMsg(errIODevMissingTargetFile, m_devSrcRef, kind, dev->devName);
     else
         return true;
     return false;
@@ -219,22 +221,23 @@ bool ModAsmFe::setupIODevAttrTargetVerilog(IODev* dev)
 
 bool ModAsmFe::setupIODevAttrTargetHex(IODev* dev)
 {
-    if (!setupIODevAttrTargetFile(dev, "HEX", &dev->targetHexEn, &dev->hexTargetFile))
+    if (!setupIODevAttrTargetEn(dev, "HEX", &dev->targetHexEn) ||
+        !setupIODevAttrTargetFile(dev, "HEX", &dev->hexTargetFile))
         return false;
     if (!dev->targetHexEn || !dev->hexTargetFile.isEmpty())
         return true;
-    m_msgHndlr->signMsg(errIODevMissingTargetFile, "HEX", dev->devName);
+    m_msgHndlr->signMsg(errIODevMissingTargetFile, m_devSrcRef, "HEX", dev->devName);
     return false;
 }
 
 bool ModAsmFe::setupIODevAttrTargetMem(IODev* dev)
 {
-    if (!setupIODevAttrTargetFile(dev, "MEM", &dev->targetMemEn, &dev->memTargetFile) ||
-        !setupIODevAttrTargetMemGapStuffing(dev))
+    if (!setupIODevAttrTargetEn(dev, "MEM", &dev->targetMemEn) ||
+        !setupIODevAttrTargetFile(dev, "MEM", &dev->memTargetFile) || !setupIODevAttrTargetMemGapStuffing(dev))
         return false;
     if (!dev->targetMemEn || !dev->memTargetFile.isEmpty())
         return true;
-    m_msgHndlr->signMsg(errIODevMissingTargetFile, "MEM", dev->devName);
+    m_msgHndlr->signMsg(errIODevMissingTargetFile, m_devSrcRef, "MEM", dev->devName);
     return false;
 }
 

@@ -24,9 +24,8 @@ struct ModAsmFe::sInstMemSpan_t
 bool ModAsmFe::setupIODevAttrValues(IODev* dev)
 {
     dev->initDevice();
-    for (Set* set = m_setList.first(); set != nullptr; set = set->next) {
-        if (set->nameUpper == QLatin1String("VALUE") && set->nameSpace == dev->devName &&
-            !setupIODevAttrValue(dev, set))
+    for (Set* set : m_setList.values(dev->devName)) {
+        if (!setupIODevAttrValue(dev, set))
             return false;
     }
     return true;
@@ -134,7 +133,7 @@ bool ModAsmFe::parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t*
         }
         bool ok = false;
         const qint64 number = range.mid(4).toLongLong(&ok);
-        start = ok && number < m_pageCount ? number * m_pageSize : total;
+        start = (ok ? qMin<qint64>(number, maxMemWords) : maxMemWords) * m_pageSize;
         stop = start + m_pageSize - 1;
     } else if (AsmFeParseArg::isNumeric(range)) {
         start = stop = m_parseArg->toNumeric(range);

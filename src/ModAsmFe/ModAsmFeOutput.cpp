@@ -12,6 +12,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace nsModAsmFe {
 
 bool ModAsmFe::mapIODevToFile(eAssembleEvent_t event)
@@ -46,19 +48,34 @@ bool ModAsmFe::mapIODevToFile(eAssembleEvent_t event)
     return success;
 }
 
-/// @return the file is none that the run has read: those would be lost
+/// @return the file is none that the run has read or written: those would be lost
 bool ModAsmFe::checkTargetFile(const QString& file)
 {
     const QString canonical = QFileInfo(file).canonicalFilePath();
     if (canonical.isEmpty())
         return true;
+    const auto isOneOf = [&](const QStringList& others) {
+        return std::any_of(others.begin(), others.end(), [&](const QString& other) {
+            return !other.isEmpty() && QFileInfo(other).canonicalFilePath() == canonical;
+        });
+    };
     QStringList inputs = m_fileHndlr->files();
     inputs.append(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
-    for (const QString& input : qAsConst(inputs)) {
-        if (QFileInfo(input).canonicalFilePath() == canonical) {
-            m_msgHndlr->signError(tr("Output file would overwrite a file of the project: %1").arg(file));
-            return false;
-        }
+    for (const IODev* dev : m_ioDevList.devices()) {
+        // The template of a file of its own is the writer's to refuse.
+        if (dev->targetVhdlEn && dev->vhdlTargetFile != file)
+            inputs.append(dev->vhdlTemplateFile);
+        if (dev->targetVerilogEn && dev->verilogTargetFile != file)
+            inputs.append(dev->verilogTemplateFile);
+    }
+    if (isOneOf(inputs)) {
+        m_msgHndlr->signError(tr("Output file would overwrite a file of the project: %1").arg(file));
+        return false;
+    }
+    // A device such as /dev/null takes any number of files.
+    if (QFileInfo(file).isFile() && isOneOf(m_writtenFiles)) {
+        m_msgHndlr->signError(tr("Output file was already written in this run: %1").arg(file));
+        return false;
     }
     return true;
 }

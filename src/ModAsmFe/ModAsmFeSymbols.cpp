@@ -85,7 +85,7 @@ bool ModAsmFe::syntacticsCheckEquArguments()
 /// Takes parentheses and prefix off the value's text; doing so again changes nothing.
 void ModAsmFe::prepareEqu(Equ* equ)
 {
-    if (equ->arg->type != Arg::unset || equ->prepared)
+    if (equ->arg->type != Arg::unset || equ->prepared || equ->arg->name.isEmpty())
         return;
     equ->prepared = true;
     syntacticsSetArgParentheses(equ->arg, equ->argExt);
@@ -113,7 +113,9 @@ QList<Equ*> ModAsmFe::equDependencies(Equ* equ)
             continue;
         QString nameSpace = equ->arg->nameSpace;
         AsmFeParseArg::splitNsFromArg(&term, &nameSpace);
-        need(nameSpace, term);
+        // The evaluation ends at a term that is nothing.
+        if (!need(nameSpace, term))
+            break;
     }
     return needed;
 }
@@ -202,12 +204,29 @@ bool ModAsmFe::checkEquAlias(Equ* equ, bool* isAlias)
     return true;
 }
 
+/// A range or an attribute behind the name of another `#EQU` selects from that one's value.
+bool ModAsmFe::checkEquAliasExt(Equ* equ)
+{
+    if (equ->argExt->attr.isEmpty() && equ->argExt->range.isEmpty())
+        return true;
+    switch (equ->arg->type) {
+    case Arg::numeric:
+        return syntacticsCheckArgNumeric(&equ->srcRef, equ->arg, equ->argExt);
+    case Arg::stringUtf16:
+    case Arg::stringEncoded:
+        return syntacticsCheckArgString(&equ->srcRef, equ->arg, equ->argExt, true);
+    default:
+        return refuseArgExt(&equ->srcRef, equ->argExt, false);
+    }
+}
+
 bool ModAsmFe::checkEquValue(Equ* equ)
 {
     Arg* arg = equ->arg;
     ArgExt* ext = equ->argExt;
     const SrcReference* srcRef = &equ->srcRef;
-    if (arg->name.isEmpty()) {
+    // A value can become empty when its parentheses are taken off: that one is refused below.
+    if (arg->name.isEmpty() && !equ->prepared) {
         arg->type = Arg::empty;
         m_msgHndlr->signMsg(errExpectArgument, srcRef);
         return false;
@@ -216,8 +235,8 @@ bool ModAsmFe::checkEquValue(Equ* equ)
     bool isAlias = false;
     if (!checkEquAlias(equ, &isAlias))
         return false;
-    if (arg->type != Arg::unset)
-        return true;
+    if (isAlias && arg->type != Arg::unset)
+        return checkEquAliasExt(equ);
     if (AsmFeParseArg::isNumeric(arg->name))
         return syntacticsCheckArgNumeric(srcRef, arg, ext);
     if (m_regTable.contains(arg->name))
@@ -227,7 +246,7 @@ bool ModAsmFe::checkEquValue(Equ* equ)
     if (isString(arg->name))
         return syntacticsCheckArgString(srcRef, arg, ext, true);
     if (isFormula(arg->name))
-        return syntacticsCheckArgFormula(srcRef, arg);
+        return syntacticsCheckArgFormula(srcRef, arg, ext);
     m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, arg->name);
     return false;
 }
@@ -281,7 +300,8 @@ bool ModAsmFe::syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg, ArgExt* e
         reg = m_regTable.contains(arg->name);
         bank = m_bankTable.contains(arg->name);
     }
-    if (numeric)
+    // The value of a constant that is an expression is known, and may be a part of the expression's.
+    if (numeric || (equ != nullptr && arg->type == Arg::numeric && !isString(arg->name)))
         return syntacticsCheckArgNumeric(srcRef, arg, ext);
     if (reg)
         return syntacticsCheckArgReg(srcRef, arg, ext);
@@ -343,7 +363,7 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgEx
         return false;
     }
     if (isFormula(arg->name))
-        return syntacticsCheckArgFormula(srcRef, arg);
+        return syntacticsCheckArgFormula(srcRef, arg, ext);
     m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, arg->name);
     return false;
 }

@@ -82,14 +82,19 @@ bool TargetFileWriteHdl::fillTemplate(const sTarget_t& target, const MetaTags& m
     QFile templ(target.templateFile);
     if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
+    const QByteArray content = templ.readAll();
+    if (templ.error() != QFile::NoError)
+        return false;
     bool begun = false;
-    while (!templ.atEnd()) {
-        QByteArray line = templ.readLine();
+    for (int pos = 0; pos < content.size();) {
+        const int end = content.indexOf('\n', pos) + 1;
+        QByteArray line = content.mid(pos, end > 0 ? end - pos : -1);
+        pos += line.size();
         if (!begun) {
             begun = line.toUpper().contains("{BEGIN TEMPLATE}");
             continue;
         }
-        // A NUL byte ends its line.
+        // A NUL byte ends its line, line end included.
         line.truncate(int(qstrnlen(line.constData(), uint(line.size()))));
         fillLine(&line, target, metaTags);
         text->append(line);
@@ -112,12 +117,12 @@ void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, con
 {
     if (!line->contains('{'))
         return;
-    static const sBlock_t init = {"{INIT_", &TargetFileWriteHdl::getInit};
-    static const sBlock_t initP = {"{INITP_", &TargetFileWriteHdl::getInitP};
-    static const sBlock_t initH = {"{[17:9]_INIT_", &TargetFileWriteHdl::getInitH};
-    static const sBlock_t initHP = {"{[17:9]_INITP_", &TargetFileWriteHdl::getInitHP};
-    static const sBlock_t initL = {"{[8:0]_INIT_", &TargetFileWriteHdl::getInitL};
-    static const sBlock_t initPL = {"{[8:0]_INITP_", &TargetFileWriteHdl::getInitPL};
+    static const sBlock_t init = {"{INIT_", &TargetFileWriteHdl::getVhdlInit};
+    static const sBlock_t initP = {"{INITP_", &TargetFileWriteHdl::getVhdlInitP};
+    static const sBlock_t initH = {"{[17:9]_INIT_", &TargetFileWriteHdl::getVhdlInitH};
+    static const sBlock_t initHP = {"{[17:9]_INITP_", &TargetFileWriteHdl::getVhdlInitHP};
+    static const sBlock_t initL = {"{[8:0]_INIT_", &TargetFileWriteHdl::getVhdlInitL};
+    static const sBlock_t initPL = {"{[8:0]_INITP_", &TargetFileWriteHdl::getVhdlInitPL};
     if (!fillBlock(line, init))
         fillBlock(line, initP);
     if (!fillBlock(line, initH))
@@ -182,7 +187,7 @@ QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerSte
     return text;
 }
 
-QByteArray TargetFileWriteHdl::getInit(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInit(qint64 index)
 {
     return getBlock(index, 16, 1, [this](QByteArray* text, int addr) {
         const unsigned int value = getOpcode(addr);
@@ -191,7 +196,7 @@ QByteArray TargetFileWriteHdl::getInit(qint64 index)
     });
 }
 
-QByteArray TargetFileWriteHdl::getInitP(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInitP(qint64 index)
 {
     return getBlock(index, 128, 2, [this](QByteArray* text, int addr) {
         const unsigned int high = getOpcode(addr);
@@ -200,7 +205,7 @@ QByteArray TargetFileWriteHdl::getInitP(qint64 index)
     });
 }
 
-QByteArray TargetFileWriteHdl::getInitL(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInitL(qint64 index)
 {
     return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
         const unsigned int value = getOpcode(addr);
@@ -209,7 +214,7 @@ QByteArray TargetFileWriteHdl::getInitL(qint64 index)
     });
 }
 
-QByteArray TargetFileWriteHdl::getInitH(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInitH(qint64 index)
 {
     return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
         const unsigned int value = getOpcode(addr) >> 9;
@@ -229,12 +234,12 @@ QByteArray TargetFileWriteHdl::getParityBlock(qint64 index, int bit)
     });
 }
 
-QByteArray TargetFileWriteHdl::getInitPL(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInitPL(qint64 index)
 {
     return getParityBlock(index, 8);
 }
 
-QByteArray TargetFileWriteHdl::getInitHP(qint64 index)
+QByteArray TargetFileWriteHdl::getVhdlInitHP(qint64 index)
 {
     return getParityBlock(index, 17);
 }

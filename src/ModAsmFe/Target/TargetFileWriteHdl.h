@@ -34,13 +34,14 @@ protected:
 
     virtual sTarget_t target(const IODev* dev) const = 0;
 
-    // One block of 256 bits as 64 hexadecimal digits, the highest address first. The index counts blocks.
-    QByteArray getInit(qint64 index);   ///< bits 15:0 of 16 words
-    QByteArray getInitP(qint64 index);  ///< bits 17:16 of 128 words
-    QByteArray getInitL(qint64 index);  ///< bits 7:0 of 32 words
-    QByteArray getInitPL(qint64 index); ///< bit 8 of 256 words
-    QByteArray getInitH(qint64 index);  ///< bits 16:9 of 32 words
-    QByteArray getInitHP(qint64 index); ///< bit 17 of 256 words
+    // One block of 256 bits as 64 hexadecimal digits, the highest address first. The index counts blocks. Both languages take the
+    // same digits; the names come from the first of them.
+    QByteArray getVhdlInit(qint64 index);   ///< bits 15:0 of 16 words
+    QByteArray getVhdlInitP(qint64 index);  ///< bits 17:16 of 128 words
+    QByteArray getVhdlInitL(qint64 index);  ///< bits 7:0 of 32 words
+    QByteArray getVhdlInitPL(qint64 index); ///< bit 8 of 256 words
+    QByteArray getVhdlInitH(qint64 index);  ///< bits 16:9 of 32 words
+    QByteArray getVhdlInitHP(qint64 index); ///< bit 17 of 256 words
 
     /// A cell's value, which marks the cell as written to the file; the initial value outside of the device.
     unsigned int getOpcode(int addr);

@@ -13,7 +13,7 @@ namespace nsModAsmFe {
 ///
 /// Its fields fill up within one run and never go back: text after parsing, types after the instruction check, `instWord` after
 /// the back end's first stage. Whoever writes `memRange`, `pageAddr` or `memAddr` tells the list by addressesChanged().
-class alignas(64) Opcode
+class alignas(64) Opcode final
 {
 public:
     Opcode() = default;

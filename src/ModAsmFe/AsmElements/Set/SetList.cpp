@@ -18,6 +18,7 @@ void SetList::clear()
     }
     m_last = nullptr;
     m_byName.clear();
+    m_values.clear();
 }
 
 void SetList::append(Set* set)
@@ -29,6 +30,8 @@ void SetList::append(Set* set)
         m_last->next = set;
     m_last = set;
     m_byName.insert(set->nameSpace, set->nameUpper, set);
+    if (set->nameUpper == QLatin1String("VALUE"))
+        m_values[set->nameSpace].append(set);
 }
 
 void SetList::print() const

@@ -3,6 +3,9 @@
 #include "Set.h"
 #include "SymbolHash.h"
 
+#include <QHash>
+#include <QVector>
+
 namespace nsModAsmFe {
 
 /// The `#SET` directives of the program, in source order. Owns them.
@@ -34,10 +37,14 @@ public:
         return m_byName.find(nameSpace, nameUpper);
     }
 
+    /// All `VALUE` parameters of a namespace, in order.
+    QVector<Set*> values(const QString& nameSpace) const { return m_values.value(nameSpace); }
+
 private:
     Set* m_first = nullptr;
     Set* m_last = nullptr;
     SymbolHash<Set> m_byName;
+    QHash<QString, QVector<Set*>> m_values;
 };
 
 } // namespace nsModAsmFe

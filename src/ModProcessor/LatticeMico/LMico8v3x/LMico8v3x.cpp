@@ -32,6 +32,7 @@ nsProc::ProcCoreConfig LMico8v3x::defaultConfig() const
 QList<QPair<QString, int*>> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const
 {
     return {{"scrpdSize", &settings->scrpdSize},
+            {"clkFreq", nullptr},
             {"instrClkCnt", &settings->instrClkCnt},
             {"regCount", &settings->regCount},
             {"memMap/pageSize", &settings->pageSize}};

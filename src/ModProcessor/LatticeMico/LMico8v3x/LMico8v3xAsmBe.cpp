@@ -46,7 +46,7 @@ const QVector<sInstr_t>& instrs()
     return table;
 }
 
-const sInstrLayout_t layout = {8, 3, 3, 255, 255, true, true};
+const sInstrLayout_t layout = {8, 3, 3, 255, 255, 12, true, true};
 const int smallestScrpdSize = 32;
 
 } // namespace

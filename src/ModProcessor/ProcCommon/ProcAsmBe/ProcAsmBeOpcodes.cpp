@@ -200,8 +200,9 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
     if (target->type != Arg::label)
         return refuse(opcode, target);
     const int addr = target->labelOpcode->pageAddr;
+    const int mask = (1 << m_layout.addrBits) - 1;
     opcode->instWord = instr.words[always ? wordAlways : word] +
-                       (m_layout.relativeFlow ? assembleArg_labelOffsAddr(opcode->pageAddr, addr) : addr);
+                       (m_layout.relativeFlow ? assembleArg_labelOffsAddr(opcode->pageAddr, addr) : addr & mask);
     return true;
 }
 

@@ -47,6 +47,7 @@ struct sInstrLayout_t
     int addrShift;       ///< place of a port number or scratchpad address
     int maxNumber;       ///< largest immediate
     int maxPort;         ///< largest port number
+    int addrBits;        ///< width of an address in a jump; higher bits of it are not encoded
     bool relativeFlow;   ///< jumps hold the distance to their target, in 12 bits
     bool portIsNumber;   ///< a port number that is too large is reported as a number that is too large
 };

@@ -60,7 +60,7 @@ void ProcShell::configWidgetClose() {}
 
 QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
 {
-    return {{"memMap/pageSize", &settings->pageSize}};
+    return {{"clkFreq", nullptr}, {"memMap/pageSize", &settings->pageSize}};
 }
 
 void ProcShell::rdCfg()
@@ -68,11 +68,14 @@ void ProcShell::rdCfg()
     if (modPrjHook == nullptr)
         return;
     m_settings = defaultConfig();
-    // A frequency is stored in whole Hz, and may be larger than an int.
-    m_settings.clkFreq =
-        modPrjHook->value(cfgSection() + "/clkFreq", QString::number(m_settings.clkFreq, 'f', 0)).toDouble();
-    for (const auto& number : cfgNumbers(&m_settings))
-        *number.second = modPrjHook->value(cfgSection() + '/' + number.first, *number.second);
+    for (const auto& number : cfgNumbers(&m_settings)) {
+        const QString key = cfgSection() + '/' + number.first;
+        // A frequency is stored in whole Hz, and may be larger than an int.
+        if (number.second == nullptr)
+            m_settings.clkFreq = modPrjHook->value(key, QString::number(m_settings.clkFreq, 'f', 0)).toDouble();
+        else
+            *number.second = modPrjHook->value(key, *number.second);
+    }
     setSettings(m_settings);
 }
 
@@ -86,9 +89,13 @@ void ProcShell::wrCfg()
 {
     if (modPrjHook == nullptr)
         return;
-    modPrjHook->setValue(cfgSection() + "/clkFreq", QString::number(m_settings.clkFreq, 'f', 0));
-    for (const auto& number : cfgNumbers(&m_settings))
-        modPrjHook->setValue(cfgSection() + '/' + number.first, *number.second);
+    for (const auto& number : cfgNumbers(&m_settings)) {
+        const QString key = cfgSection() + '/' + number.first;
+        if (number.second == nullptr)
+            modPrjHook->setValue(key, QString::number(m_settings.clkFreq, 'f', 0));
+        else
+            modPrjHook->setValue(key, *number.second);
+    }
 }
 
 QString ProcShell::processorDefine()

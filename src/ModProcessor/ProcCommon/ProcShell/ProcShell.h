@@ -59,7 +59,7 @@ protected:
     virtual QString cfgSection() const = 0;
     /// The settings as a new processor has them.
     virtual ProcCoreConfig defaultConfig() const = 0;
-    /// The keys of whole numbers, with the fields of the settings that hold them.
+    /// The keys in the order of the file, with the fields of the settings that hold them; null for the clock frequency.
     virtual QList<QPair<QString, int*>> cfgNumbers(ProcCoreConfig* settings) const;
 
 private:

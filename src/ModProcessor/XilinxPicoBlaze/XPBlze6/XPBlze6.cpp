@@ -33,6 +33,7 @@ QList<QPair<QString, int*>> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings
 {
     return {{"scrpdSize", &settings->scrpdSize},
             {"intVectorAddr", &settings->intVectorAddr},
+            {"clkFreq", nullptr},
             {"memMap/pageSize", &settings->pageSize}};
 }
 

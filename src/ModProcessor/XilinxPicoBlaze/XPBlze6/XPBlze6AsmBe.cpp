@@ -56,7 +56,7 @@ const QVector<sInstr_t>& instrs()
     return table;
 }
 
-const sInstrLayout_t layout = {8, 4, 0, 255, 255, false, false};
+const sInstrLayout_t layout = {8, 4, 0, 255, 255, 12, false, false};
 
 } // namespace
 
