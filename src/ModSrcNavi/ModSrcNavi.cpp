@@ -1,0 +1,161 @@
+#include "ModSrcNavi.h"
+
+#include "NaviWidget.h"
+
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+
+namespace nsModSrcNavi {
+
+ModSrcNavi::ModSrcNavi(QObject* parent)
+    : QObject(parent)
+    , m_naviWidget(new NaviWidget)
+{
+    // Until a project is open there is nothing to navigate in.
+    m_naviWidget->setEnabled(false);
+}
+
+ModSrcNavi::~ModSrcNavi()
+{
+    if (m_naviWidget == nullptr)
+        return;
+    // In the window the panel stays behind, and the window deletes it; the tags go now.
+    m_naviWidget->clearTagList();
+    if (m_naviWidget->parentWidget() == nullptr)
+        delete m_naviWidget.data();
+}
+
+// --- clients ---
+
+void ModSrcNavi::registerPlugin(ModSrcNaviPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modSrcNaviHook = this;
+}
+
+void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIf* plugin)
+{
+    if (m_plugins.remove(plugin))
+        plugin->modSrcNaviHook = nullptr;
+}
+
+// --- tags ---
+
+void ModSrcNavi::clearTagList()
+{
+    // The tree first: its items point to the tags.
+    if (m_naviWidget != nullptr)
+        m_naviWidget->clearTagList();
+    m_tagList.clear();
+}
+
+void ModSrcNavi::addTag(NaviTag* tag)
+{
+    m_tagList.addTag(tag);
+}
+
+void ModSrcNavi::showTagList()
+{
+    if (m_naviWidget == nullptr)
+        return;
+    const bool flat = tagListSortMode == sortPlainAscent || tagListSortMode == sortPlainDescent;
+    QList<NaviTag*> list;
+    if (!flat)
+        list = m_tagList.tagListDocument();
+    else if (tagListSortMode == sortPlainAscent)
+        list = m_tagList.tagListAsc();
+    else
+        list = m_tagList.tagListDesc();
+    m_naviWidget->showTagList(&list, flat);
+}
+
+void ModSrcNavi::sortModeChanged()
+{
+    tagListSortMode = m_naviWidget->sortMode();
+    showTagList();
+}
+
+void ModSrcNavi::showSelectedTag(NaviTag* tag)
+{
+    if (tag == nullptr || modEditorHook == nullptr)
+        return;
+    // The call can lead to a run of the assembler, at which the tag goes: the editor gets copies.
+    modEditorHook->setCursorToLine(tag->filePath, tag->lineRef, tag->line);
+}
+
+// --- life cycle ---
+
+void ModSrcNavi::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModSrcNaviPluginIf>(modules, this);
+}
+
+void ModSrcNavi::modInitIntermod()
+{
+    connect(m_naviWidget, &NaviWidget::sortModeChanged, this, &ModSrcNavi::sortModeChanged);
+    connect(m_naviWidget, &NaviWidget::selected, this, &ModSrcNavi::showSelectedTag);
+    configureNaviWidget();
+}
+
+ModGuiHookIf::eLocation_t ModSrcNavi::dockLocation() const
+{
+    switch (naviWidgetLocation) {
+    case locationLeft:
+        return ModGuiHookIf::eLocationDockLeft;
+    case locationRight:
+        return ModGuiHookIf::eLocationDockRight;
+    default:
+        return ModGuiHookIf::eLocationNone;
+    }
+}
+
+void ModSrcNavi::configureNaviWidget()
+{
+    if (m_naviWidget == nullptr)
+        return;
+    m_naviWidget->setConfig(this);
+    if (modGuiHook == nullptr)
+        return;
+    const ModGuiHookIf::eLocation_t location = dockLocation();
+    if (location == ModGuiHookIf::eLocationNone) {
+        modGuiHook->removeWidget(m_naviWidget);
+        m_naviWidget->hide();
+        return;
+    }
+    // In its place it is left alone: a page behind another tab must not come up over that one.
+    if (modGuiHook->hasWidget(location, m_naviWidget))
+        return;
+    modGuiHook->removeWidget(m_naviWidget);
+    modGuiHook->addWidget(this, location, m_naviWidget, tr("Source Navigator"));
+    m_naviWidget->show();
+}
+
+void ModSrcNavi::rdAppCfg()
+{
+    if (modCfgAppHook == nullptr)
+        return;
+    rdSrcNaviConfig(modCfgAppHook);
+    // The settings arrive when the panel has its place already.
+    configureNaviWidget();
+}
+
+void ModSrcNavi::wrAppCfg()
+{
+    if (modCfgAppHook != nullptr)
+        wrSrcNaviConfig(modCfgAppHook);
+}
+
+void ModSrcNavi::prjOpen()
+{
+    if (m_naviWidget != nullptr)
+        m_naviWidget->setEnabled(true);
+}
+
+void ModSrcNavi::prjClose()
+{
+    clearTagList();
+    if (m_naviWidget != nullptr)
+        m_naviWidget->setEnabled(false);
+}
+
+} // namespace nsModSrcNavi

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "NaviTag.h"
+#include "SrcNaviConfig.h"
+
+#include <QList>
+#include <QMetaType>
+#include <QStringList>
+#include <QWidget>
+
+class QBoxLayout;
+class QComboBox;
+class QPushButton;
+class QTreeWidgetItem;
+
+namespace nsModSrcNavi {
+
+class NaviTreeWidget;
+
+/// The panel of the navigator: the tags as a tree, their order, and bookmarks on them.
+///
+/// Items point to tags that somebody else owns. Whoever deletes tags calls clearTagList() before. Bookmarks are texts that find a
+/// line; they live as long as the panel. All labels share the empty text, so they are marked together.
+class NaviWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit NaviWidget(QWidget* parent = nullptr);
+
+    /// Shows the order in the combo box and tells the change. The order of the document, with which the box starts, is never
+    /// set here; a value that does not exist changes nothing either.
+    void setSortMode(SrcNaviConfig::eTagListSortMode_t mode);
+    SrcNaviConfig::eTagListSortMode_t sortMode() const;
+    /// Takes colours, formats and the order (as setSortMode() does, but without a signal).
+    void setConfig(SrcNaviConfig* config);
+    /// Empties the tree. Bookmarks and the entry last clicked are kept.
+    void clearTagList();
+    /// Shows the tags, in place of those before.
+    /// @param list not kept; the tags have to live until the next call, or that of clearTagList()
+    /// @param flat all entries on one level, as an order without groups wants it
+    void showTagList(QList<NaviTag*>* list, bool flat);
+    /// Gives all items their look again.
+    void repaintColors();
+
+    QSize sizeHint() const override;
+
+public slots:
+    /// @param index index in the combo box
+    void setSortModeChanged(int index);
+    /// Asks for the line of an item.
+    void setSelected(QTreeWidgetItem* item, int column);
+    /// Remembers the item as the one last clicked.
+    void setCursor(QTreeWidgetItem* item, int column);
+    /// Sets or clears the bookmark of an item.
+    void setBookmark(QTreeWidgetItem* item, int column);
+    /// Sets the bookmark of the current item.
+    void setBookmark();
+    /// Clears the bookmark of the current item.
+    void clearBookmark();
+    /// Clears the bookmarks of all items.
+    void clearBookmarks();
+
+signals:
+    /// The user has chosen another order.
+    void sortModeChanged();
+    /// The tree was filled.
+    void contentChanged(QWidget* widget);
+    /// The user wants to see the line of the tag.
+    void selected(nsModSrcNavi::NaviTag* tag);
+
+private:
+    QBoxLayout* makeSortRow();
+    QBoxLayout* makeBookmarkRow();
+    QPushButton* makeButton(const QString& text, const QString& toolTip, const char* objectName);
+    void makeTree();
+    void connectSortBox();
+    void handleReturn(QTreeWidgetItem* item, int column);
+
+    static NaviTag* tagOf(const QTreeWidgetItem* item);
+    QTreeWidgetItem* makeItem(NaviTag* tag) const;
+    /// Makes the items of all tags, not yet in the tree, so that the tree takes them in one go.
+    QList<QTreeWidgetItem*> makeItems(const QList<NaviTag*>& tags, bool flat, QList<QTreeWidgetItem*>* open,
+                                      QTreeWidgetItem** current) const;
+    void setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const;
+    /// Gives the items of a bookmark their look again.
+    void repaintBookmark(const QString& lineRef);
+
+    QComboBox* m_sortBox = nullptr;
+    NaviTreeWidget* m_tree = nullptr;
+    QString m_lastLineRef; ///< of the tag last clicked
+    QColor m_bookmarkColor;
+    QTextCharFormat m_formats[SrcNaviConfig::fontContextCount];
+    QStringList m_bookmarks; ///< line references
+    int m_scrollPos = 0;     ///< where the tree stood when it was emptied
+    int m_shownOrder = 0;    ///< index in the combo box when the tree was filled
+};
+
+} // namespace nsModSrcNavi
+
+Q_DECLARE_METATYPE(nsModSrcNavi::NaviTag*)
