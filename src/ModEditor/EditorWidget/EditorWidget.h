@@ -1,0 +1,273 @@
+#pragma once
+
+#include "EditorMemPageAddrMap.h"
+#include "LineMarks.h"
+
+#include <QColor>
+#include <QPlainTextEdit>
+#include <QPointer>
+
+#include <functional>
+
+class QAction;
+class QCompleter;
+class QHelpEvent;
+class QMenu;
+class QPainter;
+class QStringListModel;
+class QTextBlock;
+class QTimer;
+
+namespace nsModEditor {
+
+class EditorSupportMenu;
+class EditorSyntaxHighlighter;
+class EditorSyntaxHighlighterConfig;
+class EditorTipManager;
+class EditorWidgetLeftMargin;
+
+/// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
+///
+/// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line numbers
+/// that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
+class EditorWidget : public QPlainTextEdit
+{
+    Q_OBJECT
+
+public:
+    /// Where a search begins.
+    enum eFindOrigin_t { eFindOriginStart = 0, eFindOriginCursor = 1, eFindOriginEnd = 2 };
+
+    explicit EditorWidget(QWidget* parent = nullptr);
+    ~EditorWidget() override;
+
+    // Shared objects, none of them owned; each may be null.
+    void setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config);
+    void setTipManager(EditorTipManager* manager);
+    void setSupportMenu(EditorSupportMenu* menu);
+    void setTextCompletionList(QStringListModel* words);
+
+    // ---- Document (EditorWidget.cpp)
+    /// @param path absolute; empty for a document that has no file yet
+    void setFilePath(const QString& path);
+    QString filePath() const { return m_filePath; }
+    /// Replaces the whole text. Undo history and modification are gone, the cursor stands at the start; marks stay.
+    void setText(const QString& text);
+    bool isModified() const;
+    void clearModified();
+    bool hasSelection() const;
+    bool isUndoAvailable() const;
+    bool isRedoAvailable() const;
+    /// Inserts at the cursor, in place of the selection if there is one.
+    void insertText(const QString& text);
+    /// Brings the formats of all lines up to date with the rules.
+    void rehighlight();
+
+    // ---- Look and behaviour (EditorWidget.cpp)
+    /// The point size becomes the font size of the document.
+    void setFont(const QFont& font);
+    /// Points; the wheel changes it without a bound.
+    int fontSize() const { return m_fontSize; }
+    /// @param indent width of a tab in characters
+    void setTabIndent(int indent);
+    void setDynamicLineWrapEn(bool enabled);
+    void setAutoReturnIndentEn(bool enabled);
+    void setSelectionHighlightEn(bool enabled);
+    void setTextCompletionEn(bool enabled);
+    /// @param length characters
+    void setTextCompleterPrefixLength(int length);
+    /// @param count entries that the list shows at a time
+    void setTextCompleterItemCount(int count);
+    void setCursorBgColor(const QColor& color);
+    void setHighlightBgColor(const QColor& color);
+
+    // ---- Commands for lines (EditorWidgetLines.cpp); each is one step to undo
+    /// A tab at the cursor, or in place of a selection inside one line, or in front of each line of the selection.
+    void indent();
+    /// Removes one blank or tab at the start of each line.
+    void deindent();
+    /// A semicolon in front of each line; without a selection the cursor goes on to the next line.
+    void commentOut();
+    /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
+    void commentIn();
+    void duplicateLine();
+    /// Exchanges the selected lines with the one above. On the first line the step to undo that was begun stays open: what
+    /// follows is undone together, until the text is set anew.
+    void moveLineUp();
+    /// Exchanges the selected lines with the one below. On the last line as moveLineUp() on the first.
+    void moveLineDown();
+
+    // ---- Places (EditorWidgetPlaces.cpp)
+    void setCursorToLine(int line);
+    /// Selects the text where the document has it exactly once; goes to the line otherwise.
+    void setCursorToLine(const QString& text, int line);
+    int cursorLine() const;
+    /// Position in characters from the start of the document.
+    int cursorPos() const;
+    void setCursorPos(int pos);
+    /// Flags the line and goes to it. A document has no more than one flagged line.
+    void setLineHighlighted(int line);
+    void clearLineHighlighted();
+    /// @return whether the text was found; it is selected then
+    bool find(const QString& text, bool caseSensitive, bool wholeWords, bool backward, eFindOrigin_t origin);
+    /// Replaces the selection; does nothing without one.
+    void replace(const QString& text);
+    /// One step to undo. @return always true
+    bool replaceAll(const QString& text, const QString& replacement, bool caseSensitive, bool wholeWords);
+    /// Marks the word below the pointer wherever it occurs. @return true, the event is done
+    bool handleTipEvent(QHelpEvent* event);
+
+    // ---- Marks (EditorWidgetMarks.cpp)
+    QList<int> simBreakpoints() const { return m_simBreakpoints.lines(); }
+    /// Sets the breakpoint, or clears it where there is one.
+    void setSimBreakpoint(int line);
+    void clearSimBreakpoints();
+    /// Moves the simulator's start mark of all documents to the line; a second call for the line clears it.
+    void setSimStartPointer(int line);
+    /// @return false without a mark; *line is left alone then
+    bool simStartPointer(int* line) const;
+    void clearSimStartPointer();
+    QList<int> bookmarks() const { return m_bookmarks.lines(); }
+    void setBookmark(int line);
+    void clearBookmarks();
+
+    // ---- Margin (EditorWidgetMargin.cpp); widths in pixels, 0 for a column that is off
+    void setLineNumberEn(bool enabled);
+    void setMemPageAddrEn(bool enabled);
+    /// @param base of the numbers, 2 to 36; others are ignored
+    void setMemPageAddrBase(int base);
+    /// @param addr the largest address that the column has room for
+    void setMemPageMaxAddr(int addr);
+    /// Takes the document's addresses from the map. Not owned: whoever deletes it sets another one, or null, before.
+    void setMemPageAddrMap(EditorMemPageAddrMap* map);
+    void setLeftMarginBgColor(const QColor& color);
+    void setLeftMarginFgColor(const QColor& color);
+    void setSimBreakpointSymbolColor(const QColor& color);
+    void setSimStartPointerSymbolColor(const QColor& color);
+    void setBookmarkSymbolColor(const QColor& color);
+    int symbolMarginWidth() const;
+    int memPageAddrMarginWidth() const;
+    int lineNumberMarginWidth() const;
+    int leftMarginWidth() const;
+    /// The line at the height of the margin, 0 where there is none.
+    int blockNumberFromPos(int y) const;
+    void leftMarginPaintEvent(QPaintEvent* event);
+    /// @param pos in the margin
+    void showLeftMarginToolTip(const QPoint& pos);
+    EditorWidgetLeftMargin* leftMargin() const { return m_leftMargin; }
+
+public slots:
+    void undo();
+    void redo();
+    /// The text has changed: tells others when this changes whether there is something to save.
+    void setModified();
+
+signals:
+    /// Undo, redo, selection, font size or insert mode have changed.
+    void actionChanged(nsModEditor::EditorWidget* widget);
+    void modifiedChanged(nsModEditor::EditorWidget* widget);
+    void simBreakpointChanged();
+    // Requests to all documents.
+    void clearAllBreakpoints();
+    void clearAllSimStartPointer();
+    void clearAllBookmarks();
+
+protected:
+    bool event(QEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+
+private slots:
+    void highlightSelection();
+    void highlightCurrentLine();
+    void setActionChanged();
+    void setMemPageAddrInvalid(int blockCount);
+    void insertCompletion(const QString& completion);
+    void updateLeftMarginWidth();
+    void updateLeftMargin(const QRect& rect, int dy);
+    void showLeftMarginContextMenu(const QPoint& pos);
+    /// The menu of the margin for the line of the cursor, for those without a mouse.
+    void showLeftMarginContextMenuAtCursor();
+    void settleOpenEdit();
+
+private:
+    /// What a command does to one line. @param cursor anywhere in the line
+    /// @return change of the length of the line
+    using LineCommand = std::function<int(QTextCursor cursor)>;
+
+    void initCompleter();
+    void initHighlighting();
+    void initLeftMargin();
+    void calculateTabWidth();
+    void insertAutoReturnIndent(QKeyEvent* event);
+    void handleKey(QKeyEvent* event);
+    void setSelectionMarks(const QString& text);
+    void setHighlightLinesToEditor();
+
+    void forSelectedLines(const LineCommand& command);
+    void goToNextLine();
+    void exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up);
+    QTextBlock firstSelectedBlock() const;
+    QTextBlock lastSelectedBlock() const;
+    void leaveEditBlockOpen();
+    void closeOpenEditBlocks();
+
+    void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
+    void paintMemPageAddr(QPainter* painter, int top, int addr);
+    QIcon leftMarginContextMenuIconFromColor(const QColor& color) const;
+    void addMarginMenuEntries(QMenu* menu, int line);
+    void runLeftMarginContextMenu(int line, const QPoint& globalPos);
+
+    const int m_marginSpace = 2; ///< air in all formulas of the margin, in pixels
+
+    QTextDocument* m_textDocument;
+    EditorSyntaxHighlighter* m_syntaxHighlighter;
+    EditorWidgetLeftMargin* m_leftMargin = nullptr;
+    QCompleter* m_completer = nullptr;
+    QPointer<EditorSupportMenu> m_supportMenu;
+    QPointer<EditorTipManager> m_tipManager;
+    QString m_filePath;
+
+    int m_tabIndent = 4;
+    int m_fontSize = 0;
+    bool m_autoReturnIndentEn = false;
+    bool m_textCompletionEn = false;
+    int m_textCompleterPrefixLength = 3;
+
+    bool m_modifiedTold = false; ///< what others know of isModified()
+    bool m_settingText = false;
+
+    QTextEdit::ExtraSelection m_highlightSelection;
+    QTextEdit::ExtraSelection m_cursorSelection;
+    QTextEdit::ExtraSelection m_spareSelection; ///< third colour, never shown
+    bool m_lineHighlightEn = false;
+    bool m_selectionHighlightEn = false;
+    bool m_selectionActive = false; ///< something is marked that has to be cleared
+
+    bool m_lineNumberEn = true;
+    bool m_memPageAddrEn = false;
+    int m_memPageAddrMaxAddr = 999;
+    int m_memPageAddrBase = 16;
+    EditorMemPageAddrMap* m_memPageAddrMap = nullptr;           ///< not owned; null without addresses of this file
+    EditorMemPageAddrMap::sItem_t* m_memPageAddrList = nullptr; ///< not owned
+    QColor m_leftMarginFgColor = Qt::black;
+    QColor m_leftMarginBgColor = QColor(0xEAE9E8);
+
+    LineMarks m_simBreakpoints;
+    LineMarks m_bookmarks;
+    int m_simStartPointer = -1; ///< -1 for none
+    QColor m_simBreakpointSymbolColor = Qt::red;
+    QColor m_simStartPointerSymbolColor = Qt::green;
+    QColor m_bookmarkSymbolColor = Qt::darkYellow;
+
+    /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead.
+    int m_openEditBlocks = 0;
+    int m_cleanUndoSteps = 0;
+    QTimer* m_openEditTimer = nullptr;
+    QString m_openEditState;
+};
+
+} // namespace nsModEditor

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QList>
+#include <QSet>
+
+namespace nsModEditor {
+
+/// Marked lines of a document: in the order in which they were set, and with a quick answer for one line.
+///
+/// The marks are plain numbers, counted from 0: they stay where they are when the text moves.
+class LineMarks
+{
+public:
+    void toggle(int line)
+    {
+        if (m_set.contains(line)) {
+            m_set.remove(line);
+            m_lines.removeOne(line);
+        } else {
+            m_set.insert(line);
+            m_lines.append(line);
+        }
+    }
+    void clear()
+    {
+        m_set.clear();
+        m_lines.clear();
+    }
+    bool contains(int line) const { return m_set.contains(line); }
+    const QList<int>& lines() const { return m_lines; }
+
+private:
+    QList<int> m_lines;
+    QSet<int> m_set;
+};
+
+} // namespace nsModEditor
