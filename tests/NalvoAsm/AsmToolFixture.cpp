@@ -105,6 +105,14 @@ QByteArray AsmToolTest::hexText()
     return QByteArray("00001\n34000\n") + QByteArray("00000\n").repeated(1021) + "38001\n";
 }
 
+QByteArray AsmToolTest::vhdlTemplate(const QByteArray& head)
+{
+    QByteArray text = "{begin template}\n" + head;
+    for (int i = 0; i < 64; ++i)
+        text += "{INIT_" + QByteArray::number(i, 16) + "}\n";
+    return text;
+}
+
 AsmToolSetup AsmToolTest::setup() const
 {
     AsmToolSetup setup;

@@ -82,6 +82,8 @@ protected:
     /// Three instructions at the addresses 0, 1 and 0x3FF.
     static QByteArray goodSource();
     static QByteArray hexText();
+    /// A template that shows all words of the program, as an output is in error without.
+    static QByteArray vhdlTemplate(const QByteArray& head = QByteArray());
 
     /// The setup of a usual run; a test changes it and hands it to run().
     AsmToolSetup setup() const;

@@ -159,10 +159,7 @@ TEST_F(AsmToolOutcome, AnOutputFileOnAFullDisk)
         EXPECT_TRUE(result.errLines().value(0).startsWith("error: ")) << result.err.constData();
     }
     writeProject(AsmProject().vhdl("t.vhd", "/dev/full"));
-    QByteArray lines = "{begin template}\n";
-    for (int i = 0; i < 64; ++i)
-        lines += "{INIT_" + QByteArray::number(i, 16) + "}\n";
-    write("t.vhd", lines);
+    write("t.vhd", vhdlTemplate());
     EXPECT_EQ(run({"p.nalvo"}).status, 1);
 }
 
@@ -199,10 +196,7 @@ TEST_F(AsmToolOutcome, EightRunsAtOnce)
     for (int i = 0; i < 500; ++i)
         source += " LOAD s0, " + QByteArray::number(i % 256) + '\n';
     write("a.psm", source + "#ORG ADDR, 0x3FF\n RETI ENABLE\n");
-    QByteArray lines = "{begin template}\n";
-    for (int i = 0; i < 64; ++i)
-        lines += "{INIT_" + QByteArray::number(i, 16) + "}\n";
-    write("t.vhd", lines);
+    write("t.vhd", vhdlTemplate());
     EXPECT_EQ(run({"p.nalvo"}).status, 0);
     const QStringList files = {"out.hex", "out.mem", "out.vhd", "list", "syms"};
     run({"-l", "list", "-s", "syms", "p.nalvo"});

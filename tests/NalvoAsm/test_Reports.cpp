@@ -308,7 +308,7 @@ TEST_F(AsmToolReports, FilesOfTheProjectAreNotOverwritten)
     project.output("hex", "out.hex").vhdl("t.vhd", "out.vhd");
     writeProject(project);
     write("a.psm", goodSource());
-    write("t.vhd", "{begin template}\n{INIT_00}\n");
+    write("t.vhd", vhdlTemplate());
     ASSERT_TRUE(QFile::link("a.psm", path("link")));
     mkdir("d");
     for (const char* file : {"p.nalvo", "a.psm", "d/../a.psm", "link", "t.vhd", "out.hex", "out.vhd"}) {

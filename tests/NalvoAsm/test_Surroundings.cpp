@@ -26,12 +26,8 @@ protected:
     /// Writes p.nalvo with an output that has the time stamp alone in it.
     void writeStampProject() const
     {
-        // Time stamps are in templates alone, and a template that shows not all of the memory is an error.
-        QByteArray lines = "{begin template}\n[{TIMESTAMP}]\n";
-        for (int i = 0; i < 64; ++i)
-            lines += "{INIT_" + QByteArray::number(i, 16) + "}\n";
         writeProject(AsmProject().vhdl("t.vhd", "out.vhd"));
-        write("t.vhd", lines);
+        write("t.vhd", vhdlTemplate("[{TIMESTAMP}]\n"));
         write("a.psm", goodSource());
     }
 
@@ -145,13 +141,22 @@ TEST_F(AsmToolSurroundings, StandardInputIsLeftAlone)
 
 TEST_F(AsmToolSurroundings, ClosedStreamsDoNotEndUpInFiles)
 {
-    AsmProject project;
-    writeProject(project.output("hex", "out.hex"));
+    // A template for a larger memory is warned of while the output is open: a message that takes its number ends up in
+    // it.
+    writeProject(AsmProject().output("hex", "out.hex").vhdl("t.vhd", "out.vhd"));
+    write("t.vhd", vhdlTemplate() + "{INIT_40}\n");
     write("a.psm", "#EQU unused, 1\n" + goodSource());
+    const AsmToolResult open = run({"p.nalvo"});
+    EXPECT_EQ(open.status, 0);
+    EXPECT_EQ(open.errLines().size(), 3);
+    const QByteArray vhdl = read("out.vhd");
+    EXPECT_EQ(vhdl.count('\n'), 65);
     for (const char* closed : {"2>&-", ">&- 2>&-", "<&- >&- 2>&-", "<&- 2>&-"}) {
         QFile::remove(path("out.hex"));
+        QFile::remove(path("out.vhd"));
         EXPECT_EQ(shell(QString("\"$A\" -v -l list p.nalvo ") + closed).status, 0) << closed;
         EXPECT_EQ(read("out.hex"), hexText()) << closed;
+        EXPECT_EQ(read("out.vhd"), vhdl) << closed;
         EXPECT_EQ(read("list").count('\n'), 3) << closed;
     }
     EXPECT_EQ(shell("\"$A\" -v p.nalvo 2>/dev/full").status, 0);

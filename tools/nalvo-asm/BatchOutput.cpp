@@ -46,8 +46,6 @@ QString sequenceAt(const QString& text, int pos, int* length)
 void print(std::FILE* stream, const QByteArray& text)
 {
     errno = 0;
-    if (stream == stderr)
-        noteStdout(std::fflush(stdout) == 0);
     const bool success = std::fwrite(text.constData(), 1, size_t(text.size()), stream) == size_t(text.size());
     if (stream == stdout)
         noteStdout(success);

@@ -7,8 +7,7 @@
 
 namespace nsNalvoAsm {
 
-/// Prints in one piece, so that the lines of several runs on one terminal do not mix, and behind what the other stream
-/// has got before.
+/// Prints in one piece, so that the lines of several runs on one terminal do not mix.
 void print(std::FILE* stream, const QByteArray& text);
 /// The same with a line end behind.
 void printLine(std::FILE* stream, const QByteArray& line);

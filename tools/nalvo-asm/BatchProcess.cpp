@@ -3,14 +3,10 @@
 #include "BatchOutput.h"
 
 #include <QCoreApplication>
-#include <QTextCodec>
 
 #include <csignal>
-#include <cstring>
 
-#include <clocale>
 #include <fcntl.h>
-#include <langinfo.h>
 #include <unistd.h>
 
 namespace nsNalvoAsm {
@@ -39,9 +35,6 @@ void setupProcess()
 {
     occupyStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
-    std::setlocale(LC_ALL, "");
-    if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
-        QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
     // What the libraries have to say about the environment is no message of a run.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }

@@ -6,7 +6,6 @@ namespace nsNalvoAsm {
 ///
 /// - A standard stream that is closed stays unusable, instead of being taken by the first file that is opened.
 /// - A reader of the messages that goes away early does not end the run halfway through its output files.
-/// - In a locale without a character set of its own, file names are UTF-8.
 void setupProcess();
 
 /// Is SOURCE_DATE_EPOCH unset, or a moment that a time stamp can show? If not, says so on standard error.

@@ -147,14 +147,14 @@ int main(int argc, char** argv)
 {
     setupProcess();
     // The application takes the program's name alone: it has options of its own, which are none of ours.
-    QStringList arguments = {"nalvo-asm"};
-    for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
     char name[] = "nalvo-asm";
     char* names[] = {name, nullptr};
     int count = 1;
     QCoreApplication application(count, names);
     QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+    QStringList arguments = {name};
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
     BatchOptions options;
     switch (options.parse(arguments)) {
     case BatchOptions::parseEnd:
