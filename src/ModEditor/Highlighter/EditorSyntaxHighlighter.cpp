@@ -10,8 +10,8 @@ namespace nsModEditor {
 
 namespace {
 
-/// Longest selection over several lines that is compiled although it may match nothing, in characters. Compiling takes a time
-/// that grows with the square of the length.
+/// Longest selection over several lines that is compiled although it may match nothing, in characters. Compiling takes
+/// a time that grows with the square of the length.
 const int longSelection = 20000;
 
 } // namespace

@@ -29,8 +29,8 @@ public:
 
     /// @param config not owned, may be null
     void setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config);
-    /// What rehighlight() is to mark: all whole words that match the text, whose characters work as pattern characters. An empty
-    /// text marks nothing.
+    /// What rehighlight() is to mark: all whole words that match the text, whose characters work as pattern characters.
+    /// An empty text marks nothing.
     void setSelection(const QString& text);
 
     /// Called for each line that changes; formats the line.
@@ -39,8 +39,8 @@ public:
     void highlightSelection(const QString& text);
 
 public slots:
-    /// Brings the formats of all lines up to date. It touches only lines whose formats differ, so it is much faster than the
-    /// operation of the base class, with the same result.
+    /// Brings the formats of all lines up to date. It touches only lines whose formats differ, so it is much faster
+    /// than the operation of the base class, with the same result.
     void rehighlight();
 
 private:

@@ -170,7 +170,8 @@ HighlightSpans HighlightMatcher::spansOf(const QVector<int>& formats) const
     return result;
 }
 
-HighlightSpans HighlightMatcher::withMarks(const QString& text, const HighlightSpans& spans, const HighlightSpans& marks)
+HighlightSpans HighlightMatcher::withMarks(const QString& text, const HighlightSpans& spans,
+                                           const HighlightSpans& marks)
 {
     if (marks.isEmpty())
         return spans;

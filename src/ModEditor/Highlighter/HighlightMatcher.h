@@ -11,8 +11,8 @@ namespace nsModEditor {
 
 /// Says how the rules format a line, exactly as if every rule ran over it in the order of the list, without doing so.
 ///
-/// Rules for whole words, most of the list, are found by one look-up a word of the line. Others run only on lines that hold what
-/// the expression demands. What a line has got is remembered by its text.
+/// Rules for whole words, most of the list, are found by one look-up a word of the line. Others run only on lines that
+/// hold what the expression demands. What a line has got is remembered by its text.
 class HighlightMatcher
 {
 public:
@@ -21,7 +21,8 @@ public:
     void clear();
     void addRule(const QRegExp& regExp, const QTextCharFormat& format);
 
-    /// The formatted parts of a line, ascending; neighbours differ in their formats. Parts with the default format are left out.
+    /// The formatted parts of a line, ascending; neighbours differ in their formats. Parts with the default format are
+    /// left out.
     HighlightSpans spans(const QString& text);
     /// Lays marked ranges over spans: each gets the format at its start with the background of the selection.
     /// @param marks ascending, without overlap; their formats do not count
@@ -58,7 +59,7 @@ private:
     HighlightSpans spansOf(const QVector<int>& formats) const;
 
     QVector<HighlightPattern> m_rules;
-    QVector<int> m_ruleFormats;          ///< by rule
+    QVector<int> m_ruleFormats;             ///< by rule
     QHash<QString, QVector<Words>> m_words; ///< by the first word in small letters
     QVector<int> m_otherRules;
     QVector<int> m_foldingRules; ///< rules among m_words whose case does not matter

@@ -11,14 +11,8 @@ class AsciiSet
 {
 public:
     void add(ushort character);
-    bool intersects(const AsciiSet& other) const
-    {
-        return ((m_low & other.m_low) | (m_high & other.m_high)) != 0;
-    }
-    bool contains(const AsciiSet& other) const
-    {
-        return ((other.m_low & ~m_low) | (other.m_high & ~m_high)) == 0;
-    }
+    bool intersects(const AsciiSet& other) const { return ((m_low & other.m_low) | (m_high & other.m_high)) != 0; }
+    bool contains(const AsciiSet& other) const { return ((other.m_low & ~m_low) | (other.m_high & ~m_high)) == 0; }
 
 private:
     quint64 m_low = 0;
@@ -37,7 +31,8 @@ struct LineFacts
 
 /// An expression, with what a line must hold so that it can match at all.
 ///
-/// What is found out is true of every match; where the expression is beyond the analysis, nothing is demanded of a line.
+/// What is found out is true of every match; where the expression is beyond the analysis, nothing is demanded of a
+/// line.
 class HighlightPattern
 {
 public:
@@ -45,8 +40,8 @@ public:
     /// Without an expression to run: to look at a pattern before it is compiled.
     HighlightPattern(const QString& pattern, Qt::CaseSensitivity cs);
 
-    /// The expression is `\b` + text + `\b` where the text stands for itself and begins and ends with an ASCII letter, digit or
-    /// underscore; else an empty text.
+    /// The expression is `\b` + text + `\b` where the text stands for itself and begins and ends with an ASCII letter,
+    /// digit or underscore; else an empty text.
     const QString& wholeWords() const { return m_wholeWords; }
     /// @return no line of a document can match
     bool neverMatches() const;
@@ -70,10 +65,10 @@ public:
     /// What one branch of the expression demands.
     struct Demand
     {
-        AsciiSet all;             ///< each of these characters
-        QVector<AsciiSet> anyOf;  ///< one character of each set
-        QString text;             ///< this text
-        bool lineBreak = false;   ///< the end of a line in the middle
+        AsciiSet all;            ///< each of these characters
+        QVector<AsciiSet> anyOf; ///< one character of each set
+        QString text;            ///< this text
+        bool lineBreak = false;  ///< the end of a line in the middle
     };
 
 private:
