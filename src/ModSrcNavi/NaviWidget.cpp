@@ -101,8 +101,10 @@ QBoxLayout* NaviWidget::makeBookmarkRow()
     connect(clearAll, &QPushButton::clicked, this, &NaviWidget::clearBookmarks);
 
     auto* row = new QHBoxLayout;
-    row->setSpacing(grid);
+    // The dock can not get narrower than this row.
+    row->setSpacing(grid / 2);
     row->addWidget(new QLabel(tr("Bookmarks:"), this));
+    row->addSpacing(grid / 2);
     row->addWidget(set);
     row->addWidget(clear);
     row->addWidget(clearAll);
@@ -138,7 +140,7 @@ QSize NaviWidget::sizeHint() const
 {
     // Wide enough for titles of a usual length.
     const QSize least = minimumSizeHint();
-    return QSize(qMax(least.width(), fontMetrics().averageCharWidth() * 38),
+    return QSize(qMax(least.width(), fontMetrics().averageCharWidth() * 34),
                  qMax(least.height(), fontMetrics().height() * 16));
 }
 
