@@ -180,6 +180,13 @@ private:
     bool splitFromArgParentheseClose(QString* arg);
 
     // Directives (ModAsmFeDirectives.cpp)
+    struct sDirective_t
+    {
+        const char* word;
+        bool (ModAsmFe::*parse)(SrcReference* srcRef);
+    };
+    bool parseLineByWord(SrcReference* srcRef, const QString& word, const sDirective_t* directives, int count,
+                         bool* isKnown);
     bool parseLineConditional(SrcReference* srcRef, const QString& word, bool* isConditional);
     bool parseLineDirective(SrcReference* srcRef, const QString& word, bool* isDirective);
     bool parseLineDirectiveIf(SrcReference* srcRef);

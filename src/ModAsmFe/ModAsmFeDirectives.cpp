@@ -20,38 +20,37 @@ bool isWord(const QString& text)
 
 } // namespace
 
+bool ModAsmFe::parseLineByWord(SrcReference* srcRef, const QString& word, const sDirective_t* directives, int count,
+                               bool* isKnown)
+{
+    for (int i = 0; i < count; ++i) {
+        if (word == QLatin1String(directives[i].word)) {
+            *isKnown = true;
+            return (this->*directives[i].parse)(srcRef);
+        }
+    }
+    *isKnown = false;
+    return true;
+}
+
 bool ModAsmFe::parseLineConditional(SrcReference* srcRef, const QString& word, bool* isConditional)
 {
-    *isConditional = true;
-    if (word == QLatin1String("#IFDEF"))
-        return parseLineDirectiveIf(srcRef);
-    if (word == QLatin1String("#ELSEIF"))
-        return parseLineDirectiveElseIf(srcRef);
-    if (word == QLatin1String("#ELSE"))
-        return parseLineDirectiveElse(srcRef);
-    if (word == QLatin1String("#ENDIF"))
-        return parseLineDirectiveEndIf(srcRef);
-    *isConditional = false;
-    return true;
+    static const sDirective_t directives[] = {{"#IFDEF", &ModAsmFe::parseLineDirectiveIf},
+                                              {"#ELSEIF", &ModAsmFe::parseLineDirectiveElseIf},
+                                              {"#ELSE", &ModAsmFe::parseLineDirectiveElse},
+                                              {"#ENDIF", &ModAsmFe::parseLineDirectiveEndIf}};
+    return parseLineByWord(srcRef, word, directives, 4, isConditional);
 }
 
 bool ModAsmFe::parseLineDirective(SrcReference* srcRef, const QString& word, bool* isDirective)
 {
-    *isDirective = true;
-    if (word == QLatin1String("#DEFINE"))
-        return parseLineDirectiveDef(srcRef);
-    if (word == QLatin1String("#EQU"))
-        return parseLineDirectiveEqu(srcRef);
-    if (word == QLatin1String("#NAMESPACE"))
-        return parseLineDirectiveNs(srcRef);
-    if (word == QLatin1String("#ENDNAMESPACE"))
-        return parseLineDirectiveEndNs(srcRef);
-    if (word == QLatin1String("#SET"))
-        return parseLineDirectiveSet(srcRef);
-    if (word == QLatin1String("#ORG"))
-        return parseLineDirectiveOrg(srcRef);
-    *isDirective = false;
-    return true;
+    static const sDirective_t directives[] = {{"#DEFINE", &ModAsmFe::parseLineDirectiveDef},
+                                              {"#EQU", &ModAsmFe::parseLineDirectiveEqu},
+                                              {"#NAMESPACE", &ModAsmFe::parseLineDirectiveNs},
+                                              {"#ENDNAMESPACE", &ModAsmFe::parseLineDirectiveEndNs},
+                                              {"#SET", &ModAsmFe::parseLineDirectiveSet},
+                                              {"#ORG", &ModAsmFe::parseLineDirectiveOrg}};
+    return parseLineByWord(srcRef, word, directives, 6, isDirective);
 }
 
 bool ModAsmFe::parseLineDirectiveIf(SrcReference* srcRef)

@@ -17,31 +17,22 @@ EquList::~EquList()
 
 void EquList::clear()
 {
-    while (m_first != nullptr) {
-        Equ* next = m_first->next;
-        delete m_first;
-        m_first = next;
-    }
-    m_last = nullptr;
+    m_chain.clear();
     m_byName.clear();
     m_names.clear();
 }
 
 void EquList::append(Equ* equ)
 {
-    equ->prev = m_last;
-    if (m_last == nullptr)
-        m_first = equ;
-    else
-        m_last->next = equ;
-    m_last = equ;
+    equ->prev = m_chain.last();
+    m_chain.append(equ);
     m_byName.insert(equ->nameSpace, equ->name, equ);
     m_names.insert(equ->name);
 }
 
 void EquList::print() const
 {
-    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next) {
+    for (const Equ* equ = first(); equ != nullptr; equ = equ->next) {
         std::printf("equ:\t%s = %s (%s, %d)\n", qPrintable(qualifiedName(equ->nameSpace, equ->name)),
                     qPrintable(equ->arg->dispName), argTypeName(equ->arg->type), equ->arg->iValue);
         std::printf("\tsrcRef:\t%04d, %04d, %04d\n", equ->srcRef.fileNo, equ->srcRef.lineNo, equ->srcRef.absLineNo);
@@ -51,7 +42,7 @@ void EquList::print() const
 QStringList EquList::nameList() const
 {
     QStringList names;
-    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next)
+    for (const Equ* equ = first(); equ != nullptr; equ = equ->next)
         names.append(qualifiedName(equ->nameSpace, equ->name));
     return names;
 }
@@ -68,7 +59,7 @@ void EquList::showToListView()
     if (m_listView == nullptr)
         return;
     m_listView->beginFill();
-    for (const Equ* equ = m_first; equ != nullptr; equ = equ->next)
+    for (const Equ* equ = first(); equ != nullptr; equ = equ->next)
         m_listView->addItem(equ->name, equ->nameSpace, equ->arg->iValue);
     m_listView->endFill();
 }

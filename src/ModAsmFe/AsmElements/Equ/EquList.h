@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ElementChain.h"
 #include "Equ.h"
 #include "SymbolHash.h"
 
@@ -25,7 +26,7 @@ public:
     /// Takes the ownership. Namespace and name must be set and stay.
     void append(Equ* equ);
     /// Null if the list is empty.
-    Equ* first() const { return m_first; }
+    Equ* first() const { return m_chain.first(); }
     /// Dumps the list to standard output.
     void print() const;
 
@@ -43,8 +44,7 @@ public:
     void showToListView();
 
 private:
-    Equ* m_first = nullptr;
-    Equ* m_last = nullptr;
+    ElementChain<Equ> m_chain;
     SymbolHash<Equ> m_byName;
     QSet<QString> m_names;
     QPointer<EquListView> m_listView;

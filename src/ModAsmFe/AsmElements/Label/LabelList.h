@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ElementChain.h"
 #include "Label.h"
 #include "SymbolHash.h"
 
@@ -11,17 +12,12 @@ namespace nsModAsmFe {
 class LabelList
 {
 public:
-    LabelList() = default;
-    ~LabelList();
-    LabelList(const LabelList&) = delete;
-    LabelList& operator=(const LabelList&) = delete;
-
     /// Deletes all elements.
     void clear();
     /// Takes the ownership. Namespace and name must be set and stay.
     void append(Label* label);
     /// Null if the list is empty.
-    Label* first() const { return m_first; }
+    Label* first() const { return m_chain.first(); }
     /// Dumps the list to standard output.
     void print() const;
 
@@ -32,8 +28,7 @@ public:
     QStringList nameList() const;
 
 private:
-    Label* m_first = nullptr;
-    Label* m_last = nullptr;
+    ElementChain<Label> m_chain;
     SymbolHash<Label> m_byName;
 };
 

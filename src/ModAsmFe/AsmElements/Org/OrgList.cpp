@@ -4,33 +4,19 @@
 
 namespace nsModAsmFe {
 
-OrgList::~OrgList()
-{
-    clear();
-}
-
 void OrgList::clear()
 {
-    while (m_first != nullptr) {
-        Org* next = m_first->next;
-        delete m_first;
-        m_first = next;
-    }
-    m_last = nullptr;
+    m_chain.clear();
 }
 
 void OrgList::append(Org* org)
 {
-    if (m_last == nullptr)
-        m_first = org;
-    else
-        m_last->next = org;
-    m_last = org;
+    m_chain.append(org);
 }
 
 void OrgList::print() const
 {
-    for (const Org* org = m_first; org != nullptr; org = org->next) {
+    for (const Org* org = first(); org != nullptr; org = org->next) {
         std::printf("org:\t%s, %s (%d)\n", qPrintable(org->name), qPrintable(org->value), org->iValue);
         std::printf("\tsrcRef:\t%04d, %04d, %04d\n", org->srcRef.fileNo, org->srcRef.lineNo, org->srcRef.absLineNo);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ElementChain.h"
 #include "Org.h"
 
 namespace nsModAsmFe {
@@ -8,23 +9,17 @@ namespace nsModAsmFe {
 class OrgList
 {
 public:
-    OrgList() = default;
-    ~OrgList();
-    OrgList(const OrgList&) = delete;
-    OrgList& operator=(const OrgList&) = delete;
-
     /// Deletes all elements.
     void clear();
     /// Takes the ownership.
     void append(Org* org);
     /// Null if the list is empty.
-    Org* first() const { return m_first; }
+    Org* first() const { return m_chain.first(); }
     /// Dumps the list to standard output.
     void print() const;
 
 private:
-    Org* m_first = nullptr;
-    Org* m_last = nullptr;
+    ElementChain<Org> m_chain;
 };
 
 } // namespace nsModAsmFe

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ElementChain.h"
 #include "Set.h"
 #include "SymbolHash.h"
 
@@ -12,17 +13,12 @@ namespace nsModAsmFe {
 class SetList
 {
 public:
-    SetList() = default;
-    ~SetList();
-    SetList(const SetList&) = delete;
-    SetList& operator=(const SetList&) = delete;
-
     /// Deletes all elements.
     void clear();
     /// Takes the ownership. Namespace and name must be set and stay.
     void append(Set* set);
     /// Null if the list is empty.
-    Set* first() const { return m_first; }
+    Set* first() const { return m_chain.first(); }
     /// Dumps the list to standard output.
     void print() const;
 
@@ -41,8 +37,7 @@ public:
     QVector<Set*> values(const QString& nameSpace) const { return m_values.value(nameSpace); }
 
 private:
-    Set* m_first = nullptr;
-    Set* m_last = nullptr;
+    ElementChain<Set> m_chain;
     SymbolHash<Set> m_byName;
     QHash<QString, QVector<Set*>> m_values;
 };
