@@ -11,6 +11,7 @@
 #include "ModPrj.h"
 #include "ModProcessor.h"
 #include "ModSources.h"
+#include "ModSrcNavi.h"
 #include "ModTemplates.h"
 
 #include "ModMsgHookIf.h"
@@ -54,6 +55,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModSources::ModSources(this));
     m_phases.append(new nsModProcessor::ModProcessor(this));
     m_phases.append(new nsModAsmFe::ModAsmFe(this));
+    m_phases.append(new nsModSrcNavi::ModSrcNavi(this));
     m_phases.append(new nsModAction::ModAction(this));
     m_phases.append(m_modArgs);
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
