@@ -5,6 +5,7 @@
 #include "ModAsmFe.h"
 #include "ModCfgApp.h"
 #include "ModClipboard.h"
+#include "ModEditor.h"
 #include "ModFindReplace.h"
 #include "ModGui.h"
 #include "ModMsg.h"
@@ -55,6 +56,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModSources::ModSources(this));
     m_phases.append(new nsModProcessor::ModProcessor(this));
     m_phases.append(new nsModAsmFe::ModAsmFe(this));
+    m_phases.append(new nsModEditor::ModEditor(this));
     m_phases.append(new nsModSrcNavi::ModSrcNavi(this));
     m_phases.append(new nsModAction::ModAction(this));
     m_phases.append(m_modArgs);

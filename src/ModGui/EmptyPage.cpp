@@ -48,14 +48,11 @@ void EmptyPage::paintEvent(QPaintEvent*)
     painter.drawText(QRect(0, top, width(), nameHeight), Qt::AlignCenter, QCoreApplication::applicationName());
     painter.setFont(font());
     painter.setPen(hintColor);
-    QRect line(2 * gap, top + nameHeight + gap, width() - 4 * gap, hintHeight);
-    if (m_openText.isEmpty()) {
-        painter.drawText(line, Qt::AlignCenter, tr("Open a project: Configuration > Open project..."));
-        return;
-    }
-    painter.drawText(line, Qt::AlignCenter, fontMetrics().elidedText(m_openText, Qt::ElideMiddle, line.width()));
-    line.translate(0, hintHeight + gap / 2);
-    painter.drawText(line, Qt::AlignCenter, tr("Run it through the assembler: Assembler > Run assembler"));
+    const QRect lines(2 * gap, top + nameHeight + gap, width() - 4 * gap, height() - top - nameHeight - 2 * gap);
+    const QString hint = m_openText.isEmpty() ? tr("Open a project: Configuration > Open project...")
+                                              : m_openText + '\n' +
+                                                    tr("Run it through the assembler: Assembler > Run assembler");
+    painter.drawText(lines, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint);
 }
 
 } // namespace nsModGui

@@ -53,6 +53,8 @@ public:
     QString filePath() const { return m_filePath; }
     /// Replaces the whole text. Undo history and modification are gone, the cursor stands at the start; marks stay.
     void setText(const QString& text);
+    /// The text for a file, one line feed between lines. Unlike toPlainText() it keeps non-breaking blanks.
+    QString text() const;
     bool isModified() const;
     void clearModified();
     bool hasSelection() const;
@@ -204,6 +206,7 @@ private:
     void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
     void handleKey(QKeyEvent* event);
+    void insertLineBreak(QKeyEvent* event);
     void setSelectionMarks(const QString& text);
     void setHighlightLinesToEditor();
 

@@ -24,6 +24,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     /// Left button on the symbols: toggles a breakpoint, with Ctrl the simulator's start mark, with Shift a bookmark.
     void mousePressEvent(QMouseEvent* event) override;
+    /// Scrolls and zooms like the text.
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
     EditorWidget* m_editor; ///< not owned

@@ -1,0 +1,51 @@
+#include "EditorStatusBar.h"
+
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+
+namespace nsModEditor {
+
+EditorStatusBar::EditorStatusBar(QWidget* parent)
+    : QWidget(parent)
+{
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 0, 8, 0);
+    layout->setSpacing(8);
+    m_fontSize = addPair(tr("Font size:"), tr("Font size of the document, changed with Ctrl and the wheel"),
+                         "editorStatusBarFontSize");
+    layout->addSpacing(8);
+    m_mode = addPair(tr("Mode:"), tr("What typing does to the text behind the cursor, changed with the Insert key"),
+                     "editorStatusBarMode");
+    layout->addStretch(1);
+    // What follows must not move when a value changes.
+    m_fontSize->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1 pt").arg(100)));
+    m_mode->setMinimumWidth(
+        qMax(fontMetrics().horizontalAdvance(tr("Insert")), fontMetrics().horizontalAdvance(tr("Overwrite"))));
+    setOverwrite(false);
+}
+
+QLabel* EditorStatusBar::addPair(const QString& title, const QString& toolTip, const QString& name)
+{
+    auto* titleLabel = new QLabel(title, this);
+    titleLabel->setObjectName("statusBarTitle");
+    titleLabel->setToolTip(toolTip);
+    auto* value = new QLabel(this);
+    value->setObjectName(name);
+    value->setToolTip(toolTip);
+    layout()->addWidget(titleLabel);
+    layout()->addWidget(value);
+    return value;
+}
+
+void EditorStatusBar::setFontSize(int size)
+{
+    m_fontSize->setText(tr("%1 pt").arg(size));
+}
+
+void EditorStatusBar::setOverwrite(bool overwrite)
+{
+    m_mode->setText(overwrite ? tr("Overwrite") : tr("Insert"));
+}
+
+} // namespace nsModEditor

@@ -1,0 +1,191 @@
+// Places in the document: the cursor, the flagged line, what is selected, searching.
+
+#include "EditorWidget.h"
+
+#include "EditorSyntaxHighlighter.h"
+
+#include <QHelpEvent>
+#include <QRegExp>
+#include <QTextBlock>
+
+namespace nsModEditor {
+
+void EditorWidget::initHighlighting()
+{
+    m_highlightSelection.format.setBackground(QColor(0xF5CACA));
+    m_highlightSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
+    m_cursorSelection.format.setBackground(QColor(0xE3EBF3));
+    m_cursorSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
+    m_spareSelection.format.setBackground(QColor(0xD7D7D7));
+    m_spareSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
+    connect(this, SIGNAL(cursorPositionChanged()), this, SLOT(highlightCurrentLine()));
+    highlightCurrentLine();
+}
+
+void EditorWidget::setCursorToLine(int line)
+{
+    QTextCursor cursor = textCursor();
+    const int current = cursor.blockNumber();
+    // Upwards by what is a line on the screen, so that wrapped lines count for more than one.
+    if (line >= current)
+        cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, line - current);
+    else
+        cursor.movePosition(QTextCursor::Up, QTextCursor::MoveAnchor, current - line);
+    setTextCursor(cursor);
+    centerCursor();
+}
+
+void EditorWidget::setCursorToLine(const QString& text, int line)
+{
+    const QTextCursor hit = m_textDocument->find(text, 0);
+    const bool isUnique = !hit.isNull() && m_textDocument->find(text, hit).isNull();
+    if (isUnique) {
+        setTextCursor(hit);
+        centerCursor();
+        return;
+    }
+    // From the start, so that only whole lines count.
+    moveCursor(QTextCursor::Start);
+    setCursorToLine(line);
+}
+
+int EditorWidget::cursorLine() const
+{
+    return textCursor().blockNumber();
+}
+
+int EditorWidget::cursorPos() const
+{
+    return textCursor().position();
+}
+
+void EditorWidget::setCursorPos(int pos)
+{
+    QTextCursor cursor = textCursor();
+    cursor.setPosition(qBound(0, pos, m_textDocument->characterCount() - 1));
+    setTextCursor(cursor);
+    centerCursor();
+}
+
+void EditorWidget::setLineHighlighted(int line)
+{
+    setCursorToLine(line);
+    m_highlightSelection.cursor = textCursor();
+    m_highlightSelection.cursor.clearSelection();
+    m_lineHighlightEn = true;
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::clearLineHighlighted()
+{
+    m_lineHighlightEn = false;
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::setCursorBgColor(const QColor& color)
+{
+    m_cursorSelection.format.setBackground(color);
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::setHighlightBgColor(const QColor& color)
+{
+    m_highlightSelection.format.setBackground(color);
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::highlightCurrentLine()
+{
+    m_cursorSelection.cursor = textCursor();
+    m_cursorSelection.cursor.clearSelection();
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::setHighlightLinesToEditor()
+{
+    QList<QTextEdit::ExtraSelection> selections{m_cursorSelection};
+    if (m_lineHighlightEn)
+        selections.append(m_highlightSelection);
+    setExtraSelections(selections);
+}
+
+void EditorWidget::setSelectionHighlightEn(bool enabled)
+{
+    m_selectionHighlightEn = enabled;
+    if (enabled)
+        highlightSelection();
+    else if (m_selectionActive)
+        setSelectionMarks(QString());
+}
+
+void EditorWidget::highlightSelection()
+{
+    if (!m_selectionHighlightEn)
+        return;
+    const QTextCursor cursor = textCursor();
+    if (cursor.hasSelection())
+        setSelectionMarks(cursor.selectedText());
+    else if (m_selectionActive)
+        setSelectionMarks(QString());
+}
+
+void EditorWidget::setSelectionMarks(const QString& text)
+{
+    m_selectionActive = !text.isEmpty();
+    m_syntaxHighlighter->setSelection(text);
+    m_syntaxHighlighter->rehighlight();
+}
+
+bool EditorWidget::handleTipEvent(QHelpEvent* event)
+{
+    QTextCursor cursor = cursorForPosition(event->pos());
+    cursor.select(QTextCursor::WordUnderCursor);
+    const QString word = cursor.selectedText();
+    if (QRegExp("^\\b\\S+\\b$").exactMatch(word))
+        setSelectionMarks(word);
+    else if (m_selectionActive)
+        setSelectionMarks(QString());
+    return true;
+}
+
+bool EditorWidget::find(const QString& text, bool caseSensitive, bool wholeWords, bool backward, eFindOrigin_t origin)
+{
+    if (origin == eFindOriginStart)
+        moveCursor(QTextCursor::Start);
+    else if (origin == eFindOriginEnd)
+        moveCursor(QTextCursor::End);
+    QTextDocument::FindFlags flags;
+    flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
+    flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
+    flags.setFlag(QTextDocument::FindBackward, backward);
+    return QPlainTextEdit::find(text, flags);
+}
+
+void EditorWidget::replace(const QString& text)
+{
+    if (hasSelection())
+        insertText(text);
+}
+
+bool EditorWidget::replaceAll(const QString& text, const QString& replacement, bool caseSensitive, bool wholeWords)
+{
+    QTextDocument::FindFlags flags;
+    flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
+    flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
+    QTextCursor step(m_textDocument);
+    QTextCursor last;
+    step.beginEditBlock();
+    // The search goes on behind what was inserted, so that a replacement which holds the text ends, too.
+    for (QTextCursor hit = m_textDocument->find(text, 0, flags); !hit.isNull();
+         hit = m_textDocument->find(text, hit, flags)) {
+        hit.insertText(replacement);
+        last = hit;
+    }
+    step.endEditBlock();
+    if (!last.isNull())
+        setTextCursor(last);
+    settleOpenEdit();
+    return true;
+}
+
+} // namespace nsModEditor

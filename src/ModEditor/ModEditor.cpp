@@ -1,0 +1,330 @@
+#include "ModEditor.h"
+
+#include "EditorMemPageAddrMap.h"
+#include "EditorStatusBar.h"
+#include "EditorSupportMenu.h"
+#include "EditorSyntaxHighlighterConfig.h"
+#include "EditorTipManager.h"
+#include "EditorWidget.h"
+
+#include "ModCfgAppHookIf.h"
+#include "ModEditorPluginIf.h"
+#include "ModGuiHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
+
+#include <QMenu>
+#include <QRegExp>
+#include <QStringListModel>
+
+namespace nsModEditor {
+
+ModEditor::ModEditor(QObject* parent) : QObject(parent), m_textCompletionList(new QStringListModel(this)) {}
+
+ModEditor::~ModEditor()
+{
+    // Pages that the window still holds go with it; the others are nobody's but ours.
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->parent() == nullptr)
+            delete widget;
+    }
+    delete m_memPageAddrMap;
+}
+
+void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModEditorPluginIf>(modules, this);
+    registerPluginsOf<ModEditorPluginIfInterMod>(modules, this);
+    registerPluginsOf<ModEditorPluginIfSimulator>(modules, this);
+}
+
+void ModEditor::modInit()
+{
+    m_statusBar = new EditorStatusBar;
+    m_syntaxHighlighterConfig = new EditorSyntaxHighlighterConfig(this);
+    m_tipManager = new EditorTipManager;
+    m_supportMenu = new EditorSupportMenu(this);
+    connect(m_supportMenu, SIGNAL(insertText(QString)), this, SLOT(insertText(QString)));
+    m_actionsFile = new EditorActionsFile(this);
+    m_actionsEdit = new EditorActionsEdit(this);
+    m_actionsSim = new EditorActionsSim(this);
+    connect(m_actionsFile, SIGNAL(triggered(nsModEditor::EditorActionsFile::eAction_t)), this,
+            SLOT(handleActions(nsModEditor::EditorActionsFile::eAction_t)));
+    connect(m_actionsEdit, SIGNAL(triggered(nsModEditor::EditorActionsEdit::eAction_t)), this,
+            SLOT(handleActions(nsModEditor::EditorActionsEdit::eAction_t)));
+    connect(m_actionsSim, SIGNAL(triggered(nsModEditor::EditorActionsSim::eAction_t)), this,
+            SLOT(handleActions(nsModEditor::EditorActionsSim::eAction_t)));
+    m_actionsFile->setEnabled(false);
+    m_actionsEdit->setEnabled(false);
+    m_actionsSim->setEnabled(false);
+    m_supportMenu->setEnabled(false);
+}
+
+void ModEditor::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, "editor");
+    if (modMsgHook != nullptr)
+        modMsgHook->registerPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
+    if (modGuiHook != nullptr)
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusFirst, m_statusBar, QString());
+}
+
+void ModEditor::modExitIntermod()
+{
+    if (modGuiHook != nullptr)
+        modGuiHook->removeWidget(m_statusBar);
+    if (modMsgHook != nullptr)
+        modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
+}
+
+void ModEditor::modExit()
+{
+    // Documents without a project have not been closed with it.
+    while (!m_editorWidgets.isEmpty())
+        removeEditorWidget(m_editorWidgets.first());
+    delete m_supportMenu;
+    m_supportMenu = nullptr;
+    delete m_syntaxHighlighterConfig;
+    m_syntaxHighlighterConfig = nullptr;
+    delete m_tipManager;
+    m_tipManager = nullptr;
+    delete m_actionsFile;
+    m_actionsFile = nullptr;
+    delete m_actionsEdit;
+    m_actionsEdit = nullptr;
+    delete m_actionsSim;
+    m_actionsSim = nullptr;
+    delete m_statusBar;
+    m_statusBar = nullptr;
+}
+
+void ModEditor::registerPlugin(ModEditorPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modEditorHook = this;
+}
+
+void ModEditor::unregisterPlugin(ModEditorPluginIf* plugin)
+{
+    if (m_plugins.remove(plugin))
+        plugin->modEditorHook = nullptr;
+}
+
+void ModEditor::registerPlugin(ModEditorPluginIfAssembler* plugin)
+{
+    if (plugin == nullptr)
+        return;
+    m_assembler = plugin;
+    plugin->modEditorHook = this;
+}
+
+void ModEditor::unregisterPlugin(ModEditorPluginIfAssembler* plugin)
+{
+    if (plugin == nullptr || plugin != m_assembler)
+        return;
+    plugin->modEditorHook = nullptr;
+    m_assembler = nullptr;
+}
+
+void ModEditor::registerPlugin(ModEditorPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modEditorHook = this;
+}
+
+void ModEditor::unregisterPlugin(ModEditorPluginIfInterMod* plugin)
+{
+    if (plugin != nullptr)
+        plugin->modEditorHook = nullptr;
+}
+
+void ModEditor::registerPlugin(ModEditorPluginIfSimulator* plugin)
+{
+    if (plugin == nullptr)
+        return;
+    m_simulator = plugin;
+    plugin->modEditorHook = this;
+}
+
+void ModEditor::unregisterPlugin(ModEditorPluginIfSimulator* plugin)
+{
+    if (plugin == nullptr || plugin != m_simulator)
+        return;
+    plugin->modEditorHook = nullptr;
+    m_simulator = nullptr;
+}
+
+void ModEditor::rdAppCfg()
+{
+    rdEditorConfig(modCfgAppHook);
+    configureEditorWidgets();
+}
+
+void ModEditor::wrAppCfg()
+{
+    wrEditorConfig(modCfgAppHook);
+}
+
+void ModEditor::prjOpen()
+{
+    m_lastPath = modPrjHook->prjDir().absolutePath();
+    tabIndent = modPrjHook->value("ModEditor/tabIndent", tabIndent);
+    for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
+        openFileWidget(modPrjHook->convToAbsPath(file));
+    configureEditorWidgets();
+    setActionState(nullptr);
+    const QString lastFile = modPrjHook->value("ModEditor/lastFile", QString());
+    if (lastFile.isEmpty())
+        return;
+    if (EditorWidget* widget = openFileWidget(modPrjHook->convToAbsPath(lastFile)))
+        widget->setCursorPos(modPrjHook->value("ModEditor/lastCursorPos", 0));
+    setActionState(currentEditorWidget());
+}
+
+void ModEditor::prjSave()
+{
+    modPrjHook->setValue("ModEditor/tabIndent", tabIndent);
+    QStringList open;
+    if (modGuiHook != nullptr) {
+        for (QWidget* page : modGuiHook->centerWidgetList()) {
+            auto* widget = qobject_cast<EditorWidget*>(page);
+            if (m_editorWidgets.contains(widget) && !widget->filePath().isEmpty())
+                open.append(convToRelPath(widget->filePath()));
+        }
+    }
+    modPrjHook->setValue("ModEditor/openFiles", open);
+    EditorWidget* current = currentEditorWidget();
+    modPrjHook->setValue("ModEditor/lastFile", current != nullptr ? convToRelPath(current->filePath()) : QString());
+    modPrjHook->setValue("ModEditor/lastCursorPos", current != nullptr ? current->cursorPos() : 0);
+}
+
+void ModEditor::prjClose()
+{
+    closeAllFiles();
+    setActionState(nullptr);
+    setMemPageAddrMap(nullptr);
+}
+
+void ModEditor::handleUrl(QUrl url)
+{
+    setCursorToLine(url);
+}
+
+QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    if (m_actionsFile == nullptr)
+        return {};
+    switch (actionClass) {
+    case ModActionHookIf::eActionClassFile:
+        return m_actionsFile->menuActions();
+    case ModActionHookIf::eActionClassEdit:
+        return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
+    case ModActionHookIf::eActionClassSimulator:
+        return m_actionsSim->menuActions();
+    default:
+        return {};
+    }
+}
+
+QList<QAction*> ModEditor::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    if (m_actionsFile == nullptr)
+        return {};
+    switch (actionClass) {
+    case ModActionHookIf::eActionClassFile:
+        return m_actionsFile->toolBarActions();
+    case ModActionHookIf::eActionClassEdit:
+        return m_actionsEdit->toolBarActions();
+    default:
+        return {};
+    }
+}
+
+void ModEditor::setTabIndent(int indent)
+{
+    tabIndent = qBound(1, indent, 64);
+    configureEditorWidgets();
+}
+
+void ModEditor::clearHighlighter()
+{
+    if (m_syntaxHighlighterConfig != nullptr)
+        m_syntaxHighlighterConfig->clear();
+}
+
+void ModEditor::configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp)
+{
+    if (m_syntaxHighlighterConfig == nullptr)
+        return;
+    if (const QTextCharFormat* format = formatOfRule(rule)) {
+        QTextCharFormat copy = *format;
+        m_syntaxHighlighterConfig->addRule(regExp, copy);
+    } else {
+        showError(tr("Internal error: Can not resolf TextCharFormat for HighlightingRule!"));
+    }
+}
+
+void ModEditor::setTextCompletionList(QStringList& words)
+{
+    m_textCompletionList->setStringList(words);
+    m_textCompletionList->sort(0, Qt::AscendingOrder);
+}
+
+void ModEditor::setMemPageAddrMap(EditorMemPageAddrMap* map)
+{
+    EditorMemPageAddrMap* old = m_memPageAddrMap;
+    m_memPageAddrMap = map;
+    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+        widget->setMemPageAddrMap(map);
+    if (old != map)
+        delete old;
+}
+
+void ModEditor::simEn(bool enabled)
+{
+    m_simEnabled = enabled;
+    configureEditorWidgets();
+}
+
+void ModEditor::connectEditorWidget(EditorWidget* widget)
+{
+    connect(widget, SIGNAL(actionChanged(nsModEditor::EditorWidget*)), this,
+            SLOT(setActionStateEditorWidget(nsModEditor::EditorWidget*)));
+    connect(widget, SIGNAL(modifiedChanged(nsModEditor::EditorWidget*)), this,
+            SLOT(setModifiedState(nsModEditor::EditorWidget*)));
+    connect(widget, SIGNAL(simBreakpointChanged()), this, SLOT(setSimBreakpointsChanged()));
+    connect(widget, SIGNAL(clearAllBreakpoints()), this, SLOT(clearSimBreakpoints()));
+    connect(widget, SIGNAL(clearAllSimStartPointer()), this, SLOT(clearAllSimStartPointer()));
+    connect(widget, SIGNAL(clearAllBookmarks()), this, SLOT(clearAllBookmarks()));
+}
+
+void ModEditor::configureEditorWidget(EditorWidget* widget)
+{
+    widget->setFont(stdFont);
+    widget->setTabIndent(tabIndent);
+    widget->setDynamicLineWrapEn(dynamicLineWrapEn);
+    widget->setLineNumberEn(lineNumberEn);
+    widget->setAutoReturnIndentEn(autoReturnIndentEn);
+    widget->setTextCompleterPrefixLength(textCompleterPrefixLength);
+    widget->setTextCompleterItemCount(textCompleterItemCount);
+    widget->setSelectionHighlightEn(highlightSelectionEn);
+    widget->setCursorBgColor(cursorBgColor);
+    widget->setHighlightBgColor(highlightBgColor);
+    widget->setLeftMarginBgColor(leftMarginBgColor);
+    widget->setLeftMarginFgColor(leftMarginFgColor);
+    widget->setSimBreakpointSymbolColor(simBreakpointSymbolColor);
+    widget->setSimStartPointerSymbolColor(simStartAddressSymbolColor);
+    widget->setBookmarkSymbolColor(bookmarkSymbolColor);
+    widget->setMemPageAddrEn(memPageAddrEn == memPageAddrOn || (memPageAddrEn == memPageAddrSimOnly && m_simEnabled));
+    widget->rehighlight();
+}
+
+void ModEditor::configureEditorWidgets()
+{
+    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+        configureEditorWidget(widget);
+}
+
+} // namespace nsModEditor

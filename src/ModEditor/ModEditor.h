@@ -1,0 +1,237 @@
+#pragma once
+
+#include "EditorActionsEdit.h"
+#include "EditorActionsFile.h"
+#include "EditorActionsSim.h"
+#include "EditorConfig.h"
+#include "ModActionPluginIf.h"
+#include "ModCfgAppPluginIf.h"
+#include "ModClipboardPluginIf.h"
+#include "ModConfigPluginIf.h"
+#include "ModEditorHookIf.h"
+#include "ModFindReplacePluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
+#include "ModSourcesPluginIf.h"
+#include "PluginList.h"
+
+#include <QList>
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+#include <QString>
+
+class QStringListModel;
+
+namespace nsModEditor {
+
+class EditorMemPageAddrMap;
+class EditorStatusBar;
+class EditorSupportMenu;
+class EditorSyntaxHighlighterConfig;
+class EditorTipManager;
+class EditorWidget;
+
+/// All open documents: opens, reloads, saves, prints and closes them, and leads other modules to their lines.
+///
+/// A document is a page in the centre of the window. Files are not watched: one that changed on the disk is read again when the
+/// user or another module asks for it. Questions to the user are modal and nest the event loop.
+class ModEditor : public QObject,
+                  public ModEditorHookIf,
+                  public ModPluginIf,
+                  public ModCfgAppPluginIf,
+                  public ModPrjPluginIf,
+                  public ModMsgPluginIf,
+                  public ModMsgPluginIfUrlHndlr,
+                  public ModGuiPluginIf,
+                  public ModActionPluginIf,
+                  public ModConfigPluginIfDflt,
+                  public ModSourcesPluginIf,
+                  public ModFindReplacePluginIf,
+                  public ModClipboardPluginIf,
+                  public ModScriptPluginIf,
+                  public EditorConfig
+{
+    Q_OBJECT
+
+public:
+    /// What the find and replace strip asks for.
+    struct sFindParameter_t
+    {
+        bool caseSensitive = false;
+        bool wholeWords = false;
+        bool wrapPending = false; ///< the end of the document was reached; the next search goes on at the other end
+        QString findString;
+        QString replaceString;
+    };
+
+    /// Largest file that is opened, in bytes.
+    static const qint64 maxFileSize = qint64(64) * 1024 * 1024;
+
+    explicit ModEditor(QObject* parent = nullptr);
+    ~ModEditor() override;
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override;
+    void modExit() override;
+
+    // ModEditorHookIf: clients
+    void registerPlugin(ModEditorPluginIf* plugin) override;
+    void unregisterPlugin(ModEditorPluginIf* plugin) override;
+    void registerPlugin(ModEditorPluginIfAssembler* plugin) override;
+    void unregisterPlugin(ModEditorPluginIfAssembler* plugin) override;
+    void registerPlugin(ModEditorPluginIfInterMod* plugin) override;
+    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override;
+    void registerPlugin(ModEditorPluginIfSimulator* plugin) override;
+    void unregisterPlugin(ModEditorPluginIfSimulator* plugin) override;
+
+    // ModEditorHookIf: lines, marks and what the assembler hands over
+    bool cursorLine(QString* path, int* line) override;
+    void setTabIndent(int indent) override;
+    void clearHighlighter() override;
+    void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override;
+    void setMemPageAddrMap(EditorMemPageAddrMap* map) override;
+    QMap<QString, QList<int>> simBreakpoints() override;
+    bool simBreakpointsChanged() override { return m_simBreakpointsChangedFlag; }
+    bool simStartPointer(QString* path, int* line) override;
+    void simEn(bool enabled) override;
+    void setTextCompletionList(QStringList& words) override;
+    EditorSupportMenu* supportMenu() override { return m_supportMenu; }
+
+    // ModCfgAppPluginIf
+    void rdAppCfg() override;
+    void wrAppCfg() override;
+
+    // ModPrjPluginIf
+    void prjOpen() override;
+    void prjOpened() override {}
+    void prjSave() override;
+    void prjClose() override;
+
+    // ModMsgPluginIfUrlHndlr
+    void handleUrl(QUrl url) override;
+
+    // ModGuiPluginIf
+    void removeWidgetRequest(QWidget* widget) override;
+    void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
+
+    // ModActionPluginIf
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
+    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
+
+    // ModSourcesPluginIf
+    void srcFileListChanged() override {}
+    void srcFileContentChanged() override {}
+
+    // ModFindReplacePluginIf
+    QString findInit() override;
+    void findExit() override;
+    void findNext(bool configChanged) override;
+    void findPrev(bool configChanged) override;
+    void replace(bool configChanged) override;
+    void replaceAll(bool configChanged) override;
+
+    // ModClipboardPluginIf
+    void clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature) override;
+
+    /// Open documents in the order of their creation. Owned.
+    const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
+    EditorStatusBar* statusBar() const { return m_statusBar; }
+
+public slots:
+    // ModEditorHookIf: documents; also for scripts
+    void newFile(QString text) override;
+    bool openFile(QString path) override;
+    void reloadAllFiles() override;
+    void reloadFile() override;
+    bool selectFile(QString path) override;
+    void saveAllFiles() override;
+    bool saveFile() override;
+    bool saveFileAs() override;
+    bool saveFileAs(QString path) override;
+    void closeAllFiles() override;
+    void closeOtherFiles() override;
+    void closeFile() override;
+    void printFile() override;
+    void setCursorToLine(QString path, QString lineRef, int line) override;
+    void setCursorToLine(QString path, int line) override;
+    void setCursorToLine(QUrl url) override;
+    void clearLineHighlited() override;
+    void setLineHighlighted(QUrl url) override;
+    void setLineHighlighted(QString path, int line) override;
+    /// Inserts the text at the cursor of the current document.
+    void insertText(QString text);
+
+private slots:
+    void handleActions(nsModEditor::EditorActionsFile::eAction_t action);
+    void handleActions(nsModEditor::EditorActionsEdit::eAction_t action);
+    void handleActions(nsModEditor::EditorActionsSim::eAction_t action);
+    void setActionStateEditorWidget(nsModEditor::EditorWidget* widget);
+    void setModifiedState(nsModEditor::EditorWidget* widget);
+    void setSimBreakpointsChanged();
+    void clearSimBreakpoints();
+    void clearAllSimStartPointer();
+    void clearAllBookmarks();
+
+private:
+    // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
+    EditorWidget* newEditorWidget(const QString& path);
+    void removeEditorWidget(EditorWidget* widget);
+    EditorWidget* openFileWidget(const QString& path);
+    EditorWidget* currentEditorWidget() const;
+    void openFilesByDialog();
+    bool readFile(const QString& path, QString* text, bool* isLatin1);
+    bool writeFile(const QString& path, const QByteArray& bytes);
+    QByteArray encoded(EditorWidget* widget);
+    bool saveFile(EditorWidget* widget);
+    bool saveFileAs(EditorWidget* widget);
+    void reloadFile(EditorWidget* widget);
+    void closeFile(EditorWidget* widget);
+    void printFile(EditorWidget* widget);
+    bool askForSave(const QString& path);
+    bool askForReload(const QString& path);
+    bool askForProjectMember(const QString& path);
+    bool ask(const QString& title, const QString& first, const QString& path, const QStringList& closing);
+    void setFileContentChanged();
+    void chkProjectMembership(const QString& path);
+    QString convToRelPath(const QString& path) const;
+    void showError(const QString& text);
+    void showWarning(const QString& text);
+
+    // State (ModEditor.cpp)
+    void connectEditorWidget(EditorWidget* widget);
+    void configureEditorWidget(EditorWidget* widget);
+    void configureEditorWidgets();
+    void setActionState(EditorWidget* current);
+    void setFindParameter();
+    void find(bool configChanged, bool backward);
+
+    QList<EditorWidget*> m_editorWidgets;
+    QSet<EditorWidget*> m_latin1Widgets; ///< documents whose files are no UTF-8: they are written as they were read
+    PluginList<ModEditorPluginIf> m_plugins;
+    ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned
+    ModEditorPluginIfSimulator* m_simulator = nullptr; ///< not owned
+    EditorSyntaxHighlighterConfig* m_syntaxHighlighterConfig = nullptr;
+    EditorTipManager* m_tipManager = nullptr;
+    EditorSupportMenu* m_supportMenu = nullptr;
+    QStringListModel* m_textCompletionList;
+    EditorStatusBar* m_statusBar = nullptr;
+    EditorActionsFile* m_actionsFile = nullptr;
+    EditorActionsEdit* m_actionsEdit = nullptr;
+    EditorActionsSim* m_actionsSim = nullptr;
+    sFindParameter_t m_findParameter;
+    QString m_lastPath; ///< folder that the next dialog for saving starts in
+    EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
+    bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
+    bool m_simEnabled = false;
+};
+
+} // namespace nsModEditor

@@ -1,0 +1,364 @@
+// Documents: making, opening, reloading, saving, printing and closing them, and the way to their lines.
+
+#include "ModEditor.h"
+
+#include "EditorWidget.h"
+
+#include "ModClipboardHookIf.h"
+#include "ModFindReplaceHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModPrjHookIf.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPrintDialog>
+#include <QPrinter>
+
+namespace nsModEditor {
+
+namespace {
+
+const int findReplaceFeatures = 3; ///< the documents can replace, and know whole words
+
+void setupDialog(QFileDialog* dialog)
+{
+    dialog->setNameFilters({ModEditor::tr("Assembler files(*.psm)"), ModEditor::tr("Any files(*)")});
+    dialog->setDefaultSuffix("psm");
+    dialog->setViewMode(QFileDialog::List);
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+}
+
+} // namespace
+
+EditorWidget* ModEditor::currentEditorWidget() const
+{
+    if (modGuiHook == nullptr)
+        return nullptr;
+    auto* widget = qobject_cast<EditorWidget*>(modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs));
+    return m_editorWidgets.contains(widget) ? widget : nullptr;
+}
+
+EditorWidget* ModEditor::newEditorWidget(const QString& path)
+{
+    auto* widget = new EditorWidget;
+    connectEditorWidget(widget);
+    m_editorWidgets.append(widget);
+    widget->setSyntaxHighlighterConfig(m_syntaxHighlighterConfig);
+    widget->setTipManager(m_tipManager);
+    widget->setSupportMenu(m_supportMenu);
+    widget->setTextCompletionList(m_textCompletionList);
+    configureEditorWidget(widget);
+    if (modClipboardHook != nullptr)
+        modClipboardHook->registerPluginWidget(this, widget);
+    if (modFindReplaceHook != nullptr)
+        modFindReplaceHook->registerPluginWidget(this, widget, findReplaceFeatures);
+    if (!path.isEmpty())
+        widget->setFilePath(path);
+    if (modGuiHook != nullptr)
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, widget,
+                              path.isEmpty() ? tr("Untitled") : convToRelPath(path));
+    return widget;
+}
+
+void ModEditor::removeEditorWidget(EditorWidget* widget)
+{
+    m_editorWidgets.removeOne(widget);
+    m_latin1Widgets.remove(widget);
+    if (modGuiHook != nullptr)
+        modGuiHook->removeWidget(widget);
+    if (modClipboardHook != nullptr)
+        modClipboardHook->unregisterPluginWidget(widget);
+    if (modFindReplaceHook != nullptr)
+        modFindReplaceHook->unregisterPluginWidget(widget);
+    delete widget;
+}
+
+void ModEditor::newFile(QString text)
+{
+    newEditorWidget(QString())->setText(text);
+}
+
+EditorWidget* ModEditor::openFileWidget(const QString& path)
+{
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->filePath() == path) {
+            if (modGuiHook != nullptr)
+                modGuiHook->setCurrentWidget(widget);
+            return widget;
+        }
+    }
+    QString text;
+    bool isLatin1 = false;
+    if (!readFile(path, &text, &isLatin1))
+        return nullptr;
+    QPointer<EditorWidget> widget = newEditorWidget(path);
+    if (isLatin1)
+        m_latin1Widgets.insert(widget);
+    widget->setText(text);
+    // The question that this can ask lets the user close the page meanwhile.
+    chkProjectMembership(path);
+    return m_editorWidgets.contains(widget) ? widget.data() : nullptr;
+}
+
+bool ModEditor::openFile(QString path)
+{
+    return openFileWidget(path) != nullptr;
+}
+
+void ModEditor::openFilesByDialog()
+{
+    QFileDialog dialog(nullptr, tr("Open file"), modPrjHook != nullptr ? modPrjHook->prjDir().absolutePath() : QString());
+    setupDialog(&dialog);
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    for (const QString& path : dialog.selectedFiles())
+        openFile(path);
+}
+
+bool ModEditor::selectFile(QString path)
+{
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->filePath() != path)
+            continue;
+        if (modGuiHook != nullptr)
+            modGuiHook->setCurrentWidget(widget);
+        return true;
+    }
+    return false;
+}
+
+bool ModEditor::saveFile(EditorWidget* widget)
+{
+    if (widget == nullptr)
+        return false;
+    if (widget->filePath().isEmpty())
+        return saveFileAs(widget);
+    if (!writeFile(widget->filePath(), encoded(widget)))
+        return false;
+    widget->clearModified();
+    setActionStateEditorWidget(widget);
+    return true;
+}
+
+bool ModEditor::saveFile()
+{
+    const bool success = saveFile(currentEditorWidget());
+    setFileContentChanged();
+    return success;
+}
+
+void ModEditor::saveAllFiles()
+{
+    // A dialog for an untitled document lets the user close pages meanwhile.
+    const QList<EditorWidget*> widgets = m_editorWidgets;
+    for (EditorWidget* widget : widgets) {
+        if (m_editorWidgets.contains(widget))
+            saveFile(widget);
+    }
+    setFileContentChanged();
+}
+
+bool ModEditor::saveFileAs(EditorWidget* widget)
+{
+    if (widget == nullptr)
+        return false;
+    QFileDialog dialog(nullptr, tr("Save file"), m_lastPath);
+    setupDialog(&dialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (dialog.exec() != QDialog::Accepted || !m_editorWidgets.contains(widget))
+        return false;
+    const QStringList names = dialog.selectedFiles();
+    if (names.size() != 1 || names.first().isEmpty())
+        return false;
+    const QString name = names.first();
+    m_lastPath = QFileInfo(name).absolutePath();
+    widget->setFilePath(name);
+    chkProjectMembership(name);
+    if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+        return false;
+    if (modGuiHook != nullptr)
+        modGuiHook->setWidgetName(widget, convToRelPath(name));
+    return true;
+}
+
+bool ModEditor::saveFileAs()
+{
+    const bool success = saveFileAs(currentEditorWidget());
+    setFileContentChanged();
+    return success;
+}
+
+bool ModEditor::saveFileAs(QString path)
+{
+    EditorWidget* widget = currentEditorWidget();
+    if (path.isEmpty() || widget == nullptr)
+        return false;
+    widget->setFilePath(path);
+    chkProjectMembership(path);
+    if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+        return false;
+    if (modGuiHook != nullptr)
+        modGuiHook->setWidgetName(widget, convToRelPath(path));
+    setFileContentChanged();
+    return true;
+}
+
+void ModEditor::reloadFile(EditorWidget* widget)
+{
+    if (widget == nullptr || widget->filePath().isEmpty())
+        return;
+    const QString path = widget->filePath();
+    if (widget->isModified() && !askForReload(path))
+        return;
+    QString text;
+    bool isLatin1 = false;
+    if (!m_editorWidgets.contains(widget) || !readFile(path, &text, &isLatin1))
+        return;
+    m_latin1Widgets.remove(widget);
+    if (isLatin1)
+        m_latin1Widgets.insert(widget);
+    widget->setText(text);
+}
+
+void ModEditor::reloadFile()
+{
+    reloadFile(currentEditorWidget());
+}
+
+void ModEditor::reloadAllFiles()
+{
+    const QList<EditorWidget*> widgets = m_editorWidgets;
+    for (EditorWidget* widget : widgets) {
+        if (m_editorWidgets.contains(widget))
+            reloadFile(widget);
+    }
+}
+
+void ModEditor::closeFile(EditorWidget* widget)
+{
+    if (widget == nullptr)
+        return;
+    if (widget->isModified() && askForSave(widget->filePath()) && m_editorWidgets.contains(widget))
+        saveFile(widget);
+    if (m_editorWidgets.contains(widget))
+        removeEditorWidget(widget);
+}
+
+void ModEditor::closeFile()
+{
+    closeFile(currentEditorWidget());
+}
+
+void ModEditor::closeAllFiles()
+{
+    const QList<EditorWidget*> widgets = m_editorWidgets;
+    for (EditorWidget* widget : widgets) {
+        if (m_editorWidgets.contains(widget))
+            closeFile(widget);
+    }
+}
+
+void ModEditor::closeOtherFiles()
+{
+    EditorWidget* current = currentEditorWidget();
+    const QList<EditorWidget*> widgets = m_editorWidgets;
+    for (EditorWidget* widget : widgets) {
+        if (widget != current && m_editorWidgets.contains(widget))
+            closeFile(widget);
+    }
+}
+
+void ModEditor::removeWidgetRequest(QWidget* widget)
+{
+    auto* document = qobject_cast<EditorWidget*>(widget);
+    if (m_editorWidgets.contains(document))
+        closeFile(document);
+}
+
+void ModEditor::printFile(EditorWidget* widget)
+{
+    if (widget == nullptr)
+        return;
+    QPrinter printer(QPrinter::HighResolution);
+    QPrintDialog dialog(&printer, widget);
+    dialog.setWindowTitle(tr("Print Document"));
+    dialog.setOption(QAbstractPrintDialog::PrintSelection, widget->hasSelection());
+    if (dialog.exec() == QDialog::Accepted && m_editorWidgets.contains(widget))
+        widget->print(&printer);
+}
+
+void ModEditor::printFile()
+{
+    printFile(currentEditorWidget());
+}
+
+void ModEditor::setCursorToLine(QString path, QString lineRef, int line)
+{
+    if (EditorWidget* widget = openFileWidget(path))
+        widget->setCursorToLine(lineRef, line);
+    else
+        showError(tr("Can not select line!"));
+}
+
+void ModEditor::setCursorToLine(QString path, int line)
+{
+    if (EditorWidget* widget = openFileWidget(path))
+        widget->setCursorToLine(line);
+    else
+        showError(tr("Can not select line!"));
+}
+
+void ModEditor::setCursorToLine(QUrl url)
+{
+    setCursorToLine(url.path(), url.fragment().toInt());
+}
+
+void ModEditor::clearLineHighlited()
+{
+    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+        widget->clearLineHighlighted();
+}
+
+void ModEditor::setLineHighlighted(QUrl url)
+{
+    setLineHighlighted(url.path(), url.fragment().toInt());
+}
+
+void ModEditor::setLineHighlighted(QString path, int line)
+{
+    if (EditorWidget* widget = openFileWidget(path))
+        widget->setLineHighlighted(line);
+    else
+        showError(tr("Can not highlight line!"));
+}
+
+bool ModEditor::cursorLine(QString* path, int* line)
+{
+    EditorWidget* widget = currentEditorWidget();
+    if (widget == nullptr) {
+        showError(tr("Please select a text file to get the cursor line!"));
+        return false;
+    }
+    const int cursor = widget->cursorLine();
+    if (cursor < 0) {
+        showError(tr("The current text file has no cursor!"));
+        return false;
+    }
+    if (widget->filePath().isEmpty()) {
+        showError(tr("The current text file is not saved!"));
+        return false;
+    }
+    *path = widget->filePath();
+    *line = cursor;
+    return true;
+}
+
+void ModEditor::insertText(QString text)
+{
+    if (EditorWidget* widget = currentEditorWidget())
+        widget->insertText(text);
+}
+
+} // namespace nsModEditor

@@ -1,0 +1,150 @@
+// Files and questions: what is read and written, and what the user is asked before something is lost.
+
+#include "ModEditor.h"
+
+#include "EditorWidget.h"
+
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModSourcesHookIf.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <QTextCodec>
+
+namespace nsModEditor {
+
+namespace {
+
+/// The characters of a text in UTF-8, or, if it is none, in Latin-1, in which every byte is a character.
+QString decoded(const QByteArray& bytes, bool* isLatin1)
+{
+    QTextCodec::ConverterState state;
+    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
+    *isLatin1 = state.invalidChars > 0 || state.remainingChars > 0;
+    return *isLatin1 ? QString::fromLatin1(bytes) : text;
+}
+
+} // namespace
+
+bool ModEditor::readFile(const QString& path, QString* text, bool* isLatin1)
+{
+    const QFileInfo info(path);
+    if (!info.exists()) {
+        showError(tr("File does not exist: ") + path);
+        return false;
+    }
+    if (!info.isReadable()) {
+        showError(tr("No read access for file: ") + path);
+        return false;
+    }
+    if (!info.isWritable())
+        showWarning(tr("File is not writable: ") + path);
+    // A folder, a pipe or a device would answer without end, or never; and a text of that size is none.
+    QFile file(path);
+    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadWrite | QIODevice::Text)) {
+        showError(tr("Can not open file: ") + path);
+        return false;
+    }
+    QByteArray bytes = file.readAll();
+    bytes.truncate(int(qstrnlen(bytes.constData(), uint(bytes.size()))));
+    *text = decoded(bytes, isLatin1);
+    if (*isLatin1)
+        showWarning(tr("File is no UTF-8 text, it is read and written as ISO 8859-1: ") + path);
+    return true;
+}
+
+/// The bytes of a document for its file.
+QByteArray ModEditor::encoded(EditorWidget* widget)
+{
+    const QString text = widget->toPlainText();
+    if (!m_latin1Widgets.contains(widget))
+        return text.toUtf8();
+    QTextCodec* latin1 = QTextCodec::codecForName("ISO-8859-1");
+    if (latin1->canEncode(text))
+        return latin1->fromUnicode(text);
+    // A character that the old encoding does not have decides for the new one.
+    m_latin1Widgets.remove(widget);
+    showWarning(tr("File is written as UTF-8 from now on: ") + widget->filePath());
+    return text.toUtf8();
+}
+
+bool ModEditor::writeFile(const QString& path, const QByteArray& bytes)
+{
+    // Written aside and renamed, so that a failure leaves the old file; where the folder forbids that, in place. A link stays one.
+    const QFileInfo info(path);
+    QSaveFile file(info.exists() ? info.canonicalFilePath() : path);
+    file.setDirectWriteFallback(true);
+    if ((info.exists() && !info.isFile()) || !file.open(QIODevice::WriteOnly)) {
+        showError(tr("Can not open file: ") + path);
+        return false;
+    }
+    if (file.write(bytes) != bytes.size() || !file.commit()) {
+        showError(tr("Can not write data to file: ") + path);
+        return false;
+    }
+    return true;
+}
+
+bool ModEditor::ask(const QString& title, const QString& first, const QString& path, const QStringList& closing)
+{
+    QString text = "<p>" + first + "</p>";
+    if (!path.isEmpty())
+        text += "<p><b>" + convToRelPath(path).toHtmlEscaped() + "</b><p>";
+    for (const QString& line : closing)
+        text += "<p>" + line + "</p>";
+    return QMessageBox::question(QApplication::activeWindow(), title, text, QMessageBox::Yes | QMessageBox::No,
+                                 QMessageBox::No) == QMessageBox::Yes;
+}
+
+bool ModEditor::askForSave(const QString& path)
+{
+    return ask(tr("File was modified"), tr("The file was changed."), path,
+               {tr("Do you want to save the file before closing?")});
+}
+
+bool ModEditor::askForReload(const QString& path)
+{
+    return ask(tr("File was modified"), tr("The file was changed:"), path,
+               {tr("If you continue to reload all changes will be lost."), tr("Do you want to continue?")});
+}
+
+bool ModEditor::askForProjectMember(const QString& path)
+{
+    return ask(tr("Add file to project"), tr("The file is not added to the project:"), path,
+               {tr("Do you want to add the file to the project?")});
+}
+
+void ModEditor::setFileContentChanged()
+{
+    if (modSourcesHook != nullptr)
+        modSourcesHook->setFileContentChanged();
+}
+
+void ModEditor::chkProjectMembership(const QString& path)
+{
+    if (modSourcesHook != nullptr)
+        modSourcesHook->chkProjectMembership(path);
+}
+
+QString ModEditor::convToRelPath(const QString& path) const
+{
+    return modPrjHook != nullptr && !path.isEmpty() ? modPrjHook->convToRelPath(path) : path;
+}
+
+void ModEditor::showError(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showErrorMessage(text);
+}
+
+void ModEditor::showWarning(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showWarningMessage(text);
+}
+
+} // namespace nsModEditor
