@@ -30,6 +30,11 @@ void ModClipboard::setFeatureEnable(eClipboardFeature_t features, bool enable)
         m_actions->setEnabled(ClipboardActions::eActionPaste, enable);
 }
 
+QWidget* ModClipboard::currentPage() const
+{
+    return modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
+}
+
 void ModClipboard::switchAllOff()
 {
     setFeatureEnable(static_cast<eClipboardFeature_t>(0xff), false);
@@ -50,7 +55,7 @@ void ModClipboard::unregisterPluginWidget(QWidget* widget)
     if (m_plugins.remove(widget) == 0)
         return;
     disconnect(widget, &QObject::destroyed, this, nullptr);
-    if (modGuiHook != nullptr && modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) == widget)
+    if (currentPage() == widget)
         switchAllOff();
 }
 
@@ -77,8 +82,10 @@ void ModClipboard::modExit()
 
 void ModClipboard::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
+    // When the last page has gone there is no widget, so no area is named either.
+    const bool noPage = widget == nullptr && currentPage() == nullptr;
     // The plug-in of a registered page sets the features itself.
-    if (location == ModGuiHookIf::eLocationTabs && !m_plugins.contains(widget))
+    if (noPage || (location == ModGuiHookIf::eLocationTabs && !m_plugins.contains(widget)))
         switchAllOff();
 }
 
@@ -94,9 +101,7 @@ QList<QAction*> ModClipboard::toolBarActions(ModActionHookIf::eActionClass_t act
 
 void ModClipboard::handleAction(ClipboardActions::eAction_t action)
 {
-    if (modGuiHook == nullptr)
-        return;
-    ModClipboardPluginIf* plugin = m_plugins.value(modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs));
+    ModClipboardPluginIf* plugin = m_plugins.value(currentPage());
     if (plugin == nullptr)
         return;
     switch (action) {

@@ -60,6 +60,7 @@ private slots:
     void handleAction(nsModClipboard::ClipboardActions::eAction_t action);
 
 private:
+    QWidget* currentPage() const;
     void switchAllOff();
 
     QHash<QWidget*, ModClipboardPluginIf*> m_plugins; ///< the keys are compared, never followed

@@ -19,7 +19,7 @@ const QString iconExpand = QStringLiteral(":/ModFindReplace/img/widget/expand.pn
 const QString iconCollapse = QStringLiteral(":/ModFindReplace/img/widget/collapse.png");
 
 constexpr int gap = 8;          ///< the grid of the interface
-constexpr int smallestEdit = 120; ///< width of the text fields in a narrow window
+constexpr int smallestEdit = 96; ///< width of the text fields in a narrow window
 
 enum eColumn_t
 {
@@ -28,7 +28,8 @@ enum eColumn_t
     columnLabel,
     columnEdit,
     columnButtons,
-    columnRest
+    columnOptions,
+    columnCount
 };
 
 } // namespace
@@ -43,7 +44,11 @@ FindReplaceWidget::FindReplaceWidget(QWidget* parent)
     layout->setVerticalSpacing(gap / 2);
     setupFindRow(layout);
     setupReplaceRow(layout);
+    setupOptions();
     layout->setColumnStretch(columnEdit, 1);
+    layout->addWidget(m_options, 0, columnOptions);
+    // The fields do not move when the second row comes and goes.
+    layout->setColumnMinimumWidth(columnLabel, labelWidth());
     setupTabOrder();
     setFocusProxy(m_find);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
@@ -55,35 +60,31 @@ void FindReplaceWidget::setupFindRow(QGridLayout* layout)
 {
     m_close = addToolButton("buttonClose", iconClose, tr("Close the search bar (Escape)"));
     m_toggle = addToolButton("buttonToggleMode", iconExpand, QString());
-    auto* label = new QLabel(tr("Find:"), this);
+    m_findLabel = new QLabel(tr("Find:"), this);
     m_find = new QLineEdit(this);
     m_find->setObjectName(QStringLiteral("editFind"));
     m_find->setClearButtonEnabled(true);
     m_find->setMinimumWidth(smallestEdit);
     m_find->setToolTip(tr("Text to find. Enter finds the next hit, Shift and Enter the previous one."));
-    label->setBuddy(m_find);
+    m_findLabel->setBuddy(m_find);
 
-    auto* buttons = new QHBoxLayout;
+    m_findButtons = new QWidget(this);
+    auto* buttons = new QHBoxLayout(m_findButtons);
+    buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(gap);
     m_nextButton = addButton(buttons, "buttonNext", tr("&Next"), tr("Find the next hit"));
     m_prevButton = addButton(buttons, "buttonPrevious", tr("&Previous"), tr("Find the previous hit"));
-    m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
-    m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
-    buttons->addSpacing(gap);
-    buttons->addWidget(m_caseSensitive);
-    buttons->addWidget(m_wholeWords);
+    buttons->addStretch();
 
     layout->addWidget(m_close, 0, columnClose);
     layout->addWidget(m_toggle, 0, columnToggle);
-    layout->addWidget(label, 0, columnLabel);
+    layout->addWidget(m_findLabel, 0, columnLabel);
     layout->addWidget(m_find, 0, columnEdit);
-    layout->addLayout(buttons, 0, columnButtons);
+    layout->addWidget(m_findButtons, 0, columnButtons);
 
     connect(m_find, &QLineEdit::textChanged, this, &FindReplaceWidget::chkFindStringVld);
     connect(m_nextButton, &QPushButton::clicked, this, &FindReplaceWidget::findNext);
     connect(m_prevButton, &QPushButton::clicked, this, &FindReplaceWidget::findPrev);
-    connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
-    connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_toggle, &QToolButton::clicked, this, &FindReplaceWidget::toggleMode);
     connect(m_close, &QToolButton::clicked, this, &FindReplaceWidget::closeRequest);
 }
@@ -116,10 +117,62 @@ void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
     connect(m_replaceAllButton, &QPushButton::clicked, this, &FindReplaceWidget::replaceAll);
 }
 
+void FindReplaceWidget::setupOptions()
+{
+    m_options = new QWidget(this);
+    auto* layout = new QHBoxLayout(m_options);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(gap);
+    m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
+    m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
+    layout->addWidget(m_caseSensitive);
+    layout->addWidget(m_wholeWords);
+    layout->addStretch();
+    connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+}
+
+int FindReplaceWidget::labelWidth() const
+{
+    return qMax(m_findLabel->sizeHint().width(), m_replaceLabel->sizeHint().width());
+}
+
+int FindReplaceWidget::narrowWidth() const
+{
+    int width = smallestEdit;
+    for (const QWidget* part : {static_cast<QWidget*>(m_close), static_cast<QWidget*>(m_toggle)})
+        width += part->sizeHint().width();
+    width += labelWidth();
+    width += qMax(m_findButtons->sizeHint().width(), m_replaceButtons->sizeHint().width());
+    const QMargins margins = layout()->contentsMargins();
+    return width + columnButtons * gap + margins.left() + margins.right();
+}
+
+QSize FindReplaceWidget::minimumSizeHint() const
+{
+    return QSize(narrowWidth(), QWidget::minimumSizeHint().height());
+}
+
+void FindReplaceWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const bool narrow = width() < narrowWidth() + gap + m_options->sizeHint().width();
+    if (narrow == m_narrow)
+        return;
+    m_narrow = narrow;
+    auto* grid = static_cast<QGridLayout*>(layout());
+    grid->removeWidget(m_options);
+    if (narrow)
+        grid->addWidget(m_options, 2, columnEdit, 1, columnCount - columnEdit);
+    else
+        grid->addWidget(m_options, 0, columnOptions);
+    updateGeometry();
+}
+
 void FindReplaceWidget::setupTabOrder()
 {
-    const QList<QWidget*> order = {m_find,         m_replace,          m_nextButton,    m_prevButton, m_replaceButton,
-                                   m_replaceAllButton, m_caseSensitive, m_wholeWords, m_toggle,     m_close};
+    const QList<QWidget*> order = {m_close,         m_find,             m_replace,       m_nextButton, m_prevButton,
+                                   m_replaceButton, m_replaceAllButton, m_caseSensitive, m_wholeWords, m_toggle};
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }

@@ -45,6 +45,9 @@ public:
     /// Offers the choice "Whole words only"; its state is kept meanwhile.
     void setWholeWordsEnable(bool enable);
 
+    /// The room without the options, which go into a row of their own where it is narrow.
+    QSize minimumSizeHint() const override;
+
 public slots:
     void toggleMode();
 
@@ -60,6 +63,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private slots:
     void chkFindStringVld(QString text);
@@ -67,7 +71,10 @@ private slots:
 private:
     void setupFindRow(QGridLayout* layout);
     void setupReplaceRow(QGridLayout* layout);
+    void setupOptions();
     void setupTabOrder();
+    int labelWidth() const;
+    int narrowWidth() const;
     QToolButton* addToolButton(const char* name, const QString& icon, const QString& toolTip);
     QPushButton* addButton(QHBoxLayout* layout, const char* name, const QString& text, const QString& toolTip);
     QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
@@ -77,15 +84,19 @@ private:
     QToolButton* m_toggle = nullptr;
     QLineEdit* m_find = nullptr;
     QLineEdit* m_replace = nullptr;
+    QLabel* m_findLabel = nullptr;
     QLabel* m_replaceLabel = nullptr;
+    QWidget* m_findButtons = nullptr;
     QWidget* m_replaceButtons = nullptr;
     QPushButton* m_nextButton = nullptr;
     QPushButton* m_prevButton = nullptr;
     QPushButton* m_replaceButton = nullptr;
     QPushButton* m_replaceAllButton = nullptr;
+    QWidget* m_options = nullptr; ///< the two check boxes
     QCheckBox* m_caseSensitive = nullptr;
     QCheckBox* m_wholeWords = nullptr;
     eMode_t m_mode = eModeFind;
+    bool m_narrow = false; ///< the options have a row of their own
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
 };

@@ -156,7 +156,8 @@ ModFindReplacePluginIf* ModFindReplace::currentPlugin() const
 
 void ModFindReplace::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    if (location == ModGuiHookIf::eLocationTabs)
+    // When the last page has gone there is no widget, so no area is named either.
+    if (location == ModGuiHookIf::eLocationTabs || (widget == nullptr && currentWidget() == nullptr))
         setActionsEn(widget);
 }
 
