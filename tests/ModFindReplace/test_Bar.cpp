@@ -80,6 +80,17 @@ TEST_F(Bar, toggleShowsAndHidesTheSecondRow)
     EXPECT_EQ(part<QToolButton>("buttonToggleMode")->icon().pixmap(16).toImage(), expand);
 }
 
+TEST_F(Bar, fieldsDoNotMoveWhenTheSecondRowComes)
+{
+    QTest::qWait(20);
+    const QRect before = find()->geometry();
+    click("buttonToggleMode");
+    QTest::qWait(20);
+    EXPECT_EQ(find()->x(), before.x());
+    EXPECT_EQ(replace()->x(), before.x());
+    EXPECT_EQ(find()->y(), before.y());
+}
+
 TEST_F(Bar, focusStaysInTheBarWhenItsRowGoes)
 {
     bar()->setMode(Widget::eModeReplace);
