@@ -3,12 +3,32 @@
 #include "EditorModuleTest.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 using nsModEditor::EditorWidget;
 
 namespace {
 
 using Documents = EditorModuleTest;
+
+/// A user without special rights for as long as it lives, also where the tests run as root.
+class OrdinaryUser
+{
+public:
+    OrdinaryUser() : m_wasRoot(geteuid() == 0)
+    {
+        if (m_wasRoot)
+            EXPECT_EQ(setresuid(65534, 65534, 0), 0);
+    }
+    ~OrdinaryUser()
+    {
+        if (m_wasRoot)
+            EXPECT_EQ(setresuid(0, 0, 0), 0);
+    }
+
+private:
+    bool m_wasRoot;
+};
 
 TEST_F(Documents, openingShowsTheTextUnderItsRelativeName)
 {
@@ -45,6 +65,32 @@ TEST_F(Documents, missingFileIsReported)
     EXPECT_FALSE(editor.openFile(path("none.psm")));
     EXPECT_EQ(msg.errors(), QStringList({"File does not exist: " + path("none.psm")}));
     EXPECT_TRUE(editor.editorWidgets().isEmpty());
+}
+
+TEST_F(Documents, writeProtectedFileWarnsAndCanNotBeOpened)
+{
+    write("a.psm", "NOP");
+    ASSERT_EQ(chmod(path("a.psm").toLocal8Bit().constData(), 0444), 0);
+    ASSERT_EQ(chmod(dir.path().toLocal8Bit().constData(), 0755), 0);
+    {
+        const OrdinaryUser user;
+        EXPECT_FALSE(editor.openFile(path("a.psm")));
+    }
+    EXPECT_EQ(msg.warnings(), QStringList({"File is not writable: " + path("a.psm")}));
+    EXPECT_EQ(msg.errors(), QStringList({"Can not open file: " + path("a.psm")}));
+    EXPECT_TRUE(editor.editorWidgets().isEmpty());
+}
+
+TEST_F(Documents, unreadableFileIsReported)
+{
+    write("a.psm", "NOP");
+    ASSERT_EQ(chmod(path("a.psm").toLocal8Bit().constData(), 0), 0);
+    ASSERT_EQ(chmod(dir.path().toLocal8Bit().constData(), 0755), 0);
+    {
+        const OrdinaryUser user;
+        EXPECT_FALSE(editor.openFile(path("a.psm")));
+    }
+    EXPECT_EQ(msg.errors(), QStringList({"No read access for file: " + path("a.psm")}));
 }
 
 TEST_F(Documents, folderAndPipeAreRefusedAtOnce)

@@ -1,32 +1,14 @@
 // An example project in the window, from opening to the files of a button, with clicks where a user would click.
 
+#include "ExampleFolder.h"
 #include "MainWindowFixture.h"
 
 #include "ModPrj.h"
 
-#include <QDirIterator>
 #include <QLabel>
-#include <QProcess>
-#include <QSignalSpy>
-#include <QToolBar>
 #include <QToolButton>
 
 namespace {
-
-/// Copies a folder with all below it.
-void copyFolder(const QString& from, const QString& to)
-{
-    QDir().mkpath(to);
-    QDirIterator it(from, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const QString target = to + '/' + QDir(from).relativeFilePath(path);
-        QDir().mkpath(QFileInfo(target).path());
-        QFile::remove(target);
-        QFile::copy(path, target);
-        QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
-    }
-}
 
 QByteArray content(const QString& path)
 {
