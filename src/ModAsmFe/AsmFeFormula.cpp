@@ -259,7 +259,8 @@ bool AsmFeFormula::chkSigns()
     for (Element* element = m_first; element != nullptr; element = element->next) {
         if (element->type != elementSub || element->prev == nullptr || isTerm(element->prev))
             continue;
-        if (element->next == nullptr)
+        // A sign at the end of the expression, or of its parentheses, has nothing to stand for.
+        if (element->next == nullptr || element->next->type == elementClose)
             return false;
         element->next->value = wrapped(0u - static_cast<unsigned int>(element->next->value));
         remove(element);
