@@ -81,10 +81,21 @@ Opcode* OpcodeList::nextOfSrcRef(int fileNo, int lineNo) const
     return firstNotBelow([=](const Opcode* opcode) { return isBefore(opcode->srcRef, fileNo, lineNo); });
 }
 
+template <class Hits>
+Opcode* OpcodeList::firstOf(Hits hits) const
+{
+    const auto it = std::find_if(m_opcodes.begin(), m_opcodes.end(), hits);
+    return it == m_opcodes.end() ? nullptr : *it;
+}
+
+// The indexes know mapped instructions only; whoever asks for an unmapped one has to wait for a walk.
+
 Opcode* OpcodeList::opcodeOfAddr(int pageAddr, int memRange) const
 {
+    if (pageAddr < 0 || memRange < 0)
+        return firstOf([=](const Opcode* o) { return o->pageAddr == pageAddr && o->memRange == memRange; });
     buildIndexes();
-    if (pageAddr < 0 || memRange < 0 || pageAddr >= m_rangeStride)
+    if (pageAddr >= m_rangeStride)
         return nullptr;
     const int pos = m_byRange.find(qint64(memRange) * m_rangeStride + pageAddr);
     return pos < 0 ? nullptr : m_opcodes[size_t(pos)];
@@ -92,6 +103,8 @@ Opcode* OpcodeList::opcodeOfAddr(int pageAddr, int memRange) const
 
 Opcode* OpcodeList::opcodeOfAddr(int pageAddr) const
 {
+    if (pageAddr < 0)
+        return firstOf([=](const Opcode* o) { return o->pageAddr == pageAddr; });
     buildIndexes();
     const int pos = m_byPageAddr.find(pageAddr);
     return pos < 0 ? nullptr : m_opcodes[size_t(pos)];
@@ -99,6 +112,8 @@ Opcode* OpcodeList::opcodeOfAddr(int pageAddr) const
 
 Opcode* OpcodeList::opcodeOfMemAddr(int memAddr) const
 {
+    if (memAddr < 0)
+        return firstOf([=](const Opcode* o) { return o->memAddr == memAddr; });
     buildIndexes();
     const int pos = m_byMemAddr.find(memAddr);
     return pos < 0 ? nullptr : m_opcodes[size_t(pos)];

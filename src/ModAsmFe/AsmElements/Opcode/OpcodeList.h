@@ -47,6 +47,8 @@ public:
 private:
     template <class Below>
     Opcode* firstNotBelow(Below below) const;
+    template <class Hits>
+    Opcode* firstOf(Hits hits) const;
     void buildIndexes() const;
 
     std::vector<Opcode*> m_opcodes;
