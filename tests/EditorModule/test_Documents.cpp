@@ -17,13 +17,15 @@ class OrdinaryUser
 public:
     OrdinaryUser() : m_wasRoot(geteuid() == 0)
     {
-        if (m_wasRoot)
+        if (m_wasRoot) {
             EXPECT_EQ(setresuid(65534, 65534, 0), 0);
+        }
     }
     ~OrdinaryUser()
     {
-        if (m_wasRoot)
+        if (m_wasRoot) {
             EXPECT_EQ(setresuid(0, 0, 0), 0);
+        }
     }
 
 private:
