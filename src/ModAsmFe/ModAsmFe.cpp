@@ -111,6 +111,7 @@ void ModAsmFe::unregisterPlugin(ModAsmFePluginIfBackend* plugin)
     m_asmBe->modAsmFeHook = nullptr;
     m_asmBe = nullptr;
     m_assembled = false;
+    m_abandoned = m_running;
     applyBackendConfig();
 }
 
@@ -147,11 +148,12 @@ void ModAsmFe::prjClose()
         m_actions->setEnabled(false);
     if (m_statusBar != nullptr)
         m_statusBar->setProcessorName(QString());
-    clearAll();
-    m_equList.showToListView();
-    m_assembled = false;
-    m_runSucceeded = false;
     m_fileHndlr->setPrjDir(QString());
+    // A run in progress still walks its elements: it ends first.
+    if (m_running)
+        m_abandoned = true;
+    else
+        dropProgram();
 }
 
 void ModAsmFe::srcFileListChanged()

@@ -149,6 +149,7 @@ public slots:
 private:
     // Life of a run (ModAsmFeAssemble.cpp)
     void clearAll();
+    void dropProgram();
     void runStages(eAssembleEvent_t event);
     bool runFrontEndStages();
     void runBackEndStages();
@@ -349,6 +350,7 @@ private:
     bool m_assembleOnChange = true;
     bool m_assembled = false;
     bool m_running = false; ///< a run must not be started from within a run
+    bool m_abandoned = false; ///< project or back end have gone during the run
     bool m_runSucceeded = false;
     QStringList m_writtenFiles;
 

@@ -47,6 +47,18 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     m_defaultCodec = QTextCodec::codecForName(defaultCharset.toLatin1());
     runStages(event);
     m_running = false;
+    if (m_abandoned)
+        dropProgram();
+}
+
+/// Forgets the program of the last run.
+void ModAsmFe::dropProgram()
+{
+    m_abandoned = false;
+    clearAll();
+    m_equList.showToListView();
+    m_assembled = false;
+    m_runSucceeded = false;
 }
 
 void ModAsmFe::clearAll()
@@ -72,7 +84,7 @@ template <class Stage>
 bool ModAsmFe::runGroup(eMsgGrp_t group, const QString& arg, Stage stage)
 {
     m_msgHndlr->signMsgGroup(group, arg);
-    m_assembled = stage();
+    m_assembled = stage() && !m_abandoned;
     closeGroup(m_assembled);
     return m_assembled;
 }
@@ -95,7 +107,9 @@ void ModAsmFe::runStages(eAssembleEvent_t event)
         runBackEndStages();
     if (m_assembled)
         finishRun();
-    m_asmBe->setAssembled(m_assembled);
+    if (m_asmBe != nullptr)
+        m_asmBe->setAssembled(m_assembled);
+    m_assembled = m_assembled && !m_abandoned;
     closeGroup(m_assembled);
     m_runSucceeded = m_assembled;
     if (event == eEventNone)
