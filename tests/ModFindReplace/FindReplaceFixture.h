@@ -79,6 +79,9 @@ protected:
     }
     ~FindReplaceTest() override { qDeleteAll(pages); }
 
+    /// The fading of the clear buttons outlives their fields by a moment, and is only deleted at its end.
+    static void TearDownTestSuite() { QTest::qWait(300); }
+
     QWidget* addPage(const QString& name, FindClient* client = nullptr, int features = 3)
     {
         auto* page = new QWidget;

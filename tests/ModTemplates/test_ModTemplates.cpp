@@ -203,11 +203,12 @@ TEST_F(Templates, doesWithoutAnEditor)
     EXPECT_TRUE(menu.children.isEmpty());
 }
 
-TEST_F(Templates, programFindsTheShippedOnesAtItsStart)
+TEST_F(Templates, programOfABuildFindsTheShippedOnes)
 {
-    // The test lies one folder deeper in the build tree than the program.
-    ASSERT_FALSE(ModTemplates::templateDir(NALVO_BINARY_DIR).isEmpty());
-    module.initTemplates(ModTemplates::templateDir(NALVO_BINARY_DIR));
+    // Where the program of a build lies.
+    const QString dir = ModTemplates::templateDir(NALVO_SOURCE_DIR "/build/any");
+    ASSERT_EQ(dir, QString(NALVO_SOURCE_DIR "/Common/asmTemplates"));
+    module.initTemplates(dir);
     EXPECT_EQ(entries(menu.menu), QStringList({"Templates"}));
     EXPECT_EQ(entries(menu.node({"Templates"})->menu), QStringList({"Mico8", "PicoBlaze 3", "PicoBlaze 6"}));
 }
