@@ -1,10 +1,23 @@
 #include "EditorStatusBar.h"
 
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
 
 namespace nsModEditor {
+
+namespace {
+
+/// Makes room for each of the texts.
+void reserve(QLabel* label, const QStringList& texts)
+{
+    for (const QString& text : texts) {
+        label->setText(text);
+        label->setMinimumWidth(qMax(label->minimumWidth(), label->sizeHint().width()));
+    }
+    label->clear();
+}
+
+} // namespace
 
 EditorStatusBar::EditorStatusBar(QWidget* parent)
     : QWidget(parent)
@@ -19,9 +32,8 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
                      "editorStatusBarMode");
     layout->addStretch(1);
     // What follows must not move when a value changes.
-    m_fontSize->setMinimumWidth(fontMetrics().horizontalAdvance(tr("%1 pt").arg(100)));
-    m_mode->setMinimumWidth(
-        qMax(fontMetrics().horizontalAdvance(tr("Insert")), fontMetrics().horizontalAdvance(tr("Overwrite"))));
+    reserve(m_fontSize, {tr("%1 pt").arg(100)});
+    reserve(m_mode, {tr("Insert"), tr("Overwrite")});
     setOverwrite(false);
 }
 

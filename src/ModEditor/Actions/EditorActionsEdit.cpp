@@ -70,7 +70,9 @@ QList<QAction*> EditorActionsEdit::toolBarActions() const
 
 void EditorActionsEdit::handleAction(QAction* action)
 {
-    emit triggered(eAction_t(action->data().toInt()));
+    // A separator stands for nothing.
+    if (action->data().isValid())
+        emit triggered(eAction_t(action->data().toInt()));
 }
 
 } // namespace nsModEditor

@@ -72,7 +72,9 @@ QList<QAction*> EditorActionsFile::toolBarActions() const
 
 void EditorActionsFile::handleAction(QAction* action)
 {
-    emit triggered(eAction_t(action->data().toInt()));
+    // A separator stands for nothing.
+    if (action->data().isValid())
+        emit triggered(eAction_t(action->data().toInt()));
 }
 
 } // namespace nsModEditor

@@ -38,6 +38,7 @@ QString leadingBlanks(const QString& text)
 EditorWidget::EditorWidget(QWidget* parent)
     : QPlainTextEdit(parent)
     , m_textDocument(new QTextDocument(this))
+    , m_rehighlightTimer(new QTimer(this))
     , m_openEditTimer(new QTimer(this))
 {
     m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
@@ -219,6 +220,7 @@ void EditorWidget::insertText(const QString& text)
 
 void EditorWidget::rehighlight()
 {
+    m_rehighlightTimer->stop();
     m_syntaxHighlighter->rehighlight();
 }
 

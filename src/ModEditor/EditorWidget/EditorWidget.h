@@ -208,6 +208,7 @@ private:
     void handleKey(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
     void setSelectionMarks(const QString& text);
+    void rehighlightVisible();
     void setHighlightLinesToEditor();
 
     void forSelectedLines(const LineCommand& command);
@@ -248,7 +249,8 @@ private:
     QTextEdit::ExtraSelection m_spareSelection; ///< third colour, never shown
     bool m_lineHighlightEn = false;
     bool m_selectionHighlightEn = false;
-    bool m_selectionActive = false; ///< something is marked that has to be cleared
+    QString m_markedText; ///< what is marked wherever it occurs, empty for nothing
+    QTimer* m_rehighlightTimer; ///< marks of a selection in the lines of a large document that are not on the screen
 
     bool m_lineNumberEn = true;
     bool m_memPageAddrEn = false;

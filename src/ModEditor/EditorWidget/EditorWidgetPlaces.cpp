@@ -7,8 +7,17 @@
 #include <QHelpEvent>
 #include <QRegExp>
 #include <QTextBlock>
+#include <QTimer>
 
 namespace nsModEditor {
+
+namespace {
+
+/// Lines from which on what is not on the screen is marked a little later, so that a selection can grow without a delay.
+const int manyLines = 2000;
+const int rehighlightDelay = 100; ///< milliseconds
+
+} // namespace
 
 void EditorWidget::initHighlighting()
 {
@@ -18,6 +27,9 @@ void EditorWidget::initHighlighting()
     m_cursorSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
     m_spareSelection.format.setBackground(QColor(0xD7D7D7));
     m_spareSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
+    m_rehighlightTimer->setSingleShot(true);
+    m_rehighlightTimer->setInterval(rehighlightDelay);
+    connect(m_rehighlightTimer, &QTimer::timeout, this, &EditorWidget::rehighlight);
     connect(this, SIGNAL(cursorPositionChanged()), this, SLOT(highlightCurrentLine()));
     highlightCurrentLine();
 }
@@ -114,7 +126,7 @@ void EditorWidget::setSelectionHighlightEn(bool enabled)
     m_selectionHighlightEn = enabled;
     if (enabled)
         highlightSelection();
-    else if (m_selectionActive)
+    else
         setSelectionMarks(QString());
 }
 
@@ -125,15 +137,33 @@ void EditorWidget::highlightSelection()
     const QTextCursor cursor = textCursor();
     if (cursor.hasSelection())
         setSelectionMarks(cursor.selectedText());
-    else if (m_selectionActive)
+    else
         setSelectionMarks(QString());
 }
 
 void EditorWidget::setSelectionMarks(const QString& text)
 {
-    m_selectionActive = !text.isEmpty();
+    // The text edit reports the selection again for each change of formats.
+    if (text == m_markedText)
+        return;
+    m_markedText = text;
     m_syntaxHighlighter->setSelection(text);
-    m_syntaxHighlighter->rehighlight();
+    if (blockCount() < manyLines) {
+        rehighlight();
+        return;
+    }
+    rehighlightVisible();
+    m_rehighlightTimer->start();
+}
+
+void EditorWidget::rehighlightVisible()
+{
+    QTextBlock block = firstVisibleBlock();
+    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+    for (; block.isValid() && top <= viewport()->height(); block = block.next()) {
+        m_syntaxHighlighter->rehighlightBlock(block);
+        top += blockBoundingRect(block).height();
+    }
 }
 
 bool EditorWidget::handleTipEvent(QHelpEvent* event)
@@ -143,7 +173,7 @@ bool EditorWidget::handleTipEvent(QHelpEvent* event)
     const QString word = cursor.selectedText();
     if (QRegExp("^\\b\\S+\\b$").exactMatch(word))
         setSelectionMarks(word);
-    else if (m_selectionActive)
+    else
         setSelectionMarks(QString());
     return true;
 }

@@ -1,0 +1,358 @@
+// Commands for whole lines, and the keys that lead to them.
+
+#include "EditorFixture.h"
+
+namespace {
+
+using nsModEditor::EditorWidget;
+
+class Lines : public EditorTest
+{
+protected:
+    /// One undo leads back to the text, one redo to what it was.
+    void expectOneStep(const QString& before)
+    {
+        const QString after = text();
+        editor->undo();
+        EXPECT_EQ(text(), before);
+        EXPECT_FALSE(editor->isUndoAvailable());
+        editor->redo();
+        EXPECT_EQ(text(), after);
+    }
+};
+
+TEST_F(Lines, TabKeyInsertsATabAtTheCursor)
+{
+    editor->setText("abcd");
+    moveTo(0, 2);
+    QTest::keyClick(editor.get(), Qt::Key_Tab);
+    EXPECT_EQ(text(), QString("ab\tcd"));
+    EXPECT_EQ(column(), 3);
+}
+
+TEST_F(Lines, IndentReplacesASelectionInsideOneLine)
+{
+    editor->setText("abcd\nef");
+    select(1, 3);
+    QTest::keyClick(editor.get(), Qt::Key_Tab);
+    EXPECT_EQ(text(), QString("a\td\nef"));
+    EXPECT_FALSE(editor->hasSelection());
+    expectOneStep("abcd\nef");
+}
+
+TEST_F(Lines, IndentOfSeveralLinesKeepsTheSelection)
+{
+    editor->setText("one\ntwo\nthree\nfour");
+    select(1, 9); // into "three"
+    editor->indent();
+    EXPECT_EQ(text(), QString("\tone\n\ttwo\n\tthree\nfour"));
+    EXPECT_EQ(anchor(), 1);
+    EXPECT_EQ(pos(), 12);
+    expectOneStep("one\ntwo\nthree\nfour");
+}
+
+TEST_F(Lines, IndentLeavesALineAtWhoseStartTheSelectionEnds)
+{
+    editor->setText("one\ntwo");
+    select(0, 4);
+    editor->indent();
+    EXPECT_EQ(text(), QString("\tone\ntwo"));
+}
+
+TEST_F(Lines, DeindentTakesOneBlankAndKeepsTheCursorInTheText)
+{
+    editor->setText("  one\n\ttwo\nthree");
+    moveTo(0, 3);
+    QTest::keyClick(editor.get(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(text(), QString(" one\n\ttwo\nthree"));
+    EXPECT_EQ(column(), 2);
+    moveTo(1, 0);
+    editor->deindent();
+    EXPECT_EQ(text(), QString(" one\ntwo\nthree"));
+    EXPECT_EQ(column(), 0);
+    moveTo(2, 2);
+    editor->deindent();
+    EXPECT_EQ(text(), QString(" one\ntwo\nthree"));
+    EXPECT_EQ(column(), 2);
+}
+
+TEST_F(Lines, DeindentOfSeveralLines)
+{
+    const QString before = "\tone\n two\nthree\n\tfour";
+    editor->setText(before);
+    select(2, 17); // up to behind the tab of the last line
+    editor->deindent();
+    EXPECT_EQ(text(), QString("one\ntwo\nthree\nfour"));
+    EXPECT_EQ(anchor(), 2);
+    EXPECT_EQ(pos(), 14);
+    expectOneStep(before);
+}
+
+TEST_F(Lines, OtherTabKeysAreSwallowed)
+{
+    editor->setText("abc");
+    for (const auto modifiers : {Qt::KeyboardModifiers(Qt::ControlModifier), Qt::KeyboardModifiers(Qt::AltModifier),
+                                 Qt::ControlModifier | Qt::ShiftModifier}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_Tab, modifiers, "\t");
+        event.ignore();
+        QApplication::sendEvent(editor.get(), &event);
+        EXPECT_TRUE(event.isAccepted());
+        EXPECT_EQ(text(), QString("abc"));
+    }
+    EXPECT_TRUE(editor->hasFocus());
+}
+
+TEST_F(Lines, CommentOutWalksDownTheFile)
+{
+    editor->setText("one\n  two\nthree");
+    moveTo(0, 2);
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";one\n  two\nthree"));
+    EXPECT_EQ(editor->cursorLine(), 1);
+    EXPECT_EQ(column(), 0);
+    editor->commentOut();
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";one\n;  two\n;three"));
+    EXPECT_EQ(editor->cursorLine(), 2);
+}
+
+TEST_F(Lines, CommentOutOfASelectionLeavesALineAtWhoseStartItEnds)
+{
+    editor->setText("one\ntwo\nthree");
+    select(1, 8);
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";one\n;two\nthree"));
+    EXPECT_EQ(anchor(), 1);
+    EXPECT_EQ(pos(), 10);
+    expectOneStep("one\ntwo\nthree");
+}
+
+TEST_F(Lines, CommentOutOfASelectionInsideOneLine)
+{
+    editor->setText("one\ntwo");
+    select(1, 2);
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";one\ntwo"));
+    EXPECT_EQ(anchor(), 1);
+    EXPECT_EQ(pos(), 3);
+    EXPECT_EQ(editor->cursorLine(), 0);
+}
+
+TEST_F(Lines, CommentInRemovesTheSemicolonOnly)
+{
+    editor->setText("  ; word\n;;two\ncode ; remark\nlast");
+    moveTo(0, 0);
+    editor->commentIn();
+    EXPECT_EQ(text(), QString("   word\n;;two\ncode ; remark\nlast"));
+    EXPECT_EQ(editor->cursorLine(), 1);
+    editor->commentIn();
+    EXPECT_EQ(text(), QString("   word\n;two\ncode ; remark\nlast"));
+    // A line that is no comment stays, and the cursor walks on all the same.
+    editor->commentIn();
+    EXPECT_EQ(text(), QString("   word\n;two\ncode ; remark\nlast"));
+    EXPECT_EQ(editor->cursorLine(), 3);
+}
+
+TEST_F(Lines, CommentInOfASelection)
+{
+    const QString before = ";one\ntwo\n\t;three\n;four";
+    editor->setText(before);
+    select(0, 17);
+    editor->commentIn();
+    EXPECT_EQ(text(), QString("one\ntwo\n\tthree\n;four"));
+    EXPECT_EQ(anchor(), 0);
+    EXPECT_EQ(pos(), 15);
+    expectOneStep(before);
+}
+
+TEST_F(Lines, DuplicateLineIgnoresASelection)
+{
+    editor->setText("one\ntwo\nthree");
+    select(0, 5); // the cursor stands in "two"
+    editor->duplicateLine();
+    EXPECT_EQ(text(), QString("one\ntwo\ntwo\nthree"));
+    EXPECT_FALSE(editor->hasSelection());
+    EXPECT_EQ(editor->cursorLine(), 2);
+    EXPECT_EQ(column(), 3);
+    expectOneStep("one\ntwo\nthree");
+}
+
+TEST_F(Lines, MoveLineUpTakesTheCursorAlong)
+{
+    editor->setText("one\nlonger\nthree");
+    moveTo(2, 2);
+    editor->moveLineUp();
+    EXPECT_EQ(text(), QString("one\nthree\nlonger"));
+    EXPECT_EQ(editor->cursorLine(), 1);
+    EXPECT_EQ(column(), 2);
+    expectOneStep("one\nlonger\nthree");
+}
+
+TEST_F(Lines, MoveOfASelectionKeepsItsDirection)
+{
+    editor->setText("one\ntwo\nthree\nfour");
+    select(10, 5); // from "three" back into "two"
+    editor->moveLineUp();
+    EXPECT_EQ(text(), QString("two\nthree\none\nfour"));
+    EXPECT_EQ(anchor(), 6);
+    EXPECT_EQ(pos(), 1);
+    editor->moveLineDown();
+    editor->moveLineDown();
+    EXPECT_EQ(text(), QString("one\nfour\ntwo\nthree"));
+    EXPECT_EQ(anchor(), 15);
+    EXPECT_EQ(pos(), 10);
+}
+
+TEST_F(Lines, MoveLineDownIsOneStep)
+{
+    editor->setText("one\n\nthree");
+    moveTo(0, 1);
+    editor->moveLineDown();
+    EXPECT_EQ(text(), QString("\none\nthree"));
+    EXPECT_EQ(editor->cursorLine(), 1);
+    EXPECT_EQ(column(), 1);
+    expectOneStep("one\n\nthree");
+}
+
+TEST_F(Lines, MoveLeavesALineAtWhoseStartTheSelectionEnds)
+{
+    editor->setText("one\ntwo\nthree");
+    select(4, 8);
+    editor->moveLineUp();
+    EXPECT_EQ(text(), QString("two\none\nthree"));
+    // Back again; the end of the selection stands behind the text then and is cut.
+    editor->setText("one\ntwo");
+    select(0, 4);
+    editor->moveLineDown();
+    EXPECT_EQ(text(), QString("two\none"));
+    EXPECT_EQ(anchor(), 4);
+    EXPECT_EQ(pos(), 7);
+}
+
+TEST_F(Lines, TheStepLeftOpenOnTheFirstLineIsUndoneWithWhatFollows)
+{
+    editor->setText("one\ntwo");
+    QTest::keyClicks(editor.get(), "a");
+    editor->moveLineUp();
+    EXPECT_EQ(text(), QString("aone\ntwo"));
+    moveTo(1, 0);
+    QTest::keyClicks(editor.get(), "b");
+    QTest::keyClick(editor.get(), Qt::Key_Return);
+    moveTo(0, 0);
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";aone\nb\ntwo"));
+    // All since the move is one step; what was typed before is another.
+    editor->undo();
+    EXPECT_EQ(text(), QString("aone\ntwo"));
+    editor->undo();
+    EXPECT_EQ(text(), QString("one\ntwo"));
+    EXPECT_FALSE(editor->isUndoAvailable());
+    editor->redo();
+    editor->redo();
+    EXPECT_EQ(text(), QString(";aone\nb\ntwo"));
+}
+
+TEST_F(Lines, TheStepLeftOpenOnTheLastLine)
+{
+    editor->setText("one\ntwo");
+    moveTo(1, 0);
+    editor->moveLineDown();
+    editor->moveLineDown();
+    EXPECT_EQ(text(), QString("one\ntwo"));
+    EXPECT_FALSE(editor->isModified());
+    editor->duplicateLine();
+    editor->moveLineUp();
+    editor->indent();
+    EXPECT_EQ(text(), QString("one\ntwo\t\ntwo"));
+    editor->undo();
+    EXPECT_EQ(text(), QString("one\ntwo"));
+}
+
+TEST_F(Lines, WhileAStepIsOpenTheDocumentIsShownAndCountsAsModified)
+{
+    editor->setText("one\ntwo");
+    editor->moveLineUp();
+    EXPECT_FALSE(editor->isModified());
+    QSignalSpy modified(editor.get(), &EditorWidget::modifiedChanged);
+    QSignalSpy action(editor.get(), &EditorWidget::actionChanged);
+    const int width = editor->leftMarginWidth();
+    for (int line = 0; line < 9; ++line)
+        QTest::keyClick(editor.get(), Qt::Key_Return);
+    QTest::keyClicks(editor.get(), "WWWWWWWW");
+    EXPECT_TRUE(editor->isModified());
+    EXPECT_EQ(modified.count(), 1);
+    EXPECT_GT(action.count(), 0);
+    EXPECT_TRUE(editor->isUndoAvailable());
+    // The line number has gained a digit, the cursor line is marked and the letters are on the screen.
+    EXPECT_GT(editor->leftMarginWidth(), width);
+    ASSERT_FALSE(editor->extraSelections().isEmpty());
+    EXPECT_EQ(editor->extraSelections().first().cursor.blockNumber(), 9);
+    const QImage shown = editor->viewport()->grab().toImage();
+    const QRect row = editor->cursorRect();
+    int dark = 0;
+    for (int x = 0; x < row.x(); ++x) {
+        for (int y = row.top(); y <= row.bottom(); ++y)
+            dark += shown.pixelColor(x, y).lightness() < 120 ? 1 : 0;
+    }
+    EXPECT_GT(row.x(), 8 * 5);
+    EXPECT_GT(dark, 50);
+
+    editor->clearModified();
+    EXPECT_FALSE(editor->isModified());
+    EXPECT_EQ(modified.count(), 2);
+    QTest::keyClick(editor.get(), Qt::Key_Backspace);
+    EXPECT_TRUE(editor->isModified());
+}
+
+TEST_F(Lines, ChangesBySlotsAreSeenWhileAStepIsOpen)
+{
+    editor->setText("one\ntwo");
+    editor->moveLineUp();
+    QSignalSpy modified(editor.get(), &EditorWidget::modifiedChanged);
+    // Cut and paste of the text edit tell nobody now.
+    editor->selectAll();
+    editor->cut();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return modified.count() > 0; }, 3000));
+    EXPECT_TRUE(editor->isModified());
+}
+
+TEST_F(Lines, NewTextEndsTheOpenStep)
+{
+    editor->setText("one");
+    editor->moveLineUp();
+    editor->moveLineDown();
+    QTest::keyClicks(editor.get(), "x");
+    editor->setText("two");
+    EXPECT_FALSE(editor->isModified());
+    QSignalSpy contents(editor->document(), &QTextDocument::contentsChanged);
+    QTest::keyClicks(editor.get(), "a");
+    EXPECT_GT(contents.count(), 0);
+    moveTo(0, 4);
+    editor->duplicateLine();
+    editor->undo();
+    EXPECT_EQ(text(), QString("atwo"));
+}
+
+TEST_F(Lines, EveryCommandStandsAnEmptyDocument)
+{
+    editor->setText(QString());
+    editor->deindent();
+    editor->commentIn();
+    EXPECT_EQ(text(), QString());
+    editor->commentOut();
+    EXPECT_EQ(text(), QString(";"));
+    editor->commentIn();
+    editor->indent();
+    editor->duplicateLine();
+    EXPECT_EQ(text(), QString("\t\n\t"));
+    editor->selectAll();
+    editor->deindent();
+    EXPECT_EQ(text(), QString("\n"));
+    editor->setText(QString());
+    editor->moveLineUp();
+    editor->moveLineDown();
+    editor->undo();
+    EXPECT_EQ(text(), QString());
+}
+
+} // namespace
