@@ -25,8 +25,8 @@ esac
 examples=$(cd "$3" && pwd)
 mkdir -p "$2/hdl-readback" || exit 2
 scratch=$(cd "$2/hdl-readback" && pwd)
-rm -rf "$scratch/examples" "$scratch/work"
-mkdir -p "$scratch/work"
+rm -rf "$scratch/examples" "$scratch/run"
+mkdir -p "$scratch/run"
 cp -R "$examples" "$scratch/examples" || exit 2
 
 projects=0
@@ -59,9 +59,9 @@ make_variant()
 {
     cp -R "$scratch/examples/$2" "$scratch/examples/$1" || { fail "$1: can not copy $2"; return; }
     variant=$(project_of "$1") || { fail "$1: not exactly one project file"; return; }
-    sed "s/$3/$4/g" "$variant" >"$scratch/work/variant"
-    cmp -s "$scratch/work/variant" "$variant" && fail "$1: \"$3\" does not stand in the project file"
-    cp "$scratch/work/variant" "$variant"
+    sed "s/$3/$4/g" "$variant" >"$scratch/run/variant"
+    cmp -s "$scratch/run/variant" "$variant" && fail "$1: \"$3\" does not stand in the project file"
+    cp "$scratch/run/variant" "$variant"
 }
 
 # assemble FOLDER: runs the assembler with the event of button 1; errors and warnings are failures.
@@ -69,7 +69,7 @@ assemble()
 {
     project=$(project_of "$1") || { fail "$1: not exactly one project file"; return; }
     projects=$((projects + 1))
-    messages=$scratch/work/$1.messages
+    messages=$scratch/run/$1.messages
     if ! "$assembler" -e button1 --werror "$project" >"$messages" 2>&1; then
         fail "$1: does not assemble without error and warning"
         sed 's/^/    /' "$messages"
@@ -104,7 +104,7 @@ check_entity()
     done
     compare_mem "$output/$2.mem" "$output/$2.hex" || fail "$1: $2.mem differs from $2.hex"
     for suffix in vhd v; do
-        work=$scratch/work/$1.$2.$suffix
+        work=$scratch/run/$1.$2.$suffix
         if dump_memory "$output/$2.$suffix" "$2" "$3" "$work" 2>"$work.log"; then
             compare "$1" "$2.$suffix" "$work/dump" "$output/$2.hex" "$depth"
         else
@@ -118,11 +118,11 @@ check_entity()
 check_join()
 {
     for suffix in vhd v; do
-        low=$scratch/work/$1.$2.$suffix/dump
-        high=$scratch/work/$1.$3.$suffix/dump
+        low=$scratch/run/$1.$2.$suffix/dump
+        high=$scratch/run/$1.$3.$suffix/dump
         if [ -s "$low" ] && [ -s "$high" ]; then
-            join_words "$low" "$high" "$4" >"$scratch/work/$1.$5.$suffix.dump"
-            compare "$1" "$2.$suffix and $3.$suffix" "$scratch/work/$1.$5.$suffix.dump" \
+            join_words "$low" "$high" "$4" >"$scratch/run/$1.$5.$suffix.dump"
+            compare "$1" "$2.$suffix and $3.$suffix" "$scratch/run/$1.$5.$suffix.dump" \
                 "$scratch/examples/$1/output/$5.hex" "$(awk 'END { print NR }' "$low")"
         else
             fail "$1: $2.$suffix and $3.$suffix were not both read"
