@@ -2,6 +2,8 @@
 
 #include "EditorFixture.h"
 
+#include <random>
+
 namespace {
 
 using nsModEditor::EditorWidget;
@@ -314,6 +316,66 @@ TEST_F(Lines, ChangesBySlotsAreSeenWhileAStepIsOpen)
     editor->cut();
     EXPECT_TRUE(QTest::qWaitFor([&] { return modified.count() > 0; }, 3000));
     EXPECT_TRUE(editor->isModified());
+}
+
+TEST_F(Lines, ChangesBySlotsArePaintedWhileAStepIsOpen)
+{
+    editor->setText("one\n" + QString(40, 'W') + "\nthree");
+    moveTo(2, 0);
+    editor->moveLineDown();
+    moveTo(1, 0);
+    editor->moveCursor(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    editor->cut();
+    const QImage shown = editor->viewport()->grab().toImage();
+    int dark = 0;
+    for (int x = 30; x < 200; ++x)
+        dark += shown.pixelColor(x, marginY(1)).lightness() < 120 ? 1 : 0;
+    EXPECT_EQ(dark, 0);
+}
+
+/// Whatever comes while a step is open: it stays one step, and the document can be painted at any time.
+TEST_F(Lines, AnOpenStepBearsEverything)
+{
+    const QString before = numberedLines(30);
+    editor->setText(before);
+    editor->setAutoReturnIndentEn(true);
+    editor->setSelectionHighlightEn(true);
+    editor->setDynamicLineWrapEn(true);
+    editor->moveLineUp();
+    std::mt19937 random(1);
+    const QList<std::function<void()>> steps{
+        [&] { QTest::keyClicks(editor.get(), "ab c"); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_Return); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_Backspace); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_Down, Qt::ShiftModifier); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_Up); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_PageDown); },
+        [&] { QTest::keyClick(editor.get(), Qt::Key_PageUp, Qt::ShiftModifier); },
+        [&] { QTest::mouseClick(editor->viewport(), Qt::LeftButton, Qt::NoModifier, QPoint(60, int(random() % 300))); },
+        [&] { editor->setCursorToLine(int(random() % 40)); },
+        [&] { editor->cut(); },
+        [&] { editor->paste(); },
+        [&] { editor->insertPlainText(QString("long ").repeated(40)); },
+        [&] { editor->indent(); },
+        [&] { editor->deindent(); },
+        [&] { editor->commentOut(); },
+        [&] { editor->duplicateLine(); },
+        [&] { editor->moveLineUp(); },
+        [&] { editor->moveLineDown(); },
+        [&] { editor->replaceAll("long", "l\no", false, false); },
+        [&] { editor->setLineHighlighted(int(random() % 20)); },
+        [&] { editor->setSimBreakpoint(int(random() % 20)); },
+        [&] { editor->grab(); },
+        [&] { QApplication::processEvents(); },
+    };
+    for (int count = 0; count < 600; ++count)
+        steps.at(int(random() % unsigned(steps.size())))();
+    editor->grab();
+    EXPECT_TRUE(editor->isModified());
+    EXPECT_NE(text(), before);
+    editor->undo();
+    EXPECT_EQ(text(), before);
+    editor->grab();
 }
 
 TEST_F(Lines, NewTextEndsTheOpenStep)

@@ -100,6 +100,12 @@ TEST_F(Places, OneLineIsFlagged)
     editor->setLineHighlighted(20);
     ASSERT_EQ(editor->extraSelections().size(), 2);
     EXPECT_EQ(editor->extraSelections()[1].cursor.blockNumber(), 20);
+    // Whole lines are painted, whatever is selected in them.
+    moveTo(20, 1);
+    QTest::keyClick(editor.get(), Qt::Key_Right, Qt::ShiftModifier);
+    editor->setLineHighlighted(20);
+    EXPECT_FALSE(editor->extraSelections()[0].cursor.hasSelection());
+    EXPECT_FALSE(editor->extraSelections()[1].cursor.hasSelection());
     editor->clearLineHighlighted();
     EXPECT_EQ(editor->extraSelections().size(), 1);
 }

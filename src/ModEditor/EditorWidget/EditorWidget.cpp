@@ -263,7 +263,15 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
 
 bool EditorWidget::event(QEvent* event)
 {
+    settleOpenEdit();
     return QPlainTextEdit::event(event);
+}
+
+bool EditorWidget::viewportEvent(QEvent* event)
+{
+    // Lines that were not laid out since they changed must neither be painted nor be asked for positions.
+    settleOpenEdit();
+    return QPlainTextEdit::viewportEvent(event);
 }
 
 void EditorWidget::mouseMoveEvent(QMouseEvent* event)

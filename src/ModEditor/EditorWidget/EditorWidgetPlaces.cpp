@@ -36,6 +36,7 @@ void EditorWidget::initHighlighting()
 
 void EditorWidget::setCursorToLine(int line)
 {
+    settleOpenEdit();
     QTextCursor cursor = textCursor();
     const int current = cursor.blockNumber();
     // Upwards by what is a line on the screen, so that wrapped lines count for more than one.
@@ -73,6 +74,7 @@ int EditorWidget::cursorPos() const
 
 void EditorWidget::setCursorPos(int pos)
 {
+    settleOpenEdit();
     QTextCursor cursor = textCursor();
     cursor.setPosition(qBound(0, pos, m_textDocument->characterCount() - 1));
     setTextCursor(cursor);
