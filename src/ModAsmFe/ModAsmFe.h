@@ -76,6 +76,8 @@ public:
     static const int maxMemWords = 1 << 24;
     /// Longest source line in characters; what exceeds it is reported and skipped.
     static const int maxLineLength = 1 << 24;
+    /// Longest namespace in characters, with all those around it: each of its elements has it whole.
+    static const int maxNameSpaceLength = 1 << 15;
 
     explicit ModAsmFe(QObject* parent = nullptr);
     ~ModAsmFe() override;
@@ -374,7 +376,7 @@ private:
     MetaTags m_metaTags;
 
     /// What went wrong with an `#EQU`: a further `#EQU` that depends on it says the same again.
-    QHash<Equ*, AsmFeMsgHndlr::HeldMsgs> m_failedEqus;
+    QHash<const Equ*, AsmFeMsgHndlr::HeldMsgs> m_failedEqus;
     QSet<int> m_equCheckStack; ///< `absLineNo` of the `#EQU`s on the present path of resolution
 
     const SrcReference* m_devSrcRef = nullptr; ///< where the device that is set up was declared; not owned

@@ -193,6 +193,10 @@ bool ModAsmFe::parseLineDirectiveNs(SrcReference* srcRef)
         m_msgHndlr->signMsg(errSyntax, srcRef);
         return false;
     }
+    if (m_nameSpace.size() + name.size() > maxNameSpaceLength) {
+        m_msgHndlr->signError(tr("Namespace exceeds maximum of %1 characters.").arg(maxNameSpaceLength), srcRef);
+        return false;
+    }
     m_nameSpace = m_nameSpace.isEmpty() ? name : m_nameSpace + QLatin1String("::") + name;
     return true;
 }

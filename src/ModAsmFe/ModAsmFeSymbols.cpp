@@ -131,11 +131,19 @@ bool ModAsmFe::syntacticsCheckEquArgument(Equ* equ)
     const auto failure = m_failedEqus.find(equ);
     if (failure == m_failedEqus.end())
         return true;
-    const AsmFeMsgHndlr::HeldMsgs held = *failure;
-    // One that got a kind before it failed counts as done from now on.
-    if (equ->arg->type != Arg::unset)
+    AsmFeMsgHndlr::HeldMsgs held;
+    // One that got a kind before it failed counts as done from now on, and one that names such a one gets its value when it is
+    // asked for again. Their messages move on to who has asked: each of many constants with all the messages of those behind it
+    // would be more than the memory holds.
+    const Equ* target = m_equList.find(equ->arg->nameSpace, equ->arg->name);
+    const bool movesOn = equ->arg->type != Arg::unset || (target != nullptr && !m_failedEqus.contains(target));
+    if (movesOn) {
+        held.swap(*failure);
         m_failedEqus.erase(failure);
-    m_msgHndlr->signHeldMsgs(held);
+    } else {
+        held = *failure;
+    }
+    m_msgHndlr->signHeldMsgs(std::move(held));
     return false;
 }
 
@@ -179,9 +187,9 @@ bool ModAsmFe::resolveEqu(Equ* root)
         const bool success = checkEquValue(equ);
         m_msgHndlr->setHeldMsgs(before);
         if (success)
-            m_msgHndlr->signHeldMsgs(held);
+            m_msgHndlr->signHeldMsgs(std::move(held));
         else
-            m_failedEqus.insert(equ, held);
+            m_failedEqus[equ].swap(held);
         m_equCheckStack.remove(equ->srcRef.absLineNo);
         path.pop_back();
     }

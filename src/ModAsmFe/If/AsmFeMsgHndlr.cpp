@@ -113,8 +113,12 @@ AsmFeMsgHndlr::HeldMsgs* AsmFeMsgHndlr::setHeldMsgs(HeldMsgs* held)
     return before;
 }
 
-void AsmFeMsgHndlr::signHeldMsgs(const HeldMsgs& held)
+void AsmFeMsgHndlr::signHeldMsgs(HeldMsgs held)
 {
+    if (m_held != nullptr && m_held->empty()) {
+        m_held->swap(held);
+        return;
+    }
     for (const sHeldMsg_t& msg : held)
         signMsg(eMsgType_t(msg.type), msg.hasSrcRef ? &msg.srcRef : nullptr, msg.arg1, msg.arg2, msg.arg3);
 }

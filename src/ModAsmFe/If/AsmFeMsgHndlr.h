@@ -56,7 +56,7 @@ public:
     /// @return what was set before
     HeldMsgs* setHeldMsgs(HeldMsgs* held);
     /// Shows, or holds back in turn, what was held back.
-    void signHeldMsgs(const HeldMsgs& held);
+    void signHeldMsgs(HeldMsgs held);
 
 private:
     QUrl helpUrl(const char* key) const;
