@@ -29,7 +29,16 @@ ModEditor::~ModEditor()
         if (widget->parent() == nullptr)
             delete widget;
     }
+    // Where the window goes without a close, these have not been given back.
+    if (m_statusBar != nullptr && m_statusBar->parent() == nullptr)
+        delete m_statusBar;
+    delete m_tipManager;
     delete m_memPageAddrMap;
+}
+
+EditorStatusBar* ModEditor::statusBar() const
+{
+    return m_statusBar;
 }
 
 void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
@@ -97,7 +106,6 @@ void ModEditor::modExit()
     delete m_actionsSim;
     m_actionsSim = nullptr;
     delete m_statusBar;
-    m_statusBar = nullptr;
 }
 
 void ModEditor::registerPlugin(ModEditorPluginIf* plugin)

@@ -144,7 +144,7 @@ public:
 
     /// Open documents in the order of their creation. Owned.
     const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
-    EditorStatusBar* statusBar() const { return m_statusBar; }
+    EditorStatusBar* statusBar() const;
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -223,7 +223,7 @@ private:
     EditorTipManager* m_tipManager = nullptr;
     EditorSupportMenu* m_supportMenu = nullptr;
     QStringListModel* m_textCompletionList;
-    EditorStatusBar* m_statusBar = nullptr;
+    QPointer<EditorStatusBar> m_statusBar;
     EditorActionsFile* m_actionsFile = nullptr;
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;
