@@ -5,7 +5,28 @@
 
 #include <QFile>
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 namespace nsModAsmFe {
+
+namespace {
+
+/// Opens a file for writing. A pipe takes text only while somebody reads it: without a reader, writing would never end.
+bool openOutput(QFile* output)
+{
+    const QByteArray path = QFile::encodeName(output->fileName());
+    struct stat info = {};
+    if (stat(path.constData(), &info) != 0 || !S_ISFIFO(info.st_mode))
+        return output->open(QIODevice::ReadWrite | QIODevice::Text);
+    const int fd = open(path.constData(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    fcntl(fd, F_SETFL, fcntl(fd, F_GETFL) & ~O_NONBLOCK);
+    return output->open(fd, QIODevice::WriteOnly | QIODevice::Text, QFileDevice::AutoCloseHandle);
+}
+
+} // namespace
 
 TargetMapper::TargetMapper(ModMsgHookIf* msgHook, QObject* parent) : QObject(parent)
 {
@@ -38,7 +59,7 @@ bool TargetMapper::checkSize(const IODev* dev)
 bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, const QString& openText)
 {
     QFile output(file);
-    if (!output.open(QIODevice::ReadWrite | QIODevice::Text))
+    if (!openOutput(&output))
         return fail(openText.arg(file));
     output.resize(0);
     // A full disk may show itself as late as at closing.
