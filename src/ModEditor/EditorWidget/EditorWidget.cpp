@@ -2,6 +2,7 @@
 
 #include "EditorWidget.h"
 
+#include "EditorDocumentLayout.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
@@ -13,7 +14,6 @@
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
-#include <QPlainTextDocumentLayout>
 #include <QStringListModel>
 #include <QTextBlock>
 #include <QTimer>
@@ -41,7 +41,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     , m_rehighlightTimer(new QTimer(this))
     , m_openEditTimer(new QTimer(this))
 {
-    m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
+    m_layout = new EditorDocumentLayout(m_textDocument);
+    m_textDocument->setDocumentLayout(m_layout);
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
     setDocument(m_textDocument);
     m_fontSize = QFontInfo(font()).pointSize();
@@ -263,7 +264,6 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
 
 bool EditorWidget::event(QEvent* event)
 {
-    settleOpenEdit();
     return QPlainTextEdit::event(event);
 }
 
@@ -298,6 +298,7 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
 
 void EditorWidget::keyPressEvent(QKeyEvent* event)
 {
+    settleOpenEdit();
     handleKey(event);
     settleOpenEdit();
 }
@@ -388,6 +389,7 @@ void EditorWidget::leaveEditBlockOpen()
         return;
     m_cleanUndoSteps = m_textDocument->availableUndoSteps();
     m_openEditTimer->start();
+    m_layout->setUnsettled(true);
 }
 
 void EditorWidget::closeOpenEditBlocks()
@@ -395,6 +397,7 @@ void EditorWidget::closeOpenEditBlocks()
     m_openEditTimer->stop();
     for (QTextCursor cursor(m_textDocument); m_openEditBlocks > 0; --m_openEditBlocks)
         cursor.endEditBlock();
+    m_layout->setUnsettled(false);
 }
 
 void EditorWidget::settleOpenEdit()

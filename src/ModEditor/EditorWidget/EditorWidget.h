@@ -20,6 +20,7 @@ class QTimer;
 
 namespace nsModEditor {
 
+class EditorDocumentLayout;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
@@ -226,13 +227,10 @@ private:
     void addMarginMenuEntries(QMenu* menu, int line);
     void runLeftMarginContextMenu(int line, const QPoint& globalPos);
 
-    /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead. In front of all, as
-    /// each event asks for it, and the first come when the document is made.
-    int m_openEditBlocks = 0;
-
     const int m_marginSpace = 2; ///< air in all formulas of the margin, in pixels
 
     QTextDocument* m_textDocument;
+    EditorDocumentLayout* m_layout;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
     EditorWidgetLeftMargin* m_leftMargin = nullptr;
     QCompleter* m_completer = nullptr;
@@ -273,6 +271,8 @@ private:
     QColor m_simStartPointerSymbolColor = Qt::green;
     QColor m_bookmarkSymbolColor = Qt::darkYellow;
 
+    /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead.
+    int m_openEditBlocks = 0;
     int m_cleanUndoSteps = 0;
     QTimer* m_openEditTimer = nullptr;
     QString m_openEditState;

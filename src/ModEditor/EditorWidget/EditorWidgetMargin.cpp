@@ -84,13 +84,10 @@ void EditorWidget::updateLeftMarginWidth()
     m_leftMargin->update();
 }
 
-void EditorWidget::updateLeftMargin(const QRect& rect, int dy)
+void EditorWidget::updateLeftMargin(const QRect& rect, int)
 {
-    // Painted anew after a scroll, as moved pixels would blur where a pixel of the screen is no whole part of one of ours.
-    if (dy != 0)
-        m_leftMargin->update();
-    else
-        m_leftMargin->update(0, rect.y(), m_leftMargin->width(), rect.height());
+    // After a scroll this is all. Moved pixels would blur where a pixel of the screen is no whole part of one of ours.
+    m_leftMargin->update(0, rect.y(), m_leftMargin->width(), rect.height());
     if (rect.contains(viewport()->rect()))
         updateLeftMarginWidth();
 }
