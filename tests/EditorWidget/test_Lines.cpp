@@ -318,6 +318,28 @@ TEST_F(Lines, ChangesBySlotsAreSeenWhileAStepIsOpen)
     EXPECT_TRUE(editor->isModified());
 }
 
+TEST_F(Lines, WhileAStepIsOpenTheDocumentGrowsAndTheLinesChange)
+{
+    editor->setText(QString(60, ' ') + "\ntwo");
+    editor->moveLineUp();
+    const auto dark = [this] {
+        const QImage shown = editor->viewport()->grab().toImage();
+        int count = 0;
+        for (int x = 30; x < 200; ++x)
+            count += shown.pixelColor(x, marginY(0)).lightness() < 120 ? 1 : 0;
+        return count;
+    };
+    EXPECT_EQ(dark(), 0);
+    // The line is as long as it was.
+    QTest::keyClick(editor.get(), Qt::Key_Insert);
+    QTest::keyClicks(editor.get(), QString(40, 'W'));
+    EXPECT_GT(dark(), 40);
+    EXPECT_EQ(editor->verticalScrollBar()->maximum(), 0);
+    for (int line = 0; line < 40; ++line)
+        editor->duplicateLine();
+    EXPECT_GT(editor->verticalScrollBar()->maximum(), 10);
+}
+
 TEST_F(Lines, ChangesBySlotsArePaintedWhileAStepIsOpen)
 {
     editor->setText("one\n" + QString(40, 'W') + "\nthree");

@@ -23,8 +23,6 @@ namespace nsModEditor {
 
 namespace {
 
-const int openEditInterval = 50; ///< between two looks for changes, in milliseconds
-
 QString leadingBlanks(const QString& text)
 {
     int length = 0;
@@ -39,7 +37,6 @@ EditorWidget::EditorWidget(QWidget* parent)
     : QPlainTextEdit(parent)
     , m_textDocument(new QTextDocument(this))
     , m_rehighlightTimer(new QTimer(this))
-    , m_openEditTimer(new QTimer(this))
 {
     m_layout = new EditorDocumentLayout(m_textDocument);
     m_textDocument->setDocumentLayout(m_layout);
@@ -48,8 +45,6 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_fontSize = QFontInfo(font()).pointSize();
     setLineWrapMode(QPlainTextEdit::NoWrap);
     initCompleter();
-    m_openEditTimer->setInterval(openEditInterval);
-    connect(m_openEditTimer, SIGNAL(timeout()), this, SLOT(settleOpenEdit()));
 
     connect(this, SIGNAL(selectionChanged()), this, SLOT(highlightSelection()));
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
@@ -269,7 +264,7 @@ bool EditorWidget::event(QEvent* event)
 
 bool EditorWidget::viewportEvent(QEvent* event)
 {
-    // Lines that were not laid out since they changed must neither be painted nor be asked for positions.
+    // Whatever has changed the text, its cursor is painted next.
     settleOpenEdit();
     return QPlainTextEdit::viewportEvent(event);
 }
@@ -388,13 +383,11 @@ void EditorWidget::leaveEditBlockOpen()
     if (m_openEditBlocks > 1)
         return;
     m_cleanUndoSteps = m_textDocument->availableUndoSteps();
-    m_openEditTimer->start();
     m_layout->setUnsettled(true);
 }
 
 void EditorWidget::closeOpenEditBlocks()
 {
-    m_openEditTimer->stop();
     for (QTextCursor cursor(m_textDocument); m_openEditBlocks > 0; --m_openEditBlocks)
         cursor.endEditBlock();
     m_layout->setUnsettled(false);

@@ -195,7 +195,6 @@ private slots:
     void showLeftMarginContextMenu(const QPoint& pos);
     /// The menu of the margin for the line of the cursor, for those without a mouse.
     void showLeftMarginContextMenuAtCursor();
-    void settleOpenEdit();
 
 private:
     /// What a command does to one line. @param cursor anywhere in the line
@@ -220,6 +219,7 @@ private:
     QTextBlock lastSelectedBlock() const;
     void leaveEditBlockOpen();
     void closeOpenEditBlocks();
+    void settleOpenEdit();
 
     void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
     void paintMemPageAddr(QPainter* painter, int top, int addr);
@@ -274,7 +274,6 @@ private:
     /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead.
     int m_openEditBlocks = 0;
     int m_cleanUndoSteps = 0;
-    QTimer* m_openEditTimer = nullptr;
     QString m_openEditState;
 };
 
