@@ -408,7 +408,8 @@ TEST_F(Margin, TheTextHasAMenuOnlyWithTheInsertionMenu)
             for (QAction* entry : menu->actions())
                 texts.append(entry->isSeparator() ? "-" : entry->text());
         });
-        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(50, 5), editor->viewport()->mapToGlobal(QPoint(50, 5)));
+        QContextMenuEvent event(QContextMenuEvent::Mouse, QPoint(50, 5),
+                                editor->viewport()->mapToGlobal(QPoint(50, 5)));
         QApplication::sendEvent(editor->viewport(), &event);
         return helper.seen();
     };

@@ -87,23 +87,23 @@ TEST_F(EditorActions, File)
 {
     EditorActionsFile actions(nullptr);
     expectRows(actions.menuActions(), {
-        {0, "New...", "New document", QKeySequence::New},
-        {1, "Open...", "Open document", QKeySequence::Open},
-        separator,
-        {2, "Save all", "Save all documents", QKeySequence::Save},
-        {3, "Save", "Save document", {}},
-        {4, "Save as...", "Save document as", {}},
-        separator,
-        {5, "Reload all", "Reload all documents", {}},
-        {6, "Reload", "Reload current document", QKeySequence::Refresh},
-        separator,
-        {7, "Print...", "Print document", {}},
-        separator,
-        {8, "Close", "Close document", QKeySequence::Close},
-        {9, "Close all", "Close all documents", {}},
-        {10, "Close all other documents", "Close all other documents", {}},
-        separator,
-    });
+                                          {0, "New...", "New document", QKeySequence::New},
+                                          {1, "Open...", "Open document", QKeySequence::Open},
+                                          separator,
+                                          {2, "Save all", "Save all documents", QKeySequence::Save},
+                                          {3, "Save", "Save document", {}},
+                                          {4, "Save as...", "Save document as", {}},
+                                          separator,
+                                          {5, "Reload all", "Reload all documents", {}},
+                                          {6, "Reload", "Reload current document", QKeySequence::Refresh},
+                                          separator,
+                                          {7, "Print...", "Print document", {}},
+                                          separator,
+                                          {8, "Close", "Close document", QKeySequence::Close},
+                                          {9, "Close all", "Close all documents", {}},
+                                          {10, "Close all other documents", "Close all other documents", {}},
+                                          separator,
+                                      });
     EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
     EXPECT_EQ(picturedOf(actions.menuActions()).size(), 11);
     actions.setEnabled(false);
@@ -127,21 +127,21 @@ TEST_F(EditorActions, Edit)
 {
     EditorActionsEdit actions(nullptr);
     expectRows(actions.menuActions(), {
-        {0, "Undo...", "Undo", QKeySequence::Undo},
-        {1, "Redo...", "Redo", QKeySequence::Redo},
-        separator,
-        {2, "Indent", "Indent", QKeySequence("Tab")},
-        {3, "Deindent", "Deindent", QKeySequence("Shift+Tab")},
-        separator,
-        {4, "Comment out", "Comment out", QKeySequence("Alt+C")},
-        {5, "Comment in", "Comment in", QKeySequence("Shift+Alt+C")},
-        separator,
-        {6, "Duplicate line", "Duplicate line", QKeySequence("Ctrl+D")},
-        separator,
-        {7, "Move line up", "Move line up", QKeySequence("Ctrl+Shift+Up")},
-        {8, "Move line down", "Move line down", QKeySequence("Ctrl+Shift+Down")},
-        separator,
-    });
+                                          {0, "Undo...", "Undo", QKeySequence::Undo},
+                                          {1, "Redo...", "Redo", QKeySequence::Redo},
+                                          separator,
+                                          {2, "Indent", "Indent", QKeySequence("Tab")},
+                                          {3, "Deindent", "Deindent", QKeySequence("Shift+Tab")},
+                                          separator,
+                                          {4, "Comment out", "Comment out", QKeySequence("Alt+C")},
+                                          {5, "Comment in", "Comment in", QKeySequence("Shift+Alt+C")},
+                                          separator,
+                                          {6, "Duplicate line", "Duplicate line", QKeySequence("Ctrl+D")},
+                                          separator,
+                                          {7, "Move line up", "Move line up", QKeySequence("Ctrl+Shift+Up")},
+                                          {8, "Move line down", "Move line down", QKeySequence("Ctrl+Shift+Down")},
+                                          separator,
+                                      });
     EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
     EXPECT_EQ(picturedOf(actions.menuActions()), (QStringList{"Undo...", "Redo...", "Comment out"}));
     actions.setEnabled(false);
@@ -162,10 +162,11 @@ TEST_F(EditorActions, Edit)
 TEST_F(EditorActions, Sim)
 {
     EditorActionsSim actions(nullptr);
-    expectRows(actions.menuActions(), {
-        {0, "Clear all breakpoints", "Clear all breakpoints", {}},
-        {1, "Set simulator start address to zero", "Set simulator start address to zero", {}},
-    });
+    expectRows(actions.menuActions(),
+               {
+                   {0, "Clear all breakpoints", "Clear all breakpoints", {}},
+                   {1, "Set simulator start address to zero", "Set simulator start address to zero", {}},
+               });
     EXPECT_TRUE(actions.toolBarActions().isEmpty());
     actions.setEnabled(false);
     actions.setEnabled(EditorActionsSim::eActionClearStartPointer, true);
@@ -214,9 +215,9 @@ TEST_F(TipManager, ComposesTheTip)
     QString word = "any";
     ASSERT_TRUE(tip.setTip(word));
     const QString text = tip.findChild<QTextBrowser*>()->toPlainText();
-    for (const char* part : {"Titel", "A short description.", "Input values", "REG_work1", "REG_work5",
-                             "Eingangsregister 1", "Eingangsregister 5", "Output values", "REG_retVal",
-                             "Ausgangsregister"})
+    for (const char* part :
+         {"Titel", "A short description.", "Input values", "REG_work1", "REG_work5", "Eingangsregister 1",
+          "Eingangsregister 5", "Output values", "REG_retVal", "Ausgangsregister"})
         EXPECT_TRUE(text.contains(part)) << part;
     EXPECT_FALSE(text.contains("{content}"));
     EXPECT_LT(text.indexOf("Input values"), text.indexOf("Output values"));

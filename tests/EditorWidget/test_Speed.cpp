@@ -1,4 +1,5 @@
-// Large documents. The limits are wide, as tests share the machine; they fail when a cost grows with the square of a size.
+// Large documents. The limits are wide, as tests share the machine; they fail when a cost grows with the square of a
+// size.
 
 #include "EditorFixture.h"
 
@@ -24,7 +25,8 @@ protected:
         config.addRule(QString(";[^\n]*"), format);
         config.addRule(QString("\\b0[xX]{1}[0-9A-Fa-f]+\\b"), format);
         for (int line = 0; line < lineCount; ++line)
-            large += QString("label%1:\tLOAD s%2, 0x%3 ; word%4\n").arg(line).arg(line % 16).arg(line % 256).arg(line % 300);
+            large +=
+                QString("label%1:\tLOAD s%2, 0x%3 ; word%4\n").arg(line).arg(line % 16).arg(line % 256).arg(line % 300);
         QApplication::processEvents();
     }
     /// Time of a call until all is painted, in milliseconds; the best of some, since others use the machine, too.

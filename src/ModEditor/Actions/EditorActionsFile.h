@@ -12,7 +12,8 @@ class EditorActionsFile : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t {
+    enum eAction_t
+    {
         eActionNew = 0,
         eActionOpen = 1,
         eActionSaveAll = 2,

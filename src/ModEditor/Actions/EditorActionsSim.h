@@ -11,7 +11,11 @@ class EditorActionsSim : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t { eActionClearBreakpoints = 0, eActionClearStartPointer = 1 };
+    enum eAction_t
+    {
+        eActionClearBreakpoints = 0,
+        eActionClearStartPointer = 1
+    };
 
     explicit EditorActionsSim(QObject* parent);
 

@@ -6,8 +6,8 @@ namespace nsModEditor {
 
 /// The layout of a document, which stands questions while the document changes.
 ///
-/// Inside an edit block the document tells the layout nothing. A text edit asks all the same, for instance where the cursor has
-/// come to, and follows the answer into lines that the text no longer has.
+/// Inside an edit block the document tells the layout nothing. A text edit asks all the same, for instance where the
+/// cursor has come to, and follows the answer into lines that the text no longer has.
 class EditorDocumentLayout : public QPlainTextDocumentLayout
 {
     Q_OBJECT

@@ -328,8 +328,8 @@ void EditorWidget::handleKey(QKeyEvent* event)
     }
 }
 
-/// The text edit's own way with a key. With Shift it would separate lines by a character that the file has as a line, while for the
-/// document, its line numbers and marks it is none.
+/// The text edit's own way with a key. With Shift it would separate lines by a character that the file has as a line,
+/// while for the document, its line numbers and marks it is none.
 void EditorWidget::insertLineBreak(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::InsertLineSeparator)) {

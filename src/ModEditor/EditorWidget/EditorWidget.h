@@ -29,15 +29,20 @@ class EditorWidgetLeftMargin;
 
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
 ///
-/// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line numbers
-/// that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
+/// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line
+/// numbers that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
 class EditorWidget : public QPlainTextEdit
 {
     Q_OBJECT
 
 public:
     /// Where a search begins.
-    enum eFindOrigin_t { eFindOriginStart = 0, eFindOriginCursor = 1, eFindOriginEnd = 2 };
+    enum eFindOrigin_t
+    {
+        eFindOriginStart = 0,
+        eFindOriginCursor = 1,
+        eFindOriginEnd = 2
+    };
 
     explicit EditorWidget(QWidget* parent = nullptr);
     ~EditorWidget() override;
@@ -94,8 +99,8 @@ public:
     /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
     void commentIn();
     void duplicateLine();
-    /// Exchanges the selected lines with the one above. On the first line the step to undo that was begun stays open: what
-    /// follows is undone together, until the text is set anew.
+    /// Exchanges the selected lines with the one above. On the first line the step to undo that was begun stays open:
+    /// what follows is undone together, until the text is set anew.
     void moveLineUp();
     /// Exchanges the selected lines with the one below. On the last line as moveLineUp() on the first.
     void moveLineDown();
@@ -252,7 +257,7 @@ private:
     QTextEdit::ExtraSelection m_spareSelection; ///< third colour, never shown
     bool m_lineHighlightEn = false;
     bool m_selectionHighlightEn = false;
-    QString m_markedText; ///< what is marked wherever it occurs, empty for nothing
+    QString m_markedText;       ///< what is marked wherever it occurs, empty for nothing
     QTimer* m_rehighlightTimer; ///< marks of a selection in the lines of a large document that are not on the screen
 
     bool m_lineNumberEn = true;

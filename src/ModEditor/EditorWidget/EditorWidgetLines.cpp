@@ -79,8 +79,8 @@ void EditorWidget::goToNextLine()
 void EditorWidget::indent()
 {
     const QTextCursor cursor = textCursor();
-    const bool severalLines = m_textDocument->findBlock(cursor.selectionStart()) !=
-                              m_textDocument->findBlock(cursor.selectionEnd());
+    const bool severalLines =
+        m_textDocument->findBlock(cursor.selectionStart()) != m_textDocument->findBlock(cursor.selectionEnd());
     if (severalLines)
         forSelectedLines(insertTab);
     else

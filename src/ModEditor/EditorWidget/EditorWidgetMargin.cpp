@@ -265,18 +265,21 @@ void EditorWidget::addMarginMenuEntries(QMenu* menu, int line)
         connect(entry, &QAction::triggered, this, command);
         return entry;
     };
-    add(m_simBreakpoints.contains(line) ? tr("Clear simulator breakpoint") : tr("Set simulator breakpoint"),
-        [this, line] { setSimBreakpoint(line); })
-        ->setIcon(leftMarginContextMenuIconFromColor(m_simBreakpointSymbolColor));
+    add(m_simBreakpoints.contains(line) ? tr("Clear simulator breakpoint") : tr("Set simulator breakpoint"), [this,
+                                                                                                              line] {
+        setSimBreakpoint(line);
+    })->setIcon(leftMarginContextMenuIconFromColor(m_simBreakpointSymbolColor));
     add(tr("Clear all simulator breakpoints of the current file"), [this] { clearSimBreakpoints(); });
     add(tr("Clear all simulator breakpoints"), [this] { emit clearAllBreakpoints(); });
     menu->addSeparator();
-    add(tr("Set simulator start address to this line"), [this, line] { setSimStartPointer(line); })
-        ->setIcon(leftMarginContextMenuIconFromColor(m_simStartPointerSymbolColor));
+    add(tr("Set simulator start address to this line"), [this, line] {
+        setSimStartPointer(line);
+    })->setIcon(leftMarginContextMenuIconFromColor(m_simStartPointerSymbolColor));
     add(tr("Set simulator start address to processor default"), [this] { emit clearAllSimStartPointer(); });
     menu->addSeparator();
-    add(m_bookmarks.contains(line) ? tr("Clear bookmark") : tr("Set bookmark"), [this, line] { setBookmark(line); })
-        ->setIcon(leftMarginContextMenuIconFromColor(m_bookmarkSymbolColor));
+    add(m_bookmarks.contains(line) ? tr("Clear bookmark") : tr("Set bookmark"), [this, line] {
+        setBookmark(line);
+    })->setIcon(leftMarginContextMenuIconFromColor(m_bookmarkSymbolColor));
     add(tr("Clar all bookmarks of the current file"), [this] { clearBookmarks(); });
     add(tr("Clar all bookmarks"), [this] { emit clearAllBookmarks(); });
 }
@@ -298,7 +301,8 @@ void EditorWidget::showLeftMarginContextMenu(const QPoint& pos)
 void EditorWidget::showLeftMarginContextMenuAtCursor()
 {
     ensureCursorVisible();
-    runLeftMarginContextMenu(cursorLine(), m_leftMargin->mapToGlobal(QPoint(symbolMarginWidth(), cursorRect().bottom())));
+    runLeftMarginContextMenu(cursorLine(),
+                             m_leftMargin->mapToGlobal(QPoint(symbolMarginWidth(), cursorRect().bottom())));
 }
 
 } // namespace nsModEditor

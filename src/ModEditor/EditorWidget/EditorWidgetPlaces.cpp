@@ -13,7 +13,8 @@ namespace nsModEditor {
 
 namespace {
 
-/// Lines from which on what is not on the screen is marked a little later, so that a selection can grow without a delay.
+/// Lines from which on what is not on the screen is marked a little later, so that a selection can grow without a
+/// delay.
 const int manyLines = 2000;
 const int rehighlightDelay = 100; ///< milliseconds
 
