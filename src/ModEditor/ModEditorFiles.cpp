@@ -60,7 +60,7 @@ bool ModEditor::readFile(const QString& path, QString* text, bool* isLatin1)
 /// The bytes of a document for its file.
 QByteArray ModEditor::encoded(EditorWidget* widget)
 {
-    const QString text = widget->toPlainText();
+    const QString text = widget->text();
     if (!m_latin1Widgets.contains(widget))
         return text.toUtf8();
     QTextCodec* latin1 = QTextCodec::codecForName("ISO-8859-1");

@@ -127,6 +127,14 @@ TEST_F(Documents, utf8SurvivesOpeningAndSaving)
     EXPECT_EQ(read("a.psm"), text);
 }
 
+TEST_F(Documents, nonBreakingBlanksStayOnes)
+{
+    const QByteArray text = "; 12\xC2\xA0kHz\n";
+    open("a.psm", text);
+    EXPECT_TRUE(editor.saveFile());
+    EXPECT_EQ(read("a.psm"), text);
+}
+
 TEST_F(Documents, bytesThatAreNoUtf8AreNotLost)
 {
     const QByteArray text = "; caf\xE9 \x80\xFF\n";
