@@ -7,6 +7,8 @@
 
 #include <QRegExp>
 
+#include <limits>
+
 namespace nsModAsmFe {
 
 /// Which words, and which bits of them, an item takes from the instruction memory.
@@ -93,7 +95,7 @@ bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& i
     if (!mapInstMem(dev, set, span, *addr))
         return false;
     // The item counts as its whole length; the caller goes on behind its last cell.
-    *addr += span.count() - 1;
+    *addr = int(qMin<qint64>(qint64(*addr) + span.count() - 1, std::numeric_limits<int>::max() - 1));
     return true;
 }
 

@@ -92,6 +92,8 @@ bool ModAsmFe::mapOpcodeToMemSetConfig()
                 return false;
         }
     }
+    // A memory of less than nothing has no room for any instruction either.
+    m_pageSize = qMax(m_pageSize, 0);
     if (qint64(m_pageSize) * m_pageCount > maxMemWords) {
         m_msgHndlr->signError(tr("Instruction memory of %1 pages of %2 words exceeds maximum of %3 words.")
                                   .arg(m_pageCount)
