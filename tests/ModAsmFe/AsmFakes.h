@@ -164,7 +164,7 @@ public:
     QStringList completion;
     QList<QPair<int, QRegExp>> rules;
     nsModEditor::EditorSupportMenu menu;
-    bool withMenu = true;        ///< knob: no menu means no time for its entries
+    bool withMenu = true; ///< knob: is there an insertion menu
     std::function<void()> onMap; ///< knob: what happens when the map is handed over
 };
 

@@ -5,19 +5,21 @@
 
 using namespace nsModAsmFe;
 
-AsmFixture::AsmFixture(bool withBackend)
+AsmFixture::AsmFixture(int parts)
 {
+    editor.withMenu = (parts & partMenu) != 0;
     msg.attach(static_cast<ModMsgPluginIf*>(&asmFe));
     navi.registerPlugin(&asmFe);
     syscall.registerPlugin(&asmFe);
-    editor.registerPlugin(&asmFe);
+    if ((parts & partEditor) != 0)
+        editor.registerPlugin(&asmFe);
     prj.registerPlugin(static_cast<ModPrjPluginIf*>(&asmFe));
     sources.registerPlugin(&asmFe);
     gui.registerPlugin(static_cast<ModGuiPluginIf*>(&asmFe));
     action.registerPlugin(static_cast<ModActionPluginIf*>(&asmFe));
     asmFe.modInit();
     asmFe.modInitIntermod();
-    if (withBackend)
+    if ((parts & partBackend) != 0)
         asmFe.registerPlugin(&be);
     calls.clear();
 }

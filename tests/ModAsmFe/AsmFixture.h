@@ -12,7 +12,10 @@
 class AsmFixture
 {
 public:
-    explicit AsmFixture(bool withBackend = true);
+    /// What a test can have or do without; the editor's words and its menu take their time.
+    enum ePart_t { partNone = 0, partBackend = 1, partEditor = 2, partMenu = 4 };
+
+    explicit AsmFixture(int parts = partBackend | partEditor);
     ~AsmFixture();
 
     QString path(const QString& name) const { return m_dir.filePath(name); }

@@ -29,8 +29,7 @@ QString brokenRule(const AsmFixture& f)
 
 QString hostileRun(const QList<QByteArray>& sources)
 {
-    AsmFixture f;
-    f.editor.withMenu = false;
+    AsmFixture f(AsmFixture::partBackend);
     f.be.pageSize = 1024;
     f.be.firstWord = 0;
     f.open();
@@ -41,8 +40,7 @@ QString hostileRun(const QList<QByteArray>& sources)
 
 QString refusedRun(const QList<QByteArray>& sources)
 {
-    AsmFixture f;
-    f.editor.withMenu = false;
+    AsmFixture f(AsmFixture::partBackend);
     f.be.pageSize = 1024;
     f.open();
     f.setSources(sources);

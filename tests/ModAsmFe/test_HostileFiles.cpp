@@ -98,7 +98,6 @@ protected:
     HostileOutput()
     {
         f.open();
-        f.editor.withMenu = false;
         templateFile = f.write("template", templateText);
     }
 

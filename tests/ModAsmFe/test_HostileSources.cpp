@@ -162,8 +162,8 @@ TEST(HostileSources, manyLines)
 {
     expectGoodEnd([] { return refusedRun({repeated("\n", scaled(8 * oneMb))}); }, 10, 100);
     expectGoodEnd([] { return refusedRun({repeated(";\n", scaled(8 * oneMb))}); }, 10, 100);
-    expectGoodEnd([] { return refusedRun({repeated(":\n", scaled(oneMb))}); }, 20, 900);
-    expectGoodEnd([] { return refusedRun({repeated("a:\n", scaled(oneMb))}); }, 20, 900);
+    expectGoodEnd([] { return refusedRun({repeated(":\n", scaled(oneMb / 4))}); }, 20, 900);
+    expectGoodEnd([] { return refusedRun({repeated("a:\n", scaled(oneMb / 4))}); }, 20, 900);
     expectGoodEnd([] { return refusedRun({repeated("#ENDIF\n", scaled(oneMb))}); }, 20, 700);
     expectGoodEnd([] { return refusedRun({repeated(" LOAD s0, 1\n", scaled(4 * oneMb))}); }, 20, 500);
 }

@@ -35,7 +35,6 @@ QByteArray name(int i)
 QString valueOf(const QByteArray& source, const QByteArray& constant, int expected)
 {
     AsmFixture f;
-    f.editor.withMenu = false;
     if (!f.run(source))
         return "not assembled: " + f.msg.errors().join(" / ").left(300);
     const nsModAsmFe::Equ* equ = f.asmFe.equList()->find("", QString::fromLatin1(constant));
@@ -48,7 +47,6 @@ QString valueOf(const QByteArray& source, const QByteArray& constant, int expect
 QString errorOf(const QByteArray& source, const QString& key, int maxMessages)
 {
     AsmFixture f;
-    f.editor.withMenu = false;
     if (f.run(source))
         return "was not refused";
     if (!f.errors().contains(key))
@@ -218,7 +216,6 @@ TEST(HostileNameSpaces, nestedDeeply)
     expectGoodEnd([] {
         AsmFixture f;
         f.be.pageSize = 4096;
-        f.editor.withMenu = false;
         if (!f.run(nested(1000)))
             return "not assembled: " + f.msg.errors().join(" / ").left(300);
         return f.asmFe.opcodeList()->count() == 1000 ? brokenRule(f) : QString("instructions are missing");
@@ -229,7 +226,6 @@ TEST(HostileNameSpaces, nestedTooDeeply)
 {
     expectGoodEnd([] {
         AsmFixture f;
-        f.editor.withMenu = false;
         if (f.run(nested(10000)))
             return QString("was not refused");
         const QString text = "Namespace exceeds maximum of 32768 characters.";

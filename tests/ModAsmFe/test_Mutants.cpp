@@ -145,8 +145,7 @@ QString runMutants(const QString& processorName, int count, unsigned int seed)
     const QList<QByteArray> sources = allSources();
     if (sources.size() < 400)
         return "the cases are missing";
-    AsmFixture f(false);
-    f.editor.withMenu = false;
+    AsmFixture f(AsmFixture::partNone);
     nsModProcessor::ModProcessor processor;
     f.msg.attach(static_cast<ModMsgPluginIf*>(&processor));
     f.asmFe.registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(&processor));

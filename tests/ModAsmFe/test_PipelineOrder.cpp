@@ -176,7 +176,7 @@ TEST(PipelineOrder, failureWhileWriting)
 
 TEST(PipelineOrder, withoutABackEnd)
 {
-    AsmFixture f(false);
+    AsmFixture f(AsmFixture::partEditor);
     EXPECT_FALSE(f.run(program, ModAsmFe::eEventSave));
     QStringList expected = frontEndCalls;
     expected.removeAll("msg infoSetProcDef");

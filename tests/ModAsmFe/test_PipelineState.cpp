@@ -233,6 +233,43 @@ TEST(PipelineState, completionList)
     EXPECT_TRUE(words.mid(0, commands).contains("UTF-8"));
 }
 
+QStringList entriesOf(AsmFixture* f, const QStringList& path)
+{
+    const nsModEditor::EditorSupportMenuNode* at = &f->editor.menu;
+    for (const QString& name : path) {
+        const nsModEditor::EditorSupportMenuNode* next = nullptr;
+        for (const auto* child : at->children)
+            next = child->name == name ? child : next;
+        if (next == nullptr)
+            return QStringList("no " + name);
+        at = next;
+    }
+    QStringList names;
+    for (const auto* child : at->children)
+        names.append(child->name);
+    names.sort();
+    return names;
+}
+
+TEST(PipelineState, insertionMenu)
+{
+    AsmFixture f(AsmFixture::partBackend | AsmFixture::partEditor | AsmFixture::partMenu);
+    EXPECT_EQ(entriesOf(&f, {"Hardware", "Pages"}), QStringList({"A", "B"}));
+    EXPECT_EQ(entriesOf(&f, {"Hardware", "Register"}).size(), 16);
+    EXPECT_TRUE(f.run("#EQU x, 1\n#NAMESPACE n\n#EQU y, 1\nhere: LOAD s0, y\n#ENDNAMESPACE\nthere: LOAD s0, x\n"));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList({"n::y", "x"}));
+    EXPECT_EQ(entriesOf(&f, {"Label"}), QStringList({"n::here", "there"}));
+    EXPECT_TRUE(entriesOf(&f, {"Directives", "Controlling code generation"}).contains("PROC::FAKE1"));
+    // A run that fails leaves the menu alone, the next good one replaces the names.
+    f.run("other: NONSENSE\n");
+    EXPECT_EQ(entriesOf(&f, {"Label"}), QStringList({"n::here", "there"}));
+    EXPECT_TRUE(f.run("other: LOAD s0, 1\n"));
+    EXPECT_EQ(entriesOf(&f, {"Label"}), QStringList("other"));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList("no Defines"));
+    f.asmFe.unregisterPlugin(&f.be);
+    EXPECT_EQ(entriesOf(&f, {"Hardware"}), QStringList("no Hardware"));
+}
+
 TEST(PipelineState, constantsAreShownAfterEventsOnly)
 {
     AsmFixture f;
@@ -346,7 +383,7 @@ TEST(PipelineBackEnd, withoutTables)
         const QHash<QString, int>* regNames() override { return nullptr; }
         const QHash<QString, int>* regBankNames() override { return nullptr; }
     };
-    AsmFixture f(false);
+    AsmFixture f(AsmFixture::partEditor);
     Bare bare(&f.calls);
     f.asmFe.registerPlugin(&bare);
     EXPECT_TRUE(f.run("s0: JUMP s0\n"));
@@ -355,7 +392,7 @@ TEST(PipelineBackEnd, withoutTables)
 
 TEST(PipelineBackEnd, highlighterAndMenuKnowItsWords)
 {
-    AsmFixture f(false);
+    AsmFixture f(AsmFixture::partEditor);
     f.asmFe.registerPlugin(&f.be);
     EXPECT_TRUE(f.calls.contains("editor.clearHighlighter"));
     QStringList hardware;
