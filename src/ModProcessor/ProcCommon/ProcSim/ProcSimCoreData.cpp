@@ -1,0 +1,125 @@
+#include "ProcSimCoreData.h"
+
+#include <algorithm>
+
+namespace nsProc {
+
+namespace {
+
+/// Takes a text, at no cost when it is the very text that is there already.
+void take(QString* target, const QString& text)
+{
+    if (target->constData() != text.constData())
+        *target = text;
+}
+
+} // namespace
+
+ProcSimCoreData::ProcSimCoreData(int regCount, int bankCount, int scrpdSize)
+    : m_regCount(std::max(regCount, 0))
+    , m_bankCount(bankCount > 1 ? 2 : 1)
+    , m_scrpdSize(std::max(scrpdSize, 0))
+    , m_regs(size_t(m_regCount * m_bankCount))
+{
+}
+
+bool ProcSimCoreData::setReg(int index, const QString& alias, int value)
+{
+    if (index < 0 || index >= m_regCount)
+        return false;
+    sReg_t& target = cell(m_bank, index);
+    take(&target.alias, alias);
+    target.value = quint8(value);
+    target.step = m_step;
+    return true;
+}
+
+bool ProcSimCoreData::reg(int index, const QString& alias, int* value)
+{
+    if (index < 0 || index >= m_regCount)
+        return false;
+    sReg_t& source = cell(m_bank, index);
+    take(&source.alias, alias);
+    *value = source.value;
+    return true;
+}
+
+void ProcSimCoreData::setCarryBit(int value)
+{
+    m_carry = value != 0;
+    m_carryStep = m_step;
+    m_contentChanged = true;
+}
+
+void ProcSimCoreData::setZeroBit(int value)
+{
+    m_zero = value != 0;
+    m_zeroStep = m_step;
+    m_contentChanged = true;
+}
+
+bool ProcSimCoreData::initScrpd(const unsigned int* values, int count)
+{
+    if (count > m_scrpdSize)
+        return false;
+    for (int addr = 0; addr < count; ++addr)
+        storeScrpd(addr, int(values[addr]));
+    return true;
+}
+
+void ProcSimCoreData::storeScrpd(int addr, int value)
+{
+    if (size_t(addr) >= m_scrpd.size())
+        m_scrpd.resize(size_t(addr) + 1);
+    m_scrpd[size_t(addr)] = quint8(value);
+}
+
+bool ProcSimCoreData::setScrpd(int addr, int value)
+{
+    if (addr < 0 || addr >= m_scrpdSize)
+        return false;
+    storeScrpd(addr, value);
+    m_scrpdAddr = addr;
+    m_scrpdStep = m_step;
+    return true;
+}
+
+bool ProcSimCoreData::scrpd(int addr, int* value) const
+{
+    if (addr < 0 || addr >= m_scrpdSize)
+        return false;
+    *value = size_t(addr) < m_scrpd.size() ? m_scrpd[size_t(addr)] : 0;
+    return true;
+}
+
+void ProcSimCoreData::editScrpd(int addr, int value)
+{
+    if (addr >= 0 && addr < m_scrpdSize)
+        storeScrpd(addr, value);
+}
+
+void ProcSimCoreData::setPc(int addr, const QString& pageName)
+{
+    m_pc = addr;
+    take(&m_pageName, pageName);
+}
+
+void ProcSimCoreData::clear()
+{
+    for (sReg_t& reg : m_regs)
+        reg = sReg_t();
+    m_scrpd.clear();
+    m_carry = 0;
+    m_zero = 0;
+    m_interrupt = eIntDisabled;
+    clearHighlighted();
+}
+
+bool ProcSimCoreData::takeContentChanged()
+{
+    const bool changed = m_contentChanged;
+    m_contentChanged = false;
+    return changed;
+}
+
+} // namespace nsProc

@@ -1,0 +1,126 @@
+#pragma once
+
+#include "ProcSimTypes.h"
+
+#include <QString>
+#include <QtGlobal>
+
+#include <vector>
+
+namespace nsProc {
+
+/// The state of a simulated processor core: registers, flags, scratchpad, interrupt state and what is shown of the program counter.
+///
+/// This is the one place where these values live. The widgets show it and write what the user types into it, the simulator reads
+/// and writes it once an instruction. Nothing here knows of a widget, so that a run needs none.
+///
+/// A value that the program has set is highlighted until clearHighlighted(), which costs the same however many there are.
+class ProcSimCoreData
+{
+public:
+    /// @param regCount registers of a bank
+    /// @param bankCount register banks, 1 or 2
+    /// @param scrpdSize bytes of the scratchpad; negative counts as 0
+    ProcSimCoreData(int regCount, int bankCount, int scrpdSize);
+
+    // Registers, 0 to 255 each. Those without a bank work on the selected one.
+    int regCount() const { return m_regCount; }
+    int bankCount() const { return m_bankCount; }
+    /// The program sets a register.
+    /// @param alias the name that the program used
+    /// @param value its low 8 bits are taken
+    /// @return false, with nothing changed, for an index not below regCount()
+    bool setReg(int index, const QString& alias, int value);
+    /// The program reads a register.
+    /// @return false, with nothing changed, for an index not below regCount()
+    bool reg(int index, const QString& alias, int* value);
+    int bank() const { return m_bank; }
+    /// Anything but 1 is bank 0; so is 1 where there is one bank only.
+    void setBank(int bank) { m_bank = bank == 1 && m_bankCount > 1 ? 1 : 0; }
+    void toggleBank() { setBank(1 - m_bank); }
+
+    // For display and edits. The index must be below regCount(), the bank below bankCount().
+    int regValue(int bank, int index) const { return cell(bank, index).value; }
+    const QString& regAlias(int bank, int index) const { return cell(bank, index).alias; }
+    bool isRegHighlighted(int bank, int index) const { return cell(bank, index).step == m_step; }
+    /// The user sets a register: it is not highlighted.
+    void editReg(int bank, int index, int value) { cell(bank, index).value = quint8(value); }
+
+    // Flags, 0 or 1.
+    void setCarryBit(int value);
+    int carryBit() const { return m_carry; }
+    bool isCarryHighlighted() const { return m_carryStep == m_step; }
+    void editCarryBit(int value) { m_carry = value != 0; }
+    void setZeroBit(int value);
+    int zeroBit() const { return m_zero; }
+    bool isZeroHighlighted() const { return m_zeroStep == m_step; }
+    void editZeroBit(int value) { m_zero = value != 0; }
+
+    void setInterrupt(eInt_t state) { m_interrupt = state; }
+    eInt_t interrupt() const { return m_interrupt; }
+
+    /// Value that the instruction `HWBUILD` reads, 0 to 255; the user sets it.
+    void setHwbld(int value) { m_hwbld = value & 0xFF; }
+    int hwbld() const { return m_hwbld; }
+
+    // Scratchpad, bytes.
+    int scrpdSize() const { return m_scrpdSize; }
+    /// Sets the first cells.
+    /// @return false, with nothing changed, with more values than cells
+    bool initScrpd(const unsigned int* values, int count);
+    /// The program writes a cell; it is then the one that is highlighted.
+    /// @return false, with nothing changed, for an address outside
+    bool setScrpd(int addr, int value);
+    bool scrpd(int addr, int* value) const;
+    /// The user sets a cell.
+    void editScrpd(int addr, int value);
+    /// The highlighted cell, -1 if there is none.
+    int scrpdHighlighted() const { return m_scrpdStep == m_step ? m_scrpdAddr : -1; }
+
+    /// What is shown as the address of the next instruction, with the name of its page.
+    /// @param pageName shared with the caller's list
+    void setPc(int addr, const QString& pageName);
+    int pc() const { return m_pc; }
+    const QString& pageName() const { return m_pageName; }
+
+    void clearHighlighted() { ++m_step; }
+    /// Registers of all banks, flags and scratchpad to 0, aliases empty, highlights off, interrupt disabled. The bank stays selected.
+    void clear();
+
+    /// @return true once after a flag was set: what shows the core is then brought to the front
+    bool takeContentChanged();
+
+private:
+    struct sReg_t
+    {
+        QString alias;
+        quint64 step = 0; ///< highlighted while this is the current step
+        quint8 value = 0;
+    };
+
+    sReg_t& cell(int bank, int index) { return m_regs[size_t(bank * m_regCount + index)]; }
+    const sReg_t& cell(int bank, int index) const { return m_regs[size_t(bank * m_regCount + index)]; }
+    void storeScrpd(int addr, int value);
+
+    int m_regCount;
+    int m_bankCount;
+    int m_scrpdSize;
+    std::vector<sReg_t> m_regs;
+    /// Grows with the highest address written: a scratchpad may be declared far larger than a program can reach.
+    std::vector<quint8> m_scrpd;
+    int m_bank = 0;
+    int m_carry = 0;
+    int m_zero = 0;
+    eInt_t m_interrupt = eIntDisabled;
+    int m_hwbld = 0;
+    int m_pc = 0;
+    QString m_pageName;
+    int m_scrpdAddr = -1;
+    bool m_contentChanged = false;
+    quint64 m_step = 1;
+    quint64 m_carryStep = 0;
+    quint64 m_zeroStep = 0;
+    quint64 m_scrpdStep = 0;
+};
+
+} // namespace nsProc
