@@ -1,0 +1,295 @@
+#pragma once
+
+#include "ModAsmFePluginIf.h"
+#include "ModEditorPluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "OpcodeListWatch.h"
+#include "ProcCoreConfig.h"
+#include "ProcSimMsg.h"
+#include "ProcSimTypes.h"
+#include "eOpcode.h"
+
+#include <QMap>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+
+class QTimer;
+
+namespace nsModAsmFe {
+class Arg;
+class IODev;
+} // namespace nsModAsmFe
+
+namespace nsProc {
+
+class ProcSimCallStack;
+class ProcSimCallStackData;
+class ProcSimCore;
+class ProcSimCoreData;
+class ProcSimIO;
+class ProcSimObserver;
+class ProcSimPorts;
+class ProcSimStatusBar;
+class ProcSimWaveViewer;
+struct ProcSimClock;
+struct sCallStackItem_t;
+
+/// What makes one simulated processor differ from another, beside its instructions.
+struct sProcSimTraits_t
+{
+    const char* helpPage;         ///< host of the help links, such as "XPBlze3SimMessages"
+    int bankCount = 1;
+    int callStackCapacity = 31;   ///< levels
+    bool clearsEachInstr = true;  ///< highlights end with each instruction; else only with each single step
+    bool logicClearsCarry = true; ///< `AND`, `OR`, `XOR` set carry to 0, and `TEST` sets it to the parity
+    bool chainsZero = false;      ///< `ADDC` and `SUBC` only keep a zero flag that was set before
+};
+
+/// The simulator that all processors share: it executes the instructions that the assembler has left.
+///
+/// An object of a derived class exists while the user has the simulator enabled. Its state are registers, flags, call stack, ports and
+/// clock count, which live in objects of their own; the widgets in the docks show these and write what the user types into them.
+/// Where there is no main window, there are no widgets, and the simulator works all the same.
+///
+/// The commands that run more than one instruction are loops that handle the user's events after each of them. So anything can be
+/// called while a loop is active, and the instructions can go away: the simulator forgets them when the assembler deletes them.
+class ProcSim : public QObject,
+                public ModMsgPluginIf,
+                public ModGuiPluginIf,
+                public ModAsmFePluginIfInterMod,
+                public ModEditorPluginIfSimulator
+{
+    Q_OBJECT
+
+public:
+    ~ProcSim() override;
+
+    // Life. The hooks must be set.
+
+    /// Makes the state and shows it in the main window, goes to the first instruction.
+    /// @param config settings of the processor; copied
+    /// @return false after a reported error; simExit() is then called for, too
+    bool simInit(const ProcCoreConfig* config);
+    /// Takes over a new assembler result; state and devices stay. Ends a run.
+    /// @return stepping is possible; false after a reported error
+    bool simReload(const ProcCoreConfig* config);
+    /// Takes the widgets from the main window and deletes them. What of a command is still on the stack ends.
+    void simExit();
+
+    // Commands. Those that execute return at once while one of them is in progress.
+
+    /// Ends a run and goes back to the start; the clock count goes on.
+    void simRst();
+    /// Runs until simStop(), a breakpoint or an error.
+    void simRun();
+    /// The command in progress ends after the present instruction.
+    void simStop() { m_running = 0; }
+    bool isRunning() const { return m_running == 1; }
+    void simNextInstruction();
+    /// One instruction; a call together with what it calls.
+    void simNextLine();
+    void simToEndOfCall();
+    void simToCursor();
+    /// @return the program counter stands on the instruction at the cursor or the first one below
+    bool setPcFromCursor();
+    /// Sets or takes back a pending interrupt, if interrupts are enabled.
+    void simInt();
+    void setBase(eBase_t base);
+    /// Takes the breakpoints of the editor over into the instructions.
+    void setBreakpoints();
+    void clearBreakpoints();
+
+    /// Executes one instruction, or enters the interrupt and executes the one at the vector.
+    /// @return false after a reported message; the program counter then stands where it stood
+    bool simOpcode();
+
+    /// @param opcode null after the end of the program: reported
+    /// @return false after a reported error; the program counter has the value all the same
+    bool setProgramCounter(nsModAsmFe::Opcode* opcode);
+    /// The next instruction; null if there is none.
+    nsModAsmFe::Opcode* programCounter() const { return m_pc; }
+    /// The instruction at an address of the page that the program counter stands in; the user is asked where that is not known.
+    /// @return false, and null in the result, if there is none
+    bool getOpcodeOfAddr(int addr, nsModAsmFe::Opcode** result);
+    bool getOpcodeOfCursor(nsModAsmFe::Opcode** result);
+    /// The instruction that the simulation starts with; null if there is none.
+    nsModAsmFe::Opcode* simStartPointer();
+
+    // State. Null before simInit().
+    ProcSimCoreData* core() const { return m_core.get(); }
+    ProcSimCallStackData* callStack() const { return m_callStack.get(); }
+    ProcSimPorts* ports() const { return m_ports.get(); }
+    ProcSimClock* clock() const { return m_clock.get(); }
+    const QStringList& pageNames() const { return m_pageNames; }
+    /// Absolute source line of the next instruction.
+    int lineIndex() const { return m_lineIndex; }
+
+    // Widgets. Null without a main window.
+    ProcSimCore* coreWidget() const { return m_coreWidget; }
+    ProcSimCallStack* callStackWidget() const { return m_callStackWidget; }
+    ProcSimIO* ioWidget() const { return m_ioWidget; }
+    ProcSimStatusBar* statusBarWidget() const { return m_statusBarWidget; }
+    /// Null until the user has asked for it.
+    ProcSimWaveViewer* waveViewer() const { return m_waveViewer; }
+
+    /// @param observer null for none; not owned
+    void setObserver(ProcSimObserver* observer) { m_observer = observer; }
+    /// The key of the last message that was shown, empty if none was since the last call.
+    QString takeLastMsg();
+
+    // ModGuiPluginIf
+    /// The widgets only go with the simulator.
+    void removeWidgetRequest(QWidget* widget) override;
+    void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
+
+public slots:
+    /// Makes the wave viewer, if there is none yet, and brings it to the front.
+    void showWaveViewer();
+    /// Brings the widgets up to date.
+    void updateWidgets();
+
+protected:
+    using Handler = bool (ProcSim::*)();
+
+    explicit ProcSim(const sProcSimTraits_t& traits, QObject* parent = nullptr);
+
+    // What a processor has to say.
+    /// The widget that shows core(); made in simInit().
+    virtual ProcSimCore* createCoreWidget(const std::shared_ptr<ProcSimCoreData>& data, int pcMax) = 0;
+    virtual int regCount() const { return 16; }
+    virtual int scrpdSize() const { return m_config.scrpdSize; }
+    /// Clock cycles of an instruction.
+    virtual int clocksOfInstr() const { return 2; }
+    /// The first of the settings that may not change during a simulation and has; empty if none.
+    virtual QString changedSetting(const ProcCoreConfig& config) const = 0;
+
+    /// Enters an instruction of the processor.
+    void setHandler(nsModAsmFe::eOpcode_t opcode, Handler handler) { m_handlers[opcode] = handler; }
+    template <class Sim>
+    void setHandler(nsModAsmFe::eOpcode_t opcode, bool (Sim::*handler)())
+    {
+        m_handlers[opcode] = static_cast<Handler>(handler);
+    }
+
+    const ProcCoreConfig& config() const { return m_config; }
+
+    // Arguments (ProcSimArgs.cpp): each reports what it can not read.
+    bool getValueNum(const nsModAsmFe::Arg* arg, int* value);
+    bool getValueLabel(const nsModAsmFe::Arg* arg, nsModAsmFe::Opcode** target, QString* name);
+    bool getValueReg(const nsModAsmFe::Arg* arg, int* value);
+    bool getValueRegRef(const nsModAsmFe::Arg* arg, int* value);
+    bool getValueRegNum(const nsModAsmFe::Arg* arg, int* value);
+    bool getValueDoubleRefReg(const nsModAsmFe::Opcode* opcode, nsModAsmFe::Opcode** target, QString* name);
+    bool setValueReg(const nsModAsmFe::Arg* arg, int value);
+    void setCarryBitFromResult(int result);
+    void setZeroBitFromResult(int result);
+    static bool isZeroResult(int result);
+
+    // Call stack. The position of an item is that of the program counter.
+    bool pushToCallstack(const QString& label);
+    bool pullFromCallstack(bool restoreFlags);
+
+    void signMsg(eSimMsg_t type, const QString& arg = QString(), int value = 0);
+    void signInternalError(const QString& text);
+
+    // Ends of instructions.
+    bool finishAt(nsModAsmFe::Opcode* target);
+    bool finish();
+    void addClocks();
+
+    // Instructions (ProcSimInstr.cpp), each on the arguments of the program counter.
+    bool simOpcode_unsupported();
+    bool simOpcode_load();
+    bool simOpcode_add(bool withCarry);
+    bool simOpcode_addNoCarry() { return simOpcode_add(false); }
+    bool simOpcode_addWithCarry() { return simOpcode_add(true); }
+    bool simOpcode_sub(bool withCarry);
+    bool simOpcode_subNoCarry() { return simOpcode_sub(false); }
+    bool simOpcode_subWithCarry() { return simOpcode_sub(true); }
+    bool simOpcode_and();
+    bool simOpcode_or();
+    bool simOpcode_xor();
+    bool simOpcode_comp(bool withCarry);
+    bool simOpcode_compNoCarry() { return simOpcode_comp(false); }
+    bool simOpcode_compWithCarry() { return simOpcode_comp(true); }
+    bool simOpcode_test();
+    bool simOpcode_sr();
+    bool simOpcode_jump();
+    bool simOpcode_call();
+    bool simOpcode_ret();
+    bool simOpcode_retI();
+    bool simOpcode_int();
+    bool simOpcode_nop();
+    bool simOpcode_rdMem();
+    bool simOpcode_wrMem();
+    bool simOpcode_rdPrt();
+    bool simOpcode_wrPrt();
+    /// Is the condition of the first argument met? Without a condition it is.
+    bool isConditionMet(const nsModAsmFe::Arg* arg, bool* met);
+    /// Reads destination and source of an instruction with two operands.
+    bool operands(int* dst, int* src);
+    bool finishLogic(int result);
+    virtual bool takesComputedTargets() const { return false; }
+    virtual bool takesPortConstants() const { return false; }
+
+    nsModAsmFe::Opcode* m_pc = nullptr; ///< not owned; null after the instructions were deleted
+
+private:
+    // Life and widgets (ProcSim.cpp).
+    bool initIODevices();
+    bool initIODevice(nsModAsmFe::IODev* dev);
+    void createWidgets();
+    template <class Widget>
+    void dropWidget(QPointer<Widget>* widget);
+    void forgetOpcodes();
+    void showHighlight();
+    void clearHighlights();
+
+    // Commands (ProcSimRun.cpp).
+    template <class Ends>
+    void runLoop(Ends ends);
+    void startRun();
+    void endRun();
+    bool goOn();
+    void syncBreakpoints();
+    bool enterInterrupt();
+    /// Page in which to look an address up, while the program counter stands in the shared range.
+    bool resolvePage(int* memRange);
+    bool readPort(const nsModAsmFe::Arg* arg, int addr, int* value);
+    bool target(const nsModAsmFe::Arg* arg, nsModAsmFe::Opcode** opcode, QString* name);
+    int shifted(int value, int* carry) const;
+
+    sProcSimTraits_t m_traits;
+    Handler m_handlers[nsModAsmFe::ocCount];
+    ProcCoreConfig m_config;
+    QStringList m_pageNames; ///< by range: shared, then the pages
+    int m_lineIndex = 0;
+    int m_lastPage = 1; ///< range of the page that was executed last
+    int m_running = 0;
+    eBase_t m_base = eBaseHex;
+    QString m_lastMsg;
+    ProcSimObserver* m_observer = nullptr;
+    nsModAsmFe::OpcodeListWatch m_watch;
+    QMap<QString, QList<int>> m_breakpoints; ///< as the instructions have them
+    bool m_breakpointsTaken = false;
+
+    std::shared_ptr<ProcSimCoreData> m_core;
+    std::shared_ptr<ProcSimCallStackData> m_callStack;
+    std::shared_ptr<ProcSimPorts> m_ports;
+    std::shared_ptr<ProcSimClock> m_clock;
+
+    QPointer<ProcSimCore> m_coreWidget;
+    QPointer<ProcSimCallStack> m_callStackWidget;
+    QPointer<ProcSimIO> m_ioWidget;
+    QPointer<ProcSimStatusBar> m_statusBarWidget;
+    QPointer<ProcSimWaveViewer> m_waveViewer;
+    QPointer<QWidget> m_lastBottomWidget; ///< the one of the bottom dock that was shown last
+    QTimer* m_displayTimer;
+};
+
+} // namespace nsProc

@@ -1,0 +1,41 @@
+#include "ProcSimMsg.h"
+
+#include <QtGlobal>
+
+namespace nsProc {
+
+namespace {
+
+// The context of the translation is the class that shows the messages.
+#define NALVO_MSG(key, text) {#key, QT_TRANSLATE_NOOP("nsProc::ProcSim", text)}
+
+/// Indexed by eSimMsg_t.
+const sSimMsg_t simMsgs[eSimMsgCount] = {
+    NALVO_MSG(errNoOpcodeToExec, "No command to execute!"),
+    NALVO_MSG(errNoOpcodeAtIntVect, "No instruction at interrupt vector: %1"),
+    NALVO_MSG(errNoOpcodeAssembled, "Need successfull assembled code for simulation."),
+    NALVO_MSG(warnCallStackInvalidDueToReload,
+              "Call stack may becomes invalid due to reloading sources to simulator!"),
+    NALVO_MSG(errCallStackOverflow, "Call stack overflow!"),
+    NALVO_MSG(errCallStackEmpty, "Call stack is empty! Nothing to return."),
+    NALVO_MSG(errCallStackInvalidRetAddr, "Call stack contains an invalid return address."),
+    NALVO_MSG(errScrpdRd, "Can not read scratchpad value."),
+    NALVO_MSG(errScrpdWr, "Can not write scratchpad value."),
+    NALVO_MSG(warnIODevAddedToRd, "An IO device was added to read. Please type in your value."),
+    NALVO_MSG(errIODevRd, "Can not read IO value."),
+    NALVO_MSG(errRegRd, "Can not get value of register: %1"),
+    NALVO_MSG(errHwBuildRd, "Can not read hwbuild value."),
+    NALVO_MSG(errProcSetChanged, "At least one processor settings was changed. Please restart simulator or restore the "
+                                 "setting: %1"),
+    NALVO_MSG(errPcRestore, "Can not restore program counter. Please set manually from cursor."),
+    NALVO_MSG(errPcNoPrjFile, "The current file not part of the project."),
+};
+
+} // namespace
+
+const sSimMsg_t* simMsg(int type)
+{
+    return type >= 0 && type < eSimMsgCount ? &simMsgs[type] : nullptr;
+}
+
+} // namespace nsProc
