@@ -124,8 +124,8 @@ private:
     {
         char bits[] = "b00000000 ";
         for (int bit = 0; bit < 8; ++bit)
-            bits[8 - bit] = char('0' + ((value >> bit) & 1));
-        append(bits + wireCode(channel) + '\n');
+            bits[8 - bit] = ((value >> bit) & 1) != 0 ? '1' : '0';
+        append(QByteArray(bits) + wireCode(channel) + '\n');
     }
 
     /// The values that all wires have at time 0. From here on, `next` tells the index of each channel's next value.

@@ -30,7 +30,7 @@ ProcSimWaveColumns::ProcSimWaveColumns(const ProcSimWaveData::sAddrChannel_t& ch
         if (x >= width)
             return;
         const size_t end = ProcSimWaveData::indexAt(channel, time.boundary(x + 1), index);
-        columns.push_back({x, index, end, ProcSimWaveData::bits(channel, index, end)});
+        columns.push_back({x, index, end, values[end - 1].value, ProcSimWaveData::bits(channel, index, end)});
         index = end;
         ++x;
     }

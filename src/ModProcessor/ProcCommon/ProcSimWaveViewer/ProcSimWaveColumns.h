@@ -19,6 +19,7 @@ struct ProcSimWaveColumns
         int x;
         size_t first;                  ///< index of the first value
         size_t end;                    ///< index behind the last value
+        int value;                     ///< the last value
         ProcSimWaveData::sBits_t bits; ///< of these values
     };
 

@@ -65,16 +65,31 @@ QString ProcSimWaveTime::text(qint64 clock) const
 {
     if (!m_seconds)
         return QString::number(clock);
-    return secondsText(double(clock) / m_clkFreq, roundStep(1 / m_clkFreq / 10));
+    return secondsText(double(clock) / m_clkFreq, exactStep());
+}
+
+QString ProcSimWaveTime::clocksText(qint64 clock)
+{
+    return clock == 1 ? QCoreApplication::translate("ProcSimWaveTime", "1 clock")
+                      : QCoreApplication::translate("ProcSimWaveTime", "%1 clocks").arg(clock);
+}
+
+QString ProcSimWaveTime::unitText(qint64 clock) const
+{
+    return m_seconds ? text(clock) : clocksText(clock);
 }
 
 QString ProcSimWaveTime::longText(qint64 clock) const
 {
-    QString result = clock == 1 ? QCoreApplication::translate("ProcSimWaveTime", "1 clock")
-                                : QCoreApplication::translate("ProcSimWaveTime", "%1 clocks").arg(clock);
-    if (hasClkFreq())
-        result += QStringLiteral(" (%1)").arg(secondsText(double(clock) / m_clkFreq, roundStep(1 / m_clkFreq / 10)));
-    return result;
+    if (!hasClkFreq())
+        return clocksText(clock);
+    return QStringLiteral("%1 (%2)").arg(clocksText(clock), secondsText(double(clock) / m_clkFreq, exactStep()));
+}
+
+/// Tells the moments of single clocks apart.
+double ProcSimWaveTime::exactStep() const
+{
+    return roundStep(0.1 / m_clkFreq);
 }
 
 } // namespace nsProc

@@ -39,10 +39,14 @@ public:
     QVector<sTick_t> ticks(int width, int distance) const;
     /// A moment, as exact as it is meaningful: "120" or "2.4 us".
     QString text(qint64 clock) const;
+    /// A moment with its unit: "120 clocks" or "2.4 us".
+    QString unitText(qint64 clock) const;
     /// A moment in both units, where both are known: "120 clocks (2.4 us)".
     QString longText(qint64 clock) const;
 
 private:
+    static QString clocksText(qint64 clock);
+    double exactStep() const;
     QString secondsText(double seconds, double step) const;
 
     double m_clkFreq;

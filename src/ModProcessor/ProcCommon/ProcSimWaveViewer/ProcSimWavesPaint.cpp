@@ -177,10 +177,100 @@ QVector<ProcSimWavesWidget::sSegment_t> ProcSimWavesWidget::segments(const ProcS
             append(column.x, column.x + 1, valueDense);
             start = column.x + 1;
         }
-        value = (column.bits.isUniform()) ? int(column.bits.any) : valueOf(column);
+        value = column.value;
     }
     append(start, endColumn(), value);
     return result;
+}
+
+void ProcSimWavesWidget::paintWaveNumeric(QPainter* painter, sWave_t* wave)
+{
+    paintSegments(painter, wave, segments(columns(wave->channel)));
+}
+
+void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, const QVector<sSegment_t>& segments)
+{
+    const int top = topOf(wave);
+    const int bottom = bottomOf(wave);
+    const int middle = (top + bottom) / 2;
+    const int baseLine = top + (bottom - top + 1 + painter->fontMetrics().ascent() - painter->fontMetrics().descent() + 1) / 2;
+    QVector<QLine> lines;
+    lines.reserve(segments.size() * 6);
+    painter->setPen(colUnknown);
+    for (const sSegment_t& segment : segments) {
+        if (segment.value == valueUnknown) {
+            painter->drawLine(segment.x0, middle, segment.x1, middle);
+        } else if (segment.value == valueDense) {
+            painter->fillRect(segment.x0, top, segment.x1 - segment.x0, bottom - top + 1, colDense);
+            lines << QLine(segment.x0, top, segment.x1 - 1, top) << QLine(segment.x0, bottom, segment.x1 - 1, bottom);
+        } else {
+            // A value is a tube with pointed ends.
+            const int x0 = segment.x0;
+            const int x1 = segment.x1;
+            lines << QLine(x0 + 2, top, x1 - 2, top) << QLine(x0 + 2, bottom, x1 - 2, bottom);
+            lines << QLine(x0, middle, x0 + 2, top) << QLine(x0, middle, x0 + 2, bottom);
+            lines << QLine(x1 - 2, top, x1, middle) << QLine(x1 - 2, bottom, x1, middle);
+        }
+    }
+    painter->setPen(waveColor());
+    painter->drawLines(lines);
+    painter->setPen(colText);
+    for (const sSegment_t& segment : segments) {
+        if (segment.value < 0)
+            continue;
+        const int x = qMax(segment.x0, 0) + textDistance;
+        // Nothing follows the last value: its text may reach behind the present time.
+        const bool isLast = &segment == &segments.last();
+        if (x + m_textWidth + textDistance - 1 <= segment.x1 || (isLast && x + m_textWidth < width()))
+            painter->drawText(x, baseLine, m_valueTexts.at(segment.value));
+    }
+}
+
+void ProcSimWavesWidget::paintWaveBit(QPainter* painter, sWave_t* wave)
+{
+    const ProcSimWaveColumns& shown = columns(wave->channel);
+    const int top = topOf(wave);
+    const int bottom = bottomOf(wave);
+    const auto bitOf = [wave](int value) { return (value >> wave->bit) & 1; };
+    QVector<QLine> lines;
+    int start = 0;
+    int edges = 0; // columns before `start` in which the bit changes, side by side
+    int level = shown.before < 0 ? valueUnknown : bitOf(shown.before);
+    const auto appendEdges = [&] {
+        if (edges == 1) {
+            lines << QLine(start, top, start, bottom);
+        } else if (edges > 1) {
+            const int first = start - edges + 1;
+            painter->fillRect(first, top, edges, bottom - top, colDense);
+            lines << QLine(first, top, start, top) << QLine(first, bottom, start, bottom);
+        }
+        edges = 0;
+    };
+    const auto append = [&](int x) {
+        appendEdges();
+        if (level == valueUnknown) {
+            painter->setPen(colUnknown);
+            painter->drawLine(start, (top + bottom) / 2, x, (top + bottom) / 2);
+        } else {
+            const int y = level == 1 ? top : bottom;
+            if (level == 1 && x > start)
+                painter->fillRect(start, top, x - start, bottom - top, colHigh);
+            lines << QLine(start, y, x, y);
+        }
+    };
+    for (const ProcSimWaveColumns::sColumn_t& column : shown.columns) {
+        const int next = bitOf(column.value);
+        if (bitOf(column.bits.any) == bitOf(column.bits.all) && next == level)
+            continue;
+        if (edges == 0 || column.x != start + 1)
+            append(column.x);
+        ++edges;
+        start = column.x;
+        level = next;
+    }
+    append(endColumn());
+    painter->setPen(waveColor());
+    painter->drawLines(lines);
 }
 
 } // namespace nsProc

@@ -115,6 +115,17 @@ double ProcSimWavesWidget::end() const
     return double(m_data->clock()) + 1;
 }
 
+/// When the values that are held begin.
+double ProcSimWavesWidget::begin() const
+{
+    qint64 first = -1;
+    for (const auto& channel : m_data->channels()) {
+        if (!channel->values.empty() && (first < 0 || channel->values.front().clock < first))
+            first = channel->values.front().clock;
+    }
+    return double(qMax<qint64>(0, first));
+}
+
 double ProcSimWavesWidget::maxFirst() const
 {
     return qMax(0.0, end() - qMax(1, width() - endMargin) / m_time.pxPerClock());
@@ -122,7 +133,7 @@ double ProcSimWavesWidget::maxFirst() const
 
 double ProcSimWavesWidget::fitScale() const
 {
-    return qMin(scaleMax, qMax(1, width() - endMargin) / end());
+    return qMin(scaleMax, qMax(1, width() - endMargin) / qMax(1.0, end() - begin()));
 }
 
 int ProcSimWavesWidget::endColumn() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimWaveColumns.h"
 #include "ProcSimWaveData.h"
 #include "ProcSimWaveTime.h"
 
@@ -12,8 +13,6 @@
 class QScrollBar;
 
 namespace nsProc {
-
-struct ProcSimWaveColumns;
 
 /// Draws waves against time: one row a wave, under an axis of time.
 ///
@@ -102,6 +101,7 @@ private:
         int value;
     };
 
+    double begin() const;
     double end() const;
     double maxFirst() const;
     double fitScale() const;
