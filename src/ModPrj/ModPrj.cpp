@@ -375,6 +375,8 @@ nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(false);
+    if (modGuiHook == nullptr)
+        return nullptr;
     if (!m_page)
         m_page = new PrjConfigPage;
     return m_page;

@@ -181,7 +181,12 @@ QString SourcesConfigPage::pathBeneathPrj(const QString& path) const
 
 void SourcesConfigPage::refuse(const QString& path, const QString& reason)
 {
-    QMessageBox::warning(this, tr("Adding file"), path + QLatin1String(": \n\n") + reason);
+    // On the heap, as the page can vanish below it, and takes it along.
+    const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Warning, tr("Adding file"),
+                                                    path + QLatin1String(": \n\n") + reason, QMessageBox::Ok, this));
+    box->setTextFormat(Qt::PlainText);
+    box->exec();
+    delete box;
 }
 
 void SourcesConfigPage::removeFile()

@@ -54,6 +54,16 @@ QList<int> SourcesListWidget::selectedRows() const
     return rows;
 }
 
+void SourcesListWidget::focusInEvent(QFocusEvent* event)
+{
+    QListWidget::focusInEvent(event);
+    // Who comes by the keyboard wants to go on with it; without a selection its keys would do nothing.
+    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+                       event->reason() == Qt::ShortcutFocusReason;
+    if (byKey && count() > 0 && selectedItems().isEmpty())
+        setCurrentRow(qMax(0, currentRow()), QItemSelectionModel::ClearAndSelect);
+}
+
 void SourcesListWidget::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Delete))
@@ -101,7 +111,7 @@ void SourcesListWidget::dropEvent(QDropEvent* event)
         int target = index.isValid() ? index.row() : count();
         if (index.isValid() && event->pos().y() > visualRect(index).center().y())
             ++target;
-        moveSelectionTo(target);
+        moveRowsTo(target);
         // Said to be a copy, lest the view takes the rows away that it has dragged.
         event->setDropAction(Qt::CopyAction);
         event->accept();
@@ -116,7 +126,7 @@ void SourcesListWidget::dropEvent(QDropEvent* event)
     emit filesDropped(paths);
 }
 
-void SourcesListWidget::moveSelectionTo(int target)
+void SourcesListWidget::moveRowsTo(int target)
 {
     const QList<int> rows = selectedRows();
     QList<QListWidgetItem*> moved;

@@ -18,6 +18,10 @@ public:
     /// Rows of the selection, ascending.
     QList<int> selectedRows() const;
 
+    /// Moves the selected rows, in their order, to the place before a row.
+    /// @param target row before the move, 0 to count()
+    void moveRowsTo(int target);
+
 signals:
     /// Local files were dropped on the list.
     /// @param paths absolute paths
@@ -29,6 +33,7 @@ signals:
     void orderChanged();
 
 protected:
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
@@ -36,8 +41,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    void moveSelectionTo(int row);
-
     QString m_emptyText;
 };
 
