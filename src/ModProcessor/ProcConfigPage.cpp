@@ -24,7 +24,8 @@ ProcConfigPage::ProcConfigPage(ProcList* list, QWidget* parent)
     m_processors->setObjectName(QStringLiteral("processor"));
     m_configWidgets->setObjectName(QStringLiteral("processorConfig"));
     m_layout->addSection(tr("Processor"));
-    m_layout->addField(tr("Processor:"), m_processors, tr("Processor that the programs of the project are written for"));
+    m_layout->addField(tr("Processor:"), m_processors,
+                       tr("Processor that the programs of the project are written for"));
     m_layout->addSection(tr("Processor configuration"));
     m_layout->addFill(m_configWidgets);
 
@@ -52,9 +53,10 @@ ProcConfigPage::~ProcConfigPage()
 QWidget* ProcConfigPage::createUnsetWidget()
 {
     auto* widget = new QWidget(m_configWidgets);
-    auto* hint = new QLabel(tr("No processor is chosen. Choose one above: its settings appear here, and the project's sources "
-                               "can be assembled."),
-                            widget);
+    auto* hint =
+        new QLabel(tr("No processor is chosen. Choose one above: its settings appear here, and the project's sources "
+                      "can be assembled."),
+                   widget);
     hint->setObjectName(QStringLiteral("pageHint"));
     hint->setWordWrap(true);
     auto* layout = new QVBoxLayout(widget);
@@ -115,7 +117,8 @@ QString ProcConfigPage::pageTitle()
 
 QString ProcConfigPage::pageHelpRef()
 {
-    return m_shown != nullptr ? m_shown->configWidget()->widgetHelpRef() : QStringLiteral("pageId://configPageProcessor");
+    return m_shown != nullptr ? m_shown->configWidget()->widgetHelpRef()
+                              : QStringLiteral("pageId://configPageProcessor");
 }
 
 void ProcConfigPage::setPrjConfigEnabled(bool enabled)

@@ -4,16 +4,17 @@ namespace nsProc {
 
 sProcConfigField procConfigClkFreq()
 {
-    return {"clkFreq",
-            sProcConfigField::ePageCore,
-            sProcConfigField::eFrequency,
-            QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Clock frequency:"),
-            QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "MHz"),
-            QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Clock of the processor; the simulator counts its time with it"),
-            nullptr,
-            0,
-            10000,
-            0};
+    return {
+        "clkFreq",
+        sProcConfigField::ePageCore,
+        sProcConfigField::eFrequency,
+        QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Clock frequency:"),
+        QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "MHz"),
+        QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Clock of the processor; the simulator counts its time with it"),
+        nullptr,
+        0,
+        10000,
+        0};
 }
 
 sProcConfigField procConfigPageSize()
