@@ -1,8 +1,8 @@
 #include "ProcSimWaveViewer.h"
 
 #include "ProcSimVcd.h"
-#include "ProcSimWavesWidget.h"
 #include "ProcSimWaveTree.h"
+#include "ProcSimWavesWidget.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QSaveFile>
 #include <QScrollBar>
 #include <QSplitter>
@@ -41,11 +42,10 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
     connect(m_zoomOut, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::zoomOut);
     connect(m_fit, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::fit);
     connect(m_end, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::showEnd);
-    connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), m_wavesWidget,
-            [this](int index) {
-                m_wavesWidget->setSeconds(index == 1);
-                showMoment(-1);
-            });
+    connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), m_wavesWidget, [this](int index) {
+        m_wavesWidget->setSeconds(index == 1);
+        showMoment(-1);
+    });
     connect(m_tree, &ProcSimWaveTree::removeRequested, this, &ProcSimWaveViewer::removeAddrChannel);
     connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, m_tree, &ProcSimWaveTree::showValues);
     connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, this, [this] { showMoment(-1); });
@@ -55,6 +55,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
         QScrollBar* rows = m_tree->verticalScrollBar();
         rows->setValue(rows->value() - event->angleDelta().y() * rows->singleStep() * 3 / 120);
     });
+    setBase(m_base);
     setupOrder();
     updateButtons();
     showMoment(-1);
@@ -71,8 +72,8 @@ QSize ProcSimWaveViewer::sizeHint() const
     return {800, 200};
 }
 
-QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
-                                              const QString& toolTip)
+QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text, const QString& icon,
+                                              const QString& name, const QString& toolTip)
 {
     QAbstractButton* button = nullptr;
     if (text.isEmpty()) {
@@ -104,7 +105,8 @@ QWidget* ProcSimWaveViewer::makeToolRow()
     m_addr = new QLineEdit(row);
     m_addr->setObjectName(QStringLiteral("procSimWaveAddr"));
     m_addr->setToolTip(tr("Address of the port whose values are to be shown, in the present number base"));
-    m_addr->setMaxLength(3);
+    m_addrValidator = new QRegularExpressionValidator(m_addr);
+    m_addr->setValidator(m_addrValidator);
     m_addr->setFixedWidth(56);
     title->setBuddy(m_addr);
     connect(m_addr, &QLineEdit::returnPressed, this, [this] { addWave(); });
@@ -117,7 +119,8 @@ QWidget* ProcSimWaveViewer::makeToolRow()
     layout->addWidget(m_access);
     m_add = addButton(row, tr("&Add"), QStringLiteral("waveAdd"), QStringLiteral("procSimWaveAdd"),
                       tr("Watch this port from now on"));
-    m_removeAll = addButton(row, tr("&Remove all"), {}, QStringLiteral("procSimWaveRemoveAll"), tr("Watch no port any longer"));
+    m_removeAll =
+        addButton(row, tr("&Remove all"), {}, QStringLiteral("procSimWaveRemoveAll"), tr("Watch no port any longer"));
     layout->addSpacing(8);
     m_message = new QLabel(row);
     m_message->setObjectName(QStringLiteral("statusBarTitle"));
@@ -136,7 +139,8 @@ QWidget* ProcSimWaveViewer::makeToolRow()
                          tr("Show a shorter time (Ctrl with the wheel, or the plus key)"));
     m_fit = addButton(row, {}, QStringLiteral("waveZoomFit"), QStringLiteral("procSimWaveZoomFit"),
                       tr("Show all of the time, also as it goes on"));
-    m_end = addButton(row, tr("&Now"), {}, QStringLiteral("procSimWaveEnd"), tr("Show the present time and follow it (End key)"));
+    m_end = addButton(row, tr("&Now"), {}, QStringLiteral("procSimWaveEnd"),
+                      tr("Show the present time and follow it (End key)"));
     m_save = addButton(row, tr("&Save..."), QStringLiteral("waveSave"), QStringLiteral("procSimWaveSave"),
                        tr("Save the values as a value change dump (VCD), which other wave viewers open"));
     return row;
@@ -178,8 +182,8 @@ QWidget* ProcSimWaveViewer::makePanes()
 
 void ProcSimWaveViewer::setupOrder()
 {
-    QWidget* order[] = {m_addr, m_access, m_add,  m_removeAll, m_unit, m_zoomOut, m_zoomIn,
-                        m_fit,  m_end,    m_save, m_tree,      m_wavesWidget};
+    QWidget* order[] = {m_addr,   m_access, m_add, m_removeAll, m_unit, m_zoomOut,
+                        m_zoomIn, m_fit,    m_end, m_save,      m_tree, m_wavesWidget};
     for (size_t index = 1; index < std::size(order); ++index)
         QWidget::setTabOrder(order[index - 1], order[index]);
 }
@@ -201,6 +205,9 @@ void ProcSimWaveViewer::setBase(int base)
 {
     const int addr = enteredAddr();
     m_base = base;
+    const QString digits =
+        base == 16 ? QStringLiteral("[0-9A-Fa-f]{0,2}") : QStringLiteral("[0-%1]{0,3}").arg(base - 1);
+    m_addrValidator->setRegularExpression(QRegularExpression(digits));
     if (addr >= 0)
         m_addr->setText(QStringLiteral("%1").arg(addr, 2, base, QLatin1Char('0')).toUpper());
     m_wavesWidget->setBase(base);
@@ -289,7 +296,8 @@ bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initV
 void ProcSimWaveViewer::removeAddrChannel(sAddrChannel_t* channel)
 {
     m_tree->removeChannel(channel);
-    m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(), [channel](const auto& wave) { return wave->channel == channel; }),
+    m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(),
+                                 [channel](const auto& wave) { return wave->channel == channel; }),
                   m_waves.end());
     m_data.removeChannel(channel);
     if (m_data.isEmpty())
@@ -390,7 +398,8 @@ void ProcSimWaveViewer::save()
         m_lastPath = path;
         say(tr("Saved as \"%1\".").arg(QFileInfo(path).fileName()));
     } else {
-        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"), tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
+        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"),
+                             tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
     }
 }
 

@@ -11,6 +11,7 @@ class QAbstractButton;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QRegularExpressionValidator;
 class QScrollBar;
 
 namespace nsProc {
@@ -20,8 +21,8 @@ class ProcSimWaveTree;
 
 /// Shows the values that pass through watched ports of a simulated processor against time.
 ///
-/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is watched there is
-/// nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
+/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is
+/// watched there is nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
 class ProcSimWaveViewer : public QWidget
 {
     Q_OBJECT
@@ -102,6 +103,7 @@ private:
     bool m_stale = false;
     QString m_lastPath;
     QLineEdit* m_addr = nullptr;
+    QRegularExpressionValidator* m_addrValidator = nullptr; ///< digits of the present base
     QComboBox* m_access = nullptr;
     QComboBox* m_unit = nullptr;
     QAbstractButton* m_add = nullptr;
