@@ -42,21 +42,10 @@ void ProcShell::modExit()
     m_asmBe = nullptr;
 }
 
-nsModProcessor::ProcConfigPluginIf* ProcShell::configWidget()
-{
-    return nullptr;
-}
-
-void ProcShell::configWidgetSetConfig() {}
-
-void ProcShell::configWidgetFetchConfig() {}
-
 bool ProcShell::configWidgetCloseRequest()
 {
     return true;
 }
-
-void ProcShell::configWidgetClose() {}
 
 QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
 {

@@ -1,5 +1,6 @@
 #include "XPBlze3.h"
 
+#include "XPBlze3ConfigWidget.h"
 #include "XPBlze3AsmBe.h"
 
 namespace nsXPBlze3 {
@@ -27,6 +28,11 @@ QString XPBlze3::cfgSection() const
 nsProc::ProcCoreConfig XPBlze3::defaultConfig() const
 {
     return XPBlze3Config();
+}
+
+nsProc::ProcConfigWidget* XPBlze3::createConfigWidget()
+{
+    return new XPBlze3ConfigWidget;
 }
 
 } // namespace nsXPBlze3

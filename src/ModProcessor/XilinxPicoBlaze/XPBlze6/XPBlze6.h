@@ -19,6 +19,7 @@ protected:
     nsProc::ProcAsmBe* createAsmBe() override;
     QString cfgSection() const override;
     nsProc::ProcCoreConfig defaultConfig() const override;
+    nsProc::ProcConfigWidget* createConfigWidget() override;
     QList<QPair<QString, int*>> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
 };
 
