@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QMessageBox>
 #include <QPointer>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -125,10 +126,18 @@ void SourcesConfigPage::updateButtons()
 {
     const QList<int> rows = m_list->selectedRows();
     const bool any = !rows.isEmpty();
-    m_remove->setEnabled(any);
     // A block that stands at the end already can not go further.
-    m_up->setEnabled(any && rows.last() >= rows.size());
-    m_down->setEnabled(any && rows.first() < m_list->count() - rows.size());
+    enableButton(m_remove, any);
+    enableButton(m_up, any && rows.last() >= rows.size());
+    enableButton(m_down, any && rows.first() < m_list->count() - rows.size());
+}
+
+void SourcesConfigPage::enableButton(QPushButton* button, bool enabled)
+{
+    // Else the focus would go to the neighbour, which does something else with the next stroke.
+    if (!enabled && button->hasFocus())
+        m_list->setFocus();
+    button->setEnabled(enabled);
 }
 
 // --- buttons ---
@@ -192,6 +201,7 @@ void SourcesConfigPage::refuse(const QString& path, const QString& reason)
 void SourcesConfigPage::removeFile()
 {
     const QList<int> rows = m_list->selectedRows();
+    const QSignalBlocker blocker(m_list);
     for (auto it = rows.crbegin(); it != rows.crend(); ++it)
         delete m_list->takeItem(*it);
     // The next file takes the place, so that several can go one after the other.
@@ -218,6 +228,8 @@ void SourcesConfigPage::moveSelection(int step)
     if (step > 0)
         std::reverse(rows.begin(), rows.end());
     int border = step < 0 ? 0 : m_list->count() - 1;
+    // The buttons are judged by the outcome, not by each step.
+    const QSignalBlocker blocker(m_list);
     for (int row : qAsConst(rows)) {
         const int target = step < 0 ? qMax(row - 1, border) : qMin(row + 1, border);
         border = target - step;

@@ -58,6 +58,7 @@ private:
     QString pathBeneathPrj(const QString& path) const;
     void refuse(const QString& path, const QString& reason);
     void moveSelection(int step);
+    void enableButton(QPushButton* button, bool enabled);
     QPushButton* makeButton(const QString& text, const QString& toolTip, const char* slot);
 
     QDir m_prjDir;

@@ -281,6 +281,19 @@ TEST_F(SourcesPageTest, theKeyboardDoesTheSame)
     EXPECT_EQ(shown(), QStringList());
 }
 
+TEST_F(SourcesPageTest, aButtonKeepsTheFocusAsLongAsItCanBePressed)
+{
+    openPrj({"main.psm", "uart.psm", "lib/tick.psm"});
+    openPage();
+    clickRow(2);
+    button("Up")->setFocus();
+    QTest::keyClick(button("Up"), Qt::Key_Space);
+    EXPECT_TRUE(button("Up")->hasFocus());
+    QTest::keyClick(button("Up"), Qt::Key_Space);
+    EXPECT_EQ(shown(), QStringList({"lib/tick.psm", "main.psm", "uart.psm"}));
+    EXPECT_TRUE(list()->hasFocus()) << "and then leaves it to the list, not to its neighbour";
+}
+
 TEST_F(SourcesPageTest, theButtonsFollowTheSelection)
 {
     openPrj({"main.psm", "uart.psm"});
