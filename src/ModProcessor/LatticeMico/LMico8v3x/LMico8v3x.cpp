@@ -1,6 +1,8 @@
 #include "LMico8v3x.h"
 
 #include "LMico8v3xAsmBe.h"
+#include "LMico8v3xSim.h"
+#include "LMicoActionsSim.h"
 
 namespace nsLMico8v3x {
 
@@ -17,6 +19,16 @@ QString LMico8v3x::processorName()
 nsProc::ProcAsmBe* LMico8v3x::createAsmBe()
 {
     return new LMico8v3xAsmBe;
+}
+
+nsProc::ProcSim* LMico8v3x::createSim()
+{
+    return new LMico8v3xSim;
+}
+
+nsProc::ProcActionsSim* LMico8v3x::createActionsSim()
+{
+    return new nsLMico::LMicoActionsSim;
 }
 
 QString LMico8v3x::cfgSection() const

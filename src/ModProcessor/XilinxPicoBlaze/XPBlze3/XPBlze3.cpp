@@ -1,6 +1,8 @@
 #include "XPBlze3.h"
 
 #include "XPBlze3AsmBe.h"
+#include "XPBlze3Sim.h"
+#include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze3 {
 
@@ -17,6 +19,16 @@ QString XPBlze3::processorName()
 nsProc::ProcAsmBe* XPBlze3::createAsmBe()
 {
     return new XPBlze3AsmBe;
+}
+
+nsProc::ProcSim* XPBlze3::createSim()
+{
+    return new XPBlze3Sim;
+}
+
+nsProc::ProcActionsSim* XPBlze3::createActionsSim()
+{
+    return new nsXPBlze::XPBlzeActionsSim;
 }
 
 QString XPBlze3::cfgSection() const
