@@ -1,5 +1,7 @@
 #include "AsmFeStatusBar.h"
 
+#include "MyStatusBarTitle.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -7,8 +9,7 @@ namespace nsModAsmFe {
 
 AsmFeStatusBar::AsmFeStatusBar(QWidget* parent) : QWidget(parent), m_name(new QLabel(this))
 {
-    auto* title = new QLabel(tr("Processor:"), this);
-    title->setObjectName("statusBarTitle");
+    auto* title = new MyStatusBarTitle(tr("Processor:"), this);
     m_name->setObjectName("asmFeStatusBarProcessor");
     setToolTip(tr("Processor of the project"));
 

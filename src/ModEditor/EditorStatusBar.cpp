@@ -1,5 +1,7 @@
 #include "EditorStatusBar.h"
 
+#include "MyStatusBarTitle.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -39,8 +41,7 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
 
 QLabel* EditorStatusBar::addPair(const QString& title, const QString& toolTip, const QString& name)
 {
-    auto* titleLabel = new QLabel(title, this);
-    titleLabel->setObjectName("statusBarTitle");
+    auto* titleLabel = new MyStatusBarTitle(title, this);
     titleLabel->setToolTip(toolTip);
     auto* value = new QLabel(this);
     value->setObjectName(name);

@@ -1,0 +1,12 @@
+#include "MyButton.h"
+
+MyButton::MyButton(QWidget* parent)
+    : MyButton(QString(), parent)
+{
+}
+
+MyButton::MyButton(const QString& text, QWidget* parent)
+    : QPushButton(text, parent)
+{
+    setObjectName(QStringLiteral("button"));
+}

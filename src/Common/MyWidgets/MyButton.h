@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QPushButton>
+
+/// A push button as all pages have it.
+class MyButton : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit MyButton(QWidget* parent = nullptr);
+    explicit MyButton(const QString& text, QWidget* parent = nullptr);
+};

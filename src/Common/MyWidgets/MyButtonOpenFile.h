@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QPushButton>
+
+/// The button beside a path that opens a file dialog.
+class MyButtonOpenFile : public QPushButton
+{
+    Q_OBJECT
+
+public:
+    explicit MyButtonOpenFile(QWidget* parent = nullptr);
+};

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QLabel>
+
+/// A label of the status bar: what the value behind it is.
+class MyStatusBarTitle : public QLabel
+{
+    Q_OBJECT
+
+public:
+    explicit MyStatusBarTitle(QWidget* parent = nullptr);
+    explicit MyStatusBarTitle(const QString& text, QWidget* parent = nullptr);
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QByteArray>
+
+class QIODevice;
+
+namespace nsProc {
+
+class ProcSimWaveData;
+
+/// Writes what a wave viewer holds as a value change dump (IEEE 1364), which programs that show waves open.
+///
+/// Each watched port is a wire of 8 bits, of unknown value until the first one that is held. The name tells address and access:
+/// `port_2A_rd`, with the channel's name behind it if it has one. A clock is 1e12 / clkFreq picoseconds, each time rounded by itself so
+/// that the error does not grow; without a clock rate, a clock is a nanosecond. The date is SOURCE_DATE_EPOCH, if that is set.
+class ProcSimVcd
+{
+public:
+    /// @param clkFreq Hz; 0 or below for unknown
+    /// @return ASCII text, lines end with a line feed
+    static QByteArray vcdText(const ProcSimWaveData& data, double clkFreq);
+    /// The same to a device that is open for writing, a piece at a time.
+    /// @return false if the device took less than it was given
+    static bool write(QIODevice* device, const ProcSimWaveData& data, double clkFreq);
+};
+
+} // namespace nsProc

@@ -1,0 +1,397 @@
+#include "ProcSimWaveViewer.h"
+
+#include "ProcSimVcd.h"
+#include "ProcSimWavesWidget.h"
+#include "ProcSimWaveTree.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QScrollBar>
+#include <QSplitter>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <algorithm>
+
+namespace nsProc {
+
+ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
+    : QWidget(parent)
+    , m_clkFreq(clkFreq)
+{
+    setObjectName(QStringLiteral("procSimWaveViewer"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(makeToolRow());
+    layout->addWidget(makePanes(), 1);
+    connect(m_add, &QAbstractButton::clicked, this, &ProcSimWaveViewer::addWave);
+    connect(m_removeAll, &QAbstractButton::clicked, this, &ProcSimWaveViewer::clear);
+    connect(m_save, &QAbstractButton::clicked, this, &ProcSimWaveViewer::save);
+    connect(m_zoomIn, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::zoomIn);
+    connect(m_zoomOut, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::zoomOut);
+    connect(m_fit, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::fit);
+    connect(m_end, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::showEnd);
+    connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), m_wavesWidget,
+            [this](int index) {
+                m_wavesWidget->setSeconds(index == 1);
+                showMoment(-1);
+            });
+    connect(m_tree, &ProcSimWaveTree::removeRequested, this, &ProcSimWaveViewer::removeAddrChannel);
+    connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, m_tree, &ProcSimWaveTree::showValues);
+    connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, this, [this] { showMoment(-1); });
+    connect(m_wavesWidget, &ProcSimWavesWidget::pointed, this, &ProcSimWaveViewer::showMoment);
+    connect(m_wavesWidget, &ProcSimWavesWidget::waveClicked, m_tree, &ProcSimWaveTree::selectWave);
+    connect(m_wavesWidget, &ProcSimWavesWidget::rowsWheeled, this, [this](QWheelEvent* event) {
+        QScrollBar* rows = m_tree->verticalScrollBar();
+        rows->setValue(rows->value() - event->angleDelta().y() * rows->singleStep() * 3 / 120);
+    });
+    setupOrder();
+    updateButtons();
+    showMoment(-1);
+}
+
+ProcSimWaveViewer::~ProcSimWaveViewer()
+{
+    // The rows go before what they show.
+    m_tree->clear();
+}
+
+QSize ProcSimWaveViewer::sizeHint() const
+{
+    return {800, 200};
+}
+
+QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
+                                              const QString& toolTip)
+{
+    QAbstractButton* button = nullptr;
+    if (text.isEmpty()) {
+        auto* tool = new QToolButton(row);
+        tool->setFocusPolicy(Qt::StrongFocus);
+        tool->setAutoRaise(true);
+        button = tool;
+    } else {
+        auto* push = new QPushButton(text, row);
+        push->setAutoDefault(false);
+        button = push;
+    }
+    button->setObjectName(name);
+    button->setToolTip(toolTip);
+    button->setIconSize({16, 16});
+    if (!icon.isEmpty())
+        button->setIcon(QIcon(QStringLiteral(":/ProcSim/img/%1.png").arg(icon)));
+    row->layout()->addWidget(button);
+    return button;
+}
+
+QWidget* ProcSimWaveViewer::makeToolRow()
+{
+    auto* row = new QWidget(this);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(8, 4, 8, 4);
+    layout->setSpacing(4);
+    auto* title = new QLabel(tr("&Port address"), row);
+    m_addr = new QLineEdit(row);
+    m_addr->setObjectName(QStringLiteral("procSimWaveAddr"));
+    m_addr->setToolTip(tr("Address of the port whose values are to be shown, in the present number base"));
+    m_addr->setMaxLength(3);
+    m_addr->setFixedWidth(56);
+    title->setBuddy(m_addr);
+    connect(m_addr, &QLineEdit::returnPressed, this, [this] { addWave(); });
+    m_access = new QComboBox(row);
+    m_access->setObjectName(QStringLiteral("procSimWaveAccess"));
+    m_access->setToolTip(tr("Show what the program reads from the port, or what it writes to it"));
+    m_access->addItems({tr("Read"), tr("Write")});
+    layout->addWidget(title);
+    layout->addWidget(m_addr);
+    layout->addWidget(m_access);
+    m_add = addButton(row, tr("&Add"), QStringLiteral("waveAdd"), QStringLiteral("procSimWaveAdd"),
+                      tr("Watch this port from now on"));
+    m_removeAll = addButton(row, tr("&Remove all"), {}, QStringLiteral("procSimWaveRemoveAll"), tr("Watch no port any longer"));
+    layout->addSpacing(8);
+    m_message = new QLabel(row);
+    m_message->setObjectName(QStringLiteral("statusBarTitle"));
+    m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    layout->addWidget(m_message, 1);
+    m_unit = new QComboBox(row);
+    m_unit->setObjectName(QStringLiteral("procSimWaveUnit"));
+    m_unit->setToolTip(m_clkFreq > 0 ? tr("Unit of the time axis")
+                                     : tr("Unit of the time axis; seconds need the clock rate of the processor"));
+    m_unit->addItems({tr("Clocks"), tr("Seconds")});
+    m_unit->setEnabled(m_clkFreq > 0);
+    layout->addWidget(m_unit);
+    m_zoomOut = addButton(row, {}, QStringLiteral("waveZoomOut"), QStringLiteral("procSimWaveZoomOut"),
+                          tr("Show a longer time (Ctrl with the wheel, or the minus key)"));
+    m_zoomIn = addButton(row, {}, QStringLiteral("waveZoomIn"), QStringLiteral("procSimWaveZoomIn"),
+                         tr("Show a shorter time (Ctrl with the wheel, or the plus key)"));
+    m_fit = addButton(row, {}, QStringLiteral("waveZoomFit"), QStringLiteral("procSimWaveZoomFit"),
+                      tr("Show all of the time, also as it goes on"));
+    m_end = addButton(row, tr("&Now"), {}, QStringLiteral("procSimWaveEnd"), tr("Show the present time and follow it (End key)"));
+    m_save = addButton(row, tr("&Save..."), QStringLiteral("waveSave"), QStringLiteral("procSimWaveSave"),
+                       tr("Save the values as a value change dump (VCD), which other wave viewers open"));
+    return row;
+}
+
+/// The tree and the waves, each with a line below it, so that their rows end at the same height.
+QWidget* ProcSimWaveViewer::makePanes()
+{
+    auto* splitter = new QSplitter(Qt::Horizontal, this);
+    splitter->setChildrenCollapsible(false);
+    auto* left = new QWidget(splitter);
+    auto* right = new QWidget(splitter);
+    m_wavesWidget = new ProcSimWavesWidget(&m_data, m_clkFreq, right);
+    m_tree = new ProcSimWaveTree(m_wavesWidget, left);
+    m_scrollBar = new QScrollBar(Qt::Horizontal, right);
+    m_scrollBar->setObjectName(QStringLiteral("procSimWaveScrollBar"));
+    m_scrollBar->setToolTip(tr("Scrolls time; at its end, the waves follow the present time"));
+    m_wavesWidget->setScrollBar(m_scrollBar);
+    m_moment = new QLabel(left);
+    m_moment->setObjectName(QStringLiteral("procSimWaveMoment"));
+    m_moment->setToolTip(tr("Time at the pointer, and how far it is from the marker; the present time elsewhere"));
+    m_moment->setContentsMargins(8, 0, 0, 0);
+    m_moment->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    const int lineHeight = qMax(m_scrollBar->sizeHint().height(), m_moment->sizeHint().height());
+    m_moment->setFixedHeight(lineHeight);
+    m_scrollBar->setFixedHeight(lineHeight);
+    for (QWidget* pane : {left, right}) {
+        auto* layout = new QVBoxLayout(pane);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->setSpacing(0);
+        layout->addWidget(pane == left ? static_cast<QWidget*>(m_tree) : m_wavesWidget, 1);
+        layout->addWidget(pane == left ? static_cast<QWidget*>(m_moment) : m_scrollBar);
+    }
+    splitter->setStretchFactor(0, 0);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({200, 800});
+    return splitter;
+}
+
+void ProcSimWaveViewer::setupOrder()
+{
+    QWidget* order[] = {m_addr, m_access, m_add,  m_removeAll, m_unit, m_zoomOut, m_zoomIn,
+                        m_fit,  m_end,    m_save, m_tree,      m_wavesWidget};
+    for (size_t index = 1; index < std::size(order); ++index)
+        QWidget::setTabOrder(order[index - 1], order[index]);
+}
+
+void ProcSimWaveViewer::updateButtons()
+{
+    const bool some = !m_data.isEmpty();
+    for (QAbstractButton* button : {m_removeAll, m_zoomOut, m_zoomIn, m_fit, m_end, m_save})
+        button->setEnabled(some);
+}
+
+void ProcSimWaveViewer::say(const QString& text)
+{
+    m_message->setText(text);
+    m_message->setToolTip(text);
+}
+
+void ProcSimWaveViewer::setBase(int base)
+{
+    const int addr = enteredAddr();
+    m_base = base;
+    if (addr >= 0)
+        m_addr->setText(QStringLiteral("%1").arg(addr, 2, base, QLatin1Char('0')).toUpper());
+    m_wavesWidget->setBase(base);
+    m_tree->setBase(base);
+    m_tree->showValues(m_wavesWidget->marker());
+    say({});
+}
+
+/// Below 0 if no address is entered.
+int ProcSimWaveViewer::enteredAddr() const
+{
+    bool ok = false;
+    const int addr = m_addr->text().toInt(&ok, m_base);
+    return ok && addr >= 0 && addr <= 0xFF ? addr : -1;
+}
+
+void ProcSimWaveViewer::clearValues()
+{
+    m_data.clearValues();
+    refresh();
+}
+
+void ProcSimWaveViewer::clearAddrChannelValues(sAddrChannel_t* channel)
+{
+    m_data.clearValues(channel);
+    refresh();
+}
+
+void ProcSimWaveViewer::addWave(bool)
+{
+    const int addr = enteredAddr();
+    if (addr < 0) {
+        say(tr("Enter an address from %1 to %2.").arg(QStringLiteral("00"), m_wavesWidget->valueText(0xFF)));
+        m_addr->setFocus();
+        m_addr->selectAll();
+        return;
+    }
+    const auto access = m_access->currentIndex() == 0 ? ProcSimWaveData::eAccessRd : ProcSimWaveData::eAccessWr;
+    addAddrChannel(addr, access, -1, {});
+    m_addr->selectAll();
+}
+
+void ProcSimWaveViewer::addValue(int addr, eAccessType_t access, const QString& name, int value, qint64 clock)
+{
+    sAddrChannel_t* channel = m_data.channel(addr, access);
+    if (channel == nullptr)
+        return;
+    if (channel->name.isEmpty() && !name.isEmpty()) {
+        channel->name = name;
+        m_tree->setBase(m_base);
+    }
+    m_data.addValue(addr, access, value, clock);
+}
+
+bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name)
+{
+    sAddrChannel_t* channel = m_data.addChannel(addr, access, name);
+    if (channel == nullptr) {
+        const sAddrChannel_t* present = m_data.channel(addr, access);
+        m_tree->selectChannel(present);
+        say(tr("\"%1\" is shown already.").arg(ProcSimWaveTree::channelText(present, m_base)));
+        return false;
+    }
+    if (initValue >= 0)
+        m_data.addValue(addr, access, initValue, m_data.clock());
+    const auto add = [this, channel](int kind, int maximum, int bit) {
+        m_waves.push_back(std::make_unique<sWave_t>());
+        sWave_t* wave = m_waves.back().get();
+        wave->index = m_waveCount++;
+        wave->kind = kind;
+        wave->maximum = maximum;
+        wave->bit = bit;
+        wave->channel = channel;
+        m_tree->addWave(wave);
+    };
+    add(ProcSimWaveData::eWaveNumeric, 255, 0);
+    for (int bit = 7; bit >= 0; --bit)
+        add(ProcSimWaveData::eWaveBit, 1, bit);
+    m_tree->selectChannel(channel);
+    say({});
+    updateButtons();
+    refresh();
+    return true;
+}
+
+void ProcSimWaveViewer::removeAddrChannel(sAddrChannel_t* channel)
+{
+    m_tree->removeChannel(channel);
+    m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(), [channel](const auto& wave) { return wave->channel == channel; }),
+                  m_waves.end());
+    m_data.removeChannel(channel);
+    if (m_data.isEmpty())
+        m_wavesWidget->clear();
+    say({});
+    updateButtons();
+    refresh();
+}
+
+void ProcSimWaveViewer::clear(bool)
+{
+    m_tree->clear();
+    m_wavesWidget->clear();
+    m_waves.clear();
+    m_data.clear();
+    say({});
+    updateButtons();
+    refresh();
+}
+
+void ProcSimWaveViewer::setClock(qint64 clock)
+{
+    m_data.setClock(clock);
+}
+
+void ProcSimWaveViewer::refresh()
+{
+    const bool changed = m_data.changes() != m_shownChanges;
+    if (!changed && m_data.clock() == m_shownClock)
+        return;
+    m_shownChanges = m_data.changes();
+    m_shownClock = m_data.clock();
+    m_stale = !isVisible();
+    if (!m_stale) {
+        m_wavesWidget->refresh();
+        m_tree->showValues(m_wavesWidget->marker());
+        if (!m_wavesWidget->underMouse())
+            showMoment(-1);
+    }
+    if (changed)
+        emit contentChanged(this);
+}
+
+void ProcSimWaveViewer::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_stale)
+        return;
+    m_stale = false;
+    m_wavesWidget->refresh();
+    m_tree->showValues(m_wavesWidget->marker());
+}
+
+/// @param pointed clock count under the pointer, -1 for none
+void ProcSimWaveViewer::showMoment(qint64 pointed)
+{
+    const ProcSimWaveTime& time = m_wavesWidget->time();
+    const qint64 marker = m_wavesWidget->marker();
+    if (m_data.isEmpty())
+        m_moment->clear();
+    else if (pointed >= 0 && marker >= 0)
+        m_moment->setText(tr("%1, %2%3 from marker")
+                              .arg(time.text(pointed), pointed < marker ? QStringLiteral("-") : QStringLiteral("+"),
+                                   time.text(qAbs(pointed - marker))));
+    else if (pointed >= 0)
+        m_moment->setText(tr("At %1").arg(time.unitText(pointed)));
+    else if (marker >= 0)
+        m_moment->setText(tr("Marker at %1").arg(time.unitText(marker)));
+    else
+        m_moment->setText(tr("Now %1").arg(time.unitText(m_data.clock())));
+}
+
+QString ProcSimWaveViewer::saveVcd(const QString& path) const
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
+        return file.errorString();
+    return {};
+}
+
+void ProcSimWaveViewer::save()
+{
+    // The dialog handles events: the simulator may end meanwhile, and this with it.
+    const QPointer<ProcSimWaveViewer> self(this);
+    QFileDialog dialog(QApplication::activeWindow(), tr("Save waves"), m_lastPath);
+    dialog.setObjectName(QStringLiteral("procSimWaveSaveDialog"));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilters({tr("Value change dumps (*.vcd)"), tr("All files (*)")});
+    dialog.setDefaultSuffix(QStringLiteral("vcd"));
+    const bool accepted = dialog.exec() == QDialog::Accepted && self != nullptr;
+    if (!accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString path = dialog.selectedFiles().constFirst();
+    const QString failure = saveVcd(path);
+    if (failure.isEmpty()) {
+        m_lastPath = path;
+        say(tr("Saved as \"%1\".").arg(QFileInfo(path).fileName()));
+    } else {
+        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"), tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
+    }
+}
+
+} // namespace nsProc

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "ProcSimWaveData.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+class QAbstractButton;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QScrollBar;
+
+namespace nsProc {
+
+class ProcSimWavesWidget;
+class ProcSimWaveTree;
+
+/// Shows the values that pass through watched ports of a simulated processor against time.
+///
+/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is watched there is
+/// nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
+class ProcSimWaveViewer : public QWidget
+{
+    Q_OBJECT
+
+public:
+    using eAccessType_t = ProcSimWaveData::eAccessType_t;
+    using sAddrChannel_t = ProcSimWaveData::sAddrChannel_t;
+    using sWave_t = ProcSimWaveData::sWave_t;
+
+    /// @param clkFreq clock rate in Hz; 0 or below if it is unknown, then time is shown in clocks only
+    explicit ProcSimWaveViewer(double clkFreq, QWidget* parent = nullptr);
+    ~ProcSimWaveViewer() override;
+
+    /// Owned by this object.
+    ProcSimWaveData* data() { return &m_data; }
+    /// @param base 8, 10 or 16
+    void setBase(int base);
+    /// Forgets the values of all channels and keeps the channels. Time starts anew.
+    void clearValues();
+    void clearAddrChannelValues(sAddrChannel_t* channel);
+    /// A value has passed through a port; it is kept if the port is watched. For many values, use data().
+    /// @param name what the program calls the port: a channel without a name is called so from now on; may be empty
+    /// @param value 0 to 255
+    /// @param clock clock count; below the present time, time starts anew
+    void addValue(int addr, eAccessType_t access, const QString& name, int value, qint64 clock);
+    /// Watches a port from now on.
+    /// @param addr 0 to 255
+    /// @param initValue value at the present time, below 0 if it is unknown
+    /// @param name text of the row; if empty, the row tells access and address
+    /// @return false if the port is watched already: its row becomes the present one
+    bool addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name);
+    /// The port is not watched any longer; the channel with its values is deleted.
+    void removeAddrChannel(sAddrChannel_t* channel);
+    /// The present time in clocks: the waves extend to it. Shown by the next refresh().
+    void setClock(qint64 clock);
+    /// Shows what is new. Costs nearly nothing if nothing is.
+    void refresh();
+
+    /// Writes what is held as a value change dump, see ProcSimVcd.
+    /// @return empty, or why it failed
+    QString saveVcd(const QString& path) const;
+
+    QSize sizeHint() const override;
+
+public slots:
+    /// Watches the port whose address and access are entered.
+    void addWave(bool checked = false);
+    /// Watches no port any longer.
+    void clear(bool checked = false);
+    /// Asks for a file and saves the values.
+    void save();
+
+signals:
+    /// refresh() has found new values or other channels.
+    void contentChanged(QWidget* widget);
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    QWidget* makeToolRow();
+    QWidget* makePanes();
+    QAbstractButton* addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
+                               const QString& toolTip);
+    void setupOrder();
+    void updateButtons();
+    void showMoment(qint64 pointed);
+    void say(const QString& text);
+    int enteredAddr() const;
+
+    ProcSimWaveData m_data;
+    double m_clkFreq;
+    int m_base = 16;
+    int m_waveCount = 0; ///< index of the next wave
+    std::vector<std::unique_ptr<sWave_t>> m_waves;
+    unsigned m_shownChanges = 0;
+    qint64 m_shownClock = 0;
+    bool m_stale = false;
+    QString m_lastPath;
+    QLineEdit* m_addr = nullptr;
+    QComboBox* m_access = nullptr;
+    QComboBox* m_unit = nullptr;
+    QAbstractButton* m_add = nullptr;
+    QAbstractButton* m_removeAll = nullptr;
+    QAbstractButton* m_save = nullptr;
+    QAbstractButton* m_zoomIn = nullptr;
+    QAbstractButton* m_zoomOut = nullptr;
+    QAbstractButton* m_fit = nullptr;
+    QAbstractButton* m_end = nullptr;
+    QLabel* m_message = nullptr;
+    QLabel* m_moment = nullptr;
+    QScrollBar* m_scrollBar = nullptr;
+    ProcSimWavesWidget* m_wavesWidget = nullptr;
+    ProcSimWaveTree* m_tree = nullptr;
+};
+
+} // namespace nsProc
