@@ -37,8 +37,8 @@ const int roundTime = 400; ///< milliseconds
 QStringList mixedProgram()
 {
     return {"start: LOAD s0, 0",     "loop: ADD s0, 1",   "ADDC s1, 0",     "XOR s2, s0",   "SR0 s2",        "WRMEM s2, 5",
-            "RDMEM s3, 5",           "COMP s3, 100",      "JUMP C, less",   "SUB s3, 100",  "less: CALL sub", "ROL s4",
-            "TEST s4, 1",            "JUMP NZ, loop",     "OR s4, 1",       "AND s5, s4",   "JUMP loop",      "sub: LOAD s6, s3",
+            "RDMEM s3, 5",           "COMP s3, 100",      "JUMP C, less",   "SUB s3, 100",  "less: CALL proc", "ROL s4",
+            "TEST s4, 1",            "JUMP NZ, loop",     "OR s4, 1",       "AND s5, s4",   "JUMP loop",      "proc: LOAD s6, s3",
             "SUBC s6, s1",           "RET"};
 }
 

@@ -2,6 +2,7 @@
 
 #include "MainWindowFixture.h"
 
+#include "AsmFeFileHndlr.h"
 #include "EditorWidget.h"
 #include "ModAsmFe.h"
 #include "ModEditor.h"

@@ -3,6 +3,7 @@
 #include "SimWindow.h"
 
 #include "ModSources.h"
+#include "ProcSimIO.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
 
@@ -203,6 +204,7 @@ TEST_F(SimControl, ClosingTheProjectDuringARunStopsItFirst)
 {
     ASSERT_TRUE(start("XPBlze3", endless));
     auto* processor = shell();
+    const QPointer<QWidget> ports = sim()->ioWidget();
     bool inPlace = false;
     bool detached = false;
     later([&] {
@@ -215,16 +217,18 @@ TEST_F(SimControl, ClosingTheProjectDuringARunStopsItFirst)
     EXPECT_TRUE(detached);
     // The run has ended: what was left of the simulator is gone.
     EXPECT_EQ(processor->sim(), nullptr);
-    EXPECT_EQ(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationDockRight), nullptr);
+    EXPECT_EQ(ports, nullptr);
 }
 
 TEST_F(SimControl, ClosingTheProjectTakesAnIdleSimulatorAway)
 {
     ASSERT_TRUE(start("XPBlze3", endless));
     auto* processor = shell();
+    const QPointer<QWidget> ports = sim()->ioWidget();
+    ASSERT_NE(ports, nullptr);
     module<nsModPrj::ModPrj>()->close();
     EXPECT_EQ(processor->sim(), nullptr);
-    EXPECT_EQ(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationDockRight), nullptr);
+    EXPECT_EQ(ports, nullptr);
 }
 
 TEST_F(SimControl, AnotherProcessorDuringARun)

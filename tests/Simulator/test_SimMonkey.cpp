@@ -8,6 +8,7 @@
 #include "EditorWidget.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
+#include "ProcSimIO.h"
 #include "ProcSimResolvePageDialog.h"
 
 #include <QAbstractButton>
@@ -273,7 +274,7 @@ TEST_P(SimMonkey, Survives)
     EXPECT_EQ(m_depth, 0);
     // What stands is consistent: without a simulator no widget of one is left.
     module<nsModProcessor::ModProcessor>()->setupProcessorIf(nullptr);
-    EXPECT_EQ(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationDockRight), nullptr);
+    EXPECT_TRUE(window->findChildren<nsProc::ProcSimIO*>().isEmpty());
 }
 
 INSTANTIATE_TEST_SUITE_P(Seeds, SimMonkey, ::testing::Range(1u, 9u));
