@@ -8,6 +8,7 @@
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
+#include "ProcConfigPage.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
 #include "ProcShell.h"
@@ -75,9 +76,33 @@ void ModProcessor::prjClose()
     detach(leaving);
 }
 
+nsModConfig::ModConfigPagePluginIf* ModProcessor::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = std::make_unique<ProcConfigPage>(m_list.get());
+    return m_configPage.get();
+}
+
+void ModProcessor::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr)
+        m_configPage->setConfig(this);
+}
+
 bool ModProcessor::configPageCloseRequest()
 {
     return m_current == nullptr || m_current->configWidgetCloseRequest();
+}
+
+void ModProcessor::configPageClose(bool accept)
+{
+    if (m_configPage != nullptr && accept) {
+        processor = m_configPage->config().processor;
+        setupProcessorIf();
+        if (m_current != nullptr)
+            m_current->configWidgetFetchConfig();
+    }
+    m_configPage.reset();
 }
 
 void ModProcessor::setupProcessorIf()

@@ -47,7 +47,11 @@ protected:
         QApplication::sendPostedEvents();
         QApplication::processEvents();
     }
-    template <class T> T* child(const char* name) const { return viewer->findChild<T*>(name); }
+    template <class T>
+    T* child(const char* name) const
+    {
+        return viewer->findChild<T*>(name);
+    }
     void click(const char* button) { QTest::mouseClick(child<QAbstractButton>(button), Qt::LeftButton); }
     /// The picture of the waves, one pixel a logical one.
     QImage picture()
@@ -55,7 +59,7 @@ protected:
         settle();
         return waves->grab().toImage().convertToFormat(QImage::Format_RGB32);
     }
-    static int count(const QImage& image, const QRect& area, const QColor& color)
+    static int countColor(const QImage& image, const QRect& area, const QColor& color)
     {
         int result = 0;
         const QRect inside = area.intersected(image.rect());

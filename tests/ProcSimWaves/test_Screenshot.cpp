@@ -86,6 +86,8 @@ TEST_F(WavesScreenshot, ManyValues)
     click("procSimWaveZoomFit");
     tree->expandItem(tree->topLevelItem(1));
     save("fit");
+    viewer->resize(600, 240);
+    save("narrow");
 }
 
 /// At 25 pictures a second, drawing a million values must leave the simulator its time.
@@ -94,20 +96,25 @@ TEST_F(WavesScreenshot, MillionValuesAreDrawnQuickly)
     watch();
     fill(1000000);
     tree->expandItem(tree->topLevelItem(0));
-    click("procSimWaveZoomFit");
     settle();
     QImage image(waves->size(), QImage::Format_RGB32);
-    waves->render(&image);
-    std::chrono::nanoseconds best = std::chrono::hours(1);
-    for (int round = 0; round < 10; ++round) {
-        const auto start = std::chrono::steady_clock::now();
-        waves->render(&image);
-        best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
+    double worst = 0;
+    // From single values to all of them.
+    for (int step = 0; step < 24; ++step) {
+        std::chrono::nanoseconds best = std::chrono::hours(1);
+        for (int round = 0; round < 10; ++round) {
+            const auto start = std::chrono::steady_clock::now();
+            waves->render(&image);
+            best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
+        }
+        worst = std::max(worst, double(best.count()) / 1e6);
+        click("procSimWaveZoomOut");
     }
-    const double milliseconds = double(best.count()) / 1e6;
-    RecordProperty("milliseconds", QString::number(milliseconds).toStdString());
-    std::printf("one picture: %.2f ms\n", milliseconds);
-    EXPECT_LT(milliseconds, 30.0);
+    EXPECT_EQ(bar->maximum(), 0) << "not all of the time is shown";
+    RecordProperty("microseconds", int(worst * 1000));
+    // Ten times what it takes on a machine of its own.
+    EXPECT_LT(worst, 30.0);
+    save("million");
 }
 
 } // namespace

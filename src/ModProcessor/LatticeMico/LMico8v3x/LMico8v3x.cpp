@@ -1,5 +1,6 @@
 #include "LMico8v3x.h"
 
+#include "LMico8v3xConfigWidget.h"
 #include "LMico8v3xAsmBe.h"
 #include "LMico8v3xSim.h"
 #include "LMicoActionsSim.h"
@@ -39,6 +40,11 @@ QString LMico8v3x::cfgSection() const
 nsProc::ProcCoreConfig LMico8v3x::defaultConfig() const
 {
     return LMico8v3xConfig();
+}
+
+nsProc::ProcConfigWidget* LMico8v3x::createConfigWidget()
+{
+    return new LMico8v3xConfigWidget;
 }
 
 QList<QPair<QString, int*>> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const

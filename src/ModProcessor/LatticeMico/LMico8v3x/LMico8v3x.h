@@ -21,6 +21,7 @@ protected:
     nsProc::ProcActionsSim* createActionsSim() override;
     QString cfgSection() const override;
     nsProc::ProcCoreConfig defaultConfig() const override;
+    nsProc::ProcConfigWidget* createConfigWidget() override;
     QList<QPair<QString, int*>> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
 };
 

@@ -60,15 +60,6 @@ void ProcShell::modExit()
     m_attached = false;
 }
 
-nsModProcessor::ProcConfigPluginIf* ProcShell::configWidget()
-{
-    return nullptr;
-}
-
-void ProcShell::configWidgetSetConfig() {}
-
-void ProcShell::configWidgetFetchConfig() {}
-
 bool ProcShell::configWidgetCloseRequest()
 {
     if (m_sim == nullptr)
@@ -77,8 +68,6 @@ bool ProcShell::configWidgetCloseRequest()
         modMsgHook->showErrorMessage(tr("The simulator must be disabled before closing the configuration dialog."));
     return false;
 }
-
-void ProcShell::configWidgetClose() {}
 
 QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
 {

@@ -12,6 +12,7 @@
 
 namespace nsProc {
 
+class ProcConfigWidget;
 class ProcAsmBe;
 class ProcSim;
 
@@ -104,6 +105,8 @@ protected:
     virtual QString cfgSection() const = 0;
     /// The settings as a new processor has them.
     virtual ProcCoreConfig defaultConfig() const = 0;
+    /// A new settings widget; the shell takes the ownership.
+    virtual ProcConfigWidget* createConfigWidget() = 0;
     /// The keys in the order of the file, with the fields of the settings that hold them; null for the clock frequency.
     virtual QList<QPair<QString, int*>> cfgNumbers(ProcCoreConfig* settings) const;
 
@@ -117,6 +120,7 @@ private:
 
     /// The user's settings, as the project stores them. Each run starts from them: what a source sets holds for that run alone.
     ProcCoreConfig m_settings;
+    ProcConfigWidget* m_configWidget = nullptr; ///< null while the settings dialog is closed
     ProcCoreConfig* m_config;
     ProcAsmBe* m_asmBe = nullptr;
     QPointer<ProcActionsSim> m_actions;

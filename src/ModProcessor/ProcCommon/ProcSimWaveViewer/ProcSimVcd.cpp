@@ -57,7 +57,8 @@ QByteArray wireName(const ProcSimWaveData::sAddrChannel_t& channel)
     name += '_';
     for (const QChar c : channel.name) {
         const char ascii = c.toLatin1();
-        const bool legal = (ascii >= '0' && ascii <= '9') || (ascii >= 'A' && ascii <= 'Z') || (ascii >= 'a' && ascii <= 'z');
+        const bool legal =
+            (ascii >= '0' && ascii <= '9') || (ascii >= 'A' && ascii <= 'Z') || (ascii >= 'a' && ascii <= 'z');
         name += legal ? ascii : '_';
     }
     return name;
@@ -67,7 +68,9 @@ QByteArray wireName(const ProcSimWaveData::sAddrChannel_t& channel)
 class Writer
 {
 public:
-    Writer(QIODevice* device, const ProcSimWaveData& data, double clkFreq) : m_device(device), m_data(data)
+    Writer(QIODevice* device, const ProcSimWaveData& data, double clkFreq)
+        : m_device(device)
+        , m_data(data)
     {
         if (!std::isfinite(clkFreq) || clkFreq <= 0) {
             m_unit = &units[1];
@@ -93,7 +96,8 @@ private:
     /// Not rounded, in the unit of the file.
     long double timeOf(qint64 clock) const
     {
-        return m_clkFreq > 0 ? static_cast<long double>(clock) * m_unit->perSecond / m_clkFreq : static_cast<long double>(clock);
+        return m_clkFreq > 0 ? static_cast<long double>(clock) * m_unit->perSecond / m_clkFreq
+                             : static_cast<long double>(clock);
     }
     qint64 roundedTime(qint64 clock) const { return qint64(std::floor(std::min(timeOf(clock), timeMax) + 0.5L)); }
 
@@ -145,8 +149,8 @@ private:
         append("$end\n");
     }
 
-    /// The values of all channels in the order of time. Of several at the same time, which a clock above 1 THz makes possible, the last
-    /// one stands.
+    /// The values of all channels in the order of time. Of several at the same time, which a clock above 1 THz makes
+    /// possible, the last one stands.
     void writeChanges()
     {
         const auto& channels = m_data.channels();

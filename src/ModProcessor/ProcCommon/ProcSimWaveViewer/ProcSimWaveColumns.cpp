@@ -6,7 +6,8 @@
 
 namespace nsProc {
 
-ProcSimWaveColumns::ProcSimWaveColumns(const ProcSimWaveData::sAddrChannel_t& channel, const ProcSimWaveTime& time, int width)
+ProcSimWaveColumns::ProcSimWaveColumns(const ProcSimWaveData::sAddrChannel_t& channel, const ProcSimWaveTime& time,
+                                       int width)
 {
     const auto& values = channel.values;
     // Half the channel is as good a place as any to start the search from, unless the view starts before it.

@@ -68,13 +68,14 @@ void ProcSimWaveData::addValue(int addr, eAccessType_t access, int value, qint64
     ++m_changes;
 }
 
-/// The channel with the most values gives up the older half. Its memory shrinks too, so that no more than about twice the limit is
-/// ever held.
+/// The channel with the most values gives up the older half. Its memory shrinks too, so that no more than about twice
+/// the limit is ever held.
 void ProcSimWaveData::makeRoom()
 {
-    const auto longest = std::max_element(m_channels.begin(), m_channels.end(), [](const auto& left, const auto& right) {
-        return left->values.size() < right->values.size();
-    });
+    const auto longest =
+        std::max_element(m_channels.begin(), m_channels.end(), [](const auto& left, const auto& right) {
+            return left->values.size() < right->values.size();
+        });
     sAddrChannel_t* channel = longest->get();
     const size_t count = channel->values.size() - channel->values.size() / 2;
     std::vector<sValue_t> kept(channel->values.begin() + std::ptrdiff_t(count), channel->values.end());

@@ -10,13 +10,22 @@ namespace nsProc {
 
 /// The values that have passed through the watched ports of a simulated processor, by time.
 ///
-/// Time is the clock count. It only goes forward: when it goes back, since the user has cleared the count, all values are forgotten
-/// and time starts anew. Nothing here knows of a widget, so that it can be fed at the full speed of the simulator.
+/// Time is the clock count. It only goes forward: when it goes back, since the user has cleared the count, all values
+/// are forgotten and time starts anew. Nothing here knows of a widget, so that it can be fed at the full speed of the
+/// simulator.
 class ProcSimWaveData
 {
 public:
-    enum eAccessType_t { eAccessRd = 0, eAccessWr = 1 };
-    enum eWaveKind_t { eWaveNumeric = 0, eWaveBit = 1 };
+    enum eAccessType_t
+    {
+        eAccessRd = 0,
+        eAccessWr = 1
+    };
+    enum eWaveKind_t
+    {
+        eWaveNumeric = 0,
+        eWaveBit = 1
+    };
 
     /// A value and the clock count at which it passed.
     struct sValue_t
@@ -25,8 +34,8 @@ public:
         int value; ///< 0 to 255
     };
 
-    /// Which bits are set in any and which in all of a number of values. This is what a bit wave shows of values that stand closer
-    /// than pixels.
+    /// Which bits are set in any and which in all of a number of values. This is what a bit wave shows of values that
+    /// stand closer than pixels.
     struct sBits_t
     {
         quint8 any = 0;
@@ -72,8 +81,12 @@ public:
 
     static constexpr size_t blockSize = 64;
 
-    /// @param limit values that all channels together keep: beyond that, the longest one gives up its older half; 0 for no limit
-    explicit ProcSimWaveData(size_t limit = size_t(1) << 22) : m_limit(limit) {}
+    /// @param limit values that all channels together keep: beyond that, the longest one gives up its older half; 0 for
+    /// no limit
+    explicit ProcSimWaveData(size_t limit = size_t(1) << 22)
+        : m_limit(limit)
+    {
+    }
     ProcSimWaveData(const ProcSimWaveData&) = delete;
     ProcSimWaveData& operator=(const ProcSimWaveData&) = delete;
 

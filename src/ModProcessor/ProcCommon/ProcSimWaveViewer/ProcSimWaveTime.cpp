@@ -38,7 +38,8 @@ QVector<ProcSimWaveTime::sTick_t> ProcSimWaveTime::ticks(int width, int distance
         const double x = xAt(moment / perUnit);
         if (x > width)
             return result;
-        result.append({qRound(x), m_seconds ? secondsText(moment, step) : QString::number(qint64(std::llround(moment)))});
+        result.append(
+            {qRound(x), m_seconds ? secondsText(moment, step) : QString::number(qint64(std::llround(moment)))});
     }
 }
 
@@ -89,7 +90,7 @@ QString ProcSimWaveTime::longText(qint64 clock) const
 /// Tells the moments of single clocks apart.
 double ProcSimWaveTime::exactStep() const
 {
-    return roundStep(0.1 / m_clkFreq);
+    return roundStep(0.5 / m_clkFreq);
 }
 
 } // namespace nsProc

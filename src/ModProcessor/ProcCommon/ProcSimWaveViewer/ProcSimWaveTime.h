@@ -7,8 +7,8 @@ namespace nsProc {
 
 /// What stands between clocks and pixels: the visible range of simulated time, and the texts of its axis.
 ///
-/// Pixel x shows the clocks from boundary(x) up to, but not including, boundary(x + 1). Where a clock is wider than a pixel, it starts at
-/// the pixel whose range contains it.
+/// Pixel x shows the clocks from boundary(x) up to, but not including, boundary(x + 1). Where a clock is wider than a
+/// pixel, it starts at the pixel whose range contains it.
 class ProcSimWaveTime
 {
 public:
@@ -19,7 +19,10 @@ public:
     };
 
     /// @param clkFreq Hz; 0 or below for unknown: then only clocks can be shown
-    explicit ProcSimWaveTime(double clkFreq) : m_clkFreq(clkFreq) {}
+    explicit ProcSimWaveTime(double clkFreq)
+        : m_clkFreq(clkFreq)
+    {
+    }
 
     bool hasClkFreq() const { return m_clkFreq > 0; }
     /// Shows seconds and their parts instead of clocks.

@@ -11,13 +11,19 @@ namespace nsProc {
 
 namespace {
 
-enum eColumn_t { eColumnName, eColumnValue };
+enum eColumn_t
+{
+    eColumnName,
+    eColumnValue
+};
 
 constexpr int waveRole = Qt::UserRole;
 
 } // namespace
 
-ProcSimWaveTree::ProcSimWaveTree(ProcSimWavesWidget* waves, QWidget* parent) : QTreeWidget(parent), m_waves(waves)
+ProcSimWaveTree::ProcSimWaveTree(ProcSimWavesWidget* waves, QWidget* parent)
+    : QTreeWidget(parent)
+    , m_waves(waves)
 {
     setObjectName(QStringLiteral("procSimWaveTree"));
     setToolTip(tr("Watched ports; expand one to see its bits"));
@@ -73,7 +79,8 @@ void ProcSimWaveTree::addWave(sWave_t* wave)
     item->setTextAlignment(eColumnValue, Qt::AlignRight | Qt::AlignVCenter);
     m_items.insert(wave, item);
     QTreeWidgetItem* parent = nullptr;
-    for (int row = topLevelItemCount() - 1; wave->kind == ProcSimWaveData::eWaveBit && row >= 0 && parent == nullptr; --row) {
+    for (int row = topLevelItemCount() - 1; wave->kind == ProcSimWaveData::eWaveBit && row >= 0 && parent == nullptr;
+         --row) {
         if (waveOf(topLevelItem(row))->channel == wave->channel)
             parent = topLevelItem(row);
     }

@@ -10,7 +10,8 @@ namespace nsProc {
 
 class ProcSimWavesWidget;
 
-/// The names of the waves: one row a watched port, with a row for each of its bits below it, and the values beside them.
+/// The names of the waves: one row a watched port, with a row for each of its bits below it, and the values beside
+/// them.
 ///
 /// It tells the widget that draws the waves which rows are visible, and where, so that both always show the same.
 class ProcSimWaveTree : public QTreeWidget

@@ -1,8 +1,8 @@
 #include "ProcSimWaveViewer.h"
 
 #include "ProcSimVcd.h"
-#include "ProcSimWavesWidget.h"
 #include "ProcSimWaveTree.h"
+#include "ProcSimWavesWidget.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -14,6 +14,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpressionValidator>
 #include <QSaveFile>
 #include <QScrollBar>
 #include <QSplitter>
@@ -32,7 +33,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(makeToolRow());
+    layout->addWidget(makeTools());
     layout->addWidget(makePanes(), 1);
     connect(m_add, &QAbstractButton::clicked, this, &ProcSimWaveViewer::addWave);
     connect(m_removeAll, &QAbstractButton::clicked, this, &ProcSimWaveViewer::clear);
@@ -41,11 +42,10 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
     connect(m_zoomOut, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::zoomOut);
     connect(m_fit, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::fit);
     connect(m_end, &QAbstractButton::clicked, m_wavesWidget, &ProcSimWavesWidget::showEnd);
-    connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), m_wavesWidget,
-            [this](int index) {
-                m_wavesWidget->setSeconds(index == 1);
-                showMoment(-1);
-            });
+    connect(m_unit, QOverload<int>::of(&QComboBox::currentIndexChanged), m_wavesWidget, [this](int index) {
+        m_wavesWidget->setSeconds(index == 1);
+        showMoment(-1);
+    });
     connect(m_tree, &ProcSimWaveTree::removeRequested, this, &ProcSimWaveViewer::removeAddrChannel);
     connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, m_tree, &ProcSimWaveTree::showValues);
     connect(m_wavesWidget, &ProcSimWavesWidget::markerChanged, this, [this] { showMoment(-1); });
@@ -55,6 +55,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
         QScrollBar* rows = m_tree->verticalScrollBar();
         rows->setValue(rows->value() - event->angleDelta().y() * rows->singleStep() * 3 / 120);
     });
+    setBase(m_base);
     setupOrder();
     updateButtons();
     showMoment(-1);
@@ -71,8 +72,8 @@ QSize ProcSimWaveViewer::sizeHint() const
     return {800, 200};
 }
 
-QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
-                                              const QString& toolTip)
+QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text, const QString& icon,
+                                              const QString& name, const QString& toolTip)
 {
     QAbstractButton* button = nullptr;
     if (text.isEmpty()) {
@@ -94,17 +95,43 @@ QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text,
     return button;
 }
 
-QWidget* ProcSimWaveViewer::makeToolRow()
+/// A group of tools in a line of its own.
+QWidget* ProcSimWaveViewer::makeToolGroup(QWidget* parent)
 {
-    auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(8, 4, 8, 4);
+    auto* group = new QWidget(parent);
+    auto* layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
+    parent->layout()->addWidget(group);
+    return group;
+}
+
+QWidget* ProcSimWaveViewer::makeTools()
+{
+    auto* tools = new QWidget(this);
+    m_toolLayout = new QBoxLayout(QBoxLayout::LeftToRight, tools);
+    m_toolLayout->setContentsMargins(8, 4, 8, 4);
+    m_toolLayout->setSpacing(4);
+    m_portTools = makeToolGroup(tools);
+    m_viewTools = makeToolGroup(tools);
+    m_toolLayout->setStretchFactor(m_portTools, 1);
+    addPortTools();
+    addViewTools();
+    // The width of the dock decides whether the groups stand in one line; they do not decide about the dock.
+    tools->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return tools;
+}
+
+void ProcSimWaveViewer::addPortTools()
+{
+    QWidget* row = m_portTools;
+    auto* layout = static_cast<QHBoxLayout*>(row->layout());
     auto* title = new QLabel(tr("&Port address"), row);
     m_addr = new QLineEdit(row);
     m_addr->setObjectName(QStringLiteral("procSimWaveAddr"));
     m_addr->setToolTip(tr("Address of the port whose values are to be shown, in the present number base"));
-    m_addr->setMaxLength(3);
+    m_addrValidator = new QRegularExpressionValidator(m_addr);
+    m_addr->setValidator(m_addrValidator);
     m_addr->setFixedWidth(56);
     title->setBuddy(m_addr);
     connect(m_addr, &QLineEdit::returnPressed, this, [this] { addWave(); });
@@ -117,12 +144,19 @@ QWidget* ProcSimWaveViewer::makeToolRow()
     layout->addWidget(m_access);
     m_add = addButton(row, tr("&Add"), QStringLiteral("waveAdd"), QStringLiteral("procSimWaveAdd"),
                       tr("Watch this port from now on"));
-    m_removeAll = addButton(row, tr("&Remove all"), {}, QStringLiteral("procSimWaveRemoveAll"), tr("Watch no port any longer"));
+    m_removeAll =
+        addButton(row, tr("&Remove all"), {}, QStringLiteral("procSimWaveRemoveAll"), tr("Watch no port any longer"));
     layout->addSpacing(8);
     m_message = new QLabel(row);
     m_message->setObjectName(QStringLiteral("statusBarTitle"));
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     layout->addWidget(m_message, 1);
+}
+
+void ProcSimWaveViewer::addViewTools()
+{
+    QWidget* row = m_viewTools;
+    auto* layout = static_cast<QHBoxLayout*>(row->layout());
     m_unit = new QComboBox(row);
     m_unit->setObjectName(QStringLiteral("procSimWaveUnit"));
     m_unit->setToolTip(m_clkFreq > 0 ? tr("Unit of the time axis")
@@ -136,10 +170,24 @@ QWidget* ProcSimWaveViewer::makeToolRow()
                          tr("Show a shorter time (Ctrl with the wheel, or the plus key)"));
     m_fit = addButton(row, {}, QStringLiteral("waveZoomFit"), QStringLiteral("procSimWaveZoomFit"),
                       tr("Show all of the time, also as it goes on"));
-    m_end = addButton(row, tr("&Now"), {}, QStringLiteral("procSimWaveEnd"), tr("Show the present time and follow it (End key)"));
+    m_end = addButton(row, tr("&Now"), {}, QStringLiteral("procSimWaveEnd"),
+                      tr("Show the present time and follow it (End key)"));
     m_save = addButton(row, tr("&Save..."), QStringLiteral("waveSave"), QStringLiteral("procSimWaveSave"),
                        tr("Save the values as a value change dump (VCD), which other wave viewers open"));
-    return row;
+    layout->addStretch();
+}
+
+/// In a narrow dock the tools stand in two lines.
+void ProcSimWaveViewer::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const QMargins margins = m_toolLayout->contentsMargins();
+    const int ports = m_portTools->minimumSizeHint().width();
+    const int views = m_viewTools->minimumSizeHint().width();
+    const int space = margins.left() + margins.right();
+    m_toolLayout->parentWidget()->setMinimumWidth(qMax(ports, views) + space);
+    const bool fits = ports + views + m_toolLayout->spacing() + space <= width();
+    m_toolLayout->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 /// The tree and the waves, each with a line below it, so that their rows end at the same height.
@@ -178,8 +226,8 @@ QWidget* ProcSimWaveViewer::makePanes()
 
 void ProcSimWaveViewer::setupOrder()
 {
-    QWidget* order[] = {m_addr, m_access, m_add,  m_removeAll, m_unit, m_zoomOut, m_zoomIn,
-                        m_fit,  m_end,    m_save, m_tree,      m_wavesWidget};
+    QWidget* order[] = {m_addr,   m_access, m_add, m_removeAll, m_unit, m_zoomOut,
+                        m_zoomIn, m_fit,    m_end, m_save,      m_tree, m_wavesWidget};
     for (size_t index = 1; index < std::size(order); ++index)
         QWidget::setTabOrder(order[index - 1], order[index]);
 }
@@ -201,6 +249,9 @@ void ProcSimWaveViewer::setBase(int base)
 {
     const int addr = enteredAddr();
     m_base = base;
+    const QString digits =
+        base == 16 ? QStringLiteral("[0-9A-Fa-f]{0,2}") : QStringLiteral("[0-%1]{0,3}").arg(base - 1);
+    m_addrValidator->setRegularExpression(QRegularExpression(digits));
     if (addr >= 0)
         m_addr->setText(QStringLiteral("%1").arg(addr, 2, base, QLatin1Char('0')).toUpper());
     m_wavesWidget->setBase(base);
@@ -289,7 +340,8 @@ bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initV
 void ProcSimWaveViewer::removeAddrChannel(sAddrChannel_t* channel)
 {
     m_tree->removeChannel(channel);
-    m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(), [channel](const auto& wave) { return wave->channel == channel; }),
+    m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(),
+                                 [channel](const auto& wave) { return wave->channel == channel; }),
                   m_waves.end());
     m_data.removeChannel(channel);
     if (m_data.isEmpty())
@@ -390,7 +442,8 @@ void ProcSimWaveViewer::save()
         m_lastPath = path;
         say(tr("Saved as \"%1\".").arg(QFileInfo(path).fileName()));
     } else {
-        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"), tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
+        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"),
+                             tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
     }
 }
 

@@ -8,9 +8,11 @@
 #include <vector>
 
 class QAbstractButton;
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QRegularExpressionValidator;
 class QScrollBar;
 
 namespace nsProc {
@@ -20,8 +22,8 @@ class ProcSimWaveTree;
 
 /// Shows the values that pass through watched ports of a simulated processor against time.
 ///
-/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is watched there is
-/// nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
+/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is
+/// watched there is nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
 class ProcSimWaveViewer : public QWidget
 {
     Q_OBJECT
@@ -80,9 +82,13 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* makeToolRow();
+    QWidget* makeTools();
+    static QWidget* makeToolGroup(QWidget* parent);
+    void addPortTools();
+    void addViewTools();
     QWidget* makePanes();
     QAbstractButton* addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
                                const QString& toolTip);
@@ -101,7 +107,11 @@ private:
     qint64 m_shownClock = 0;
     bool m_stale = false;
     QString m_lastPath;
+    QBoxLayout* m_toolLayout = nullptr;
+    QWidget* m_portTools = nullptr;
+    QWidget* m_viewTools = nullptr;
     QLineEdit* m_addr = nullptr;
+    QRegularExpressionValidator* m_addrValidator = nullptr; ///< digits of the present base
     QComboBox* m_access = nullptr;
     QComboBox* m_unit = nullptr;
     QAbstractButton* m_add = nullptr;

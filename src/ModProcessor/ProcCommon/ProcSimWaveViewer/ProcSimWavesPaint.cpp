@@ -145,7 +145,8 @@ const ProcSimWaveColumns& ProcSimWavesWidget::columns(const sAddrChannel_t* chan
     return m_columns.back().second;
 }
 
-/// What a numeric wave shows from left to right: values, blocks of values that are too dense, and at first perhaps nothing.
+/// What a numeric wave shows from left to right: values, blocks of values that are too dense, and at first perhaps
+/// nothing.
 QVector<ProcSimWavesWidget::sSegment_t> ProcSimWavesWidget::segments(const ProcSimWaveColumns& columns) const
 {
     QVector<sSegment_t> result;
@@ -166,7 +167,8 @@ QVector<ProcSimWavesWidget::sSegment_t> ProcSimWavesWidget::segments(const ProcS
     int lastX = start - textWidth;
     for (const ProcSimWaveColumns::sColumn_t& column : columns.columns) {
         const bool repeats = column.bits.isUniform() && column.bits.any == value;
-        // The same value time and again, such as that of a port that is polled, is one value as long as there is no room to write each.
+        // The same value time and again, such as that of a port that is polled, is one value as long as there is no
+        // room to write each.
         const bool joins = repeats && (column.x - lastX < textWidth || column.end - column.first > 1);
         lastX = column.x;
         if (joins)
@@ -193,7 +195,8 @@ void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, c
     const int top = topOf(wave);
     const int bottom = bottomOf(wave);
     const int middle = (top + bottom) / 2;
-    const int baseLine = top + (bottom - top + 1 + painter->fontMetrics().ascent() - painter->fontMetrics().descent() + 1) / 2;
+    const int baseLine =
+        top + (bottom - top + 1 + painter->fontMetrics().ascent() - painter->fontMetrics().descent() + 1) / 2;
     QVector<QLine> lines;
     lines.reserve(segments.size() * 6);
     painter->setPen(colUnknown);

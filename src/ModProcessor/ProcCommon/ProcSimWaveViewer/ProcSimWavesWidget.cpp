@@ -30,6 +30,7 @@ ProcSimWavesWidget::ProcSimWavesWidget(const ProcSimWaveData* data, double clkFr
     , m_font(QStringLiteral("DejaVu Sans Mono"), 8)
 {
     setObjectName(QStringLiteral("procSimWaves"));
+    setToolTip(tr("Ctrl with the wheel zooms, Shift with the wheel or dragging scrolls, a click sets a marker"));
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
@@ -128,7 +129,9 @@ double ProcSimWavesWidget::begin() const
 
 double ProcSimWavesWidget::maxFirst() const
 {
-    return qMax(0.0, end() - qMax(1, width() - endMargin) / m_time.pxPerClock());
+    const double first = end() - qMax(1, width() - endMargin) / m_time.pxPerClock();
+    // Less than a pixel is what rounding leaves.
+    return first * m_time.pxPerClock() < 0.5 ? 0 : first;
 }
 
 double ProcSimWavesWidget::fitScale() const
@@ -154,9 +157,9 @@ void ProcSimWavesWidget::refresh()
 void ProcSimWavesWidget::setFirst(double clock)
 {
     const double last = maxFirst();
-    m_follow = clock >= last;
-    // On whole pixels, so that what is drawn moves but does not flicker.
     const double scale = m_time.pxPerClock();
+    m_follow = clock >= last - 1 / scale;
+    // On whole pixels, so that what is drawn moves but does not flicker.
     m_time.setFirst(qMax(0.0, std::round(qMin(clock, last) * scale) / scale));
     updateScrollBar();
     update();
@@ -364,10 +367,10 @@ bool ProcSimWavesWidget::event(QEvent* event)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString text = toolTipAt(help->pos());
+    // Where there is no value, the widget's own tool tip tells what can be done.
     if (text.isEmpty())
-        QToolTip::hideText();
-    else
-        QToolTip::showText(help->globalPos(), text, this);
+        return QWidget::event(event);
+    QToolTip::showText(help->globalPos(), text, this);
     return true;
 }
 

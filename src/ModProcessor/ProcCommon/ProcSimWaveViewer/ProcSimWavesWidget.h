@@ -16,9 +16,10 @@ namespace nsProc {
 
 /// Draws waves against time: one row a wave, under an axis of time.
 ///
-/// It starts at a scale at which single values are readable, and follows the end of time until the user scrolls back; at the end it
-/// follows again. Ctrl with the wheel zooms at the pointer, Shift with the wheel scrolls, and so does dragging. A click sets a marker, a
-/// click on the marker takes it away. Painting costs the same however many values there are.
+/// It starts at a scale at which single values are readable, and follows the end of time until the user scrolls back;
+/// at the end it follows again. Ctrl with the wheel zooms at the pointer, Shift with the wheel scrolls, and so does
+/// dragging. A click sets a marker, a click on the marker takes it away. Painting costs the same however many values
+/// there are.
 class ProcSimWavesWidget : public QWidget
 {
     Q_OBJECT

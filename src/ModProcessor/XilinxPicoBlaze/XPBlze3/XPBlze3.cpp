@@ -1,5 +1,6 @@
 #include "XPBlze3.h"
 
+#include "XPBlze3ConfigWidget.h"
 #include "XPBlze3AsmBe.h"
 #include "XPBlze3Sim.h"
 #include "XPBlzeActionsSim.h"
@@ -39,6 +40,11 @@ QString XPBlze3::cfgSection() const
 nsProc::ProcCoreConfig XPBlze3::defaultConfig() const
 {
     return XPBlze3Config();
+}
+
+nsProc::ProcConfigWidget* XPBlze3::createConfigWidget()
+{
+    return new XPBlze3ConfigWidget;
 }
 
 } // namespace nsXPBlze3

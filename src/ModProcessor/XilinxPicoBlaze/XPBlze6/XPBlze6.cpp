@@ -1,5 +1,6 @@
 #include "XPBlze6.h"
 
+#include "XPBlze6ConfigWidget.h"
 #include "XPBlze6AsmBe.h"
 #include "XPBlze6Sim.h"
 #include "XPBlzeActionsSim.h"
@@ -39,6 +40,11 @@ QString XPBlze6::cfgSection() const
 nsProc::ProcCoreConfig XPBlze6::defaultConfig() const
 {
     return XPBlze6Config();
+}
+
+nsProc::ProcConfigWidget* XPBlze6::createConfigWidget()
+{
+    return new XPBlze6ConfigWidget;
 }
 
 QList<QPair<QString, int*>> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const
