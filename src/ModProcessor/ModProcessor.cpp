@@ -8,8 +8,10 @@
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
+#include "ProcConfigPage.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
+#include "ProcShell.h"
 
 namespace nsModProcessor {
 
@@ -37,16 +39,11 @@ ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_
 
 ModProcessor::~ModProcessor()
 {
-    // Where the window goes without a close, the servers may be gone already: the processor must not call them any more.
-    if (m_current == nullptr)
-        return;
-    m_current->modGuiHook = nullptr;
-    m_current->modMsgHook = nullptr;
-    m_current->modEditorHook = nullptr;
-    m_current->modAsmFeHook = nullptr;
-    m_current->modActionHook = nullptr;
-    m_current->modCfgAppHook = nullptr;
-    m_current->modPrjHook = nullptr;
+    // Where the window goes without a close, the servers may be gone already: no processor must call them any more.
+    for (ProcPluginIf* processor : m_list->processors()) {
+        if (auto* shell = dynamic_cast<nsProc::ProcShell*>(processor))
+            shell->dropHooks();
+    }
 }
 
 void ModProcessor::modInitIntermod()
@@ -79,9 +76,33 @@ void ModProcessor::prjClose()
     detach(leaving);
 }
 
+nsModConfig::ModConfigPagePluginIf* ModProcessor::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = std::make_unique<ProcConfigPage>(m_list.get());
+    return m_configPage.get();
+}
+
+void ModProcessor::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr)
+        m_configPage->setConfig(this);
+}
+
 bool ModProcessor::configPageCloseRequest()
 {
     return m_current == nullptr || m_current->configWidgetCloseRequest();
+}
+
+void ModProcessor::configPageClose(bool accept)
+{
+    if (m_configPage != nullptr && accept) {
+        processor = m_configPage->config().processor;
+        setupProcessorIf();
+        if (m_current != nullptr)
+            m_current->configWidgetFetchConfig();
+    }
+    m_configPage.reset();
 }
 
 void ModProcessor::setupProcessorIf()

@@ -18,6 +18,7 @@
 
 namespace nsModProcessor {
 
+class ProcConfigPage;
 class ProcList;
 class ProcPluginIf;
 
@@ -63,7 +64,10 @@ public:
     void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
 
     // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
     bool configPageCloseRequest() override;
+    void configPageClose(bool accept) override;
 
     /// Attaches the processor that the present configuration names, or none.
     void setupProcessorIf();
@@ -79,6 +83,7 @@ private:
     void detach(ProcPluginIf* processor);
 
     std::unique_ptr<ProcList> m_list;
+    std::unique_ptr<ProcConfigPage> m_configPage; ///< null while the settings dialog is closed; gone before the list
     ProcPluginIf* m_current = nullptr; ///< not owned
 };
 

@@ -86,6 +86,8 @@ TEST_F(WavesScreenshot, ManyValues)
     click("procSimWaveZoomFit");
     tree->expandItem(tree->topLevelItem(1));
     save("fit");
+    viewer->resize(600, 240);
+    save("narrow");
 }
 
 /// At 25 pictures a second, drawing a million values must leave the simulator its time.

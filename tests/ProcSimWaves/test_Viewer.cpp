@@ -80,6 +80,25 @@ TEST_F(WavesViewer, ControlsTellWhatTheyDo)
     EXPECT_TRUE(titled);
 }
 
+TEST_F(WavesViewer, ToolsOfANarrowViewerStandInTwoLines)
+{
+    const auto* add = child<QAbstractButton>("procSimWaveAdd");
+    const auto* save = child<QAbstractButton>("procSimWaveSave");
+    const auto yOf = [this](const QWidget* control) {
+        return control->mapTo(viewer.get(), control->rect().center()).y();
+    };
+    viewer->resize(1200, 250);
+    settle();
+    EXPECT_EQ(yOf(add), yOf(save));
+    viewer->resize(viewer->minimumSizeHint().width(), 250);
+    settle();
+    EXPECT_LT(viewer->width(), 620);
+    EXPECT_GT(yOf(save), yOf(add) + 10);
+    for (const auto* control : {add, save})
+        EXPECT_TRUE(viewer->rect().contains(control->mapTo(viewer.get(), control->rect().bottomRight())));
+    EXPECT_GT(waves->height(), 60);
+}
+
 TEST_F(WavesViewer, TypedAddressIsWatched)
 {
     type("2a");

@@ -200,6 +200,20 @@ TEST_F(WavesView, ShiftWheelAndDraggingScroll)
     EXPECT_EQ(waves->marker(), -1) << "dragging is no click";
 }
 
+TEST_F(WavesView, PicturesMoveByWholePixels)
+{
+    count(5000);
+    waves->setFocus();
+    for (int step = 0; step < 12; ++step) {
+        turnWheel({300, 60}, {0, step % 3 == 0 ? 60 : -70}, Qt::ControlModifier);
+        viewer->setClock(viewer->data()->clock() + 7);
+        settle();
+        QTest::keyClick(waves, Qt::Key_Left);
+        const double pixels = waves->time().first() * waves->time().pxPerClock();
+        EXPECT_NEAR(pixels, std::round(pixels), 1e-6);
+    }
+}
+
 TEST_F(WavesView, WheelScrollsTheRows)
 {
     for (int addr = 2; addr < 20; ++addr)

@@ -1,6 +1,9 @@
 #include "LMico8v3x.h"
 
+#include "LMico8v3xConfigWidget.h"
 #include "LMico8v3xAsmBe.h"
+#include "LMico8v3xSim.h"
+#include "LMicoActionsSim.h"
 
 namespace nsLMico8v3x {
 
@@ -19,6 +22,16 @@ nsProc::ProcAsmBe* LMico8v3x::createAsmBe()
     return new LMico8v3xAsmBe;
 }
 
+nsProc::ProcSim* LMico8v3x::createSim()
+{
+    return new LMico8v3xSim;
+}
+
+nsProc::ProcActionsSim* LMico8v3x::createActionsSim()
+{
+    return new nsLMico::LMicoActionsSim;
+}
+
 QString LMico8v3x::cfgSection() const
 {
     return QStringLiteral("LMico8v3x");
@@ -27,6 +40,11 @@ QString LMico8v3x::cfgSection() const
 nsProc::ProcCoreConfig LMico8v3x::defaultConfig() const
 {
     return LMico8v3xConfig();
+}
+
+nsProc::ProcConfigWidget* LMico8v3x::createConfigWidget()
+{
+    return new LMico8v3xConfigWidget;
 }
 
 QList<QPair<QString, int*>> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const

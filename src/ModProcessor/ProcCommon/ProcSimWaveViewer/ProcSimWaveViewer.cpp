@@ -33,7 +33,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(makeToolRow());
+    layout->addWidget(makeTools());
     layout->addWidget(makePanes(), 1);
     connect(m_add, &QAbstractButton::clicked, this, &ProcSimWaveViewer::addWave);
     connect(m_removeAll, &QAbstractButton::clicked, this, &ProcSimWaveViewer::clear);
@@ -95,12 +95,37 @@ QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text,
     return button;
 }
 
-QWidget* ProcSimWaveViewer::makeToolRow()
+/// A group of tools in a line of its own.
+QWidget* ProcSimWaveViewer::makeToolGroup(QWidget* parent)
 {
-    auto* row = new QWidget(this);
-    auto* layout = new QHBoxLayout(row);
-    layout->setContentsMargins(8, 4, 8, 4);
+    auto* group = new QWidget(parent);
+    auto* layout = new QHBoxLayout(group);
+    layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(4);
+    parent->layout()->addWidget(group);
+    return group;
+}
+
+QWidget* ProcSimWaveViewer::makeTools()
+{
+    auto* tools = new QWidget(this);
+    m_toolLayout = new QBoxLayout(QBoxLayout::LeftToRight, tools);
+    m_toolLayout->setContentsMargins(8, 4, 8, 4);
+    m_toolLayout->setSpacing(4);
+    m_portTools = makeToolGroup(tools);
+    m_viewTools = makeToolGroup(tools);
+    m_toolLayout->setStretchFactor(m_portTools, 1);
+    addPortTools();
+    addViewTools();
+    // The width of the dock decides whether the groups stand in one line; they do not decide about the dock.
+    tools->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    return tools;
+}
+
+void ProcSimWaveViewer::addPortTools()
+{
+    QWidget* row = m_portTools;
+    auto* layout = static_cast<QHBoxLayout*>(row->layout());
     auto* title = new QLabel(tr("&Port address"), row);
     m_addr = new QLineEdit(row);
     m_addr->setObjectName(QStringLiteral("procSimWaveAddr"));
@@ -126,6 +151,12 @@ QWidget* ProcSimWaveViewer::makeToolRow()
     m_message->setObjectName(QStringLiteral("statusBarTitle"));
     m_message->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     layout->addWidget(m_message, 1);
+}
+
+void ProcSimWaveViewer::addViewTools()
+{
+    QWidget* row = m_viewTools;
+    auto* layout = static_cast<QHBoxLayout*>(row->layout());
     m_unit = new QComboBox(row);
     m_unit->setObjectName(QStringLiteral("procSimWaveUnit"));
     m_unit->setToolTip(m_clkFreq > 0 ? tr("Unit of the time axis")
@@ -143,7 +174,20 @@ QWidget* ProcSimWaveViewer::makeToolRow()
                       tr("Show the present time and follow it (End key)"));
     m_save = addButton(row, tr("&Save..."), QStringLiteral("waveSave"), QStringLiteral("procSimWaveSave"),
                        tr("Save the values as a value change dump (VCD), which other wave viewers open"));
-    return row;
+    layout->addStretch();
+}
+
+/// In a narrow dock the tools stand in two lines.
+void ProcSimWaveViewer::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const QMargins margins = m_toolLayout->contentsMargins();
+    const int ports = m_portTools->minimumSizeHint().width();
+    const int views = m_viewTools->minimumSizeHint().width();
+    const int space = margins.left() + margins.right();
+    m_toolLayout->parentWidget()->setMinimumWidth(qMax(ports, views) + space);
+    const bool fits = ports + views + m_toolLayout->spacing() + space <= width();
+    m_toolLayout->setDirection(fits ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 /// The tree and the waves, each with a line below it, so that their rows end at the same height.

@@ -8,6 +8,7 @@
 #include <vector>
 
 class QAbstractButton;
+class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -81,9 +82,13 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
-    QWidget* makeToolRow();
+    QWidget* makeTools();
+    static QWidget* makeToolGroup(QWidget* parent);
+    void addPortTools();
+    void addViewTools();
     QWidget* makePanes();
     QAbstractButton* addButton(QWidget* row, const QString& text, const QString& icon, const QString& name,
                                const QString& toolTip);
@@ -102,6 +107,9 @@ private:
     qint64 m_shownClock = 0;
     bool m_stale = false;
     QString m_lastPath;
+    QBoxLayout* m_toolLayout = nullptr;
+    QWidget* m_portTools = nullptr;
+    QWidget* m_viewTools = nullptr;
     QLineEdit* m_addr = nullptr;
     QRegularExpressionValidator* m_addrValidator = nullptr; ///< digits of the present base
     QComboBox* m_access = nullptr;

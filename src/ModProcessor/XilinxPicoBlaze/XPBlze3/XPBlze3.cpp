@@ -1,6 +1,9 @@
 #include "XPBlze3.h"
 
+#include "XPBlze3ConfigWidget.h"
 #include "XPBlze3AsmBe.h"
+#include "XPBlze3Sim.h"
+#include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze3 {
 
@@ -19,6 +22,16 @@ nsProc::ProcAsmBe* XPBlze3::createAsmBe()
     return new XPBlze3AsmBe;
 }
 
+nsProc::ProcSim* XPBlze3::createSim()
+{
+    return new XPBlze3Sim;
+}
+
+nsProc::ProcActionsSim* XPBlze3::createActionsSim()
+{
+    return new nsXPBlze::XPBlzeActionsSim;
+}
+
 QString XPBlze3::cfgSection() const
 {
     return QStringLiteral("XPBlze3");
@@ -27,6 +40,11 @@ QString XPBlze3::cfgSection() const
 nsProc::ProcCoreConfig XPBlze3::defaultConfig() const
 {
     return XPBlze3Config();
+}
+
+nsProc::ProcConfigWidget* XPBlze3::createConfigWidget()
+{
+    return new XPBlze3ConfigWidget;
 }
 
 } // namespace nsXPBlze3

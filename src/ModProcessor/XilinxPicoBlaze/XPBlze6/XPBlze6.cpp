@@ -1,6 +1,9 @@
 #include "XPBlze6.h"
 
+#include "XPBlze6ConfigWidget.h"
 #include "XPBlze6AsmBe.h"
+#include "XPBlze6Sim.h"
+#include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze6 {
 
@@ -19,6 +22,16 @@ nsProc::ProcAsmBe* XPBlze6::createAsmBe()
     return new XPBlze6AsmBe;
 }
 
+nsProc::ProcSim* XPBlze6::createSim()
+{
+    return new XPBlze6Sim;
+}
+
+nsProc::ProcActionsSim* XPBlze6::createActionsSim()
+{
+    return new nsXPBlze::XPBlzeActionsSim;
+}
+
 QString XPBlze6::cfgSection() const
 {
     return QStringLiteral("XPBlze6");
@@ -27,6 +40,11 @@ QString XPBlze6::cfgSection() const
 nsProc::ProcCoreConfig XPBlze6::defaultConfig() const
 {
     return XPBlze6Config();
+}
+
+nsProc::ProcConfigWidget* XPBlze6::createConfigWidget()
+{
+    return new XPBlze6ConfigWidget;
 }
 
 QList<QPair<QString, int*>> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const

@@ -1,0 +1,42 @@
+// The settings widget's life.
+
+#include "ProcShell.h"
+
+#include "ProcConfigWidget.h"
+
+namespace nsProc {
+
+nsModProcessor::ProcConfigPluginIf* ProcShell::configWidget()
+{
+    if (m_configWidget == nullptr) {
+        m_configWidget = createConfigWidget();
+        connect(m_configWidget, &QObject::destroyed, this, [this] { m_configWidget = nullptr; });
+        connect(this, &QObject::destroyed, m_configWidget, &QObject::deleteLater);
+        // The user can turn to this processor on the page: he then sees what it has, not empty fields.
+        m_configWidget->setConfig(&m_settings);
+    }
+    return m_configWidget;
+}
+
+void ProcShell::configWidgetSetConfig()
+{
+    if (m_configWidget != nullptr)
+        m_configWidget->setConfig(&m_settings);
+}
+
+void ProcShell::configWidgetFetchConfig()
+{
+    if (m_configWidget == nullptr)
+        return;
+    m_configWidget->config(&m_settings);
+    // The simulator works with these without a further run of the assembler.
+    m_configWidget->config(m_config);
+}
+
+void ProcShell::configWidgetClose()
+{
+    delete m_configWidget;
+    m_configWidget = nullptr;
+}
+
+} // namespace nsProc

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "ProcConfigWidget.h"
+
+namespace nsXPBlze3 {
+
+/// The settings of the PicoBlaze 3.
+class XPBlze3ConfigWidget : public nsProc::ProcConfigWidget
+{
+    Q_OBJECT
+
+public:
+    explicit XPBlze3ConfigWidget(QWidget* parent = nullptr);
+};
+
+} // namespace nsXPBlze3
