@@ -11,6 +11,7 @@
 #include "ProcConfigPage.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
+#include "ProcShell.h"
 
 namespace nsModProcessor {
 
@@ -38,16 +39,11 @@ ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_
 
 ModProcessor::~ModProcessor()
 {
-    // Where the window goes without a close, the servers may be gone already: the processor must not call them any more.
-    if (m_current == nullptr)
-        return;
-    m_current->modGuiHook = nullptr;
-    m_current->modMsgHook = nullptr;
-    m_current->modEditorHook = nullptr;
-    m_current->modAsmFeHook = nullptr;
-    m_current->modActionHook = nullptr;
-    m_current->modCfgAppHook = nullptr;
-    m_current->modPrjHook = nullptr;
+    // Where the window goes without a close, the servers may be gone already: no processor must call them any more.
+    for (ProcPluginIf* processor : m_list->processors()) {
+        if (auto* shell = dynamic_cast<nsProc::ProcShell*>(processor))
+            shell->dropHooks();
+    }
 }
 
 void ModProcessor::modInitIntermod()

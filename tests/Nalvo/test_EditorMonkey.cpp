@@ -100,12 +100,13 @@ protected:
             file.write(bytes);
     }
 
-    /// Any enabled action but those that leave the program's hands.
+    /// Any enabled action but those that leave the program's hands, and simulator runs, which nobody here ends.
     void triggerSomeAction()
     {
+        static const QStringList left = {"Print...", "Run...", "Next line", "Simulate to end of call", "Simulate to cursor"};
         QList<QAction*> actions;
         for (QAction* action : window->findChildren<QAction*>()) {
-            if (action->isEnabled() && action->menu() == nullptr && action->text() != "Print...")
+            if (action->isEnabled() && action->menu() == nullptr && !left.contains(action->text()))
                 actions.append(action);
         }
         if (!actions.isEmpty())

@@ -1,6 +1,7 @@
 #include "OpcodeList.h"
 
 #include "Opcode.h"
+#include "OpcodeListWatch.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -19,10 +20,19 @@ bool isBefore(const SrcReference& a, int fileNo, int lineNo)
 OpcodeList::~OpcodeList()
 {
     clear();
+    for (OpcodeListWatch* watch : m_watches)
+        watch->m_list = nullptr;
+}
+
+void OpcodeList::removeWatch(OpcodeListWatch* watch)
+{
+    m_watches.erase(std::remove(m_watches.begin(), m_watches.end(), watch), m_watches.end());
 }
 
 void OpcodeList::clear()
 {
+    for (OpcodeListWatch* watch : m_watches)
+        watch->m_deleting();
     for (Opcode* opcode : m_opcodes)
         delete opcode;
     std::vector<Opcode*>().swap(m_opcodes);

@@ -7,6 +7,7 @@
 namespace nsModAsmFe {
 
 class Opcode;
+class OpcodeListWatch;
 
 /// The instructions of the program, in source order. Owns them.
 class OpcodeList
@@ -17,7 +18,7 @@ public:
     OpcodeList(const OpcodeList&) = delete;
     OpcodeList& operator=(const OpcodeList&) = delete;
 
-    /// Deletes all elements.
+    /// Deletes all elements. Who watches the list hears of it before.
     void clear();
     /// Takes the ownership and links the element to the last one.
     void append(Opcode* opcode);
@@ -45,6 +46,11 @@ public:
     void addressesChanged();
 
 private:
+    friend class OpcodeListWatch;
+
+    void addWatch(OpcodeListWatch* watch) { m_watches.push_back(watch); }
+    void removeWatch(OpcodeListWatch* watch);
+
     template <class Below>
     Opcode* firstNotBelow(Below below) const;
     template <class Hits>
@@ -52,6 +58,7 @@ private:
     void buildIndexes() const;
 
     std::vector<Opcode*> m_opcodes;
+    std::vector<OpcodeListWatch*> m_watches; ///< not owned
     bool m_ascending = true; ///< positions ascend, as they do in every run
 
     mutable bool m_indexed = false;

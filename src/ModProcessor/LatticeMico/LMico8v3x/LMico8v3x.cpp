@@ -2,6 +2,8 @@
 
 #include "LMico8v3xConfigWidget.h"
 #include "LMico8v3xAsmBe.h"
+#include "LMico8v3xSim.h"
+#include "LMicoActionsSim.h"
 
 namespace nsLMico8v3x {
 
@@ -18,6 +20,16 @@ QString LMico8v3x::processorName()
 nsProc::ProcAsmBe* LMico8v3x::createAsmBe()
 {
     return new LMico8v3xAsmBe;
+}
+
+nsProc::ProcSim* LMico8v3x::createSim()
+{
+    return new LMico8v3xSim;
+}
+
+nsProc::ProcActionsSim* LMico8v3x::createActionsSim()
+{
+    return new nsLMico::LMicoActionsSim;
 }
 
 QString LMico8v3x::cfgSection() const

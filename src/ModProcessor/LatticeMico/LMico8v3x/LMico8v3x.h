@@ -14,9 +14,11 @@ public:
     explicit LMico8v3x(QObject* parent = nullptr);
 
     QString processorName() override;
+    nsProc::ProcSim* createSim() override;
 
 protected:
     nsProc::ProcAsmBe* createAsmBe() override;
+    nsProc::ProcActionsSim* createActionsSim() override;
     QString cfgSection() const override;
     nsProc::ProcCoreConfig defaultConfig() const override;
     nsProc::ProcConfigWidget* createConfigWidget() override;

@@ -1,6 +1,7 @@
 #include "ProcShell.h"
 
 #include "ProcAsmBe.h"
+#include "ProcSim.h"
 
 #include "ModAsmFeHookIf.h"
 #include "ModMsgHookIf.h"
@@ -10,12 +11,23 @@ namespace nsProc {
 
 ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent) : QObject(parent), m_config(config) {}
 
+ProcShell::~ProcShell() = default;
+
 void ProcShell::modInit()
 {
     if (m_asmBe == nullptr) {
         m_asmBe = createAsmBe();
         m_asmBe->setParent(this);
     }
+    if (m_actions == nullptr) {
+        m_actions = createActionsSim();
+        m_actions->setParent(this);
+        m_actions->setEnabled(false);
+        m_actions->setEnabled(ProcActionsSim::eActionEnable, true);
+        connect(m_actions, SIGNAL(triggered(nsProc::ProcActionsSim::eAction_t)), this,
+                SLOT(handleActionsSim(nsProc::ProcActionsSim::eAction_t)));
+    }
+    m_attached = true;
 }
 
 void ProcShell::modInitIntermod()
@@ -28,6 +40,7 @@ void ProcShell::modInitIntermod()
 
 void ProcShell::modExitIntermod()
 {
+    simDisable();
     if (m_asmBe == nullptr)
         return;
     if (modMsgHook != nullptr)
@@ -40,11 +53,20 @@ void ProcShell::modExit()
 {
     delete m_asmBe;
     m_asmBe = nullptr;
+    // One of the actions may be what has led here.
+    if (m_actions != nullptr)
+        m_actions->deleteLater();
+    m_actions = nullptr;
+    m_attached = false;
 }
 
 bool ProcShell::configWidgetCloseRequest()
 {
-    return true;
+    if (m_sim == nullptr)
+        return true;
+    if (modMsgHook != nullptr)
+        modMsgHook->showErrorMessage(tr("The simulator must be disabled before closing the configuration dialog."));
+    return false;
 }
 
 QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
@@ -118,7 +140,7 @@ bool ProcShell::assembleStage2()
 
 void ProcShell::setAssembled(bool)
 {
-    // Only a running simulator takes interest in the result.
+    simReload();
 }
 
 int ProcShell::beConfig()
@@ -130,14 +152,16 @@ void ProcShell::removeWidgetRequest(QWidget*) {}
 
 void ProcShell::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) {}
 
-QList<QAction*> ProcShell::menuActions(ModActionHookIf::eActionClass_t)
+QList<QAction*> ProcShell::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return {};
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassSimulator && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
 
-QList<QAction*> ProcShell::toolBarActions(ModActionHookIf::eActionClass_t)
+QList<QAction*> ProcShell::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return {};
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassSimulator && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
 }
 
 } // namespace nsProc

@@ -1,23 +1,46 @@
 #pragma once
 
+#include "ProcActionsSim.h"
 #include "ProcCoreConfig.h"
 #include "ProcPluginIf.h"
+#include "ProcSimTypes.h"
 
 #include <QObject>
+#include <QPointer>
+
+#include <memory>
 
 namespace nsProc {
 
 class ProcConfigWidget;
 class ProcAsmBe;
+class ProcSim;
 
 /// The shell that all processors share: the one object that the rest of the program knows of a processor.
 ///
-/// It owns the back end while the processor is attached, and carries the processor's settings, which outlive attachment.
+/// It owns the back end and the actions while the processor is attached, the simulator while that is enabled, and carries the
+/// processor's settings, which outlive attachment.
+///
+/// A simulator's command handles the user's events while it runs. So each operation here can be called in the middle of another
+/// one, and the simulator can be disabled while one of its commands is on the stack: it then lives until that has ended.
 class ProcShell : public QObject, public nsModProcessor::ProcPluginIf
 {
     Q_OBJECT
 
 public:
+    ~ProcShell() override;
+
+    /// Null while the simulator is disabled.
+    ProcSim* sim() const { return m_sim.get(); }
+    /// Null while the processor is detached.
+    ProcActionsSim* actionsSim() const { return m_actions; }
+    /// Settings of the last assembler run, which the simulator works with.
+    const ProcCoreConfig* runConfig() const { return m_config; }
+    /// A new simulator of this processor, which belongs to the caller. No hook of it is set.
+    virtual ProcSim* createSim() = 0;
+    /// Forgets the services, for the case that they go before the simulator.
+    void dropHooks();
+
     // ProcPluginIf
     void modInit() override;
     void modInitIntermod() override;
@@ -48,6 +71,26 @@ public:
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
     QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
 
+public slots:
+    void handleActionsSim(nsProc::ProcActionsSim::eAction_t action);
+    /// Enables the simulator, stops its run, or disables it.
+    void simEnableDisable();
+    /// Stops a run, or disables the simulator.
+    void simDisable();
+    void setPcFromCursor();
+    void simRun();
+    void simNextInstruction();
+    void simNextLine();
+    void simInt();
+    void simRst();
+    void simToEndOfCall();
+    void simToCursor();
+    void setBaseDec();
+    void setBaseHex();
+    void setBaseOct();
+    /// Hands a new assembler result to the simulator.
+    void simReload();
+
 protected:
     /// @param config the settings of the present run, a base of the derived class; not owned
     explicit ProcShell(ProcCoreConfig* config, QObject* parent = nullptr);
@@ -56,6 +99,8 @@ protected:
     void setSettings(const ProcCoreConfig& settings);
     /// A new back end; the shell takes the ownership.
     virtual ProcAsmBe* createAsmBe() = 0;
+    /// The actions of a simulator; the shell takes the ownership.
+    virtual ProcActionsSim* createActionsSim() = 0;
     /// First component of the processor's keys in the project, such as "XPBlze3".
     virtual QString cfgSection() const = 0;
     /// The settings as a new processor has them.
@@ -66,11 +111,21 @@ protected:
     virtual QList<QPair<QString, int*>> cfgNumbers(ProcCoreConfig* settings) const;
 
 private:
+    bool simEnable();
+    void removeSim();
+    void runSim(ProcActionsSim::eAction_t action, void (ProcSim::*command)());
+    void setBase(ProcActionsSim::eAction_t action, eBase_t base);
+    void setActionsEnabled(bool enabled);
+    void setActionsEnabled(std::initializer_list<ProcActionsSim::eAction_t> actions, bool enabled);
+
     /// The user's settings, as the project stores them. Each run starts from them: what a source sets holds for that run alone.
     ProcCoreConfig m_settings;
     ProcConfigWidget* m_configWidget = nullptr; ///< null while the settings dialog is closed
     ProcCoreConfig* m_config;
     ProcAsmBe* m_asmBe = nullptr;
+    QPointer<ProcActionsSim> m_actions;
+    std::shared_ptr<ProcSim> m_sim; ///< shared with those commands of it that are on the stack
+    bool m_attached = false;
 };
 
 } // namespace nsProc

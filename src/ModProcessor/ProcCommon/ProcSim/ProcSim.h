@@ -12,7 +12,6 @@
 
 #include <QMap>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QStringList>
 
@@ -23,6 +22,7 @@ class QTimer;
 namespace nsModAsmFe {
 class Arg;
 class IODev;
+class Opcode;
 } // namespace nsModAsmFe
 
 namespace nsProc {
@@ -35,8 +35,10 @@ class ProcSimIO;
 class ProcSimObserver;
 class ProcSimPorts;
 class ProcSimStatusBar;
+class ProcSimWaveData;
 class ProcSimWaveViewer;
 struct ProcSimClock;
+struct ProcSimWidgets;
 struct sCallStackItem_t;
 
 /// What makes one simulated processor differ from another, beside its instructions.
@@ -46,8 +48,10 @@ struct sProcSimTraits_t
     int bankCount = 1;
     int callStackCapacity = 31;   ///< levels
     bool clearsEachInstr = true;  ///< highlights end with each instruction; else only with each single step
-    bool logicClearsCarry = true; ///< `AND`, `OR`, `XOR` set carry to 0, and `TEST` sets it to the parity
+    bool logicClearsCarry = true; ///< `AND`, `OR`, `XOR` clear carry, and `TEST` sets it to the parity
     bool chainsZero = false;      ///< `ADDC` and `SUBC` only keep a zero flag that was set before
+    bool takesComputedTargets = false; ///< `JUMP` and `CALL` take a target from two registers
+    bool takesPortConstants = false;   ///< `WRPRT` takes a constant
 };
 
 /// The simulator that all processors share: it executes the instructions that the assembler has left.
@@ -130,17 +134,19 @@ public:
     int lineIndex() const { return m_lineIndex; }
 
     // Widgets. Null without a main window.
-    ProcSimCore* coreWidget() const { return m_coreWidget; }
-    ProcSimCallStack* callStackWidget() const { return m_callStackWidget; }
-    ProcSimIO* ioWidget() const { return m_ioWidget; }
-    ProcSimStatusBar* statusBarWidget() const { return m_statusBarWidget; }
+    ProcSimCore* coreWidget() const;
+    ProcSimCallStack* callStackWidget() const;
+    ProcSimIO* ioWidget() const;
+    ProcSimStatusBar* statusBarWidget() const;
     /// Null until the user has asked for it.
-    ProcSimWaveViewer* waveViewer() const { return m_waveViewer; }
+    ProcSimWaveViewer* waveViewer() const;
 
     /// @param observer null for none; not owned
     void setObserver(ProcSimObserver* observer) { m_observer = observer; }
-    /// The key of the last message that was shown, empty if none was since the last call.
+    /// The key of the last message that was shown, "internal" for an internal error, empty if none was since the last call.
     QString takeLastMsg();
+    /// Text of the last internal error.
+    const QString& lastInternalError() const { return m_lastText; }
 
     // ModGuiPluginIf
     /// The widgets only go with the simulator.
@@ -168,8 +174,11 @@ protected:
     /// The first of the settings that may not change during a simulation and has; empty if none.
     virtual QString changedSetting(const ProcCoreConfig& config) const = 0;
 
+    /// Enters the instructions that all processors have.
+    void setCommonHandlers();
+    /// Enters these, and what every PicoBlaze has beside them.
+    void setPicoBlazeHandlers();
     /// Enters an instruction of the processor.
-    void setHandler(nsModAsmFe::eOpcode_t opcode, Handler handler) { m_handlers[opcode] = handler; }
     template <class Sim>
     void setHandler(nsModAsmFe::eOpcode_t opcode, bool (Sim::*handler)())
     {
@@ -218,6 +227,7 @@ protected:
     bool simOpcode_compNoCarry() { return simOpcode_comp(false); }
     bool simOpcode_compWithCarry() { return simOpcode_comp(true); }
     bool simOpcode_test();
+    bool simOpcode_testWithCarry();
     bool simOpcode_sr();
     bool simOpcode_jump();
     bool simOpcode_call();
@@ -234,8 +244,10 @@ protected:
     /// Reads destination and source of an instruction with two operands.
     bool operands(int* dst, int* src);
     bool finishLogic(int result);
-    virtual bool takesComputedTargets() const { return false; }
-    virtual bool takesPortConstants() const { return false; }
+    bool finishSum(int result, bool withCarry);
+    bool returnFromCall();
+    /// What the shift or rotation at the program counter makes of a value: 9 bits, cut by whoever stores it.
+    bool shifted(int* value, int* carry);
 
     nsModAsmFe::Opcode* m_pc = nullptr; ///< not owned; null after the instructions were deleted
 
@@ -244,8 +256,7 @@ private:
     bool initIODevices();
     bool initIODevice(nsModAsmFe::IODev* dev);
     void createWidgets();
-    template <class Widget>
-    void dropWidget(QPointer<Widget>* widget);
+    void dropWidget(QWidget* widget);
     void forgetOpcodes();
     void showHighlight();
     void clearHighlights();
@@ -261,19 +272,23 @@ private:
     /// Page in which to look an address up, while the program counter stands in the shared range.
     bool resolvePage(int* memRange);
     bool readPort(const nsModAsmFe::Arg* arg, int addr, int* value);
-    bool target(const nsModAsmFe::Arg* arg, nsModAsmFe::Opcode** opcode, QString* name);
-    int shifted(int value, int* carry) const;
+    bool readReg(const nsModAsmFe::Arg* arg, int* value);
+    bool flowTarget(bool* taken, nsModAsmFe::Opcode** target, QString* name);
 
     sProcSimTraits_t m_traits;
     Handler m_handlers[nsModAsmFe::ocCount];
     ProcCoreConfig m_config;
     QStringList m_pageNames; ///< by range: shared, then the pages
     int m_lineIndex = 0;
+    int m_clocksOfInstr = 2;
     int m_lastPage = 1; ///< range of the page that was executed last
     int m_running = 0;
+    int m_deletions = 0; ///< counts how often the instructions were deleted
     eBase_t m_base = eBaseHex;
     QString m_lastMsg;
+    QString m_lastText;
     ProcSimObserver* m_observer = nullptr;
+    ProcSimWaveData* m_waves = nullptr; ///< of the wave viewer
     nsModAsmFe::OpcodeListWatch m_watch;
     QMap<QString, QList<int>> m_breakpoints; ///< as the instructions have them
     bool m_breakpointsTaken = false;
@@ -283,12 +298,7 @@ private:
     std::shared_ptr<ProcSimPorts> m_ports;
     std::shared_ptr<ProcSimClock> m_clock;
 
-    QPointer<ProcSimCore> m_coreWidget;
-    QPointer<ProcSimCallStack> m_callStackWidget;
-    QPointer<ProcSimIO> m_ioWidget;
-    QPointer<ProcSimStatusBar> m_statusBarWidget;
-    QPointer<ProcSimWaveViewer> m_waveViewer;
-    QPointer<QWidget> m_lastBottomWidget; ///< the one of the bottom dock that was shown last
+    std::unique_ptr<ProcSimWidgets> m_widgets;
     QTimer* m_displayTimer;
 };
 

@@ -59,9 +59,16 @@ public:
     void setInterrupt(eInt_t state) { m_interrupt = state; }
     eInt_t interrupt() const { return m_interrupt; }
 
-    /// Value that the instruction `HWBUILD` reads, 0 to 255; the user sets it.
-    void setHwbld(int value) { m_hwbld = value & 0xFF; }
+    /// Value that the instruction `HWBUILD` reads, 0 to 255; the user sets it. Negative: there is none at present.
+    void setHwbld(int value) { m_hwbld = value < 0 ? -1 : value & 0xFF; }
     int hwbld() const { return m_hwbld; }
+    /// @return false, with nothing changed, if there is no value
+    bool readHwbld(int* value) const
+    {
+        if (m_hwbld >= 0)
+            *value = m_hwbld;
+        return m_hwbld >= 0;
+    }
 
     // Scratchpad, bytes.
     int scrpdSize() const { return m_scrpdSize; }

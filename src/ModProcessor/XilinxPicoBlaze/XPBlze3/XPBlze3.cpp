@@ -2,6 +2,8 @@
 
 #include "XPBlze3ConfigWidget.h"
 #include "XPBlze3AsmBe.h"
+#include "XPBlze3Sim.h"
+#include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze3 {
 
@@ -18,6 +20,16 @@ QString XPBlze3::processorName()
 nsProc::ProcAsmBe* XPBlze3::createAsmBe()
 {
     return new XPBlze3AsmBe;
+}
+
+nsProc::ProcSim* XPBlze3::createSim()
+{
+    return new XPBlze3Sim;
+}
+
+nsProc::ProcActionsSim* XPBlze3::createActionsSim()
+{
+    return new nsXPBlze::XPBlzeActionsSim;
 }
 
 QString XPBlze3::cfgSection() const

@@ -2,6 +2,8 @@
 
 #include "XPBlze6ConfigWidget.h"
 #include "XPBlze6AsmBe.h"
+#include "XPBlze6Sim.h"
+#include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze6 {
 
@@ -18,6 +20,16 @@ QString XPBlze6::processorName()
 nsProc::ProcAsmBe* XPBlze6::createAsmBe()
 {
     return new XPBlze6AsmBe;
+}
+
+nsProc::ProcSim* XPBlze6::createSim()
+{
+    return new XPBlze6Sim;
+}
+
+nsProc::ProcActionsSim* XPBlze6::createActionsSim()
+{
+    return new nsXPBlze::XPBlzeActionsSim;
 }
 
 QString XPBlze6::cfgSection() const

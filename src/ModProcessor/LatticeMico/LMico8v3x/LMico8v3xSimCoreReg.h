@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ProcSimCoreReg.h"
+
+namespace nsLMico8v3x {
+
+/// The registers of a Mico8.
+class LMico8v3xSimCoreReg : public nsProc::ProcSimCoreReg
+{
+    Q_OBJECT
+
+public:
+    explicit LMico8v3xSimCoreReg(std::shared_ptr<nsProc::ProcSimCoreData> data, QWidget* parent = nullptr)
+        : ProcSimCoreReg(std::move(data), regName, parent)
+    {
+    }
+
+    static QString regName(int index) { return 'r' + QString::number(index); }
+};
+
+} // namespace nsLMico8v3x

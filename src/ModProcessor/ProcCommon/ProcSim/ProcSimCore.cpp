@@ -1,0 +1,223 @@
+#include "ProcSimCore.h"
+
+#include "ProcSimCoreData.h"
+#include "ProcSimCoreReg.h"
+#include "ProcSimEdtBit.h"
+#include "ProcSimEdtInterrupt.h"
+#include "ProcSimEdtNumeric.h"
+#include "ProcSimScrpd.h"
+
+#include <QFrame>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace nsProc {
+
+ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const std::function<QString(int)>& nameOf,
+                         QWidget* parent)
+    : QWidget(parent)
+    , m_data(std::move(data))
+    , m_head(new QGridLayout)
+    , m_pc(new ProcSimEdtNumeric(this))
+    , m_pageName(new QLabel(this))
+    , m_carry(new ProcSimEdtBit(this))
+    , m_zero(new ProcSimEdtBit(this))
+    , m_interrupt(new ProcSimEdtInterrupt(this))
+    , m_regs(new ProcSimCoreReg(m_data, nameOf, this))
+    , m_scrpd(new ProcSimScrpd(m_data, this))
+{
+    setObjectName(QStringLiteral("procSimCore"));
+    m_pc->setRange(0, std::max(pcMax, 0));
+    m_pc->setReadOnly(true);
+    m_pc->setToolTip(tr("Address of the next instruction. To go elsewhere, set the program counter from the text cursor."));
+    m_carry->setToolTip(tr("Carry flag, toggled with a click"));
+    m_zero->setToolTip(tr("Zero flag, toggled with a click"));
+
+    m_head->setHorizontalSpacing(6);
+    m_head->setVerticalSpacing(4);
+    m_head->addWidget(title(tr("PC:"), m_pc, m_pc->toolTip()), 0, 0);
+    auto* pcLine = new QHBoxLayout;
+    pcLine->setSpacing(6);
+    pcLine->addWidget(m_pc);
+    pcLine->addWidget(m_pageName, 1);
+    m_head->addLayout(pcLine, 0, 1);
+    auto* flags = new QHBoxLayout;
+    flags->setSpacing(4);
+    const struct
+    {
+        const char* text;
+        QWidget* widget;
+    } pairs[] = {{QT_TR_NOOP("Carry"), m_carry}, {QT_TR_NOOP("Zero"), m_zero}, {QT_TR_NOOP("Int"), m_interrupt}};
+    for (const auto& pair : pairs) {
+        flags->addWidget(title(tr(pair.text), pair.widget, pair.widget->toolTip()));
+        flags->addWidget(pair.widget);
+        flags->addSpacing(10);
+    }
+    flags->addStretch(1);
+    m_head->setColumnStretch(1, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 4, 8);
+    layout->setSpacing(6);
+    layout->addLayout(m_head);
+    layout->addLayout(flags);
+    layout->addWidget(hLine());
+    layout->addWidget(m_regs);
+    layout->addWidget(hLine());
+    layout->addWidget(m_scrpd, 1);
+
+    connect(m_carry, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editCarryBit(m_carry->value()); });
+    connect(m_zero, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editZeroBit(m_zero->value()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this, [this] { m_data->setInterrupt(m_interrupt->value()); });
+    refresh();
+}
+
+ProcSimCore::~ProcSimCore() = default;
+
+void ProcSimCore::addHwbld()
+{
+    m_hwbld = new ProcSimEdtNumeric(this);
+    m_hwbld->setToolTip(tr("Value that the instruction HWBUILD reads"));
+    m_head->addWidget(title(tr("HWBuild:"), m_hwbld, m_hwbld->toolTip()), 1, 0);
+    m_head->addWidget(m_hwbld, 1, 1, Qt::AlignLeft);
+    // An empty field is no value: the instruction says so.
+    connect(m_hwbld, &ProcSimEdtNumeric::edited, this,
+            [this](int value) { m_data->setHwbld(m_hwbld->text().isEmpty() ? -1 : value); });
+    connect(m_hwbld, &ProcSimEdtNumeric::valueChanged, this, [this](int value) { m_data->setHwbld(value); });
+    refresh();
+}
+
+QLabel* ProcSimCore::title(const QString& text, QWidget* buddy, const QString& toolTip)
+{
+    auto* label = new QLabel(text, this);
+    label->setBuddy(buddy);
+    label->setToolTip(toolTip);
+    return label;
+}
+
+QFrame* ProcSimCore::hLine()
+{
+    auto* line = new QFrame(this);
+    line->setObjectName(QStringLiteral("hline"));
+    line->setFrameShape(QFrame::HLine);
+    line->setFrameShadow(QFrame::Sunken);
+    return line;
+}
+
+void ProcSimCore::setBase(int base)
+{
+    m_pc->setBase(base);
+    m_regs->setBase(base);
+    m_scrpd->setBase(base);
+    if (m_hwbld != nullptr)
+        m_hwbld->setBase(base);
+}
+
+void ProcSimCore::refresh()
+{
+    m_pc->setValue(m_data->pc());
+    if (m_pageName->text() != m_data->pageName())
+        m_pageName->setText(m_data->pageName());
+    if (m_hwbld != nullptr && m_data->hwbld() >= 0)
+        m_hwbld->setValue(m_data->hwbld());
+    m_carry->setValue(m_data->carryBit());
+    m_carry->setHighlightEn(m_data->isCarryHighlighted());
+    m_zero->setValue(m_data->zeroBit());
+    m_zero->setHighlightEn(m_data->isZeroHighlighted());
+    m_interrupt->setValue(m_data->interrupt());
+    m_regs->refresh();
+    m_scrpd->refresh();
+    if (m_data->takeContentChanged())
+        emit contentChanged(this);
+}
+
+void ProcSimCore::setCarryBit(int value)
+{
+    m_data->setCarryBit(value);
+    refresh();
+}
+
+int ProcSimCore::carryBit() const
+{
+    return m_data->carryBit();
+}
+
+void ProcSimCore::setZeroBit(int value)
+{
+    m_data->setZeroBit(value);
+    refresh();
+}
+
+int ProcSimCore::zeroBit() const
+{
+    return m_data->zeroBit();
+}
+
+bool ProcSimCore::setReg(int index, const QString& alias, int value)
+{
+    const bool success = m_data->setReg(index, alias, value);
+    refresh();
+    return success;
+}
+
+bool ProcSimCore::reg(int index, const QString& alias, int* value)
+{
+    const bool success = m_data->reg(index, alias, value);
+    refresh();
+    return success;
+}
+
+bool ProcSimCore::initScrpd(unsigned int* values, int count)
+{
+    return m_scrpd->initValues(values, count);
+}
+
+bool ProcSimCore::setScrpd(int addr, int value)
+{
+    return m_scrpd->setValue(addr, value);
+}
+
+bool ProcSimCore::scrpd(int addr, int* value) const
+{
+    return m_scrpd->value(addr, value);
+}
+
+void ProcSimCore::setInterrupt(eInt_t state)
+{
+    m_data->setInterrupt(state);
+    refresh();
+}
+
+eInt_t ProcSimCore::interrupt() const
+{
+    return m_data->interrupt();
+}
+
+void ProcSimCore::setPc(int addr, const QString& pageName)
+{
+    m_data->setPc(addr, pageName);
+    refresh();
+}
+
+int ProcSimCore::pc() const
+{
+    return m_data->pc();
+}
+
+void ProcSimCore::clearHighlighted()
+{
+    m_data->clearHighlighted();
+    refresh();
+}
+
+void ProcSimCore::clear()
+{
+    m_data->clear();
+    refresh();
+}
+
+} // namespace nsProc

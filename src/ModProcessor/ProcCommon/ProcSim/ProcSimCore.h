@@ -1,0 +1,87 @@
+#pragma once
+
+#include "ProcSimTypes.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QFrame;
+class QGridLayout;
+class QLabel;
+
+namespace nsProc {
+
+class ProcSimCoreData;
+class ProcSimCoreReg;
+class ProcSimEdtBit;
+class ProcSimEdtInterrupt;
+class ProcSimEdtNumeric;
+class ProcSimScrpd;
+
+/// The dock of a simulated core: program counter, flags, interrupt, registers and scratchpad, all but the first to be edited.
+///
+/// It shows a ProcSimCoreData, and what the user types goes there at once.
+class ProcSimCore : public QWidget
+{
+    Q_OBJECT
+
+public:
+    ~ProcSimCore() override;
+
+    const std::shared_ptr<ProcSimCoreData>& data() const { return m_data; }
+    /// @param base 8, 10 or 16
+    void setBase(int base);
+    /// Shows what has changed in the data, and asks for the front if a flag was set.
+    void refresh();
+
+    // The state, with the display following at once.
+    void setCarryBit(int value);
+    int carryBit() const;
+    void setZeroBit(int value);
+    int zeroBit() const;
+    /// @return false for an index not below the number of registers
+    bool setReg(int index, const QString& alias, int value);
+    /// @return false for an index not below the number of registers
+    bool reg(int index, const QString& alias, int* value);
+    bool initScrpd(unsigned int* values, int count);
+    bool setScrpd(int addr, int value);
+    bool scrpd(int addr, int* value) const;
+    void setInterrupt(eInt_t state);
+    eInt_t interrupt() const;
+    void setPc(int addr, const QString& pageName);
+    int pc() const;
+    void clearHighlighted();
+    void clear();
+
+signals:
+    /// Something happened that the user wants to see. @param widget this
+    void contentChanged(QWidget* widget);
+
+protected:
+    /// @param pcMax highest address of the program counter
+    /// @param nameOf name of the register with a number
+    ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const std::function<QString(int)>& nameOf,
+                QWidget* parent = nullptr);
+
+    /// Adds a field for the value that `HWBUILD` reads.
+    void addHwbld();
+
+private:
+    QFrame* hLine();
+    QLabel* title(const QString& text, QWidget* buddy, const QString& toolTip);
+
+    std::shared_ptr<ProcSimCoreData> m_data;
+    QGridLayout* m_head;
+    ProcSimEdtNumeric* m_pc;
+    QLabel* m_pageName;
+    ProcSimEdtNumeric* m_hwbld = nullptr; ///< null where there is none
+    ProcSimEdtBit* m_carry;
+    ProcSimEdtBit* m_zero;
+    ProcSimEdtInterrupt* m_interrupt;
+    ProcSimCoreReg* m_regs;
+    ProcSimScrpd* m_scrpd;
+};
+
+} // namespace nsProc

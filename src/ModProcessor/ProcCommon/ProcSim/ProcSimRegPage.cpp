@@ -1,0 +1,72 @@
+#include "ProcSimRegPage.h"
+
+#include "ProcSimCoreData.h"
+#include "ProcSimEdtNumeric.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace nsProc {
+
+namespace {
+
+const int rowsPerColumn = 8;
+const int aliasWidth = 56; ///< pixels; a longer name shows its beginning, and all of it as a tool tip
+
+} // namespace
+
+ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank, const std::function<QString(int)>& nameOf,
+                               QWidget* parent)
+    : QWidget(parent)
+    , m_data(std::move(data))
+    , m_bank(bank)
+{
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setHorizontalSpacing(6);
+    layout->setVerticalSpacing(2);
+    for (int index = 0; index < m_data->regCount(); ++index) {
+        const int row = index % rowsPerColumn + index / (2 * rowsPerColumn) * rowsPerColumn;
+        const int column = index / rowsPerColumn % 2 * 3;
+        const QString name = nameOf(index);
+        auto* title = new QLabel(name, this);
+        auto* value = new ProcSimEdtNumeric(this);
+        value->setToolTip(tr("Register %1").arg(name));
+        value->setAccessibleName(value->toolTip());
+        auto* alias = new QLabel(this);
+        alias->setObjectName(QStringLiteral("procSimAlias"));
+        alias->setMinimumWidth(aliasWidth);
+        alias->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+        layout->addWidget(title, row, column, Qt::AlignRight | Qt::AlignVCenter);
+        layout->addWidget(value, row, column + 1);
+        layout->addWidget(alias, row, column + 2);
+        layout->setColumnStretch(column + 2, 1);
+        m_rows.append({value, alias, QString()});
+        connect(value, &ProcSimEdtNumeric::edited, this,
+                [this, index](int edited) { m_data->editReg(m_bank, index, edited); });
+    }
+    refresh();
+}
+
+void ProcSimRegPage::setBase(int base)
+{
+    for (const sRow_t& row : qAsConst(m_rows))
+        row.value->setBase(base);
+}
+
+void ProcSimRegPage::refresh()
+{
+    for (int index = 0; index < m_rows.size(); ++index) {
+        sRow_t& row = m_rows[index];
+        row.value->setValue(m_data->regValue(m_bank, index));
+        row.value->setHighlightEn(m_data->isRegHighlighted(m_bank, index));
+        const QString& alias = m_data->regAlias(m_bank, index);
+        if (alias == row.shownAlias)
+            continue;
+        row.shownAlias = alias;
+        row.alias->setText(alias);
+        row.alias->setToolTip(alias);
+    }
+}
+
+} // namespace nsProc

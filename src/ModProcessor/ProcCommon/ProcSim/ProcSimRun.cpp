@@ -1,0 +1,341 @@
+// Commands: single instructions, runs and where they end, breakpoints, the interrupt.
+
+#include "ProcSim.h"
+
+#include "ProcSimCallStackData.h"
+#include "ProcSimCoreData.h"
+#include "ProcSimObserver.h"
+#include "ProcSimPorts.h"
+#include "ProcSimResolvePageDialog.h"
+#include "ProcSimWaveViewer.h"
+
+#include "AsmFeFileHndlr.h"
+#include "ModAsmFeHookIf.h"
+#include "ModEditorHookIf.h"
+#include "Opcode.h"
+#include "OpcodeList.h"
+
+#include <QApplication>
+#include <QTimer>
+
+namespace nsProc {
+
+using nsModAsmFe::Opcode;
+using nsModAsmFe::OpcodeList;
+
+bool ProcSim::simOpcode()
+{
+    if (m_traits.clearsEachInstr)
+        clearHighlights();
+    if (m_pc == nullptr) {
+        signMsg(errNoOpcodeToExec);
+        return false;
+    }
+    if (m_core->interrupt() == eIntPending && !enterInterrupt())
+        return false;
+    if (m_observer != nullptr)
+        m_observer->instruction(m_pc);
+    const int opcode = m_pc->opcode;
+    const Handler handler =
+        opcode >= 0 && opcode < nsModAsmFe::ocCount ? m_handlers[opcode] : &ProcSim::simOpcode_unsupported;
+    return (this->*handler)();
+}
+
+bool ProcSim::enterInterrupt()
+{
+    // Without room to come back, the interrupt has to wait.
+    if (m_callStack->count() >= m_callStack->capacity()) {
+        signMsg(errCallStackOverflow);
+        return false;
+    }
+    m_core->setInterrupt(eIntService);
+    pushToCallstack(QStringLiteral("ISR"));
+    const Opcode* before = m_pc;
+    Opcode* vector = nullptr;
+    if (!getOpcodeOfAddr(m_config.intVectorAddr, &vector)) {
+        if (m_pc == before) {
+            m_pc = nullptr;
+            signMsg(errNoOpcodeAtIntVect, QString(), m_config.intVectorAddr);
+        }
+        return false;
+    }
+    if (!setProgramCounter(vector))
+        return false;
+    if (m_observer != nullptr)
+        m_observer->interruptEntered();
+    return true;
+}
+
+void ProcSim::clearHighlights()
+{
+    if (m_core == nullptr)
+        return;
+    m_core->clearHighlighted();
+    m_ports->clearTouched();
+}
+
+void ProcSim::startRun()
+{
+    m_running = 1;
+    m_displayTimer->start();
+    syncBreakpoints();
+}
+
+void ProcSim::endRun()
+{
+    m_running = 0;
+    m_displayTimer->stop();
+    showHighlight();
+}
+
+/// Handles the user's events. @return the command in progress may go on
+bool ProcSim::goOn()
+{
+    QCoreApplication::processEvents();
+    if (m_running == 0)
+        return false;
+    syncBreakpoints();
+    return true;
+}
+
+template <class Ends>
+void ProcSim::runLoop(Ends ends)
+{
+    while (simOpcode()) {
+        if (m_pc != nullptr && m_pc->breakpoint != 0)
+            break;
+        if (ends() || !goOn())
+            break;
+    }
+    endRun();
+}
+
+void ProcSim::simRun()
+{
+    if (m_running == 1 || m_core == nullptr)
+        return;
+    startRun();
+    runLoop([] { return false; });
+}
+
+void ProcSim::simNextInstruction()
+{
+    if (!m_traits.clearsEachInstr)
+        clearHighlights();
+    if (m_running == 1 || m_core == nullptr)
+        return;
+    simOpcode();
+    showHighlight();
+}
+
+void ProcSim::simNextLine()
+{
+    if (m_running == 1 || m_core == nullptr)
+        return;
+    startRun();
+    if (m_pc == nullptr || m_pc->opcode != nsModAsmFe::ocCall) {
+        simOpcode();
+        endRun();
+        return;
+    }
+    const int depth = m_callStack->count();
+    runLoop([this, depth] { return depth >= m_callStack->count(); });
+}
+
+void ProcSim::simToEndOfCall()
+{
+    if (m_running == 1 || m_core == nullptr)
+        return;
+    startRun();
+    const int depth = m_callStack->count();
+    runLoop([this, depth] { return depth > m_callStack->count(); });
+}
+
+void ProcSim::simToCursor()
+{
+    if (m_running == 1 || m_core == nullptr)
+        return;
+    syncBreakpoints();
+    Opcode* target = nullptr;
+    if (!getOpcodeOfCursor(&target) || target == m_pc)
+        return;
+    startRun();
+    // The loop ends when the instructions go away, so the target is never compared after that.
+    runLoop([this, target] { return m_pc == target; });
+}
+
+bool ProcSim::setPcFromCursor()
+{
+    Opcode* target = nullptr;
+    if (m_core == nullptr || !getOpcodeOfCursor(&target))
+        return false;
+    const bool success = setProgramCounter(target);
+    showHighlight();
+    return success;
+}
+
+void ProcSim::simInt()
+{
+    if (m_core == nullptr)
+        return;
+    if (m_core->interrupt() == eIntEnabled)
+        m_core->setInterrupt(eIntPending);
+    else if (m_core->interrupt() == eIntPending)
+        m_core->setInterrupt(eIntEnabled);
+    if (m_running == 0)
+        updateWidgets();
+}
+
+void ProcSim::simRst()
+{
+    m_running = 0;
+    if (m_core == nullptr)
+        return;
+    m_core->clear();
+    m_callStack->clear();
+    m_ports->clear();
+    if (waveViewer() != nullptr)
+        waveViewer()->clearValues();
+    clearHighlights();
+    if (!modAsmFeHook->isAssembled()) {
+        m_pc = nullptr;
+        signMsg(errNoOpcodeAssembled);
+    } else {
+        setProgramCounter(simStartPointer());
+    }
+    showHighlight();
+}
+
+bool ProcSim::setProgramCounter(Opcode* opcode)
+{
+    m_pc = opcode;
+    if (opcode == nullptr) {
+        signInternalError(tr("Zero program pointer!"));
+        return false;
+    }
+    if (opcode->memRange < 0 || opcode->memRange >= m_pageNames.size()) {
+        signInternalError(tr("Can not resolve page name!"));
+        return false;
+    }
+    m_core->setPc(opcode->pageAddr, m_pageNames.at(opcode->memRange));
+    m_lineIndex = opcode->srcRef.absLineNo;
+    if (opcode->memRange > 0)
+        m_lastPage = opcode->memRange;
+    return true;
+}
+
+Opcode* ProcSim::simStartPointer()
+{
+    QString path;
+    int line = 0;
+    OpcodeList* opcodes = modAsmFeHook->opcodeList();
+    if (modEditorHook != nullptr && modEditorHook->simStartPointer(&path, &line)) {
+        const int fileNo = modAsmFeHook->fileHndlr()->fileNo(path);
+        if (fileNo >= 0)
+            return opcodes->nextOfSrcRef(fileNo, line);
+    }
+    return opcodes->opcodeOfMemAddr(0);
+}
+
+bool ProcSim::getOpcodeOfCursor(Opcode** result)
+{
+    *result = nullptr;
+    QString path;
+    int line = 0;
+    if (modEditorHook == nullptr || !modEditorHook->cursorLine(&path, &line))
+        return false;
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
+        return false;
+    }
+    const int fileNo = modAsmFeHook->fileHndlr()->fileNo(path);
+    if (fileNo < 0) {
+        signMsg(errPcNoPrjFile);
+        return false;
+    }
+    *result = modAsmFeHook->opcodeList()->nextOfSrcRef(fileNo, line);
+    if (*result == nullptr) {
+        signMsg(errNoOpcodeToExec);
+        return false;
+    }
+    return true;
+}
+
+bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
+{
+    *result = nullptr;
+    int memRange = m_pc->memRange;
+    if (memRange == 0 && !resolvePage(&memRange))
+        return false;
+    const OpcodeList* opcodes = modAsmFeHook->opcodeList();
+    *result = opcodes->opcodeOfAddr(addr, memRange);
+    // What is not in the page may be in the range that all pages share.
+    if (*result == nullptr)
+        *result = opcodes->opcodeOfAddr(addr, 0);
+    return *result != nullptr;
+}
+
+bool ProcSim::resolvePage(int* memRange)
+{
+    // Without a user to ask, the page is the one that the program was in last.
+    if (modGuiHook == nullptr) {
+        *memRange = m_lastPage;
+        return true;
+    }
+    updateWidgets();
+    const Opcode* before = m_pc;
+    const int deleted = m_deletions;
+    ProcSimResolvePageDialog dialog(m_config.pageCount, QApplication::activeWindow());
+    dialog.exec();
+    // The row is taken as the range as it is: the first row stands for the shared range.
+    *memRange = dialog.selectedRow();
+    return m_pc == before && m_pc != nullptr && m_deletions == deleted;
+}
+
+void ProcSim::syncBreakpoints()
+{
+    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged())
+        setBreakpoints();
+}
+
+void ProcSim::clearBreakpoints()
+{
+    for (Opcode* opcode : *modAsmFeHook->opcodeList())
+        opcode->breakpoint = 0;
+    m_breakpoints.clear();
+    m_breakpointsTaken = false;
+}
+
+void ProcSim::setBreakpoints()
+{
+    if (modEditorHook == nullptr)
+        return;
+    const QMap<QString, QList<int>> marks = modEditorHook->simBreakpoints();
+    // The editor says that marks have changed as long as it lives; only here is seen whether they have since.
+    if (m_breakpointsTaken && marks == m_breakpoints)
+        return;
+    clearBreakpoints();
+    const OpcodeList* opcodes = modAsmFeHook->opcodeList();
+    for (auto it = marks.cbegin(); it != marks.cend(); ++it) {
+        const int fileNo = modAsmFeHook->fileHndlr()->fileNo(it.key());
+        if (fileNo < 0)
+            continue;
+        for (int line : it.value()) {
+            if (Opcode* opcode = opcodes->nextOfSrcRef(fileNo, line))
+                opcode->breakpoint = 1;
+        }
+    }
+    m_breakpoints = marks;
+    m_breakpointsTaken = true;
+}
+
+void ProcSim::showHighlight()
+{
+    updateWidgets();
+    if (m_pc == nullptr || modEditorHook == nullptr || m_core == nullptr)
+        return;
+    const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(m_pc->srcRef.fileNo);
+    modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+}
+
+} // namespace nsProc

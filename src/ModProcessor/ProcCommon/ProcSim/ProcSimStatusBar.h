@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+class QLabel;
+
+namespace nsProc {
+
+struct ProcSimClock;
+
+/// The status bar of a simulation: number format, clock count and the time that it means.
+class ProcSimStatusBar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param clkFreq Hz; 0 makes the time infinite
+    ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double clkFreq, QWidget* parent = nullptr);
+    /// With a clock of its own.
+    explicit ProcSimStatusBar(double clkFreq, QWidget* parent = nullptr);
+
+    void addClkCntr(int clocks);
+    void updateValues();
+    /// @param base "DEC", "HEX" or "OCT"; the counters stay decimal
+    void setBase(const QString& base);
+    /// Shows what has changed in the clock.
+    void refresh();
+
+public slots:
+    /// Sets the count to 0.
+    void clear();
+
+private:
+    QLabel* addValue(const QString& name, int width);
+
+    std::shared_ptr<ProcSimClock> m_clock;
+    double m_timeFactor;
+    QLabel* m_base;
+    QLabel* m_clocks;
+    QLabel* m_time;
+    qint64 m_shown = -1;
+};
+
+} // namespace nsProc

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QActionGroup>
+#include <QList>
+
+namespace nsProc {
+
+/// What can be done with a simulator, in the menu and the tool bar.
+class ProcActionsSim : public QActionGroup
+{
+    Q_OBJECT
+
+public:
+    enum eAction_t {
+        eActionEnable = 0,
+        eActionRun = 1,
+        eActionNextLine = 2,
+        eActionNextInstruction = 3,
+        eActionToEndOfCall = 4,
+        eActionToCursor = 5,
+        eActionInterrupt = 6,
+        eActionReset = 7,
+        eActionSetPc = 8,
+        eActionBaseDec = 9,
+        eActionBaseHex = 10,
+        eActionBaseOct = 11,
+    };
+
+    explicit ProcActionsSim(QObject* parent = nullptr);
+
+    void setEnabled(bool enabled);
+    void setEnabled(eAction_t action, bool enabled);
+    bool isEnabled(eAction_t action) const;
+    /// All actions and separators in the order of the screen. Owned by the group.
+    QList<QAction*> menuActions() const { return actions(); }
+    QList<QAction*> toolBarActions() const { return actions(); }
+
+signals:
+    void triggered(nsProc::ProcActionsSim::eAction_t action);
+
+private slots:
+    void handleAction(QAction* action);
+
+private:
+    void addSeparator();
+};
+
+} // namespace nsProc

@@ -1,0 +1,68 @@
+#include "ProcSimEdtBit.h"
+
+#include <QFontDatabase>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QStyle>
+
+namespace nsProc {
+
+ProcSimEdtBit::ProcSimEdtBit(QWidget* parent)
+    : QLabel(QStringLiteral("0"), parent)
+{
+    setObjectName(QStringLiteral("procSimEdtBit"));
+    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setAlignment(Qt::AlignCenter);
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setFixedWidth(fontMetrics().horizontalAdvance(QLatin1Char('0')) + 8);
+}
+
+void ProcSimEdtBit::setValue(int value)
+{
+    const int bit = value != 0;
+    if (bit == m_value)
+        return;
+    m_value = bit;
+    setText(bit != 0 ? QStringLiteral("1") : QStringLiteral("0"));
+}
+
+void ProcSimEdtBit::setHighlightEn(bool enabled)
+{
+    if (enabled == m_highlighted)
+        return;
+    m_highlighted = enabled;
+    QPalette colors = palette();
+    colors.setColor(QPalette::WindowText, enabled ? QColor(Qt::red) : QColor(Qt::black));
+    setPalette(colors);
+}
+
+void ProcSimEdtBit::toggle()
+{
+    setValue(1 - m_value);
+    emit valueChanged();
+}
+
+void ProcSimEdtBit::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+    toggle();
+}
+
+void ProcSimEdtBit::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Return)
+        toggle();
+    else
+        QLabel::keyPressEvent(event);
+}
+
+void ProcSimEdtBit::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(QPen(hasFocus() ? QColor(0x204398) : QColor(0xb8c0cc), 1));
+    painter.drawLine(2, height() - 2, width() - 3, height() - 2);
+}
+
+} // namespace nsProc

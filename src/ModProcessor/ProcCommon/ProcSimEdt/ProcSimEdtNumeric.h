@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QLineEdit>
+
+namespace nsProc {
+
+/// A field for a number with a range and a base. The value is the text: each key press counts at once, limited to the range.
+///
+/// Text that is no number in the base counts as 0 until the edit has ended; then the text shows the value that counts.
+class ProcSimEdtNumeric : public QLineEdit
+{
+    Q_OBJECT
+
+public:
+    explicit ProcSimEdtNumeric(QWidget* parent = nullptr);
+
+    /// @param max at least min; it decides how many digits are shown. Negative limits are not supported.
+    void setRange(int min, int max);
+    /// @param base 8, 10 or 16
+    void setBase(int base);
+    int base() const { return m_base; }
+    /// Shows a value that does not come from the user.
+    /// @return false, with nothing changed, outside of the range
+    bool setValue(int value);
+    int value() const { return m_value; }
+    /// Red text: the program has changed the value.
+    void setHighlightEn(bool enabled);
+    bool isHighlighted() const { return m_highlighted; }
+
+signals:
+    /// The user has typed: the value that counts from now on.
+    void edited(int value);
+    /// The user has ended an edit.
+    void valueChanged(int value);
+
+protected:
+    void focusOutEvent(QFocusEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private slots:
+    void takeText(const QString& text);
+    void finishEdit();
+
+private:
+    void showValue();
+    void updateWidth();
+
+    int m_min = 0;
+    int m_max = 255;
+    int m_base = 16;
+    int m_value = 0;
+    bool m_highlighted = false;
+    bool m_isEdited = false;
+    bool m_isShowing = false;
+};
+
+} // namespace nsProc

@@ -1,0 +1,19 @@
+#include "XPBlze3SimCore.h"
+
+#include "XPBlze3SimCoreReg.h"
+
+#include "ProcSimCoreData.h"
+
+namespace nsXPBlze3 {
+
+XPBlze3SimCore::XPBlze3SimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent)
+    : ProcSimCore(std::move(data), pcMax, &XPBlze3SimCoreReg::regName, parent)
+{
+}
+
+XPBlze3SimCore::XPBlze3SimCore(int scrpdSize, int pcMax, QWidget* parent)
+    : XPBlze3SimCore(std::make_shared<nsProc::ProcSimCoreData>(16, 1, scrpdSize), pcMax, parent)
+{
+}
+
+} // namespace nsXPBlze3

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "ProcSimCoreReg.h"
+
+namespace nsXPBlze6 {
+
+/// The registers of a PicoBlaze 6.
+class XPBlze6SimCoreReg : public nsProc::ProcSimCoreReg
+{
+    Q_OBJECT
+
+public:
+    explicit XPBlze6SimCoreReg(std::shared_ptr<nsProc::ProcSimCoreData> data, QWidget* parent = nullptr)
+        : ProcSimCoreReg(std::move(data), regName, parent)
+    {
+    }
+
+    static QString regName(int index) { return 's' + QString::number(index, 16).toUpper(); }
+};
+
+} // namespace nsXPBlze6
