@@ -5,6 +5,7 @@
 #include "ModAsmFe.h"
 #include "ModCfgApp.h"
 #include "ModClipboard.h"
+#include "ModConfig.h"
 #include "ModEditor.h"
 #include "ModFindReplace.h"
 #include "ModGui.h"
@@ -62,6 +63,7 @@ void Nalvo::makeModules()
     m_phases.append(m_modArgs);
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
     m_phases.append(new nsModClipboard::ModClipboard(this));
+    m_phases.append(new nsModConfig::ModConfig(this));
     m_phases.append(new nsModFindReplace::ModFindReplace(this));
     m_phases.append(new nsModGui::ModGui(this));
     m_phases.append(new nsModTemplates::ModTemplates(this));

@@ -1,5 +1,6 @@
 #include "ModPrj.h"
 
+#include "PrjConfigPage.h"
 #include "PrjFile.h"
 
 #include "ModActionHookIf.h"
@@ -34,7 +35,10 @@ ModPrj::ModPrj(QObject* parent)
 {
 }
 
-ModPrj::~ModPrj() = default;
+ModPrj::~ModPrj()
+{
+    delete m_page;
+}
 
 // --- files ---
 
@@ -102,6 +106,8 @@ bool ModPrj::openPrj(QString file)
     if (!isOpen())
         return false;
     updateCloseAction();
+    if (m_page)
+        m_page->setConfig(*this);
     setWindowTitle();
     info(tr("Open project: Done"));
     return true;
@@ -140,6 +146,8 @@ bool ModPrj::closePrj()
     m_path.clear();
     CfgTree::clear();
     updateCloseAction();
+    if (m_page)
+        m_page->setDefaultConfig();
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjClose(); });
     m_closing = false;
     info(tr("Close project: Done"));
@@ -367,11 +375,24 @@ nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(false);
-    return nullptr;
+    if (modGuiHook == nullptr)
+        return nullptr;
+    if (!m_page)
+        m_page = new PrjConfigPage;
+    return m_page;
+}
+
+void ModPrj::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_page)
+        m_page->setConfig(isValid() ? static_cast<const PrjConfig&>(*this) : PrjConfig());
 }
 
 void ModPrj::configPageClose(bool accepted)
 {
+    if (accepted && m_page && isValid())
+        static_cast<PrjConfig&>(*this) = m_page->config();
+    delete m_page;
     if (accepted)
         setWindowTitle();
 }
@@ -458,7 +479,8 @@ void ModPrj::setWindowTitle()
 
 void ModPrj::updateCloseAction()
 {
-    if (m_actions != nullptr)
+    // Below the settings dialog the whole group is disabled, also when a script opens another project.
+    if (m_actions != nullptr && !m_page)
         m_actions->setEnabled(PrjActions::eActionClose, isValid());
 }
 

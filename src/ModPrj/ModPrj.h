@@ -15,9 +15,13 @@
 #include "PrjActions.h"
 #include "PrjConfig.h"
 
+#include <QPointer>
+
 class QFileDialog;
 
 namespace nsModPrj {
+
+class PrjConfigPage;
 
 /// The open project. The module's own tree holds the project's settings; clients read and write their keys in it.
 ///
@@ -112,6 +116,7 @@ public:
 
     // ModConfigPluginIf
     nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
     void configPageClose(bool accepted) override;
     void configPagesClosed(bool accepted) override;
 
@@ -137,6 +142,7 @@ private:
     bool m_saving = false;
     bool m_closing = false;
     PrjActions* m_actions = nullptr; ///< null in a program without menus
+    QPointer<PrjConfigPage> m_page; ///< while the configuration dialog is open
     PluginList<ModPrjPluginIf> m_plugins;
 };
 

@@ -1,5 +1,7 @@
 #include "ModSources.h"
 
+#include "SourcesConfigPage.h"
+
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
@@ -21,7 +23,10 @@ ModSources::ModSources(QObject* parent)
 {
 }
 
-ModSources::~ModSources() = default;
+ModSources::~ModSources()
+{
+    delete m_page;
+}
 
 // --- clients ---
 
@@ -59,6 +64,8 @@ void ModSources::addFile(QString path)
     if (srcFiles.contains(path))
         return;
     srcFiles.append(path);
+    if (m_page)
+        m_page->insertFile(path);
     if (modMsgHook != nullptr)
         modMsgHook->showInfoMessage(tr("Added file to the project: ") + path);
     setFilesListChanged();
@@ -66,8 +73,11 @@ void ModSources::addFile(QString path)
 
 void ModSources::removeFile(QString path)
 {
-    if (srcFiles.removeOne(path))
-        setFilesListChanged();
+    if (!srcFiles.removeOne(path))
+        return;
+    if (m_page)
+        m_page->dropFile(path);
+    setFilesListChanged();
 }
 
 bool ModSources::chkProjectMembership(QString path)
@@ -136,6 +146,8 @@ void ModSources::prjSave()
 void ModSources::prjClose()
 {
     srcFiles.clear();
+    if (m_page)
+        m_page->setDefaultConfig();
 }
 
 // --- life cycle ---
@@ -165,6 +177,27 @@ void ModSources::modExitIntermod() {}
 void ModSources::modExit() {}
 
 // --- settings dialog ---
+
+nsModConfig::ModConfigPagePluginIf* ModSources::configPage(int)
+{
+    if (!m_page)
+        m_page = new SourcesConfigPage;
+    return m_page;
+}
+
+void ModSources::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_page)
+        m_page->setConfig(srcFiles, modPrjHook != nullptr ? modPrjHook->prjDir() : QDir());
+}
+
+void ModSources::configPageClose(bool accepted)
+{
+    // Without a project there is nothing that the list could belong to.
+    if (m_page && accepted && modPrjHook != nullptr && modPrjHook->isValid())
+        srcFiles = m_page->files();
+    delete m_page;
+}
 
 void ModSources::configPagesClosed(bool accepted)
 {

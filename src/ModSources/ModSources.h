@@ -11,8 +11,11 @@
 #include "SourcesConfig.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace nsModSources {
+
+class SourcesConfigPage;
 
 /// The ordered list of the project's sources; the assembler reads them in this order as one program.
 class ModSources : public QObject,
@@ -53,6 +56,9 @@ public:
     void prjClose() override;
 
     // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
     void configPagesClosed(bool accepted) override;
 
 protected:
@@ -67,6 +73,7 @@ private:
     bool askToAdd(const QString& path);
 
     PluginList<ModSourcesPluginIf> m_plugins;
+    QPointer<SourcesConfigPage> m_page; ///< while the configuration dialog is open
 };
 
 } // namespace nsModSources

@@ -52,6 +52,7 @@ TEST_F(MainWindowFixture, ModulesStandInTheirOrder)
                             "nsModCfgApp::ModCfgApp",
                             "nsModClipboard::ModClipboard",
                             "nsModConfig::ModConfig",
+                            "nsModConfig::ModConfig",
                             "nsModFindReplace::ModFindReplace",
                             "nsModGui::ModGui",
                             "nsModTemplates::ModTemplates",

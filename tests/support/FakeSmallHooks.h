@@ -51,7 +51,11 @@ public:
     void openDialog() override { opened.append(QString()); }
     void openDialog(QString title) override { opened.append(title); }
     void closeDialog(bool accepted) override { closed.append(accepted); }
-    void selectDialogPageByTitle(QString title) override { selected.append(title); }
+    bool selectDialogPageByTitle(QString title) override
+    {
+        selected.append(title);
+        return true;
+    }
 
     QStringList opened;
     QStringList selected;

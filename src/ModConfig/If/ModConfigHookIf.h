@@ -19,5 +19,7 @@ public:
     virtual void openDialog(QString title) = 0;
     /// @param accepted true applies the settings; pages may then refuse and leave the dialog open
     virtual void closeDialog(bool accepted) = 0;
-    virtual void selectDialogPageByTitle(QString title) = 0;
+    /// Brings the page with this title to the front of the open dialog.
+    /// @return false: the dialog is closed, or has no such page
+    virtual bool selectDialogPageByTitle(QString title) = 0;
 };

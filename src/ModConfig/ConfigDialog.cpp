@@ -1,0 +1,183 @@
+#include "ConfigDialog.h"
+
+#include "MyButton.h"
+#include "MyButtonCancel.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QListWidget>
+#include <QScrollArea>
+#include <QStackedWidget>
+#include <QVBoxLayout>
+
+namespace nsModConfig {
+
+namespace {
+
+const int listWidth = 130;
+const int listSpacing = 12;
+const QSize listIconSize(96, 96);
+const QSize itemSize(80, 66);
+const int stackMinimumWidth = 40;
+const int gap = 8;
+
+} // namespace
+
+ConfigDialog::ConfigDialog(QWidget* parent)
+    : QWidget(parent)
+    , m_list(new QListWidget(this))
+    , m_stack(new QStackedWidget(this))
+{
+    setObjectName(QStringLiteral("configDialog"));
+    setAttribute(Qt::WA_StyledBackground);
+    setupList();
+    m_stack->setObjectName(QStringLiteral("configPages"));
+    m_stack->setMinimumWidth(stackMinimumWidth);
+
+    auto* pages = new QHBoxLayout;
+    pages->setContentsMargins(0, 0, 0, 0);
+    pages->setSpacing(0);
+    pages->addWidget(m_list);
+    pages->addWidget(m_stack, 1);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(pages, 1);
+    layout->addWidget(makeButtons());
+    setFocusProxy(m_list);
+}
+
+ConfigDialog::~ConfigDialog()
+{
+    emit vanishing();
+}
+
+void ConfigDialog::setupList()
+{
+    m_list->setObjectName(QStringLiteral("configList"));
+    m_list->setAccessibleName(tr("Pages of the configuration"));
+    m_list->setViewMode(QListView::IconMode);
+    m_list->setFlow(QListView::TopToBottom);
+    m_list->setWrapping(false);
+    m_list->setUniformItemSizes(true);
+    m_list->setIconSize(listIconSize);
+    m_list->setMovement(QListView::Static);
+    m_list->setMinimumWidth(listWidth);
+    m_list->setMaximumWidth(listWidth);
+    m_list->setSpacing(listSpacing);
+    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+QWidget* ConfigDialog::makeButtons()
+{
+    auto* frame = new QFrame(this);
+    frame->setObjectName(QStringLiteral("configButtons"));
+    m_setDefault = new MyButton(tr("Set page default values"), frame);
+    m_setDefault->setToolTip(tr("Fills the page that is shown with its default values"));
+    m_restore = new MyButton(tr("Restore values"), frame);
+    m_restore->setToolTip(tr("Undoes the changes on the page that is shown"));
+    m_apply = new MyButton(tr("Apply and close"), frame);
+    m_apply->setToolTip(tr("Takes over and saves the values of all pages"));
+    m_cancel = new MyButtonCancel(frame);
+    m_cancel->setToolTip(tr("Closes the configuration without a change"));
+    connect(m_setDefault, &QPushButton::clicked, this, &ConfigDialog::setDefaultRequested);
+    connect(m_restore, &QPushButton::clicked, this, &ConfigDialog::restoreRequested);
+    connect(m_apply, &QPushButton::clicked, this, &ConfigDialog::closeRequested);
+    connect(m_cancel, &QPushButton::clicked, this, &ConfigDialog::cancelRequested);
+
+    auto* layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(2 * gap, gap, 2 * gap, gap);
+    layout->setSpacing(gap);
+    layout->addWidget(m_setDefault);
+    layout->addWidget(m_restore);
+    layout->addStretch(1);
+    layout->addWidget(m_apply);
+    layout->addWidget(m_cancel);
+    return frame;
+}
+
+QListWidgetItem* ConfigDialog::addPage(const QIcon& icon, const QString& title, QWidget* page)
+{
+    auto* item = new QListWidgetItem(icon, title);
+    item->setTextAlignment(Qt::AlignCenter | Qt::AlignAbsolute);
+    item->setFlags(Qt::ItemIsSelectable);
+    item->setSizeHint(itemSize);
+
+    auto* area = new QScrollArea(m_stack);
+    area->setObjectName(QStringLiteral("configPage"));
+    area->setFrameStyle(QFrame::Box | QFrame::Plain);
+    area->setLineWidth(0);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus); // the fields in it are stops enough
+    area->setWidget(page);
+    // The stack comes first: a new current item looks for its page there.
+    m_stack->addWidget(area);
+    m_list->addItem(item);
+    return item;
+}
+
+QScrollArea* ConfigDialog::areaOf(QListWidgetItem* item) const
+{
+    return qobject_cast<QScrollArea*>(m_stack->widget(m_list->row(item)));
+}
+
+void ConfigDialog::takePage(QListWidgetItem* item)
+{
+    QScrollArea* area = areaOf(item);
+    delete item;
+    if (area == nullptr)
+        return;
+    m_stack->removeWidget(area);
+    if (QWidget* page = area->takeWidget()) {
+        page->hide();
+        page->setParent(nullptr);
+    }
+    delete area;
+}
+
+void ConfigDialog::dropPage(QListWidgetItem* item)
+{
+    QScrollArea* area = areaOf(item);
+    delete item;
+    if (area == nullptr)
+        return;
+    m_stack->removeWidget(area);
+    // It still counts the widget among its own.
+    area->deleteLater();
+}
+
+void ConfigDialog::setPageEnabled(QListWidgetItem* item, bool enabled)
+{
+    item->setFlags(enabled ? Qt::ItemIsSelectable | Qt::ItemIsEnabled : Qt::NoItemFlags);
+    item->setToolTip(enabled ? QString() : tr("Open a project to change these settings"));
+}
+
+void ConfigDialog::showPage(QListWidgetItem* item)
+{
+    const bool enabled = item != nullptr && (item->flags() & Qt::ItemIsEnabled) != 0;
+    m_setDefault->setEnabled(enabled);
+    m_restore->setEnabled(enabled);
+    if (item == nullptr)
+        return;
+    QScrollArea* area = areaOf(item);
+    m_stack->setCurrentWidget(area);
+    if (area != nullptr && area->widget() != nullptr)
+        putButtonsBehind(area->widget());
+}
+
+void ConfigDialog::putButtonsBehind(QWidget* page)
+{
+    // The pages are made after the buttons; in tab order the buttons come last.
+    QWidget* last = page;
+    for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
+        if (page->isAncestorOf(widget))
+            last = widget;
+    }
+    for (QWidget* button : {m_setDefault, m_restore, m_apply, m_cancel}) {
+        setTabOrder(last, button);
+        last = button;
+    }
+}
+
+} // namespace nsModConfig

@@ -1,0 +1,425 @@
+#include "ModConfig.h"
+
+#include "ConfigDialog.h"
+#include "ModConfigPagePluginIf.h"
+
+#include "ModCfgAppHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModHlpHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
+
+#include <QCoreApplication>
+#include <QListWidget>
+#include <QStackedWidget>
+
+namespace nsModConfig {
+
+ModConfig::ModConfig(QObject* parent)
+    : QObject(parent)
+{
+}
+
+ModConfig::~ModConfig() = default;
+
+// --- clients ---
+
+void ModConfig::registerPlugin(ModConfigPluginIf* plugin)
+{
+    if (m_plugins.add(plugin))
+        plugin->modConfigHook = this;
+}
+
+void ModConfig::unregisterPlugin(ModConfigPluginIf* plugin)
+{
+    if (!m_plugins.remove(plugin))
+        return;
+    // Its pages leave with it.
+    for (QListWidgetItem* item : items()) {
+        if (m_items.value(item).plugin == plugin)
+            closePage(item, false);
+    }
+    plugin->modConfigHook = nullptr;
+}
+
+// --- open ---
+
+void ModConfig::openDialog()
+{
+    if (m_dialog != nullptr) {
+        if (modGuiHook != nullptr)
+            modGuiHook->setCurrentWidget(m_dialog);
+        return;
+    }
+    if (modGuiHook == nullptr)
+        return;
+    m_state = eState_t::opening;
+    makeDialog();
+    modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, m_dialog, tr("Configuration"));
+    m_plugins.forEach([this](ModConfigPluginIf* plugin) { addPages(plugin); });
+    connect(m_list, &QListWidget::currentItemChanged, this, &ModConfig::changeDlgPage);
+    enableConfigItems(modPrjHook != nullptr && modPrjHook->isValid());
+    setDockRightVisible(false);
+    m_state = eState_t::open;
+    m_dialog->setFocus();
+    QCoreApplication::processEvents();
+}
+
+void ModConfig::openDialog(QString title)
+{
+    openDialog();
+    selectDialogPageByTitle(title);
+}
+
+void ModConfig::makeDialog()
+{
+    m_dialog = new ConfigDialog;
+    m_list = m_dialog->list();
+    m_stack = m_dialog->stack();
+    connect(m_dialog, &ConfigDialog::vanishing, this, &ModConfig::forgetDialog);
+    connect(m_dialog, &ConfigDialog::setDefaultRequested, this, &ModConfig::hndlEventSetDefault);
+    connect(m_dialog, &ConfigDialog::restoreRequested, this, &ModConfig::hndlEventRestore);
+    connect(m_dialog, &ConfigDialog::closeRequested, this, &ModConfig::hndlEventClose);
+    connect(m_dialog, &ConfigDialog::cancelRequested, this, &ModConfig::hndlEventCancel);
+}
+
+void ModConfig::addPages(ModConfigPluginIf* plugin)
+{
+    const int count = plugin->configPageCnt();
+    for (int index = 0; index < count; ++index) {
+        ModConfigPagePluginIf* page = plugin->configPage(index);
+        if (page != nullptr && page->pageWidget() != nullptr)
+            addPage(plugin, page);
+    }
+}
+
+void ModConfig::addPage(ModConfigPluginIf* plugin, ModConfigPagePluginIf* page)
+{
+    page->modConfigPageHook = this;
+    page->setFocus(false);
+    plugin->configPageSetConfig(page);
+    QListWidgetItem* item = m_dialog->addPage(page->pageIcon(), page->pageTitle(), page->pageWidget());
+    sConfigItem_t entry;
+    entry.plugin = plugin;
+    entry.page = page;
+    m_items.insert(item, entry);
+    connect(page->pageWidget(), &QObject::destroyed, this, [this, page] { forgetPage(page); });
+}
+
+void ModConfig::forgetPage(ModConfigPagePluginIf* page)
+{
+    QListWidgetItem* item = itemOf(page);
+    if (item == nullptr)
+        return;
+    // Without the entry nobody follows the pointer any more.
+    m_items.remove(item);
+    m_dialog->dropPage(item);
+}
+
+void ModConfig::forgetDialog()
+{
+    if (sender() != m_dialog)
+        return;
+    m_items.clear();
+    m_dialog = nullptr;
+    m_list = nullptr;
+    m_stack = nullptr;
+    m_state = eState_t::closed;
+}
+
+// --- pages ---
+
+QList<QListWidgetItem*> ModConfig::items() const
+{
+    QList<QListWidgetItem*> result;
+    for (int row = 0; m_dialog != nullptr && row < m_list->count(); ++row)
+        result.append(m_list->item(row));
+    return result;
+}
+
+QListWidgetItem* ModConfig::itemOf(const ModConfigPagePluginIf* page) const
+{
+    for (auto it = m_items.cbegin(); it != m_items.cend(); ++it) {
+        if (it.value().page == page)
+            return it.key();
+    }
+    return nullptr;
+}
+
+bool ModConfig::selectDialogPageByTitle(QString title)
+{
+    for (QListWidgetItem* item : items()) {
+        if (item->text() == title) {
+            m_list->setCurrentItem(item);
+            return true;
+        }
+    }
+    return false;
+}
+
+void ModConfig::enableConfigItems(bool enable)
+{
+    for (QListWidgetItem* item : items()) {
+        if (!m_items.contains(item))
+            continue;
+        ModConfigPagePluginIf* page = m_items.value(item).page;
+        page->setPrjConfigEnabled(enable);
+        const bool enabled = page->pageIsEnabled();
+        if (!enabled)
+            m_items[item].stale = true;
+        ConfigDialog::setPageEnabled(item, enabled);
+    }
+    selectFirstEnabled();
+}
+
+void ModConfig::selectFirstEnabled()
+{
+    if (m_dialog == nullptr)
+        return;
+    QListWidgetItem* first = nullptr;
+    for (QListWidgetItem* item : items()) {
+        if (first == nullptr && (item->flags() & Qt::ItemIsEnabled) != 0)
+            first = item;
+    }
+    m_list->setCurrentItem(first);
+    // The same entry as before may have been enabled now.
+    m_dialog->showPage(first);
+}
+
+void ModConfig::changeDlgPage(QListWidgetItem* next, QListWidgetItem* prev)
+{
+    if (m_items.contains(prev))
+        m_items.value(prev).page->setFocus(false);
+    m_dialog->showPage(next);
+    if (!m_items.contains(next))
+        return;
+    ModConfigPagePluginIf* page = m_items.value(next).page;
+    page->setFocus(true);
+    if (modHlpHook != nullptr)
+        modHlpHook->showDialogHlpRef(m_dialog, page->pageHelpRef());
+}
+
+void ModConfig::showDialogPageHelp(ModConfigPagePluginIf* page)
+{
+    if (m_dialog == nullptr || modHlpHook == nullptr)
+        return;
+    const auto current = m_items.constFind(m_list->currentItem());
+    if (current != m_items.cend() && current.value().page == page)
+        modHlpHook->showDialogHlpRef(m_dialog, page->pageHelpRef());
+}
+
+// --- close ---
+
+void ModConfig::closeDialog(bool accepted)
+{
+    if (m_dialog == nullptr || m_state != eState_t::open)
+        return;
+    m_state = eState_t::closing;
+    setDockRightVisible(true);
+    if (accepted && !mayApply()) {
+        m_state = eState_t::open;
+        return;
+    }
+    closePages(accepted);
+    removeDialog();
+    m_state = eState_t::closed;
+    if (accepted)
+        saveConfig();
+}
+
+bool ModConfig::mayApply()
+{
+    for (QListWidgetItem* item : items()) {
+        if (m_items.contains(item) && !m_items.value(item).plugin->configPageCloseRequest())
+            return false;
+    }
+    for (QListWidgetItem* item : items()) {
+        if (!m_items.contains(item))
+            continue;
+        ModConfigPagePluginIf* page = m_items.value(item).page;
+        if (page->checkConfig())
+            continue;
+        selectDialogPageByTitle(page->pageTitle());
+        if (modMsgHook != nullptr)
+            modMsgHook->showErrorMessage(tr("Invalid configuration."));
+        return false;
+    }
+    return true;
+}
+
+void ModConfig::closePages(bool accepted)
+{
+    // Pages go one after the other from here on; none of them is to come to the front for that.
+    disconnect(m_list, &QListWidget::currentItemChanged, this, &ModConfig::changeDlgPage);
+    QList<ModConfigPluginIf*> plugins;
+    for (QListWidgetItem* item : items()) {
+        if (!m_items.contains(item))
+            continue;
+        plugins.append(m_items.value(item).plugin);
+        closePage(item, accepted);
+    }
+    for (ModConfigPluginIf* plugin : qAsConst(plugins)) {
+        if (m_plugins.contains(plugin))
+            plugin->configPagesClosed(accepted);
+    }
+}
+
+void ModConfig::closePage(QListWidgetItem* item, bool accepted)
+{
+    // The entry goes first: the module deletes the page.
+    const sConfigItem_t entry = m_items.take(item);
+    entry.page->modConfigPageHook = nullptr;
+    entry.plugin->configPageClose(accepted);
+    m_dialog->takePage(item);
+}
+
+void ModConfig::removeDialog()
+{
+    if (modHlpHook != nullptr)
+        modHlpHook->closeDialogHlp(m_dialog);
+    modGuiHook->removeWidget(m_dialog);
+    m_dialog->hide();
+    // The click that led here may be one of its buttons'.
+    m_dialog->deleteLater();
+    m_items.clear();
+    m_dialog = nullptr;
+    m_list = nullptr;
+    m_stack = nullptr;
+}
+
+void ModConfig::saveConfig()
+{
+    if (modCfgAppHook != nullptr)
+        modCfgAppHook->saveAppConfig();
+    if (modPrjHook != nullptr && modPrjHook->isValid())
+        modPrjHook->savePrjCfg();
+}
+
+// --- buttons ---
+
+void ModConfig::hndlEventSetDefault()
+{
+    const sConfigItem_t entry = m_items.value(m_list->currentItem());
+    if (entry.page != nullptr)
+        entry.page->setDefaultConfig();
+}
+
+void ModConfig::hndlEventRestore()
+{
+    const sConfigItem_t entry = m_items.value(m_list->currentItem());
+    if (entry.page != nullptr)
+        entry.plugin->configPageSetConfig(entry.page);
+}
+
+void ModConfig::hndlEventClose()
+{
+    closeDialog(true);
+}
+
+void ModConfig::hndlEventCancel()
+{
+    closeDialog(false);
+}
+
+void ModConfig::hndlAction(ActionsConfig::eAction_t)
+{
+    openDialog();
+}
+
+// --- life cycle ---
+
+void ModConfig::modRegisterPlugins(QList<ModPluginIf*> modules)
+{
+    registerPluginsOf<ModConfigPluginIf>(modules, this);
+}
+
+void ModConfig::modInit()
+{
+    m_actions = new ActionsConfig(this);
+    connect(m_actions, QOverload<ActionsConfig::eAction_t>::of(&ActionsConfig::triggered), this,
+            &ModConfig::hndlAction);
+}
+
+void ModConfig::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, QStringLiteral("config"));
+}
+
+void ModConfig::modRun() {}
+
+bool ModConfig::modExitRequest()
+{
+    return true;
+}
+
+void ModConfig::modExitIntermod()
+{
+    closeDialog(false);
+}
+
+void ModConfig::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+// --- project ---
+
+void ModConfig::prjOpen()
+{
+    enableConfigItems(true);
+}
+
+void ModConfig::prjOpened()
+{
+    // What these pages show is not of this project, and would be written into it.
+    for (QListWidgetItem* item : items()) {
+        const auto it = m_items.find(item);
+        if (it == m_items.end() || !it.value().stale)
+            continue;
+        it.value().stale = false;
+        const sConfigItem_t entry = it.value();
+        entry.plugin->configPageSetConfig(entry.page);
+    }
+}
+
+void ModConfig::prjSave() {}
+
+void ModConfig::prjClose()
+{
+    enableConfigItems(false);
+}
+
+// --- main window ---
+
+void ModConfig::removeWidgetRequest(QWidget* widget)
+{
+    if (m_dialog != nullptr && widget == m_dialog)
+        closeDialog(true);
+}
+
+void ModConfig::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
+{
+    if (location == ModGuiHookIf::eLocationTabs)
+        setDockRightVisible(m_dialog == nullptr || widget != m_dialog);
+}
+
+void ModConfig::setDockRightVisible(bool visible)
+{
+    if (modGuiHook != nullptr)
+        modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationDockRight, visible);
+}
+
+QList<QAction*> ModConfig::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+}
+
+QList<QAction*> ModConfig::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+}
+
+} // namespace nsModConfig

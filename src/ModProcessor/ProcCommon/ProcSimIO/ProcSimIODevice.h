@@ -1,0 +1,77 @@
+#pragma once
+
+#include "ProcSimIOPluginIf.h"
+
+#include <QPointer>
+#include <QString>
+
+namespace nsProc {
+
+class ProcSimIODeviceView;
+
+/// What all devices at ports have in common: address, name, direction, base, marks and the view.
+///
+/// A device is plain data: it needs no application object, and an access costs no more than the access. Its view is made on demand
+/// and looks at the device when it is told to refresh; what the user types there arrives here at once.
+class ProcSimIODevice : public ProcSimIOPluginIf
+{
+public:
+    static constexpr int maxValue = 255;      ///< largest value that a field of a device shows
+    static constexpr int maxAddr = 0xFFFF;    ///< largest address of a device
+    static constexpr int maxPortAddr = 0xFF;  ///< largest address that a processor can ask for
+
+    ProcSimIODevice() = default;
+    ~ProcSimIODevice() override;
+    ProcSimIODevice(const ProcSimIODevice&) = delete;
+    ProcSimIODevice& operator=(const ProcSimIODevice&) = delete;
+
+    /// The view, made by the first call. The device deletes it, unless the view's parent has done so before.
+    QWidget* ioDevWidget() override;
+
+    void setName(QString name) override;
+    void setBase(int base) override;
+    void setDirection(eDirection_t direction) override;
+    bool chkDirection(eDirection_t direction) override;
+    /// An address that is out of range is refused.
+    void setBaseAddr(int addr, QString name) override;
+    bool chkAddr(int addr) override { return addr == m_addr; }
+    void setHighlightEn(bool enabled) override;
+    void clearHighlighted() override { setHighlightEn(false); }
+
+    int base() const { return m_base; }
+    int addr() const { return m_addr; }
+    /// The user's choice. @param addr 0 to maxAddr, others are limited
+    void setAddr(int addr);
+    /// The name by which the program last addressed the device; the device's own name until then.
+    const QString& name() const { return m_usedName.isEmpty() ? m_name : m_usedName; }
+    /// Selection of the direction: 1 read, 2 write, 4 read and write.
+    int directionData() const { return m_directionData; }
+    void setDirectionData(int data);
+    bool isHighlighted() const { return m_highlighted; }
+
+    /// @return true once after anything that the view shows has changed
+    bool takeChanged();
+
+    /// @return a number as devices show it: upper case, zeros in front up to the width of maxValue
+    static QString text(unsigned int value, int base);
+    /// @return false, with the value unchanged, if the text is no number in the base
+    static bool number(const QString& text, int base, int* value);
+
+protected:
+    /// @return a new view without a parent
+    virtual ProcSimIODeviceView* createView() = 0;
+    void setUsedName(const QString& name) { m_usedName = name; }
+    void setChanged() { m_changed = true; }
+
+private:
+    QPointer<ProcSimIODeviceView> m_view;
+    QString m_name;
+    QString m_usedName;
+    int m_addr = 0;
+    int m_base = 16;
+    int m_directionData = 4;
+    bool m_highlighted = false;
+    bool m_changed = true;
+};
+
+} // namespace nsProc

@@ -1,0 +1,148 @@
+#include "SourcesListWidget.h"
+
+#include <QDropEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+#include <QUrl>
+
+#include <algorithm>
+
+namespace nsModSources {
+
+namespace {
+
+const QColor emptyTextColor(0x52, 0x60, 0x6d);
+const int emptyTextMargin = 16;
+
+QStringList localFiles(const QMimeData* data)
+{
+    QStringList paths;
+    for (const QUrl& url : data->urls()) {
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
+} // namespace
+
+SourcesListWidget::SourcesListWidget(QWidget* parent)
+    : QListWidget(parent)
+{
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    setDropIndicatorShown(true);
+    setTextElideMode(Qt::ElideMiddle);
+    setUniformItemSizes(true);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+}
+
+void SourcesListWidget::setEmptyText(const QString& text)
+{
+    m_emptyText = text;
+    viewport()->update();
+}
+
+QList<int> SourcesListWidget::selectedRows() const
+{
+    QList<int> rows;
+    for (QListWidgetItem* item : selectedItems())
+        rows.append(row(item));
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
+void SourcesListWidget::focusInEvent(QFocusEvent* event)
+{
+    QListWidget::focusInEvent(event);
+    // Who comes by the keyboard wants to go on with it; without a selection its keys would do nothing.
+    const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
+                       event->reason() == Qt::ShortcutFocusReason;
+    if (byKey && count() > 0 && selectedItems().isEmpty())
+        setCurrentRow(qMax(0, currentRow()), QItemSelectionModel::ClearAndSelect);
+}
+
+void SourcesListWidget::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Delete))
+        emit removeRequested();
+    else if (event->key() == Qt::Key_Up && event->modifiers() == Qt::ControlModifier)
+        emit moveUpRequested();
+    else if (event->key() == Qt::Key_Down && event->modifiers() == Qt::ControlModifier)
+        emit moveDownRequested();
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void SourcesListWidget::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    if (count() > 0 || m_emptyText.isEmpty())
+        return;
+    QPainter painter(viewport());
+    painter.setPen(isEnabled() ? emptyTextColor : palette().color(QPalette::Disabled, QPalette::Text));
+    const QRect place =
+        viewport()->rect().adjusted(emptyTextMargin, emptyTextMargin, -emptyTextMargin, -emptyTextMargin);
+    painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
+}
+
+void SourcesListWidget::dragEnterEvent(QDragEnterEvent* event)
+{
+    if (event->source() != this && !localFiles(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+    else
+        QListWidget::dragEnterEvent(event);
+}
+
+void SourcesListWidget::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (event->source() != this && !localFiles(event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+    else
+        QListWidget::dragMoveEvent(event);
+}
+
+void SourcesListWidget::dropEvent(QDropEvent* event)
+{
+    if (event->source() == this) {
+        const QModelIndex index = indexAt(event->pos());
+        int target = index.isValid() ? index.row() : count();
+        if (index.isValid() && event->pos().y() > visualRect(index).center().y())
+            ++target;
+        moveRowsTo(target);
+        // Said to be a copy, lest the view takes the rows away that it has dragged.
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        return;
+    }
+    const QStringList paths = localFiles(event->mimeData());
+    if (paths.isEmpty()) {
+        event->ignore();
+        return;
+    }
+    event->acceptProposedAction();
+    emit filesDropped(paths);
+}
+
+void SourcesListWidget::moveRowsTo(int target)
+{
+    const QList<int> rows = selectedRows();
+    QList<QListWidgetItem*> moved;
+    int place = target;
+    for (auto it = rows.crbegin(); it != rows.crend(); ++it) {
+        moved.prepend(takeItem(*it));
+        if (*it < target)
+            --place;
+    }
+    for (QListWidgetItem* item : qAsConst(moved)) {
+        insertItem(place++, item);
+        item->setSelected(true);
+    }
+    if (!moved.isEmpty())
+        setCurrentItem(moved.first(), QItemSelectionModel::NoUpdate);
+    emit orderChanged();
+}
+
+} // namespace nsModSources

@@ -1,0 +1,230 @@
+// The dialog with the pages of all modules in a real main window: ways in and out, and pictures of every page.
+
+#include "MainWindowFixture.h"
+
+#include "ModConfig.h"
+#include "ModGuiHookIf.h"
+#include "ModPrj.h"
+#include "ModSourcesHookIf.h"
+#include "QtPrinters.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+namespace {
+
+class ConfigInWindow : public MainWindowFixture
+{
+protected:
+    ConfigInWindow()
+    {
+        writeSetting("ModGui/width", "1280");
+        writeSetting("ModGui/height", "750");
+        makeWindow();
+        config = module<nsModConfig::ModConfig>();
+        prj = module<nsModPrj::ModPrj>();
+        gui = module<ModGuiHookIf>();
+    }
+
+    QString makePrj(const QString& name, const QStringList& files = {})
+    {
+        for (const QString& file : files)
+            writeFile(file, "; " + file.toUtf8() + '\n');
+        return writeFile(name + ".nalvo", "<project version=\"3\"><PrjInfo><title>" + name.toUtf8() +
+                                              "</title><version>0.2</version><comment>Counts on port 1.</comment>"
+                                              "</PrjInfo><sources><srcFiles>" +
+                                              files.join(":").toUtf8() + "</srcFiles></sources></project>");
+    }
+    QWidget* dialog() const { return window->findChild<QWidget*>("configDialog"); }
+    bool isOpen() const { return dialog() != nullptr && dialog()->isVisible(); }
+    QListWidget* list() const { return dialog()->findChild<QListWidget*>("configList"); }
+    QListWidgetItem* item(const QString& title) const { return list()->findItems(title, Qt::MatchExactly).value(0); }
+    bool isEnabled(const QString& title) const { return (item(title)->flags() & Qt::ItemIsEnabled) != 0; }
+    QString current() const { return list()->currentItem() != nullptr ? list()->currentItem()->text() : QString(); }
+    QTabWidget* tabs() const { return window->findChild<QTabWidget*>("widgetAreaTabs"); }
+    QLineEdit* title() const { return dialog()->findChild<QLineEdit*>("prjTitle"); }
+    void retypeTitle(const QString& text) const
+    {
+        title()->setFocus();
+        QTest::keyClick(title(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(title(), text);
+    }
+    static QString file(const QString& path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    }
+
+    nsModConfig::ModConfig* config = nullptr;
+    nsModPrj::ModPrj* prj = nullptr;
+    ModGuiHookIf* gui = nullptr;
+};
+
+} // namespace
+
+TEST_F(ConfigInWindow, theMenuOpensIt)
+{
+    QAction* action = nullptr;
+    for (QAction* candidate : window->menuBar()->findChildren<QAction*>() + window->findChildren<QAction*>()) {
+        if (candidate->text() == "Configure...")
+            action = candidate;
+    }
+    ASSERT_NE(action, nullptr);
+    EXPECT_FALSE(action->icon().isNull());
+    action->trigger();
+    ASSERT_TRUE(isOpen());
+    EXPECT_EQ(tabs()->tabText(tabs()->indexOf(dialog())), "Configuration");
+}
+
+TEST_F(ConfigInWindow, withoutAProjectItsPagesAreDisabled)
+{
+    config->openDialog();
+    ASSERT_NE(item("Info"), nullptr);
+    ASSERT_NE(item("Sources"), nullptr);
+    EXPECT_EQ(list()->row(item("Info")), 0);
+    EXPECT_EQ(list()->row(item("Sources")), 1);
+    EXPECT_FALSE(isEnabled("Info"));
+    EXPECT_FALSE(isEnabled("Sources"));
+    EXPECT_NE(current(), "Info");
+}
+
+TEST_F(ConfigInWindow, applyWritesTheProject)
+{
+    const QString path = makePrj("counter", {"main.psm"});
+    ASSERT_TRUE(prj->open(path));
+    config->openDialog();
+    EXPECT_EQ(current(), "Info");
+    retypeTitle("Counter 2");
+    for (QPushButton* button : dialog()->findChildren<QPushButton*>()) {
+        if (button->text() == "Apply and close") {
+            QTest::mouseClick(button, Qt::LeftButton);
+            break;
+        }
+    }
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(file(path).contains("Counter 2")) << "on the disk at once";
+    EXPECT_TRUE(window->windowTitle().contains("Counter 2"));
+}
+
+TEST_F(ConfigInWindow, theCloseButtonOfTheTabAppliesAndCancelDoesNot)
+{
+    const QString path = makePrj("counter");
+    ASSERT_TRUE(prj->open(path));
+    config->openDialog();
+    retypeTitle("Cancelled");
+    QTest::mouseClick(dialog()->findChild<QPushButton*>("buttonCancel"), Qt::LeftButton);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(prj->prjTitle(), "counter");
+    config->openDialog();
+    retypeTitle("Closed");
+    QTest::mouseClick(window->findChild<QPushButton*>("buttonCloseTab"), Qt::LeftButton);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(prj->prjTitle(), "Closed");
+    EXPECT_TRUE(file(path).contains("Closed"));
+}
+
+TEST_F(ConfigInWindow, theCloseKeyAppliesFromWithinAField)
+{
+    ASSERT_TRUE(prj->open(makePrj("counter")));
+    config->openDialog();
+    retypeTitle("By key");
+    QTest::keyClick(title(), Qt::Key_W, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(isOpen());
+    EXPECT_EQ(prj->prjTitle(), "By key");
+}
+
+TEST_F(ConfigInWindow, theRightDockFollowsTheTabs)
+{
+    QLabel editor;
+    QLabel docked;
+    gui->addWidget(nullptr, ModGuiHookIf::eLocationTabs, &editor, "main.psm");
+    gui->addWidget(nullptr, ModGuiHookIf::eLocationDockRight, &docked, "Docked");
+    config->openDialog();
+    EXPECT_FALSE(docked.isVisible());
+    gui->setCurrentWidget(&editor);
+    EXPECT_TRUE(gui->widgetVisible(ModGuiHookIf::eLocationDockRight));
+    config->openDialog();
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationTabs), dialog());
+    EXPECT_FALSE(gui->widgetVisible(ModGuiHookIf::eLocationDockRight));
+    config->closeDialog();
+    EXPECT_TRUE(gui->widgetVisible(ModGuiHookIf::eLocationDockRight));
+    gui->removeWidget(&docked);
+    gui->removeWidget(&editor);
+}
+
+TEST_F(ConfigInWindow, projectsMayComeAndGoMeanwhile)
+{
+    const QString first = makePrj("first", {"main.psm"});
+    const QString second = makePrj("second", {"uart.psm"});
+    config->openDialog();
+    ASSERT_TRUE(prj->open(first));
+    EXPECT_TRUE(isEnabled("Info"));
+    EXPECT_EQ(title()->text(), "first");
+    EXPECT_EQ(dialog()->findChild<QListWidget*>("sourcesList")->count(), 1);
+    retypeTitle("edited");
+    ASSERT_TRUE(prj->open(second));
+    EXPECT_EQ(title()->text(), "second");
+    EXPECT_EQ(dialog()->findChild<QListWidget*>("sourcesList")->item(0)->text(), "uart.psm");
+    config->closeDialog(true);
+    EXPECT_FALSE(file(first).contains("edited"));
+    EXPECT_TRUE(file(second).contains("second"));
+    EXPECT_EQ(module<ModSourcesHookIf>()->files(), QStringList(projectDir() + "/uart.psm"));
+    config->openDialog();
+    prj->close();
+    EXPECT_FALSE(isEnabled("Info"));
+    config->closeDialog(true);
+    EXPECT_TRUE(file(second).contains("uart.psm")) << "a closed project is not written any more";
+}
+
+TEST_F(ConfigInWindow, theEndOfTheProgramCancels)
+{
+    const QString path = makePrj("counter");
+    ASSERT_TRUE(prj->open(path));
+    config->openDialog();
+    retypeTitle("Unwanted");
+    EXPECT_TRUE(closeWindow());
+    EXPECT_FALSE(file(path).contains("Unwanted"));
+}
+
+TEST_F(ConfigInWindow, theWindowMayBeDeletedWithTheDialogOpen)
+{
+    ASSERT_TRUE(prj->open(makePrj("counter")));
+    config->openDialog();
+    window.reset();
+    makeWindow();
+    EXPECT_EQ(dialog(), nullptr);
+}
+
+TEST_F(ConfigInWindow, picturesOfEveryPage)
+{
+    config->openDialog();
+    screenshot("config-no-project");
+    config->selectDialogPageByTitle("Sources");
+    screenshot("config-no-project-sources");
+    ASSERT_TRUE(prj->open(makePrj("empty")));
+    config->selectDialogPageByTitle("Sources");
+    screenshot("config-sources-empty");
+    ASSERT_TRUE(prj->open(makePrj("counter", {"main.psm", "uart.psm", "delay.psm"})));
+    for (int row = 0; row < list()->count(); ++row) {
+        list()->setCurrentRow(row);
+        const QString path = screenshot("config-" + list()->item(row)->text().toLower().replace(' ', '-'));
+        const QImage picture(path);
+        ASSERT_FALSE(picture.isNull());
+        // A page has a title: there is ink to the right of the list.
+        int inked = 0;
+        const QPoint corner = dialog()->mapTo(window.get(), QPoint(150, 10)) * picture.devicePixelRatio();
+        const QRgb ground = picture.pixel(corner);
+        for (int x = corner.x(); x < corner.x() + 300; ++x) {
+            for (int y = corner.y(); y < corner.y() + 30; ++y)
+                inked += picture.pixel(x, y) != ground;
+        }
+        EXPECT_GT(inked, 50) << qPrintable(path);
+    }
+}
