@@ -52,7 +52,7 @@ protected:
         QList<int> values;
         auto* fifo = dynamic_cast<nsProc::ProcSimIOFifo*>(device(addr, nsProc::ProcSimIOPluginIf::eDirectionWr));
         for (int line = 0; fifo != nullptr && line < count; ++line)
-            values.append(fifo->lineText(line).toInt(nullptr, 16));
+            values.append(fifo->lines().text(line).toInt(nullptr, 16));
         return values;
     }
     int cell(int addr) const

@@ -49,8 +49,9 @@ void ProcSimCallStack::setup()
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     header()->setDefaultAlignment(Qt::AlignCenter);
     header()->setSectionsMovable(false);
-    for (int column = 0; column < columnCount; ++column)
-        resizeColumnToContents(column);
+    // The columns follow their contents; the last one takes the rest.
+    for (int column = 0; column < columnLabel; ++column)
+        header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     refresh();
 }
 
@@ -105,17 +106,15 @@ void ProcSimCallStack::refresh()
     const bool changed = m_changes != m_data->changes();
     m_changes = m_data->changes();
     m_model->setRowCount(m_data->count());
-    bool isResized = false;
+    bool isExtended = false;
     for (int row = 0; row < m_data->count(); ++row) {
         if (isShown(row))
             continue;
         showRow(row, m_data->items()[size_t(row)]);
-        isResized = true;
+        isExtended = true;
     }
     m_shown = m_data->items();
-    for (int column = 0; isResized && column < columnCount; ++column)
-        resizeColumnToContents(column);
-    if (isResized)
+    if (isExtended)
         scrollToBottom();
     if (changed)
         emit contentChanged(this);

@@ -11,7 +11,7 @@ namespace nsProc {
 namespace {
 
 const int rowsPerColumn = 8;
-const int aliasWidth = 56; ///< pixels; a longer name shows its beginning, and all of it as a tool tip
+const int aliasWidth = 56; ///< pixels; a longer name shows its end, and all of it as a tool tip
 
 } // namespace
 
@@ -64,9 +64,23 @@ void ProcSimRegPage::refresh()
         if (alias == row.shownAlias)
             continue;
         row.shownAlias = alias;
-        row.alias->setText(alias);
         row.alias->setToolTip(alias);
+        showAlias(row);
     }
+}
+
+void ProcSimRegPage::showAlias(const sRow_t& row)
+{
+    // Names differ at their ends, behind a namespace.
+    row.alias->setText(row.alias->fontMetrics().elidedText(row.shownAlias, Qt::ElideLeft, row.alias->width()));
+}
+
+void ProcSimRegPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    for (const sRow_t& row : qAsConst(m_rows))
+        showAlias(row);
 }
 
 } // namespace nsProc

@@ -27,6 +27,9 @@ public:
     /// Shows what has changed in the data.
     void refresh();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     struct sRow_t
     {
@@ -34,6 +37,8 @@ private:
         QLabel* alias;
         QString shownAlias;
     };
+
+    static void showAlias(const sRow_t& row);
 
     std::shared_ptr<ProcSimCoreData> m_data;
     int m_bank;

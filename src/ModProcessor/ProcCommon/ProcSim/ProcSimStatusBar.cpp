@@ -41,6 +41,7 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     // What follows a number must not move while it grows.
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEXX")));
+    layout->addSpacing(8);
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(12, '0')));
     layout->addWidget(new QLabel(tr("clocks"), this));

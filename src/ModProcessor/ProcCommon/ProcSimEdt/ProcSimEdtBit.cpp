@@ -1,5 +1,7 @@
 #include "ProcSimEdtBit.h"
 
+#include "ProcSimHighlight.h"
+
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
@@ -32,9 +34,7 @@ void ProcSimEdtBit::setHighlightEn(bool enabled)
     if (enabled == m_highlighted)
         return;
     m_highlighted = enabled;
-    QPalette colors = palette();
-    colors.setColor(QPalette::WindowText, enabled ? QColor(Qt::red) : QColor(Qt::black));
-    setPalette(colors);
+    showHighlight(this, enabled);
 }
 
 void ProcSimEdtBit::toggle()

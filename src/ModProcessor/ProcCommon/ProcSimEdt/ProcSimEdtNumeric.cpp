@@ -1,5 +1,7 @@
 #include "ProcSimEdtNumeric.h"
 
+#include "ProcSimHighlight.h"
+
 #include <QEvent>
 #include <QFontDatabase>
 #include <QRegExp>
@@ -70,10 +72,7 @@ void ProcSimEdtNumeric::setHighlightEn(bool enabled)
     if (enabled == m_highlighted)
         return;
     m_highlighted = enabled;
-    // A palette is much cheaper than a style sheet, and this happens at each step.
-    QPalette colors = palette();
-    colors.setColor(QPalette::Text, enabled ? QColor(Qt::red) : QColor(Qt::black));
-    setPalette(colors);
+    showHighlight(this, enabled);
 }
 
 void ProcSimEdtNumeric::takeText(const QString& text)
