@@ -1,5 +1,7 @@
 #include "ConfigDialog.h"
 
+#include "ConfigListDelegate.h"
+
 #include "MyButton.h"
 #include "MyButtonCancel.h"
 
@@ -67,6 +69,7 @@ void ConfigDialog::setupList()
     m_list->setMaximumWidth(listWidth);
     m_list->setSpacing(listSpacing);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_list->setItemDelegate(new ConfigListDelegate(m_list));
 }
 
 QWidget* ConfigDialog::makeButtons()
@@ -86,15 +89,33 @@ QWidget* ConfigDialog::makeButtons()
     connect(m_apply, &QPushButton::clicked, this, &ConfigDialog::closeRequested);
     connect(m_cancel, &QPushButton::clicked, this, &ConfigDialog::cancelRequested);
 
-    auto* layout = new QHBoxLayout(frame);
-    layout->setContentsMargins(2 * gap, gap, 2 * gap, gap);
-    layout->setSpacing(gap);
-    layout->addWidget(m_setDefault);
-    layout->addWidget(m_restore);
-    layout->addStretch(1);
-    layout->addWidget(m_apply);
-    layout->addWidget(m_cancel);
+    auto* pageButtons = new QHBoxLayout;
+    pageButtons->setSpacing(gap);
+    pageButtons->addWidget(m_setDefault);
+    pageButtons->addWidget(m_restore);
+    pageButtons->addStretch(1);
+    auto* dialogButtons = new QHBoxLayout;
+    dialogButtons->setSpacing(gap);
+    dialogButtons->addStretch(1);
+    dialogButtons->addWidget(m_apply);
+    dialogButtons->addWidget(m_cancel);
+
+    m_buttons = new QBoxLayout(QBoxLayout::LeftToRight, frame);
+    m_buttons->setContentsMargins(2 * gap, gap, 2 * gap, gap);
+    m_buttons->setSpacing(gap);
+    m_buttons->addLayout(pageButtons);
+    m_buttons->addLayout(dialogButtons);
+    // Less than one line needs: a small window gives the buttons two lines, and does not grow.
+    frame->setMinimumWidth(1);
     return frame;
+}
+
+void ConfigDialog::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int oneLine = 4 * gap + m_setDefault->sizeHint().width() + m_restore->sizeHint().width() +
+                        m_apply->sizeHint().width() + m_cancel->sizeHint().width() + 4 * gap;
+    m_buttons->setDirection(width() >= oneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 QListWidgetItem* ConfigDialog::addPage(const QIcon& icon, const QString& title, QWidget* page)

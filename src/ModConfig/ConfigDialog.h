@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QListWidget;
 class QListWidgetItem;
 class QPushButton;
@@ -43,6 +44,9 @@ signals:
     void closeRequested();
     void cancelRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     void setupList();
     QWidget* makeButtons();
@@ -51,6 +55,7 @@ private:
 
     QListWidget* m_list = nullptr;
     QStackedWidget* m_stack = nullptr;
+    QBoxLayout* m_buttons = nullptr;
     QPushButton* m_setDefault = nullptr;
     QPushButton* m_restore = nullptr;
     QPushButton* m_apply = nullptr;

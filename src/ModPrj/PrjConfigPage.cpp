@@ -24,6 +24,7 @@ PrjConfigPage::PrjConfigPage(QWidget* parent)
     m_title->setObjectName(QStringLiteral("prjTitle"));
     m_version->setObjectName(QStringLiteral("prjVersion"));
     m_comment->setObjectName(QStringLiteral("prjComment"));
+    m_version->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // short by nature
     // A text needs no tabs, and the key leads on to the next field.
     m_comment->setTabChangesFocus(true);
     m_comment->setMinimumHeight(commentLines * m_comment->fontMetrics().lineSpacing());

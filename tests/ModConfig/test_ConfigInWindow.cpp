@@ -202,16 +202,29 @@ TEST_F(ConfigInWindow, theWindowMayBeDeletedWithTheDialogOpen)
     EXPECT_EQ(dialog(), nullptr);
 }
 
+TEST_F(ConfigInWindow, aSmallWindowDoesNotGrow)
+{
+    window->resize(800, 600);
+    const QSize size = window->size();
+    ASSERT_TRUE(prj->open(makePrj("counter", {"main.psm", "uart.psm"})));
+    config->openDialog("Sources");
+    screenshot("config-small-window");
+    EXPECT_EQ(window->size(), size);
+}
+
 TEST_F(ConfigInWindow, picturesOfEveryPage)
 {
     config->openDialog();
     screenshot("config-no-project");
     config->selectDialogPageByTitle("Sources");
     screenshot("config-no-project-sources");
+    config->closeDialog();
     ASSERT_TRUE(prj->open(makePrj("empty")));
-    config->selectDialogPageByTitle("Sources");
+    config->openDialog("Sources");
     screenshot("config-sources-empty");
+    config->closeDialog();
     ASSERT_TRUE(prj->open(makePrj("counter", {"main.psm", "uart.psm", "delay.psm"})));
+    config->openDialog();
     for (int row = 0; row < list()->count(); ++row) {
         list()->setCurrentRow(row);
         const QString path = screenshot("config-" + list()->item(row)->text().toLower().replace(' ', '-'));

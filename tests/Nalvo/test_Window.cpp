@@ -52,7 +52,6 @@ TEST_F(MainWindowFixture, ModulesStandInTheirOrder)
                             "nsModCfgApp::ModCfgApp",
                             "nsModClipboard::ModClipboard",
                             "nsModConfig::ModConfig",
-                            "nsModConfig::ModConfig",
                             "nsModFindReplace::ModFindReplace",
                             "nsModGui::ModGui",
                             "nsModTemplates::ModTemplates",

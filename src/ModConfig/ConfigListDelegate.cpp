@@ -1,0 +1,44 @@
+#include "ConfigListDelegate.h"
+
+#include <QIcon>
+#include <QListView>
+#include <QWindow>
+
+namespace nsModConfig {
+
+namespace {
+
+const QSize iconSize(48, 48);
+const int gap = 8;
+
+} // namespace
+
+ConfigListDelegate::ConfigListDelegate(QListView* view)
+    : QStyledItemDelegate(view)
+    , m_view(view)
+{
+}
+
+QSize ConfigListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
+{
+    const QSize wanted = index.data(Qt::SizeHintRole).toSize();
+    // The width that the list is going to have, as it may not have been laid out yet.
+    const int width = m_view->maximumWidth() - 1 - 2 * m_view->spacing();
+    const int height = iconSize.height() + option.fontMetrics.height() + 2 * gap;
+    return wanted.expandedTo(QSize(width, height));
+}
+
+void ConfigListDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    QWindow* window = m_view->window()->windowHandle();
+    option->decorationSize = iconSize;
+    option->decorationAlignment = Qt::AlignHCenter | Qt::AlignBottom;
+    if (!option->icon.isNull()) {
+        // The style would tint the icon of the selected entry.
+        const QPixmap pixmap = option->icon.pixmap(window, iconSize);
+        option->icon.addPixmap(pixmap, QIcon::Selected);
+    }
+}
+
+} // namespace nsModConfig
