@@ -56,6 +56,17 @@ protected:
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
+    /// A number field of a card, by its tool tip.
+    static nsProc::ProcSimEdtNumeric* field(nsProc::ProcSimIOPluginIf* device, const char* toolTip)
+    {
+        const auto fields = device->ioDevWidget()->findChildren<nsProc::ProcSimEdtNumeric*>();
+        for (auto* edit : fields) {
+            if (edit->toolTip() == toolTip)
+                return edit;
+        }
+        ADD_FAILURE() << toolTip;
+        return nullptr;
+    }
     static void type(QWidget* field, const QString& text)
     {
         field->setFocus();

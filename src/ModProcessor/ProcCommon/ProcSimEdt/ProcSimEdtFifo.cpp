@@ -3,9 +3,10 @@
 #include "ProcSimIOFifo.h"
 
 #include <QFontDatabase>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QPainter>
 #include <QScrollBar>
-#include <QSignalBlocker>
 #include <QTextBlock>
 
 namespace nsProc {
@@ -187,6 +188,24 @@ void ProcSimEdtFifo::paintMargin()
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0x204398));
     painter.drawPolygon(QPolygonF({{4, middle - 4}, {10, middle}, {4, middle + 4}}));
+}
+
+void ProcSimEdtFifo::keyPressEvent(QKeyEvent* event)
+{
+    // With Shift, a text breaks the line inside of one paragraph. Here, a line is a value.
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+        QKeyEvent plain(event->type(), Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+        QPlainTextEdit::keyPressEvent(&plain);
+        event->accept();
+        return;
+    }
+    QPlainTextEdit::keyPressEvent(event);
+}
+
+void ProcSimEdtFifo::insertFromMimeData(const QMimeData* source)
+{
+    textCursor().insertText(source->text().replace(QChar::LineSeparator, QLatin1Char('\n')));
+    ensureCursorVisible();
 }
 
 void ProcSimEdtFifo::resizeEvent(QResizeEvent* event)

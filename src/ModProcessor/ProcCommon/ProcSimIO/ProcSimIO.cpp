@@ -3,6 +3,7 @@
 #include "ProcSimIODeviceView.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -15,11 +16,12 @@ namespace nsProc {
 
 namespace {
 
+constexpr int minCardWidth = 230; ///< pixels; the empty dock is as wide as one with devices
+
 /// The cards and the hint. The fields in them look as everywhere.
 const char* const cardStyle = "QFrame#procSimIODevice { background-color: #ffffff; border: 1px solid #d5dae1; }"
-                              "QFrame#procSimIODevice QLabel { color: #52606d; }"
-                              "QFrame#procSimIODevice QLabel#procSimIOName { color: #1f2933; }"
-                              "QLabel#procSimIOHint { color: #52606d; padding: 8px; }";
+                              "QLabel#procSimIOTitle, QLabel#procSimIOAccess, QLabel#procSimIOHint { color: #52606d; }"
+                              "QLabel#procSimIOHint { padding: 8px; }";
 
 } // namespace
 
@@ -109,6 +111,7 @@ void ProcSimIO::addColumn(QVBoxLayout* layout)
     m_columnLayout = new QVBoxLayout(m_column);
     m_columnLayout->setContentsMargins(0, 0, 0, 0);
     m_columnLayout->setSpacing(8);
+    m_column->installEventFilter(this);
     m_columnLayout->addWidget(m_hint);
     m_columnLayout->addStretch(1);
     m_scroll->setWidget(m_column);
@@ -140,7 +143,16 @@ void ProcSimIO::updateColumn()
     m_hint->setVisible(m_views.isEmpty());
     m_removeAll->setEnabled(!m_views.isEmpty());
     // Wide enough for the widest card beside the scroll bar: the column never scrolls sideways.
-    m_scroll->setMinimumWidth(m_column->minimumSizeHint().width() + m_scroll->verticalScrollBar()->sizeHint().width());
+    const int cardWidth = qMax(minCardWidth, m_column->minimumSizeHint().width());
+    m_scroll->setMinimumWidth(cardWidth + m_scroll->verticalScrollBar()->sizeHint().width());
+}
+
+bool ProcSimIO::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool result = QWidget::eventFilter(watched, event);
+    if (watched == m_column && event->type() == QEvent::LayoutRequest)
+        updateColumn();
+    return result;
 }
 
 void ProcSimIO::refresh()

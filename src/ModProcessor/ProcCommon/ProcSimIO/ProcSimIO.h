@@ -56,6 +56,9 @@ signals:
     /// The user asks for the wave viewer.
     void wavesRequested();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void addTools(QVBoxLayout* layout);
     void addColumn(QVBoxLayout* layout);

@@ -16,9 +16,9 @@ ProcSimIOAddrLine::ProcSimIOAddrLine(QWidget* parent)
 {
     setObjectName(QStringLiteral("procSimIOAddrLine"));
     auto* title = new QLabel(tr("Addr:"), this);
+    title->setObjectName(QStringLiteral("procSimIOTitle"));
     title->setBuddy(m_addr);
     title->setToolTip(tr("Address"));
-    m_addr->setObjectName(QStringLiteral("procSimIOAddr"));
     m_addr->setToolTip(tr("Address"));
     m_addr->setRange(0, ProcSimIODevice::maxPortAddr);
     m_nameLabel->setObjectName(QStringLiteral("procSimIOName"));

@@ -22,10 +22,10 @@ ProcSimIOFifoView::ProcSimIOFifoView(ProcSimIOFifo* device)
 {
     m_access->setObjectName(QStringLiteral("procSimIOAccess"));
     m_access->setToolTip(tr("Last access: rd for a read, wr for a write"));
-    m_lastValue->setObjectName(QStringLiteral("procSimIOLastValue"));
     m_lastValue->setToolTip(tr("Last value"));
     m_lastValue->setRange(0, ProcSimIODevice::maxValue);
     m_lastValue->setReadOnly(true);
+    m_lastValue->setFocusPolicy(Qt::NoFocus);
     m_list->hide();
     directionLine()->addWidget(m_access);
     directionLine()->addWidget(m_lastValue);

@@ -39,17 +39,20 @@ void ProcSimIOMemView::addLastAccess()
 {
     m_access->setObjectName(QStringLiteral("procSimIOAccess"));
     m_access->setToolTip(tr("Last access: rdFrom for a read, wrTo for a write"));
-    m_lastAddr->setObjectName(QStringLiteral("procSimIOLastAddr"));
     m_lastAddr->setToolTip(tr("Last address"));
-    m_lastValue->setObjectName(QStringLiteral("procSimIOLastValue"));
     m_lastValue->setToolTip(tr("Last value"));
-    directionLine()->addWidget(m_access);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(8);
+    line->addStretch(1);
+    line->addWidget(m_access);
     for (ProcSimEdtNumeric* field : {m_lastAddr, m_lastValue}) {
         field->setRange(0, ProcSimIODevice::maxValue);
         field->setReadOnly(true);
+        field->setFocusPolicy(Qt::NoFocus);
         field->clear();
-        directionLine()->addWidget(field);
+        line->addWidget(field);
     }
+    body()->addLayout(line);
 }
 
 void ProcSimIOMemView::addArray()
@@ -62,13 +65,16 @@ void ProcSimIOMemView::addArray()
     m_size->setFixedWidth(72);
     m_size->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]{1,8}")), m_size));
     auto* title = new QLabel(tr("Size:"), m_arrayPart);
+    title->setObjectName(QStringLiteral("procSimIOTitle"));
     title->setBuddy(m_size);
     title->setToolTip(m_size->toolTip());
     auto* sizeLine = new QHBoxLayout;
     sizeLine->setSpacing(8);
     sizeLine->addWidget(title);
     sizeLine->addWidget(m_size);
-    sizeLine->addWidget(new QLabel(tr("words"), m_arrayPart));
+    auto* unit = new QLabel(tr("words"), m_arrayPart);
+    unit->setObjectName(QStringLiteral("procSimIOTitle"));
+    sizeLine->addWidget(unit);
     sizeLine->addStretch(1);
     auto* layout = new QVBoxLayout(m_arrayPart);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -94,7 +100,8 @@ void ProcSimIOMemView::showLastAccess()
         int value;
     } fields[] = {{m_lastAddr, m_mem->lastAddr()}, {m_lastValue, m_mem->lastValue()}};
     for (const auto& [field, value] : fields) {
-        if (field->base() != m_mem->base())
+        // The base also brings an empty field back to showing a number.
+        if (field->base() != m_mem->base() || field->text().isEmpty())
             field->setBase(m_mem->base());
         if (value < 0)
             field->clear();

@@ -15,7 +15,6 @@ ProcSimIORegView::ProcSimIORegView(ProcSimIOReg8Bit* device)
     , m_value(new ProcSimEdtNumeric(this))
     , m_bits(new ProcSimEdtBitField(8, this))
 {
-    m_value->setObjectName(QStringLiteral("procSimIOValue"));
     m_value->setToolTip(tr("Value"));
     m_value->setRange(0, ProcSimIODevice::maxValue);
     m_bits->setObjectName(QStringLiteral("procSimIOBits"));
