@@ -32,8 +32,8 @@ private:
     QStringList m_files;
 };
 
-/// A file that a run writes. It ends up complete or not at all, except for devices, pipes and standard output, which get
-/// the text as it comes.
+/// A file that a run writes. It ends up complete or not at all, except for devices, pipes and standard output, which
+/// get the text as it comes.
 class OutputFile
 {
 public:

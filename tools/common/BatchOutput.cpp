@@ -9,7 +9,7 @@ namespace nsBatch {
 
 namespace {
 
-QByteArray program; ///< in front of complaints
+QByteArray program;  ///< in front of complaints
 int stdoutError = 0; ///< why the first text for standard output was lost
 
 void noteStdout(bool success)

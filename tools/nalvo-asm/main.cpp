@@ -113,8 +113,8 @@ int run(const AsmOptions& options)
         reports.write(options.symbolsFile, symbolsText);
     }
     // A run that has reported an error counts as failed, even where the assembler could go on.
-    const bool success =
-        modules.asmFe.runSucceeded() && modules.msg.errors() == 0 && !(options.style.werror && modules.msg.warnings() > 0);
+    const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 &&
+                         !(options.style.werror && modules.msg.warnings() > 0);
     showSummary(modules.msg, options.style, success, modules.asmFe.opcodeList()->count(),
                 modules.asmFe.writtenFiles() + reports.written());
     return success ? exitAssembled : exitNotAssembled;
