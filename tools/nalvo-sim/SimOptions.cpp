@@ -23,8 +23,9 @@ QString tr(const char* text)
 }
 
 // The parser breaks the lines of the options, but not these.
-const char* const description = "Assembles a Nalvo project in memory and runs it in the simulator, without a display.\n"
-                                "Nothing of the project is changed, and none of its output files are written.\n"
+const char* const description = "Assembles a Nalvo project in memory and runs it in the simulator, without a\n"
+                                "display. Nothing of the project is changed, and none of its output files are\n"
+                                "written.\n"
                                 "\n"
                                 "The run ends when a bound or the label is reached, with a message of the\n"
                                 "simulator, when a read finds no value, or with an interrupt signal. With neither\n"
