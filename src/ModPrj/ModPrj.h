@@ -165,10 +165,10 @@ private:
     int m_openCount = 0; ///< number of projects opened so far: tells whether the project is still the same one
     bool m_saving = false;
     bool m_closing = false;
-    PrjActions* m_actions = nullptr; ///< null in a program without menus
-    QPointer<PrjConfigPage> m_page;     ///< while the configuration dialog is open
-    QPointer<PrjMngrWidget> m_prjMngr;  ///< while the project manager is shown
-    QStringList m_collection;           ///< key "PrjMngr/collection"
+    PrjActions* m_actions = nullptr;   ///< null in a program without menus
+    QPointer<PrjConfigPage> m_page;    ///< while the configuration dialog is open
+    QPointer<PrjMngrWidget> m_prjMngr; ///< while the project manager is shown
+    QStringList m_collection;          ///< key "PrjMngr/collection"
     PluginList<ModPrjPluginIf> m_plugins;
 };
 

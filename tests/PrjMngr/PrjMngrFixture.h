@@ -81,12 +81,16 @@ protected:
     }
     void press(const QString& text, const QWidget* parent = nullptr) const
     {
+        QCoreApplication::processEvents(); // a new card is shown by its layout
         QPushButton* target = button(text, parent);
         ASSERT_TRUE(target->isVisible() && target->isEnabled()) << qPrintable(text);
         QTest::mouseClick(target, Qt::LeftButton);
     }
     /// Field of a path on one of the two tabs, with the tab in front.
-    QLineEdit* pathEdit(const char* selector) const { return page->findChild<QWidget*>(selector)->findChild<QLineEdit*>(); }
+    QLineEdit* pathEdit(const char* selector) const
+    {
+        return page->findChild<QWidget*>(selector)->findChild<QLineEdit*>();
+    }
     static void typeInto(QLineEdit* edit, const QString& text)
     {
         edit->setFocus();
@@ -103,13 +107,17 @@ protected:
     QStringList listed() const { return page->listWidget()->prjCollection(); }
     nsModPrj::PrjMngrListElementWidget* card(const QString& file) const
     {
+        QCoreApplication::processEvents();
         for (auto* element : page->findChildren<nsModPrj::PrjMngrListElementWidget*>()) {
             if (element->prjFile() == file && element->isVisible())
                 return element;
         }
         return nullptr;
     }
-    QString cardText(const QString& file, const char* name) const { return card(file)->findChild<QLabel*>(name)->text(); }
+    QString cardText(const QString& file, const char* name) const
+    {
+        return card(file)->findChild<QLabel*>(name)->text();
+    }
     QAction* prjAction(int index) { return prj.menuActions(ModActionHookIf::eActionClassConfiguration).value(index); }
 
     QTemporaryDir folder;

@@ -1,11 +1,13 @@
 #include "PrjMngrListElementWidget.h"
 
+#include "PrjMngrLine.h"
+
 #include "MyButton.h"
 #include "MyFieldTitle.h"
 
 #include <QDir>
 #include <QGridLayout>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QMouseEvent>
 
 namespace nsModPrj {
@@ -13,42 +15,37 @@ namespace nsModPrj {
 namespace {
 
 const int maxPathLength = 40; ///< characters of the path that are shown
-const int maxCommentLength = 200;
+const int maxToolTipLength = 2000;
 const int margin = 12;
 const int gap = 4;
 
-/// A label for texts out of project files, which must not be taken for rich text.
-QLabel* plainLabel(const char* name, QWidget* parent)
+PrjMngrLine* makeLine(const char* name, QWidget* parent)
 {
-    auto* label = new QLabel(parent);
-    label->setObjectName(QLatin1String(name));
-    label->setTextFormat(Qt::PlainText);
-    return label;
+    auto* line = new PrjMngrLine(parent);
+    line->setObjectName(QLatin1String(name));
+    return line;
 }
 
-QString shortened(const QString& text, int length)
+/// A tool tip for a text out of a project file, which must not be taken for rich text.
+QString toolTipOf(const QString& text)
 {
-    return text.size() <= length ? text : text.left(length).trimmed() + QStringLiteral("...");
+    return QStringLiteral("<p>%1</p>").arg(text.left(maxToolTipLength).toHtmlEscaped());
 }
 
 } // namespace
 
 PrjMngrListElementWidget::PrjMngrListElementWidget(QWidget* parent)
     : QFrame(parent)
-    , m_title(plainLabel("prjViewTitle", this))
-    , m_version(plainLabel("prjViewVersion", this))
+    , m_title(makeLine("prjViewTitle", this))
+    , m_version(makeLine("prjViewVersion", this))
     , m_commentTitle(new MyFieldTitle(tr("Comment:"), this))
-    , m_comment(plainLabel("prjViewComment", this))
-    , m_path(plainLabel("prjViewPath", this))
+    , m_comment(makeLine("prjViewComment", this))
+    , m_path(makeLine("prjViewPath", this))
     , m_remove(new MyButton(tr("Remove from collection"), this))
     , m_open(new MyButton(tr("Open"), this))
 {
     setObjectName(QStringLiteral("prjView"));
     setToolTip(tr("A double click opens the project"));
-    m_title->setWordWrap(true);
-    m_comment->setWordWrap(true);
-    m_comment->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_remove->setToolTip(tr("Takes the project off this list; its files stay"));
     m_open->setToolTip(tr("Opens the project"));
 
@@ -69,7 +66,7 @@ PrjMngrListElementWidget::PrjMngrListElementWidget(QWidget* parent)
     layout->addWidget(m_title, 0, 0, 1, 2);
     layout->addWidget(new MyFieldTitle(tr("Version:"), this), 1, 0);
     layout->addWidget(m_version, 1, 1);
-    layout->addWidget(m_commentTitle, 2, 0, Qt::AlignTop);
+    layout->addWidget(m_commentTitle, 2, 0);
     layout->addWidget(m_comment, 2, 1);
     layout->addWidget(new MyFieldTitle(tr("Project file:"), this), 3, 0);
     layout->addWidget(m_path, 3, 1);
@@ -85,12 +82,13 @@ void PrjMngrListElementWidget::setPrjInfo(const QString& file, const QString& ti
     m_prjFile = file;
     m_title->setText(title.isEmpty() ? tr("Title: No title set") : title.simplified());
     m_version->setText(version.isEmpty() ? tr("No version set") : version.simplified());
-    m_comment->setText(shortened(comment.simplified(), maxCommentLength));
-    m_comment->setToolTip(comment.size() <= maxCommentLength ? QString() : comment.left(20 * maxCommentLength).toHtmlEscaped());
+    m_comment->setText(comment.simplified());
+    m_title->setToolTip(toolTipOf(m_title->text()));
+    m_comment->setToolTip(toolTipOf(m_comment->text()));
     m_comment->setVisible(!comment.trimmed().isEmpty());
     m_commentTitle->setVisible(!comment.trimmed().isEmpty());
     m_path->setText(file.size() <= maxPathLength ? file : QStringLiteral("...") + file.right(maxPathLength));
-    m_path->setToolTip(QDir::toNativeSeparators(file).toHtmlEscaped());
+    m_path->setToolTip(toolTipOf(QDir::toNativeSeparators(file)));
     const QString name = m_title->text();
     m_open->setAccessibleName(QStringLiteral("%1: %2").arg(m_open->text(), name));
     m_remove->setAccessibleName(QStringLiteral("%1: %2").arg(m_remove->text(), name));

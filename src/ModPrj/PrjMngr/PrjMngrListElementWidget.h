@@ -7,6 +7,8 @@ class QLabel;
 
 namespace nsModPrj {
 
+class PrjMngrLine;
+
 /// One project of the collection: what it says of itself, its file, and what can be done with it.
 class PrjMngrListElementWidget : public QFrame
 {
@@ -30,11 +32,11 @@ protected:
 
 private:
     QString m_prjFile;
-    QLabel* m_title;
-    QLabel* m_version;
+    PrjMngrLine* m_title;
+    PrjMngrLine* m_version;
     QLabel* m_commentTitle;
-    QLabel* m_comment;
-    QLabel* m_path;
+    PrjMngrLine* m_comment;
+    PrjMngrLine* m_path;
     MyButton* m_remove;
     MyButton* m_open;
 };

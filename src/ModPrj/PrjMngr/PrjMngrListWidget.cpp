@@ -13,15 +13,17 @@ namespace nsModPrj {
 namespace {
 
 const int gap = 8;
+const int areaMinHeight = 72; ///< pixels
 
 } // namespace
 
 PrjMngrListWidget::PrjMngrListWidget(QWidget* parent)
     : QWidget(parent)
     , m_area(new QScrollArea(this))
-    , m_hint(new QLabel(tr("No project is collected yet. Projects that you add stand here at each start. "
-                           "A project without a file is made under \"New project\" at the left."),
-                        this))
+    , m_hint(new QLabel(
+          tr("Empty. Add projects above, or make one under \"New project\" at the left: they then stand here at "
+             "each start."),
+          this))
 {
     setObjectName(QStringLiteral("prjMngrList"));
     m_hint->setObjectName(QStringLiteral("pageHint"));
@@ -31,10 +33,12 @@ PrjMngrListWidget::PrjMngrListWidget(QWidget* parent)
     m_layout = new QVBoxLayout(content);
     m_layout->setContentsMargins(0, 0, gap, 0);
     m_layout->setSpacing(gap);
+    m_layout->addWidget(m_hint);
     m_layout->addStretch(1);
     m_area->setObjectName(QStringLiteral("prjMngrListArea"));
     m_area->setFrameStyle(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
+    m_area->setMinimumHeight(areaMinHeight);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_area->setWidget(content);
     // The cards, not the area around them, take the focus.
@@ -44,7 +48,6 @@ PrjMngrListWidget::PrjMngrListWidget(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     layout->addWidget(new MySectionTitle(tr("Project collection:"), this));
-    layout->addWidget(m_hint);
     layout->addWidget(m_area, 1);
     updateHint();
 }

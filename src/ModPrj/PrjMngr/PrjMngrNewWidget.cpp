@@ -3,16 +3,24 @@
 #include "PrjMngrFile.h"
 
 #include "MyButton.h"
+#include "MyFieldTitle.h"
 #include "MyFileSelectSave.h"
-#include "MyPageLayout.h"
 #include "MyPathEdit.h"
 
 #include <QFileInfo>
-#include <QHBoxLayout>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QVBoxLayout>
 
 namespace nsModPrj {
+
+namespace {
+
+const int margin = 16;
+const int gap = 8;
+
+} // namespace
 
 PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     : QWidget(parent)
@@ -29,20 +37,30 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     PrjMngrFile::setup(m_file);
     m_title->setObjectName(QStringLiteral("prjMngrNewTitle"));
     m_note->setObjectName(QStringLiteral("pageHint"));
-    m_note->setWordWrap(true);
     m_add->setToolTip(tr("Writes the project file and lists the project under Open"));
     m_open->setToolTip(tr("Writes the project file and opens the project"));
 
-    auto* layout = new MyPageLayout(this, tr("New project"));
-    layout->addField(tr("Project file:"), m_file);
-    layout->addField(tr("Project title:"), m_title, tr("Name of the project, shown in the title of the window"));
-    layout->addRow(m_note);
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(8);
+    m_title->setToolTip(tr("Name of the project, shown in the title of the window"));
+    auto* fileTitle = new MyFieldTitle(tr("Project file:"), this);
+    fileTitle->setBuddy(m_file);
+    auto* titleTitle = new MyFieldTitle(tr("Project title:"), this);
+    titleTitle->setBuddy(m_title);
+
+    // One below the other: beside each other the buttons would be wider than the page in a small window.
+    auto* buttons = new QVBoxLayout;
+    buttons->setSpacing(gap);
     buttons->addWidget(m_open);
     buttons->addWidget(m_add);
-    buttons->addStretch(1);
-    layout->addRow(buttons);
+    auto* layout = new QGridLayout(this);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(gap);
+    layout->addWidget(fileTitle, 0, 0);
+    layout->addWidget(m_file, 0, 1);
+    layout->addWidget(titleTitle, 1, 0);
+    layout->addWidget(m_title, 1, 1);
+    layout->addWidget(m_note, 2, 0, 1, 2);
+    layout->addLayout(buttons, 3, 0, 1, 2, Qt::AlignLeft);
+    layout->setRowStretch(4, 1);
     setFocusProxy(m_file);
 
     connect(m_file, &MyFileSelectSave::fileValidChanged, this, &PrjMngrNewWidget::checkFile);
@@ -82,8 +100,8 @@ void PrjMngrNewWidget::updateButtons()
     m_add->setEnabled(isComplete());
     m_open->setEnabled(isComplete());
     const bool exists = m_fileValid && QFileInfo::exists(PrjMngrFile::fullPath(m_file->file()));
-    m_note->setText(exists ? tr("This file exists already: generating replaces it.")
-                           : tr("Choose where the project file is to stand, and give the project a title."));
+    m_note->setText(exists ? tr("This file exists already and would be replaced.")
+                           : tr("A project has a file of its own and a title."));
 }
 
 void PrjMngrNewWidget::requestAdd()

@@ -39,7 +39,7 @@ PrjMngrOpenWidget::PrjMngrOpenWidget(QWidget* parent)
     layout->setSpacing(8);
     layout->addWidget(title, 0, 0);
     layout->addWidget(m_file, 0, 1);
-    layout->addLayout(buttons, 1, 1);
+    layout->addLayout(buttons, 1, 0, 1, 2);
     setFocusProxy(m_file);
 
     connect(m_file, &MyFileSelectOpen::fileValid, this, &PrjMngrOpenWidget::setFileValid);

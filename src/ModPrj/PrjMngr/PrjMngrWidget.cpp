@@ -10,6 +10,7 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -38,12 +39,24 @@ PrjMngrWidget::PrjMngrWidget(QWidget* parent)
     m_tabs->setTabToolTip(0, tr("Make a new project"));
     m_tabs->setTabToolTip(1, tr("Open a project of the collection, or any other"));
 
+    // The page is there at each start and must not make the window larger than its user left it: it scrolls.
+    auto* area = new QScrollArea(this);
+    auto* content = new QWidget(area);
+    content->setObjectName(QStringLiteral("prjMngrContent"));
+    area->setFrameStyle(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
+
     auto* body = new QVBoxLayout;
     body->setContentsMargins(margin, margin, margin, margin);
-    body->setSpacing(margin);
-    body->addWidget(new MyPageTitle(tr("Project manager"), this));
+    body->setSpacing(gap);
+    body->addWidget(new MyPageTitle(tr("Project manager"), content));
     body->addWidget(m_tabs, 1);
-    auto* layout = new QVBoxLayout(this);
+    auto* layout = new QVBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addLayout(body, 1);
@@ -72,15 +85,26 @@ QWidget* PrjMngrWidget::makeButtons()
     save->setToolTip(tr("Keeps the collection as it is listed and closes this page"));
     auto* cancel = new MyButtonCancel(frame);
     cancel->setToolTip(tr("Closes this page; the collection stays as it was"));
+    m_buttons = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_buttons->setSpacing(gap);
+    m_buttons->addWidget(save);
+    m_buttons->addWidget(cancel);
     auto* layout = new QHBoxLayout(frame);
     layout->setContentsMargins(margin, gap, margin, gap);
-    layout->setSpacing(gap);
     layout->addStretch(1);
-    layout->addWidget(save);
-    layout->addWidget(cancel);
+    layout->addLayout(m_buttons);
     connect(save, &QPushButton::clicked, this, &PrjMngrWidget::saveAndCloseRequested);
     connect(cancel, &QPushButton::clicked, this, &PrjMngrWidget::cancelRequested);
     return frame;
+}
+
+void PrjMngrWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    int needed = 2 * margin + gap;
+    for (int i = 0; i < m_buttons->count(); ++i)
+        needed += m_buttons->itemAt(i)->sizeHint().width();
+    m_buttons->setDirection(needed <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 void PrjMngrWidget::setCurrentTab(int index)

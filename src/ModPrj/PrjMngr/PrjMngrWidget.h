@@ -2,6 +2,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QTabWidget;
 
 namespace nsModPrj {
@@ -31,6 +32,9 @@ signals:
     void saveAndCloseRequested();
     void cancelRequested();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QWidget* makeOpenTab();
     QWidget* makeButtons();
@@ -39,6 +43,7 @@ private:
     PrjMngrNewWidget* m_new;
     PrjMngrOpenWidget* m_open;
     PrjMngrListWidget* m_list;
+    QBoxLayout* m_buttons = nullptr; ///< beside each other, or in a narrow page one below the other
 };
 
 } // namespace nsModPrj
