@@ -107,11 +107,7 @@ void SourcesListWidget::dragMoveEvent(QDragMoveEvent* event)
 void SourcesListWidget::dropEvent(QDropEvent* event)
 {
     if (event->source() == this) {
-        const QModelIndex index = indexAt(event->pos());
-        int target = index.isValid() ? index.row() : count();
-        if (index.isValid() && event->pos().y() > visualRect(index).center().y())
-            ++target;
-        moveRowsTo(target);
+        moveRowsTo(rowForDrop(event->pos()));
         // Said to be a copy, lest the view takes the rows away that it has dragged.
         event->setDropAction(Qt::CopyAction);
         event->accept();
@@ -124,6 +120,14 @@ void SourcesListWidget::dropEvent(QDropEvent* event)
     }
     event->acceptProposedAction();
     emit filesDropped(paths);
+}
+
+int SourcesListWidget::rowForDrop(const QPoint& place) const
+{
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid())
+        return count();
+    return place.y() > visualRect(index).center().y() ? index.row() + 1 : index.row();
 }
 
 void SourcesListWidget::moveRowsTo(int target)

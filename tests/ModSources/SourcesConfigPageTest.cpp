@@ -415,6 +415,17 @@ TEST_F(SourcesPageTest, rowsAreDraggedToAnotherPlace)
     EXPECT_EQ(shown(), QStringList({"main.psm", "uart.psm", "lib/tick.psm", "lib/math.psm"})) << "within itself";
 }
 
+TEST_F(SourcesPageTest, aDropGoesToTheNearerSideOfARow)
+{
+    openPrj({"main.psm", "uart.psm", "lib/tick.psm"});
+    openPage();
+    const QRect second = list()->visualItemRect(list()->item(1));
+    EXPECT_EQ(list()->rowForDrop(second.topLeft() + QPoint(20, 1)), 1);
+    EXPECT_EQ(list()->rowForDrop(second.bottomLeft() + QPoint(20, -1)), 2);
+    const QRect last = list()->visualItemRect(list()->item(2));
+    EXPECT_EQ(list()->rowForDrop(last.bottomLeft() + QPoint(20, 30)), 3) << "below the last row";
+}
+
 TEST_F(SourcesPageTest, anEmptyListSaysWhatToDo)
 {
     openPrj({});
