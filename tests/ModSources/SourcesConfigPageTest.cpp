@@ -431,14 +431,9 @@ TEST_F(SourcesPageTest, anEmptyListSaysWhatToDo)
     openPrj({});
     openPage();
     const QImage empty = list()->grab().toImage();
-    drop(list()->viewport(), {path("main.psm")});
-    list()->clearSelection();
-    clickRow(0);
-    QTest::keyClick(list(), Qt::Key_Delete);
-    EXPECT_EQ(list()->count(), 0);
     int inked = 0;
     const QRgb ground = empty.pixel(empty.width() / 2, 10);
-    for (int y = 0; y < empty.height(); ++y) {
+    for (int y = 10; y < empty.height() - 10; ++y) {
         for (int x = 20; x < empty.width() - 20; ++x)
             inked += empty.pixel(x, y) != ground;
     }
