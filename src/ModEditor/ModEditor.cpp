@@ -1,5 +1,6 @@
 #include "ModEditor.h"
 
+#include "EditorConfigPage.h"
 #include "EditorMemPageAddrMap.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
@@ -34,6 +35,7 @@ ModEditor::~ModEditor()
         delete m_statusBar;
     delete m_tipManager;
     delete m_memPageAddrMap;
+    delete m_configPage;
 }
 
 EditorStatusBar* ModEditor::statusBar() const
@@ -248,6 +250,31 @@ QList<QAction*> ModEditor::toolBarActions(ModActionHookIf::eActionClass_t action
     default:
         return {};
     }
+}
+
+nsModConfig::ModConfigPagePluginIf* ModEditor::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = new EditorConfigPage;
+    return m_configPage;
+}
+
+void ModEditor::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr)
+        m_configPage->setConfig(this);
+}
+
+void ModEditor::configPageClose(bool accepted)
+{
+    if (m_configPage != nullptr && accepted) {
+        m_configPage->config(this);
+        configureEditorWidgets();
+        // The dialog saves what stands in the settings now.
+        if (modCfgAppHook != nullptr)
+            wrAppCfg();
+    }
+    delete m_configPage;
 }
 
 void ModEditor::setTabIndent(int indent)

@@ -28,6 +28,7 @@ class QStringListModel;
 
 namespace nsModEditor {
 
+class EditorConfigPage;
 class EditorMemPageAddrMap;
 class EditorStatusBar;
 class EditorSupportMenu;
@@ -127,6 +128,11 @@ public:
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
     QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
 
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
+
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
     void srcFileContentChanged() override {}
@@ -224,6 +230,7 @@ private:
     EditorSupportMenu* m_supportMenu = nullptr;
     QStringListModel* m_textCompletionList;
     QPointer<EditorStatusBar> m_statusBar;
+    QPointer<EditorConfigPage> m_configPage; ///< null while the settings dialog is closed
     EditorActionsFile* m_actionsFile = nullptr;
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;

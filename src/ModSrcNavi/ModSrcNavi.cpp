@@ -1,6 +1,7 @@
 #include "ModSrcNavi.h"
 
 #include "NaviWidget.h"
+#include "SrcNaviConfigPage.h"
 
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
@@ -17,6 +18,7 @@ ModSrcNavi::ModSrcNavi(QObject* parent)
 
 ModSrcNavi::~ModSrcNavi()
 {
+    delete m_configPage;
     if (m_naviWidget == nullptr)
         return;
     // In the window the panel stays behind, and the window deletes it; the tags go now.
@@ -144,6 +146,37 @@ void ModSrcNavi::wrAppCfg()
     if (modCfgAppHook != nullptr)
         wrSrcNaviConfig(modCfgAppHook);
 }
+
+// --- settings dialog ---
+
+nsModConfig::ModConfigPagePluginIf* ModSrcNavi::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = new SrcNaviConfigPage;
+    return m_configPage;
+}
+
+void ModSrcNavi::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr)
+        m_configPage->setConfig(this);
+}
+
+void ModSrcNavi::configPageClose(bool accepted)
+{
+    if (m_configPage != nullptr && accepted) {
+        m_configPage->config(this);
+        configureNaviWidget();
+        if (m_naviWidget != nullptr)
+            m_naviWidget->showSortMode(static_cast<eTagListSortMode_t>(tagListSortMode));
+        showTagList();
+        // The dialog saves what stands in the settings now.
+        wrAppCfg();
+    }
+    delete m_configPage;
+}
+
+// --- project ---
 
 void ModSrcNavi::prjOpen()
 {

@@ -21,6 +21,7 @@
 namespace nsModSrcNavi {
 
 class NaviWidget;
+class SrcNaviConfigPage;
 
 /// The source navigator: a table of contents of the sources, as the assembler read them in its last run.
 class ModSrcNavi : public QObject,
@@ -71,6 +72,11 @@ public:
     void removeWidgetRequest(QWidget*) override {}
     void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
 
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
+
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
     void srcFileContentChanged() override {}
@@ -88,6 +94,7 @@ private:
     PluginList<ModSrcNaviPluginIf> m_plugins;
     NaviTagList m_tagList;
     QPointer<NaviWidget> m_naviWidget; ///< the window may take it along when it goes
+    QPointer<SrcNaviConfigPage> m_configPage; ///< null while the settings dialog is closed
 };
 
 } // namespace nsModSrcNavi

@@ -158,6 +158,12 @@ void NaviWidget::setSortMode(SrcNaviConfig::eTagListSortMode_t mode)
         m_sortBox->setCurrentIndex(index);
 }
 
+void NaviWidget::showSortMode(SrcNaviConfig::eTagListSortMode_t mode)
+{
+    const QSignalBlocker blocker(m_sortBox);
+    m_sortBox->setCurrentIndex(qMax(m_sortBox->findData(int(mode)), 0));
+}
+
 SrcNaviConfig::eTagListSortMode_t NaviWidget::sortMode() const
 {
     return static_cast<SrcNaviConfig::eTagListSortMode_t>(m_sortBox->currentData().toInt());

@@ -31,6 +31,8 @@ public:
     /// Shows the order in the combo box and tells the change. The order of the document, with which the box starts, is never
     /// set here; a value that does not exist changes nothing either.
     void setSortMode(SrcNaviConfig::eTagListSortMode_t mode);
+    /// Shows any order in the combo box, without telling.
+    void showSortMode(SrcNaviConfig::eTagListSortMode_t mode);
     SrcNaviConfig::eTagListSortMode_t sortMode() const;
     /// Takes colours, formats and the order (as setSortMode() does, but without a signal).
     void setConfig(SrcNaviConfig* config);

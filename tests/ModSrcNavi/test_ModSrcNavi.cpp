@@ -256,7 +256,8 @@ TEST(ModuleAlone, doesWithoutAnyOther)
     EXPECT_EQ(QApplication::topLevelWidgets().size(), 1);
     for (QWidget* widget : QApplication::topLevelWidgets())
         EXPECT_FALSE(widget->isVisible());
-    EXPECT_EQ(navi.configPage(0), nullptr);
+    EXPECT_NE(navi.configPage(0), nullptr);
+    navi.configPageClose(true);
 }
 
 TEST(ModuleAlone, aJumpWithoutAnEditorDoesNothing)

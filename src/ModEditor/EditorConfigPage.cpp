@@ -1,0 +1,245 @@
+#include "EditorConfigPage.h"
+
+#include "MyColorSelector.h"
+#include "MyFontTable.h"
+#include "MyPageLayout.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QSpinBox>
+
+#include <algorithm>
+
+namespace nsModEditor {
+
+namespace {
+
+const int maxTabIndent = 64; ///< characters
+const int maxPrefixLength = 20;
+const int maxItemCount = 100;
+
+/// Indexed by eFontContext_t.
+QStringList fontContextNames()
+{
+    const auto tr = [](const char* text) { return EditorConfigPage::tr(text); };
+    return {tr("Instruction"),   tr("Directive"),     tr("Hardware"),  tr("Hexadecimal"), tr("Decimal number"),
+            tr("Octal number"),  tr("Binary number"), tr("Comment"),   tr("Separator"),   tr("Label"),
+            tr("Documentation"), tr("Navi command"),  tr("Attribute"), tr("String"),      tr("Key words")};
+}
+
+} // namespace
+
+EditorConfigPage::EditorConfigPage(QWidget* parent)
+    : QWidget(parent)
+{
+    setObjectName(QStringLiteral("configPage"));
+    auto* layout = new MyPageLayout(this, tr("Editor configuration"));
+    addFormating(layout);
+    addTextCompletion(layout);
+    addHighlighting(layout);
+    addLeftMargin(layout);
+    addFonts(layout);
+    setDefaultConfig();
+}
+
+void EditorConfigPage::addFormating(MyPageLayout* layout)
+{
+    layout->addSection(tr("Formating"));
+    m_tabIndent = addNumber(layout, "tabIndent", tr("Tab indent:"), tr("Width of a tab; an open project has its own"),
+                            tr(" characters"), maxTabIndent);
+    m_dynamicLineWrapEn = addCheck(layout, "dynamicLineWrapEn", tr("Dynamic word wrap:"),
+                                   tr("Lines longer than the window go on in the next row"));
+    m_autoReturnIndentEn = addCheck(layout, "autoReturnIndentEn", tr("Auto return indent:"),
+                                    tr("A new line starts below the start of the one before"));
+}
+
+void EditorConfigPage::addTextCompletion(MyPageLayout* layout)
+{
+    layout->addSection(tr("Text completion"));
+    m_textCompletionEn =
+        addCheck(layout, "textCompletionEn", tr("Text completion enable:"), tr("Words are proposed while you type"));
+    m_textCompleterPrefixLength = addNumber(layout, "textCompleterPrefixLength", tr("Text completion prefix length:"),
+                                            tr("Number of typed characters from which on words are proposed"),
+                                            tr(" characters"), maxPrefixLength);
+    m_textCompleterItemCount = addNumber(layout, "textCompleterItemCount", tr("Completion list proposal count:"),
+                                         tr("Number of proposals that are seen at once"), QString(), maxItemCount);
+}
+
+void EditorConfigPage::addHighlighting(MyPageLayout* layout)
+{
+    layout->addSection(tr("Highlighting"));
+    m_highlightSelectionEn = addCheck(layout, "highlightSelectionEn", tr("Highlght selection enable:"),
+                                      tr("All places of the selected word are marked"));
+    m_cursorBgColor = addColor(layout, "cursorBgColor", tr("Cursor line background color:"));
+    m_highlightBgColor = addColor(layout, "highlightBgColor", tr("Line highlighting background color:"));
+}
+
+void EditorConfigPage::addLeftMargin(MyPageLayout* layout)
+{
+    layout->addSection(tr("Left margin"));
+    m_lineNumberEn =
+        addCheck(layout, "lineNumberEn", tr("Line numbers enable:"), tr("The margin shows the numbers of the lines"));
+    m_memPageAddrEn = new QComboBox(this);
+    m_memPageAddrEn->setObjectName(QStringLiteral("memPageAddrEn"));
+    m_memPageAddrEn->addItem(tr("Disable"), EditorConfig::memPageAddrOff);
+    m_memPageAddrEn->addItem(tr("Enable"), EditorConfig::memPageAddrOn);
+    m_memPageAddrEn->addItem(tr("Enable during simulation only"), EditorConfig::memPageAddrSimOnly);
+    layout->addField(tr("Memory page addresses:"), m_memPageAddrEn,
+                     tr("The margin shows the address of each instruction"));
+    m_leftMarginBgColor = addColor(layout, "leftMarginBgColor", tr("Left margin background color:"));
+    m_leftMarginFgColor = addColor(layout, "leftMarginFgColor", tr("Left margin text color:"));
+    m_simBreakpointSymbolColor = addColor(layout, "simBreakpointSymbolColor", tr("Simulator breakpoint symbol color:"));
+    m_simStartAddressSymbolColor =
+        addColor(layout, "simStartAddressSymbolColor", tr("Simulator start address symbol color:"));
+    m_bookmarkSymbolColor = addColor(layout, "bookmarkSymbolColor", tr("Bookmark symbol color:"));
+}
+
+void EditorConfigPage::addFonts(MyPageLayout* layout)
+{
+    layout->addSection(tr("Fonts"));
+    m_fontFamily = new QFontComboBox(this);
+    m_fontFamily->setObjectName(QStringLiteral("fontFamily"));
+    m_fontFamily->setEditable(false);
+    m_fontFamily->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    layout->addField(tr("Font:"), m_fontFamily, tr("Font of all text; one of fixed width keeps columns aligned"));
+    m_fontSize = new QComboBox(this);
+    m_fontSize->setObjectName(QStringLiteral("fontSize"));
+    m_fontSize->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    layout->addField(tr("Font size:"), m_fontSize, tr("Size of all text in points"));
+    m_fontTable = new MyFontTable(this);
+    m_fontTable->setContexts(fontContextNames());
+    layout->addWide(m_fontTable);
+    connect(m_fontFamily, &QFontComboBox::currentFontChanged, this, &EditorConfigPage::hndlFontFamilySel);
+    connect(m_fontSize, &QComboBox::currentTextChanged, this, &EditorConfigPage::hndlFontSizeSel);
+}
+
+QCheckBox* EditorConfigPage::addCheck(MyPageLayout* layout, const char* name, const QString& title,
+                                      const QString& toolTip)
+{
+    auto* box = new QCheckBox(this);
+    box->setObjectName(QLatin1String(name));
+    box->setAccessibleName(title);
+    layout->addField(title, box, toolTip);
+    return box;
+}
+
+QSpinBox* EditorConfigPage::addNumber(MyPageLayout* layout, const char* name, const QString& title,
+                                      const QString& toolTip, const QString& unit, int max)
+{
+    auto* box = new QSpinBox(this);
+    box->setObjectName(QLatin1String(name));
+    box->setRange(1, max);
+    box->setSuffix(unit);
+    box->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    layout->addField(title, box, toolTip);
+    return box;
+}
+
+MyColorSelector* EditorConfigPage::addColor(MyPageLayout* layout, const char* name, const QString& title)
+{
+    auto* selector = new MyColorSelector(this);
+    // The style sheet knows colour fields by their own name.
+    selector->setProperty("setting", QLatin1String(name));
+    selector->setAccessibleName(title);
+    layout->addField(title, selector);
+    return selector;
+}
+
+void EditorConfigPage::setConfig(const EditorConfig* config)
+{
+    m_tabIndent->setValue(config->tabIndent);
+    m_dynamicLineWrapEn->setChecked(config->dynamicLineWrapEn);
+    m_autoReturnIndentEn->setChecked(config->autoReturnIndentEn);
+    m_textCompletionEn->setChecked(config->textCompletionEn);
+    m_textCompleterPrefixLength->setValue(config->textCompleterPrefixLength);
+    m_textCompleterItemCount->setValue(config->textCompleterItemCount);
+    m_highlightSelectionEn->setChecked(config->highlightSelectionEn);
+    m_cursorBgColor->setColor(config->cursorBgColor);
+    m_highlightBgColor->setColor(config->highlightBgColor);
+    m_lineNumberEn->setChecked(config->lineNumberEn);
+    m_memPageAddrEn->setCurrentIndex(m_memPageAddrEn->findData(config->memPageAddrEn));
+    m_leftMarginBgColor->setColor(config->leftMarginBgColor);
+    m_leftMarginFgColor->setColor(config->leftMarginFgColor);
+    m_simBreakpointSymbolColor->setColor(config->simBreakpointSymbolColor);
+    m_simStartAddressSymbolColor->setColor(config->simStartAddressSymbolColor);
+    m_bookmarkSymbolColor->setColor(config->bookmarkSymbolColor);
+
+    // A family that is missing here shows as the one in its place, but stays in the settings.
+    m_stdFont = config->stdFont;
+    const QSignalBlocker familyBlocker(m_fontFamily);
+    const QSignalBlocker sizeBlocker(m_fontSize);
+    m_fontFamily->setCurrentFont(QFontInfo(m_stdFont).family());
+    QList<int> sizes = QFontDatabase::standardSizes();
+    sizes.append(QFontInfo(m_stdFont).pointSize());
+    std::sort(sizes.begin(), sizes.end());
+    sizes.erase(std::unique(sizes.begin(), sizes.end()), sizes.end());
+    m_fontSize->clear();
+    for (int size : qAsConst(sizes))
+        m_fontSize->addItem(QString::number(size));
+    m_fontSize->setCurrentText(QString::number(QFontInfo(m_stdFont).pointSize()));
+    m_fontTable->setSampleFamily(m_stdFont.family());
+    for (int i = 0; i < EditorConfig::fontContextCount; ++i)
+        m_fontTable->setFormat(i, config->fontFormats[i]);
+}
+
+void EditorConfigPage::config(EditorConfig* config) const
+{
+    config->tabIndent = m_tabIndent->value();
+    config->dynamicLineWrapEn = m_dynamicLineWrapEn->isChecked();
+    config->autoReturnIndentEn = m_autoReturnIndentEn->isChecked();
+    config->textCompletionEn = m_textCompletionEn->isChecked();
+    config->textCompleterPrefixLength = m_textCompleterPrefixLength->value();
+    config->textCompleterItemCount = m_textCompleterItemCount->value();
+    config->highlightSelectionEn = m_highlightSelectionEn->isChecked();
+    config->cursorBgColor = m_cursorBgColor->color();
+    config->highlightBgColor = m_highlightBgColor->color();
+    config->lineNumberEn = m_lineNumberEn->isChecked();
+    if (m_memPageAddrEn->currentIndex() >= 0)
+        config->memPageAddrEn = m_memPageAddrEn->currentData().toInt();
+    config->leftMarginBgColor = m_leftMarginBgColor->color();
+    config->leftMarginFgColor = m_leftMarginFgColor->color();
+    config->simBreakpointSymbolColor = m_simBreakpointSymbolColor->color();
+    config->simStartAddressSymbolColor = m_simStartAddressSymbolColor->color();
+    config->bookmarkSymbolColor = m_bookmarkSymbolColor->color();
+    config->stdFont = m_stdFont;
+    for (int i = 0; i < EditorConfig::fontContextCount; ++i)
+        config->fontFormats[i] = m_fontTable->format(i);
+}
+
+void EditorConfigPage::setDefaultConfig()
+{
+    const EditorConfig defaults;
+    setConfig(&defaults);
+}
+
+QIcon EditorConfigPage::pageIcon()
+{
+    return QIcon(QStringLiteral(":/ModEditor/img/configPage/configPageEditor.png"));
+}
+
+QString EditorConfigPage::pageTitle()
+{
+    return tr("Editor");
+}
+
+QString EditorConfigPage::pageHelpRef()
+{
+    return QStringLiteral("pageId://configPageEditor");
+}
+
+void EditorConfigPage::hndlFontFamilySel(const QFont& font)
+{
+    m_stdFont.setFamily(font.family());
+    m_fontTable->setSampleFamily(font.family());
+}
+
+void EditorConfigPage::hndlFontSizeSel(const QString& size)
+{
+    if (size.toInt() > 0)
+        m_stdFont.setPointSize(size.toInt());
+}
+
+} // namespace nsModEditor
