@@ -14,6 +14,7 @@ namespace {
 
 const QColor emptyTextColor(0x52, 0x60, 0x6d);
 const int emptyTextMargin = 16;
+const int hintLines = 6; ///< height that the list asks for; it takes what there is
 
 QStringList localFiles(const QMimeData* data)
 {
@@ -43,6 +44,11 @@ void SourcesListWidget::setEmptyText(const QString& text)
 {
     m_emptyText = text;
     viewport()->update();
+}
+
+QSize SourcesListWidget::sizeHint() const
+{
+    return {QListWidget::sizeHint().width(), hintLines * fontMetrics().height()};
 }
 
 QList<int> SourcesListWidget::selectedRows() const
@@ -79,10 +85,11 @@ void SourcesListWidget::keyPressEvent(QKeyEvent* event)
 void SourcesListWidget::paintEvent(QPaintEvent* event)
 {
     QListWidget::paintEvent(event);
-    if (count() > 0 || m_emptyText.isEmpty())
+    // Without a project there is nothing that files could be added to.
+    if (count() > 0 || !isEnabled())
         return;
     QPainter painter(viewport());
-    painter.setPen(isEnabled() ? emptyTextColor : palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(emptyTextColor);
     const QRect place =
         viewport()->rect().adjusted(emptyTextMargin, emptyTextMargin, -emptyTextMargin, -emptyTextMargin);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);

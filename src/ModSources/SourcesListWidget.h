@@ -15,6 +15,8 @@ public:
     /// What an empty list shows.
     void setEmptyText(const QString& text);
 
+    QSize sizeHint() const override;
+
     /// Rows of the selection, ascending.
     QList<int> selectedRows() const;
 

@@ -438,6 +438,12 @@ TEST_F(SourcesPageTest, anEmptyListSaysWhatToDo)
             inked += empty.pixel(x, y) != ground;
     }
     EXPECT_GT(inked, 200) << "a text of some length";
+    page->setPrjConfigEnabled(false);
+    const QImage disabled = list()->viewport()->grab().toImage();
+    QImage plain(disabled.size(), disabled.format());
+    plain.fill(disabled.pixel(disabled.rect().center()));
+    plain.setDevicePixelRatio(disabled.devicePixelRatio());
+    EXPECT_EQ(disabled, plain) << "and nothing where there is no project";
 }
 
 TEST_F(SourcesPageTest, withoutAProjectItIsDisabledAndSaysWhy)
