@@ -448,8 +448,7 @@ void ModPrj::setWindowTitle()
 
 void ModPrj::updateCloseAction()
 {
-    // Below the settings dialog the whole group is disabled, also when a script opens another project.
-    if (m_actions != nullptr && !m_page)
+    if (m_actions != nullptr)
         m_actions->setEnabled(PrjActions::eActionClose, isValid());
 }
 

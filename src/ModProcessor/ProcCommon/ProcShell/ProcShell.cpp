@@ -7,6 +7,8 @@
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 
+#include <QApplication>
+
 namespace nsProc {
 
 ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent) : QObject(parent), m_config(config) {}
@@ -19,7 +21,8 @@ void ProcShell::modInit()
         m_asmBe = createAsmBe();
         m_asmBe->setParent(this);
     }
-    if (m_actions == nullptr) {
+    // A batch program has no use for actions, and could not make them.
+    if (m_actions == nullptr && qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
         m_actions = createActionsSim();
         m_actions->setParent(this);
         m_actions->setEnabled(false);

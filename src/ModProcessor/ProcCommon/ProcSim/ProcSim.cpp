@@ -85,6 +85,8 @@ void ProcSim::createWidgets()
     m_widgets->io = new ProcSimIO(m_ports);
     m_widgets->statusBar = new ProcSimStatusBar(m_clock, m_config.clkFreq);
     m_widgets->lastBottom = m_widgets->callStack.data();
+    // The waves must see that time goes back before it has passed its old place again.
+    connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);
     connect(m_widgets->io, &ProcSimIO::wavesRequested, this, &ProcSim::showWaveViewer);
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockLeft, m_widgets->core, tr("Processor core"));
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_widgets->io, tr("Processor ports"));

@@ -96,6 +96,7 @@ void ProcSimStatusBar::clear()
 {
     m_clock->clocks = 0;
     updateValues();
+    emit cleared();
 }
 
 void ProcSimStatusBar::setBase(const QString& base)

@@ -32,6 +32,10 @@ public slots:
     /// Sets the count to 0.
     void clear();
 
+signals:
+    /// The count has been set to 0: time starts anew.
+    void cleared();
+
 private:
     QLabel* addValue(const QString& name, int width);
 

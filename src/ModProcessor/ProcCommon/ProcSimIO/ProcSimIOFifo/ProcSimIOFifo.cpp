@@ -1,6 +1,6 @@
 #include "ProcSimIOFifo.h"
 
-#include "ProcSimIODeviceView.h"
+#include "ProcSimIOFifoView.h"
 
 #include <QStringList>
 
@@ -13,7 +13,7 @@ ProcSimIOFifo::ProcSimIOFifo(int initValue)
 
 ProcSimIODeviceView* ProcSimIOFifo::createView()
 {
-    return new ProcSimIODeviceView(this);
+    return new ProcSimIOFifoView(this);
 }
 
 void ProcSimIOFifo::setBase(int base)

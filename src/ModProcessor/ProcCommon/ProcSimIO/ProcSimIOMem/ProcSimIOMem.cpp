@@ -1,6 +1,6 @@
 #include "ProcSimIOMem.h"
 
-#include "ProcSimIODeviceView.h"
+#include "ProcSimIOMemView.h"
 
 #include <limits>
 
@@ -14,7 +14,7 @@ ProcSimIOMem::ProcSimIOMem(int initValue)
 
 ProcSimIODeviceView* ProcSimIOMem::createView()
 {
-    return new ProcSimIODeviceView(this);
+    return new ProcSimIOMemView(this);
 }
 
 bool ProcSimIOMem::chkAddr(int addr)

@@ -1,12 +1,12 @@
 #include "ProcSimIOReg8Bit.h"
 
-#include "ProcSimIODeviceView.h"
+#include "ProcSimIORegView.h"
 
 namespace nsProc {
 
 ProcSimIODeviceView* ProcSimIOReg8Bit::createView()
 {
-    return new ProcSimIODeviceView(this);
+    return new ProcSimIORegView(this);
 }
 
 void ProcSimIOReg8Bit::initValue(unsigned int* values, int count)

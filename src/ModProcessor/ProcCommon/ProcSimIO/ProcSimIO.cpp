@@ -1,0 +1,238 @@
+#include "ProcSimIO.h"
+
+#include "ProcSimIODeviceView.h"
+
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QTimer>
+#include <QVBoxLayout>
+
+namespace nsProc {
+
+namespace {
+
+constexpr int minCardWidth = 230; ///< pixels; the empty dock is as wide as one with devices
+
+/// The cards and the hint. The fields in them look as everywhere.
+const char* const cardStyle = "QFrame#procSimIODevice { background-color: #ffffff; border: 1px solid #d5dae1; }"
+                              "QLabel#procSimIOTitle, QLabel#procSimIOAccess, QLabel#procSimIOHint { color: #52606d; }"
+                              "QLabel#procSimIOHint { padding: 8px; }";
+
+} // namespace
+
+ProcSimIO::ProcSimIO(QWidget* parent)
+    : ProcSimIO(std::make_shared<ProcSimPorts>(), parent)
+{
+}
+
+ProcSimIO::ProcSimIO(std::shared_ptr<ProcSimPorts> ports, QWidget* parent)
+    : QWidget(parent)
+    , m_ports(std::move(ports))
+{
+    setObjectName(QStringLiteral("procSimIO"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(8, 8, 8, 8);
+    layout->setSpacing(8);
+    addTools(layout);
+    addColumn(layout);
+    m_ports->setListener(this);
+    for (ProcSimIOPluginIf* device : m_ports->devices())
+        deviceAdded(device);
+    updateColumn();
+}
+
+ProcSimIO::~ProcSimIO()
+{
+    m_ports->setListener(nullptr);
+}
+
+void ProcSimIO::addTools(QVBoxLayout* layout)
+{
+    m_type = new QComboBox(this);
+    m_type->setObjectName(QStringLiteral("procSimIODevType"));
+    m_type->setToolTip(tr("Kind of device to add"));
+    m_type->addItem(tr("Fifo"), ProcSimPorts::eDevFifo);
+    m_type->addItem(tr("Register"), ProcSimPorts::eDevReg);
+    m_type->addItem(tr("Memory block"), ProcSimPorts::eDevMem);
+    m_type->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+
+    const auto addButton = [this](const QString& text, const QString& toolTip, const char* name) {
+        auto* button = new QPushButton(text, this);
+        button->setToolTip(toolTip);
+        button->setObjectName(QLatin1String(name));
+        return button;
+    };
+    QPushButton* add = addButton(tr("Add"), tr("Add a device of this kind"), "procSimIOAdd");
+    QPushButton* removeAll = addButton(tr("Remove all"), tr("Remove all devices"), "procSimIORemoveAll");
+    QPushButton* waves = addButton(tr("Waves"), tr("Show the values of ports against time"), "procSimIOWaves");
+    m_removeAll = removeAll;
+    connect(add, &QPushButton::clicked, this, &ProcSimIO::addIOPluginFromMenu);
+    connect(removeAll, &QPushButton::clicked, this, &ProcSimIO::removeIOPlugins);
+    connect(waves, &QPushButton::clicked, this, &ProcSimIO::wavesRequested);
+
+    auto* addLine = new QHBoxLayout;
+    addLine->setSpacing(8);
+    addLine->addWidget(m_type, 1);
+    addLine->addWidget(add);
+    auto* line = new QHBoxLayout;
+    line->setSpacing(8);
+    line->addWidget(removeAll);
+    line->addStretch(1);
+    line->addWidget(waves);
+    layout->addLayout(addLine);
+    layout->addLayout(line);
+}
+
+void ProcSimIO::addColumn(QVBoxLayout* layout)
+{
+    m_hint =
+        new QLabel(tr("No devices yet. A port that the program reads or writes appears here by itself: a register to "
+                      "type the value into that is read, a list that collects the values that are written."),
+                   this);
+    m_hint->setObjectName(QStringLiteral("procSimIOHint"));
+    m_hint->setToolTip(tr("Devices can also be added by hand, before the program needs them"));
+    m_hint->setWordWrap(true);
+    m_hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    m_hint->setMinimumWidth(180);
+
+    m_scroll = new QScrollArea(this);
+    m_scroll->setObjectName(QStringLiteral("procSimIOScroll"));
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
+    m_column = new QWidget;
+    m_column->setObjectName(QStringLiteral("procSimIOColumn"));
+    m_column->setStyleSheet(QLatin1String(cardStyle));
+    m_columnLayout = new QVBoxLayout(m_column);
+    m_columnLayout->setContentsMargins(0, 0, 0, 0);
+    m_columnLayout->setSpacing(8);
+    m_column->installEventFilter(this);
+    m_columnLayout->addWidget(m_hint);
+    m_columnLayout->addStretch(1);
+    m_scroll->setWidget(m_column);
+    layout->addWidget(m_scroll, 1);
+}
+
+void ProcSimIO::deviceAdded(ProcSimIOPluginIf* device)
+{
+    auto* view = qobject_cast<ProcSimIODeviceView*>(device->ioDevWidget());
+    if (view == nullptr)
+        return;
+    m_views.append(view);
+    m_columnLayout->insertWidget(m_columnLayout->count() - 1, view);
+    view->show();
+    updateColumn();
+}
+
+void ProcSimIO::deviceRemoved(ProcSimIOPluginIf* device)
+{
+    auto* view = qobject_cast<ProcSimIODeviceView*>(device->ioDevWidget());
+    m_views.removeAll(view);
+    if (view != nullptr)
+        m_columnLayout->removeWidget(view);
+    updateColumn();
+}
+
+void ProcSimIO::updateColumn()
+{
+    m_hint->setVisible(m_views.isEmpty());
+    m_removeAll->setEnabled(!m_views.isEmpty());
+    // Wide enough for the widest card beside the scroll bar: the column never scrolls sideways.
+    const int cardWidth = qMax(minCardWidth, m_column->minimumSizeHint().width());
+    m_scroll->setMinimumWidth(cardWidth + m_scroll->verticalScrollBar()->sizeHint().width());
+}
+
+bool ProcSimIO::eventFilter(QObject* watched, QEvent* event)
+{
+    const bool result = QWidget::eventFilter(watched, event);
+    if (watched == m_column && event->type() == QEvent::LayoutRequest)
+        updateColumn();
+    return result;
+}
+
+void ProcSimIO::refresh()
+{
+    for (const QPointer<ProcSimIODeviceView>& view : qAsConst(m_views)) {
+        if (view != nullptr)
+            view->refresh();
+    }
+    if (m_ports->takeContentChanged())
+        emit contentChanged(this);
+}
+
+ProcSimIOPluginIf* ProcSimIO::addIOPlugin(eDevType_t type, eDirection_t direction, int initValue)
+{
+    return m_ports->addIOPlugin(type, direction, initValue);
+}
+
+void ProcSimIO::addIOPluginFromMenu()
+{
+    addIOPlugin(static_cast<eDevType_t>(m_type->currentData().toInt()), ProcSimIOPluginIf::eDirectionRdWr, 0);
+    showNew();
+}
+
+void ProcSimIO::showNew()
+{
+    if (m_views.isEmpty())
+        return;
+    // The column has its new height when the layout has run.
+    m_column->layout()->activate();
+    QTimer::singleShot(0, m_views.last(), [this, view = m_views.last()] { m_scroll->ensureWidgetVisible(view, 0, 8); });
+}
+
+void ProcSimIO::removeIOPlugin(ProcSimIOPluginIf* plugin)
+{
+    m_ports->removeIOPlugin(plugin);
+}
+
+void ProcSimIO::removeIOPlugins()
+{
+    m_ports->removeIOPlugins();
+}
+
+bool ProcSimIO::chkIOPluginToRd(int addr, const QString& name)
+{
+    const bool found = m_ports->chkIOPluginToRd(addr, name);
+    refresh();
+    return found;
+}
+
+bool ProcSimIO::value(int addr, const QString& name, int* value)
+{
+    const bool ok = m_ports->value(addr, name, value);
+    refresh();
+    return ok;
+}
+
+bool ProcSimIO::setValue(int addr, const QString& name, int value)
+{
+    const bool ok = m_ports->setValue(addr, name, value);
+    refresh();
+    return ok;
+}
+
+void ProcSimIO::clear()
+{
+    m_ports->clear();
+    refresh();
+}
+
+void ProcSimIO::clearHighlighted()
+{
+    m_ports->clearHighlighted();
+    refresh();
+}
+
+void ProcSimIO::setBase(int base)
+{
+    m_ports->setBase(base);
+    refresh();
+}
+
+} // namespace nsProc

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "ProcSimPorts.h"
+
+#include <QPointer>
+#include <QVector>
+#include <QWidget>
+
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace nsProc {
+
+class ProcSimIODeviceView;
+
+/// The dock "Processor ports": the devices that stand at the ports of a simulated processor, as a column of cards.
+class ProcSimIO : public QWidget, public ProcSimPortsListener
+{
+    Q_OBJECT
+
+public:
+    using eDevType_t = ProcSimPorts::eDevType_t;
+    using eDirection_t = ProcSimPorts::eDirection_t;
+
+    explicit ProcSimIO(QWidget* parent = nullptr);
+    /// @param ports what is shown; shared with the simulator
+    explicit ProcSimIO(std::shared_ptr<ProcSimPorts> ports, QWidget* parent = nullptr);
+    ~ProcSimIO() override;
+
+    // As ProcSimPorts; what has changed is shown at once.
+    ProcSimIOPluginIf* addIOPlugin(eDevType_t type, eDirection_t direction, int initValue);
+    void removeIOPlugin(ProcSimIOPluginIf* plugin);
+    void removeIOPlugins();
+    bool chkIOPluginToRd(int addr, const QString& name);
+    bool value(int addr, const QString& name, int* value);
+    bool setValue(int addr, const QString& name, int value);
+    void clear();
+    void clearHighlighted();
+    void setBase(int base);
+
+    /// Adds the kind of device that the user has selected, for both directions.
+    void addIOPluginFromMenu();
+    /// Shows what has changed since the last call. Cheap when nothing has.
+    void refresh();
+
+    void deviceAdded(ProcSimIOPluginIf* device) override;
+    void deviceRemoved(ProcSimIOPluginIf* device) override;
+
+signals:
+    /// The program has written. @param widget this dock's widget
+    void contentChanged(QWidget* widget);
+    /// The user asks for the wave viewer.
+    void wavesRequested();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void addTools(QVBoxLayout* layout);
+    void addColumn(QVBoxLayout* layout);
+    void updateColumn();
+    void showNew();
+
+    std::shared_ptr<ProcSimPorts> m_ports;
+    QVector<QPointer<ProcSimIODeviceView>> m_views;
+    QComboBox* m_type = nullptr;
+    QWidget* m_removeAll = nullptr;
+    QScrollArea* m_scroll = nullptr;
+    QWidget* m_column = nullptr;
+    QVBoxLayout* m_columnLayout = nullptr;
+    QLabel* m_hint = nullptr;
+};
+
+} // namespace nsProc

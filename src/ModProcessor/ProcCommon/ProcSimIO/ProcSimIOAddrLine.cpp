@@ -1,0 +1,82 @@
+#include "ProcSimIOAddrLine.h"
+
+#include "ProcSimEdtNumeric.h"
+#include "ProcSimIODevice.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QResizeEvent>
+
+namespace nsProc {
+
+ProcSimIOAddrLine::ProcSimIOAddrLine(QWidget* parent)
+    : QWidget(parent)
+    , m_addr(new ProcSimEdtNumeric(this))
+    , m_nameLabel(new QLabel(this))
+{
+    setObjectName(QStringLiteral("procSimIOAddrLine"));
+    auto* title = new QLabel(tr("Addr:"), this);
+    title->setObjectName(QStringLiteral("procSimIOTitle"));
+    title->setBuddy(m_addr);
+    title->setToolTip(tr("Address"));
+    m_addr->setToolTip(tr("Address"));
+    m_addr->setRange(0, ProcSimIODevice::maxPortAddr);
+    m_nameLabel->setObjectName(QStringLiteral("procSimIOName"));
+    m_nameLabel->setToolTip(tr("Address substitute"));
+    // A long name is cut, it must not widen the dock.
+    m_nameLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_nameLabel->setTextFormat(Qt::PlainText);
+
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(8);
+    layout->addWidget(title);
+    layout->addWidget(m_addr);
+    layout->addWidget(m_nameLabel, 1);
+    setFocusProxy(m_addr);
+    connect(m_addr, &ProcSimEdtNumeric::edited, this, &ProcSimIOAddrLine::addrEdited);
+}
+
+void ProcSimIOAddrLine::setBase(int base)
+{
+    if (base != m_addr->base())
+        m_addr->setBase(base);
+}
+
+void ProcSimIOAddrLine::setAddr(int addr)
+{
+    if (addr > ProcSimIODevice::maxPortAddr)
+        m_addr->setRange(0, ProcSimIODevice::maxAddr);
+    m_addr->setValue(addr);
+}
+
+bool ProcSimIOAddrLine::addr(int* addr) const
+{
+    if (m_addr->text().isEmpty())
+        return false;
+    *addr = m_addr->value();
+    return true;
+}
+
+void ProcSimIOAddrLine::setName(const QString& name)
+{
+    if (name == m_name)
+        return;
+    m_name = name;
+    showName();
+}
+
+void ProcSimIOAddrLine::showName()
+{
+    m_nameLabel->setText(m_nameLabel->fontMetrics().elidedText(m_name, Qt::ElideMiddle, m_nameLabel->width()));
+    m_nameLabel->setAccessibleName(m_name);
+}
+
+void ProcSimIOAddrLine::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layout()->activate();
+    showName();
+}
+
+} // namespace nsProc

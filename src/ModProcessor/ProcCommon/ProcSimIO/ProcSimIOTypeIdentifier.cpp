@@ -1,0 +1,21 @@
+#include "ProcSimIOTypeIdentifier.h"
+
+#include <QPainter>
+
+namespace nsProc {
+
+ProcSimIOTypeIdentifier::ProcSimIOTypeIdentifier(const QColor& color, const QString& type, QWidget* parent)
+    : QWidget(parent)
+    , m_color(color)
+{
+    setObjectName(QStringLiteral("procSimIOType"));
+    setToolTip(type);
+    setFixedWidth(5);
+}
+
+void ProcSimIOTypeIdentifier::paintEvent(QPaintEvent*)
+{
+    QPainter(this).fillRect(rect(), m_color);
+}
+
+} // namespace nsProc
