@@ -2,14 +2,13 @@
 
 #include "PrjConfigPage.h"
 #include "PrjFile.h"
+#include "PrjMngrWidget.h"
 
 #include "ModActionHookIf.h"
 #include "ModGuiHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModScriptHookIf.h"
 
-#include <QApplication>
-#include <QFileDialog>
 #include <QFileInfo>
 
 namespace nsModPrj {
@@ -19,14 +18,6 @@ namespace {
 const QString keyTitle = QStringLiteral("PrjInfo/title");
 const QString keyVersion = QStringLiteral("PrjInfo/version");
 const QString keyComment = QStringLiteral("PrjInfo/comment");
-
-/// Are both names of the same file? Links count as what they lead to.
-bool isSameFile(const QString& a, const QString& b)
-{
-    const QFileInfo infoA(a);
-    const QFileInfo infoB(b);
-    return infoA.exists() && infoB.exists() && infoA.canonicalFilePath() == infoB.canonicalFilePath();
-}
 
 } // namespace
 
@@ -38,6 +29,7 @@ ModPrj::ModPrj(QObject* parent)
 ModPrj::~ModPrj()
 {
     delete m_page;
+    delete m_prjMngr;
 }
 
 // --- files ---
@@ -83,12 +75,19 @@ bool ModPrj::openPrj(QString file)
 {
     if (m_closing)
         return false;
-    if (isValid())
+    const bool wasOpen = isValid();
+    if (wasOpen)
         closePrj();
     // A file that broke off left its first part behind.
     CfgTree::clear();
-    if (!readPrjFile(this, file))
+    if (!readPrjFile(this, file)) {
+        // Without a project the window shows the project manager.
+        if (wasOpen) {
+            prjMngrSetup();
+            prjMngrSetMode(eModeOpen);
+        }
         return false;
+    }
     m_path = QFileInfo(file).absoluteFilePath();
     const int serial = ++m_openCount;
     const auto isOpen = [this, serial] { return isValid() && m_openCount == serial; };
@@ -103,6 +102,9 @@ bool ModPrj::openPrj(QString file)
         if (isOpen())
             plugin->prjOpened();
     });
+    if (!isOpen())
+        return false;
+    prjMngrClose();
     if (!isOpen())
         return false;
     updateCloseAction();
@@ -152,19 +154,6 @@ bool ModPrj::closePrj()
     m_closing = false;
     info(tr("Close project: Done"));
     return true;
-}
-
-bool ModPrj::newPrj(QString file)
-{
-    // Closing writes the present project into its file, so this has to come before the new content.
-    if (isValid() && isSameFile(file, m_path))
-        closePrj();
-    CfgTree tree;
-    PrjConfig config;
-    config.cfgTitle = QFileInfo(file).completeBaseName();
-    tree.setValue(keyTitle, config.cfgTitle);
-    tree.setValue(keyVersion, config.cfgVersion);
-    return savePrjFile(&tree, file) && openPrj(file);
 }
 
 bool ModPrj::open(QString file)
@@ -344,7 +333,13 @@ void ModPrj::modInitIntermod()
         modScriptHook->registerObject(this, QStringLiteral("project"));
 }
 
-void ModPrj::modRun() {}
+void ModPrj::modRun()
+{
+    if (isValid())
+        return;
+    prjMngrSetup();
+    prjMngrSetMode(eModeOpen);
+}
 
 bool ModPrj::modExitRequest()
 {
@@ -361,11 +356,11 @@ void ModPrj::modExit()
     m_actions = nullptr;
 }
 
-void ModPrj::rdAppCfg() {}
-
-void ModPrj::wrAppCfg() {}
-
-void ModPrj::removeWidgetRequest(QWidget*) {}
+void ModPrj::removeWidgetRequest(QWidget* widget)
+{
+    if (m_prjMngr != nullptr && widget == m_prjMngr)
+        prjMngrHndlEventCancel();
+}
 
 void ModPrj::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) {}
 
@@ -375,6 +370,8 @@ nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(false);
+    if (m_prjMngr)
+        m_prjMngr->setTabsEnabled(false);
     if (modGuiHook == nullptr)
         return nullptr;
     if (!m_page)
@@ -401,6 +398,8 @@ void ModPrj::configPagesClosed(bool)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(true);
+    if (m_prjMngr)
+        m_prjMngr->setTabsEnabled(true);
     updateCloseAction();
 }
 
@@ -424,47 +423,17 @@ void ModPrj::hndlAction(PrjActions::eAction_t action)
 {
     switch (action) {
     case PrjActions::eActionNew:
-        askForNewPrj();
-        break;
-    case PrjActions::eActionOpen:
-        askForPrj();
+        prjMngrSetup();
+        prjMngrSetMode(eModeNew);
         break;
     case PrjActions::eActionClose:
         closePrj();
+        [[fallthrough]];
+    case PrjActions::eActionOpen:
+        prjMngrSetup();
+        prjMngrSetMode(eModeOpen);
         break;
     }
-}
-
-void ModPrj::askForNewPrj()
-{
-    if (modGuiHook == nullptr)
-        return;
-    QFileDialog dialog(QApplication::activeWindow(), tr("New project file"));
-    setupFileDialog(&dialog);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-        newPrj(dialog.selectedFiles().constFirst());
-}
-
-void ModPrj::askForPrj()
-{
-    if (modGuiHook == nullptr)
-        return;
-    QFileDialog dialog(QApplication::activeWindow(), tr("Select project file to open"));
-    setupFileDialog(&dialog);
-    dialog.setAcceptMode(QFileDialog::AcceptOpen);
-    dialog.setFileMode(QFileDialog::ExistingFile);
-    if (dialog.exec() == QDialog::Accepted && !dialog.selectedFiles().isEmpty())
-        openPrj(dialog.selectedFiles().constFirst());
-}
-
-void ModPrj::setupFileDialog(QFileDialog* dialog)
-{
-    dialog->setNameFilters({tr("Nalvo project files(*.nalvo)"), tr("Any files(*)")});
-    dialog->setDefaultSuffix(QStringLiteral("nalvo"));
-    if (isValid())
-        dialog->setDirectory(prjDir());
 }
 
 // --- reports ---
@@ -479,8 +448,7 @@ void ModPrj::setWindowTitle()
 
 void ModPrj::updateCloseAction()
 {
-    // Below the settings dialog the whole group is disabled, also when a script opens another project.
-    if (m_actions != nullptr && !m_page)
+    if (m_actions != nullptr)
         m_actions->setEnabled(PrjActions::eActionClose, isValid());
 }
 

@@ -17,9 +17,9 @@
 
 #include <QPointer>
 
-class QFileDialog;
-
 namespace nsModPrj {
+
+class PrjMngrWidget;
 
 class PrjConfigPage;
 
@@ -54,9 +54,30 @@ public:
     /// Saves and closes the project.
     /// @return false: there is none, which was reported
     bool closePrj();
-    /// Creates a project file that holds only a title, made of the file's name, and a version, and opens it.
-    /// @return false: the file can not be written, which was reported; the present project then stays open
-    bool newPrj(QString file);
+
+    /// The tabs of the project manager.
+    enum eMode_t
+    {
+        eModeNew = 0,
+        eModeOpen = 1
+    };
+    /// Shows the page of the project manager; does nothing without a main window.
+    void prjMngrSetup();
+    /// Removes the page; what has changed on it is lost.
+    void prjMngrClose();
+    /// Brings a tab of the page to the front, if the page is shown.
+    void prjMngrSetMode(eMode_t mode);
+    /// Takes the page's list as the collection and saves it.
+    void prjMngrFetchCollection();
+    /// Lists a project on the page.
+    /// @return false: the file can not be read, which was reported, or there is no page
+    bool prjMngrAddToCollection(const QString& file);
+    /// Creates a project file that holds only title, version and comment. If the open project has this file it is
+    /// closed.
+    /// @return false: the file can not be written, which was reported
+    bool prjMngrGenerate(const QString& file, const QString& title);
+    /// Absolute paths of the projects that the user has collected.
+    QStringList collection() const { return m_collection; }
 
     /// Reads a project file into a tree and reports what is wrong with it.
     bool readPrjFile(CfgTree* tree, QString file);
@@ -126,13 +147,16 @@ public:
 
 public slots:
     void hndlAction(nsModPrj::PrjActions::eAction_t action);
+    void prjMngrHndlEventGenerateAdd(QString file, QString title);
+    void prjMngrHndlEventGenerateOpen(QString file, QString title);
+    void prjMngrHndlEventAdd(QString file);
+    void prjMngrHndlEventOpen(QString file);
+    void prjMngrHndlEventClose();
+    void prjMngrHndlEventCancel();
 
 private:
     void setWindowTitle();
     void updateCloseAction();
-    void askForNewPrj();
-    void askForPrj();
-    void setupFileDialog(QFileDialog* dialog);
     void info(const QString& text);
     void warning(const QString& text);
     void error(const QString& text);
@@ -141,8 +165,10 @@ private:
     int m_openCount = 0; ///< number of projects opened so far: tells whether the project is still the same one
     bool m_saving = false;
     bool m_closing = false;
-    PrjActions* m_actions = nullptr; ///< null in a program without menus
-    QPointer<PrjConfigPage> m_page; ///< while the configuration dialog is open
+    PrjActions* m_actions = nullptr;   ///< null in a program without menus
+    QPointer<PrjConfigPage> m_page;    ///< while the configuration dialog is open
+    QPointer<PrjMngrWidget> m_prjMngr; ///< while the project manager is shown
+    QStringList m_collection;          ///< key "PrjMngr/collection"
     PluginList<ModPrjPluginIf> m_plugins;
 };
 

@@ -14,6 +14,7 @@ namespace {
 
 const QColor emptyTextColor(0x52, 0x60, 0x6d);
 const int emptyTextMargin = 16;
+const int hintLines = 6; ///< height that the list asks for; it takes what there is
 
 QStringList localFiles(const QMimeData* data)
 {
@@ -43,6 +44,11 @@ void SourcesListWidget::setEmptyText(const QString& text)
 {
     m_emptyText = text;
     viewport()->update();
+}
+
+QSize SourcesListWidget::sizeHint() const
+{
+    return {QListWidget::sizeHint().width(), hintLines * fontMetrics().height()};
 }
 
 QList<int> SourcesListWidget::selectedRows() const
@@ -79,10 +85,11 @@ void SourcesListWidget::keyPressEvent(QKeyEvent* event)
 void SourcesListWidget::paintEvent(QPaintEvent* event)
 {
     QListWidget::paintEvent(event);
-    if (count() > 0 || m_emptyText.isEmpty())
+    // Without a project there is nothing that files could be added to.
+    if (count() > 0 || !isEnabled())
         return;
     QPainter painter(viewport());
-    painter.setPen(isEnabled() ? emptyTextColor : palette().color(QPalette::Disabled, QPalette::Text));
+    painter.setPen(emptyTextColor);
     const QRect place =
         viewport()->rect().adjusted(emptyTextMargin, emptyTextMargin, -emptyTextMargin, -emptyTextMargin);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);
@@ -107,11 +114,7 @@ void SourcesListWidget::dragMoveEvent(QDragMoveEvent* event)
 void SourcesListWidget::dropEvent(QDropEvent* event)
 {
     if (event->source() == this) {
-        const QModelIndex index = indexAt(event->pos());
-        int target = index.isValid() ? index.row() : count();
-        if (index.isValid() && event->pos().y() > visualRect(index).center().y())
-            ++target;
-        moveRowsTo(target);
+        moveRowsTo(rowForDrop(event->pos()));
         // Said to be a copy, lest the view takes the rows away that it has dragged.
         event->setDropAction(Qt::CopyAction);
         event->accept();
@@ -124,6 +127,14 @@ void SourcesListWidget::dropEvent(QDropEvent* event)
     }
     event->acceptProposedAction();
     emit filesDropped(paths);
+}
+
+int SourcesListWidget::rowForDrop(const QPoint& place) const
+{
+    const QModelIndex index = indexAt(place);
+    if (!index.isValid())
+        return count();
+    return place.y() > visualRect(index).center().y() ? index.row() + 1 : index.row();
 }
 
 void SourcesListWidget::moveRowsTo(int target)

@@ -15,9 +15,14 @@ public:
     /// What an empty list shows.
     void setEmptyText(const QString& text);
 
+    QSize sizeHint() const override;
+
     /// Rows of the selection, ascending.
     QList<int> selectedRows() const;
 
+    /// The row before which something goes that is dropped at the place, 0 to count().
+    /// @param place in coordinates of the viewport
+    int rowForDrop(const QPoint& place) const;
     /// Moves the selected rows, in their order, to the place before a row.
     /// @param target row before the move, 0 to count()
     void moveRowsTo(int target);

@@ -1,12 +1,10 @@
 #include "ModPrj.h"
 #include "FakeHooks.h"
-#include "ModalHelper.h"
 #include "PrjActions.h"
 #include "PrjTestSupport.h"
 
 #include <gtest/gtest.h>
 
-#include <QFileDialog>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -528,79 +526,6 @@ TEST(PrjActionsTest, ReportsItsValueAndEnablesOne)
     EXPECT_TRUE(actions.menuActions().value(2)->isEnabled());
     actions.setEnabled(false);
     EXPECT_FALSE(actions.menuActions().value(0)->isEnabled());
-}
-
-TEST_F(ModPrjTest, NewProjectWritesAFileAndOpensIt)
-{
-    const QString file = path("my.project.nalvo");
-    ModalHelper helper([&](QDialog* dialog) {
-        auto* files = qobject_cast<QFileDialog*>(dialog);
-        ASSERT_NE(files, nullptr);
-        EXPECT_EQ(files->windowTitle(), str("New project file"));
-        EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptSave);
-        EXPECT_EQ(files->defaultSuffix(), str("nalvo"));
-        EXPECT_EQ(files->nameFilters(), QStringList({str("Nalvo project files(*.nalvo)"), str("Any files(*)")}));
-        files->selectFile(file);
-        QMetaObject::invokeMethod(files, "accept");
-    });
-    prj.hndlAction(PrjActions::eActionNew);
-    EXPECT_EQ(helper.seen(), 1);
-    EXPECT_EQ(prj.prjFileName(), str("my.project.nalvo"));
-    EXPECT_EQ(prj.prjTitle(), str("my.project"));
-    EXPECT_EQ(readFile(file), QByteArray(R"x(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>
-<project version="3">
-    <PrjInfo>
-        <title>my.project</title>
-        <version>0.1</version>
-    </PrjInfo>
-</project>
-)x"));
-}
-
-TEST_F(ModPrjTest, NewProjectOverThePresentOneStartsAfresh)
-{
-    const QString file = makePrj("p.nalvo", "<A><key>1</key></A>");
-    ASSERT_TRUE(prj.openPrj(file));
-    ASSERT_TRUE(prj.newPrj(file));
-    EXPECT_FALSE(prj.hasNode(str("A")));
-    EXPECT_FALSE(readFile(file).contains("<A>"));
-}
-
-TEST_F(ModPrjTest, NewProjectThatCanNotBeWrittenKeepsThePresentOne)
-{
-    ASSERT_TRUE(prj.openPrj(makePrj("p.nalvo")));
-    EXPECT_FALSE(prj.newPrj(path("no/such/folder.nalvo")));
-    EXPECT_EQ(msg.errors(), QStringList(str("Can not open project file: ") + path("no/such/folder.nalvo")));
-    EXPECT_EQ(prj.prjFileName(), str("p.nalvo"));
-}
-
-TEST_F(ModPrjTest, OpenProjectAsksForAFile)
-{
-    const QString file = makePrj("p.nalvo");
-    ModalHelper helper([&](QDialog* dialog) {
-        auto* files = qobject_cast<QFileDialog*>(dialog);
-        ASSERT_NE(files, nullptr);
-        EXPECT_EQ(files->acceptMode(), QFileDialog::AcceptOpen);
-        EXPECT_EQ(files->nameFilters(), QStringList({str("Nalvo project files(*.nalvo)"), str("Any files(*)")}));
-        files->selectFile(file);
-        QMetaObject::invokeMethod(files, "accept");
-    });
-    prj.menuActions(ModActionHookIf::eActionClassConfiguration).value(1)->trigger();
-    EXPECT_EQ(helper.seen(), 1);
-    EXPECT_EQ(prj.prjFileName(), str("p.nalvo"));
-}
-
-TEST_F(ModPrjTest, CancelledDialogsChangeNothing)
-{
-    ASSERT_TRUE(prj.openPrj(makePrj("p.nalvo")));
-    msg.reset();
-    for (const PrjActions::eAction_t value : {PrjActions::eActionNew, PrjActions::eActionOpen}) {
-        ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
-        prj.hndlAction(value);
-        EXPECT_EQ(helper.seen(), 1);
-    }
-    EXPECT_TRUE(prj.isValid());
-    EXPECT_TRUE(msg.texts().isEmpty());
 }
 
 TEST_F(ModPrjTest, ScriptsSeeOpenCloseAndTheActions)

@@ -415,23 +415,35 @@ TEST_F(SourcesPageTest, rowsAreDraggedToAnotherPlace)
     EXPECT_EQ(shown(), QStringList({"main.psm", "uart.psm", "lib/tick.psm", "lib/math.psm"})) << "within itself";
 }
 
+TEST_F(SourcesPageTest, aDropGoesToTheNearerSideOfARow)
+{
+    openPrj({"main.psm", "uart.psm", "lib/tick.psm"});
+    openPage();
+    const QRect second = list()->visualItemRect(list()->item(1));
+    EXPECT_EQ(list()->rowForDrop(second.topLeft() + QPoint(20, 1)), 1);
+    EXPECT_EQ(list()->rowForDrop(second.bottomLeft() + QPoint(20, -1)), 2);
+    const QRect last = list()->visualItemRect(list()->item(2));
+    EXPECT_EQ(list()->rowForDrop(last.bottomLeft() + QPoint(20, 30)), 3) << "below the last row";
+}
+
 TEST_F(SourcesPageTest, anEmptyListSaysWhatToDo)
 {
     openPrj({});
     openPage();
     const QImage empty = list()->grab().toImage();
-    drop(list()->viewport(), {path("main.psm")});
-    list()->clearSelection();
-    clickRow(0);
-    QTest::keyClick(list(), Qt::Key_Delete);
-    EXPECT_EQ(list()->count(), 0);
     int inked = 0;
     const QRgb ground = empty.pixel(empty.width() / 2, 10);
-    for (int y = 0; y < empty.height(); ++y) {
+    for (int y = 10; y < empty.height() - 10; ++y) {
         for (int x = 20; x < empty.width() - 20; ++x)
             inked += empty.pixel(x, y) != ground;
     }
     EXPECT_GT(inked, 200) << "a text of some length";
+    page->setPrjConfigEnabled(false);
+    const QImage disabled = list()->viewport()->grab().toImage();
+    QImage plain(disabled.size(), disabled.format());
+    plain.fill(disabled.pixel(disabled.rect().center()));
+    plain.setDevicePixelRatio(disabled.devicePixelRatio());
+    EXPECT_EQ(disabled, plain) << "and nothing where there is no project";
 }
 
 TEST_F(SourcesPageTest, withoutAProjectItIsDisabledAndSaysWhy)

@@ -186,6 +186,7 @@ TEST_F(FileSelect, aSavePathNeedsAFolderAndAName)
     EXPECT_TRUE(save->isValid());
     save->setFile(QString(), folder.path());
     EXPECT_FALSE(save->isValid()) << "nor is it with a base folder";
+    EXPECT_FALSE(save->pathEdit()->property("problem").toBool()) << "but it is no error yet";
     save->pathEdit()->setText("src/");
     EXPECT_FALSE(save->isValid()) << "a relative path without a name";
 }

@@ -35,7 +35,7 @@ protected:
         QApplication::setActiveWindow(&dock);
     }
 
-    template<typename Device>
+    template <typename Device>
     Device* add(nsProc::ProcSimPorts::eDevType_t type, int addr,
                 nsProc::ProcSimIOPluginIf::eDirection_t direction = nsProc::ProcSimIOPluginIf::eDirectionRdWr)
     {
@@ -44,12 +44,18 @@ protected:
         dock.refresh();
         return device;
     }
-    nsProc::ProcSimIOReg8Bit* addReg(int addr) { return add<nsProc::ProcSimIOReg8Bit>(nsProc::ProcSimPorts::eDevReg, addr); }
-    nsProc::ProcSimIOFifo* addFifo(int addr) { return add<nsProc::ProcSimIOFifo>(nsProc::ProcSimPorts::eDevFifo, addr); }
+    nsProc::ProcSimIOReg8Bit* addReg(int addr)
+    {
+        return add<nsProc::ProcSimIOReg8Bit>(nsProc::ProcSimPorts::eDevReg, addr);
+    }
+    nsProc::ProcSimIOFifo* addFifo(int addr)
+    {
+        return add<nsProc::ProcSimIOFifo>(nsProc::ProcSimPorts::eDevFifo, addr);
+    }
     nsProc::ProcSimIOMem* addMem(int addr) { return add<nsProc::ProcSimIOMem>(nsProc::ProcSimPorts::eDevMem, addr); }
 
     /// A control of a card, by its object name.
-    template<typename Widget>
+    template <typename Widget>
     static Widget* part(nsProc::ProcSimIOPluginIf* device, const char* name)
     {
         auto* widget = device->ioDevWidget()->findChild<Widget*>(name);

@@ -163,7 +163,8 @@ TEST_F(PortsCards, RandomEditsAndWritesKeepTextAndListAlike)
                 ports->clear();
             break;
         default:
-            QTest::keyClick(edit, Qt::Key(keys.at(random(keys.size()))), random(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
+            QTest::keyClick(edit, Qt::Key(keys.at(random(keys.size()))),
+                            random(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
         }
         dock.refresh();
         QStringList lines;
@@ -185,6 +186,21 @@ TEST_F(PortsCards, AnEditBetweenWriteAndRefreshLosesNothing)
     EXPECT_EQ(fifo->lines().count(), 4);
     EXPECT_EQ(fifo->lines().text(1), "02");
     EXPECT_EQ(fifo->lines().text(2), "03");
+}
+
+TEST_F(PortsCards, AnEditInLinesThatAreGoneIsDropped)
+{
+    auto* fifo = addFifo(4);
+    unsigned int values[] = {1, 2, 3, 4};
+    fifo->initValue(values, 4);
+    click(fifo, "procSimIOExpand");
+    fifo->initValue(values, 2);
+    list(fifo)->setFocus();
+    list(fifo)->moveCursor(QTextCursor::End);
+    QTest::keyClicks(list(fifo), "5");
+    QApplication::processEvents();
+    EXPECT_EQ(list(fifo)->toPlainText(), "01\n02");
+    EXPECT_EQ(fifo->lines().count(), 2);
 }
 
 TEST_F(PortsCards, ALongListShowsTheLinesAroundThePointer)
@@ -301,7 +317,8 @@ TEST_F(PortsCards, EveryControlHasAToolTip)
     addFifo(2);
     addMem(3);
     for (auto* widget : dock.findChildren<QWidget*>()) {
-        if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus && widget->parentWidget()->objectName() != "procSimEdtMemArray") {
+        if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus &&
+            widget->parentWidget()->objectName() != "procSimEdtMemArray") {
             EXPECT_FALSE(widget->toolTip().isEmpty()) << widget->metaObject()->className();
         }
     }

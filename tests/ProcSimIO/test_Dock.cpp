@@ -9,7 +9,8 @@
 using namespace nsProc;
 
 class PortsDock : public PortsFixture
-{};
+{
+};
 
 TEST_F(PortsDock, TheMenuAddsTheSelectedKindForBothDirections)
 {
@@ -90,7 +91,8 @@ TEST_F(PortsDock, DevicesCloseInAnyOrderWhileAnotherOneIsEdited)
     };
     for (int round = 0; round < 20; ++round) {
         for (int i = 0; i < 6; ++i) {
-            ports->addIOPlugin(ProcSimPorts::eDevType_t(random(3)), ProcSimIOPluginIf::eDirectionRdWr, 0)->setBaseAddr(i, "");
+            ports->addIOPlugin(ProcSimPorts::eDevType_t(random(3)), ProcSimIOPluginIf::eDirectionRdWr, 0)
+                ->setBaseAddr(i, "");
             dock.refresh();
         }
         for (int i = 0; i < 6; ++i) {

@@ -98,7 +98,8 @@ TEST(Ports, TheFirstMatchInTheListAnswers)
 TEST(Ports, AnEmptyFifoOpensItsListAndGivesNothing)
 {
     ProcSimPorts ports;
-    auto* fifo = static_cast<ProcSimIOFifo*>(ports.addIOPlugin(ProcSimPorts::eDevFifo, ProcSimIOPluginIf::eDirectionRdWr, 0));
+    auto* fifo =
+        static_cast<ProcSimIOFifo*>(ports.addIOPlugin(ProcSimPorts::eDevFifo, ProcSimIOPluginIf::eDirectionRdWr, 0));
     fifo->setBaseAddr(4, "");
     EXPECT_TRUE(ports.chkIOPluginToRd(4, "IN"));
     int value = -1;
@@ -111,7 +112,8 @@ TEST(Ports, AnEmptyFifoOpensItsListAndGivesNothing)
 TEST(Ports, AResetKeepsDevicesAndListsAndClearsValues)
 {
     ProcSimPorts ports;
-    auto* reg = static_cast<ProcSimIOReg8Bit*>(ports.addIOPlugin(ProcSimPorts::eDevReg, ProcSimIOPluginIf::eDirectionRdWr, 0));
+    auto* reg =
+        static_cast<ProcSimIOReg8Bit*>(ports.addIOPlugin(ProcSimPorts::eDevReg, ProcSimIOPluginIf::eDirectionRdWr, 0));
     reg->setBaseAddr(1, "");
     ports.setValue(1, "", 7);
     ports.setValue(2, "", 8);
@@ -143,7 +145,8 @@ TEST(Ports, ABaseHoldsForDevicesThatAreAndThatCome)
     ports.setValue(2, "", 8);
     ports.setBase(10);
     EXPECT_EQ(static_cast<ProcSimIOFifo*>(ports.devices().first())->lines().text(0), "008");
-    auto* mem = static_cast<ProcSimIOMem*>(ports.addIOPlugin(ProcSimPorts::eDevMem, ProcSimIOPluginIf::eDirectionRdWr, 0));
+    auto* mem =
+        static_cast<ProcSimIOMem*>(ports.addIOPlugin(ProcSimPorts::eDevMem, ProcSimIOPluginIf::eDirectionRdWr, 0));
     EXPECT_EQ(mem->base(), 10);
 }
 

@@ -5,7 +5,8 @@
 using namespace nsProc;
 
 class PortsScreenshots : public PortsFixture
-{};
+{
+};
 
 TEST_F(PortsScreenshots, Empty)
 {
@@ -25,6 +26,8 @@ TEST_F(PortsScreenshots, AllKinds)
     for (int value : {0x11, 0x22})
         ports->setValue(0x20, "LEDS_OF_THE_FRONT_PANEL", value);
     dock.refresh();
+    dock.resize(300, 900);
+    QApplication::processEvents();
     screenshot("expanded");
     EXPECT_TRUE(part<ProcSimEdtFifo>(ports->devices().at(1), "procSimEdtFifo")->isVisible());
     dock.resize(280, 300);

@@ -169,7 +169,7 @@ TEST(ShellFile, TheProjectFileHoldsTheKeysOfAllProcessorsThatWereChosen)
     nsModProcessor::ModProcessor registry;
     msg.attach(static_cast<ModMsgPluginIf*>(&prj));
     prj.registerPlugin(static_cast<ModPrjPluginIf*>(&registry));
-    ASSERT_TRUE(prj.newPrj(file));
+    ASSERT_TRUE(prj.prjMngrGenerate(file, "a title") && prj.openPrj(file));
     for (const sShell& shell : shells()) {
         registry.processor = shell.name;
         registry.setupProcessorIf();

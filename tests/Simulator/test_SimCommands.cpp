@@ -353,6 +353,19 @@ TEST_F(SimCommands, ReloadInACallWarnsAndStillReturns)
     EXPECT_EQ(reg(0), 37);
 }
 
+TEST_F(SimCommands, ReturnToALineThatIsGone)
+{
+    ASSERT_TRUE(start("XPBlze3", {"JUMP main", "proc: RET", "", "", "main: CALL proc", "NOP"}));
+    trigger(Action::eActionNextInstruction);
+    trigger(Action::eActionNextInstruction);
+    ASSERT_EQ(pcLine(), 1);
+    writeSource({"JUMP proc", "proc: RET"});
+    ASSERT_TRUE(assemble());
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(messages("Call stack contains an invalid return address."), 1);
+    EXPECT_EQ(sim()->programCounter(), nullptr);
+}
+
 TEST_F(SimCommands, FailedAssemblyTakesSteppingAwayUntilAGoodOne)
 {
     ASSERT_TRUE(start("XPBlze3", callProgram));

@@ -7,7 +7,6 @@
 #include "ProcList.h"
 #include "ProcPluginIf.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QTimer>
 
@@ -94,20 +93,20 @@ TEST_F(SimControl, RunIsStoppedByItsOwnAction)
     trigger(Action::eActionRun);
     EXPECT_EQ(during, "0 1 6 7 9 11");
     EXPECT_EQ(enabledActions(), "0 1 2 3 4 5 6 7 8 9 10 11");
-    EXPECT_GT(clocks(), 100);
+    EXPECT_GT(clocks(), 0);
     EXPECT_NE(sim(), nullptr);
 }
 
-TEST_F(SimControl, StopActsSoon)
+TEST_F(SimControl, NoInstructionFollowsAStop)
 {
     ASSERT_TRUE(start("XPBlze3", endless));
-    QElapsedTimer sinceStop;
+    qint64 atStop = -1;
     later([&] {
-        sinceStop.start();
         trigger(Action::eActionRun);
+        atStop = clocks();
     });
     trigger(Action::eActionRun);
-    EXPECT_LT(sinceStop.elapsed(), 100);
+    EXPECT_EQ(clocks(), atStop);
 }
 
 TEST_F(SimControl, FirstPressOfEnableStopsARunTheSecondDisables)
@@ -182,7 +181,7 @@ TEST_F(SimControl, SavingDuringARunReloadsAndEndsIt)
     trigger(Action::eActionRun);
     EXPECT_FALSE(sim()->isRunning());
     ASSERT_NE(sim()->programCounter(), nullptr);
-    EXPECT_GT(clocks(), 100);
+    EXPECT_GT(clocks(), 0);
     trigger(Action::eActionNextInstruction);
     EXPECT_EQ(messages("No command"), 0);
 }

@@ -31,7 +31,8 @@ ProcSimEdtFifo::ProcSimEdtFifo(ProcSimIOFifo* device, QWidget* parent)
     setTabChangesFocus(true);
     // The program writes here, too: an undo would take back what it wrote.
     setUndoRedoEnabled(false);
-    setFixedHeight(fontMetrics().lineSpacing() * visibleLines + 2 * int(document()->documentMargin()) + 2 * frameWidth());
+    setFixedHeight(fontMetrics().lineSpacing() * visibleLines + 2 * int(document()->documentMargin()) +
+                   2 * frameWidth());
     setViewportMargins(marginWidth, 0, 0, 0);
     m_margin->setObjectName(QStringLiteral("procSimEdtFifoMargin"));
     m_margin->setToolTip(tr("Read and write pointer"));
@@ -58,10 +59,26 @@ void ProcSimEdtFifo::takeEdit(int position, int removed, int added)
     for (QTextBlock block = first; block.isValid() && block.blockNumber() <= last.blockNumber(); block = block.next())
         texts << block.text();
     const int grown = document()->blockCount() - m_shown;
+    const int line = m_first + first.blockNumber();
+    if (isStale(line, texts.size() - grown)) {
+        QMetaObject::invokeMethod(
+            this,
+            [this] {
+                fill();
+                showPointer();
+            },
+            Qt::QueuedConnection);
+        return;
+    }
     m_shown += grown;
-    m_device->replaceLines(m_first + first.blockNumber(), texts.size() - grown, texts);
+    m_device->replaceLines(line, texts.size() - grown, texts);
     // The pointer is shown when the edit is over: the text must not be touched while it tells of its change.
     QMetaObject::invokeMethod(this, &ProcSimEdtFifo::showPointer, Qt::QueuedConnection);
+}
+
+bool ProcSimEdtFifo::isStale(int line, int count) const
+{
+    return lines().dropped() != m_dropped || line + count > lines().count();
 }
 
 void ProcSimEdtFifo::refresh()
@@ -71,7 +88,7 @@ void ProcSimEdtFifo::refresh()
     const bool changed = lines().takeChanged(&first, &last);
     const int pointer = lines().pointer();
     const bool inText = pointer >= m_first && pointer < m_first + qMax(m_shown, windowLines);
-    if (!inText)
+    if (!inText || lines().dropped() != m_dropped)
         fill();
     else if (changed)
         updateLines(first, last);
@@ -80,6 +97,7 @@ void ProcSimEdtFifo::refresh()
 
 void ProcSimEdtFifo::fill()
 {
+    m_dropped = lines().dropped();
     const int count = lines().count();
     // Half of the text is behind the pointer, so that a list that grows does not need to be filled each time.
     m_first = count <= windowLines ? 0 : qBound(0, lines().pointer() - windowLines / 2, count - windowLines / 2);
@@ -131,8 +149,8 @@ void ProcSimEdtFifo::setBlocks(int first, int last, const QStringList& texts)
     if (appends)
         cursor.movePosition(QTextCursor::EndOfBlock);
     else
-        cursor.setPosition(document()->findBlockByNumber(last).position()
-                               + document()->findBlockByNumber(last).length() - 1,
+        cursor.setPosition(document()->findBlockByNumber(last).position() +
+                               document()->findBlockByNumber(last).length() - 1,
                            QTextCursor::KeepAnchor);
     const QString text = QStringList(texts.mid(from)).join(QLatin1Char('\n'));
     cursor.insertText(appends ? QLatin1Char('\n') + text : text);

@@ -15,7 +15,8 @@ class ProcSimEdtFifo : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    static constexpr int windowLines = 16384; ///< lines of the list that are in the text at most, but for what the user inserts
+    static constexpr int windowLines =
+        16384; ///< lines of the list that are in the text at most, but for what the user inserts
 
     /// @param device not owned, must outlive its use by refresh() and by the user
     explicit ProcSimEdtFifo(ProcSimIOFifo* device, QWidget* parent = nullptr);
@@ -33,6 +34,8 @@ protected:
 
 private:
     void takeEdit(int position, int removed, int added);
+    /// The text is of another state of the list: an edit in it has no place there.
+    bool isStale(int line, int count) const;
     void fill();
     void updateLines(int first, int last);
     void setBlocks(int first, int last, const QStringList& texts);
@@ -43,8 +46,9 @@ private:
     ProcSimIOFifo* m_device;
     QWidget* m_margin;
     int m_first = 0;
-    int m_shown = 1;    ///< lines in the text
-    int m_pointer = -1; ///< as shown
+    int m_shown = 1;         ///< lines in the text
+    int m_pointer = -1;      ///< as shown
+    long long m_dropped = 0; ///< lines that the list had dropped when the text was last brought up to date
     bool m_updating = false;
 };
 

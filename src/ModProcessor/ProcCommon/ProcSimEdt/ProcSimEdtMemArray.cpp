@@ -60,7 +60,8 @@ public:
             model->setData(index, field->text(), Qt::EditRole);
     }
 
-    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,
+                              const QModelIndex& index) const override
     {
         Q_UNUSED(index)
         editor->setMinimumWidth(0);
@@ -83,8 +84,8 @@ ProcSimEdtMemArray::ProcSimEdtMemArray(ProcSimIOMem* device, QWidget* parent)
     setItemDelegate(new WordDelegate(this));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setTabKeyNavigation(false);
-    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed
-                    | QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
+    setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
+                    QAbstractItemView::AnyKeyPressed | QAbstractItemView::SelectedClicked);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     horizontalHeader()->hide();

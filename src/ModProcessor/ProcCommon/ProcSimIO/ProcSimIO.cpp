@@ -90,9 +90,10 @@ void ProcSimIO::addTools(QVBoxLayout* layout)
 
 void ProcSimIO::addColumn(QVBoxLayout* layout)
 {
-    m_hint = new QLabel(tr("No devices yet. A port that the program reads or writes appears here by itself: a register to "
-                           "type the value into that is read, a list that collects the values that are written."),
-                        this);
+    m_hint =
+        new QLabel(tr("No devices yet. A port that the program reads or writes appears here by itself: a register to "
+                      "type the value into that is read, a list that collects the values that are written."),
+                   this);
     m_hint->setObjectName(QStringLiteral("procSimIOHint"));
     m_hint->setToolTip(tr("Devices can also be added by hand, before the program needs them"));
     m_hint->setWordWrap(true);

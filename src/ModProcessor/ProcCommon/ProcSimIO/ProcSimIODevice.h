@@ -11,14 +11,14 @@ class ProcSimIODeviceView;
 
 /// What all devices at ports have in common: address, name, direction, base, marks and the view.
 ///
-/// A device is plain data: it needs no application object, and an access costs no more than the access. Its view is made on demand
-/// and looks at the device when it is told to refresh; what the user types there arrives here at once.
+/// A device is plain data: it needs no application object, and an access costs no more than the access. Its view is
+/// made on demand and looks at the device when it is told to refresh; what the user types there arrives here at once.
 class ProcSimIODevice : public ProcSimIOPluginIf
 {
 public:
-    static constexpr int maxValue = 255;      ///< largest value that a field of a device shows
-    static constexpr int maxAddr = 0xFFFF;    ///< largest address of a device
-    static constexpr int maxPortAddr = 0xFF;  ///< largest address that a processor can ask for
+    static constexpr int maxValue = 255;     ///< largest value that a field of a device shows
+    static constexpr int maxAddr = 0xFFFF;   ///< largest address of a device
+    static constexpr int maxPortAddr = 0xFF; ///< largest address that a processor can ask for
 
     ProcSimIODevice() = default;
     ~ProcSimIODevice() override;

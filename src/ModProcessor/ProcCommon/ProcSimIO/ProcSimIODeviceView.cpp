@@ -50,9 +50,9 @@ ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, const QColor& 
         if (m_device != nullptr)
             m_device->setAddr(addr);
     });
-    connect(m_direction, &ProcSimEdtDirection::directionSelected, this, [this](int data) {
+    connect(m_direction, &ProcSimEdtDirection::directionSelected, this, [this](int selection) {
         if (m_device != nullptr)
-            m_device->setDirectionData(data);
+            m_device->setDirectionData(selection);
     });
 }
 

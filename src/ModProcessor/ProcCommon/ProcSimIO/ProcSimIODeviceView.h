@@ -12,8 +12,8 @@ class ProcSimEdtDirection;
 class ProcSimIOAddrLine;
 class ProcSimIODevice;
 
-/// The card of one device in the column of ports: a strip that tells the kind, the address line with the close button, the
-/// direction, and below what the kind of device shows. Belongs to its device.
+/// The card of one device in the column of ports: a strip that tells the kind, the address line with the close button,
+/// the direction, and below what the kind of device shows. Belongs to its device.
 class ProcSimIODeviceView : public QFrame
 {
     Q_OBJECT

@@ -137,8 +137,8 @@ int ProcSimFifoLines::lineOf(int index, const QString& text)
     if (text.isEmpty())
         return eMarkEmpty;
     int number = 0;
-    if (ProcSimIODevice::number(text, m_base, &number)
-        && ProcSimIODevice::text(static_cast<unsigned int>(number), m_base) == text)
+    if (ProcSimIODevice::number(text, m_base, &number) &&
+        ProcSimIODevice::text(static_cast<unsigned int>(number), m_base) == text)
         return number;
     m_texts[index] = text;
     return eMarkText;

@@ -9,8 +9,8 @@ namespace nsProc {
 
 /// The list of a FIFO: lines, of which nearly all are numbers, and one pointer that reading and writing share.
 ///
-/// A program can write millions of lines: a number costs four bytes and no text. What a user types is kept as it was typed.
-/// There is always at least one line. Behind maxLines lines, the oldest quarter is dropped.
+/// A program can write millions of lines: a number costs four bytes and no text. What a user types is kept as it was
+/// typed. There is always at least one line. Behind maxLines lines, the oldest quarter is dropped.
 class ProcSimFifoLines
 {
 public:
@@ -41,7 +41,11 @@ public:
 
 private:
     /// Marks in place of a number.
-    enum eMark_t { eMarkEmpty = -1, eMarkText = -2 };
+    enum eMark_t
+    {
+        eMarkEmpty = -1,
+        eMarkText = -2
+    };
 
     int lineOf(int index, const QString& text);
     void forget(int index);

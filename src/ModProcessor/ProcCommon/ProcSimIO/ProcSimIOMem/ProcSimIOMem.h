@@ -8,17 +8,22 @@ namespace nsProc {
 
 /// A block of memory at consecutive ports.
 ///
-/// The words are addressed by the port address itself, not by its distance from the base address: a block that does not stand
-/// at address 0 answers at ports for which it has no word.
+/// The words are addressed by the port address itself, not by its distance from the base address: a block that does not
+/// stand at address 0 answers at ports for which it has no word.
 class ProcSimIOMem : public ProcSimIODevice
 {
 public:
     /// What the label beside the last access says.
-    enum eAccess_t { eAccessNone, eAccessRd, eAccessWr };
+    enum eAccess_t
+    {
+        eAccessNone,
+        eAccessRd,
+        eAccessWr
+    };
 
-    static constexpr int defaultSize = 16;      ///< words of a new block
-    static constexpr int maxUserSize = 65536;   ///< words that a user can ask for
-    static constexpr int maxSize = 1 << 24;     ///< words that a program can declare
+    static constexpr int defaultSize = 16;    ///< words of a new block
+    static constexpr int maxUserSize = 65536; ///< words that a user can ask for
+    static constexpr int maxSize = 1 << 24;   ///< words that a program can declare
 
     /// @param initValue value of words that are new
     explicit ProcSimIOMem(int initValue);

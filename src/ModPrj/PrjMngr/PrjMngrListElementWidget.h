@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QFrame>
+
+class MyButton;
+class QLabel;
+
+namespace nsModPrj {
+
+class PrjMngrLine;
+
+/// One project of the collection: what it says of itself, its file, and what can be done with it.
+class PrjMngrListElementWidget : public QFrame
+{
+    Q_OBJECT
+
+public:
+    explicit PrjMngrListElementWidget(QWidget* parent = nullptr);
+
+    /// Shows a project.
+    /// @param file absolute path; a long one is shown shortened, and stays whole in prjFile()
+    void setPrjInfo(const QString& file, const QString& title, const QString& version, const QString& comment);
+    QString prjFile() const { return m_prjFile; }
+
+signals:
+    /// @param element this one
+    void open(QWidget* element);
+    void remove(QWidget* element);
+
+protected:
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+
+private:
+    QString m_prjFile;
+    PrjMngrLine* m_title;
+    PrjMngrLine* m_version;
+    QLabel* m_commentTitle;
+    PrjMngrLine* m_comment;
+    PrjMngrLine* m_path;
+    MyButton* m_remove;
+    MyButton* m_open;
+};
+
+} // namespace nsModPrj

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QList>
+#include <QStringList>
+#include <QWidget>
+
+class QLabel;
+class QScrollArea;
+class QVBoxLayout;
+
+namespace nsModPrj {
+
+class PrjMngrListElementWidget;
+
+/// The collection of projects, one below the other.
+class PrjMngrListWidget : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit PrjMngrListWidget(QWidget* parent = nullptr);
+
+    /// Appends a project whose file could be read. One that is listed already is shown anew at its place.
+    void addValid(const QString& prjFile, const QString& title, const QString& version, const QString& comment);
+    /// The paths of all listed projects, from top to bottom.
+    QStringList prjCollection() const;
+
+signals:
+    void open(QString prjFile);
+
+private slots:
+    void openElement(QWidget* element);
+    void removeElement(QWidget* element);
+
+private:
+    void updateHint();
+
+    QScrollArea* m_area;
+    QLabel* m_hint; ///< stands in the place of an empty list
+    QVBoxLayout* m_layout = nullptr;
+    QList<PrjMngrListElementWidget*> m_elements; ///< from top to bottom
+};
+
+} // namespace nsModPrj

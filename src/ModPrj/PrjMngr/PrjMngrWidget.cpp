@@ -1,0 +1,122 @@
+#include "PrjMngrWidget.h"
+
+#include "PrjMngrListWidget.h"
+#include "PrjMngrNewWidget.h"
+#include "PrjMngrOpenWidget.h"
+
+#include "MyButton.h"
+#include "MyButtonCancel.h"
+#include "MyPageTitle.h"
+
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+namespace nsModPrj {
+
+namespace {
+
+const int margin = 16;
+const int gap = 8;
+
+} // namespace
+
+PrjMngrWidget::PrjMngrWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_tabs(new QTabWidget(this))
+    , m_new(new PrjMngrNewWidget)
+    , m_open(new PrjMngrOpenWidget)
+    , m_list(new PrjMngrListWidget)
+{
+    setObjectName(QStringLiteral("prjMngr"));
+    setAttribute(Qt::WA_StyledBackground);
+    m_tabs->setObjectName(QStringLiteral("prjMngrTabs"));
+    m_tabs->setTabPosition(QTabWidget::West);
+    m_tabs->addTab(m_new, tr("New project"));
+    m_tabs->addTab(makeOpenTab(), tr("Open"));
+    m_tabs->setTabToolTip(0, tr("Make a new project"));
+    m_tabs->setTabToolTip(1, tr("Open a project of the collection, or any other"));
+
+    // The page is there at each start and must not make the window larger than its user left it: it scrolls.
+    auto* area = new QScrollArea(this);
+    auto* content = new QWidget(area);
+    content->setObjectName(QStringLiteral("prjMngrContent"));
+    area->setFrameStyle(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(content);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
+
+    auto* body = new QVBoxLayout;
+    body->setContentsMargins(margin, margin, margin, margin);
+    body->setSpacing(gap);
+    body->addWidget(new MyPageTitle(tr("Project manager"), content));
+    body->addWidget(m_tabs, 1);
+    auto* layout = new QVBoxLayout(content);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addLayout(body, 1);
+    layout->addWidget(makeButtons());
+}
+
+QWidget* PrjMngrWidget::makeOpenTab()
+{
+    auto* tab = new QWidget;
+    tab->setObjectName(QStringLiteral("prjMngrOpenTab"));
+    auto* layout = new QVBoxLayout(tab);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    layout->addWidget(m_open);
+    layout->addWidget(m_list, 1);
+    tab->setFocusProxy(m_open);
+    return tab;
+}
+
+QWidget* PrjMngrWidget::makeButtons()
+{
+    // The same strip as below the settings pages.
+    auto* frame = new QFrame(this);
+    frame->setObjectName(QStringLiteral("configButtons"));
+    auto* save = new MyButton(tr("Save project manager configuration and close"), frame);
+    save->setToolTip(tr("Keeps the collection as it is listed and closes this page"));
+    auto* cancel = new MyButtonCancel(frame);
+    cancel->setToolTip(tr("Closes this page; the collection stays as it was"));
+    m_buttons = new QBoxLayout(QBoxLayout::LeftToRight);
+    m_buttons->setSpacing(gap);
+    m_buttons->addWidget(save);
+    m_buttons->addWidget(cancel);
+    auto* layout = new QHBoxLayout(frame);
+    layout->setContentsMargins(margin, gap, margin, gap);
+    layout->addStretch(1);
+    layout->addLayout(m_buttons);
+    connect(save, &QPushButton::clicked, this, &PrjMngrWidget::saveAndCloseRequested);
+    connect(cancel, &QPushButton::clicked, this, &PrjMngrWidget::cancelRequested);
+    return frame;
+}
+
+void PrjMngrWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    int needed = 2 * margin + gap;
+    for (int i = 0; i < m_buttons->count(); ++i)
+        needed += m_buttons->itemAt(i)->sizeHint().width();
+    m_buttons->setDirection(needed <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+void PrjMngrWidget::setCurrentTab(int index)
+{
+    m_tabs->setCurrentIndex(index);
+    if (QWidget* tab = m_tabs->currentWidget())
+        tab->setFocus();
+}
+
+void PrjMngrWidget::setTabsEnabled(bool enabled)
+{
+    m_tabs->setEnabled(enabled);
+}
+
+} // namespace nsModPrj

@@ -1,0 +1,302 @@
+// Cases with their results worked out by hand: a few instructions, what stood before, what must stand after.
+
+#include "LMico8v3xConfig.h"
+#include "LMico8v3xSim.h"
+#include "ProcRun.h"
+#include "ProcShell.h"
+#include "XPBlze3Config.h"
+#include "XPBlze3Sim.h"
+#include "XPBlze6Config.h"
+#include "XPBlze6Sim.h"
+
+#include "Opcode.h"
+#include "OpcodeList.h"
+#include "ProcSimCallStackData.h"
+#include "ProcSimClock.h"
+#include "ProcSimCoreData.h"
+#include "ProcSimIOFifo.h"
+#include "ProcSimPorts.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+struct Row
+{
+    const char* name;
+    const char* processor;
+    const char* program; ///< instructions separated by ;
+    int steps;
+    int r0, r1;  ///< registers 0 and 1 before
+    int c, z;    ///< flags before
+    int r0After, r1After;
+    int cAfter, zAfter;
+    int clocks;
+    const char* key; ///< of the last message, empty for none
+};
+
+void PrintTo(const Row& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+const char* const b3 = "Xilinx PicoBlaze 3";
+const char* const b6 = "Xilinx PicoBlaze 6";
+const char* const m8 = "Lattice Mico8 v3.x";
+
+const Row rows[] = {
+    // name                     program                          n   before              after              clk key
+    {"AddWraps", b3, "ADD s0, 1;NOP", 1, 0xFF, 0, 0, 0, 0x00, 0, 1, 1, 2, ""},
+    {"AddcOfAllOnes", b3, "ADDC s0, s1;NOP", 1, 0xFF, 0xFF, 1, 1, 0xFF, 0xFF, 1, 0, 2, ""},
+    {"SubBorrows", b3, "SUB s0, 1;NOP", 1, 0x00, 0, 0, 1, 0xFF, 0, 1, 0, 2, ""},
+    {"SubcToMinus256", b3, "SUBC s0, s1;NOP", 1, 0x00, 0xFF, 1, 0, 0x00, 0xFF, 1, 1, 2, ""},
+    {"CompEqual", b3, "COMP s0, 5;NOP", 1, 5, 0, 1, 0, 5, 0, 0, 1, 2, ""},
+    {"CompLess", b3, "COMP s0, 6;NOP", 1, 5, 0, 0, 1, 5, 0, 1, 0, 2, ""},
+    {"TestOdd", b3, "TEST s0, 1;NOP", 1, 3, 0, 0, 1, 3, 0, 1, 0, 2, ""},
+    {"TestEven", b3, "TEST s0, 3;NOP", 1, 3, 0, 1, 1, 3, 0, 0, 0, 2, ""},
+    {"AndClearsCarry", b3, "AND s0, s1;NOP", 1, 0xF0, 0x3C, 1, 1, 0x30, 0x3C, 0, 0, 2, ""},
+    {"LoadLeavesFlags", b3, "LOAD s0, s1;NOP", 1, 1, 0, 1, 0, 0, 0, 1, 0, 2, ""},
+    {"Sr0ToZero", b3, "SR0 s0;NOP", 1, 1, 0, 0, 0, 0, 0, 1, 1, 2, ""},
+    {"Sl1IsNeverZero", b3, "SL1 s0;NOP", 1, 0x80, 0, 0, 1, 1, 0, 1, 0, 2, ""},
+    {"SrxKeepsTheSign", b3, "SRX s0;NOP", 1, 0x81, 0, 0, 1, 0xC0, 0, 1, 0, 2, ""},
+    {"RolcTakesTheCarry", b3, "ROLC s0;NOP", 1, 0x80, 0, 1, 1, 1, 0, 1, 0, 2, ""},
+    {"RetKeepsTheFlagsOfTheCallee", b3, "CALL f;NOP;f: SUB s0, 1;RET", 3, 0, 0, 0, 1, 0xFF, 0, 1, 0, 6, ""},
+    {"RetNotTakenGoesOn", b3, "RET Z;LOAD s0, 7;NOP", 2, 0, 0, 0, 0, 7, 0, 0, 0, 4, ""},
+    {"WrmemBeyondTheScratchpad", b3, "WRMEM s0, (s1);NOP", 1, 9, 64, 0, 0, 9, 64, 0, 0, 0, "errScrpdWr"},
+    {"RdmemBeyondTheScratchpad", b3, "RDMEM s0, (s1);NOP", 1, 9, 64, 0, 0, 9, 64, 0, 0, 0, "errScrpdRd"},
+    {"ScratchpadRoundTrip", b3, "WRMEM s0, 63;RDMEM s1, 63;NOP", 2, 9, 0, 1, 1, 9, 9, 1, 1, 4, ""},
+    {"RetOfNothing", b3, "RET;NOP", 1, 1, 2, 0, 0, 1, 2, 0, 0, 2, "errCallStackEmpty"},
+    {"RetiOfNothing", b3, "RETI ENABLE;NOP", 1, 1, 2, 1, 0, 1, 2, 1, 0, 2, "errCallStackEmpty"},
+    {"ReadOfAFreePort", b3, "RDPRT s0, 9;NOP", 1, 5, 0, 0, 0, 5, 0, 0, 0, 0, "warnIODevAddedToRd"},
+    {"RepeatedReadTakesTheRegister", b3, "RDPRT s0, 9;NOP", 2, 5, 0, 1, 1, 0, 0, 1, 1, 2, "warnIODevAddedToRd"},
+
+    {"ZeroIsChainedBySubc", b6, "SUB s0, 5;LOAD s0, 0;SUBC s0, 0;NOP", 3, 5, 0, 0, 0, 0, 0, 0, 1, 6, ""},
+    {"ZeroIsChainedByAddc", b6, "ADD s0, 5;LOAD s0, 0;ADDC s0, 0;NOP", 3, 5, 0, 0, 0, 0, 0, 0, 0, 6, ""},
+    {"CompcOfEqualWords", b6, "COMP s0, 18;COMPC s1, 52;NOP", 2, 18, 52, 1, 0, 18, 52, 0, 1, 4, ""},
+    {"CompcOfWordsWithUnequalLowHalves", b6, "COMP s0, 19;COMPC s1, 52;NOP", 2, 18, 52, 0, 0, 18, 52, 1, 0, 4, ""},
+    {"TestcXorsTheCarry", b6, "TESTC s0, 1;NOP", 1, 3, 0, 1, 1, 3, 0, 0, 0, 2, ""},
+    {"TestcKeepsZero", b6, "TESTC s0, 4;NOP", 1, 3, 0, 0, 1, 3, 0, 0, 1, 2, ""},
+    {"RegbankShowsOtherRegisters", b6, "REGBANK B;NOP", 1, 1, 2, 1, 1, 0, 0, 1, 1, 2, ""},
+    {"LoadretReturnsWithAValue", b6, "CALL f;NOP;f: LOADRET s0, 0x41", 2, 0, 0, 1, 1, 0x41, 0, 1, 1, 4, ""},
+    {"LoadretOfNothing", b6, "LOADRET s0, 3;NOP", 1, 0, 0, 0, 0, 3, 0, 0, 0, 2, "errCallStackEmpty"},
+    {"ComputedCallToNowhere", b6, "CALL (s0), (s1);NOP", 1, 1, 0x23, 0, 0, 1, 0x23, 0, 0, 0, "internal"},
+
+    {"AndLeavesCarry", m8, "AND r0, r1;NOP", 1, 0xF0, 0x0F, 1, 0, 0, 0x0F, 1, 1, 2, ""},
+    {"TestLeavesCarry", m8, "TEST r0, 1;NOP", 1, 3, 0, 1, 1, 3, 0, 1, 0, 2, ""},
+    {"RolOfTwoRegistersTurnsTheFirst", m8, "ROL r0, r1;NOP", 1, 0x80, 0x55, 0, 1, 0x01, 0x55, 1, 0, 2, ""},
+    {"ClrAndSet", m8, "SET C;CLR Z;NOP", 2, 0, 0, 0, 1, 0, 0, 1, 0, 4, ""},
+    {"AddcSetsZeroByItself", m8, "ADDC r0, 0;NOP", 1, 0xFF, 0, 1, 0, 0, 0, 1, 1, 2, ""},
+};
+
+std::unique_ptr<nsProc::ProcSim> makeSim(const QString& processor)
+{
+    if (processor == b3)
+        return std::make_unique<nsXPBlze3::XPBlze3Sim>();
+    if (processor == b6)
+        return std::make_unique<nsXPBlze6::XPBlze6Sim>();
+    return std::make_unique<nsLMico8v3x::LMico8v3xSim>();
+}
+
+/// A simulator on a program of a few lines.
+struct Bench
+{
+    Bench(const QString& processor, const QString& program, const QHash<QString, int>& settings = {})
+        : run(processor, settings)
+        , sim(makeSim(processor))
+    {
+        started = run.assemble(program.split(';'));
+        sim->modAsmFeHook = &run.asmFe;
+        sim->modMsgHook = &run.msg;
+        auto* shell = dynamic_cast<nsProc::ProcShell*>(run.processor.currentProcessor());
+        started = started && sim->simInit(shell->runConfig());
+    }
+
+    ProcRun run;
+    std::unique_ptr<nsProc::ProcSim> sim;
+    bool started = false;
+};
+
+class HandMade : public ::testing::TestWithParam<Row>
+{
+};
+
+TEST_P(HandMade, Row)
+{
+    const Row& row = GetParam();
+    Bench bench(row.processor, row.program);
+    ASSERT_TRUE(bench.started) << bench.run.summary();
+    nsProc::ProcSimCoreData& core = *bench.sim->core();
+    core.editReg(0, 0, row.r0);
+    core.editReg(0, 1, row.r1);
+    core.editCarryBit(row.c);
+    core.editZeroBit(row.z);
+    for (int step = 0; step < row.steps; ++step)
+        bench.sim->simOpcode();
+    EXPECT_EQ(core.regValue(core.bank(), 0), row.r0After);
+    EXPECT_EQ(core.regValue(core.bank(), 1), row.r1After);
+    EXPECT_EQ(core.carryBit(), row.cAfter);
+    EXPECT_EQ(core.zeroBit(), row.zAfter);
+    EXPECT_EQ(bench.sim->clock()->clocks, row.clocks);
+    EXPECT_EQ(bench.sim->takeLastMsg().toStdString(), row.key);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows), [](const auto& info) { return info.param.name; });
+
+TEST(HandMadeMore, StarWritesTheOtherBank)
+{
+    Bench bench(b6, "STAR s0, s1;NOP");
+    ASSERT_TRUE(bench.started);
+    nsProc::ProcSimCoreData& core = *bench.sim->core();
+    core.editReg(0, 0, 0x11);
+    core.editReg(0, 1, 0x5A);
+    bench.sim->simOpcode();
+    EXPECT_EQ(core.regValue(1, 0), 0x5A);
+    EXPECT_EQ(core.regValue(0, 0), 0x11);
+    EXPECT_EQ(core.bank(), 0);
+}
+
+TEST(HandMadeMore, ComputedJumpAndCall)
+{
+    Bench bench(b6, "LOAD s1, 1;LOAD s2, 0x23;CALL (s1), (s2);#ORG ADDR, 0x123;RET");
+    ASSERT_TRUE(bench.started) << bench.run.summary();
+    for (int step = 0; step < 3; ++step)
+        bench.sim->simOpcode();
+    ASSERT_NE(bench.sim->programCounter(), nullptr);
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 0x123);
+    ASSERT_EQ(bench.sim->callStack()->count(), 1);
+    EXPECT_EQ(bench.sim->callStack()->items().front().label, "s1 = 1, s2 = 35");
+    bench.sim->simOpcode();
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 0x123);
+    EXPECT_EQ(bench.sim->callStack()->count(), 0);
+}
+
+TEST(HandMadeMore, ComputedTargetWithoutAnInstruction)
+{
+    Bench bench(b6, "CALL (s1), (s2);NOP");
+    ASSERT_TRUE(bench.started);
+    bench.sim->core()->editReg(0, 1, 1);
+    bench.sim->core()->editReg(0, 2, 0x23);
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.sim->lastInternalError(), "No instruction at address: 291");
+    EXPECT_EQ(bench.run.msg.log.last().text, "Internal error: No instruction at address: 291");
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 0);
+}
+
+TEST(HandMadeMore, ConstantGoesToItsPort)
+{
+    Bench bench(b6, "WRPRT 0x55, 3;NOP");
+    ASSERT_TRUE(bench.started);
+    EXPECT_TRUE(bench.sim->simOpcode());
+    ASSERT_EQ(bench.sim->ports()->devices().size(), 1);
+    auto* fifo = dynamic_cast<nsProc::ProcSimIOFifo*>(bench.sim->ports()->devices().first());
+    ASSERT_NE(fifo, nullptr);
+    EXPECT_TRUE(fifo->chkAddr(3));
+    EXPECT_TRUE(fifo->chkDirection(nsProc::ProcSimIOPluginIf::eDirectionWr));
+    EXPECT_FALSE(fifo->chkDirection(nsProc::ProcSimIOPluginIf::eDirectionRd));
+    EXPECT_EQ(fifo->lines().text(0), "55");
+}
+
+TEST(HandMadeMore, EmptyFifoIsReported)
+{
+    Bench bench(b3, "RDPRT s0, 4;NOP");
+    ASSERT_TRUE(bench.started);
+    bench.sim->ports()->addIOPlugin(nsProc::ProcSimPorts::eDevFifo, nsProc::ProcSimIOPluginIf::eDirectionRd, 0)->setBaseAddr(4, "x");
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.sim->takeLastMsg(), "errIODevRd");
+    EXPECT_EQ(bench.sim->clock()->clocks, 0);
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 0);
+}
+
+TEST(HandMadeMore, RegisterBeyondTheCount)
+{
+    Bench bench(m8, "LOAD r16, 1;ADD r0, r20;NOP", {{"LMico8v3x/regCount", 16}});
+    ASSERT_TRUE(bench.started) << bench.run.summary();
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.sim->lastInternalError(), "Register index exceeds register count: r16");
+    EXPECT_EQ(bench.sim->clock()->clocks, 0);
+    bench.sim->setProgramCounter(bench.sim->programCounter()->next);
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.sim->lastInternalError(), "Register index exceeds register count: r20");
+}
+
+TEST(HandMadeMore, ClocksOfAnInstructionAreASetting)
+{
+    Bench bench(m8, "loop: ADD r0, 1;JUMP loop", {{"LMico8v3x/instrClkCnt", 3}});
+    ASSERT_TRUE(bench.started);
+    for (int step = 0; step < 10; ++step)
+        bench.sim->simOpcode();
+    EXPECT_EQ(bench.sim->clock()->clocks, 30);
+}
+
+TEST(HandMadeMore, RetiOfMico8LeavesTheInterruptShut)
+{
+    // The vector of a Mico8 is its address 0.
+    Bench bench(m8, "RETI;INT ENABLE;loop: ADD r0, 1;JUMP loop");
+    ASSERT_TRUE(bench.started);
+    bench.sim->setProgramCounter(bench.sim->programCounter()->next);
+    bench.sim->simOpcode();
+    bench.sim->simInt();
+    ASSERT_EQ(bench.sim->core()->interrupt(), nsProc::eIntPending);
+    bench.sim->core()->editCarryBit(1);
+    bench.sim->simOpcode();
+    EXPECT_EQ(bench.sim->core()->interrupt(), nsProc::eIntDisabled);
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 2);
+    EXPECT_EQ(bench.sim->core()->carryBit(), 1);
+    EXPECT_EQ(bench.sim->callStack()->count(), 0);
+}
+
+TEST(HandMadeMore, MessagesHaveTheirHelpAndTheirPlace)
+{
+    const struct
+    {
+        const char* processor;
+        const char* page;
+    } pages[] = {{b3, "XPBlze3SimMessages"}, {b6, "XPBlze6SimMessages"}, {m8, "LMico8v3xSimMessages"}};
+    for (const auto& page : pages) {
+        Bench bench(page.processor, "NOP;RET");
+        ASSERT_TRUE(bench.started);
+        bench.sim->simOpcode();
+        bench.sim->simOpcode();
+        EXPECT_EQ(bench.run.msg.log.last().text, "Call stack is empty! Nothing to return.");
+        // The host of a link has no case.
+        EXPECT_EQ(bench.run.msg.log.last().hlpDoc.scheme(), "pageid");
+        EXPECT_EQ(bench.run.msg.log.last().hlpDoc.host(), QString(page.page).toLower());
+        EXPECT_EQ(bench.run.msg.log.last().key(), "errCallStackEmpty");
+    }
+}
+
+TEST(HandMadeMore, MessageLeadsToTheInstruction)
+{
+    Bench bench(b3, "NOP;NOP;WRMEM s0, (s1)");
+    ASSERT_TRUE(bench.started);
+    bench.sim->core()->editReg(0, 1, 200);
+    for (int step = 0; step < 3; ++step)
+        bench.sim->simOpcode();
+    EXPECT_EQ(bench.run.msg.log.last().key(), "errScrpdWr");
+    EXPECT_EQ(bench.run.msg.log.last().line(), 2);
+    EXPECT_EQ(bench.run.msg.log.last().type, ModMsgHookIf::eMsgError);
+}
+
+TEST(HandMadeMore, HwBuildWithoutAValue)
+{
+    Bench bench(b6, "HWBUILD s0;NOP");
+    ASSERT_TRUE(bench.started);
+    bench.sim->core()->setHwbld(-1);
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.run.msg.log.last().text, "Can not read hwbuild value.");
+    EXPECT_EQ(bench.sim->programCounter()->pageAddr, 0);
+}
+
+TEST(HandMadeMore, UnsupportedInstructionIsReportedAtIt)
+{
+    Bench bench(b3, "NOP;NOP");
+    ASSERT_TRUE(bench.started);
+    bench.sim->programCounter()->opcode = nsModAsmFe::ocStar;
+    EXPECT_FALSE(bench.sim->simOpcode());
+    EXPECT_EQ(bench.sim->takeLastMsg(), "errOcUnsupported");
+    EXPECT_EQ(bench.sim->clock()->clocks, 0);
+}
+
+} // namespace
