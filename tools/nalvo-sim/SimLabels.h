@@ -11,7 +11,7 @@ class Opcode;
 namespace nsNalvoSim {
 
 /// The instruction that a label stands at.
-/// @param name with namespace and "::" where it has one; "::" in front of a label without one does no harm
+/// @param name with namespace and "::" where it has one; "::" in front of all does no harm
 /// @param failure why there is none, with names that are much like it
 /// @return null if there is none
 nsModAsmFe::Opcode* opcodeOfLabel(nsModAsmFe::ModAsmFe* asmFe, const QString& name, QString* failure);

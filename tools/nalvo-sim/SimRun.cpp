@@ -148,12 +148,13 @@ bool SimRun::startSim()
     m_sim.reset(m_shell->createSim());
     m_modules.asmFe.registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(m_sim.get()));
     m_modules.msg.registerPlugin(static_cast<ModMsgPluginIf*>(m_sim.get()));
-    m_sim->setStart(m_start);
     if (!m_sim->simInit(m_shell->runConfig())) {
         const QString key = m_sim->takeLastMsg();
         setEnd(SimEnd::endMessage, tr("stopped by %1 before the first instruction").arg(key), key);
         return false;
     }
+    if (m_start != nullptr)
+        m_sim->setProgramCounter(m_start);
     m_sim->core()->setHwbld(m_options.hwbuild);
     m_sim->setObserver(&m_watch);
     if (m_trace.isOpen())
