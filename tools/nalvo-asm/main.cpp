@@ -1,26 +1,23 @@
 // nalvo-asm: assembles a project as the window does, for makefiles and continuous integration.
 
-#include "BatchMsg.h"
-#include "BatchOptions.h"
+#include "AsmOptions.h"
+#include "AsmReport.h"
+#include "BatchFiles.h"
+#include "BatchModules.h"
 #include "BatchOutput.h"
 #include "BatchProcess.h"
-#include "BatchReport.h"
 
-#include "AsmFeFileHndlr.h"
 #include "ModAsmFe.h"
-#include "ModPrj.h"
-#include "ModProcessor.h"
-#include "ModSources.h"
-#include "ModulePhases.h"
-#include "Release.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-
-#include <algorithm>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace {
 
+using namespace nsBatch;
 using namespace nsNalvoAsm;
 
 enum eExitStatus_t
@@ -35,47 +32,50 @@ QString tr(const char* text)
     return QCoreApplication::translate("nalvo-asm", text);
 }
 
-/// The modules that a run without a window needs. They find one another as in the window; whoever asks for a module
-/// that is not here gets none and does without it.
-struct Modules
+/// Prints the closing line.
+void showSummary(const BatchMsg& msg, const BatchMsgStyle& style, bool success, int instructions,
+                 const QStringList& files)
 {
-    explicit Modules(const BatchOptions& options)
-        : msg(options)
-    {
-        for (ModPluginIf* module : std::initializer_list<ModPluginIf*>{&msg, &prj, &sources, &processor, &asmFe})
-            phases.append(module);
-        phases.start();
-        // The run is started below, once, and not by the opening of the project.
-        asmFe.setAssembleOnChange(false);
+    if (style.json) {
+        QStringList shown;
+        for (const QString& file : files)
+            shown.append(shownPath(file));
+        const QJsonObject object{{"result", success ? "assembled" : "failed"},
+                                 {"errors", msg.errors()},
+                                 {"warnings", msg.warnings()},
+                                 {"instructions", instructions},
+                                 {"files", QJsonArray::fromStringList(shown)}};
+        printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
+        return;
     }
-
-    BatchMsg msg;
-    nsModPrj::ModPrj prj;
-    nsModSources::ModSources sources;
-    nsModAsmFe::ModAsmFe asmFe;
-    nsModProcessor::ModProcessor processor;
-    ModulePhases phases;
-};
+    if (style.quiet)
+        return;
+    QStringList parts;
+    parts << (success ? tr("assembled") : tr("failed"));
+    parts << (msg.errors() == 1 ? tr("1 error") : tr("%1 errors").arg(msg.errors()));
+    parts << (msg.warnings() == 1 ? tr("1 warning") : tr("%1 warnings").arg(msg.warnings()));
+    if (style.werror && msg.warnings() > 0)
+        parts.last() += msg.warnings() == 1 ? tr(" (counts as an error)") : tr(" (count as errors)");
+    parts << (instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(instructions));
+    parts << (files.size() == 1 ? tr("1 file written") : tr("%1 files written").arg(files.size()));
+    printComplaint(parts.join(", "));
+}
 
 /// Writes the reports that the options ask for, and takes care that no file of the run is lost to one.
 class Reports
 {
 public:
-    Reports(Modules* modules, const QString& project)
+    Reports(BatchModules* modules, const QString& project)
         : m_modules(modules)
+        , m_taken(project, &modules->asmFe)
     {
-        nsModAsmFe::ModAsmFe& asmFe = modules->asmFe;
-        m_taken << project << asmFe.fileHndlr()->files();
-        for (const nsModAsmFe::IODev* dev : asmFe.ioDevList()->devices())
-            m_taken << dev->vhdlTemplateFile << dev->vhdlTargetFile << dev->verilogTemplateFile
-                    << dev->verilogTargetFile << dev->hexTargetFile << dev->memTargetFile;
     }
 
     bool write(const QString& file, QByteArray (*text)(nsModAsmFe::ModAsmFe*))
     {
         if (file.isEmpty())
             return true;
-        if (isTaken(file)) {
+        if (m_taken.contains(file)) {
             m_modules->msg.showErrorMessage(tr("File of the project would be overwritten: %1").arg(file), QUrl(), {});
             return false;
         }
@@ -93,26 +93,17 @@ public:
     QStringList written() const { return m_written; }
 
 private:
-    bool isTaken(const QString& file) const
-    {
-        const QString canonical = QFileInfo(file).canonicalFilePath();
-        return !canonical.isEmpty() && std::any_of(m_taken.cbegin(), m_taken.cend(), [&](const QString& taken) {
-            return QFileInfo(taken).canonicalFilePath() == canonical;
-        });
-    }
-
-    Modules* m_modules;
-    QStringList m_taken;
+    BatchModules* m_modules;
+    ProjectFiles m_taken;
     QStringList m_written;
 };
 
-int run(const BatchOptions& options)
+int run(const AsmOptions& options)
 {
-    // The process ends with the run: taking a large program apart piece by piece would only cost time.
-    static Modules& modules = *new Modules(options);
+    BatchModules& modules = BatchModules::create(options.style);
     const QString project = options.project.isEmpty() ? QString() : QFileInfo(options.project).absoluteFilePath();
     if (!modules.prj.openPrj(project)) {
-        modules.msg.showSummary(false, 0, {});
+        showSummary(modules.msg, options.style, false, 0, {});
         return exitWrongUsage;
     }
     modules.asmFe.assemble(options.event);
@@ -122,15 +113,15 @@ int run(const BatchOptions& options)
         reports.write(options.symbolsFile, symbolsText);
     }
     // A run that has reported an error counts as failed, even where the assembler could go on.
-    const bool success =
-        modules.asmFe.runSucceeded() && modules.msg.errors() == 0 && !(options.werror && modules.msg.warnings() > 0);
-    modules.msg.showSummary(success, modules.asmFe.opcodeList()->count(),
-                            modules.asmFe.writtenFiles() + reports.written());
+    const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 &&
+                         !(options.style.werror && modules.msg.warnings() > 0);
+    showSummary(modules.msg, options.style, success, modules.asmFe.opcodeList()->count(),
+                modules.asmFe.writtenFiles() + reports.written());
     return success ? exitAssembled : exitNotAssembled;
 }
 
 /// The exit status, worse if not everything came out.
-int finish(const BatchOptions& options, int status)
+int finish(const AsmOptions& options, int status)
 {
     const QString failure = stdoutFailure();
     if (failure.isEmpty())
@@ -141,28 +132,23 @@ int finish(const BatchOptions& options, int status)
     return status == exitAssembled ? exitNotAssembled : status;
 }
 
+int program(const QStringList& arguments)
+{
+    AsmOptions options;
+    switch (options.parse(arguments)) {
+    case AsmOptions::parseEnd:
+        return finish(options, exitAssembled);
+    case AsmOptions::parseWrong:
+        return exitWrongUsage;
+    case AsmOptions::parseRun:
+        break;
+    }
+    return finish(options, checkSourceDateEpoch() ? run(options) : exitWrongUsage);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
 {
-    setupProcess();
-    // The application takes the program's name alone: it has options of its own, which are none of ours.
-    char name[] = "nalvo-asm";
-    char* names[] = {name, nullptr};
-    int count = 1;
-    QCoreApplication application(count, names);
-    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
-    QStringList arguments = {name};
-    for (int i = 1; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    BatchOptions options;
-    switch (options.parse(arguments)) {
-    case BatchOptions::parseEnd:
-        return finish(options, exitAssembled);
-    case BatchOptions::parseWrong:
-        return exitWrongUsage;
-    case BatchOptions::parseRun:
-        break;
-    }
-    return finish(options, checkSourceDateEpoch() ? run(options) : exitWrongUsage);
+    return runProgram("nalvo-asm", argc, argv, program);
 }

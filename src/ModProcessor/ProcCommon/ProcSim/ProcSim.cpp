@@ -168,6 +168,7 @@ void ProcSim::forgetOpcodes()
 {
     m_running = 0;
     m_pc = nullptr;
+    m_start = nullptr;
     m_breakpoints.clear();
     m_breakpointsTaken = false;
     ++m_deletions;

@@ -123,6 +123,9 @@ public:
     bool getOpcodeOfCursor(nsModAsmFe::Opcode** result);
     /// The instruction that the simulation starts with; null if there is none.
     nsModAsmFe::Opcode* simStartPointer();
+    /// Where there is no editor to set a start mark in: simInit() and simRst() go to this instruction.
+    /// @param opcode null for the usual start; forgotten when the instructions are deleted
+    void setStart(nsModAsmFe::Opcode* opcode) { m_start = opcode; }
 
     // State. Null before simInit().
     ProcSimCoreData* core() const { return m_core.get(); }
@@ -279,6 +282,7 @@ private:
     Handler m_handlers[nsModAsmFe::ocCount];
     ProcCoreConfig m_config;
     QStringList m_pageNames; ///< by range: shared, then the pages
+    nsModAsmFe::Opcode* m_start = nullptr; ///< not owned
     int m_lineIndex = 0;
     int m_clocksOfInstr = 2;
     int m_lastPage = 1; ///< range of the page that was executed last

@@ -228,6 +228,8 @@ Opcode* ProcSim::simStartPointer()
 {
     QString path;
     int line = 0;
+    if (m_start != nullptr)
+        return m_start;
     OpcodeList* opcodes = modAsmFeHook->opcodeList();
     if (modEditorHook != nullptr && modEditorHook->simStartPointer(&path, &line)) {
         const int fileNo = modAsmFeHook->fileHndlr()->fileNo(path);

@@ -5,14 +5,19 @@
 
 #include <cstdio>
 
-namespace nsNalvoAsm {
+namespace nsBatch {
 
+/// The name in front of what the program says of itself; before anything is printed.
+void setProgramName(const QByteArray& name);
 /// Prints in one piece, so that the lines of several runs on one terminal do not mix.
 void print(std::FILE* stream, const QByteArray& text);
 /// The same with a line end behind.
 void printLine(std::FILE* stream, const QByteArray& line);
 /// Prints a message of the program itself on standard error, with its name in front.
 void printComplaint(const QString& text);
+/// Prints what is wrong with the command line, and where to find help.
+/// @return false
+bool wrongUsage(const QString& text);
 /// Hands over what waits for standard output.
 /// @return why anything that was printed there so far was lost, empty if nothing was
 QString stdoutFailure();
@@ -26,4 +31,4 @@ QString readable(const QString& text);
 /// The path as a user sees it: relative to the working folder.
 QString shownPath(const QString& path);
 
-} // namespace nsNalvoAsm
+} // namespace nsBatch

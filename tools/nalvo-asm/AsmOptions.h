@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BatchMsg.h"
 #include "ModAsmFe.h"
 
 #include <QString>
@@ -10,13 +11,8 @@ class QCommandLineParser;
 namespace nsNalvoAsm {
 
 /// What the command line asks for.
-struct BatchOptions
+struct AsmOptions
 {
-    enum eFormat_t
-    {
-        formatText,
-        formatJson
-    };
     enum eParse_t
     {
         parseRun,   ///< go on with the options
@@ -29,12 +25,9 @@ struct BatchOptions
 
     QString project;
     nsModAsmFe::ModAsmFe::eAssembleEvent_t event = nsModAsmFe::ModAsmFe::eEventButton1;
-    eFormat_t format = formatText;
+    nsBatch::BatchMsgStyle style;
     QString listingFile; ///< empty: none; "-": standard output
     QString symbolsFile; ///< empty: none; "-": standard output
-    bool werror = false;
-    bool quiet = false;   ///< errors alone
-    bool verbose = false; ///< info messages and groups too
 
 private:
     bool readProject(const QCommandLineParser& parser);

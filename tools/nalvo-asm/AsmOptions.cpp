@@ -1,13 +1,14 @@
-#include "BatchOptions.h"
+#include "AsmOptions.h"
 
+#include "BatchFiles.h"
 #include "BatchOutput.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace nsNalvoAsm {
 
+using namespace nsBatch;
 using nsModAsmFe::ModAsmFe;
 
 namespace {
@@ -55,24 +56,9 @@ void setup(QCommandLineParser* parser)
     parser->addPositionalArgument("PROJECT.nalvo", tr("The project to assemble."), "[--] PROJECT.nalvo");
 }
 
-bool wrongUsage(const QString& text)
-{
-    printComplaint(text);
-    printComplaint(tr("try nalvo-asm --help"));
-    return false;
-}
-
-/// The file that a name leads to, existing or not.
-QString target(const QString& name)
-{
-    const QFileInfo info(name);
-    return info.exists() ? info.canonicalFilePath()
-                         : QFileInfo(info.path()).canonicalFilePath() + '/' + info.fileName();
-}
-
 } // namespace
 
-BatchOptions::eParse_t BatchOptions::parse(const QStringList& arguments)
+AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     setup(&parser);
@@ -91,7 +77,7 @@ BatchOptions::eParse_t BatchOptions::parse(const QStringList& arguments)
     return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
 }
 
-bool BatchOptions::readProject(const QCommandLineParser& parser)
+bool AsmOptions::readProject(const QCommandLineParser& parser)
 {
     const QStringList projects = parser.positionalArguments();
     if (projects.isEmpty())
@@ -102,13 +88,13 @@ bool BatchOptions::readProject(const QCommandLineParser& parser)
     return true;
 }
 
-bool BatchOptions::readChoices(const QCommandLineParser& parser)
+bool AsmOptions::readChoices(const QCommandLineParser& parser)
 {
     static const QHash<QString, ModAsmFe::eAssembleEvent_t> events = {{"none", ModAsmFe::eEventNone},
                                                                       {"button1", ModAsmFe::eEventButton1},
                                                                       {"button2", ModAsmFe::eEventButton2},
                                                                       {"save", ModAsmFe::eEventSave}};
-    static const QHash<QString, eFormat_t> formats = {{"text", formatText}, {"json", formatJson}};
+    static const QHash<QString, bool> formats = {{"text", false}, {"json", true}};
     const QString eventName = parser.value("event");
     const QString formatName = parser.value("format");
     if (!events.contains(eventName))
@@ -116,14 +102,14 @@ bool BatchOptions::readChoices(const QCommandLineParser& parser)
     if (!formats.contains(formatName))
         return wrongUsage(tr("Unknown format: %1").arg(formatName));
     event = events.value(eventName);
-    format = formats.value(formatName);
-    werror = parser.isSet("werror");
-    quiet = parser.isSet("q");
-    verbose = parser.isSet("v");
-    return quiet && verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;
+    style.json = formats.value(formatName);
+    style.werror = parser.isSet("werror");
+    style.quiet = parser.isSet("q");
+    style.verbose = parser.isSet("v");
+    return style.quiet && style.verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;
 }
 
-bool BatchOptions::readFiles(const QCommandLineParser& parser)
+bool AsmOptions::readFiles(const QCommandLineParser& parser)
 {
     listingFile = parser.value("listing");
     symbolsFile = parser.value("symbols");
@@ -131,11 +117,11 @@ bool BatchOptions::readFiles(const QCommandLineParser& parser)
         return wrongUsage(tr("The name of the listing file is empty."));
     if (parser.isSet("symbols") && symbolsFile.isEmpty())
         return wrongUsage(tr("The name of the symbols file is empty."));
-    const int atStdout = int(listingFile == "-") + int(symbolsFile == "-") + int(format == formatJson);
+    const int atStdout = int(listingFile == "-") + int(symbolsFile == "-") + int(style.json);
     if (atStdout > 1)
         return wrongUsage(tr("Only one of JSON messages, listing and symbols can go to standard output."));
     const bool bothFiles = !listingFile.isEmpty() && !symbolsFile.isEmpty() && atStdout == 0;
-    if (bothFiles && target(listingFile) == target(symbolsFile) && !target(listingFile).startsWith("/dev/"))
+    if (bothFiles && isSameTarget(listingFile, symbolsFile))
         return wrongUsage(tr("Listing and symbols can not go to the same file: %1").arg(listingFile));
     return true;
 }

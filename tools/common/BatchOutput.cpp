@@ -5,10 +5,11 @@
 #include <cerrno>
 #include <cstring>
 
-namespace nsNalvoAsm {
+namespace nsBatch {
 
 namespace {
 
+QByteArray program;  ///< in front of complaints
 int stdoutError = 0; ///< why the first text for standard output was lost
 
 void noteStdout(bool success)
@@ -43,6 +44,11 @@ QString sequenceAt(const QString& text, int pos, int* length)
 
 } // namespace
 
+void setProgramName(const QByteArray& name)
+{
+    program = name;
+}
+
 void print(std::FILE* stream, const QByteArray& text)
 {
     errno = 0;
@@ -58,7 +64,14 @@ void printLine(std::FILE* stream, const QByteArray& line)
 
 void printComplaint(const QString& text)
 {
-    printLine(stderr, "nalvo-asm: " + oneLine(text).toLocal8Bit());
+    printLine(stderr, program + ": " + oneLine(text).toLocal8Bit());
+}
+
+bool wrongUsage(const QString& text)
+{
+    printComplaint(text);
+    printComplaint("try " + QString::fromLatin1(program) + " --help");
+    return false;
 }
 
 QString stdoutFailure()
@@ -102,4 +115,4 @@ QString shownPath(const QString& path)
     return path.isEmpty() ? path : working.relativeFilePath(path);
 }
 
-} // namespace nsNalvoAsm
+} // namespace nsBatch

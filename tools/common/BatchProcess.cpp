@@ -1,6 +1,7 @@
 #include "BatchProcess.h"
 
 #include "BatchOutput.h"
+#include "Release.h"
 
 #include <QCoreApplication>
 
@@ -9,7 +10,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace nsNalvoAsm {
+namespace nsBatch {
 
 namespace {
 
@@ -29,14 +30,34 @@ void occupyStandardStreams()
     }
 }
 
-} // namespace
-
+/// Makes the process safe to run in any surroundings: before anything else in main().
+///
+/// - A standard stream that is closed stays unusable, instead of being taken by the first file that is opened.
+/// - A reader of the messages that goes away early does not end the run halfway through its output files.
 void setupProcess()
 {
     occupyStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
     // What the libraries have to say about the environment is no message of a run.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+}
+
+} // namespace
+
+int runProgram(const char* program, int argc, char** argv, int (*run)(const QStringList& arguments))
+{
+    setupProcess();
+    setProgramName(program);
+    // The application takes the program's name alone: it has options of its own, which are none of ours.
+    QByteArray name(program);
+    char* names[] = {name.data(), nullptr};
+    int count = 1;
+    QCoreApplication application(count, names);
+    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+    QStringList arguments = {QString::fromLatin1(program)};
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return run(arguments);
 }
 
 bool checkSourceDateEpoch()
@@ -48,9 +69,9 @@ bool checkSourceDateEpoch()
     const qint64 epoch = text.toLongLong(&ok);
     if (ok && epoch >= firstEpoch && epoch <= lastEpoch)
         return true;
-    printComplaint(QCoreApplication::translate("nalvo-asm", "SOURCE_DATE_EPOCH is no time in seconds since 1970: %1")
+    printComplaint(QCoreApplication::translate("nsBatch", "SOURCE_DATE_EPOCH is no time in seconds since 1970: %1")
                        .arg(QString::fromLocal8Bit(text)));
     return false;
 }
 
-} // namespace nsNalvoAsm
+} // namespace nsBatch

@@ -37,7 +37,7 @@ struct AsmToolSetup
 {
     QString folder;          ///< working folder; empty: that of the project
     QProcessEnvironment env; ///< filled by the fixture
-    QString program = NALVO_ASM;
+    QString program = NALVO_TOOL;
     QString stdinFile = "/dev/null";
     QString stdoutFile;            ///< empty: what is printed comes back in the result
     QString stderrFile;            ///< the same
@@ -61,7 +61,7 @@ private:
     std::function<void()> m_inChild;
 };
 
-/// Starts the batch assembler on projects in a temporary folder. Nothing is read from or written to the folders of
+/// Starts a batch program on projects in a temporary folder. Nothing is read from or written to the folders of
 /// whoever runs the tests.
 class AsmToolTest : public ::testing::Test
 {

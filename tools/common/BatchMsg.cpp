@@ -4,12 +4,11 @@
 
 #include "ModMsgPluginIf.h"
 
-#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace nsNalvoAsm {
+namespace nsBatch {
 
 namespace {
 
@@ -26,15 +25,10 @@ const char* severity(ModMsgHookIf::eMsgType_t type)
     return "error";
 }
 
-QString tr(const char* text)
-{
-    return QCoreApplication::translate("nalvo-asm", text);
-}
-
 } // namespace
 
-BatchMsg::BatchMsg(const BatchOptions& options)
-    : m_options(options)
+BatchMsg::BatchMsg(const BatchMsgStyle& style)
+    : m_style(style)
 {
 }
 
@@ -70,7 +64,7 @@ void BatchMsg::modRegisterPlugins(QList<ModPluginIf*> modules)
 
 void BatchMsg::openMessageGroup(QString text, QUrl hlpDoc)
 {
-    if (m_options.verbose && m_options.format == BatchOptions::formatText)
+    if (m_style.verbose && !m_style.json)
         printText(eMsgInfo, text, hlpDoc.fragment(), QString(), -1);
     m_groups.append(text);
 }
@@ -84,8 +78,8 @@ void BatchMsg::closeMessageGroup(bool)
 bool BatchMsg::isShown(eMsgType_t type) const
 {
     // A warning that makes the run fail is never hidden.
-    const bool warningCounts = !m_options.quiet || m_options.werror;
-    return type == eMsgError || (type == eMsgWarning && warningCounts) || (type == eMsgInfo && m_options.verbose);
+    const bool warningCounts = !m_style.quiet || m_style.werror;
+    return type == eMsgError || (type == eMsgWarning && warningCounts) || (type == eMsgInfo && m_style.verbose);
 }
 
 void BatchMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile)
@@ -98,7 +92,7 @@ void BatchMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg:
         return;
     const QString file = shownPath(srcFile.path());
     const int line = srcFile.hasFragment() ? srcFile.fragment().toInt() + 1 : -1;
-    if (m_options.format == BatchOptions::formatJson)
+    if (m_style.json)
         printJson(type, text, hlpDoc.fragment(), file, line);
     else
         printText(type, text, hlpDoc.fragment(), file, line);
@@ -143,31 +137,4 @@ void BatchMsg::printJson(eMsgType_t type, const QString& text, const QString& ke
     printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-void BatchMsg::showSummary(bool success, int instructions, const QStringList& files)
-{
-    if (m_options.format == BatchOptions::formatJson) {
-        QStringList shown;
-        for (const QString& file : files)
-            shown.append(shownPath(file));
-        const QJsonObject object{{"result", success ? "assembled" : "failed"},
-                                 {"errors", m_errors},
-                                 {"warnings", m_warnings},
-                                 {"instructions", instructions},
-                                 {"files", QJsonArray::fromStringList(shown)}};
-        printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
-        return;
-    }
-    if (m_options.quiet)
-        return;
-    QStringList parts;
-    parts << (success ? tr("assembled") : tr("failed"));
-    parts << (m_errors == 1 ? tr("1 error") : tr("%1 errors").arg(m_errors));
-    parts << (m_warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(m_warnings));
-    if (m_options.werror && m_warnings > 0)
-        parts.last() += m_warnings == 1 ? tr(" (counts as an error)") : tr(" (count as errors)");
-    parts << (instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(instructions));
-    parts << (files.size() == 1 ? tr("1 file written") : tr("%1 files written").arg(files.size()));
-    printComplaint(parts.join(", "));
-}
-
-} // namespace nsNalvoAsm
+} // namespace nsBatch

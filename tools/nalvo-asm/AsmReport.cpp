@@ -1,22 +1,22 @@
-#include "BatchReport.h"
+#include "AsmReport.h"
 
 #include "AsmFeFileHndlr.h"
+#include "BatchFiles.h"
 #include "BatchOutput.h"
 #include "LineReader.h"
 #include "ModAsmFe.h"
 #include "Opcode.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QSaveFile>
 
 #include <algorithm>
 
 namespace nsNalvoAsm {
 
+using namespace nsBatch;
 using namespace nsModAsmFe;
 
 namespace {
@@ -90,14 +90,6 @@ QString equKind(const Arg* arg)
     }
 }
 
-/// A file is written aside and renamed. A device or a pipe must be written directly, as it would be lost.
-bool isReplaceable(const QString& file)
-{
-    const QFileInfo info(file);
-    const QString path = info.absoluteFilePath();
-    return (!info.exists() || info.isFile()) && !path.startsWith("/dev/") && !path.startsWith("/proc/");
-}
-
 } // namespace
 
 QByteArray listingText(ModAsmFe* asmFe)
@@ -151,20 +143,11 @@ QByteArray symbolsText(ModAsmFe* asmFe)
 
 QString writeReport(const QString& file, const QByteArray& text)
 {
-    if (file == "-") {
-        print(stdout, text);
-        return stdoutFailure();
-    }
-    if (!isReplaceable(file)) {
-        QFile device(file);
-        if (!device.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-            return device.errorString();
-        return device.write(text) == text.size() ? QString() : device.errorString();
-    }
-    QSaveFile report(file);
-    report.setDirectWriteFallback(true);
-    const bool written = report.open(QIODevice::WriteOnly) && report.write(text) == text.size() && report.commit();
-    return written ? QString() : report.errorString();
+    OutputFile report;
+    const QString failure = report.open(file);
+    if (!failure.isEmpty())
+        return failure;
+    return report.write(text) ? report.commit() : report.failure();
 }
 
 } // namespace nsNalvoAsm

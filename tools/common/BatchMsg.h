@@ -1,24 +1,30 @@
 #pragma once
 
-#include "BatchOptions.h"
 #include "ModMsgHookIf.h"
 #include "ModPluginIf.h"
 #include "PluginList.h"
 
 #include <QStringList>
 
-namespace nsNalvoAsm {
+namespace nsBatch {
 
-/// The message service of the batch assembler: prints each message as it comes, and counts.
+/// Which messages are printed, and how.
+struct BatchMsgStyle
+{
+    bool json = false;    ///< one object a line on standard output, instead of text on standard error
+    bool werror = false;  ///< warnings make the run fail
+    bool quiet = false;   ///< errors alone
+    bool verbose = false; ///< info messages and groups too
+};
+
+/// The message service of a program without a window: prints each message as it comes, and counts.
 class BatchMsg : public ModMsgHookIf, public ModPluginIf
 {
 public:
-    explicit BatchMsg(const BatchOptions& options);
+    explicit BatchMsg(const BatchMsgStyle& style);
 
     int errors() const { return m_errors; }
     int warnings() const { return m_warnings; }
-    /// Prints the closing line.
-    void showSummary(bool success, int instructions, const QStringList& files);
 
     // ModMsgHookIf
     void registerPlugin(ModMsgPluginIfInterMod* plugin) override;
@@ -50,11 +56,11 @@ private:
     void printText(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
     void printJson(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
 
-    BatchOptions m_options;
+    BatchMsgStyle m_style;
     PluginList<ModMsgPluginIf> m_plugins;
     QStringList m_groups;
     int m_errors = 0;
     int m_warnings = 0;
 };
 
-} // namespace nsNalvoAsm
+} // namespace nsBatch

@@ -1,0 +1,102 @@
+#include "BatchFiles.h"
+
+#include "AsmFeFileHndlr.h"
+#include "IODev.h"
+#include "IODevList.h"
+#include "ModAsmFe.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace nsBatch {
+
+namespace {
+
+/// A file is written aside and renamed. A device or a pipe must be written directly, as it would be lost.
+bool isReplaceable(const QString& file)
+{
+    const QFileInfo info(file);
+    const QString path = info.absoluteFilePath();
+    return (!info.exists() || info.isFile()) && !path.startsWith("/dev/") && !path.startsWith("/proc/");
+}
+
+} // namespace
+
+QString targetOf(const QString& name)
+{
+    const QFileInfo info(name);
+    return info.exists() ? info.canonicalFilePath()
+                         : QFileInfo(info.path()).canonicalFilePath() + '/' + info.fileName();
+}
+
+bool isSameTarget(const QString& name, const QString& other)
+{
+    const QString target = targetOf(name);
+    return target == targetOf(other) && !target.startsWith("/dev/");
+}
+
+ProjectFiles::ProjectFiles(const QString& project, nsModAsmFe::ModAsmFe* asmFe)
+{
+    m_files << project << asmFe->fileHndlr()->files();
+    for (const nsModAsmFe::IODev* dev : asmFe->ioDevList()->devices())
+        m_files << dev->vhdlTemplateFile << dev->vhdlTargetFile << dev->verilogTemplateFile << dev->verilogTargetFile
+                << dev->hexTargetFile << dev->memTargetFile;
+}
+
+bool ProjectFiles::contains(const QString& file) const
+{
+    const QString canonical = QFileInfo(file).canonicalFilePath();
+    return !canonical.isEmpty() && std::any_of(m_files.cbegin(), m_files.cend(), [&](const QString& taken) {
+        return QFileInfo(taken).canonicalFilePath() == canonical;
+    });
+}
+
+QString OutputFile::open(const QString& name)
+{
+    m_name = name;
+    m_saveFile = nullptr;
+    std::unique_ptr<QFileDevice> device;
+    bool opened = false;
+    if (name == "-") {
+        auto file = std::make_unique<QFile>();
+        opened = file->open(STDOUT_FILENO, QIODevice::WriteOnly | QIODevice::Unbuffered);
+        device = std::move(file);
+    } else if (!isReplaceable(name)) {
+        device = std::make_unique<QFile>(name);
+        opened = device->open(QIODevice::WriteOnly | QIODevice::Unbuffered);
+    } else {
+        auto file = std::make_unique<QSaveFile>(name);
+        file->setDirectWriteFallback(true);
+        opened = file->open(QIODevice::WriteOnly);
+        m_saveFile = file.get();
+        device = std::move(file);
+    }
+    if (!opened)
+        return device->errorString();
+    m_device = std::move(device);
+    return QString();
+}
+
+bool OutputFile::write(const char* text, qint64 size)
+{
+    // A device that takes a part does not say why. It does so when it is given the rest.
+    while (size > 0) {
+        const qint64 taken = m_device->write(text, size);
+        if (taken <= 0)
+            return false;
+        text += taken;
+        size -= taken;
+    }
+    return true;
+}
+
+QString OutputFile::commit()
+{
+    const bool committed = m_saveFile == nullptr || m_saveFile->commit();
+    return committed ? QString() : m_device->errorString();
+}
+
+} // namespace nsBatch

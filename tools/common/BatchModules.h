@@ -1,0 +1,42 @@
+#pragma once
+
+#include "BatchMsg.h"
+#include "ModAsmFe.h"
+#include "ModPrj.h"
+#include "ModProcessor.h"
+#include "ModSources.h"
+#include "ModulePhases.h"
+
+namespace nsBatch {
+
+/// The modules that a run without a window needs. They find one another as in the window; whoever asks for a module
+/// that is not here gets none and does without it.
+///
+/// They live until the process ends: taking a large program apart piece by piece would only cost time.
+struct BatchModules
+{
+    static BatchModules& create(const BatchMsgStyle& style) { return *new BatchModules(style); }
+
+    BatchModules(const BatchModules&) = delete;
+    BatchModules& operator=(const BatchModules&) = delete;
+
+    BatchMsg msg;
+    nsModPrj::ModPrj prj;
+    nsModSources::ModSources sources;
+    nsModAsmFe::ModAsmFe asmFe;
+    nsModProcessor::ModProcessor processor;
+    ModulePhases phases;
+
+private:
+    explicit BatchModules(const BatchMsgStyle& style)
+        : msg(style)
+    {
+        for (ModPluginIf* module : std::initializer_list<ModPluginIf*>{&msg, &prj, &sources, &processor, &asmFe})
+            phases.append(module);
+        phases.start();
+        // The run is started by the program, once, and not by the opening of the project.
+        asmFe.setAssembleOnChange(false);
+    }
+};
+
+} // namespace nsBatch

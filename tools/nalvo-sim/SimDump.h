@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QtGlobal>
+
+namespace nsModAsmFe {
+class ModAsmFe;
+}
+namespace nsProc {
+class ProcShell;
+class ProcSim;
+} // namespace nsProc
+
+namespace nsNalvoSim {
+
+/// Why a run ended.
+struct SimEnd
+{
+    enum eReason_t
+    {
+        endInstructions, ///< bound
+        endClocks,       ///< bound
+        endLabel,
+        endMessage, ///< of the simulator
+        endReads,   ///< a read found no value
+        endSignal,
+        endFile, ///< a file could not be read or written on the way
+    };
+
+    eReason_t reason = endInstructions;
+    QString key;  ///< of the message; empty if none
+    QString text; ///< for people
+};
+
+/// The word that stands for a reason in the dump.
+const char* reasonName(SimEnd::eReason_t reason);
+
+/// The state of the simulator as JSON.
+/// @param sim a simulator that has a state
+QByteArray dumpText(nsModAsmFe::ModAsmFe* asmFe, nsProc::ProcShell* shell, const nsProc::ProcSim* sim,
+                    qint64 instructions, const SimEnd& end);
+
+} // namespace nsNalvoSim

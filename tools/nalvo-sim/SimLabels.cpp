@@ -1,0 +1,100 @@
+#include "SimLabels.h"
+
+#include "BatchOutput.h"
+#include "Label.h"
+#include "LabelList.h"
+#include "ModAsmFe.h"
+#include "Opcode.h"
+#include "OpcodeList.h"
+#include "SymbolHash.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+namespace nsNalvoSim {
+
+using namespace nsModAsmFe;
+
+namespace {
+
+const int shownNames = 5;
+const int longestName = 64; ///< names beyond that are only compared as a whole
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("nalvo-sim", text);
+}
+
+/// How many characters have to be inserted, deleted or replaced to make one text of the other.
+int distance(const QString& a, const QString& b)
+{
+    std::vector<int> row(size_t(b.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int replaced = diagonal + int(a.at(i - 1) != b.at(j - 1));
+            diagonal = row[size_t(j)];
+            row[size_t(j)] = std::min({replaced, diagonal + 1, row[size_t(j) - 1] + 1});
+        }
+    }
+    return row.back();
+}
+
+QString withoutNameSpace(const QString& name)
+{
+    const int colons = name.lastIndexOf("::");
+    return colons < 0 ? name : name.mid(colons + 2);
+}
+
+} // namespace
+
+QStringList nearNames(const QStringList& names, const QString& wanted)
+{
+    const QString lower = wanted.toLower();
+    const QString local = withoutNameSpace(lower);
+    const int limit = std::max(2, local.size() / 3);
+    std::vector<std::pair<int, QString>> ranked;
+    for (const QString& name : names) {
+        const QString other = name.toLower();
+        const QString otherLocal = withoutNameSpace(other);
+        int rank = otherLocal == local ? int(other != lower) : limit + 1;
+        const bool isComparable = lower.size() <= longestName && other.size() <= longestName;
+        if (rank > limit && isComparable)
+            rank = 1 + std::min(distance(lower, other), distance(local, otherLocal));
+        if (rank <= limit + 1 && (isComparable || rank <= 1))
+            ranked.emplace_back(rank, name);
+    }
+    std::sort(ranked.begin(), ranked.end());
+    ranked.erase(std::unique(ranked.begin(), ranked.end()), ranked.end());
+    QStringList result;
+    for (size_t i = 0; i < ranked.size() && i < size_t(shownNames); ++i)
+        result.append(ranked[i].second);
+    return result;
+}
+
+Opcode* opcodeOfLabel(ModAsmFe* asmFe, const QString& name, QString* failure)
+{
+    // A name of a source is bytes, one a character, as the assembler reads them.
+    const QString bytes = QString::fromLatin1(name.toUtf8());
+    const int colons = bytes.lastIndexOf("::");
+    const QString nameSpace = colons < 0 ? QString() : bytes.left(colons);
+    const Label* label = asmFe->labelList()->find(nameSpace, withoutNameSpace(bytes));
+    if (label == nullptr) {
+        *failure = tr("No such label: %1").arg(name);
+        const QStringList near = nearNames(asmFe->labelList()->nameList(), bytes);
+        if (!near.isEmpty())
+            *failure += tr(" (near: %1)").arg(nsBatch::readable(near.join(", ")));
+        return nullptr;
+    }
+    Opcode* opcode = asmFe->opcodeList()->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
+    if (opcode == nullptr)
+        *failure = tr("No instruction stands at or behind the label: %1").arg(name);
+    return opcode;
+}
+
+} // namespace nsNalvoSim

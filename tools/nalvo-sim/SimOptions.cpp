@@ -1,0 +1,269 @@
+#include "SimOptions.h"
+
+#include "BatchFiles.h"
+#include "BatchOutput.h"
+
+#include <QCommandLineParser>
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cctype>
+
+namespace nsNalvoSim {
+
+using namespace nsBatch;
+
+namespace {
+
+const qint64 defaultInstructions = 1000000;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("nalvo-sim", text);
+}
+
+// The parser breaks the lines of the options, but not these.
+const char* const description = "Assembles a Nalvo project in memory and runs it in the simulator, without a\n"
+                                "display. Nothing of the project is changed, and none of its output files are\n"
+                                "written.\n"
+                                "\n"
+                                "The run ends when a bound or the label is reached, with a message of the\n"
+                                "simulator, when a read finds no value, or with an interrupt signal. With neither\n"
+                                "bound given, it ends after one million instructions. Numbers are decimal, or\n"
+                                "hexadecimal with 0x in front. Labels are written NAMESPACE::LABEL.\n"
+                                "\n"
+                                "Files of values hold one hexadecimal byte a line; blank lines and comments\n"
+                                "behind ; or # do not count. A device of the project answers before any file.\n"
+                                "\n"
+                                "The trace has one event a line, numbers in hexadecimal:\n"
+                                "    I aaa wwwww  instruction executed: address, word\n"
+                                "    R pp vv      port read: port, value\n"
+                                "    W pp vv      port written: port, value\n"
+                                "    S aa vv      scratchpad written: address, value\n"
+                                "    INT          interrupt entered\n"
+                                "\n"
+                                "Messages go to standard error, one a line:\n"
+                                "    path:line: error: text [key]\n"
+                                "\n"
+                                "Exit status:\n"
+                                "    0    the bound or the label was reached\n"
+                                "    1    not assembled\n"
+                                "    2    wrong usage, or a file can not be read or written\n"
+                                "    3    stopped by a message of the simulator, or by a read without a value\n"
+                                "    130  ended by an interrupt signal; the files are written\n"
+                                "\n"
+                                "With SOURCE_DATE_EPOCH in the environment, waves have that time as their date.";
+
+void setup(QCommandLineParser* parser)
+{
+    parser->setApplicationDescription(tr(description));
+    parser->addOptions({
+        {{"n", "instructions"}, tr("End after N instructions."), tr("N")},
+        {"max-clocks", tr("End with the instruction that reaches N clock cycles."), tr("N")},
+        {"start", tr("Start at LABEL, as with the start mark there."), tr("LABEL")},
+        {"until",
+         tr("End when the program comes to LABEL, before what stands there is executed. One instruction at least is "
+            "executed."),
+         tr("LABEL")},
+        {"reads",
+         tr("Values for all reads of ports that have no source of their own, in the order of the reads. - is standard "
+            "input."),
+         tr("FILE")},
+        {"port", tr("Values for the reads of one port. Can be given for several ports."), tr("ADDR=FILE")},
+        {"hwbuild", tr("What HWBUILD reads: 0 (default) to 255."), tr("V")},
+        {"interrupt-every",
+         tr("Raise an interrupt before the instructions N, 2N, 3N and so on, if interrupts are enabled then."),
+         tr("N")},
+        {"interrupt-at", tr("The same before the Nth instruction, counted from 1."), tr("N[,N...]")},
+        {"trace", tr("Write the trace to FILE. - is standard output."), tr("FILE")},
+        {"vcd", tr("Write the values at all ports as waves (VCD) to FILE. - is standard output."), tr("FILE")},
+        {"dump", tr("Write the final state as JSON to FILE. - is standard output."), tr("FILE")},
+        {"q", tr("Show errors alone, and no summary.")},
+        {{"h", "help"}, tr("Show this help.")},
+        {"version", tr("Show the version.")},
+    });
+    parser->addPositionalArgument("PROJECT.nalvo", tr("The project to run."), "[--] PROJECT.nalvo");
+}
+
+/// A number, decimal or with 0x hexadecimal.
+/// @return false, with nothing changed, if the text is anything else or the number is out of range
+bool toNumber(const QString& text, qint64 minimum, qint64 maximum, qint64* value)
+{
+    const bool isHex = text.startsWith("0x", Qt::CaseInsensitive);
+    const QString digits = isHex ? text.mid(2) : text;
+    const bool isClean = std::all_of(digits.cbegin(), digits.cend(), [isHex](QChar c) {
+        const char ascii = c.toLatin1();
+        return (ascii >= '0' && ascii <= '9') || (isHex && std::isxdigit(static_cast<unsigned char>(ascii)) != 0);
+    });
+    bool ok = false;
+    const qint64 number = digits.toLongLong(&ok, isHex ? 16 : 10);
+    if (!isClean || !ok || number < minimum || number > maximum)
+        return false;
+    *value = number;
+    return true;
+}
+
+/// Reads the value of an option, if that is given.
+bool readNumber(const QCommandLineParser& parser, const QString& name, qint64 minimum, qint64 maximum, qint64* value)
+{
+    if (!parser.isSet(name) || toNumber(parser.value(name), minimum, maximum, value))
+        return true;
+    return wrongUsage(
+        maximum == SimOptions::unbounded
+            ? tr("--%1 takes a number from %2 on: %3").arg(name, QString::number(minimum), parser.value(name))
+            : tr("--%1 takes a number from %2 to %3: %4")
+                  .arg(name, QString::number(minimum), QString::number(maximum), parser.value(name)));
+}
+
+} // namespace
+
+SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
+{
+    QCommandLineParser parser;
+    setup(&parser);
+    if (!parser.parse(arguments)) {
+        wrongUsage(parser.errorText());
+        return parseWrong;
+    }
+    if (parser.isSet("help")) {
+        print(stdout, parser.helpText().toLocal8Bit());
+        return parseEnd;
+    }
+    if (parser.isSet("version")) {
+        printLine(stdout, "nalvo-sim " + QCoreApplication::applicationVersion().toLocal8Bit());
+        return parseEnd;
+    }
+    quiet = parser.isSet("q");
+    const bool isRight = readProject(parser) && readBounds(parser) && readInterrupts(parser) && readLabels(parser) &&
+                         readInputs(parser) && readOutputs(parser) && checkFiles();
+    return isRight ? parseRun : parseWrong;
+}
+
+bool SimOptions::readProject(const QCommandLineParser& parser)
+{
+    const QStringList projects = parser.positionalArguments();
+    if (projects.isEmpty())
+        return wrongUsage(tr("No project given."));
+    if (projects.size() > 1)
+        return wrongUsage(tr("More than one project given: %1").arg(projects.join(", ")));
+    project = projects.first();
+    return true;
+}
+
+bool SimOptions::readBounds(const QCommandLineParser& parser)
+{
+    if (!parser.isSet("instructions") && !parser.isSet("max-clocks"))
+        instructions = defaultInstructions;
+    qint64 build = 0;
+    const bool success = readNumber(parser, "instructions", 0, unbounded, &instructions) &&
+                         readNumber(parser, "max-clocks", 0, unbounded, &clocks) &&
+                         readNumber(parser, "hwbuild", 0, 255, &build);
+    hwbuild = int(build);
+    return success;
+}
+
+bool SimOptions::readInterrupts(const QCommandLineParser& parser)
+{
+    if (!readNumber(parser, "interrupt-every", 1, unbounded, &interruptEvery))
+        return false;
+    for (const QString& list : parser.values("interrupt-at")) {
+        for (const QString& text : list.split(',')) {
+            qint64 number = 0;
+            if (!toNumber(text, 1, unbounded, &number))
+                return wrongUsage(tr("--interrupt-at takes numbers from 1 on, with commas between: %1").arg(list));
+            interruptAt.push_back(number);
+        }
+    }
+    std::sort(interruptAt.begin(), interruptAt.end());
+    interruptAt.erase(std::unique(interruptAt.begin(), interruptAt.end()), interruptAt.end());
+    return true;
+}
+
+bool SimOptions::readLabels(const QCommandLineParser& parser)
+{
+    start = parser.value("start");
+    until = parser.value("until");
+    if (parser.isSet("start") && start.isEmpty())
+        return wrongUsage(tr("The name of the start label is empty."));
+    if (parser.isSet("until") && until.isEmpty())
+        return wrongUsage(tr("The name of the end label is empty."));
+    return true;
+}
+
+bool SimOptions::readInputs(const QCommandLineParser& parser)
+{
+    readsFile = parser.value("reads");
+    if (parser.isSet("reads") && readsFile.isEmpty())
+        return wrongUsage(tr("The name of the file of reads is empty."));
+    for (const QString& text : parser.values("port")) {
+        if (!readPort(text))
+            return false;
+    }
+    const QStringList ports = portFiles.values();
+    if (int(readsFile == "-") + ports.count("-") > 1)
+        return wrongUsage(tr("Only one of the inputs can come from standard input."));
+    return true;
+}
+
+bool SimOptions::readPort(const QString& text)
+{
+    const int equals = text.indexOf('=');
+    qint64 port = 0;
+    if (equals < 0 || !toNumber(text.left(equals), 0, 255, &port))
+        return wrongUsage(tr("--port takes an address from 0 to 255, = and a file: %1").arg(text));
+    if (text.size() == equals + 1)
+        return wrongUsage(tr("The name of the file of a port is empty: %1").arg(text));
+    if (portFiles.contains(int(port)))
+        return wrongUsage(tr("Two files for one port: %1").arg(text));
+    portFiles.insert(int(port), text.mid(equals + 1));
+    return true;
+}
+
+bool SimOptions::readOutputs(const QCommandLineParser& parser)
+{
+    traceFile = parser.value("trace");
+    vcdFile = parser.value("vcd");
+    dumpFile = parser.value("dump");
+    for (const char* name : {"trace", "vcd", "dump"}) {
+        if (parser.isSet(name) && parser.value(name).isEmpty())
+            return wrongUsage(tr("The name of the file is empty: --%1").arg(name));
+    }
+    if (int(traceFile == "-") + int(vcdFile == "-") + int(dumpFile == "-") > 1)
+        return wrongUsage(tr("Only one of trace, waves and dump can go to standard output."));
+    return true;
+}
+
+QStringList SimOptions::inputFiles() const
+{
+    QStringList files = QStringList(readsFile) + portFiles.values();
+    files.removeAll(QString());
+    files.removeAll("-");
+    return files;
+}
+
+QStringList SimOptions::outputFiles() const
+{
+    QStringList files = {traceFile, vcdFile, dumpFile};
+    files.removeAll(QString());
+    files.removeAll("-");
+    return files;
+}
+
+bool SimOptions::checkFiles() const
+{
+    const QStringList outputs = outputFiles();
+    const QStringList inputs = inputFiles();
+    for (int i = 0; i < outputs.size(); ++i) {
+        for (int j = 0; j < i; ++j) {
+            if (isSameTarget(outputs.at(j), outputs.at(i)))
+                return wrongUsage(tr("Two outputs can not go to the same file: %1").arg(outputs.at(i)));
+        }
+        for (const QString& input : inputs) {
+            if (isSameTarget(input, outputs.at(i)))
+                return wrongUsage(tr("An output would overwrite an input: %1").arg(outputs.at(i)));
+        }
+    }
+    return true;
+}
+
+} // namespace nsNalvoSim

@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QMap>
+#include <QString>
+#include <QStringList>
+#include <QtGlobal>
+
+#include <limits>
+#include <vector>
+
+class QCommandLineParser;
+
+namespace nsNalvoSim {
+
+/// What the command line asks for.
+struct SimOptions
+{
+    enum eParse_t
+    {
+        parseRun,   ///< go on with the options
+        parseEnd,   ///< help or version was shown
+        parseWrong, ///< the command line is wrong, which was told
+    };
+    static constexpr qint64 unbounded = std::numeric_limits<qint64>::max();
+
+    /// Reads the arguments, and shows help, version or what is wrong with them.
+    eParse_t parse(const QStringList& arguments);
+    /// The files that are read, without standard input.
+    QStringList inputFiles() const;
+    /// The files that are written, without standard output.
+    QStringList outputFiles() const;
+
+    QString project;
+    qint64 instructions = unbounded; ///< the run ends when so many are executed
+    qint64 clocks = unbounded;       ///< the run ends when the count is reached
+    QString start;                   ///< label; empty: as the project starts
+    QString until;                   ///< label; empty: none
+    QString readsFile;               ///< empty: none; "-": standard input
+    QMap<int, QString> portFiles;    ///< by port
+    int hwbuild = 0;
+    qint64 interruptEvery = 0;       ///< 0: never
+    std::vector<qint64> interruptAt; ///< numbers of instructions from 1, ascending, each once
+    QString traceFile;               ///< empty: none; "-": standard output; the same for those below
+    QString vcdFile;
+    QString dumpFile;
+    bool quiet = false; ///< errors alone
+
+private:
+    bool readProject(const QCommandLineParser& parser);
+    bool readBounds(const QCommandLineParser& parser);
+    bool readInterrupts(const QCommandLineParser& parser);
+    bool readLabels(const QCommandLineParser& parser);
+    bool readInputs(const QCommandLineParser& parser);
+    bool readPort(const QString& text);
+    bool readOutputs(const QCommandLineParser& parser);
+    bool checkFiles() const;
+};
+
+} // namespace nsNalvoSim

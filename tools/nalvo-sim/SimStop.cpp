@@ -1,0 +1,61 @@
+#include "SimStop.h"
+
+#include <cerrno>
+#include <csignal>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace nsNalvoSim {
+
+namespace {
+
+volatile std::sig_atomic_t stopRequested = 0;
+/// A signal that comes just before a wait must end that, too: it leaves a byte here.
+int stopPipe[2] = {-1, -1};
+
+void handleStop(int)
+{
+    const int before = errno;
+    stopRequested = 1;
+    const ssize_t written = write(stopPipe[1], "s", 1);
+    static_cast<void>(written);
+    errno = before;
+}
+
+} // namespace
+
+void catchStopSignal()
+{
+    struct sigaction present = {};
+    if (sigaction(SIGINT, nullptr, &present) != 0 || present.sa_handler == SIG_IGN)
+        return;
+    if (pipe2(stopPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+        return;
+    struct sigaction action = {};
+    action.sa_handler = handleStop;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = int(SA_RESETHAND);
+    sigaction(SIGINT, &action, nullptr);
+}
+
+bool isStopRequested()
+{
+    return stopRequested != 0;
+}
+
+bool waitForInput(int fd)
+{
+    pollfd waits[] = {{fd, POLLIN, 0}, {stopPipe[0], POLLIN, 0}};
+    while (!isStopRequested()) {
+        // What can not be polled can be read without waiting. A negative descriptor is passed over.
+        if (poll(waits, 2, -1) < 0 && errno != EINTR)
+            return true;
+        if (waits[0].revents != 0)
+            return !isStopRequested();
+    }
+    return false;
+}
+
+} // namespace nsNalvoSim
