@@ -61,7 +61,7 @@ void ProcSimEdtNumeric::setRange(int min, int max)
 void ProcSimEdtNumeric::setBase(int base)
 {
     const int known = base == 8 || base == 10 ? base : 16;
-    if (known == m_base)
+    if (known == m_base && !text().isEmpty())
         return;
     m_base = known;
     // The old text may be nothing in the new base: it goes before the check changes.

@@ -16,6 +16,7 @@ public:
 
     /// @param max at least min; it decides how many digits are shown. Negative limits are not supported.
     void setRange(int min, int max);
+    /// An empty field shows its value again, also with the base that it has.
     /// @param base 8, 10 or 16
     void setBase(int base);
     int base() const { return m_base; }
