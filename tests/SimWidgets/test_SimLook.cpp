@@ -272,7 +272,7 @@ TEST_F(SimLook, CoreFitsALowWindowAndShowsAllRegistersInAHighOne)
     m_window.resize(320, 900);
     rest();
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
-    EXPECT_EQ(area->height(), area->widget()->height());
+    EXPECT_EQ(area->height(), area->widget()->sizeHint().height());
 }
 
 TEST_F(SimLook, TabulatorGoesFromTopToBottom)

@@ -117,7 +117,7 @@ void ProcSimEdtNumeric::finishEdit()
 void ProcSimEdtNumeric::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange)
         updateWidth();
 }
 
