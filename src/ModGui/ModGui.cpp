@@ -114,9 +114,10 @@ void ModGui::setupDocks()
 
 void ModGui::setupStatusBar()
 {
+    m_statusBar = m_window->statusBar();
     for (eLocation_t location : {eLocationStatusFirst, eLocationStatusSecond, eLocationStatusThird}) {
         auto* frame = new StatusFrame;
-        m_window->statusBar()->addPermanentWidget(frame);
+        m_statusBar->addPermanentWidget(frame);
         setArea(location, frame->area());
     }
 }
@@ -292,18 +293,18 @@ void ModGui::setEnabled(QWidget* widget, bool enabled)
 
 void ModGui::setStatusBarText(QString text)
 {
-    if (m_window == nullptr)
+    if (m_statusBar == nullptr)
         return;
-    m_window->statusBar()->showMessage(text, 0);
+    m_statusBar->showMessage(text, 0);
     if (sWidgetData_t* data = m_widgets.value(currentWidget(eLocationTabs)))
         data->statusBarText = text;
 }
 
 void ModGui::clearStatusBarText()
 {
-    if (m_window == nullptr)
+    if (m_statusBar == nullptr)
         return;
-    m_window->statusBar()->clearMessage();
+    m_statusBar->clearMessage();
     if (sWidgetData_t* data = m_widgets.value(currentWidget(eLocationTabs)))
         data->statusBarText.clear();
 }
@@ -318,8 +319,8 @@ void ModGui::removeWidgetRequest(QWidget* widget)
 void ModGui::showStoredStatusText(QWidget* widget)
 {
     const sWidgetData_t* data = m_widgets.value(widget);
-    if (data != nullptr && m_window != nullptr && hasWidget(eLocationTabs, widget))
-        m_window->statusBar()->showMessage(data->statusBarText, 0);
+    if (data != nullptr && m_statusBar != nullptr && hasWidget(eLocationTabs, widget))
+        m_statusBar->showMessage(data->statusBarText, 0);
 }
 
 void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)

@@ -14,6 +14,7 @@
 #include <QPointer>
 
 class QMainWindow;
+class QStatusBar;
 
 namespace nsModGui {
 
@@ -110,6 +111,7 @@ private:
     void showStoredStatusText(QWidget* widget);
 
     QPointer<QMainWindow> m_window;
+    QPointer<QStatusBar> m_statusBar; ///< of the window; it can go before the pages do
     WidgetAreaTabbed* m_tabbed = nullptr; ///< owned by the window
     sArea_t m_areas[areaCount]; ///< by location; the first stays empty
     PluginList<ModGuiPluginIf> m_plugins;

@@ -142,7 +142,7 @@ TEST_P(HandMade, Row)
     EXPECT_EQ(bench.sim->takeLastMsg().toStdString(), row.key);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows), [](const auto& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows), [](const auto& tested) { return tested.param.name; });
 
 TEST(HandMadeMore, StarWritesTheOtherBank)
 {

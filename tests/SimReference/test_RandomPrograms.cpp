@@ -87,6 +87,6 @@ TEST_P(RandomPrograms, AgreeWithTheModel)
 }
 
 INSTANTIATE_TEST_SUITE_P(Processors, RandomPrograms, ::testing::Values(Family::PicoBlaze3, Family::PicoBlaze6, Family::Mico8),
-                         [](const auto& info) { return nameOf(info.param); });
+                         [](const auto& tested) { return nameOf(tested.param); });
 
 } // namespace

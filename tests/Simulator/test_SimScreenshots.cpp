@@ -7,6 +7,7 @@
 #include "ProcSimIO.h"
 #include "ProcSimWaveViewer.h"
 
+#include <QAbstractButton>
 #include <QDockWidget>
 #include <QMainWindow>
 #include <QTimer>
@@ -24,6 +25,9 @@ TEST_P(SimScreenshots, RunningSimulation)
     copyFolder(NALVO_SOURCE_DIR "/examples/templates", projectDir() + "/templates");
     makeWindow();
     ASSERT_TRUE(module<nsModPrj::ModPrj>()->openPrj(projectDir() + '/' + name + '/' + name + ".nalvo"));
+    // Addresses stand beside the lines of documents that are open at the run.
+    for (const char* source : {"/src/uart.psm", "/src/main.psm"})
+        editor()->openFile(projectDir() + '/' + name + source);
     asmFe()->assemble(nsModAsmFe::ModAsmFe::eEventNone);
     trigger(Action::eActionEnable);
     ASSERT_NE(sim(), nullptr);
@@ -40,6 +44,8 @@ TEST_P(SimScreenshots, RunningSimulation)
     trigger(Action::eActionRun);
     for (int i = 0; i < 30 && sim()->callStack()->count() < 2; ++i)
         trigger(Action::eActionNextInstruction);
+    if (auto* fit = sim()->waveViewer()->findChild<QAbstractButton*>("procSimWaveZoomFit"))
+        fit->click();
     screenshot("sim-" + name + "-waves");
     module<ModGuiHookIf>()->setCurrentWidget(sim()->callStackWidget());
     trigger(Action::eActionNextInstruction);

@@ -6,8 +6,8 @@
 
 namespace nsLMico8v3x {
 
-LMico8v3xSimCore::LMico8v3xSimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent)
-    : ProcSimCore(std::move(data), pcMax, &LMico8v3xSimCoreReg::regName, parent)
+LMico8v3xSimCore::LMico8v3xSimCore(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax, QWidget* parent)
+    : ProcSimCore(data, pcMax, new LMico8v3xSimCoreReg(data), parent)
 {
 }
 

@@ -10,7 +10,7 @@ class LMico8v3xSimCore : public nsProc::ProcSimCore
     Q_OBJECT
 
 public:
-    LMico8v3xSimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent = nullptr);
+    LMico8v3xSimCore(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax, QWidget* parent = nullptr);
     /// With a state of its own.
     LMico8v3xSimCore(int regCount, int scrpdSize, int pcMax, QWidget* parent = nullptr);
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
 
 namespace nsLMico8v3x {
@@ -12,6 +13,11 @@ class LMico8v3xSimCoreReg : public nsProc::ProcSimCoreReg
 public:
     explicit LMico8v3xSimCoreReg(std::shared_ptr<nsProc::ProcSimCoreData> data, QWidget* parent = nullptr)
         : ProcSimCoreReg(std::move(data), regName, parent)
+    {
+    }
+    /// With registers of its own.
+    explicit LMico8v3xSimCoreReg(int regCount, QWidget* parent = nullptr)
+        : LMico8v3xSimCoreReg(std::make_shared<nsProc::ProcSimCoreData>(regCount, 1, 0), parent)
     {
     }
 

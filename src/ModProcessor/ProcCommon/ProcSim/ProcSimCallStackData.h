@@ -43,6 +43,8 @@ public:
     }
     void clear()
     {
+        if (m_items.empty())
+            return;
         m_items.clear();
         ++m_changes;
     }

@@ -7,18 +7,58 @@
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimScrpd.h"
 
+#include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace nsProc {
 
-ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const std::function<QString(int)>& nameOf,
-                         QWidget* parent)
+namespace {
+
+/// Shows all registers where there is room, and lets them scroll where there is not: 32 of them are higher than a small screen.
+class RegArea : public QScrollArea
+{
+public:
+    RegArea(QWidget* regs, QWidget* parent)
+        : QScrollArea(parent)
+    {
+        setFrameShape(QFrame::NoFrame);
+        setWidgetResizable(true);
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setFocusPolicy(Qt::NoFocus);
+        setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+        setWidget(regs);
+    }
+
+    QSize sizeHint() const override { return {minimumSizeHint().width(), widget()->sizeHint().height()}; }
+    QSize minimumSizeHint() const override
+    {
+        const int width = widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width();
+        return {width, std::min(widget()->sizeHint().height(), 4 * leastRow)};
+    }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::LayoutRequest)
+            updateGeometry();
+        return QScrollArea::event(event);
+    }
+
+private:
+    static const int leastRow = 24; ///< pixels
+};
+
+} // namespace
+
+ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcSimCoreReg* regs, QWidget* parent)
     : QWidget(parent)
     , m_data(std::move(data))
     , m_head(new QGridLayout)
@@ -27,10 +67,12 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const
     , m_carry(new ProcSimEdtBit(this))
     , m_zero(new ProcSimEdtBit(this))
     , m_interrupt(new ProcSimEdtInterrupt(this))
-    , m_regs(new ProcSimCoreReg(m_data, nameOf, this))
-    , m_scrpd(new ProcSimScrpd(m_data, this))
+    , m_regs(regs)
 {
     setObjectName(QStringLiteral("procSimCore"));
+    // The order of the focus is that in which the fields come here.
+    m_regs->setParent(this);
+    m_scrpd = new ProcSimScrpd(m_data, this);
     m_pc->setRange(0, std::max(pcMax, 0));
     m_pc->setReadOnly(true);
     m_pc->setToolTip(tr("Address of the next instruction. To go elsewhere, set the program counter from the text cursor."));
@@ -66,7 +108,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const
     layout->addLayout(m_head);
     layout->addLayout(flags);
     layout->addWidget(hLine());
-    layout->addWidget(m_regs);
+    layout->addWidget(new RegArea(m_regs, this));
     layout->addWidget(hLine());
     layout->addWidget(m_scrpd, 1);
 
@@ -81,6 +123,7 @@ ProcSimCore::~ProcSimCore() = default;
 void ProcSimCore::addHwbld()
 {
     m_hwbld = new ProcSimEdtNumeric(this);
+    setTabOrder(m_pc, m_hwbld);
     m_hwbld->setToolTip(tr("Value that the instruction HWBUILD reads"));
     m_head->addWidget(title(tr("HWBuild:"), m_hwbld, m_hwbld->toolTip()), 1, 0);
     m_head->addWidget(m_hwbld, 1, 1, Qt::AlignLeft);

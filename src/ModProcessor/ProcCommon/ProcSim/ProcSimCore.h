@@ -4,7 +4,6 @@
 
 #include <QWidget>
 
-#include <functional>
 #include <memory>
 
 class QFrame;
@@ -61,9 +60,8 @@ signals:
 
 protected:
     /// @param pcMax highest address of the program counter
-    /// @param nameOf name of the register with a number
-    ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, const std::function<QString(int)>& nameOf,
-                QWidget* parent = nullptr);
+    /// @param regs shows the registers of the same data; owned by the core from now on
+    ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcSimCoreReg* regs, QWidget* parent = nullptr);
 
     /// Adds a field for the value that `HWBUILD` reads.
     void addHwbld();

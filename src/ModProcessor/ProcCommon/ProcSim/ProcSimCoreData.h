@@ -81,6 +81,8 @@ public:
     bool scrpd(int addr, int* value) const;
     /// The user sets a cell.
     void editScrpd(int addr, int value);
+    /// All cells to 0.
+    void clearScrpd() { m_scrpd.clear(); }
     /// The highlighted cell, -1 if there is none.
     int scrpdHighlighted() const { return m_scrpdStep == m_step ? m_scrpdAddr : -1; }
 

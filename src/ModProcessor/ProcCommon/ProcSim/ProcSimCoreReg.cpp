@@ -43,6 +43,20 @@ ProcSimCoreReg::ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std:
     refresh();
 }
 
+bool ProcSimCoreReg::setReg(int index, const QString& alias, int value)
+{
+    const bool success = m_data->setReg(index, alias, value);
+    refresh();
+    return success;
+}
+
+bool ProcSimCoreReg::reg(int index, const QString& alias, int* value)
+{
+    const bool success = m_data->reg(index, alias, value);
+    refresh();
+    return success;
+}
+
 void ProcSimCoreReg::setBase(int base)
 {
     for (int bank = 0; bank < m_stack->count(); ++bank)

@@ -22,6 +22,13 @@ public:
     /// @param nameOf name of the register with a number
     ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std::function<QString(int)>& nameOf, QWidget* parent = nullptr);
 
+    /// The program sets a register of the selected bank.
+    /// @return false, with nothing changed, for an index not below the number of registers
+    bool setReg(int index, const QString& alias, int value);
+    /// The program reads a register of the selected bank.
+    /// @return false, with nothing changed, for an index not below the number of registers
+    bool reg(int index, const QString& alias, int* value);
+    /// @param base 8, 10 or 16
     void setBase(int base);
     /// Shows what has changed in the data.
     void refresh();

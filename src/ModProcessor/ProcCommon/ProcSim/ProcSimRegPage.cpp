@@ -11,7 +11,7 @@ namespace nsProc {
 namespace {
 
 const int rowsPerColumn = 8;
-const int aliasWidth = 56; ///< pixels; a longer name shows its end, and all of it as a tool tip
+const int aliasWidth = 40; ///< pixels; a longer name shows its end, and all of it as a tool tip
 
 } // namespace
 
@@ -23,7 +23,7 @@ ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank, 
 {
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(6);
+    layout->setHorizontalSpacing(4);
     layout->setVerticalSpacing(2);
     for (int index = 0; index < m_data->regCount(); ++index) {
         const int row = index % rowsPerColumn + index / (2 * rowsPerColumn) * rowsPerColumn;

@@ -38,13 +38,30 @@ public:
     /// Shows what has changed in the data.
     void refresh();
 
+    /// A few rows: it takes what room there is.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
 private:
     void setup();
+    /// Lays the cells out, if they are not so already.
+    void arrange(int cellsPerRow);
+    void scrollToHighlighted();
+    /// Pixels that so many cells need beside each other, with their address.
+    int rowWidth(int cells) const;
 
     std::shared_ptr<ProcSimCoreData> m_data;
+    QWidget* m_page;
     QVector<ProcSimEdtNumeric*> m_cells;
-    QVector<QLabel*> m_addresses; ///< of the first cell of each row
+    QVector<QLabel*> m_addresses; ///< of the cells 0, 4, 8 ...
+    QLabel* m_note = nullptr;     ///< null where all cells are shown
+    int m_cellsPerRow = 0;
     int m_highlighted = -1;
+    bool m_isScrollDue = false; ///< the highlighted cell was not brought into view yet
 };
 
 } // namespace nsProc

@@ -1,8 +1,8 @@
 #include "ProcSimEdtBit.h"
 
+#include "ProcSimFont.h"
 #include "ProcSimHighlight.h"
 
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -13,7 +13,7 @@ ProcSimEdtBit::ProcSimEdtBit(QWidget* parent)
     : QLabel(QStringLiteral("0"), parent)
 {
     setObjectName(QStringLiteral("procSimEdtBit"));
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(monospaceFont());
     setAlignment(Qt::AlignCenter);
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPixmap>
 
 namespace nsProc {
@@ -18,6 +19,10 @@ ProcSimEdtInterrupt::ProcSimEdtInterrupt(QWidget* parent)
     setObjectName(QStringLiteral("procSimEdtInterrupt"));
     setToolTip(tr("If interrupt is enabled click to change status."));
     setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    // Room for the frame of the focus.
+    setMargin(2);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     showState();
 }
 
@@ -73,6 +78,16 @@ void ProcSimEdtInterrupt::keyPressEvent(QKeyEvent* event)
         toggle();
     else
         QLabel::keyPressEvent(event);
+}
+
+void ProcSimEdtInterrupt::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QPainter painter(this);
+    painter.setPen(QColor(0x204398));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
 } // namespace nsProc

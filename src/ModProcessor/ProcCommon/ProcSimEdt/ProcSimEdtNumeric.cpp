@@ -1,9 +1,9 @@
 #include "ProcSimEdtNumeric.h"
 
+#include "ProcSimFont.h"
 #include "ProcSimHighlight.h"
 
 #include <QEvent>
-#include <QFontDatabase>
 #include <QRegExp>
 #include <QRegExpValidator>
 
@@ -13,10 +13,28 @@ namespace nsProc {
 
 namespace {
 
-const char* digitsOfBase(int base)
+/// Lets the digits of a base pass.
+class DigitValidator : public QRegExpValidator
 {
-    return base == 8 ? "[0-7]{1,8}" : base == 10 ? "[0-9]{1,8}" : "[0-9A-Fa-f]{1,8}";
-}
+public:
+    DigitValidator(int base, QObject* parent)
+        : QRegExpValidator(QRegExp(digitsOfBase(base)), parent)
+    {
+    }
+
+    /// An empty field is no acceptable text, and without this its edit would not end.
+    void fixup(QString& input) const override
+    {
+        if (input.isEmpty())
+            input = QStringLiteral("0");
+    }
+
+private:
+    static const char* digitsOfBase(int base)
+    {
+        return base == 8 ? "[0-7]{1,8}" : base == 10 ? "[0-9]{1,8}" : "[0-9A-Fa-f]{1,8}";
+    }
+};
 
 } // namespace
 
@@ -25,8 +43,8 @@ ProcSimEdtNumeric::ProcSimEdtNumeric(QWidget* parent)
 {
     setObjectName(QStringLiteral("procSimEdtNumeric"));
     setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    setBase(m_base);
+    setFont(monospaceFont());
+    setBase(16);
     connect(this, &QLineEdit::textChanged, this, &ProcSimEdtNumeric::takeText);
     connect(this, &QLineEdit::editingFinished, this, &ProcSimEdtNumeric::finishEdit);
 }
@@ -42,13 +60,17 @@ void ProcSimEdtNumeric::setRange(int min, int max)
 
 void ProcSimEdtNumeric::setBase(int base)
 {
-    m_base = base == 8 || base == 10 ? base : 16;
+    const int known = base == 8 || base == 10 ? base : 16;
+    if (known == m_base && !text().isEmpty())
+        return;
+    m_base = known;
     // The old text may be nothing in the new base: it goes before the check changes.
     m_isShowing = true;
     clear();
-    setValidator(nullptr);
     m_isShowing = false;
-    setValidator(new QRegExpValidator(QRegExp(digitsOfBase(m_base)), this));
+    const QValidator* former = validator();
+    setValidator(new DigitValidator(m_base, this));
+    delete former;
     updateWidth();
     showValue();
 }
@@ -58,12 +80,10 @@ bool ProcSimEdtNumeric::setValue(int value)
     if (value < m_min || value > m_max)
         return false;
     // What the user is typing stays as he typed it, as long as it says the same.
-    if (value == m_value && m_isEdited)
+    if (value == m_value)
         return true;
-    const bool isShown = value == m_value && !text().isEmpty();
     m_value = value;
-    if (!isShown)
-        showValue();
+    showValue();
     return true;
 }
 
@@ -94,17 +114,10 @@ void ProcSimEdtNumeric::finishEdit()
     emit valueChanged(m_value);
 }
 
-void ProcSimEdtNumeric::focusOutEvent(QFocusEvent* event)
-{
-    QLineEdit::focusOutEvent(event);
-    // An empty field is no acceptable input, so its edit does not end by itself.
-    finishEdit();
-}
-
 void ProcSimEdtNumeric::changeEvent(QEvent* event)
 {
     QLineEdit::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+    if (event->type() == QEvent::FontChange)
         updateWidth();
 }
 

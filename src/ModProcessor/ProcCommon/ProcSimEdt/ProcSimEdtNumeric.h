@@ -16,10 +16,11 @@ public:
 
     /// @param max at least min; it decides how many digits are shown. Negative limits are not supported.
     void setRange(int min, int max);
+    /// An empty field shows its value again, also with the base that it has.
     /// @param base 8, 10 or 16
     void setBase(int base);
     int base() const { return m_base; }
-    /// Shows a value that does not come from the user.
+    /// Shows a value that does not come from the user. Costs next to nothing when it is the present one.
     /// @return false, with nothing changed, outside of the range
     bool setValue(int value);
     int value() const { return m_value; }
@@ -34,7 +35,6 @@ signals:
     void valueChanged(int value);
 
 protected:
-    void focusOutEvent(QFocusEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:
@@ -47,7 +47,7 @@ private:
 
     int m_min = 0;
     int m_max = 255;
-    int m_base = 16;
+    int m_base = 0;
     int m_value = 0;
     bool m_highlighted = false;
     bool m_isEdited = false;

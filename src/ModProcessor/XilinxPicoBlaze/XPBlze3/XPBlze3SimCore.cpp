@@ -6,8 +6,8 @@
 
 namespace nsXPBlze3 {
 
-XPBlze3SimCore::XPBlze3SimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent)
-    : ProcSimCore(std::move(data), pcMax, &XPBlze3SimCoreReg::regName, parent)
+XPBlze3SimCore::XPBlze3SimCore(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax, QWidget* parent)
+    : ProcSimCore(data, pcMax, new XPBlze3SimCoreReg(data), parent)
 {
 }
 

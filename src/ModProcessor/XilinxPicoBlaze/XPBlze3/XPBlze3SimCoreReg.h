@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
 
 namespace nsXPBlze3 {
@@ -12,6 +13,11 @@ class XPBlze3SimCoreReg : public nsProc::ProcSimCoreReg
 public:
     explicit XPBlze3SimCoreReg(std::shared_ptr<nsProc::ProcSimCoreData> data, QWidget* parent = nullptr)
         : ProcSimCoreReg(std::move(data), regName, parent)
+    {
+    }
+    /// With registers of its own.
+    explicit XPBlze3SimCoreReg(QWidget* parent = nullptr)
+        : XPBlze3SimCoreReg(std::make_shared<nsProc::ProcSimCoreData>(16, 1, 0), parent)
     {
     }
 

@@ -6,8 +6,8 @@
 
 namespace nsXPBlze6 {
 
-XPBlze6SimCore::XPBlze6SimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent)
-    : ProcSimCore(std::move(data), pcMax, &XPBlze6SimCoreReg::regName, parent)
+XPBlze6SimCore::XPBlze6SimCore(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax, QWidget* parent)
+    : ProcSimCore(data, pcMax, new XPBlze6SimCoreReg(data), parent)
 {
     addHwbld();
 }

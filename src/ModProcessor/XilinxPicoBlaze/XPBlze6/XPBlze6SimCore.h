@@ -10,7 +10,7 @@ class XPBlze6SimCore : public nsProc::ProcSimCore
     Q_OBJECT
 
 public:
-    XPBlze6SimCore(std::shared_ptr<nsProc::ProcSimCoreData> data, int pcMax, QWidget* parent = nullptr);
+    XPBlze6SimCore(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax, QWidget* parent = nullptr);
     /// With a state of its own.
     XPBlze6SimCore(int scrpdSize, int pcMax, QWidget* parent = nullptr);
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
 
 namespace nsXPBlze6 {
@@ -12,6 +13,11 @@ class XPBlze6SimCoreReg : public nsProc::ProcSimCoreReg
 public:
     explicit XPBlze6SimCoreReg(std::shared_ptr<nsProc::ProcSimCoreData> data, QWidget* parent = nullptr)
         : ProcSimCoreReg(std::move(data), regName, parent)
+    {
+    }
+    /// With registers of its own.
+    explicit XPBlze6SimCoreReg(QWidget* parent = nullptr)
+        : XPBlze6SimCoreReg(std::make_shared<nsProc::ProcSimCoreData>(16, 2, 0), parent)
     {
     }
 
