@@ -84,6 +84,8 @@ TEST_F(SimToolOutcome, MessagesOfTheSimulatorStopARun)
                   "error: Call stack is empty! Nothing to return. [errCallStackEmpty]");
     expectMessage("deep: CALL deep\n" + vector, "errCallStackOverflow",
                   "a.psm:1: error: Call stack overflow! [errCallStackOverflow]");
+    expectMessage(" INT ENABLE\n LOAD s0, 1\n", "errNoOpcodeAtIntVect",
+                  "error: No instruction at interrupt vector: 1023 [errNoOpcodeAtIntVect]", {"--interrupt-at", "2"});
     expectMessage(" LOAD s0, 100\n WRMEM s1, (s0)\n" + vector, "errScrpdWr",
                   "a.psm:2: error: Can not write scratchpad value. [errScrpdWr]");
     expectMessage(" LOAD s0, 64\n RDMEM s1, (s0)\n" + vector, "errScrpdRd",

@@ -252,6 +252,17 @@ TEST_F(SimToolTalk, AnInterruptSignalEndsABusyRunAtALineEnd)
     EXPECT_TRUE(trace.endsWith('\n'));
 }
 
+TEST_F(SimToolTalk, AnInterruptSignalEndsTheWaitForAPipe)
+{
+    ASSERT_EQ(mkfifo(path("pipe").toUtf8().constData(), 0600), 0);
+    start({"--reads", "pipe", "--trace", "-", "--dump", "dump", "p.nalvo"});
+    expectOut("I 000 3C001\n");
+    signalStop();
+    EXPECT_EQ(end(), 130);
+    EXPECT_EQ(m_process.readAllStandardError(), QByteArray("nalvo-sim: interrupted, 1 instruction, 2 clocks\n"));
+    EXPECT_EQ(reason(QJsonDocument::fromJson(read("dump")).object()), "signal");
+}
+
 TEST_F(SimToolTalk, ARunInTheBackgroundKeepsIgnoringTheSignal)
 {
     m_process.setup(NALVO_TOOL, {}, [this] {

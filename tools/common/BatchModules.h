@@ -15,7 +15,12 @@ namespace nsBatch {
 /// They live until the process ends: taking a large program apart piece by piece would only cost time.
 struct BatchModules
 {
-    static BatchModules& create(const BatchMsgStyle& style) { return *new BatchModules(style); }
+    /// Makes the modules; to be called once.
+    static BatchModules& create(const BatchMsgStyle& style)
+    {
+        static BatchModules& modules = *new BatchModules(style);
+        return modules;
+    }
 
     BatchModules(const BatchModules&) = delete;
     BatchModules& operator=(const BatchModules&) = delete;

@@ -80,7 +80,7 @@ QStringList nearNames(const QStringList& names, const QString& wanted)
 Opcode* opcodeOfLabel(ModAsmFe* asmFe, const QString& name, QString* failure)
 {
     // A name of a source is bytes, one a character, as the assembler reads them.
-    QString bytes = QString::fromLatin1(name.toUtf8());
+    QString bytes = QString::fromLatin1(name.toLocal8Bit());
     if (bytes.startsWith("::"))
         bytes.remove(0, 2);
     const int colons = bytes.lastIndexOf("::");

@@ -76,7 +76,10 @@ void setup(QCommandLineParser* parser)
          tr("N")},
         {"interrupt-at", tr("The same before the Nth instruction, counted from 1."), tr("N[,N...]")},
         {"trace", tr("Write the trace to FILE. - is standard output."), tr("FILE")},
-        {"vcd", tr("Write the values at all ports as waves (VCD) to FILE. - is standard output."), tr("FILE")},
+        {"vcd",
+         tr("Write the values at all ports as waves (VCD) to FILE. - is standard output. They are kept in memory until "
+            "the end: 16 bytes a value."),
+         tr("FILE")},
         {"dump", tr("Write the final state as JSON to FILE. - is standard output."), tr("FILE")},
         {"q", tr("Show errors alone, and no summary.")},
         {{"h", "help"}, tr("Show this help.")},

@@ -43,7 +43,9 @@ SimReads::~SimReads()
 QString SimReads::open(const QString& name)
 {
     m_name = name;
-    m_fd = name == "-" ? STDIN_FILENO : ::open(QFile::encodeName(name).constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    // Whether somebody writes to a pipe is only waited for when a value is needed.
+    m_fd = name == "-" ? STDIN_FILENO
+                       : ::open(QFile::encodeName(name).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     struct stat info = {};
     if (m_fd < 0 || fstat(m_fd, &info) != 0)
         return systemError(errno);
@@ -68,7 +70,7 @@ bool SimReads::fill(eResult_t* result)
     const int error = errno;
     m_size = std::max(int(size), 0);
     m_pos = 0;
-    if (size < 0 && error == EINTR)
+    if (size < 0 && (error == EINTR || error == EAGAIN))
         return fill(result);
     if (size < 0)
         *result = fail(systemError(error));

@@ -56,7 +56,13 @@ SimRun::SimRun(const SimOptions& options)
 {
 }
 
-SimRun::~SimRun() = default;
+SimRun::~SimRun()
+{
+    if (m_sim == nullptr)
+        return;
+    m_modules.asmFe.unregisterPlugin(static_cast<ModAsmFePluginIfInterMod*>(m_sim.get()));
+    m_modules.msg.unregisterPlugin(static_cast<ModMsgPluginIf*>(m_sim.get()));
+}
 
 int SimRun::run()
 {
