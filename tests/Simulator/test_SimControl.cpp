@@ -3,11 +3,18 @@
 #include "SimWindow.h"
 
 #include "ModSources.h"
+#include "ProcSimEdtNumeric.h"
+#include "ProcSimCallStack.h"
+#include "ProcSimCore.h"
 #include "ProcSimIO.h"
+#include "ProcSimIOPluginIf.h"
+#include "ProcSimStatusBar.h"
+#include "ProcSimWaveViewer.h"
 #include "ProcList.h"
 #include "ProcPluginIf.h"
 
 #include <QLabel>
+#include <QTabWidget>
 #include <QTimer>
 
 namespace {
@@ -23,7 +30,146 @@ protected:
     {
         QTimer::singleShot(delay, window.get(), what);
     }
+    nsProc::ProcSimEdtNumeric* numberField(const QString& toolTip) const
+    {
+        for (nsProc::ProcSimEdtNumeric* field : window->findChildren<nsProc::ProcSimEdtNumeric*>()) {
+            if (field->toolTip() == toolTip)
+                return field;
+        }
+        return nullptr;
+    }
 };
+
+TEST_F(SimControl, DisplayFollowsARunAndIsExactAtItsEnd)
+{
+    ASSERT_TRUE(start("XPBlze3", endless));
+    auto* shown = window->findChild<QLabel*>("procSimClocks");
+    ASSERT_NE(shown, nullptr);
+    qint64 during = 0;
+    later(
+        [&] {
+            during = shown->text().toLongLong();
+            sim()->simStop();
+        },
+        300);
+    trigger(Action::eActionRun);
+    EXPECT_GT(during, 0);
+    EXPECT_EQ(shown->text(), QString::number(clocks()));
+    nsProc::ProcSimEdtNumeric* field = numberField("Register s0");
+    ASSERT_NE(field, nullptr);
+    EXPECT_EQ(field->value(), reg(0));
+}
+
+TEST_F(SimControl, EditDuringARunCountsAtTheNextInstruction)
+{
+    ASSERT_TRUE(start("XPBlze3", {"loop: COMP s1, 0x5A", "JUMP NZ, loop", "done: JUMP done"}));
+    document()->setSimBreakpoint(2);
+    later([&] {
+        nsProc::ProcSimEdtNumeric* field = numberField("Register s1");
+        ASSERT_NE(field, nullptr);
+        field->selectAll();
+        QTest::keyClicks(field, "5a");
+    });
+    // Without the edit the run would not end.
+    later([&] { sim()->simStop(); }, 5000);
+    trigger(Action::eActionRun);
+    EXPECT_EQ(pcLine(), 2);
+}
+
+TEST_F(SimControl, ValueForANewPortIsTypedInAndRead)
+{
+    ASSERT_TRUE(start("XPBlze3", {"#EQU PORT, 0x21", "RDPRT s3, PORT", "end: JUMP end"}));
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(messages("An IO device was added to read. Please type in your value."), 1);
+    EXPECT_EQ(pcLine(), 1);
+    ASSERT_EQ(sim()->ports()->devices().size(), 1);
+    QWidget* card = sim()->ports()->devices().first()->ioDevWidget();
+    nsProc::ProcSimEdtNumeric* value = nullptr;
+    bool isNamed = false;
+    for (nsProc::ProcSimEdtNumeric* field : card->findChildren<nsProc::ProcSimEdtNumeric*>()) {
+        if (field->toolTip() == "Value")
+            value = field;
+    }
+    for (const QLabel* label : card->findChildren<QLabel*>())
+        isNamed = isNamed || label->text() == "PORT";
+    ASSERT_NE(value, nullptr);
+    EXPECT_TRUE(isNamed);
+    value->selectAll();
+    QTest::keyClicks(value, "c7");
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(reg(3), 0xC7);
+    EXPECT_EQ(pcLine(), 2);
+}
+
+TEST_F(SimControl, WriteBesideADeviceThatOnlyReadsGetsADeviceOfItsOwn)
+{
+    ASSERT_TRUE(start("XPBlze3", {"RDPRT s0, 7", "WRPRT s0, 7", "end: JUMP end"}));
+    trigger(Action::eActionNextInstruction);
+    trigger(Action::eActionNextInstruction);
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(sim()->ports()->devices().size(), 2);
+    // A device that was closed comes back with the next access.
+    sim()->ports()->removeIOPlugins();
+    trigger(Action::eActionReset);
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(sim()->ports()->devices().size(), 1);
+    EXPECT_EQ(messages("An IO device was added to read."), 2);
+}
+
+TEST_F(SimControl, DocksComeToTheFrontAsAGroup)
+{
+    ASSERT_TRUE(start("XPBlze3", {"RET"}));
+    auto* gui = module<ModGuiHookIf>();
+    trigger(Action::eActionNextInstruction);
+    ASSERT_FALSE(messageTexts().isEmpty());
+    // The user looks at something else in each dock, then at the ports again.
+    for (QTabWidget* tabs : window->findChildren<QTabWidget*>()) {
+        if (tabs->indexOf(sim()->coreWidget()) >= 0 || tabs->indexOf(sim()->ioWidget()) >= 0 ||
+            tabs->indexOf(sim()->callStackWidget()) >= 0)
+            tabs->setCurrentIndex(0);
+    }
+    EXPECT_NE(gui->currentWidget(ModGuiHookIf::eLocationDockLeft), sim()->coreWidget());
+    gui->setCurrentWidget(sim()->ioWidget());
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockLeft), sim()->coreWidget());
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockRight), sim()->ioWidget());
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockBottom), sim()->callStackWidget());
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationStatusSecond), sim()->statusBarWidget());
+    EXPECT_TRUE(messageTexts().isEmpty());
+}
+
+TEST_F(SimControl, WavesTakeWhatPassesAndAreClearedByReset)
+{
+    ASSERT_TRUE(start("XPBlze3", {"loop: ADD s0, 1", "WRPRT s0, 5", "RDPRT s1, 5", "JUMP loop"}));
+    EXPECT_EQ(sim()->waveViewer(), nullptr);
+    emit sim()->ioWidget()->wavesRequested();
+    nsProc::ProcSimWaveViewer* viewer = sim()->waveViewer();
+    ASSERT_NE(viewer, nullptr);
+    auto* gui = module<ModGuiHookIf>();
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockBottom), viewer);
+    EXPECT_TRUE(viewer->data()->isEmpty());
+    viewer->addAddrChannel(5, nsProc::ProcSimWaveData::eAccessWr, -1, QString());
+    viewer->addAddrChannel(5, nsProc::ProcSimWaveData::eAccessRd, -1, QString());
+    trigger(Action::eActionNextInstruction);
+    trigger(Action::eActionNextInstruction);
+    trigger(Action::eActionNextInstruction); // adds the register
+    trigger(Action::eActionNextInstruction);
+    const auto& channels = viewer->data()->channels();
+    ASSERT_EQ(channels.size(), 2u);
+    ASSERT_EQ(channels[0]->values.size(), 1u);
+    EXPECT_EQ(channels[0]->values[0].value, 1);
+    EXPECT_EQ(channels[0]->values[0].clock, 2);
+    ASSERT_EQ(channels[1]->values.size(), 1u);
+    EXPECT_EQ(channels[1]->values[0].clock, 4);
+    // Asked for again, it is the same one.
+    emit sim()->ioWidget()->wavesRequested();
+    EXPECT_EQ(sim()->waveViewer(), viewer);
+    trigger(Action::eActionReset);
+    EXPECT_EQ(channels.size(), 2u);
+    EXPECT_TRUE(channels[0]->values.empty());
+    const QPointer<QWidget> alive(viewer);
+    trigger(Action::eActionEnable);
+    EXPECT_EQ(alive, nullptr);
+}
 
 TEST_F(SimControl, ActionsStandAsTheyShould)
 {

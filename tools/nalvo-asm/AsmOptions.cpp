@@ -62,30 +62,10 @@ AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     setup(&parser);
-    if (!parser.parse(arguments)) {
-        wrongUsage(parser.errorText());
-        return parseWrong;
-    }
-    if (parser.isSet("help")) {
-        print(stdout, parser.helpText().toLocal8Bit());
-        return parseEnd;
-    }
-    if (parser.isSet("version")) {
-        printLine(stdout, "nalvo-asm " + QCoreApplication::applicationVersion().toLocal8Bit());
-        return parseEnd;
-    }
+    const eParse_t parsed = parseArguments(&parser, arguments);
+    if (parsed != parseRun)
+        return parsed;
     return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
-}
-
-bool AsmOptions::readProject(const QCommandLineParser& parser)
-{
-    const QStringList projects = parser.positionalArguments();
-    if (projects.isEmpty())
-        return wrongUsage(tr("No project given."));
-    if (projects.size() > 1)
-        return wrongUsage(tr("More than one project given: %1").arg(projects.join(", ")));
-    project = projects.first();
-    return true;
 }
 
 bool AsmOptions::readChoices(const QCommandLineParser& parser)

@@ -124,33 +124,13 @@ SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
 {
     QCommandLineParser parser;
     setup(&parser);
-    if (!parser.parse(arguments)) {
-        wrongUsage(parser.errorText());
-        return parseWrong;
-    }
-    if (parser.isSet("help")) {
-        print(stdout, parser.helpText().toLocal8Bit());
-        return parseEnd;
-    }
-    if (parser.isSet("version")) {
-        printLine(stdout, "nalvo-sim " + QCoreApplication::applicationVersion().toLocal8Bit());
-        return parseEnd;
-    }
+    const eParse_t parsed = parseArguments(&parser, arguments);
+    if (parsed != parseRun)
+        return parsed;
     quiet = parser.isSet("q");
     const bool isRight = readProject(parser) && readBounds(parser) && readInterrupts(parser) && readLabels(parser) &&
                          readInputs(parser) && readOutputs(parser) && checkFiles();
     return isRight ? parseRun : parseWrong;
-}
-
-bool SimOptions::readProject(const QCommandLineParser& parser)
-{
-    const QStringList projects = parser.positionalArguments();
-    if (projects.isEmpty())
-        return wrongUsage(tr("No project given."));
-    if (projects.size() > 1)
-        return wrongUsage(tr("More than one project given: %1").arg(projects.join(", ")));
-    project = projects.first();
-    return true;
 }
 
 bool SimOptions::readBounds(const QCommandLineParser& parser)

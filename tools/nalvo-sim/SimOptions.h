@@ -1,5 +1,7 @@
 #pragma once
 
+#include "BatchOptions.h"
+
 #include <QMap>
 #include <QString>
 #include <QStringList>
@@ -13,14 +15,8 @@ class QCommandLineParser;
 namespace nsNalvoSim {
 
 /// What the command line asks for.
-struct SimOptions
+struct SimOptions : nsBatch::BatchOptions
 {
-    enum eParse_t
-    {
-        parseRun,   ///< go on with the options
-        parseEnd,   ///< help or version was shown
-        parseWrong, ///< the command line is wrong, which was told
-    };
     static constexpr qint64 unbounded = std::numeric_limits<qint64>::max();
 
     /// Reads the arguments, and shows help, version or what is wrong with them.
@@ -30,7 +26,6 @@ struct SimOptions
     /// The files that are written, without standard output.
     QStringList outputFiles() const;
 
-    QString project;
     qint64 instructions = unbounded; ///< the run ends when so many are executed
     qint64 clocks = unbounded;       ///< the run ends when the count is reached
     QString start;                   ///< label; empty: as the project starts
@@ -46,7 +41,6 @@ struct SimOptions
     bool quiet = false; ///< errors alone
 
 private:
-    bool readProject(const QCommandLineParser& parser);
     bool readBounds(const QCommandLineParser& parser);
     bool readInterrupts(const QCommandLineParser& parser);
     bool readLabels(const QCommandLineParser& parser);

@@ -17,6 +17,7 @@ nsProc::sProcSimTraits_t traits()
     result.helpPage = "LMico8v3xSimMessages";
     result.logicClearsCarry = false;
     result.takesPortConstants = true;
+    result.fixedSettings = QStringList({"scrpdSize", "pageSize", "clkFreq", "instrClkCnt", "regCount"});
     return result;
 }
 
@@ -36,21 +37,6 @@ LMico8v3xSim::LMico8v3xSim(QObject* parent)
 nsProc::ProcSimCore* LMico8v3xSim::createCoreWidget(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax)
 {
     return new LMico8v3xSimCore(data, pcMax);
-}
-
-QString LMico8v3xSim::changedSetting(const nsProc::ProcCoreConfig& config) const
-{
-    if (config.scrpdSize != this->config().scrpdSize)
-        return QStringLiteral("scrpdSize");
-    if (config.pageSize != this->config().pageSize)
-        return QStringLiteral("pageSize");
-    if (config.clkFreq != this->config().clkFreq)
-        return QStringLiteral("clkFreq");
-    if (config.instrClkCnt != this->config().instrClkCnt)
-        return QStringLiteral("instrClkCnt");
-    if (config.regCount != this->config().regCount)
-        return QStringLiteral("regCount");
-    return QString();
 }
 
 bool LMico8v3xSim::setFlag(int value)

@@ -16,6 +16,7 @@
 #include "Opcode.h"
 #include "OpcodeList.h"
 
+#include <QHash>
 #include <QTimer>
 
 #include <algorithm>
@@ -135,6 +136,20 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
     setBreakpoints();
     showHighlight();
     return true;
+}
+
+QString ProcSim::changedSetting(const ProcCoreConfig& config) const
+{
+    const QHash<QString, bool> changed = {{"scrpdSize", config.scrpdSize != m_config.scrpdSize},
+                                          {"pageSize", config.pageSize != m_config.pageSize},
+                                          {"clkFreq", config.clkFreq != m_config.clkFreq},
+                                          {"instrClkCnt", config.instrClkCnt != m_config.instrClkCnt},
+                                          {"regCount", config.regCount != m_config.regCount}};
+    for (const QString& setting : m_traits.fixedSettings) {
+        if (changed.value(setting))
+            return setting;
+    }
+    return QString();
 }
 
 void ProcSim::dropWidget(QWidget* widget)

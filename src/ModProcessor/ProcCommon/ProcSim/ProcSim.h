@@ -52,6 +52,7 @@ struct sProcSimTraits_t
     bool chainsZero = false;      ///< `ADDC` and `SUBC` only keep a zero flag that was set before
     bool takesComputedTargets = false; ///< `JUMP` and `CALL` take a target from two registers
     bool takesPortConstants = false;   ///< `WRPRT` takes a constant
+    QStringList fixedSettings;         ///< what may not change during a simulation, in the order of the checks
 };
 
 /// The simulator that all processors share: it executes the instructions that the assembler has left.
@@ -171,8 +172,6 @@ protected:
     virtual int scrpdSize() const { return m_config.scrpdSize; }
     /// Clock cycles of an instruction.
     virtual int clocksOfInstr() const { return 2; }
-    /// The first of the settings that may not change during a simulation and has; empty if none.
-    virtual QString changedSetting(const ProcCoreConfig& config) const = 0;
 
     /// Enters the instructions that all processors have.
     void setCommonHandlers();
@@ -258,6 +257,8 @@ private:
     void createWidgets();
     void dropWidget(QWidget* widget);
     void forgetOpcodes();
+    /// The first of the settings that may not change during a simulation and has; empty if none.
+    QString changedSetting(const ProcCoreConfig& config) const;
     void showHighlight();
     void clearHighlights();
 

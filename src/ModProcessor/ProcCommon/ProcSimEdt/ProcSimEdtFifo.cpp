@@ -1,8 +1,8 @@
 #include "ProcSimEdtFifo.h"
 
+#include "ProcSimFont.h"
 #include "ProcSimIOFifo.h"
 
-#include <QFontDatabase>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -25,7 +25,7 @@ ProcSimEdtFifo::ProcSimEdtFifo(ProcSimIOFifo* device, QWidget* parent)
 {
     setObjectName(QStringLiteral("procSimEdtFifo"));
     setToolTip(tr("Values, one a line; the mark shows the line that is read or written next"));
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(monospaceFont());
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTabChangesFocus(true);

@@ -1,10 +1,10 @@
 #include "ProcSimEdtMemArray.h"
 
 #include "ProcSimEdtNumeric.h"
+#include "ProcSimFont.h"
 #include "ProcSimIOMem.h"
 #include "ProcSimMemModel.h"
 
-#include <QFontDatabase>
 #include <QHeaderView>
 #include <QStyledItemDelegate>
 
@@ -79,7 +79,7 @@ ProcSimEdtMemArray::ProcSimEdtMemArray(ProcSimIOMem* device, QWidget* parent)
 {
     setObjectName(QStringLiteral("procSimEdtMemArray"));
     setToolTip(tr("Words of the memory"));
-    setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    setFont(monospaceFont());
     setModel(m_model);
     setItemDelegate(new WordDelegate(this));
     setSelectionMode(QAbstractItemView::SingleSelection);

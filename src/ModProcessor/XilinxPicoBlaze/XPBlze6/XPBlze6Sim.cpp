@@ -20,6 +20,7 @@ nsProc::sProcSimTraits_t traits()
     result.chainsZero = true;
     result.takesComputedTargets = true;
     result.takesPortConstants = true;
+    result.fixedSettings = QStringList({"scrpdSize", "pageSize", "clkFreq"});
     return result;
 }
 
@@ -40,17 +41,6 @@ XPBlze6Sim::XPBlze6Sim(QObject* parent)
 nsProc::ProcSimCore* XPBlze6Sim::createCoreWidget(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax)
 {
     return new XPBlze6SimCore(data, pcMax);
-}
-
-QString XPBlze6Sim::changedSetting(const nsProc::ProcCoreConfig& config) const
-{
-    if (config.scrpdSize != this->config().scrpdSize)
-        return QStringLiteral("scrpdSize");
-    if (config.pageSize != this->config().pageSize)
-        return QStringLiteral("pageSize");
-    if (config.clkFreq != this->config().clkFreq)
-        return QStringLiteral("clkFreq");
-    return QString();
 }
 
 bool XPBlze6Sim::simOpcode_star()

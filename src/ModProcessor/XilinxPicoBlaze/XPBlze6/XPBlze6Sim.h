@@ -14,7 +14,6 @@ public:
 
 protected:
     nsProc::ProcSimCore* createCoreWidget(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax) override;
-    QString changedSetting(const nsProc::ProcCoreConfig& config) const override;
 
 private:
     bool simOpcode_star();

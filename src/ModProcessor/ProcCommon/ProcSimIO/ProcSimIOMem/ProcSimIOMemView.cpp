@@ -2,9 +2,9 @@
 
 #include "ProcSimEdtMemArray.h"
 #include "ProcSimEdtNumeric.h"
+#include "ProcSimFont.h"
 #include "ProcSimIOMem.h"
 
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -60,7 +60,7 @@ void ProcSimIOMemView::addArray()
     m_arrayPart->setObjectName(QStringLiteral("procSimIOArray"));
     m_size->setObjectName(QStringLiteral("procSimIOSize"));
     m_size->setToolTip(tr("Size in words, decimal, 1 to %1").arg(ProcSimIOMem::maxUserSize));
-    m_size->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    m_size->setFont(monospaceFont());
     m_size->setAlignment(Qt::AlignRight);
     m_size->setFixedWidth(72);
     m_size->setValidator(new QRegExpValidator(QRegExp(QStringLiteral("[0-9]{1,8}")), m_size));
