@@ -2,7 +2,6 @@
 
 #include "BatchFiles.h"
 
-#include <algorithm>
 #include <cstring>
 
 namespace nsNalvoSim {
@@ -49,7 +48,7 @@ void SimTrace::flush(int end)
     m_failed = m_failed || !m_file->write(m_text.data(), end);
     std::memmove(m_text.data(), m_text.data() + end, size_t(m_used - end));
     m_used -= end;
-    m_mark = std::max(m_mark - end, 0);
+    m_mark = 0;
 }
 
 } // namespace nsNalvoSim
