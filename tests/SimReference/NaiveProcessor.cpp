@@ -55,14 +55,40 @@ QString Instruction::text(Family family) const
     return mnemonic + ' ' + operands.join(", ");
 }
 
-NaiveProcessor::NaiveProcessor(Family family, const std::vector<Instruction>& program, int scrpdSize, int vector,
-                               int clocksOfInstr)
-    : scrpd(std::size_t(scrpdSize))
-    , m_family(family)
-    , m_program(program)
-    , m_vector(vector)
-    , m_clocksOfInstr(clocksOfInstr)
+const char* nameOf(Family family)
 {
+    return family == Family::PicoBlaze3 ? "PicoBlaze3" : family == Family::PicoBlaze6 ? "PicoBlaze6" : "Mico8";
+}
+
+int Program::find(int range, int address) const
+{
+    // What stands in the page itself hides what all pages share.
+    for (int wanted : {range, 0}) {
+        for (int position = 0; position < size(); ++position) {
+            const Place& place = places[std::size_t(position)];
+            if (place.range == wanted && place.address == address)
+                return position;
+        }
+    }
+    return -1;
+}
+
+Program inOnePage(std::vector<Instruction> instructions)
+{
+    Program program;
+    program.instructions = std::move(instructions);
+    for (int address = 0; address < program.size(); ++address)
+        program.places.push_back({1, address});
+    return program;
+}
+
+NaiveProcessor::NaiveProcessor(Family family, const Program& program, const Build& build)
+    : m_family(family)
+    , m_program(program)
+    , m_build(build)
+{
+    scrpd.resize(std::size_t(build.scrpdSize));
+    moveTo(program.find(1, 0));
 }
 
 int NaiveProcessor::portValue(std::uint32_t readNumber)
@@ -118,38 +144,72 @@ bool NaiveProcessor::isMet(const Operand& condition) const
     }
 }
 
-Outcome NaiveProcessor::goTo(int address)
+void NaiveProcessor::moveTo(int position)
 {
-    clocks += m_clocksOfInstr;
-    pc = address < int(m_program.size()) ? address : -1;
+    pc = position < m_program.size() ? position : -1;
+    if (pc >= 0 && m_program.places[std::size_t(pc)].range > 0)
+        page = m_program.places[std::size_t(pc)].range;
+}
+
+Outcome NaiveProcessor::goTo(int position)
+{
+    clocks += m_build.clocksOfInstr;
+    moveTo(position);
     return pc < 0 ? Outcome::ended : Outcome::done;
 }
 
+/// What follows in the source is what follows in the program, even where addresses are left out between the two.
 Outcome NaiveProcessor::next()
 {
     return goTo(pc + 1);
 }
 
+int NaiveProcessor::find(int address) const
+{
+    const int range = m_program.places[std::size_t(pc)].range;
+    return m_program.find(range > 0 ? range : page, address);
+}
+
 Outcome NaiveProcessor::step()
 {
     writes.clear();
+    readPorts.clear();
     if (interrupt == pending) {
         if (calls.size() >= deepestCalls)
             return Outcome::stackOverflow;
         interrupt = inService;
-        calls.push_back({pc, carry, zero});
-        pc = m_vector < int(m_program.size()) ? m_vector : -1;
+        calls.push_back({"ISR", pc, carry, zero});
+        moveTo(find(m_build.vector));
         if (pc < 0)
             return Outcome::noVector;
     }
-    return execute(m_program[std::size_t(pc)]);
+    return execute(m_program.instructions[std::size_t(pc)]);
+}
+
+bool NaiveProcessor::isMissing(const Operand& operand) const
+{
+    return (operand.kind == Operand::reg || operand.kind == Operand::inParentheses) &&
+           operand.value >= m_build.regCount;
+}
+
+/// The second register of a rotation is never looked at. What a read is stored in is looked at last, in memory().
+bool NaiveProcessor::namesMissingRegister(const Instruction& instruction) const
+{
+    const QString& word = instruction.mnemonic;
+    if (word.startsWith("RO"))
+        return isMissing(instruction.first);
+    if (word == "RDMEM" || word == "RDPRT")
+        return isMissing(instruction.second);
+    return isMissing(instruction.first) || isMissing(instruction.second);
 }
 
 Outcome NaiveProcessor::execute(const Instruction& instruction)
 {
     static const QStringList memoryWords = {"RDMEM", "WRMEM", "RDPRT", "WRPRT"};
     static const QStringList flowWords = {"JUMP", "CALL", "RET", "RETI", "LOADRET"};
-    if (arithmetic(instruction) || shift(instruction))
+    if (namesMissingRegister(instruction))
+        return Outcome::badRegister;
+    if (arithmetic(instruction) || logic(instruction) || shift(instruction))
         return next();
     if (memoryWords.contains(instruction.mnemonic))
         return memory(instruction);
@@ -160,92 +220,84 @@ Outcome NaiveProcessor::execute(const Instruction& instruction)
 
 bool NaiveProcessor::arithmetic(const Instruction& instruction)
 {
-    static const QStringList words = {"LOAD", "ADD",  "ADDC", "SUB",  "SUBC",  "AND",
-                                      "OR",   "XOR",  "COMP", "COMPC", "TEST", "TESTC"};
+    static const QStringList words = {"LOAD", "ADD", "ADDC", "SUB", "SUBC", "COMP", "COMPC"};
     const int which = words.indexOf(instruction.mnemonic);
     if (which < 0)
         return false;
     int& r = dst(instruction);
     const int v = source(instruction.second);
-    const Bits a = bitsOf(r);
-    const Bits b = bitsOf(v);
-    Bits inverted;
-    Bits result;
-    bool odd = false;
-    const bool isPicoBlaze = m_family != Family::Mico8;
-    for (std::size_t bit = 0; bit < 8; ++bit)
-        inverted[bit] = !b[bit];
     switch (which) {
     case 0: // LOAD
         r = v;
-        return true;
+        break;
     case 1: // ADD
     case 2: // ADDC
     {
-        const bool carryIn = which == 2 && carry;
-        bool carryOut = carryIn;
-        r = valueOf(sum(a, b, &carryOut));
+        bool carryBit = which == 2 && carry;
+        r = valueOf(sum(bitsOf(r), bitsOf(v), &carryBit));
+        carry = carryBit;
         // The sum of 8 bits is zero, and its ninth bit does not matter.
-        const bool isZero = r == 0;
-        carry = carryOut;
-        zero = which == 2 && m_family == Family::PicoBlaze6 ? zero && isZero : isZero;
-        return true;
+        zero = r == 0 && (which == 1 || m_family != Family::PicoBlaze6 || zero);
+        break;
     }
     case 3: // SUB
     case 4: // SUBC
+        subtract(&r, v, which == 4);
+        break;
+    default: // COMP, COMPC
     {
-        bool noBorrow = !(which == 4 && carry);
-        const bool carriedIn = !noBorrow;
-        r = valueOf(sum(a, inverted, &noBorrow));
-        bool isZero = r == 0;
-        // 0 - 255 - 1 has no zero in the result of the chained subtraction of a PicoBlaze 6, as it looks at more than 9 bits.
-        const bool isMinus256 = carriedIn && valueOf(a) == 0 && valueOf(b) == 255;
-        carry = !noBorrow;
-        if (which == 4 && m_family == Family::PicoBlaze6)
-            zero = zero && isZero && !isMinus256;
-        else
-            zero = isZero;
-        return true;
-    }
-    case 5: // AND
-    case 6: // OR
-    case 7: // XOR
-        for (std::size_t bit = 0; bit < 8; ++bit)
-            result[bit] = which == 5 ? a[bit] && b[bit] : which == 6 ? a[bit] || b[bit] : a[bit] != b[bit];
-        r = valueOf(result);
-        zero = r == 0;
-        if (isPicoBlaze)
-            carry = false;
-        return true;
-    case 8: // COMP
-    case 9: // COMPC
-    {
-        const int less = which == 9 && carry ? 1 : 0;
-        zero = (which == 8 || zero) && r == v + less;
+        const int less = which == 6 && carry ? 1 : 0;
+        zero = (which == 5 || zero) && r == v + less;
         carry = r < v + less;
-        return true;
+        break;
     }
-    case 10: // TEST
-    case 11: // TESTC
-    {
-        bool any = false;
-        for (std::size_t bit = 0; bit < 8; ++bit) {
-            any = any || (a[bit] && b[bit]);
-            odd = odd != (a[bit] && b[bit]);
-        }
-        if (which == 11) {
-            carry = carry != odd;
-            zero = zero && !any;
-        } else {
-            if (isPicoBlaze)
-                carry = odd;
-            zero = !any;
-        }
-        return true;
     }
-    default:
+    return true;
+}
+
+void NaiveProcessor::subtract(int* r, int v, bool chained)
+{
+    const bool borrowIn = chained && carry;
+    // 0 - 255 - 1 has no zero in the result of the chained subtraction of a PicoBlaze 6, as it looks at more than 9
+    // bits.
+    const bool isMinus256 = borrowIn && *r == 0 && v == 255;
+    Bits inverted = bitsOf(v);
+    for (bool& bit : inverted)
+        bit = !bit;
+    bool noBorrow = !borrowIn;
+    *r = valueOf(sum(bitsOf(*r), inverted, &noBorrow));
+    carry = !noBorrow;
+    if (chained && m_family == Family::PicoBlaze6)
+        zero = zero && *r == 0 && !isMinus256;
+    else
+        zero = *r == 0;
+}
+
+bool NaiveProcessor::logic(const Instruction& instruction)
+{
+    static const QStringList words = {"AND", "OR", "XOR", "TEST", "TESTC"};
+    const int which = words.indexOf(instruction.mnemonic);
+    if (which < 0)
         return false;
+    int& r = dst(instruction);
+    const Bits a = bitsOf(r);
+    const Bits b = bitsOf(source(instruction.second));
+    Bits result;
+    bool any = false;
+    bool odd = false;
+    for (std::size_t bit = 0; bit < 8; ++bit) {
+        result[bit] = which == 1 ? a[bit] || b[bit] : which == 2 ? a[bit] != b[bit] : a[bit] && b[bit];
+        any = any || result[bit];
+        odd = odd != result[bit];
     }
+    zero = !any && (which != 4 || zero);
+    if (which < 3)
+        r = valueOf(result);
+    if (which == 4)
+        carry = carry != odd;
+    else if (m_family != Family::Mico8)
+        carry = which == 3 && odd;
+    return true;
 }
 
 bool NaiveProcessor::shift(const Instruction& instruction)
@@ -289,13 +341,19 @@ Outcome NaiveProcessor::memory(const Instruction& instruction)
     if (instruction.mnemonic == "RDMEM") {
         if (address >= int(scrpd.size()))
             return Outcome::badScrpdRead;
+        if (isMissing(instruction.first))
+            return Outcome::badRegister;
         dst(instruction) = scrpd[std::size_t(address)];
     } else if (instruction.mnemonic == "WRMEM") {
         if (address >= int(scrpd.size()))
             return Outcome::badScrpdWrite;
         scrpd[std::size_t(address)] = dst(instruction);
     } else if (instruction.mnemonic == "RDPRT") {
-        dst(instruction) = portValue(reads++);
+        const int value = portValue(reads++);
+        readPorts.push_back(address);
+        if (isMissing(instruction.first))
+            return Outcome::badRegister;
+        dst(instruction) = value;
     } else {
         writes.push_back({address, source(instruction.first)});
     }
@@ -305,11 +363,11 @@ Outcome NaiveProcessor::memory(const Instruction& instruction)
 Outcome NaiveProcessor::comeBack()
 {
     if (calls.empty()) {
-        clocks += m_clocksOfInstr;
+        clocks += m_build.clocksOfInstr;
         pc = -1;
         return Outcome::stackEmpty;
     }
-    pc = calls.back().from;
+    moveTo(calls.back().from);
     calls.pop_back();
     return next();
 }
@@ -325,28 +383,38 @@ Outcome NaiveProcessor::flow(const Instruction& instruction)
     }
     if (word == "RETI") {
         interrupt = instruction.first.kind == Operand::enable ? enabled : disabled;
-        clocks += m_clocksOfInstr;
+        clocks += m_build.clocksOfInstr;
         if (calls.empty()) {
             pc = -1;
             return Outcome::stackEmpty;
         }
-        pc = calls.back().from;
+        moveTo(calls.back().from);
         carry = calls.back().carry;
         zero = calls.back().zero;
         calls.pop_back();
         return Outcome::done;
     }
-    int target = instruction.first.kind == Operand::label ? instruction.first.value : instruction.second.value;
-    if (instruction.first.kind == Operand::inParentheses)
-        target = source(instruction.first) * 256 + source(instruction.second);
-    else if (!isMet(instruction.first))
-        return next();
-    if (target >= int(m_program.size()))
-        return Outcome::noTarget;
+    int target = -1;
+    QString name;
+    if (instruction.first.kind == Operand::inParentheses) {
+        const int high = source(instruction.first);
+        const int low = source(instruction.second);
+        target = find(high * 256 + low);
+        if (target < 0)
+            return Outcome::noTarget;
+        name = QString("%1 = %2, %3 = %4")
+                   .arg(operandText({Operand::reg, instruction.first.value}, m_family), QString::number(high),
+                        operandText({Operand::reg, instruction.second.value}, m_family), QString::number(low));
+    } else {
+        if (!isMet(instruction.first))
+            return next();
+        target = (instruction.first.kind == Operand::label ? instruction.first : instruction.second).value;
+        name = QString("L%1").arg(target);
+    }
     if (word == "CALL") {
         if (calls.size() >= deepestCalls)
             return Outcome::stackOverflow;
-        calls.push_back({pc, carry, zero});
+        calls.push_back({name, pc, carry, zero});
     }
     return goTo(target);
 }

@@ -1,24 +1,17 @@
 #include "SideBySide.h"
 
-#include "LMico8v3xConfig.h"
-#include "LMico8v3xSim.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
+#include "ProcShell.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimPorts.h"
-#include "XPBlze3Config.h"
-#include "XPBlze3Sim.h"
-#include "XPBlze6Config.h"
-#include "XPBlze6Sim.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace {
-
-const int mico8Clocks = 3;
-const int mico8Scrpd = 64;
 
 QString processorName(Family family)
 {
@@ -27,101 +20,131 @@ QString processorName(Family family)
                                           : "Lattice Mico8 v3.x";
 }
 
-std::unique_ptr<nsProc::ProcSim> makeSim(Family family)
+/// The build as the project file has it.
+QHash<QString, int> settings(Family family, const Build& build)
 {
-    if (family == Family::PicoBlaze3)
-        return std::make_unique<nsXPBlze3::XPBlze3Sim>();
-    if (family == Family::PicoBlaze6)
-        return std::make_unique<nsXPBlze6::XPBlze6Sim>();
-    return std::make_unique<nsLMico8v3x::LMico8v3xSim>();
+    // The directives that place the pages are not held against the settings.
+    QHash<QString, int> result = {{"AsmFe/behavior/set", 2}};
+    if (family == Family::PicoBlaze6) {
+        result["XPBlze6/scrpdSize"] = build.scrpdSize;
+        result["XPBlze6/intVectorAddr"] = build.vector;
+    } else if (family == Family::Mico8) {
+        result["LMico8v3x/scrpdSize"] = build.scrpdSize;
+        result["LMico8v3x/instrClkCnt"] = build.clocksOfInstr;
+        result["LMico8v3x/regCount"] = build.regCount;
+    }
+    return result;
 }
 
-nsProc::ProcCoreConfig makeConfig(Family family)
+/// What the simulator must have reported. Internal errors have a text and no key.
+struct Report
 {
-    if (family == Family::PicoBlaze3)
-        return nsXPBlze3::XPBlze3Config();
-    if (family == Family::PicoBlaze6)
-        return nsXPBlze6::XPBlze6Config();
-    nsLMico8v3x::LMico8v3xConfig config;
-    config.instrClkCnt = mico8Clocks;
-    config.scrpdSize = mico8Scrpd;
-    return config;
-}
+    const char* key;
+    const char* internalText; ///< its start
+};
 
-const char* keyOf(Outcome outcome)
+Report reportOf(Outcome outcome)
 {
     switch (outcome) {
     case Outcome::done:
+        return {"", ""};
     case Outcome::ended:
-        return "";
+        return {"internal", "Zero program pointer!"};
     case Outcome::stackOverflow:
-        return "errCallStackOverflow";
+        return {"errCallStackOverflow", ""};
     case Outcome::stackEmpty:
-        return "errCallStackEmpty";
+        return {"errCallStackEmpty", ""};
     case Outcome::badScrpdRead:
-        return "errScrpdRd";
+        return {"errScrpdRd", ""};
     case Outcome::badScrpdWrite:
-        return "errScrpdWr";
+        return {"errScrpdWr", ""};
+    case Outcome::badRegister:
+        return {"internal", "Register index exceeds register count: r"};
     case Outcome::noTarget:
-        return "internal";
+        return {"internal", "No instruction at address: "};
     case Outcome::noVector:
-        return "errNoOpcodeAtIntVect";
+        return {"errNoOpcodeAtIntVect", ""};
     }
-    return "";
+    return {"", ""};
 }
 
 } // namespace
 
-const char* nameOf(Family family)
-{
-    return family == Family::PicoBlaze3 ? "PicoBlaze3" : family == Family::PicoBlaze6 ? "PicoBlaze6" : "Mico8";
-}
-
-SideBySide::SideBySide(Family family, const std::vector<Instruction>& program)
+SideBySide::SideBySide(Family family, const Program& program, const Build& build)
     : m_family(family)
     , m_program(program)
-    , m_run(processorName(family), {{"LMico8v3x/scrpdSize", mico8Scrpd}, {"LMico8v3x/instrClkCnt", mico8Clocks}})
-    , m_sim(makeSim(family))
+    , m_run(processorName(family), settings(family, build))
 {
-    QStringList lines;
-    for (std::size_t address = 0; address < program.size(); ++address)
-        lines.append(QString("L%1: %2").arg(address).arg(program[address].text(family)));
-    if (!m_run.assemble(lines)) {
-        m_problem = m_run.summary();
+    if (!m_run.assemble(source())) {
+        m_problem = "not assembled: " + m_run.summary();
         return;
     }
-    for (nsModAsmFe::Opcode* opcode : *m_run.asmFe.opcodeList())
+    for (nsModAsmFe::Opcode* opcode : *m_run.asmFe.opcodeList()) {
+        m_positions[opcode] = int(m_opcodes.size());
         m_opcodes.push_back(opcode);
-    nsProc::ProcCoreConfig config = makeConfig(family);
-    m_run.asmFe.instMemConfig(&config.pageSize, &config.pageCount, &config.sharedMemHi);
+    }
+    if (int(m_opcodes.size()) != program.size()) {
+        m_problem = "another number of instructions was assembled";
+        return;
+    }
+    auto* shell = dynamic_cast<nsProc::ProcShell*>(m_run.processor.currentProcessor());
+    m_sim.reset(shell->createSim());
     m_sim->modAsmFeHook = &m_run.asmFe;
     m_sim->setObserver(this);
-    if (!m_sim->simInit(&config)) {
+    if (!m_sim->simInit(shell->runConfig())) {
         m_problem = "the simulator does not start";
         return;
     }
-    const int clocks = family == Family::Mico8 ? mico8Clocks : 2;
-    m_model = std::make_unique<NaiveProcessor>(family, m_program, config.scrpdSize, config.intVectorAddr, clocks);
+    m_model = std::make_unique<NaiveProcessor>(family, m_program, build);
+    m_problem = compareState() + compareTheRest();
 }
 
 SideBySide::~SideBySide() = default;
+
+/// One line an instruction, each with a label of its position, and what places them.
+QStringList SideBySide::source()
+{
+    QStringList lines;
+    if (m_program.pageCount > 1) {
+        lines.append(QString("#SET INSTMEM::PAGECOUNT, %1").arg(m_program.pageCount));
+        lines.append(QString("#SET INSTMEM::SHAREDMEMLOCATION, %1").arg(m_program.sharedHigh ? "HIMEM" : "LOMEM"));
+        // A device of its own: in the default one there is no room for the copies of a shared word at address 0.
+        lines += QStringList({"#SET IODEV::rom::EN, TRUE", "#SET IODEV::rom::SIZE, 2048",
+                              "#SET IODEV::rom::VALUE, INSTMEM", "#SET IODEV::rom::SIMEN, FALSE"});
+    }
+    Place last = {m_program.pageCount > 1 ? -1 : 1, -1};
+    for (int position = 0; position < m_program.size(); ++position) {
+        const Place place = m_program.places[std::size_t(position)];
+        if (place.range != last.range)
+            lines.append("#ORG MEMRANGE, " +
+                         (place.range == 0 ? QString("SHARED") : QString("PAGE%1").arg(place.range - 1)));
+        if (place.range != last.range || place.address != last.address + 1)
+            lines.append(QString("#ORG ADDR, %1").arg(place.address));
+        last = place;
+        m_lines.push_back(lines.size());
+        lines.append(
+            QString("L%1: %2").arg(position).arg(m_program.instructions[std::size_t(position)].text(m_family)));
+    }
+    return lines;
+}
 
 void SideBySide::portWritten(int addr, int value)
 {
     m_writes.push_back({addr, value});
 }
 
-bool SideBySide::portSource(int, int* value, bool* handled)
+bool SideBySide::portSource(int addr, int* value, bool* handled)
 {
+    m_readPorts.push_back(addr);
     *handled = true;
     *value = NaiveProcessor::portValue(m_reads++);
     return true;
 }
 
-void SideBySide::goTo(int address)
+void SideBySide::goTo(int position)
 {
-    m_model->pc = address;
-    m_sim->setProgramCounter(m_opcodes[std::size_t(address)]);
+    m_model->moveTo(position);
+    m_sim->setProgramCounter(m_opcodes[std::size_t(position)]);
 }
 
 void SideBySide::setReg(int index, int value)
@@ -162,39 +185,42 @@ void SideBySide::clearCalls()
 
 std::string SideBySide::step()
 {
-    m_writes.clear();
-    const bool simulated = m_sim->simOpcode();
-    return compare(m_model->step(), simulated, true);
+    m_before = *m_model;
+    const int at = m_before.pc;
+    std::string difference = stepQuickly();
+    if (difference.empty())
+        difference = compareTheRest();
+    if (difference.empty())
+        return difference;
+    return difference + "\n  instruction " + std::to_string(at) + ": " +
+           m_program.instructions[std::size_t(at)].text(m_family).toStdString() +
+           "\n  both before:     " + text(m_before) + "\n  model after:     " + text(*m_model) +
+           "\n  simulator after: " + text(simulated());
 }
 
 std::string SideBySide::stepQuickly()
 {
     m_writes.clear();
+    m_readPorts.clear();
     const bool simulated = m_sim->simOpcode();
-    return compare(m_model->step(), simulated, false);
+    m_outcome = m_model->step();
+    return compareOutcome(simulated) + compareState();
 }
 
-std::string SideBySide::compare(Outcome outcome, bool simulated, bool all)
-{
-    std::string difference = compareOutcome(outcome, simulated);
-    if (difference.empty())
-        difference = compareState(all);
-    return difference;
-}
-
-std::string SideBySide::compareOutcome(Outcome outcome, bool simulated)
+std::string SideBySide::compareOutcome(bool simulated)
 {
     std::ostringstream text;
     const std::string key = m_sim->takeLastMsg().toStdString();
-    // The end of the program is told beside whatever else there is to tell.
-    const std::string expected = outcome == Outcome::ended ? "internal" : keyOf(outcome);
-    if (key != expected)
-        text << "message " << key << " instead of " << expected;
-    const bool goesOn = outcome == Outcome::done || outcome == Outcome::ended || outcome == Outcome::stackEmpty;
+    const Report expected = reportOf(m_outcome);
+    if (key != expected.key)
+        text << " message " << key << " instead of " << expected.key;
+    else if (key == "internal" && !m_sim->lastInternalError().startsWith(expected.internalText))
+        text << " message " << m_sim->lastInternalError().toStdString() << " instead of " << expected.internalText;
+    const bool goesOn = m_outcome == Outcome::done || m_outcome == Outcome::ended || m_outcome == Outcome::stackEmpty;
     if (simulated != goesOn)
         text << " result " << simulated;
-    if (m_reads != m_model->reads)
-        text << " reads " << m_reads << " instead of " << m_model->reads;
+    if (m_readPorts != m_model->readPorts)
+        text << " port reads differ";
     bool sameWrites = m_writes.size() == m_model->writes.size();
     for (std::size_t i = 0; sameWrites && i < m_writes.size(); ++i)
         sameWrites = m_writes[i].port == m_model->writes[i].port && m_writes[i].value == m_model->writes[i].value;
@@ -203,7 +229,7 @@ std::string SideBySide::compareOutcome(Outcome outcome, bool simulated)
     return text.str();
 }
 
-std::string SideBySide::compareState(bool all)
+std::string SideBySide::compareState()
 {
     std::ostringstream text;
     const nsProc::ProcSimCoreData& core = *m_sim->core();
@@ -211,7 +237,8 @@ std::string SideBySide::compareState(bool all)
         for (int index = 0; index < core.regCount(); ++index) {
             const int expected = m_model->regs[std::size_t(bank)][std::size_t(index)];
             if (core.regValue(bank, index) != expected)
-                text << " register " << bank << '/' << index << ' ' << core.regValue(bank, index) << " instead of " << expected;
+                text << " register " << bank << '/' << index << ' ' << core.regValue(bank, index) << " instead of "
+                     << expected;
         }
     }
     if ((core.carryBit() != 0) != m_model->carry)
@@ -225,15 +252,91 @@ std::string SideBySide::compareState(bool all)
     if (m_sim->clock()->clocks != m_model->clocks)
         text << " clocks " << m_sim->clock()->clocks << " instead of " << m_model->clocks;
     if (m_sim->callStack()->count() != int(m_model->calls.size()))
-        text << " calls " << m_sim->callStack()->count();
-    const nsModAsmFe::Opcode* pc = m_sim->programCounter();
-    if ((pc != nullptr ? pc->pageAddr : -1) != m_model->pc)
-        text << " pc " << (pc != nullptr ? pc->pageAddr : -1) << " instead of " << m_model->pc;
-    for (int addr = 0; all && addr < int(m_model->scrpd.size()); ++addr) {
+        text << " calls " << m_sim->callStack()->count() << " instead of " << m_model->calls.size();
+    const int pc = m_positions.value(m_sim->programCounter(), -1);
+    if (pc != m_model->pc)
+        text << " pc " << pc << " instead of " << m_model->pc;
+    return text.str();
+}
+
+/// Scratchpad, the newest call, and what is shown of the program counter.
+std::string SideBySide::compareTheRest()
+{
+    std::ostringstream text;
+    const nsProc::ProcSimCoreData& core = *m_sim->core();
+    for (int addr = 0; addr < int(m_model->scrpd.size()); ++addr) {
         int cell = -1;
         core.scrpd(addr, &cell);
         if (cell != m_model->scrpd[std::size_t(addr)])
-            text << " scratchpad " << addr << ' ' << cell;
+            text << " scratchpad " << addr << ' ' << cell << " instead of " << m_model->scrpd[std::size_t(addr)];
     }
+    if (core.scrpdSize() != int(m_model->scrpd.size()))
+        text << " scratchpad size " << core.scrpdSize();
+    if (!m_model->calls.empty()) {
+        const State::Call& expected = m_model->calls.back();
+        const nsProc::sCallStackItem_t& item = m_sim->callStack()->items().back();
+        if (item.label != expected.name)
+            text << " call of " << item.label.toStdString() << " instead of " << expected.name.toStdString();
+        if (item.lineIndex != m_lines[std::size_t(expected.from)] ||
+            item.pc != m_program.places[std::size_t(expected.from)].address)
+            text << " call at line " << item.lineIndex << ", address " << item.pc;
+        if (item.carry != expected.carry || item.zero != expected.zero)
+            text << " call with carry " << item.carry << ", zero " << item.zero;
+    }
+    if (m_model->pc >= 0) {
+        const Place& place = m_program.places[std::size_t(m_model->pc)];
+        const bool isShown = place.range == 0 ? core.pageName() == QLatin1String("SHARED")
+                                              : core.pageName() == m_sim->pageNames().at(place.range);
+        if (core.pc() != place.address || !isShown)
+            text << " shown address " << core.pc() << " of " << core.pageName().toStdString();
+    }
+    return text.str();
+}
+
+State SideBySide::simulated() const
+{
+    const nsProc::ProcSimCoreData& core = *m_sim->core();
+    State state;
+    state.pc = m_positions.value(m_sim->programCounter(), -1);
+    for (int bank = 0; bank < core.bankCount(); ++bank) {
+        for (int index = 0; index < core.regCount(); ++index)
+            state.regs[std::size_t(bank)][std::size_t(index)] = core.regValue(bank, index);
+    }
+    state.bank = core.bank();
+    state.carry = core.carryBit() != 0;
+    state.zero = core.zeroBit() != 0;
+    state.interrupt = State::Interrupt(core.interrupt());
+    for (int addr = 0; addr < core.scrpdSize(); ++addr) {
+        int cell = 0;
+        core.scrpd(addr, &cell);
+        state.scrpd.push_back(cell);
+    }
+    for (const nsProc::sCallStackItem_t& item : m_sim->callStack()->items()) {
+        const auto line = std::find(m_lines.begin(), m_lines.end(), item.lineIndex);
+        state.calls.push_back({item.label, int(line - m_lines.begin()), item.carry, item.zero});
+    }
+    state.clocks = m_sim->clock()->clocks;
+    return state;
+}
+
+std::string SideBySide::text(const State& state) const
+{
+    static const char* const interrupts[] = {"enabled", "disabled", "pending", "in service"};
+    std::ostringstream text;
+    text << "pc " << state.pc << " carry " << state.carry << " zero " << state.zero << " interrupt "
+         << interrupts[state.interrupt] << " clocks " << state.clocks << " bank " << state.bank << std::hex
+         << " registers";
+    for (int bank = 0; bank < m_sim->core()->bankCount(); ++bank) {
+        text << (bank > 0 ? " |" : "");
+        for (int index = 0; index < m_sim->core()->regCount(); ++index)
+            text << ' ' << state.regs[std::size_t(bank)][std::size_t(index)];
+    }
+    text << " scratchpad";
+    for (int cell : state.scrpd)
+        text << ' ' << cell;
+    text << std::dec << " calls";
+    for (const State::Call& call : state.calls)
+        text << ' ' << call.name.toStdString() << " from " << call.from << " carry " << call.carry << " zero "
+             << call.zero << ';';
     return text.str();
 }

@@ -6,6 +6,8 @@
 #include "ProcSim.h"
 #include "ProcSimObserver.h"
 
+#include <QHash>
+
 #include <memory>
 #include <string>
 #include <vector>
@@ -14,19 +16,22 @@
 class SideBySide : private nsProc::ProcSimObserver
 {
 public:
-    /// Assembles the program, one instruction a line, and starts both sides at address 0.
-    SideBySide(Family family, const std::vector<Instruction>& program);
+    /// Assembles the program and starts both sides at address 0.
+    SideBySide(Family family, const Program& program, const Build& build = Build());
     ~SideBySide() override;
 
     /// Not empty: why the comparison can not start.
     const std::string& problem() const { return m_problem; }
-    /// One instruction on both sides. @return what differs afterwards, with all that is needed to find it; empty if nothing does
+    /// One instruction on both sides.
+    /// @return what differs afterwards, with the states of both sides before and after; empty if nothing does
     std::string step();
-    /// The same without the comparison of what the instruction can not have touched.
+    /// The same without the comparison of what instructions that only compute can not have touched.
     std::string stepQuickly();
+    /// What the last step came to.
+    Outcome outcome() const { return m_outcome; }
 
     // Both sides at once.
-    void goTo(int address);
+    void goTo(int position);
     void setReg(int index, int value);
     void setFlags(bool carry, bool zero);
     void setHwBuild(int value);
@@ -39,19 +44,26 @@ private:
     void portWritten(int addr, int value) override;
     bool portSource(int addr, int* value, bool* handled) override;
 
-    std::string compare(Outcome outcome, bool simulated, bool all);
-    std::string compareOutcome(Outcome outcome, bool simulated);
-    std::string compareState(bool all);
+    QStringList source();
+    std::string compareOutcome(bool simulated);
+    std::string compareState();
+    std::string compareTheRest();
+    /// The simulator's, in the terms of the model.
+    State simulated() const;
+    std::string text(const State& state) const;
 
     Family m_family;
-    std::vector<Instruction> m_program;
+    Program m_program;
+    std::vector<int> m_lines; ///< of the source, by position
     ProcRun m_run;
     std::unique_ptr<nsProc::ProcSim> m_sim;
     std::unique_ptr<NaiveProcessor> m_model;
-    std::vector<nsModAsmFe::Opcode*> m_opcodes;
-    std::vector<NaiveProcessor::PortWrite> m_writes;
+    std::vector<nsModAsmFe::Opcode*> m_opcodes; ///< by position
+    QHash<const nsModAsmFe::Opcode*, int> m_positions;
+    std::vector<NaiveProcessor::PortWrite> m_writes; ///< the simulator's, of the last step
+    std::vector<int> m_readPorts;                    ///< the simulator's, of the last step
     std::uint32_t m_reads = 0;
+    Outcome m_outcome = Outcome::done;
+    State m_before;
     std::string m_problem;
 };
-
-const char* nameOf(Family family);
