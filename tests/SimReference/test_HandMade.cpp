@@ -1,13 +1,6 @@
 // Cases with their results worked out by hand: a few instructions, what stood before, what must stand after.
 
-#include "LMico8v3xConfig.h"
-#include "LMico8v3xSim.h"
-#include "ProcRun.h"
-#include "ProcShell.h"
-#include "XPBlze3Config.h"
-#include "XPBlze3Sim.h"
-#include "XPBlze6Config.h"
-#include "XPBlze6Sim.h"
+#include "SimBench.h"
 
 #include "Opcode.h"
 #include "OpcodeList.h"
@@ -18,8 +11,6 @@
 #include "ProcSimPorts.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace {
 
@@ -42,10 +33,6 @@ void PrintTo(const Row& row, std::ostream* out)
 {
     *out << row.name;
 }
-
-const char* const b3 = "Xilinx PicoBlaze 3";
-const char* const b6 = "Xilinx PicoBlaze 6";
-const char* const m8 = "Lattice Mico8 v3.x";
 
 const Row rows[] = {
     // name, processor, program, steps, before (registers 0 and 1, carry, zero), after (the same, pc), clocks, message
@@ -123,34 +110,6 @@ const Row rows[] = {
     {"Call32Overflows8", m8, "f: CALL f", 32, 0, 0, 1, 0, 0, 0, 1, 0, 0, 62, "errCallStackOverflow"},
 };
 
-std::unique_ptr<nsProc::ProcSim> makeSim(const QString& processor)
-{
-    if (processor == b3)
-        return std::make_unique<nsXPBlze3::XPBlze3Sim>();
-    if (processor == b6)
-        return std::make_unique<nsXPBlze6::XPBlze6Sim>();
-    return std::make_unique<nsLMico8v3x::LMico8v3xSim>();
-}
-
-/// A simulator on a program of a few lines.
-struct Bench
-{
-    Bench(const QString& processor, const QString& program, const QHash<QString, int>& settings = {})
-        : run(processor, settings)
-        , sim(makeSim(processor))
-    {
-        started = run.assemble(program.split(';'));
-        sim->modAsmFeHook = &run.asmFe;
-        sim->modMsgHook = &run.msg;
-        auto* shell = dynamic_cast<nsProc::ProcShell*>(run.processor.currentProcessor());
-        started = started && sim->simInit(shell->runConfig());
-    }
-
-    ProcRun run;
-    std::unique_ptr<nsProc::ProcSim> sim;
-    bool started = false;
-};
-
 class HandMade : public ::testing::TestWithParam<Row>
 {
 };
@@ -158,7 +117,7 @@ class HandMade : public ::testing::TestWithParam<Row>
 TEST_P(HandMade, Row)
 {
     const Row& row = GetParam();
-    Bench bench(row.processor, row.program);
+    SimBench bench(row.processor, row.program);
     ASSERT_TRUE(bench.started) << bench.run.summary();
     nsProc::ProcSimCoreData& core = *bench.sim->core();
     core.editReg(0, 0, row.r0);
@@ -181,7 +140,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows), [](const aut
 
 TEST(HandMadeMore, StarWritesTheOtherBank)
 {
-    Bench bench(b6, "STAR s0, s1;NOP");
+    SimBench bench(b6, "STAR s0, s1;NOP");
     ASSERT_TRUE(bench.started);
     nsProc::ProcSimCoreData& core = *bench.sim->core();
     core.editReg(0, 0, 0x11);
@@ -194,7 +153,7 @@ TEST(HandMadeMore, StarWritesTheOtherBank)
 
 TEST(HandMadeMore, ComputedJumpAndCall)
 {
-    Bench bench(b6, "LOAD s1, 1;LOAD s2, 0x23;CALL (s1), (s2);#ORG ADDR, 0x123;RET");
+    SimBench bench(b6, "LOAD s1, 1;LOAD s2, 0x23;CALL (s1), (s2);#ORG ADDR, 0x123;RET");
     ASSERT_TRUE(bench.started) << bench.run.summary();
     for (int step = 0; step < 3; ++step)
         bench.sim->simOpcode();
@@ -209,7 +168,7 @@ TEST(HandMadeMore, ComputedJumpAndCall)
 
 TEST(HandMadeMore, ComputedJumpTakesTheHighPartFirst)
 {
-    Bench bench(b6, "JUMP (s1), (s2);#ORG ADDR, 0x123;NOP");
+    SimBench bench(b6, "JUMP (s1), (s2);#ORG ADDR, 0x123;NOP");
     ASSERT_TRUE(bench.started) << bench.run.summary();
     bench.sim->core()->editReg(0, 1, 1);
     bench.sim->core()->editReg(0, 2, 0x23);
@@ -224,7 +183,7 @@ TEST(HandMadeMore, RetiRestoresTheFlagsOfTheInterruptedInstruction)
 {
     for (const char* processor : {b3, b6}) {
         // The interrupted instruction would set other flags than those that the interrupt finds.
-        Bench bench(processor, "INT ENABLE;SUB s0, s1;NOP;#ORG ADDR, 0x3FF;RETI ENABLE");
+        SimBench bench(processor, "INT ENABLE;SUB s0, s1;NOP;#ORG ADDR, 0x3FF;RETI ENABLE");
         ASSERT_TRUE(bench.started) << bench.run.summary();
         nsProc::ProcSimCoreData& core = *bench.sim->core();
         bench.sim->simOpcode();
@@ -249,7 +208,7 @@ TEST(HandMadeMore, RetiRestoresTheFlagsOfTheInterruptedInstruction)
 TEST(HandMadeMore, HandlerChangesNoFlagsButByRet)
 {
     for (const char* back : {"RETI ENABLE", "RET"}) {
-        Bench bench(b3, QString("INT ENABLE;NOP;NOP;handler: COMP s0, s0;%1;#ORG ADDR, 0x3FF;JUMP handler").arg(back));
+        SimBench bench(b3, QString("INT ENABLE;NOP;NOP;handler: COMP s0, s0;%1;#ORG ADDR, 0x3FF;JUMP handler").arg(back));
         ASSERT_TRUE(bench.started) << bench.run.summary();
         nsProc::ProcSimCoreData& core = *bench.sim->core();
         bench.sim->simOpcode();
@@ -272,7 +231,7 @@ TEST(HandMadeMore, HandlerChangesNoFlagsButByRet)
 
 TEST(HandMadeMore, ComputedTargetWithoutAnInstruction)
 {
-    Bench bench(b6, "CALL (s1), (s2);NOP");
+    SimBench bench(b6, "CALL (s1), (s2);NOP");
     ASSERT_TRUE(bench.started);
     bench.sim->core()->editReg(0, 1, 1);
     bench.sim->core()->editReg(0, 2, 0x23);
@@ -284,7 +243,7 @@ TEST(HandMadeMore, ComputedTargetWithoutAnInstruction)
 
 TEST(HandMadeMore, ConstantGoesToItsPort)
 {
-    Bench bench(b6, "WRPRT 0x55, 3;NOP");
+    SimBench bench(b6, "WRPRT 0x55, 3;NOP");
     ASSERT_TRUE(bench.started);
     EXPECT_TRUE(bench.sim->simOpcode());
     ASSERT_EQ(bench.sim->ports()->devices().size(), 1);
@@ -298,7 +257,7 @@ TEST(HandMadeMore, ConstantGoesToItsPort)
 
 TEST(HandMadeMore, EmptyFifoIsReported)
 {
-    Bench bench(b3, "RDPRT s0, 4;NOP");
+    SimBench bench(b3, "RDPRT s0, 4;NOP");
     ASSERT_TRUE(bench.started);
     const auto reads = nsProc::ProcSimIOPluginIf::eDirectionRd;
     bench.sim->ports()->addIOPlugin(nsProc::ProcSimPorts::eDevFifo, reads, 0)->setBaseAddr(4, "x");
@@ -310,7 +269,7 @@ TEST(HandMadeMore, EmptyFifoIsReported)
 
 TEST(HandMadeMore, RegisterBeyondTheCount)
 {
-    Bench bench(m8, "LOAD r16, 1;ADD r0, r20;NOP", {{"LMico8v3x/regCount", 16}});
+    SimBench bench(m8, "LOAD r16, 1;ADD r0, r20;NOP", {{"LMico8v3x/regCount", 16}});
     ASSERT_TRUE(bench.started) << bench.run.summary();
     EXPECT_FALSE(bench.sim->simOpcode());
     EXPECT_EQ(bench.sim->lastInternalError(), "Register index exceeds register count: r16");
@@ -322,7 +281,7 @@ TEST(HandMadeMore, RegisterBeyondTheCount)
 
 TEST(HandMadeMore, ClocksOfAnInstructionAreASetting)
 {
-    Bench bench(m8, "loop: ADD r0, 1;JUMP loop", {{"LMico8v3x/instrClkCnt", 3}});
+    SimBench bench(m8, "loop: ADD r0, 1;JUMP loop", {{"LMico8v3x/instrClkCnt", 3}});
     ASSERT_TRUE(bench.started);
     for (int step = 0; step < 10; ++step)
         bench.sim->simOpcode();
@@ -332,7 +291,7 @@ TEST(HandMadeMore, ClocksOfAnInstructionAreASetting)
 TEST(HandMadeMore, RetiOfMico8LeavesTheInterruptShut)
 {
     // The vector of a Mico8 is its address 0.
-    Bench bench(m8, "RETI;INT ENABLE;loop: ADD r0, 1;JUMP loop");
+    SimBench bench(m8, "RETI;INT ENABLE;loop: ADD r0, 1;JUMP loop");
     ASSERT_TRUE(bench.started);
     bench.sim->setProgramCounter(bench.sim->programCounter()->next);
     bench.sim->simOpcode();
@@ -354,7 +313,7 @@ TEST(HandMadeMore, MessagesHaveTheirHelpAndTheirPlace)
         const char* page;
     } pages[] = {{b3, "XPBlze3SimMessages"}, {b6, "XPBlze6SimMessages"}, {m8, "LMico8v3xSimMessages"}};
     for (const auto& page : pages) {
-        Bench bench(page.processor, "NOP;RET");
+        SimBench bench(page.processor, "NOP;RET");
         ASSERT_TRUE(bench.started);
         bench.sim->simOpcode();
         bench.sim->simOpcode();
@@ -368,7 +327,7 @@ TEST(HandMadeMore, MessagesHaveTheirHelpAndTheirPlace)
 
 TEST(HandMadeMore, MessageLeadsToTheInstruction)
 {
-    Bench bench(b3, "NOP;NOP;WRMEM s0, (s1)");
+    SimBench bench(b3, "NOP;NOP;WRMEM s0, (s1)");
     ASSERT_TRUE(bench.started);
     bench.sim->core()->editReg(0, 1, 200);
     for (int step = 0; step < 3; ++step)
@@ -380,7 +339,7 @@ TEST(HandMadeMore, MessageLeadsToTheInstruction)
 
 TEST(HandMadeMore, HwBuildWithoutAValue)
 {
-    Bench bench(b6, "HWBUILD s0;NOP");
+    SimBench bench(b6, "HWBUILD s0;NOP");
     ASSERT_TRUE(bench.started);
     bench.sim->core()->setHwbld(-1);
     EXPECT_FALSE(bench.sim->simOpcode());
@@ -390,7 +349,7 @@ TEST(HandMadeMore, HwBuildWithoutAValue)
 
 TEST(HandMadeMore, UnsupportedInstructionIsReportedAtIt)
 {
-    Bench bench(b3, "NOP;NOP");
+    SimBench bench(b3, "NOP;NOP");
     ASSERT_TRUE(bench.started);
     bench.sim->programCounter()->opcode = nsModAsmFe::ocStar;
     EXPECT_FALSE(bench.sim->simOpcode());
