@@ -60,7 +60,7 @@ protected:
             const Instruction& instruction = machine.program.instructions[size_t(position)];
             const bool isInterrupted = both.model().interrupt == State::pending;
             const std::string difference = both.step();
-            ASSERT_EQ(difference, "") << "step " << i;
+            ASSERT_TRUE(difference.empty()) << "step " << i << ":" << difference;
             note(both.outcome(), isInterrupted ? nullptr : &instruction);
             // What could not be done is left behind.
             if (both.model().pc == position)
@@ -120,8 +120,8 @@ TEST_P(RandomPrograms, AgreeWithTheModel)
     for (long long executed = 0; executed < total && !HasFatalFailure(); executed += instructionsOfProgram) {
         m_random.seed(seed + unsigned(programs) * 7919);
         const Layout layout = Layout(programs % layoutCount);
-        SCOPED_TRACE("NALVO_SIM_SEED=" + std::to_string(seed - unsigned(GetParam())) + ", program " +
-                     std::to_string(programs));
+        SCOPED_TRACE("NALVO_SIM_SEED=" + std::to_string(seed - unsigned(GetParam())) +
+                     " NALVO_SIM_INSTRUCTIONS=" + std::to_string(total) + ", program " + std::to_string(programs));
         run(randomMachine(GetParam(), layout, &m_random), std::min(instructionsOfProgram, total - executed));
         ++programs;
     }
