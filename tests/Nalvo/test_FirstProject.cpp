@@ -8,13 +8,13 @@
 #include "ModPrj.h"
 #include "QtPrinters.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -132,9 +132,19 @@ protected:
         ASSERT_NE(QApplication::focusWidget(), nullptr);
         QTest::keyClick(QApplication::focusWidget(), key);
     }
-    void openConfigPage(const QString& title)
+    /// Turns the check box with the keyboard. @param part object name of the part of the page
+    void toggle(const QString& part, const QString& name)
     {
-        clickTool("Configure...");
+        auto* box = dialog()->findChild<QWidget*>(part)->findChild<QCheckBox*>(name);
+        ASSERT_NE(box, nullptr) << qPrintable(part + ' ' + name);
+        ASSERT_TRUE(box->isEnabled()) << qPrintable(part + ' ' + name);
+        const bool before = box->isChecked();
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Space);
+        EXPECT_NE(box->isChecked(), before);
+    }
+    void showConfigPage(const QString& title)
+    {
         ASSERT_NE(dialog(), nullptr);
         auto* list = dialog()->findChild<QListWidget*>("configList");
         const QList<QListWidgetItem*> items = list->findItems(title, Qt::MatchExactly);
@@ -155,7 +165,9 @@ protected:
 
     void generateProject();
     void writeProgram();
+    void configure();
     void chooseProcessor();
+    void enableOutput(const QString& part, const QString& file);
     void enableOutputs();
     void openFromStartPage();
 };
@@ -212,7 +224,7 @@ void FirstProject::writeProgram()
 
 void FirstProject::chooseProcessor()
 {
-    openConfigPage("Processor");
+    showConfigPage("Processor");
     auto* processor = dialog()->findChild<QComboBox*>("processor");
     ASSERT_NE(processor, nullptr);
     EXPECT_EQ(processor->currentText(), "Unset");
@@ -221,34 +233,43 @@ void FirstProject::chooseProcessor()
         QTest::keyClick(processor, Qt::Key_Down);
     ASSERT_EQ(processor->currentText(), "Xilinx PicoBlaze 3");
     screenshot("first-3-processor");
-    clickButton(dialog(), "Apply and close");
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
-/// Puts a value into a section of the text of a project file.
-void setKey(QString* text, const QString& section, const QString& key, const QString& value)
+void FirstProject::enableOutput(const QString& part, const QString& file)
 {
-    const int start = text->indexOf('<' + section + '>');
-    ASSERT_GE(start, 0) << qPrintable(section);
-    const QRegularExpression element("<" + key + "(/>|>[^<]*</" + key + ">)");
-    const QRegularExpressionMatch match = element.match(*text, start);
-    ASSERT_TRUE(match.hasMatch()) << qPrintable(key);
-    ASSERT_LT(match.capturedStart(), text->indexOf("</" + section + '>')) << qPrintable(key);
-    text->replace(match.capturedStart(), match.capturedLength(), '<' + key + '>' + value + "</" + key + '>');
+    toggle(part, "targetEnable");
+    const auto* hint = dialog()->findChild<QWidget*>(part)->findChild<QLabel*>("targetHint");
+    EXPECT_EQ(hint->text(), "No output file is given: nothing will be written.");
+    auto* edit = dialog()->findChild<QWidget*>(part)->findChild<QWidget*>("targetOutputFile")->findChild<QLineEdit*>();
+    ASSERT_NE(edit, nullptr);
+    edit->setFocus();
+    type(file);
+    EXPECT_TRUE(hint->text().isEmpty()) << qPrintable(hint->text());
 }
 
 void FirstProject::enableOutputs()
 {
-    ASSERT_NO_FATAL_FAILURE(clickTool("Close project"));
-    ASSERT_NE(manager(), nullptr) << "the start page is back";
-    QString text = QString::fromUtf8(content(project()));
-    setKey(&text, "hex", "en", "1");
-    setKey(&text, "hex", "outputFile", "blinker.hex");
-    setKey(&text, "mem", "en", "1");
-    setKey(&text, "mem", "outputFile", "blinker.mem");
-    setKey(&text, "mem", "gapStuffingEn", "0");
-    writeFile("blinker.nalvo", text.toUtf8());
-    ASSERT_NO_FATAL_FAILURE(openFromStartPage());
+    showConfigPage("Assembler");
+    auto* hint = dialog()->findChild<QLabel*>("outputHint");
+    ASSERT_NE(hint, nullptr);
+    EXPECT_TRUE(hint->isVisible()) << "says what is missing";
+    ASSERT_NO_FATAL_FAILURE(enableOutput("targetHex", "blinker.hex"));
+    ASSERT_NO_FATAL_FAILURE(enableOutput("targetMem", "blinker.mem"));
+    EXPECT_FALSE(hint->isVisible());
+    toggle("targetMem", "targetGapStuffing");
+    // Rows hex and mem, column button 2: button 1 alone stays.
+    toggle("targetMapper", "targetEvent21");
+    toggle("targetMapper", "targetEvent31");
+    screenshot("first-4-outputs");
+}
+
+void FirstProject::configure()
+{
+    ASSERT_NO_FATAL_FAILURE(clickTool("Configure..."));
+    ASSERT_NO_FATAL_FAILURE(chooseProcessor());
+    ASSERT_NO_FATAL_FAILURE(enableOutputs());
+    clickButton(dialog(), "Apply and close");
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
 void FirstProject::openFromStartPage()
@@ -276,12 +297,14 @@ TEST_F(FirstProject, fromNothingToTheBytesOfTheOutput)
     EXPECT_TRUE(hasMessage("No assembler backend registerd. Please select a processor.")) << "says what is missing";
     EXPECT_FALSE(tool("Write output files button 1")->isEnabled());
 
-    ASSERT_NO_FATAL_FAILURE(chooseProcessor());
+    ASSERT_NO_FATAL_FAILURE(configure());
     EXPECT_EQ(window->findChild<QLabel*>("asmFeStatusBarProcessor")->text(), "Xilinx PicoBlaze 3");
-    ASSERT_NO_FATAL_FAILURE(enableOutputs());
-    EXPECT_FALSE(QFile::exists(projectDir() + "/blinker.hex"));
+    EXPECT_TRUE(content(project()).contains("<outputFile>blinker.hex</outputFile>")) << content(project()).constData();
+    clickTool("Write output files button 2");
+    EXPECT_FALSE(QFile::exists(projectDir() + "/blinker.hex")) << "button 2 was turned off";
+    EXPECT_FALSE(QFile::exists(projectDir() + "/blinker.mem"));
     clickTool("Write output files button 1");
-    screenshot("first-4-output");
+    screenshot("first-5-output");
     EXPECT_EQ(content(projectDir() + "/blinker.hex"), expectedHex());
     EXPECT_EQ(content(projectDir() + "/blinker.mem"), expectedMem());
 }
@@ -290,8 +313,7 @@ TEST_F(FirstProject, theNextStartFindsAllAsItWas)
 {
     ASSERT_NO_FATAL_FAILURE(generateProject());
     ASSERT_NO_FATAL_FAILURE(writeProgram());
-    ASSERT_NO_FATAL_FAILURE(chooseProcessor());
-    ASSERT_NO_FATAL_FAILURE(enableOutputs());
+    ASSERT_NO_FATAL_FAILURE(configure());
     clickTool("Write output files button 1");
     ASSERT_NE(document(), nullptr);
     document()->setFocus();
