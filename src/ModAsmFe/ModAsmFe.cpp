@@ -1,5 +1,6 @@
 #include "ModAsmFe.h"
 
+#include "AsmFeConfigPage.h"
 #include "AsmFeFileHndlr.h"
 #include "AsmFeParseArg.h"
 #include "AsmFeStatusBar.h"
@@ -19,7 +20,10 @@ ModAsmFe::ModAsmFe(QObject* parent)
     setupKeywordLists();
 }
 
-ModAsmFe::~ModAsmFe() = default;
+ModAsmFe::~ModAsmFe()
+{
+    delete m_configPage;
+}
 
 void ModAsmFe::modRegisterPlugins(QList<ModPluginIf*> modules)
 {
@@ -154,6 +158,37 @@ void ModAsmFe::prjClose()
         m_abandoned = true;
     else
         dropProgram();
+}
+
+nsModConfig::ModConfigPagePluginIf* ModAsmFe::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = new AsmFeConfigPage;
+    return m_configPage;
+}
+
+void ModAsmFe::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage == nullptr)
+        return;
+    const bool isOpen = modPrjHook != nullptr && modPrjHook->isValid();
+    m_configPage->setConfig(this, isOpen ? modPrjHook->prjDir().absolutePath() : QString());
+}
+
+void ModAsmFe::configPageClose(bool accepted)
+{
+    // Without a project there is nothing that the values could belong to.
+    if (m_configPage != nullptr && accepted && modPrjHook != nullptr && modPrjHook->isValid())
+        m_configPage->config(this);
+    delete m_configPage;
+}
+
+void ModAsmFe::configPagesClosed(bool accepted)
+{
+    if (!accepted)
+        return;
+    applyBaseConfig();
+    applyBackendConfig();
 }
 
 void ModAsmFe::srcFileListChanged()

@@ -42,6 +42,7 @@ namespace nsModAsmFe {
 
 class AsmFeFileHndlr;
 class AsmFeParseArg;
+class AsmFeConfigPage;
 class AsmFeStatusBar;
 class Opcode;
 
@@ -121,6 +122,12 @@ public:
     AsmFeMsgHndlr* msgHndlr() override { return m_msgHndlr; }
     AsmFeParseArg* parseArg() override { return m_parseArg; }
     int asmBehaviorChkIntVector() override { return behaviorChkIntVector; }
+
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
+    void configPagesClosed(bool accepted) override;
 
     // ModPrjPluginIf
     void prjOpen() override;
@@ -337,6 +344,7 @@ private:
     AsmFeFileHndlr* m_fileHndlr;
     AsmFeMsgHndlr* m_msgHndlr;
     AsmFeParseArg* m_parseArg;
+    QPointer<AsmFeConfigPage> m_configPage; ///< null while the settings dialog is closed
     AsmFeStatusBar* m_statusBar = nullptr;
 
     QStringList m_charsetNames; ///< upper case; filled on first use, as asking the platform for them takes its time

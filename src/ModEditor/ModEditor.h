@@ -193,6 +193,8 @@ private:
     void removeEditorWidget(EditorWidget* widget);
     EditorWidget* openFileWidget(const QString& path);
     EditorWidget* currentEditorWidget() const;
+    /// After a command of the user who now wants to type.
+    void focusCurrentWidget();
     void openFilesByDialog();
     bool readFile(const QString& path, QString* text, bool* isLatin1);
     bool writeFile(const QString& path, const QByteArray& bytes);

@@ -31,9 +31,11 @@ void ModEditor::handleActions(EditorActionsFile::eAction_t action)
     switch (action) {
     case EditorActionsFile::eActionNew:
         newFile(QString());
+        focusCurrentWidget();
         break;
     case EditorActionsFile::eActionOpen:
         openFilesByDialog();
+        focusCurrentWidget();
         break;
     case EditorActionsFile::eActionSaveAll:
         saveAllFiles();

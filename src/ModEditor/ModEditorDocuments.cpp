@@ -73,6 +73,12 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     delete widget;
 }
 
+void ModEditor::focusCurrentWidget()
+{
+    if (EditorWidget* widget = currentEditorWidget())
+        widget->setFocus();
+}
+
 void ModEditor::newFile(QString text)
 {
     newEditorWidget(QString())->setText(text);

@@ -11,6 +11,12 @@ MyFileSelectOpen::MyFileSelectOpen(QWidget* parent)
     connect(pathEdit(), &QLineEdit::editingFinished, this, &MyFileSelectOpen::checkForOpenFile);
 }
 
+MyFileSelectOpen::~MyFileSelectOpen()
+{
+    // A field that has the focus ends its edit when it goes, which is too late to ask what it holds.
+    pathEdit()->disconnect(this);
+}
+
 bool MyFileSelectOpen::isValid() const
 {
     QString problem;

@@ -9,6 +9,7 @@ class MyFileSelectOpen : public MyFileSelect
 
 public:
     explicit MyFileSelectOpen(QWidget* parent = nullptr);
+    ~MyFileSelectOpen() override;
 
     /// The field holds the path of an existing file.
     bool isValid() const;

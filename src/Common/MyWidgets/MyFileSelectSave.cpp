@@ -12,6 +12,12 @@ MyFileSelectSave::MyFileSelectSave(QWidget* parent)
     connect(pathEdit(), &QLineEdit::editingFinished, this, &MyFileSelectSave::checkForSaveFile);
 }
 
+MyFileSelectSave::~MyFileSelectSave()
+{
+    // A field that has the focus ends its edit when it goes, which is too late to ask what it holds.
+    pathEdit()->disconnect(this);
+}
+
 bool MyFileSelectSave::isValid() const
 {
     QString problem;

@@ -9,6 +9,7 @@ class MyFileSelectSave : public MyFileSelect
 
 public:
     explicit MyFileSelectSave(QWidget* parent = nullptr);
+    ~MyFileSelectSave() override;
 
     /// The folder of the path exists, and the path names a file in it.
     bool isValid() const;

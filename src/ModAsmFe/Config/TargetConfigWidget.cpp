@@ -1,0 +1,197 @@
+#include "TargetConfigWidget.h"
+
+#include "MyFieldTitle.h"
+#include "MyFileSelectOpen.h"
+#include "MyFileSelectSave.h"
+
+#include <QCheckBox>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QLineEdit>
+
+namespace nsModAsmFe {
+
+TargetConfigWidget::TargetConfigWidget(QWidget* parent)
+    : QWidget(parent)
+    , m_layout(new QGridLayout(this))
+{
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setHorizontalSpacing(8);
+    m_layout->setVerticalSpacing(8);
+    m_layout->setColumnStretch(1, 1);
+}
+
+bool TargetConfigWidget::isEnabledOutput() const
+{
+    return m_enable->isChecked();
+}
+
+void TargetConfigWidget::setLabelWidth(int width)
+{
+    m_layout->setColumnMinimumWidth(0, width);
+}
+
+void TargetConfigWidget::addField(const QString& title, QWidget* field, const QString& toolTip)
+{
+    auto* label = new MyFieldTitle(title, this);
+    label->setBuddy(field);
+    label->setToolTip(toolTip);
+    field->setToolTip(toolTip);
+    const int row = m_layout->rowCount();
+    m_layout->addWidget(label, row, 0);
+    m_layout->addWidget(field, row, 1);
+}
+
+void TargetConfigWidget::addEnable(const QString& toolTip)
+{
+    m_enable = new QCheckBox(this);
+    m_enable->setObjectName(QStringLiteral("targetEnable"));
+    addField(tr("Enable:"), m_enable, toolTip);
+    connect(m_enable, &QCheckBox::toggled, this, &TargetConfigWidget::updateState);
+}
+
+void TargetConfigWidget::addOutputFile(const QString& title, const QString& filter, const QString& suffix)
+{
+    m_outputFile = new MyFileSelectSave(this);
+    m_outputFile->setObjectName(QStringLiteral("targetOutputFile"));
+    m_outputFile->setWindowTitle(title);
+    m_outputFile->setNameFilters({filter, tr("Any files(*)")});
+    m_outputFile->setDefaultSuffix(suffix);
+    m_outputFile->setDescription(tr("File that a run writes"));
+    addField(tr("Output file:"), m_outputFile, QString());
+    connect(m_outputFile, &MyFileSelectSave::fileValidChanged, this, &TargetConfigWidget::updateState);
+}
+
+void TargetConfigWidget::addHint()
+{
+    m_hint = new QLabel(this);
+    m_hint->setObjectName(QStringLiteral("targetHint"));
+    m_hint->setWordWrap(true);
+    m_hint->hide();
+    m_layout->addWidget(m_hint, m_layout->rowCount(), 1);
+}
+
+void TargetConfigWidget::setTarget(const TargetConfig& config, const QString& prjDir)
+{
+    m_enable->setChecked(config.en);
+    m_outputFile->setFile(config.outputFile, prjDir);
+    updateState();
+}
+
+void TargetConfigWidget::target(TargetConfig* config) const
+{
+    config->en = m_enable->isChecked();
+    config->outputFile = m_outputFile->file();
+}
+
+QString TargetConfigWidget::problem() const
+{
+    if (m_outputFile->file().isEmpty())
+        return tr("No output file is given: nothing will be written.");
+    if (!m_outputFile->isValid())
+        return tr("The folder of the output file does not exist: nothing can be written.");
+    return QString();
+}
+
+void TargetConfigWidget::updateState()
+{
+    const bool enabled = m_enable->isChecked();
+    for (int i = 0; i < m_layout->count(); ++i) {
+        QWidget* widget = m_layout->itemAt(i)->widget();
+        auto* label = qobject_cast<MyFieldTitle*>(widget);
+        if (widget != m_enable && widget != m_hint && (label == nullptr || label->buddy() != m_enable))
+            widget->setEnabled(enabled);
+    }
+    const QString text = enabled && m_outputFile != nullptr ? problem() : QString();
+    m_hint->setText(text);
+    m_hint->setVisible(!text.isEmpty());
+    emit changed();
+}
+
+TargetHexConfigWidget::TargetHexConfigWidget(QWidget* parent)
+    : TargetConfigWidget(parent)
+{
+    addEnable(tr("Write the instruction memory as a hex file"));
+    addOutputFile(tr("Select hex output file"), tr("Hex files(*.hex)"), QStringLiteral("hex"));
+    addHint();
+}
+
+TargetMemConfigWidget::TargetMemConfigWidget(QWidget* parent)
+    : TargetConfigWidget(parent)
+    , m_gapStuffing(new QCheckBox(this))
+{
+    m_gapStuffing->setObjectName(QStringLiteral("targetGapStuffing"));
+    addEnable(tr("Write the instruction memory as a mem file"));
+    addOutputFile(tr("Select mem target file"), tr("Mem files(*.mem)"), QStringLiteral("mem"));
+    addField(tr("Gap stuffing enable:"), m_gapStuffing, tr("Write words that nothing was assembled to, too"));
+    addHint();
+}
+
+void TargetMemConfigWidget::setConfig(const TargetMemConfig* config, const QString& prjDir)
+{
+    m_gapStuffing->setChecked(config->gapStuffingEn);
+    setTarget(*config, prjDir);
+}
+
+void TargetMemConfigWidget::config(TargetMemConfig* config) const
+{
+    target(config);
+    config->gapStuffingEn = m_gapStuffing->isChecked();
+}
+
+TargetHdlConfigWidget::TargetHdlConfigWidget(const QString& language, const QString& filter, const QString& suffix,
+                                             QWidget* parent)
+    : TargetConfigWidget(parent)
+    , m_entityName(new QLineEdit(this))
+    , m_templateFile(new MyFileSelectOpen(this))
+{
+    m_entityName->setObjectName(QStringLiteral("targetEntityName"));
+    m_templateFile->setObjectName(QStringLiteral("targetTemplateFile"));
+    m_templateFile->setWindowTitle(tr("Select %1 template file").arg(language));
+    m_templateFile->setNameFilters({filter, tr("Any files(*)")});
+    m_templateFile->setDefaultSuffix(suffix);
+    m_templateFile->setDescription(tr("File that the contents are filled into"));
+    addEnable(tr("Write the instruction memory into a copy of the template"));
+    addField(tr("Entity name:"), m_entityName, tr("Name that the template gets for the memory"));
+    addField(tr("Template file:"), m_templateFile, QString());
+    addOutputFile(tr("Select %1 output file").arg(language), filter, suffix);
+    addHint();
+    connect(m_templateFile, &MyFileSelectOpen::fileValid, this, &TargetHdlConfigWidget::updateState);
+}
+
+void TargetHdlConfigWidget::setHdl(const TargetVhdlConfig& config, const QString& prjDir)
+{
+    m_entityName->setText(config.entityName);
+    m_templateFile->setFile(config.templateFile, prjDir);
+    setTarget(config, prjDir);
+}
+
+void TargetHdlConfigWidget::hdl(TargetVhdlConfig* config) const
+{
+    target(config);
+    config->entityName = m_entityName->text();
+    config->templateFile = m_templateFile->file();
+}
+
+QString TargetHdlConfigWidget::problem() const
+{
+    const QString file = m_templateFile->file();
+    if (file.isEmpty())
+        return tr("No template file is given: nothing will be written.");
+    if (!QFileInfo(file).isFile())
+        return tr("The template file does not exist: nothing can be written.");
+    return TargetConfigWidget::problem();
+}
+
+TargetVhdlConfigWidget::TargetVhdlConfigWidget(QWidget* parent)
+    : TargetHdlConfigWidget(QStringLiteral("vhdl"), tr("vhdl files(*.vhd)"), QStringLiteral("vhd"), parent)
+{
+}
+
+TargetVerilogConfigWidget::TargetVerilogConfigWidget(QWidget* parent)
+    : TargetHdlConfigWidget(QStringLiteral("verilog"), tr("verilog files(*.v)"), QStringLiteral("v"), parent)
+{
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,248 @@
+// The assembler's settings page: its texts and choices, what it takes and gives, and what it says is missing.
+
+#include "PageFixture.h"
+#include "QtPrinters.h"
+
+#include "AsmFeConfigPage.h"
+#include "MyFileSelectOpen.h"
+#include "MyFileSelectSave.h"
+#include "MyPathEdit.h"
+#include "TargetConfigWidget.h"
+#include "TargetMapperConfigWidget.h"
+
+#include <QTemporaryDir>
+
+using namespace nsModAsmFe;
+
+namespace {
+
+class AsmFePage : public PageFixture
+{
+protected:
+    AsmFePage()
+    {
+        page.setConfig(&given, dir.path());
+        show(&page);
+    }
+
+    QStringList entries(const char* name) const
+    {
+        QStringList result;
+        auto* box = page.findChild<QComboBox*>(name);
+        for (int i = 0; box != nullptr && i < box->count(); ++i)
+            result.append(box->itemText(i) + '=' + box->itemData(i).toString());
+        return result;
+    }
+    QCheckBox* enable(const char* target) const { return page.findChild<QWidget*>(target)->findChild<QCheckBox*>("targetEnable"); }
+    MyFileSelectSave* outputFile(const char* target) const
+    {
+        return page.findChild<QWidget*>(target)->findChild<MyFileSelectSave*>("targetOutputFile");
+    }
+    QString hint(const char* target) const
+    {
+        auto* label = page.findChild<QWidget*>(target)->findChild<QLabel*>("targetHint");
+        return label->isHidden() ? QString() : label->text();
+    }
+    bool outputHint() const { return !page.findChild<QLabel*>("outputHint")->isHidden(); }
+
+    QTemporaryDir dir;
+    AsmFeConfig given;
+    AsmFeConfigPage page;
+};
+
+TEST_F(AsmFePage, SaysWhatItIs)
+{
+    EXPECT_EQ(page.pageTitle(), "Assembler");
+    EXPECT_EQ(page.pageHelpRef(), "pageId://configPageAsmFe");
+    EXPECT_FALSE(page.pageIcon().availableSizes().isEmpty());
+    EXPECT_TRUE(page.checkConfig());
+}
+
+TEST_F(AsmFePage, TextsAndChoices)
+{
+    const QStringList shown = labels(&page);
+    for (const char* text :
+         {"Assembler configuration", "Assembler behavior", "Character set", "Output file configuration",
+          "Default character set:", "Default charset behavior:", "Equations overwrite behavior:",
+          "Settings overwrite behavior:", "Check interrupt vector behavior:", "File write events", "Events:", "Button 1",
+          "Button 2", "After saving", "Write VHDL files:", "Write verilog files:", "Write hex files:", "Write mem files:",
+          "Hex output file", "Mem output file", "VHDL output file", "Verilog output file", "Enable:", "Output file:",
+          "Gap stuffing enable:", "Entity name:", "Template file:"})
+        EXPECT_TRUE(shown.contains(text)) << text;
+    EXPECT_EQ(entries("behaviorCharset"), QStringList({"Don't use default charset=0", "Warn by using default charset=1",
+                                                       "Use default charset without warning=2"}));
+    EXPECT_EQ(entries("behaviorEqu"), QStringList({"Don't overwrite equations=0", "Warn by overwriting equations=1",
+                                                   "Overwrite equation without warning=2"}));
+    EXPECT_EQ(entries("behaviorSet"), QStringList({"Don't overwrite settings=0", "Warn by overwriting settings=1",
+                                                   "Overwrite settings without warning=2"}));
+    EXPECT_EQ(entries("behaviorIntVector"),
+              QStringList({"Don't check interrupt vector=2", "Warn if not defined by assembler code=1",
+                           "Error if not defined by assembler code=0"}));
+    EXPECT_TRUE(entries("defaultCharset").contains("UTF-8=UTF-8"));
+    EXPECT_TRUE(entries("defaultCharset").contains("US-ASCII=US-ASCII"));
+}
+
+TEST_F(AsmFePage, GivesBackWhatItWasGiven)
+{
+    AsmFeConfig config;
+    config.defaultCharset = "US-ASCII";
+    config.behaviorCharset = 2;
+    config.behaviorEqu = 0;
+    config.behaviorSet = 2;
+    config.behaviorChkIntVector = 0;
+    config.targetVhdl.en = true;
+    config.targetVhdl.writeFileEventBut1 = false;
+    config.targetVhdl.entityName = "rom";
+    config.targetVhdl.templateFile = dir.filePath("t.vhd");
+    config.targetVhdl.outputFile = dir.filePath("out/o.vhd");
+    config.targetVerilog.writeFileEventSave = true;
+    config.targetVerilog.entityName = "rom_v";
+    config.targetVerilog.outputFile = dir.filePath("o.v");
+    config.targetHex.en = true;
+    config.targetHex.writeFileEventBut2 = false;
+    config.targetHex.outputFile = dir.filePath("o.hex");
+    config.targetMem.gapStuffingEn = false;
+    config.targetMem.writeFileEventSave = true;
+    config.targetMem.outputFile = dir.filePath("o.mem");
+    page.setConfig(&config, dir.path());
+    EXPECT_EQ(outputFile("targetHex")->pathEdit()->text(), "o.hex");
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_EQ(result.defaultCharset, "US-ASCII");
+    EXPECT_EQ(result.behaviorCharset, 2);
+    EXPECT_EQ(result.behaviorEqu, 0);
+    EXPECT_EQ(result.behaviorSet, 2);
+    EXPECT_EQ(result.behaviorChkIntVector, 0);
+    EXPECT_TRUE(result.targetVhdl.en);
+    EXPECT_FALSE(result.targetVhdl.writeFileEventBut1);
+    EXPECT_TRUE(result.targetVhdl.writeFileEventBut2);
+    EXPECT_EQ(result.targetVhdl.entityName, "rom");
+    EXPECT_EQ(result.targetVhdl.templateFile, dir.filePath("t.vhd"));
+    EXPECT_EQ(result.targetVhdl.outputFile, dir.filePath("out/o.vhd"));
+    EXPECT_FALSE(result.targetVerilog.en);
+    EXPECT_TRUE(result.targetVerilog.writeFileEventSave);
+    EXPECT_EQ(result.targetVerilog.entityName, "rom_v");
+    EXPECT_EQ(result.targetVerilog.outputFile, dir.filePath("o.v"));
+    EXPECT_TRUE(result.targetHex.en);
+    EXPECT_FALSE(result.targetHex.writeFileEventBut2);
+    EXPECT_EQ(result.targetHex.outputFile, dir.filePath("o.hex"));
+    EXPECT_FALSE(result.targetMem.gapStuffingEn);
+    EXPECT_TRUE(result.targetMem.writeFileEventSave);
+    EXPECT_EQ(result.targetMem.outputFile, dir.filePath("o.mem"));
+}
+
+TEST_F(AsmFePage, CharacterSetThatNobodyKnowsStays)
+{
+    AsmFeConfig config;
+    config.defaultCharset = "Nobody-1";
+    page.setConfig(&config, dir.path());
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_EQ(result.defaultCharset, "Nobody-1");
+}
+
+TEST_F(AsmFePage, DefaultsAreThoseOfANewConfiguration)
+{
+    AsmFeConfig config;
+    config.behaviorEqu = 0;
+    config.targetHex.en = true;
+    config.targetMem.gapStuffingEn = false;
+    page.setConfig(&config, dir.path());
+    page.setDefaultConfig();
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_EQ(result.behaviorEqu, 1);
+    EXPECT_EQ(result.defaultCharset, "UTF-8");
+    EXPECT_FALSE(result.targetHex.en);
+    EXPECT_TRUE(result.targetMem.gapStuffingEn);
+    EXPECT_TRUE(result.targetHex.writeFileEventBut1);
+    EXPECT_FALSE(result.targetHex.writeFileEventSave);
+}
+
+TEST_F(AsmFePage, ChoicesByKeys)
+{
+    choose(page.findChild<QComboBox*>("behaviorSet"), "Overwrite settings without warning");
+    choose(field<QComboBox>(&page, "Equations overwrite behavior:"), "Don't overwrite equations");
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_EQ(result.behaviorSet, 2);
+    EXPECT_EQ(result.behaviorEqu, 0);
+}
+
+TEST_F(AsmFePage, SaysThatNothingIsWrittenUntilSomethingIs)
+{
+    EXPECT_TRUE(outputHint());
+    area.ensureWidgetVisible(enable("targetHex"));
+    QTest::mouseClick(enable("targetHex"), Qt::LeftButton, Qt::NoModifier, QPoint(8, enable("targetHex")->height() / 2));
+    ASSERT_TRUE(enable("targetHex")->isChecked());
+    EXPECT_FALSE(outputHint());
+    EXPECT_EQ(hint("targetHex"), "No output file is given: nothing will be written.");
+    EXPECT_TRUE(outputFile("targetHex")->isEnabled());
+    EXPECT_FALSE(outputFile("targetMem")->isEnabled());
+    type(outputFile("targetHex")->pathEdit(), "nowhere/a.hex");
+    EXPECT_EQ(hint("targetHex"), "The folder of the output file does not exist: nothing can be written.");
+    type(outputFile("targetHex")->pathEdit(), "a.hex");
+    EXPECT_EQ(hint("targetHex"), "");
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_EQ(result.targetHex.outputFile, dir.filePath("a.hex"));
+    QTest::keyClick(enable("targetHex"), Qt::Key_Space);
+    EXPECT_TRUE(outputHint());
+    EXPECT_FALSE(outputFile("targetHex")->isEnabled());
+}
+
+TEST_F(AsmFePage, SaysThatATemplateIsMissing)
+{
+    QTest::keyClick(enable("targetVhdl"), Qt::Key_Space);
+    EXPECT_EQ(hint("targetVhdl"), "No template file is given: nothing will be written.");
+    auto* templateFile = page.findChild<QWidget*>("targetVhdl")->findChild<MyFileSelectOpen*>("targetTemplateFile");
+    type(templateFile->pathEdit(), "t.vhd");
+    EXPECT_EQ(hint("targetVhdl"), "The template file does not exist: nothing can be written.");
+    QFile file(dir.filePath("t.vhd"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    type(templateFile->pathEdit(), "./t.vhd");
+    EXPECT_EQ(hint("targetVhdl"), "No output file is given: nothing will be written.");
+}
+
+TEST_F(AsmFePage, EventsAreAGrid)
+{
+    // Hex is the third row, saving the third column.
+    auto* box = page.findChild<QCheckBox*>("targetEvent22");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->toolTip(), "Write hex files: After saving");
+    QTest::keyClick(box, Qt::Key_Space);
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_TRUE(result.targetHex.writeFileEventSave);
+    EXPECT_FALSE(result.targetMem.writeFileEventSave);
+}
+
+TEST_F(AsmFePage, BelongsToTheProject)
+{
+    page.setPrjConfigEnabled(false);
+    EXPECT_FALSE(page.pageIsEnabled());
+    EXPECT_FALSE(page.findChild<QComboBox*>("behaviorEqu")->isEnabled());
+    page.setPrjConfigEnabled(true);
+    EXPECT_TRUE(page.pageIsEnabled());
+    EXPECT_TRUE(page.findChild<QComboBox*>("behaviorEqu")->isEnabled());
+    EXPECT_FALSE(outputFile("targetHex")->isEnabled());
+}
+
+TEST_F(AsmFePage, LooksLikeThis)
+{
+    const QString pictures = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
+    QDir().mkpath(pictures);
+    AsmFeConfig config;
+    config.targetHex.en = true;
+    config.targetHex.outputFile = dir.filePath("a/rather/long/path/to/the/output/folder/of/the/project/rom.hex");
+    config.targetVhdl.en = true;
+    config.targetVhdl.entityName = "program_rom";
+    page.setConfig(&config, dir.path());
+    EXPECT_TRUE(pages.grab().save(pictures + "/configPageAssembler.png"));
+    pages.resize(720, page.sizeHint().height() + 40);
+    QTest::qWait(20);
+    EXPECT_TRUE(pages.grab().save(pictures + "/configPageAssemblerWhole.png"));
+}
+
+} // namespace
