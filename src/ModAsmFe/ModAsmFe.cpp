@@ -6,6 +6,8 @@
 #include "AsmFeStatusBar.h"
 
 #include "EquListView.h"
+#include "IODevViewerList.h"
+#include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 
@@ -51,6 +53,9 @@ void ModAsmFe::modInitIntermod()
         m_statusBar = new AsmFeStatusBar;
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equList.listView(), tr("EQU list"));
+        m_ioDevViewer = new IODevViewerList;
+        connect(m_ioDevViewer, &IODevViewerList::srcRefRequest, this, &ModAsmFe::showSrcReference);
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_ioDevViewer, tr("IO device map viewer"));
     }
     setupSupportMenuBasic();
 }
@@ -60,7 +65,9 @@ void ModAsmFe::modExitIntermod()
     if (modGuiHook != nullptr && m_statusBar != nullptr) {
         modGuiHook->removeWidget(m_statusBar);
         modGuiHook->removeWidget(m_equList.listView());
+        modGuiHook->removeWidget(m_ioDevViewer);
     }
+    delete m_ioDevViewer;
     delete m_statusBar;
     m_statusBar = nullptr;
     if (modMsgHook != nullptr)
@@ -116,6 +123,7 @@ void ModAsmFe::unregisterPlugin(ModAsmFePluginIfBackend* plugin)
     m_asmBe = nullptr;
     m_assembled = false;
     m_abandoned = m_running;
+    clearIODevViewer();
     applyBackendConfig();
 }
 
@@ -237,6 +245,15 @@ void ModAsmFe::handleActions(AsmFeActions::eAction_t action)
         assemble(eEventButton2);
         break;
     }
+}
+
+void ModAsmFe::showSrcReference(SrcReference* srcRef)
+{
+    if (srcRef == nullptr || modEditorHook == nullptr)
+        return;
+    const QString file = m_fileHndlr->absSrcFilePath(srcRef->fileNo);
+    if (!file.isEmpty())
+        modEditorHook->setCursorToLine(file, srcRef->lineNo);
 }
 
 void ModAsmFe::applyBaseConfig()

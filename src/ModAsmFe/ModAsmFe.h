@@ -44,6 +44,7 @@ class AsmFeFileHndlr;
 class AsmFeParseArg;
 class AsmFeConfigPage;
 class AsmFeStatusBar;
+class IODevViewerList;
 class Opcode;
 
 /// The assembler: all that is common to the processors, from the sources to the output files.
@@ -154,11 +155,14 @@ public:
 
 public slots:
     void handleActions(nsModAsmFe::AsmFeActions::eAction_t action);
+    /// Moves the editor to a place in the sources. @param srcRef of this run, or null for none
+    void showSrcReference(nsModAsmFe::SrcReference* srcRef);
 
 private:
     // Life of a run (ModAsmFeAssemble.cpp)
     void clearAll();
     void dropProgram();
+    void clearIODevViewer();
     void runStages(eAssembleEvent_t event);
     bool runFrontEndStages();
     void runBackEndStages();
@@ -346,6 +350,7 @@ private:
     AsmFeParseArg* m_parseArg;
     QPointer<AsmFeConfigPage> m_configPage; ///< null while the settings dialog is closed
     AsmFeStatusBar* m_statusBar = nullptr;
+    QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window
 
     QStringList m_charsetNames; ///< upper case; filled on first use, as asking the platform for them takes its time
     QSet<QString> m_charsetSet;

@@ -4,6 +4,7 @@
 
 #include "AsmFeFileHndlr.h"
 #include "EditorMemPageAddrMap.h"
+#include "IODevViewerList.h"
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
@@ -61,10 +62,18 @@ void ModAsmFe::dropProgram()
     m_runSucceeded = false;
 }
 
+void ModAsmFe::clearIODevViewer()
+{
+    if (m_ioDevViewer != nullptr)
+        m_ioDevViewer->clear();
+}
+
 void ModAsmFe::clearAll()
 {
     if (modSrcNaviHook != nullptr)
         modSrcNaviHook->clearTagList();
+    // It reads the devices where they are.
+    clearIODevViewer();
     m_failedEqus.clear();
     m_opcodeList.clear();
     m_equList.clear();
@@ -110,6 +119,8 @@ void ModAsmFe::runStages(eAssembleEvent_t event)
     if (m_asmBe != nullptr)
         m_asmBe->setAssembled(m_assembled);
     m_assembled = m_assembled && !m_abandoned;
+    if (!m_assembled)
+        clearIODevViewer();
     closeGroup(m_assembled);
     m_runSucceeded = m_assembled;
     if (event == eEventNone)
@@ -165,7 +176,11 @@ void ModAsmFe::finishRun()
         setupSupportMenuDynamics();
         return true;
     });
-    runGroup(refreshIODevViewer, QString(), [] { return true; });
+    runGroup(refreshIODevViewer, QString(), [this] {
+        if (m_ioDevViewer != nullptr)
+            m_ioDevViewer->setupView(&m_ioDevList);
+        return true;
+    });
 }
 
 void ModAsmFe::writeOutputs(eAssembleEvent_t event)
@@ -175,8 +190,10 @@ void ModAsmFe::writeOutputs(eAssembleEvent_t event)
     closeGroup(written);
     m_assembled = written;
     m_runSucceeded = written;
-    if (!written)
+    if (!written) {
+        clearIODevViewer();
         return;
+    }
     openGroup(tr("Executing external programs..."));
     m_runSucceeded = execSysCall(event);
     closeGroup(m_runSucceeded);

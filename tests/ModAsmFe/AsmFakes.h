@@ -125,7 +125,7 @@ public:
     void closeFile() override {}
     void printFile() override {}
     void setCursorToLine(QString, QString, int) override {}
-    void setCursorToLine(QString, int) override {}
+    void setCursorToLine(QString path, int line) override { places.append(path.section('/', -1) + ':' + QString::number(line)); }
     void setCursorToLine(QUrl) override {}
     bool cursorLine(QString*, int*) override { return false; }
     void clearLineHighlited() override {}
@@ -162,6 +162,7 @@ public:
     QStringList* calls;
     std::unique_ptr<nsModEditor::EditorMemPageAddrMap> map;
     QStringList completion;
+    QStringList places; ///< where the cursor was sent: "file:line", counted from 0
     QList<QPair<int, QRegExp>> rules;
     nsModEditor::EditorSupportMenu menu;
     bool withMenu = true; ///< knob: is there an insertion menu

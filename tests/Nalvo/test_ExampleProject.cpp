@@ -3,6 +3,9 @@
 #include "ExampleFolder.h"
 #include "MainWindowFixture.h"
 
+#include "IODevViewerList.h"
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
 #include "ModPrj.h"
 
 #include <QLabel>
@@ -93,6 +96,39 @@ TEST_F(ExampleProject, equListFillsWithTheRun)
     const auto* processor = window->findChild<QLabel*>("asmFeStatusBarProcessor");
     ASSERT_NE(processor, nullptr);
     EXPECT_EQ(processor->text(), "Xilinx PicoBlaze 3");
+}
+
+TEST_F(ExampleProject, mapsOfTheIODevicesLeadToTheSources)
+{
+    auto* gui = module<ModGuiHookIf>();
+    auto* view = window->findChild<nsModAsmFe::IODevViewerList*>();
+    ASSERT_NE(view, nullptr);
+    auto* prj = module<nsModPrj::ModPrj>();
+    for (const char* name : {"two_pages", "motor_control", "split_rams"}) {
+        SCOPED_TRACE(name);
+        ASSERT_TRUE(prj->openPrj(projectDir() + QString("/%1/%1.nalvo").arg(name)));
+        gui->setCurrentWidget(view);
+        click("Run assembler");
+        screenshot(QString("ioDevViewer-%1").arg(name));
+        ASSERT_FALSE(view->elements().isEmpty());
+        // The first cell with a value of its own.
+        nsModAsmFe::IODevViewerItem* item = view->elements().first().item;
+        int addr = 0;
+        while (item->kindOf(addr) == nsModAsmFe::IODevViewerItem::eInitValue)
+            ++addr;
+        auto* editor = module<ModEditorHookIf>();
+        editor->closeAllFiles();
+        QTest::mouseDClick(item, Qt::LeftButton, Qt::NoModifier, item->cellRect(addr).center());
+        QCoreApplication::processEvents();
+        QString file;
+        int line = -1;
+        ASSERT_TRUE(editor->cursorLine(&file, &line));
+        const QByteArray text = content(file).split('\n').value(line).simplified();
+        EXPECT_FALSE(text.isEmpty() || text.startsWith(';')) << qPrintable(file) << ':' << line << ' ' << text.constData();
+        ASSERT_TRUE(prj->closePrj());
+        EXPECT_TRUE(view->elements().isEmpty());
+    }
+    screenshot("ioDevViewer-empty");
 }
 
 TEST_F(ExampleProject, anErrorStandsOpenWithItsLinks)

@@ -1,0 +1,227 @@
+#include "IODevViewerList.h"
+
+#include "IODevList.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QLabel>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QShowEvent>
+#include <QVBoxLayout>
+
+namespace nsModAsmFe {
+
+namespace {
+
+const int margin = 8;
+/// Tallest content, in pixels: widgets end at 2^24, and the headings of many devices need their place, too.
+const qint64 maxMapHeight = 12000000;
+
+} // namespace
+
+IODevViewerList::IODevViewerList(QWidget* parent) : QWidget(parent)
+{
+    setObjectName("ioDevViewerList");
+    m_legend = setupLegend();
+    m_scroll = new QScrollArea(this);
+    m_scroll->setObjectName("ioDevViewerScroll");
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->viewport()->installEventFilter(this);
+    m_content = new QWidget;
+    m_content->setObjectName("ioDevViewerContent");
+    m_scroll->setWidget(m_content);
+    m_note = new QLabel(tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
+    m_note->setWordWrap(true);
+    m_note->setMargin(margin);
+
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(0);
+    layout->addWidget(m_legend);
+    layout->addWidget(m_scroll, 1);
+    layout->addWidget(m_note);
+}
+
+QSize IODevViewerList::sizeHint() const
+{
+    // Sixteen cells side by side with their addresses.
+    return QSize(fontMetrics().averageCharWidth() * 40, fontMetrics().height() * 16);
+}
+
+QIcon IODevViewerList::iconFromColor(const QColor& color)
+{
+    QPixmap pixmap(10, 10);
+    pixmap.fill(color);
+    return QIcon(pixmap);
+}
+
+QWidget* IODevViewerList::setupLegend()
+{
+    auto* legend = new QWidget(this);
+    legend->setObjectName("ioDevViewerLegend");
+    auto* layout = new QVBoxLayout(legend);
+    layout->setContentsMargins(margin, margin, margin, margin / 2);
+    layout->setSpacing(margin / 4);
+    auto* title = new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend);
+    layout->addWidget(title);
+    const std::initializer_list<std::pair<QColor, QString>> entries = {{m_config.initValue, tr("Init value")},
+                                                                       {m_config.pageValue, tr("Page value")},
+                                                                       {m_config.sharedValue, tr("Shared range value")}};
+    for (const auto& entry : entries) {
+        auto* line = new QHBoxLayout;
+        line->setSpacing(margin);
+        auto* square = new QLabel(legend);
+        square->setPixmap(iconFromColor(entry.first).pixmap(10, 10));
+        line->addWidget(square);
+        line->addWidget(new QLabel(entry.second, legend), 1);
+        layout->addLayout(line);
+    }
+    return legend;
+}
+
+QString IODevViewerList::setupDevSummary(const IODev* dev)
+{
+    const QString row = QStringLiteral("<tr><td>%1</td><td align=\"right\" style=\"padding-left:12px\">%2</td></tr>");
+    // Values that a directive sets are no instructions.
+    const int instructions = dev->instMem ? dev->valueCnt : 0;
+    return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\">") +
+           row.arg(tr("Size:"), tr("%1 words").arg(dev->memSize)) +
+           QStringLiteral("<tr><td colspan=\"2\"><i>%1</i></td></tr>").arg(tr("Instructions")) +
+           row.arg(tr("Summary instruction count:"), QString::number(instructions)) +
+           row.arg(tr("Shared range instruction count:"), QString::number(dev->mirrorCnt)) + QStringLiteral("</table>");
+}
+
+QLabel* IODevViewerList::addLabel(const QString& text, const char* objectName)
+{
+    auto* label = new QLabel(text, m_content);
+    label->setObjectName(objectName);
+    return label;
+}
+
+void IODevViewerList::addElement(IODev* dev)
+{
+    sViewerElements_t element;
+    element.nameTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Device name")), "ioDevNameTitle");
+    element.name = addLabel(QString(), "ioDevName");
+    // The name comes from a source: it is never markup.
+    element.name->setTextFormat(Qt::PlainText);
+    element.name->setText(dev->devName);
+    element.name->setToolTip(dev->devName.toHtmlEscaped());
+    element.name->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    element.summaryTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Device summary")), "ioDevSummaryTitle");
+    element.summary = addLabel(setupDevSummary(dev), "ioDevSummary");
+    element.mapTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Memory map")), "ioDevMapTitle");
+    element.item = new IODevViewerItem(dev, m_content);
+    element.item->setConfig(m_config);
+    connect(element.item, &IODevViewerItem::srcRefRequest, this, &IODevViewerList::srcRefRequest);
+    m_elements.append(element);
+}
+
+void IODevViewerList::setupView(IODevList* devList)
+{
+    clear();
+    m_devList = devList;
+    if (isVisible())
+        build();
+    emit contentChanged(this);
+}
+
+void IODevViewerList::clear()
+{
+    if (m_built)
+        m_scrolled = m_scroll->verticalScrollBar()->value();
+    dropElements();
+    m_devList = nullptr;
+    m_content->resize(0, 0);
+}
+
+void IODevViewerList::dropElements()
+{
+    // At once: the devices go right after this.
+    for (QObject* child : QObjectList(m_content->children()))
+        delete child;
+    m_more = nullptr;
+    m_elements.clear();
+    m_built = false;
+}
+
+void IODevViewerList::build()
+{
+    m_built = true;
+    const QList<IODev*> devices = m_devList != nullptr ? m_devList->devices() : QList<IODev*>();
+    for (IODev* dev : devices.mid(0, maxShownDevices))
+        addElement(dev);
+    if (devices.size() > maxShownDevices)
+        m_more = addLabel(tr("%1 further devices are not shown.").arg(devices.size() - maxShownDevices), "ioDevMore");
+    layoutElements();
+    for (QObject* child : m_content->children())
+        static_cast<QWidget*>(child)->show();
+    m_scroll->verticalScrollBar()->setValue(m_scrolled);
+}
+
+/// Columns that all maps have, so that equal addresses stand below each other. More than fit if the maps would else be too tall:
+/// then there is a horizontal scroll bar.
+int IODevViewerList::columnsThatFit(int width) const
+{
+    int columns = m_elements.first().item->columnsForWidth(width);
+    for (const sViewerElements_t& element : m_elements)
+        columns = qMin(columns, element.item->columnsForWidth(width));
+    for (;; columns *= 2) {
+        qint64 height = 0;
+        for (const sViewerElements_t& element : m_elements)
+            height += element.item->rowCount(columns) * element.item->rowHeight();
+        if (height <= maxMapHeight)
+            return columns;
+    }
+}
+
+/// Places the widgets by hand: a layout ends at half a million pixels, and a large memory is taller.
+void IODevViewerList::layoutElements()
+{
+    const int available = m_scroll->viewport()->width();
+    int width = available;
+    int y = margin / 2;
+    const auto place = [&](QWidget* widget, int indent, int gap) {
+        const QSize size = widget->sizeHint();
+        widget->setGeometry(margin + indent, y, qMax(size.width(), 1), size.height());
+        width = qMax(width, margin + indent + size.width() + margin);
+        y += size.height() + gap;
+    };
+    const int columns = m_elements.isEmpty() ? 0 : columnsThatFit(available - 2 * margin);
+    for (const sViewerElements_t& element : m_elements) {
+        place(element.nameTitle, 0, margin / 4);
+        place(element.name, margin, margin);
+        place(element.summaryTitle, 0, margin / 4);
+        place(element.summary, margin, margin);
+        place(element.mapTitle, 0, margin / 4);
+        element.item->setColumns(columns);
+        place(element.item, 0, 3 * margin);
+    }
+    if (m_more != nullptr)
+        place(m_more, 0, margin);
+    m_content->resize(m_elements.isEmpty() ? 0 : width, m_elements.isEmpty() ? 0 : y);
+}
+
+void IODevViewerList::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!m_built)
+        build();
+}
+
+bool IODevViewerList::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_scroll->viewport() && event->type() == QEvent::Resize && m_built)
+        layoutElements();
+    return QWidget::eventFilter(watched, event);
+}
+
+void IODevViewerList::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if ((event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) && m_built)
+        layoutElements();
+}
+
+} // namespace nsModAsmFe
