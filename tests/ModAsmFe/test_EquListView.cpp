@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTreeWidget>
 
@@ -65,6 +66,38 @@ TEST(EquListViewTest, fillingTellsOnce)
     ASSERT_EQ(treeOf(&view)->topLevelItemCount(), 2);
     EXPECT_EQ(treeOf(&view)->topLevelItem(0)->text(0), QString("a"));
     EXPECT_EQ(changed.last().first().value<QWidget*>(), static_cast<QWidget*>(&view));
+}
+
+TEST(EquListViewTest, theSameLinesAgainDisturbNobody)
+{
+    EquListView view;
+    QSignalSpy changed(&view, SIGNAL(contentChanged(QWidget*)));
+    const auto fill = [&](int lines, int value) {
+        view.beginFill();
+        for (int i = 0; i < lines; ++i)
+            view.addItem(QString("name%1").arg(i), "ns", value);
+        view.endFill();
+    };
+    fill(100, 1);
+    EXPECT_EQ(changed.count(), 1);
+    view.resize(200, 150);
+    view.show();
+    QTreeWidget* tree = treeOf(&view);
+    tree->setCurrentItem(tree->topLevelItem(60));
+    tree->verticalScrollBar()->setValue(50);
+    fill(100, 1);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(tree->currentItem(), tree->topLevelItem(60));
+    EXPECT_EQ(tree->verticalScrollBar()->value(), 50);
+    fill(100, 2);
+    EXPECT_EQ(changed.count(), 2);
+    EXPECT_EQ(tree->topLevelItem(99)->text(1), QString("0x2"));
+    EXPECT_EQ(tree->verticalScrollBar()->value(), 50);
+    fill(99, 2);
+    EXPECT_EQ(changed.count(), 3);
+    fill(0, 2);
+    EXPECT_EQ(changed.count(), 4);
+    EXPECT_EQ(tree->topLevelItemCount(), 0);
 }
 
 TEST(EquListViewTest, listIsShownOnDemand)

@@ -166,12 +166,12 @@ TEST_F(IODevViewer, namesSummaryAndMapOfEachDevice)
     EXPECT_EQ(plain(ram.nameTitle), QString("Device name"));
     EXPECT_EQ(ram.name->text(), QString("IODEV::ram"));
     EXPECT_EQ(plain(ram.summaryTitle), QString("Device summary"));
-    EXPECT_EQ(plain(ram.summary), QString("Size: 100 words Instructions Summary instruction count: 0 "
+    EXPECT_EQ(plain(ram.summary), QString("Size: 100 Instructions Summary instruction count: 0 "
                                           "Shared range instruction count: 0"));
     EXPECT_EQ(plain(ram.mapTitle), QString("Memory map"));
     const IODevViewerList::sViewerElements_t mem = view->elements().at(1);
     EXPECT_EQ(mem.name->text(), QString("IODev::defaultInstMem"));
-    EXPECT_EQ(plain(mem.summary), QString("Size: 1024 words Instructions Summary instruction count: 2 "
+    EXPECT_EQ(plain(mem.summary), QString("Size: 1024 Instructions Summary instruction count: 2 "
                                           "Shared range instruction count: 0"));
 }
 
@@ -179,7 +179,7 @@ TEST_F(IODevViewer, countsTheInstructionsOfTheSharedRangeInEachPage)
 {
     EXPECT_TRUE(f.run(twoPages)) << qPrintable(f.errors().join(' '));
     ASSERT_EQ(count(), 1);
-    EXPECT_EQ(plain(view->elements().at(0).summary), QString("Size: 128 words Instructions Summary instruction count: 5 "
+    EXPECT_EQ(plain(view->elements().at(0).summary), QString("Size: 128 Instructions Summary instruction count: 5 "
                                                              "Shared range instruction count: 2"));
 }
 
@@ -351,6 +351,21 @@ TEST_F(IODevViewer, theNextRunShowsTheSamePlace)
     EXPECT_FALSE(f.run(" NONSENSE\n"));
     EXPECT_TRUE(f.run(plainSource));
     EXPECT_EQ(scrollBar()->value(), 150);
+}
+
+TEST_F(IODevViewer, comesToTheFrontForOtherDevicesOnly)
+{
+    QSignalSpy changed(view, &IODevViewerList::contentChanged);
+    EXPECT_TRUE(f.run(ramSource));
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_TRUE(f.run(ramSource + " LOAD s2, 3\n"));
+    EXPECT_FALSE(f.run(" NONSENSE\n"));
+    EXPECT_TRUE(f.run(ramSource));
+    EXPECT_EQ(changed.count(), 1) << "an edit, an error and its mending";
+    EXPECT_TRUE(f.run(plainSource));
+    EXPECT_EQ(changed.count(), 2);
+    EXPECT_TRUE(f.run(plainSource + "#SET INSTMEM::PAGESIZE, 512\n"));
+    EXPECT_EQ(changed.count(), 3);
 }
 
 TEST_F(IODevViewer, theLargestDeviceIsShownToItsLastCell)

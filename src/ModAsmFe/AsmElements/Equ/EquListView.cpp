@@ -4,6 +4,7 @@
 
 #include <QHeaderView>
 #include <QLabel>
+#include <QScrollBar>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -69,15 +70,35 @@ void EquListView::clear()
 void EquListView::beginFill()
 {
     m_filling = true;
-    m_tree->clear();
 }
 
 void EquListView::endFill()
 {
     m_filling = false;
+    if (isShown(m_gathered)) {
+        // Nobody is disturbed by a run that changed no constant: neither place and selection here, nor the panel in front.
+        qDeleteAll(m_gathered);
+        m_gathered.clear();
+        return;
+    }
+    const int place = m_tree->verticalScrollBar()->value();
+    m_tree->clear();
     m_tree->addTopLevelItems(m_gathered);
     m_gathered.clear();
+    m_tree->verticalScrollBar()->setValue(place);
     emit contentChanged(this);
+}
+
+bool EquListView::isShown(const QList<QTreeWidgetItem*>& items) const
+{
+    if (items.size() != m_tree->topLevelItemCount())
+        return false;
+    for (int i = 0; i < items.size(); ++i) {
+        const QTreeWidgetItem* shown = m_tree->topLevelItem(i);
+        if (shown->text(0) != items[i]->text(0) || shown->text(1) != items[i]->text(1))
+            return false;
+    }
+    return true;
 }
 
 } // namespace nsModAsmFe

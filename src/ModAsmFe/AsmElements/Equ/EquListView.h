@@ -27,10 +27,12 @@ public:
     QSize sizeHint() const override;
 
 signals:
-    /// The table has new lines.
+    /// The table has new lines. A panel that says so comes to the front: a filling with the lines that are there already says nothing.
     void contentChanged(QWidget* widget);
 
 private:
+    bool isShown(const QList<QTreeWidgetItem*>& items) const;
+
     QTreeWidget* m_tree = nullptr;
     QFont m_numberFont;
     QList<QTreeWidgetItem*> m_gathered;

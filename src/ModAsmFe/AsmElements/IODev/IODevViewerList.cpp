@@ -2,6 +2,7 @@
 
 #include "IODevList.h"
 
+#include <QGridLayout>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QLabel>
@@ -38,9 +39,10 @@ IODevViewerList::IODevViewerList(QWidget* parent) : QWidget(parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(m_legend);
     layout->addWidget(m_scroll, 1);
+    layout->addWidget(m_legend);
     layout->addWidget(m_note);
+    m_legend->hide();
 }
 
 QSize IODevViewerList::sizeHint() const
@@ -60,33 +62,37 @@ QWidget* IODevViewerList::setupLegend()
 {
     auto* legend = new QWidget(this);
     legend->setObjectName("ioDevViewerLegend");
-    auto* layout = new QVBoxLayout(legend);
-    layout->setContentsMargins(margin, margin, margin, margin / 2);
-    layout->setSpacing(margin / 4);
-    auto* title = new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend);
-    layout->addWidget(title);
-    const std::initializer_list<std::pair<QColor, QString>> entries = {{m_config.initValue, tr("Init value")},
-                                                                       {m_config.pageValue, tr("Page value")},
-                                                                       {m_config.sharedValue, tr("Shared range value")}};
-    for (const auto& entry : entries) {
-        auto* line = new QHBoxLayout;
-        line->setSpacing(margin);
+    legend->setAttribute(Qt::WA_StyledBackground);
+    // It does not keep the panel from being narrow.
+    legend->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    auto* layout = new QGridLayout(legend);
+    layout->setContentsMargins(margin, margin / 2, margin, margin / 2);
+    layout->setHorizontalSpacing(2 * margin);
+    layout->setVerticalSpacing(margin / 4);
+    layout->setColumnStretch(3, 1);
+    layout->addWidget(new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend), 0, 0);
+    const auto add = [&](const QColor& color, const QString& text, int row, int column, int columns) {
+        auto* entry = new QHBoxLayout;
+        entry->setSpacing(margin);
         auto* square = new QLabel(legend);
-        square->setPixmap(iconFromColor(entry.first).pixmap(10, 10));
-        line->addWidget(square);
-        line->addWidget(new QLabel(entry.second, legend), 1);
-        layout->addLayout(line);
-    }
+        square->setPixmap(iconFromColor(color).pixmap(10, 10));
+        entry->addWidget(square);
+        entry->addWidget(new QLabel(text, legend), 1);
+        layout->addLayout(entry, row, column, 1, columns);
+    };
+    add(m_config.initValue, tr("Init value"), 0, 1, 1);
+    add(m_config.pageValue, tr("Page value"), 0, 2, 1);
+    add(m_config.sharedValue, tr("Shared range value"), 1, 1, 3);
     return legend;
 }
 
 QString IODevViewerList::setupDevSummary(const IODev* dev)
 {
-    const QString row = QStringLiteral("<tr><td>%1</td><td align=\"right\" style=\"padding-left:12px\">%2</td></tr>");
+    const QString row = QStringLiteral("<tr><td>%1</td><td style=\"padding-left:12px\">%2</td></tr>");
     // Values that a directive sets are no instructions.
     const int instructions = dev->instMem ? dev->valueCnt : 0;
     return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\">") +
-           row.arg(tr("Size:"), tr("%1 words").arg(dev->memSize)) +
+           row.arg(tr("Size:"), QString::number(dev->memSize)) +
            QStringLiteral("<tr><td colspan=\"2\"><i>%1</i></td></tr>").arg(tr("Instructions")) +
            row.arg(tr("Summary instruction count:"), QString::number(instructions)) +
            row.arg(tr("Shared range instruction count:"), QString::number(dev->mirrorCnt)) + QStringLiteral("</table>");
@@ -106,11 +112,10 @@ void IODevViewerList::addElement(IODev* dev)
     element.name = addLabel(QString(), "ioDevName");
     // The name comes from a source: it is never markup.
     element.name->setTextFormat(Qt::PlainText);
-    element.name->setText(dev->devName);
-    element.name->setToolTip(dev->devName.toHtmlEscaped());
-    element.name->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    element.name->setToolTip(QStringLiteral("<qt>%1</qt>").arg(dev->devName.toHtmlEscaped()));
     element.summaryTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Device summary")), "ioDevSummaryTitle");
     element.summary = addLabel(setupDevSummary(dev), "ioDevSummary");
+    element.summary->setWordWrap(true);
     element.mapTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Memory map")), "ioDevMapTitle");
     element.item = new IODevViewerItem(dev, m_content);
     element.item->setConfig(m_config);
@@ -122,9 +127,23 @@ void IODevViewerList::setupView(IODevList* devList)
 {
     clear();
     m_devList = devList;
+    const QStringList devices = deviceKeys(devList);
+    const bool isNew = devices != m_lastDevices;
+    if (isNew)
+        m_scrolled = 0;
+    m_lastDevices = devices;
     if (isVisible())
         build();
-    emit contentChanged(this);
+    if (isNew)
+        emit contentChanged(this);
+}
+
+QStringList IODevViewerList::deviceKeys(const IODevList* devList)
+{
+    QStringList keys;
+    for (const IODev* dev : devList != nullptr ? devList->devices() : QList<IODev*>())
+        keys.append(dev->devName + ' ' + QString::number(dev->memSize));
+    return keys;
 }
 
 void IODevViewerList::clear()
@@ -134,6 +153,8 @@ void IODevViewerList::clear()
     dropElements();
     m_devList = nullptr;
     m_content->resize(0, 0);
+    m_legend->hide();
+    m_note->show();
 }
 
 void IODevViewerList::dropElements()
@@ -154,6 +175,10 @@ void IODevViewerList::build()
         addElement(dev);
     if (devices.size() > maxShownDevices)
         m_more = addLabel(tr("%1 further devices are not shown.").arg(devices.size() - maxShownDevices), "ioDevMore");
+    m_legend->setVisible(!m_elements.isEmpty());
+    m_note->setVisible(m_elements.isEmpty());
+    // The place that these two leave is the place of the maps.
+    layout()->activate();
     layoutElements();
     for (QObject* child : m_content->children())
         static_cast<QWidget*>(child)->show();
@@ -179,28 +204,33 @@ int IODevViewerList::columnsThatFit(int width) const
 /// Places the widgets by hand: a layout ends at half a million pixels, and a large memory is taller.
 void IODevViewerList::layoutElements()
 {
-    const int available = m_scroll->viewport()->width();
+    const int available = qMax(1, m_scroll->viewport()->width() - 2 * margin);
     int width = available;
-    int y = margin / 2;
-    const auto place = [&](QWidget* widget, int indent, int gap) {
-        const QSize size = widget->sizeHint();
-        widget->setGeometry(margin + indent, y, qMax(size.width(), 1), size.height());
-        width = qMax(width, margin + indent + size.width() + margin);
-        y += size.height() + gap;
+    int y = margin;
+    // Texts keep to the width of the panel, a map may exceed it.
+    const auto place = [&](QLabel* label, int gap) {
+        const int height = label->wordWrap() ? label->heightForWidth(available) : label->sizeHint().height();
+        label->setGeometry(margin, y, available, height);
+        y += height + gap;
     };
-    const int columns = m_elements.isEmpty() ? 0 : columnsThatFit(available - 2 * margin);
-    for (const sViewerElements_t& element : m_elements) {
-        place(element.nameTitle, 0, margin / 4);
-        place(element.name, margin, margin);
-        place(element.summaryTitle, 0, margin / 4);
-        place(element.summary, margin, margin);
-        place(element.mapTitle, 0, margin / 4);
+    const int columns = m_elements.isEmpty() ? 0 : columnsThatFit(available);
+    for (int i = 0; i < m_elements.size(); ++i) {
+        const sViewerElements_t& element = m_elements.at(i);
+        const QString name = m_devList->devices().at(i)->devName;
+        element.name->setText(element.name->fontMetrics().elidedText(name, Qt::ElideMiddle, available));
+        place(element.nameTitle, margin / 4);
+        place(element.name, margin);
+        place(element.summaryTitle, margin / 4);
+        place(element.summary, margin);
+        place(element.mapTitle, margin / 2);
         element.item->setColumns(columns);
-        place(element.item, 0, 3 * margin);
+        element.item->move(margin, y);
+        width = qMax(width, element.item->width());
+        y += element.item->height() + 3 * margin;
     }
     if (m_more != nullptr)
-        place(m_more, 0, margin);
-    m_content->resize(m_elements.isEmpty() ? 0 : width, m_elements.isEmpty() ? 0 : y);
+        place(m_more, margin);
+    m_content->resize(m_elements.isEmpty() ? 0 : width + 2 * margin, m_elements.isEmpty() ? 0 : y - margin);
 }
 
 void IODevViewerList::showEvent(QShowEvent* event)

@@ -3,7 +3,7 @@
 #include "IODevViewerItem.h"
 
 #include <QList>
-#include <QPointer>
+#include <QStringList>
 #include <QWidget>
 
 class QLabel;
@@ -51,7 +51,8 @@ public:
 signals:
     /// A double click on a cell. @param srcRef where its value stands; belongs to the device
     void srcRefRequest(SrcReference* srcRef);
-    /// The view has a new content.
+    /// The view shows other devices than the last time. A panel that says so comes to the front, so other contents of the same
+    /// devices, as each edit of a program makes them, are no reason.
     void contentChanged(QWidget* widget);
 
 protected:
@@ -68,6 +69,7 @@ private:
     void build();
     void dropElements();
     void layoutElements();
+    static QStringList deviceKeys(const IODevList* devList);
     int columnsThatFit(int width) const;
 
     IODevViewerItem::sConfig_t m_config;
@@ -79,6 +81,7 @@ private:
     IODevList* m_devList = nullptr; ///< not owned; null while the view is empty
     QList<sViewerElements_t> m_elements;
     bool m_built = false;
+    QStringList m_lastDevices; ///< names and sizes of the last content
     int m_scrolled = 0; ///< position of the last content: the next run shows the same place
 };
 
