@@ -24,6 +24,8 @@ ModAsmFe::ModAsmFe(QObject* parent)
 
 ModAsmFe::~ModAsmFe()
 {
+    // A window that goes without its phases of exit still has the view.
+    clearIODevViewer();
     delete m_configPage;
 }
 

@@ -10,6 +10,7 @@ namespace {
 
 const QSize iconSize(48, 48);
 const int gap = 8;
+const int titleMargin = 5; // what the style leaves free beside a text, and the border
 
 } // namespace
 
@@ -34,6 +35,13 @@ void ConfigListDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     QWindow* window = m_view->window()->windowHandle();
     option->decorationSize = iconSize;
     option->decorationAlignment = Qt::AlignHCenter | Qt::AlignBottom;
+    // The list has a fixed width: a title is rather small than cut off.
+    const int room = option->rect.width() - 2 * titleMargin;
+    const int title = option->fontMetrics.horizontalAdvance(option->text);
+    if (room > 0 && title > room) {
+        option->font.setPointSizeF(option->font.pointSizeF() * room / title);
+        option->fontMetrics = QFontMetrics(option->font);
+    }
     if (!option->icon.isNull()) {
         // The style would tint the icon of the selected entry.
         const QPixmap pixmap = option->icon.pixmap(window, iconSize);

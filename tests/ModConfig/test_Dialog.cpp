@@ -3,12 +3,30 @@
 #include "ConfigFixture.h"
 
 #include "ActionsConfig.h"
+#include "ConfigListDelegate.h"
 
 using nsModConfig::ModConfig;
 
 namespace {
 
 using Dialog = ConfigFixture;
+
+/// Shows how an entry is going to be painted.
+class ShownEntry : public nsModConfig::ConfigListDelegate
+{
+public:
+    using ConfigListDelegate::ConfigListDelegate;
+    QStyleOptionViewItem option(QListWidget* list, int row, int width) const
+    {
+        QStyleOptionViewItem result;
+        result.widget = list;
+        result.font = list->font();
+        result.fontMetrics = list->fontMetrics();
+        result.rect = QRect(0, 0, width, 90);
+        initStyleOption(&result, list->model()->index(row, 0));
+        return result;
+    }
+};
 
 } // namespace
 
@@ -90,6 +108,20 @@ TEST_F(Dialog, hasTheLayoutOfItsParts)
     }
     EXPECT_EQ(QStringList(buttons.values()),
               QStringList({"Set page default values", "Restore values", "Apply and close", "&Cancel"}));
+}
+
+TEST_F(Dialog, noTitleInTheListIsCutOff)
+{
+    openDialog();
+    const ShownEntry delegate(list());
+    item("App")->setText("A title wider than the list");
+    const int row = list()->row(item("A title wider than the list"));
+    const QStyleOptionViewItem wide = delegate.option(list(), row, 90);
+    EXPECT_LE(wide.fontMetrics.horizontalAdvance(wide.text), 86);
+    EXPECT_GT(wide.fontMetrics.horizontalAdvance(wide.text), 60);
+    EXPECT_EQ(wide.text, QString("A title wider than the list"));
+    item("A title wider than the list")->setText("App");
+    EXPECT_EQ(delegate.option(list(), row, 90).font, list()->font());
 }
 
 TEST_F(Dialog, withoutAProjectTheFirstPageThatNeedsNoneIsSelected)
