@@ -350,8 +350,11 @@ void ModPrj::modExitIntermod() {}
 
 void ModPrj::modExit()
 {
-    if (isValid())
+    if (isValid()) {
         closePrj();
+        prjMngrSetup();
+        prjMngrSetMode(eModeOpen);
+    }
     delete m_actions;
     m_actions = nullptr;
 }

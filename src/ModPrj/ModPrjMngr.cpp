@@ -53,6 +53,8 @@ void ModPrj::prjMngrSetup()
         connect(m_prjMngr, &PrjMngrWidget::cancelRequested, this, &ModPrj::prjMngrHndlEventCancel);
         for (const QString& file : qAsConst(m_collection))
             prjMngrAddToCollection(file);
+        // A script can bring the page up while the settings dialog is open.
+        m_prjMngr->setTabsEnabled(m_page.isNull());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, m_prjMngr, tr("Project Manager"));
         if (modHlpHook != nullptr)
             modHlpHook->showDialogHlpRef(m_prjMngr, QStringLiteral("pageId://projectManager"));

@@ -25,6 +25,8 @@
 #include <QTabWidget>
 
 #include <algorithm>
+#include <functional>
+#include <random>
 
 namespace {
 
@@ -342,4 +344,75 @@ TEST_F(SettingsAttack, WhatIsAppliedIsOnTheDiskEvenIfTheProgramDies)
                                      [](const QString& value) { return value.contains("behaviorIntVector"); }),
                       values->end());
     expectSame(read, applied);
+}
+
+TEST_F(SettingsAttack, TheProjectCanBeClosedByTheMenuBehindEachWayOut)
+{
+    start();
+    ASSERT_TRUE(prj()->open(makePrj("p.nalvo")));
+    QAction* close = nullptr;
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->text() == "Close project")
+            close = action;
+    }
+    ASSERT_NE(close, nullptr);
+    const QList<std::function<void()>> waysOut = {
+        [this] { press("Apply and close"); }, [this] { press("&Cancel"); },
+        [this] { QTest::mouseClick(window->findChild<QPushButton*>("buttonCloseTab"), Qt::LeftButton); },
+        [this] { config()->closeDialog(); }};
+    for (const auto& leave : waysOut) {
+        config()->openDialog();
+        EXPECT_FALSE(close->isEnabled());
+        leave();
+        ASSERT_EQ(dialog() != nullptr && dialog()->isVisible(), false);
+        EXPECT_TRUE(close->isEnabled());
+        EXPECT_TRUE(close->isVisible());
+        EXPECT_FALSE(close->associatedWidgets().isEmpty());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    close->trigger();
+    EXPECT_FALSE(prj()->isValid());
+    EXPECT_FALSE(close->isEnabled());
+}
+
+TEST_F(SettingsAttack, ProjectsAndProcessorsComeAndGoInAnyOrder)
+{
+    start();
+    const QStringList paths = {makePrj("1/a.nalvo", "Xilinx PicoBlaze 6"), makePrj("2/b.nalvo", "Lattice Mico8 v3.x"),
+                               makePrj("3/c.nalvo", "Unheard Of"), makePrj("4/d.nalvo", "")};
+    const QString broken = writeFile("broken.nalvo", "<project><a></project>");
+    std::mt19937 random(7);
+    QString log;
+    for (int step = 0; step < 400; ++step) {
+        const int what = int(random() % 9);
+        log = QString("step %1: %2").arg(step).arg(what);
+        if (what == 0)
+            config()->openDialog();
+        else if (what == 1)
+            config()->closeDialog(true);
+        else if (what == 2)
+            config()->closeDialog(false);
+        else if (what <= 4)
+            ASSERT_TRUE(prj()->open(paths.at(int(random() % 4)))) << qPrintable(log);
+        else if (what == 5)
+            prj()->close();
+        else if (what == 6)
+            EXPECT_FALSE(prj()->open(broken)) << qPrintable(log);
+        else if (what == 7)
+            prj()->hndlAction(nsModPrj::PrjActions::eAction_t(random() % 3));
+        else if (dialog() != nullptr && dialog()->isVisible() && prj()->isValid())
+            change(field<QComboBox>("Processor", "processor"));
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        const bool open = dialog() != nullptr;
+        if (auto* tabs = window->findChild<QTabWidget*>("prjMngrTabs")) {
+            ASSERT_EQ(tabs->isEnabled(), !open) << qPrintable(log);
+        }
+        if (open) {
+            ASSERT_EQ(page("Sources")->findChild<QListWidget*>("sourcesList")->count(), prj()->isValid() ? 2 : 0)
+                << qPrintable(log);
+        }
+        ASSERT_EQ(module<ModSourcesHookIf>()->files().size(), prj()->isValid() ? 2 : 0) << qPrintable(log);
+    }
+    EXPECT_TRUE(closeWindow());
 }

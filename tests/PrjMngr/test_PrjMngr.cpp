@@ -112,6 +112,42 @@ TEST_F(PrjMngr, IsLockedBelowTheSettingsDialog)
     EXPECT_TRUE(tabs()->isEnabled());
 }
 
+TEST_F(PrjMngr, IsLockedWhenItComesWhileTheSettingsDialogIsOpen)
+{
+    start();
+    ASSERT_TRUE(prj.openPrj(makePrj("p.nalvo", "T")));
+    prj.configPage(0);
+    prj.hndlAction(nsModPrj::PrjActions::eActionClose);
+    bringUp();
+    ASSERT_FALSE(page.isNull());
+    EXPECT_FALSE(tabs()->isEnabled());
+    prj.configPageClose(false);
+    prj.configPagesClosed(false);
+    EXPECT_TRUE(tabs()->isEnabled());
+}
+
+TEST_F(PrjMngr, IsThereAgainBehindTheProjectThatTheEndOfTheProgramCloses)
+{
+    start();
+    const QString file = makePrj("p.nalvo", "T");
+    ASSERT_TRUE(prj.openPrj(file));
+    prj.modExitIntermod();
+    prj.modExit();
+    EXPECT_FALSE(prj.isValid());
+    bringUp();
+    ASSERT_FALSE(page.isNull());
+    EXPECT_EQ(tabs()->currentIndex(), 1);
+}
+
+TEST_F(PrjMngr, TheEndOfTheProgramBringsNoPageWithoutAProject)
+{
+    start();
+    press("&Cancel");
+    prj.modExitIntermod();
+    prj.modExit();
+    EXPECT_TRUE(gui.center.isEmpty());
+}
+
 TEST_F(PrjMngr, ClosingItsTabCancels)
 {
     const QString file = makePrj("p.nalvo", "T");
