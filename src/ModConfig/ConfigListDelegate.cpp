@@ -10,7 +10,7 @@ namespace {
 
 const QSize iconSize(48, 48);
 const int gap = 8;
-const int titleMargin = 5; // what the style leaves free beside a text, and the border
+const int titleMargin = 7; // what the style leaves free beside a text, and the border
 
 } // namespace
 
@@ -38,6 +38,7 @@ void ConfigListDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     // The list has a fixed width: a title is rather small than cut off.
     const int room = option->rect.width() - 2 * titleMargin;
     const int title = option->fontMetrics.horizontalAdvance(option->text);
+    option->textElideMode = Qt::ElideNone;
     if (room > 0 && title > room) {
         option->font.setPointSizeF(option->font.pointSizeF() * room / title);
         option->fontMetrics = QFontMetrics(option->font);

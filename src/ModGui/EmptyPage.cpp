@@ -29,6 +29,17 @@ void EmptyPage::setOpenText(const QString& text)
     update();
 }
 
+QString EmptyPage::hint() const
+{
+    if (m_openText.isEmpty())
+        return tr("Open a project: Configuration > Open project...\nMake a new one: Configuration > New project...");
+    // The whole way, as a new project has neither source nor processor nor output.
+    return m_openText + "\n\n" +
+           tr("Write a source: File > New...\n"
+              "Choose processor and outputs: Configuration > Configure...\n"
+              "Run it through the assembler: Assembler > Run assembler");
+}
+
 void EmptyPage::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -39,7 +50,7 @@ void EmptyPage::paintEvent(QPaintEvent*)
     nameFont.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);
     nameFont.setWeight(QFont::Light);
     const int nameHeight = QFontMetrics(nameFont).height();
-    const int hintHeight = fontMetrics().height();
+    const int hintHeight = fontMetrics().height() * (hint().count('\n') + 1);
     // A little above the middle is where the eye looks for the middle.
     const int top = qMax(0, (height() - nameHeight - gap - hintHeight) * 2 / 5);
 
@@ -49,10 +60,7 @@ void EmptyPage::paintEvent(QPaintEvent*)
     painter.setFont(font());
     painter.setPen(hintColor);
     const QRect lines(2 * gap, top + nameHeight + gap, width() - 4 * gap, height() - top - nameHeight - 2 * gap);
-    const QString hint = m_openText.isEmpty() ? tr("Open a project: Configuration > Open project...")
-                                              : m_openText + '\n' +
-                                                    tr("Run it through the assembler: Assembler > Run assembler");
-    painter.drawText(lines, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint);
+    painter.drawText(lines, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint());
 }
 
 } // namespace nsModGui

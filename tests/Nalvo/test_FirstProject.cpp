@@ -4,6 +4,7 @@
 #include "ModalAnswers.h"
 
 #include "EditorWidget.h"
+#include "EmptyPage.h"
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 #include "QtPrinters.h"
@@ -13,8 +14,11 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QToolButton>
@@ -163,6 +167,8 @@ protected:
         return false;
     }
 
+    /// The steps that the empty page tells, "menu > entry" each, are there and can be done.
+    void expectStepsExist(int count) const;
     void generateProject();
     void writeProgram();
     void configure();
@@ -171,6 +177,28 @@ protected:
     void enableOutputs();
     void openFromStartPage();
 };
+
+void FirstProject::expectStepsExist(int count) const
+{
+    const auto* page = window->findChild<nsModGui::EmptyPage*>();
+    ASSERT_NE(page, nullptr);
+    QRegularExpressionMatchIterator steps = QRegularExpression(": (\\w+) > ([^\\n]+)").globalMatch(page->hint());
+    int found = 0;
+    while (steps.hasNext()) {
+        const QRegularExpressionMatch step = steps.next();
+        SCOPED_TRACE(qPrintable(step.captured()));
+        ++found;
+        bool enabled = false;
+        for (const QAction* menu : window->menuBar()->actions()) {
+            if (menu->text().remove('&') != step.captured(1) || menu->menu() == nullptr)
+                continue;
+            for (const QAction* entry : menu->menu()->actions())
+                enabled = enabled || (entry->text().remove('&') == step.captured(2) && entry->isEnabled());
+        }
+        EXPECT_TRUE(enabled);
+    }
+    EXPECT_EQ(found, count);
+}
 
 void FirstProject::generateProject()
 {
@@ -181,8 +209,11 @@ void FirstProject::generateProject()
     click(manager()->findChild<QLineEdit*>("prjMngrNewTitle"));
     type("Blinker");
     screenshot("first-1-new-project");
+    expectStepsExist(2);
     clickButton(manager(), "Generate and open project");
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    expectStepsExist(3);
+    screenshot("first-1-opened");
 }
 
 void FirstProject::writeProgram()
