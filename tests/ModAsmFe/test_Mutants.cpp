@@ -154,7 +154,9 @@ QString runMutants(const QString& processorName, int count, unsigned int seed)
     f.open();
     // The file of a mutant that crashes stays behind.
     QDir().mkpath(NALVO_BINARY_DIR "/asm-mutants");
-    const QString path = QString(NALVO_BINARY_DIR "/asm-mutants/%1.psm").arg(seed);
+    // Processors run beside each other: each has files of its own.
+    const QString path =
+        QString(NALVO_BINARY_DIR "/asm-mutants/%1-%2.psm").arg(QString(processorName).remove(QRegExp("[^A-Za-z0-9]"))).arg(seed);
     f.sources.srcFiles = QStringList(path);
     Mutator mutator(sources, seed);
     int assembled = 0;
