@@ -1,6 +1,7 @@
 // Every field of every page in a real main window: cancelled, restored, set to defaults, applied and killed, while
 // projects come and go.
 
+#include "EditorSyntaxHighlighterConfig.h"
 #include "ExampleFolder.h"
 #include "SettingsFixture.h"
 
@@ -323,4 +324,24 @@ TEST_F(SettingsAttack, AssemblesAndSimulatesWhileItIsOpen)
     press("Apply and close");
     EXPECT_EQ(dialog(), nullptr);
     EXPECT_TRUE(closeWindow());
+}
+
+TEST_F(SettingsAttack, WithoutAProjectTextIsPlain)
+{
+    start();
+    auto* rules = window->findChild<nsModEditor::EditorSyntaxHighlighterConfig*>();
+    ASSERT_NE(rules, nullptr);
+    EXPECT_TRUE(rules->rules().isEmpty());
+    config()->openDialog();
+    press("Apply and close");
+    EXPECT_TRUE(rules->rules().isEmpty());
+    for (const char* processor : {"Xilinx PicoBlaze 6", ""}) {
+        ASSERT_TRUE(prj()->open(makePrj("p.nalvo", processor)));
+        EXPECT_FALSE(rules->rules().isEmpty());
+        config()->openDialog();
+        press("Apply and close");
+        EXPECT_FALSE(rules->rules().isEmpty());
+        prj()->close();
+        EXPECT_TRUE(rules->rules().isEmpty()) << processor;
+    }
 }
