@@ -37,6 +37,15 @@ const sActionClass_t actionClasses[] = {
 
 const QSize toolBarIconSize(26, 26);
 
+/// Deletes the separators of the last time; the actions belong to the clients.
+void deleteSeparators(QWidget* bar)
+{
+    for (QAction* action : bar->actions()) {
+        if (action->isSeparator() && action->parent() == bar)
+            delete action;
+    }
+}
+
 } // namespace
 
 ModAction::ModAction(QMainWindow* mainWindow)
@@ -103,7 +112,7 @@ void ModAction::refreshActions()
         refreshToolBar(it.key(), it.value());
 }
 
-QList<QAction*> ModAction::collectActions(eActionClass_t actionClass, ListOperation list)
+QList<QAction*> ModAction::collectActions(eActionClass_t actionClass, ListOperation list, QWidget* bar)
 {
     QList<QAction*> result;
     m_plugins.forEach([&](ModActionPluginIf* plugin) {
@@ -112,7 +121,7 @@ QList<QAction*> ModAction::collectActions(eActionClass_t actionClass, ListOperat
         if (actions.isEmpty())
             return;
         if (!result.isEmpty()) {
-            auto* separator = new QAction(this);
+            auto* separator = new QAction(bar);
             separator->setSeparator(true);
             result.append(separator);
         }
@@ -125,8 +134,9 @@ void ModAction::refreshMenu(eActionClass_t actionClass, QMenu* menu)
 {
     if (menu == nullptr)
         return;
+    deleteSeparators(menu);
     menu->clear();
-    const QList<QAction*> actions = collectActions(actionClass, &ModActionPluginIf::menuActions);
+    const QList<QAction*> actions = collectActions(actionClass, &ModActionPluginIf::menuActions, menu);
     menu->setEnabled(!actions.isEmpty());
     for (QAction* action : actions)
         menu->addAction(action);
@@ -136,8 +146,9 @@ void ModAction::refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar)
 {
     if (toolBar == nullptr)
         return;
+    deleteSeparators(toolBar);
     toolBar->clear();
-    const QList<QAction*> actions = collectActions(actionClass, &ModActionPluginIf::toolBarActions);
+    const QList<QAction*> actions = collectActions(actionClass, &ModActionPluginIf::toolBarActions, toolBar);
     for (QAction* action : actions)
         toolBar->addAction(action);
     toolBar->setIconSize(toolBarIconSize);

@@ -13,6 +13,7 @@ class QAction;
 class QMainWindow;
 class QMenu;
 class QToolBar;
+class QWidget;
 
 namespace nsModAction {
 
@@ -49,7 +50,8 @@ public:
 private:
     using ListOperation = QList<QAction*> (ModActionPluginIf::*)(eActionClass_t);
 
-    QList<QAction*> collectActions(eActionClass_t actionClass, ListOperation list);
+    /// The actions of all clients, with separators that belong to the menu or tool bar that they are for.
+    QList<QAction*> collectActions(eActionClass_t actionClass, ListOperation list, QWidget* bar);
     void refreshMenu(eActionClass_t actionClass, QMenu* menu);
     void refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar);
 

@@ -162,6 +162,7 @@ void ModAsmFe::prjClose()
         m_actions->setEnabled(false);
     if (m_statusBar != nullptr)
         m_statusBar->setProcessorName(QString());
+    clearHighlighter();
     m_fileHndlr->setPrjDir(QString());
     // A run in progress still walks its elements: it ends first.
     if (m_running)
@@ -199,6 +200,15 @@ void ModAsmFe::configPagesClosed(bool accepted)
         return;
     applyBaseConfig();
     applyBackendConfig();
+    if (modPrjHook != nullptr && !modPrjHook->isValid())
+        clearHighlighter();
+}
+
+void ModAsmFe::clearHighlighter()
+{
+    // The rules are those of a project's processor: without one, text is plain.
+    if (modEditorHook != nullptr)
+        modEditorHook->clearHighlighter();
 }
 
 void ModAsmFe::srcFileListChanged()

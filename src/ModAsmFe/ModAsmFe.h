@@ -340,6 +340,7 @@ private:
     void setupSupportMenuDynamics();
     void setupSupportMenuHardware();
     void setHighlighter();
+    void clearHighlighter();
 
     PluginList<ModAsmFePluginIf> m_plugins;
     ModAsmFePluginIfBackend* m_asmBe = nullptr; ///< not owned

@@ -185,6 +185,11 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
         m_fontTable->setFormat(i, config->fontFormats[i]);
 }
 
+void EditorConfigPage::setTabIndent(int indent)
+{
+    m_tabIndent->setValue(indent);
+}
+
 void EditorConfigPage::config(EditorConfig* config) const
 {
     config->tabIndent = m_tabIndent->value();

@@ -25,6 +25,8 @@ public:
 
     /// Fills the controls.
     void setConfig(const EditorConfig* config);
+    /// Shows another width of a tab, in characters from 1 to 64; all else stays as the user left it.
+    void setTabIndent(int indent);
     /// Takes the values of the controls.
     void config(EditorConfig* config) const;
 

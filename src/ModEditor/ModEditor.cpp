@@ -181,6 +181,9 @@ void ModEditor::prjOpen()
 {
     m_lastPath = modPrjHook->prjDir().absolutePath();
     tabIndent = modPrjHook->value("ModEditor/tabIndent", tabIndent);
+    // The one value on the page that belongs to the project as well.
+    if (m_configPage != nullptr)
+        m_configPage->setTabIndent(tabIndent);
     for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
         openFileWidget(modPrjHook->convToAbsPath(file));
     configureEditorWidgets();

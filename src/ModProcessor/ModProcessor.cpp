@@ -69,6 +69,9 @@ void ModProcessor::prjSave()
 
 void ModProcessor::prjClose()
 {
+    // The page would choose the processor of this project for the next one, should that name one that nobody knows.
+    if (m_configPage != nullptr)
+        m_configPage->setProcessor(QString());
     if (m_current == nullptr)
         return;
     ProcPluginIf* leaving = m_current;

@@ -141,6 +141,27 @@ TEST_F(AsmFePage, CharacterSetThatNobodyKnowsStays)
     EXPECT_EQ(result.defaultCharset, "Nobody-1");
 }
 
+TEST_F(AsmFePage, AValueThatIsNotInTheListStaysUntilAnotherIsChosen)
+{
+    AsmFeConfig odd;
+    odd.behaviorEqu = 7;
+    odd.behaviorCharset = -1;
+    odd.defaultCharset.clear();
+    AsmFeConfig other;
+    other.behaviorEqu = AsmFeConfig::equError;
+    page.setConfig(&other, dir.path());
+    page.setConfig(&odd, dir.path());
+    AsmFeConfig taken = odd;
+    page.config(&taken);
+    EXPECT_EQ(taken.behaviorEqu, 7);
+    EXPECT_EQ(taken.behaviorCharset, -1);
+    EXPECT_EQ(taken.defaultCharset, "");
+    page.findChild<QComboBox*>("behaviorEqu")->setFocus();
+    QTest::keyClick(page.findChild<QComboBox*>("behaviorEqu"), Qt::Key_Down);
+    page.config(&taken);
+    EXPECT_EQ(taken.behaviorEqu, AsmFeConfig::equError);
+}
+
 TEST_F(AsmFePage, DefaultsAreThoseOfANewConfiguration)
 {
     AsmFeConfig config;

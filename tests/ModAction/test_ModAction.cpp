@@ -168,6 +168,21 @@ TEST_F(ActionTest, ClientsAreSetApartBySeparators)
     EXPECT_EQ(texts(menu("File")), QString("c1"));
 }
 
+TEST_F(ActionTest, ARefreshLeavesNoSeparatorsOfTheLastOneBehind)
+{
+    a.menus[1] = a.toolBars[1] = {actions[0]};
+    b.menus[1] = b.toolBars[1] = {actions[2]};
+    hook->registerPlugin(&a);
+    hook->registerPlugin(&b);
+    start();
+    const int count = window.findChildren<QAction*>().size();
+    for (int i = 0; i < 10; ++i)
+        hook->refreshActions();
+    EXPECT_EQ(window.findChildren<QAction*>().size(), count);
+    EXPECT_EQ(texts(menu("File")), QString("a1 | b1"));
+    EXPECT_EQ(texts(toolBar("File")), QString("a1 | b1"));
+}
+
 TEST_F(ActionTest, NullActionsAreLeftOut)
 {
     a.menus[1] = {nullptr, actions[0]};

@@ -1,28 +1,11 @@
 // Every field of every page in a real main window: cancelled, restored, set to defaults, applied and killed, while
 // projects come and go.
 
-#include "MainWindowFixture.h"
+#include "EditorSyntaxHighlighterConfig.h"
+#include "ExampleFolder.h"
+#include "SettingsFixture.h"
 
-#include "ModAsmFeHookIf.h"
-#include "ModConfig.h"
-#include "ModPrj.h"
-#include "ModSourcesHookIf.h"
-#include "MyColorSelector.h"
-#include "MyFontTable.h"
-#include "QtPrinters.h"
-
-#include <QAction>
-#include <QCheckBox>
-#include <QComboBox>
-#include <QDoubleSpinBox>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPlainTextEdit>
-#include <QPushButton>
-#include <QScrollArea>
-#include <QSpinBox>
-#include <QStackedWidget>
-#include <QTabWidget>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <functional>
@@ -30,221 +13,8 @@
 
 namespace {
 
-using Snapshot = QMap<QString, QStringList>; ///< values of all fields by the title of their page
-
-class SettingsAttack : public MainWindowFixture
+class SettingsAttack : public SettingsFixture
 {
-protected:
-    void start()
-    {
-        writeSetting("ModGui/width", "1280");
-        writeSetting("ModGui/height", "750");
-        makeWindow();
-    }
-    nsModConfig::ModConfig* config() const { return module<nsModConfig::ModConfig>(); }
-    nsModPrj::ModPrj* prj() const { return module<nsModPrj::ModPrj>(); }
-    QWidget* dialog() const { return window->findChild<QWidget*>("configDialog"); }
-    QListWidget* list() const { return dialog()->findChild<QListWidget*>("configList"); }
-    QStringList titles() const
-    {
-        QStringList result;
-        for (int row = 0; row < list()->count(); ++row)
-            result.append(list()->item(row)->text());
-        return result;
-    }
-    QWidget* page(const QString& title) const
-    {
-        auto* stack = dialog()->findChild<QStackedWidget*>("configPages");
-        return static_cast<QScrollArea*>(stack->widget(titles().indexOf(title)))->widget();
-    }
-    template <class Widget>
-    Widget* field(const QString& title, const QString& name) const
-    {
-        return page(title)->findChild<Widget*>(name);
-    }
-    void press(const QString& text) const
-    {
-        for (QPushButton* button : dialog()->findChildren<QPushButton*>()) {
-            if (button->text() == text && button->isVisible()) {
-                QTest::mouseClick(button, Qt::LeftButton);
-                QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-                return;
-            }
-        }
-        ADD_FAILURE() << "no button " << qPrintable(text);
-    }
-    void type(QWidget* field, const QString& text) const
-    {
-        field->setFocus();
-        QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
-        QTest::keyClicks(field, text);
-    }
-
-    QString makePrj(const QString& name, const QByteArray& processor = "Xilinx PicoBlaze 6",
-                    const QByteArray& rest = QByteArray())
-    {
-        const QString path = projectDir() + '/' + name;
-        QDir().mkpath(QFileInfo(path).path());
-        for (const char* source : {"/a.psm", "/b.psm"})
-            writeFile(QFileInfo(name).path() + source, "; nothing\n");
-        return writeFile(name, "<project version=\"3\"><PrjInfo><title>T</title><version>1</version><comment>C</comment>"
-                               "</PrjInfo><sources><srcFiles>a.psm:b.psm</srcFiles></sources><ModProcessor><processor>" +
-                                   processor + "</processor></ModProcessor>" + rest + "</project>");
-    }
-    static QByteArray content(const QString& path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("missing");
-    }
-
-    static QString valueOf(QWidget* widget)
-    {
-        if (auto* box = qobject_cast<QSpinBox*>(widget))
-            return QString::number(box->value());
-        if (auto* box = qobject_cast<QDoubleSpinBox*>(widget))
-            return QString::number(box->value(), 'f', 6);
-        if (auto* box = qobject_cast<QComboBox*>(widget))
-            return box->currentText();
-        if (auto* box = qobject_cast<QCheckBox*>(widget))
-            return QString::number(box->isChecked());
-        if (auto* edit = qobject_cast<QPlainTextEdit*>(widget))
-            return edit->toPlainText();
-        if (auto* selector = qobject_cast<MyColorSelector*>(widget))
-            return selector->color().name();
-        if (auto* table = qobject_cast<MyFontTable*>(widget))
-            return formatsOf(table);
-        if (auto* files = qobject_cast<QListWidget*>(widget))
-            return rowsOf(files);
-        auto* edit = qobject_cast<QLineEdit*>(widget);
-        return edit != nullptr && !isPartOfBox(widget) ? edit->text() : QString();
-    }
-    static bool isPartOfBox(QWidget* widget)
-    {
-        return qobject_cast<QAbstractSpinBox*>(widget->parentWidget()) != nullptr ||
-               qobject_cast<QComboBox*>(widget->parentWidget()) != nullptr;
-    }
-    static QString formatsOf(MyFontTable* table)
-    {
-        QStringList result;
-        for (int row = 0; row < table->model()->rowCount(); ++row) {
-            const QTextCharFormat format = table->format(row);
-            result.append(QString("%1/%2/%3")
-                              .arg(format.fontWeight() >= QFont::Bold)
-                              .arg(format.fontItalic())
-                              .arg(format.foreground().color().name()));
-        }
-        return result.join(' ');
-    }
-    static QString rowsOf(QListWidget* files)
-    {
-        QStringList result;
-        for (int row = 0; row < files->count(); ++row)
-            result.append(files->item(row)->text());
-        return result.join(' ');
-    }
-    /// The settings of the processors have the same names: they go by that of their processor.
-    QString nameOf(QWidget* widget) const
-    {
-        auto* stack = field<QStackedWidget>("Processor", "processorConfig");
-        const int index = stack->indexOf(widget);
-        return index < 0 ? widget->objectName() : field<QComboBox>("Processor", "processor")->itemText(index);
-    }
-    /// Leaves out the settings of all processors but the one that the page shows.
-    void keepShownProcessor(Snapshot* values) const
-    {
-        const QString shown = field<QComboBox>("Processor", "processor")->currentText();
-        QStringList kept;
-        for (const QString& value : (*values)["Processor"]) {
-            if (!value.contains("procConfigTabs") || value.contains("." + shown + "."))
-                kept.append(value);
-        }
-        (*values)["Processor"] = kept;
-    }
-    Snapshot snapshot() const
-    {
-        Snapshot result;
-        for (const QString& title : titles()) {
-            for (QWidget* widget : page(title)->findChildren<QWidget*>()) {
-                const QString value = valueOf(widget);
-                QString name = widget->objectName() + widget->property("setting").toString();
-                for (QWidget* parent = widget->parentWidget(); parent != page(title); parent = parent->parentWidget())
-                    name.prepend(nameOf(parent) + '.');
-                if (!value.isNull())
-                    result[title].append(name + '=' + value);
-            }
-            // A widget that comes to the front changes its place among the others.
-            result[title].sort();
-        }
-        return result;
-    }
-
-    static void change(QWidget* widget)
-    {
-        if (auto* box = qobject_cast<QSpinBox*>(widget))
-            QTest::keyClick(box, box->value() < box->maximum() ? Qt::Key_Up : Qt::Key_Down);
-        else if (auto* number = qobject_cast<QDoubleSpinBox*>(widget))
-            QTest::keyClick(number, number->value() < number->maximum() ? Qt::Key_Up : Qt::Key_Down);
-        else if (auto* choice = qobject_cast<QComboBox*>(widget))
-            QTest::keyClick(choice, choice->currentIndex() < choice->count() - 1 ? Qt::Key_Down : Qt::Key_Up);
-        else if (auto* check = qobject_cast<QCheckBox*>(widget))
-            QTest::keyClick(check, Qt::Key_Space);
-        else if (auto* text = qobject_cast<QPlainTextEdit*>(widget))
-            QTest::keyClicks(text, "changed ");
-        else if (auto* selector = qobject_cast<MyColorSelector*>(widget))
-            selector->setColor(QColor(selector->color().rgb() ^ 0x123456));
-        else if (auto* table = qobject_cast<MyFontTable*>(widget))
-            changeFormats(table);
-        else if (auto* files = qobject_cast<QListWidget*>(widget))
-            removeFirst(files);
-        else if (auto* edit = qobject_cast<QLineEdit*>(widget))
-            QTest::keyClicks(edit, "x");
-    }
-    static void changeFormats(MyFontTable* table)
-    {
-        for (int row = 0; row < table->model()->rowCount(); ++row) {
-            for (int column = 1; column <= 2; ++column) {
-                table->setCurrentIndex(table->model()->index(row, column));
-                QTest::keyClick(table, Qt::Key_Space);
-            }
-        }
-    }
-    static void removeFirst(QListWidget* files)
-    {
-        files->setCurrentRow(0);
-        QTest::keyClick(files, Qt::Key_Delete);
-    }
-    void changeEverything() const
-    {
-        for (const QString& title : titles()) {
-            ASSERT_TRUE(config()->selectDialogPageByTitle(title));
-            // What is enabled here enables the rest.
-            const QList<QCheckBox*> first = page(title)->findChildren<QCheckBox*>("targetEnable");
-            for (QCheckBox* box : first)
-                change(box);
-            for (QWidget* widget : page(title)->findChildren<QWidget*>()) {
-                if (widget->objectName() != "targetEnable" && !valueOf(widget).isNull())
-                    change(widget);
-            }
-        }
-    }
-    static void expectEachDiffers(const QStringList& a, const QStringList& b)
-    {
-        ASSERT_EQ(a.size(), b.size());
-        for (int i = 0; i < a.size(); ++i)
-            EXPECT_NE(a[i], b[i]) << qPrintable(a[i]);
-    }
-    static void expectSame(const QStringList& a, const QStringList& b, const QString& where)
-    {
-        ASSERT_EQ(a.size(), b.size()) << qPrintable(where);
-        for (int i = 0; i < a.size(); ++i)
-            EXPECT_EQ(a[i], b[i]) << qPrintable(where) << ": " << qPrintable(a[i]) << " is not " << qPrintable(b[i]);
-    }
-    static void expectSame(const Snapshot& a, const Snapshot& b)
-    {
-        ASSERT_EQ(a.keys(), b.keys());
-        for (const QString& title : a.keys())
-            expectSame(a[title], b[title], title);
-    }
 };
 
 } // namespace
@@ -415,4 +185,163 @@ TEST_F(SettingsAttack, ProjectsAndProcessorsComeAndGoInAnyOrder)
         ASSERT_EQ(module<ModSourcesHookIf>()->files().size(), prj()->isValid() ? 2 : 0) << qPrintable(log);
     }
     EXPECT_TRUE(closeWindow());
+}
+
+TEST_F(SettingsAttack, AnUntouchedPageCarriesNothingOverIntoTheNextProject)
+{
+    start();
+    const QString first = makePrj("1/a.nalvo", "Xilinx PicoBlaze 6",
+                                  "<ModEditor><tabIndent>2</tabIndent></ModEditor><AsmFe><defaultCharset>ISO-8859-1"
+                                  "</defaultCharset><behavior><charset>0</charset><equ>0</equ><set>0</set></behavior>"
+                                  "<target><hex><en>1</en><outputFile>a.hex</outputFile></hex></target></AsmFe>");
+    const QString second = makePrj("2/b.nalvo", "Xilinx PicoBlaze 3",
+                                   "<ModEditor><tabIndent>8</tabIndent></ModEditor><AsmFe><defaultCharset>Unheard-Of"
+                                   "</defaultCharset><behavior><charset>7</charset><equ>-1</equ><set>2</set></behavior>"
+                                   "</AsmFe>");
+    const QString third = makePrj("3/c.nalvo", "", "<AsmFe><defaultCharset></defaultCharset></AsmFe>");
+    for (const QString& path : {second, third}) {
+        ASSERT_TRUE(prj()->open(path));
+        prj()->savePrjCfg();
+        const QByteArray wanted = content(path);
+        ASSERT_TRUE(prj()->open(first));
+        config()->openDialog();
+        ASSERT_TRUE(prj()->open(path));
+        press("Apply and close");
+        EXPECT_EQ(content(path), wanted) << content(path).constData() << wanted.constData();
+    }
+}
+
+TEST_F(SettingsAttack, APageOfAClosedProjectChoosesNoProcessorForTheNext)
+{
+    start();
+    const QString unknown = makePrj("2/b.nalvo", "Unheard Of");
+    ASSERT_TRUE(prj()->open(makePrj("1/a.nalvo", "Xilinx PicoBlaze 6")));
+    config()->openDialog();
+    EXPECT_EQ(field<QComboBox>("Processor", "processor")->currentText(), "Xilinx PicoBlaze 6");
+    ASSERT_TRUE(prj()->open(unknown));
+    EXPECT_EQ(field<QComboBox>("Processor", "processor")->currentText(), "Unset");
+    press("Apply and close");
+    EXPECT_FALSE(content(unknown).contains("PicoBlaze"));
+}
+
+TEST_F(SettingsAttack, RubbishInTheProjectFile)
+{
+    start();
+    for (const char* value : {"nan", "-inf", "1e300", "-1", "99999999999999999999", "abc", ""}) {
+        const std::pair<const char*, const char*> processors[] = {{"Xilinx PicoBlaze 3", "XPBlze3"},
+                                                                  {"Xilinx PicoBlaze 6", "XPBlze6"},
+                                                                  {"Lattice Mico8 v3.x", "LMico8v3x"}};
+        for (const auto& processor : processors) {
+            const QString path = makePrj("p.nalvo", processor.first, rubbishSections(processor.second, value));
+            ASSERT_TRUE(prj()->open(path));
+            prj()->savePrjCfg();
+            EXPECT_TRUE(QRegularExpression("<clkFreq>-?[0-9]+</clkFreq>").match(content(path)).hasMatch())
+                << value << content(path).constData();
+            config()->openDialog();
+            press("Apply and close");
+            config()->openDialog();
+            const Snapshot shown = snapshot();
+            config()->closeDialog(true);
+            EXPECT_TRUE(QRegularExpression("<clkFreq>-?[0-9]+</clkFreq>").match(content(path)).hasMatch())
+                << value << content(path).constData();
+            prj()->close();
+            ASSERT_TRUE(prj()->open(path));
+            config()->openDialog();
+            expectSame(snapshot(), shown);
+            config()->closeDialog();
+        }
+    }
+}
+
+TEST_F(SettingsAttack, RubbishTypedIntoEveryField)
+{
+    start();
+    const QString file = QString::fromUtf8("mit Lücke & %1 <ß> ").repeated(20) + "!.x";
+    const QString text = QString::fromUtf8("/!&<>\"' äöü € \xF0\x9F\x98\x80 ://\\:;%1 &#47;").repeated(8);
+    const QString path = makePrj(QString::fromUtf8("mit Lücke/%1/p q.nalvo").arg(QString(200, QChar(0xe4)).left(100)));
+    ASSERT_TRUE(prj()->open(path));
+    config()->openDialog();
+    for (QWidget* widget : dialog()->findChildren<QWidget*>()) {
+        if (auto* box = qobject_cast<QCheckBox*>(widget))
+            box->setChecked(true);
+    }
+    for (QWidget* widget : dialog()->findChildren<QWidget*>()) {
+        if (auto* box = qobject_cast<QAbstractSpinBox*>(widget))
+            type(box, "-99999999999999999999999999e999");
+        else if (auto* plain = qobject_cast<QPlainTextEdit*>(widget))
+            plain->insertPlainText(text + "\n" + text);
+        else if (auto* edit = qobject_cast<QLineEdit*>(widget))
+            edit->insert(isPartOfBox(edit) ? QString() : edit->objectName() == "pathEdit" ? file : text);
+    }
+    Snapshot applied = snapshot();
+    keepShownProcessor(&applied);
+    press("Apply and close");
+    prj()->close();
+    ASSERT_TRUE(prj()->open(path));
+    config()->openDialog();
+    Snapshot read = snapshot();
+    keepShownProcessor(&read);
+    expectSame(read, applied);
+    EXPECT_TRUE(closeWindow());
+}
+
+TEST_F(SettingsAttack, AssemblesAndSimulatesWhileItIsOpen)
+{
+    copyFolder(NALVO_SOURCE_DIR "/examples/uart_monitor", projectDir() + "/uart_monitor");
+    copyFolder(NALVO_SOURCE_DIR "/examples/templates", projectDir() + "/templates");
+    start();
+    const QString path = projectDir() + "/uart_monitor/uart_monitor.nalvo";
+    ASSERT_TRUE(prj()->open(path));
+    config()->openDialog();
+    const Snapshot before = snapshot();
+    trigger("Run assembler");
+    ASSERT_TRUE(module<ModAsmFeHookIf>()->isAssembled());
+    expectSame(snapshot(), before);
+    trigger("Enable/disable simulator");
+    trigger("Next instruction");
+    config()->openDialog(); // behind the views of the simulator
+    expectSame(snapshot(), before);
+
+    // While the simulator runs with these settings they stay.
+    press("Apply and close");
+    ASSERT_TRUE(dialog() != nullptr && dialog()->isVisible());
+    EXPECT_TRUE(messageTexts().contains("The simulator must be disabled before closing the configuration dialog."));
+    trigger("Enable/disable simulator");
+    press("Apply and close");
+    EXPECT_EQ(dialog(), nullptr);
+    config()->openDialog();
+    expectSame(snapshot(), before);
+
+    // Cancel needs no consent, and a project takes its simulator along.
+    trigger("Run assembler");
+    trigger("Enable/disable simulator");
+    config()->openDialog();
+    press("&Cancel");
+    EXPECT_EQ(dialog(), nullptr);
+    config()->openDialog();
+    prj()->close();
+    ASSERT_NE(dialog(), nullptr);
+    press("Apply and close");
+    EXPECT_EQ(dialog(), nullptr);
+    EXPECT_TRUE(closeWindow());
+}
+
+TEST_F(SettingsAttack, WithoutAProjectTextIsPlain)
+{
+    start();
+    auto* rules = window->findChild<nsModEditor::EditorSyntaxHighlighterConfig*>();
+    ASSERT_NE(rules, nullptr);
+    EXPECT_TRUE(rules->rules().isEmpty());
+    config()->openDialog();
+    press("Apply and close");
+    EXPECT_TRUE(rules->rules().isEmpty());
+    for (const char* processor : {"Xilinx PicoBlaze 6", ""}) {
+        ASSERT_TRUE(prj()->open(makePrj("p.nalvo", processor)));
+        EXPECT_FALSE(rules->rules().isEmpty());
+        config()->openDialog();
+        press("Apply and close");
+        EXPECT_FALSE(rules->rules().isEmpty());
+        prj()->close();
+        EXPECT_TRUE(rules->rules().isEmpty()) << processor;
+    }
 }

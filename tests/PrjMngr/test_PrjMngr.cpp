@@ -415,6 +415,30 @@ TEST_F(PrjMngr, AVanishedFileIsDroppedWithAWarningAtTheNextStart)
     EXPECT_EQ(prj.collection(), QStringList(stays));
 }
 
+TEST_F(PrjMngr, APathMayHoldEveryCharacterAndBeLong)
+{
+    const QString dir = path(QString::fromUtf8("Prüf stand: 100%1 & <b>;, \"x\" \\ ") + QString(100, QChar(0xe4)));
+    const QString file = dir + '/' + QString(100, 'y') + QString::fromUtf8(" ß!.nalvo");
+    ASSERT_TRUE(QDir().mkpath(dir));
+    ASSERT_GE(file.size(), 240);
+    start();
+    selectTab(0);
+    pathEdit("prjMngrNewFile")->insert(file);
+    page->findChild<QLineEdit*>("prjMngrNewTitle")->insert(QString::fromUtf8("Tür & <b>"));
+    press("Generate and add project to collection");
+    EXPECT_EQ(listed(), QStringList(file));
+    press("Save project manager configuration and close");
+    disk.end(&prj);
+    start();
+    EXPECT_EQ(listed(), QStringList(file));
+    EXPECT_EQ(cardText(file, "prjViewTitle"), QString::fromUtf8("Tür & <b>"));
+    press("Open", card(file));
+    EXPECT_TRUE(prj.isValid());
+    EXPECT_EQ(prj.prjDir().path(), dir);
+    EXPECT_TRUE(msg.warnings().isEmpty());
+    EXPECT_TRUE(msg.errors().isEmpty());
+}
+
 TEST_F(PrjMngr, CancelKeepsWhatWasRemoved)
 {
     const QString a = makePrj("a.nalvo", "A");

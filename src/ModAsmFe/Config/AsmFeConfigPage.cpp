@@ -27,11 +27,17 @@ void addChoices(QComboBox* box, const char* name, const QList<sChoice_t>& choice
         box->addItem(choice.text, choice.value);
 }
 
+/// Nothing is selected for a value that is not in the list.
 void select(QComboBox* box, const QVariant& value)
 {
-    const int index = box->findData(value);
-    if (index >= 0)
-        box->setCurrentIndex(index);
+    box->setCurrentIndex(box->findData(value));
+}
+
+/// Where nothing is selected, the value stays as it is.
+void take(const QComboBox* box, int* value)
+{
+    if (box->currentIndex() >= 0)
+        *value = box->currentData().toInt();
 }
 
 /// The names of all character sets, each once.
@@ -164,11 +170,12 @@ void AsmFeConfigPage::setConfig(const AsmFeConfig* config, const QString& prjDir
 
 void AsmFeConfigPage::config(AsmFeConfig* config) const
 {
-    config->defaultCharset = m_defaultCharset->currentData().toString();
-    config->behaviorCharset = m_behaviorCharset->currentData().toInt();
-    config->behaviorEqu = m_behaviorEqu->currentData().toInt();
-    config->behaviorSet = m_behaviorSet->currentData().toInt();
-    config->behaviorChkIntVector = m_behaviorIntVector->currentData().toInt();
+    if (m_defaultCharset->currentIndex() >= 0)
+        config->defaultCharset = m_defaultCharset->currentData().toString();
+    take(m_behaviorCharset, &config->behaviorCharset);
+    take(m_behaviorEqu, &config->behaviorEqu);
+    take(m_behaviorSet, &config->behaviorSet);
+    take(m_behaviorIntVector, &config->behaviorChkIntVector);
     m_mapper->config(config);
     m_hex->config(&config->targetHex);
     m_mem->config(&config->targetMem);

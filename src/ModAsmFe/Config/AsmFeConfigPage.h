@@ -28,7 +28,7 @@ public:
     /// Fills the controls.
     /// @param prjDir absolute folder of the project, that paths are shown relative to; empty without one
     void setConfig(const AsmFeConfig* config, const QString& prjDir);
-    /// Takes the values of the controls. Paths are absolute.
+    /// Takes the values of the controls. Paths are absolute. A value that no control can show stays as it is given.
     void config(AsmFeConfig* config) const;
 
     // ModConfigPagePluginIf

@@ -11,6 +11,18 @@
 
 namespace nsProc {
 
+namespace {
+
+/// The frequency in Hz that a project holds as text. What is no number counts as 0, and so does "nan" or "inf", which
+/// nobody could write back as whole Hz.
+double frequencyOf(const QString& text)
+{
+    const double frequency = text.toDouble();
+    return qIsFinite(frequency) ? frequency : 0;
+}
+
+} // namespace
+
 ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent) : QObject(parent), m_config(config) {}
 
 ProcShell::~ProcShell() = default;
@@ -86,7 +98,7 @@ void ProcShell::rdCfg()
         const QString key = cfgSection() + '/' + number.first;
         // A frequency is stored in whole Hz, and may be larger than an int.
         if (number.second == nullptr)
-            m_settings.clkFreq = modPrjHook->value(key, QString::number(m_settings.clkFreq, 'f', 0)).toDouble();
+            m_settings.clkFreq = frequencyOf(modPrjHook->value(key, QString::number(m_settings.clkFreq, 'f', 0)));
         else
             *number.second = modPrjHook->value(key, *number.second);
     }
