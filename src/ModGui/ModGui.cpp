@@ -10,10 +10,12 @@
 
 #include <QCoreApplication>
 #include <QDebug>
+#include <QDockWidget>
 #include <QFile>
 #include <QMainWindow>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace nsModGui {
@@ -356,6 +358,36 @@ void ModGui::modInit()
     m_actions = new GuiActions(this);
     m_actions->setEnabled(true);
     connect(m_actions, qOverload<GuiActions::eAction_t>(&GuiActions::triggered), this, &ModGui::handleActions);
+}
+
+void ModGui::modRun()
+{
+    // When the window is shown: only then do the docks have their places.
+    QTimer::singleShot(0, this, &ModGui::fitDocks);
+}
+
+/// The centre is what people work in: at the start the docks take what they ask for, but no more than their share.
+void ModGui::fitDocks()
+{
+    if (m_window == nullptr)
+        return;
+    // @return the extent that the dock gets; it never gets smaller than it can
+    const auto fit = [this](eLocation_t location, int share, Qt::Orientation orientation) {
+        auto* dock = qobject_cast<QDockWidget*>(m_areas[location].widget.data());
+        if (dock == nullptr || dock->isHidden())
+            return 0;
+        const bool horizontal = orientation == Qt::Horizontal;
+        const QSize least = dock->minimumSizeHint();
+        const QSize wanted = dock->sizeHint();
+        const int extent = qMax(horizontal ? least.width() : least.height(),
+                                qMin(horizontal ? wanted.width() : wanted.height(), share));
+        m_window->resizeDocks({dock}, {extent}, orientation);
+        return extent;
+    };
+    const int width = m_window->width();
+    const int left = fit(eLocationDockLeft, width * 28 / 100, Qt::Horizontal);
+    fit(eLocationDockRight, qMax(width * 18 / 100, width * 55 / 100 - left), Qt::Horizontal);
+    fit(eLocationDockBottom, m_window->height() * 22 / 100, Qt::Vertical);
 }
 
 void ModGui::modExit()

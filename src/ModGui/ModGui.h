@@ -64,7 +64,7 @@ public:
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
     void modInit() override;
     void modInitIntermod() override {}
-    void modRun() override {}
+    void modRun() override;
     bool modExitRequest() override { return true; }
     void modExitIntermod() override {}
     void modExit() override;
@@ -98,6 +98,7 @@ private:
 
     static constexpr int areaCount = eLocationStatusThird + 1;
 
+    void fitDocks();
     void setupCenter();
     void setupDocks();
     void setupStatusBar();

@@ -79,6 +79,8 @@ QBoxLayout* NaviWidget::makeSortRow()
     m_sortBox->addItem(tr("Document structure"), SrcNaviConfig::sortDocument);
     m_sortBox->addItem(tr("Plain Ascent"), SrcNaviConfig::sortPlainAscent);
     m_sortBox->addItem(tr("Plain Descent"), SrcNaviConfig::sortPlainDescent);
+    // In a narrow panel the end of a text gives way.
+    m_sortBox->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     connectSortBox();
 
     auto* label = new QLabel(tr("Sort order:"), this);
@@ -139,9 +141,8 @@ void NaviWidget::makeTree()
 QSize NaviWidget::sizeHint() const
 {
     // Wide enough for titles of a usual length.
-    const QSize least = minimumSizeHint();
-    return QSize(qMax(least.width(), fontMetrics().averageCharWidth() * 34),
-                 qMax(least.height(), fontMetrics().height() * 16));
+    return QSize(qMax(QWidget::sizeHint().width(), fontMetrics().averageCharWidth() * 34),
+                 qMax(minimumSizeHint().height(), fontMetrics().height() * 16));
 }
 
 // --- settings ---

@@ -97,6 +97,19 @@ TEST_F(MainWindowFixture, WindowComesUpWithNameMenusAndMessages)
     EXPECT_TRUE(messageView()->isVisible());
 }
 
+TEST_F(MainWindowFixture, theSmallestWindowLeavesTheCentreItsRoom)
+{
+    makeWindow();
+    EXPECT_EQ(window->size(), QSize(800, 600));
+    auto* gui = module<ModGuiHookIf>();
+    const QWidget* page = gui->currentWidget(ModGuiHookIf::eLocationTabs);
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->objectName(), QString("prjMngr"));
+    EXPECT_GE(page->width(), 300);
+    EXPECT_GE(page->height(), 300);
+    screenshot("main-smallest");
+}
+
 TEST_F(MainWindowFixture, AMessageBringsTheMessageViewToTheFront)
 {
     makeWindow();

@@ -9,7 +9,7 @@
 
 #include <QFileInfo>
 #include <QGridLayout>
-#include <QHBoxLayout>
+#include <QVBoxLayout>
 
 namespace nsModPrj {
 
@@ -29,17 +29,17 @@ PrjMngrOpenWidget::PrjMngrOpenWidget(QWidget* parent)
 
     auto* title = new MyFieldTitle(tr("Project file:"), this);
     title->setBuddy(m_file);
-    auto* buttons = new QHBoxLayout;
+    // One below the other, as on the page beside it: a window of the smallest size has no room for both in a line.
+    auto* buttons = new QVBoxLayout;
     buttons->setSpacing(8);
     buttons->addWidget(m_open);
     buttons->addWidget(m_add);
-    buttons->addStretch(1);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(8);
     layout->addWidget(title, 0, 0);
     layout->addWidget(m_file, 0, 1);
-    layout->addLayout(buttons, 1, 0, 1, 2);
+    layout->addLayout(buttons, 1, 0, 1, 2, Qt::AlignLeft);
     setFocusProxy(m_file);
 
     connect(m_file, &MyFileSelectOpen::fileValid, this, &PrjMngrOpenWidget::setFileValid);

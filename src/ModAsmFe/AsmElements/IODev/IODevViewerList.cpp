@@ -65,25 +65,53 @@ QWidget* IODevViewerList::setupLegend()
     legend->setAttribute(Qt::WA_StyledBackground);
     // It does not keep the panel from being narrow.
     legend->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-    auto* layout = new QGridLayout(legend);
+    m_legendLayout = new QGridLayout(legend);
+    QGridLayout* layout = m_legendLayout;
     layout->setContentsMargins(margin, margin / 2, margin, margin / 2);
-    layout->setHorizontalSpacing(2 * margin);
+    layout->setHorizontalSpacing(margin + margin / 2);
     layout->setVerticalSpacing(margin / 4);
     layout->setColumnStretch(3, 1);
-    layout->addWidget(new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend), 0, 0);
-    const auto add = [&](const QColor& color, const QString& text, int row, int column, int columns) {
-        auto* entry = new QHBoxLayout;
-        entry->setSpacing(margin);
-        auto* square = new QLabel(legend);
+    m_legendEntries.append(new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend));
+    const auto add = [&](const QColor& color, const QString& text) {
+        auto* entry = new QWidget(legend);
+        auto* line = new QHBoxLayout(entry);
+        line->setContentsMargins(0, 0, 0, 0);
+        line->setSpacing(margin);
+        auto* square = new QLabel(entry);
         square->setPixmap(iconFromColor(color).pixmap(10, 10));
-        entry->addWidget(square);
-        entry->addWidget(new QLabel(text, legend), 1);
-        layout->addLayout(entry, row, column, 1, columns);
+        line->addWidget(square);
+        line->addWidget(new QLabel(text, entry), 1);
+        m_legendEntries.append(entry);
     };
-    add(m_config.initValue, tr("Init value"), 0, 1, 1);
-    add(m_config.pageValue, tr("Page value"), 0, 2, 1);
-    add(m_config.sharedValue, tr("Shared range value"), 1, 1, 3);
+    add(m_config.initValue, tr("Init value"));
+    add(m_config.pageValue, tr("Page value"));
+    add(m_config.sharedValue, tr("Shared range value"));
+    arrangeLegend(0);
     return legend;
+}
+
+/// Two lines where the width suffices, else one line an entry.
+void IODevViewerList::arrangeLegend(int width)
+{
+    int needed = 2 * margin + 3 * margin;
+    for (const QWidget* entry : m_legendEntries.mid(0, 3))
+        needed += entry->sizeHint().width();
+    const bool wide = width >= needed;
+    const int places[][4] = {{0, 0, 1, 1}, {0, 1, 1, 1}, {0, 2, 1, 1}, {1, 1, 1, 3}};
+    for (int i = 0; i < m_legendEntries.size(); ++i) {
+        QWidget* entry = m_legendEntries.at(i);
+        m_legendLayout->removeWidget(entry);
+        if (wide)
+            m_legendLayout->addWidget(entry, places[i][0], places[i][1], places[i][2], places[i][3]);
+        else
+            m_legendLayout->addWidget(entry, i, 0, 1, 4);
+    }
+}
+
+void IODevViewerList::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    arrangeLegend(width());
 }
 
 QString IODevViewerList::setupDevSummary(const IODev* dev)

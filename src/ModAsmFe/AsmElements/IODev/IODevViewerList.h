@@ -6,6 +6,7 @@
 #include <QStringList>
 #include <QWidget>
 
+class QGridLayout;
 class QLabel;
 class QScrollArea;
 
@@ -57,11 +58,13 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:
     QWidget* setupLegend();
+    void arrangeLegend(int width);
     static QIcon iconFromColor(const QColor& color);
     static QString setupDevSummary(const IODev* dev);
     void addElement(IODev* dev);
@@ -76,6 +79,8 @@ private:
     QLabel* m_note = nullptr;
     QLabel* m_more = nullptr;
     QWidget* m_legend = nullptr;
+    QGridLayout* m_legendLayout = nullptr;
+    QList<QWidget*> m_legendEntries; ///< the title first
     QScrollArea* m_scroll = nullptr;
     QWidget* m_content = nullptr;
     IODevList* m_devList = nullptr; ///< not owned; null while the view is empty
