@@ -3,6 +3,7 @@
 #include "ProcSimVcd.h"
 #include "ProcSimWaveTree.h"
 #include "ProcSimWavesWidget.h"
+#include "SafeFile.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -15,7 +16,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QRegularExpressionValidator>
-#include <QSaveFile>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QToolButton>
@@ -416,8 +416,8 @@ void ProcSimWaveViewer::showMoment(qint64 pointed)
 
 QString ProcSimWaveViewer::saveVcd(const QString& path) const
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
+    SafeFile file(path);
+    if (!file.open() || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
         return file.errorString();
     return {};
 }
