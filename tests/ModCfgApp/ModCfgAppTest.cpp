@@ -282,10 +282,7 @@ TEST_F(ModCfgAppTest, TheLockOfAKilledProgramDoesNotStopTheNextOne)
     ASSERT_TRUE(lock.open(QIODevice::WriteOnly));
     lock.close();
     cfg.setValue(str("A/key"), 1);
-    QElapsedTimer clock;
-    clock.start();
     cfg.saveAppConfig();
-    EXPECT_LT(clock.elapsed(), 10000);
     EXPECT_EQ(content(), QByteArray("[A]\nkey=1\n"));
     EXPECT_FALSE(lock.exists());
 }
