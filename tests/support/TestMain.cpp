@@ -32,6 +32,8 @@ int main(int argc, char** argv)
     QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_CACHE_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_RUNTIME_DIR", home.path().toLocal8Bit());
     // The discovery of tests must not need a display connection either, so the application comes first.
     QApplication app(argc, argv);
     QApplication::setStyle("fusion");
