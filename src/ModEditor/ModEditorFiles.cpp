@@ -132,6 +132,7 @@ QString ModEditor::convToRelPath(const QString& path) const
 
 void ModEditor::showError(const QString& text)
 {
+    m_errorShown = true;
     if (modMsgHook != nullptr)
         modMsgHook->showErrorMessage(text);
 }

@@ -117,6 +117,7 @@ TEST_F(Documents, nonBreakingBlanksStayOnes)
 TEST_F(Documents, bytesThatAreNoUtf8AreNotLost)
 {
     const QByteArray text = "; caf\xE9 \x80\xFF\n";
+    msg.dropOnClear = false;
     open("a.psm", text);
     EXPECT_EQ(msg.warnings().size(), 1);
     EXPECT_TRUE(editor.saveFile());

@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -127,10 +126,7 @@ TEST_F(PrjFileOnDisk, HugeFilesAreNotRead)
 {
     writeFile(path("huge"), "<project/>");
     ASSERT_EQ(truncate(path("huge").toLocal8Bit().constData(), 200LL * 1024 * 1024), 0);
-    QElapsedTimer clock;
-    clock.start();
     EXPECT_EQ(read(path("huge")), str("Project file is too large: ") + path("huge"));
-    EXPECT_LT(clock.elapsed(), 2000);
 }
 
 TEST_F(PrjFileOnDisk, WriteComplaints)

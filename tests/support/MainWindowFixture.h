@@ -2,7 +2,9 @@
 
 #include "ModPluginIf.h"
 #include "Nalvo.h"
+#include "Readable.h"
 #include "Release.h"
+#include "Settle.h"
 
 #include <gtest/gtest.h>
 
@@ -95,12 +97,12 @@ protected:
         return result;
     }
 
-    /// Lets the window come to rest, then writes its picture into the folder of screenshots of the build.
+    /// Lets the window come to rest, checks that all its texts can be read, and writes its picture into the folder of
+    /// screenshots of the build.
     /// @return path of the picture
     QString screenshot(const QString& name) const
     {
-        // Long enough for folds that move.
-        QTest::qWait(350);
+        settleAnimations();
         return screenshot(name, window.get());
     }
     /// The same for another widget, as it is.
@@ -109,7 +111,7 @@ protected:
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
         const QString path = dir + QLatin1Char('/') + name + QStringLiteral(".png");
-        if (!widget->grab().save(path))
+        if (!expectReadable(widget).save(path))
             ADD_FAILURE() << "can not write " << qPrintable(path);
         return path;
     }
