@@ -5,6 +5,7 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimWidgets.h"
 
@@ -103,6 +104,11 @@ void ProcSim::showWaveViewer()
         m_widgets->waveViewer = new ProcSimWaveViewer(m_config.clkFreq);
         m_waves = m_widgets->waveViewer->data();
         m_widgets->waveViewer->setBase(numberBase(m_base));
+        m_widgets->waveViewer->setPortNames(
+            [this](int addr, ProcSimWaveData::eAccessType_t access) {
+                return ProcSimPortNames::nameOf(modAsmFeHook, addr, access == ProcSimWaveData::eAccessWr);
+            },
+            [this](const QString& name) { return ProcSimPortNames::addrOf(modAsmFeHook, name); });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->waveViewer, tr("Waves"));
     }
     m_widgets->lastBottom = m_widgets->waveViewer.data();
@@ -124,6 +130,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         return false;
     }
     m_config = *config;
+    if (m_widgets->waveViewer != nullptr)
+        m_widgets->waveViewer->updatePortNames();
     nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_lineIndex);
     if (opcode == nullptr) {
         signMsg(errPcRestore);
@@ -134,7 +142,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
-    showHighlight();
+    // The user is about to edit: what he has before him stays.
+    showHighlight(false);
     return true;
 }
 
