@@ -47,6 +47,7 @@ public:
     void simEn(bool) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return menu; }
+    int simBreakpointsRevision() override { return 0; }
 
     nsModEditor::EditorSupportMenu* menu = nullptr; ///< knob: what supportMenu() answers; not owned
 };

@@ -224,6 +224,7 @@ public:
     void simEn(bool) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
 private:
     template <class Plugin>

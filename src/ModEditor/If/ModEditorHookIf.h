@@ -94,4 +94,6 @@ public:
     virtual void setTextCompletionList(QStringList& words) = 0;
     /// The insertion menu; owned by the server.
     virtual nsModEditor::EditorSupportMenu* supportMenu() = 0;
+    /// Differs from what it was when simBreakpoints() may do so. Cheap enough to be asked before each simulated instruction.
+    virtual int simBreakpointsRevision() = 0;
 };
