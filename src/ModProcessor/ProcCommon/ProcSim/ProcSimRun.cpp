@@ -16,6 +16,7 @@
 #include "OpcodeList.h"
 
 #include <QApplication>
+#include <QMap>
 #include <QTimer>
 
 namespace nsProc {
@@ -77,6 +78,7 @@ void ProcSim::startRun()
 {
     m_running = 1;
     m_displayTimer->start();
+    showRunning(true);
     syncBreakpoints();
 }
 
@@ -84,6 +86,7 @@ void ProcSim::endRun()
 {
     m_running = 0;
     m_displayTimer->stop();
+    showRunning(false);
     showHighlight();
 }
 
@@ -170,6 +173,28 @@ bool ProcSim::setPcFromCursor()
         return false;
     const bool success = setProgramCounter(target);
     showHighlight();
+    return success;
+}
+
+bool ProcSim::setPcFromAddr(int addr)
+{
+    Opcode* target = nullptr;
+    if (m_core == nullptr || m_running == 1) {
+        updateWidgets();
+        return false;
+    }
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
+        return false;
+    }
+    if (!opcodeOfPage(addr, m_pc != nullptr && m_pc->memRange > 0 ? m_pc->memRange : m_lastPage, &target)) {
+        signMsg(errNoOpcodeToExec);
+        return false;
+    }
+    const bool success = setProgramCounter(target);
+    showHighlight();
+    if (success)
+        emit programCounterTyped();
     return success;
 }
 
@@ -266,6 +291,11 @@ bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
     int memRange = m_pc->memRange;
     if (memRange == 0 && !resolvePage(&memRange))
         return false;
+    return opcodeOfPage(addr, memRange, result);
+}
+
+bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
+{
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     *result = opcodes->opcodeOfAddr(addr, memRange);
     // What is not in the page may be in the range that all pages share.
@@ -293,7 +323,9 @@ bool ProcSim::resolvePage(int* memRange)
 
 void ProcSim::syncBreakpoints()
 {
-    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged())
+    // Asked once an instruction: no more than two numbers are compared.
+    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged() &&
+        (!m_breakpointsTaken || modEditorHook->simBreakpointsRevision() != m_breakpointsRevision))
         setBreakpoints();
 }
 
@@ -301,7 +333,6 @@ void ProcSim::clearBreakpoints()
 {
     for (Opcode* opcode : *modAsmFeHook->opcodeList())
         opcode->breakpoint = 0;
-    m_breakpoints.clear();
     m_breakpointsTaken = false;
 }
 
@@ -310,9 +341,6 @@ void ProcSim::setBreakpoints()
     if (modEditorHook == nullptr)
         return;
     const QMap<QString, QList<int>> marks = modEditorHook->simBreakpoints();
-    // The editor says that marks have changed as long as it lives; only here is seen whether they have since.
-    if (m_breakpointsTaken && marks == m_breakpoints)
-        return;
     clearBreakpoints();
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     for (auto it = marks.cbegin(); it != marks.cend(); ++it) {
@@ -324,7 +352,7 @@ void ProcSim::setBreakpoints()
                 opcode->breakpoint = 1;
         }
     }
-    m_breakpoints = marks;
+    m_breakpointsRevision = modEditorHook->simBreakpointsRevision();
     m_breakpointsTaken = true;
 }
 

@@ -4,6 +4,7 @@
 #include "ProcSimHighlight.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QRegExp>
 #include <QRegExpValidator>
 
@@ -85,6 +86,13 @@ bool ProcSimEdtNumeric::setValue(int value)
     m_value = value;
     showValue();
     return true;
+}
+
+bool ProcSimEdtNumeric::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+        return true;
+    return QLineEdit::event(event);
 }
 
 void ProcSimEdtNumeric::setHighlightEn(bool enabled)

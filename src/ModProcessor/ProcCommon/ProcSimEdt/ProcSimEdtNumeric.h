@@ -35,6 +35,7 @@ signals:
     void valueChanged(int value);
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:
