@@ -30,6 +30,8 @@ ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank, 
         auto* value = new ProcSimEdtNumeric(this);
         value->setToolTip(tr("Register %1").arg(name));
         value->setAccessibleName(value->toolTip());
+        // Low rows, as in a table: sixteen of them have to stand above the scratchpad.
+        value->setFixedHeight(value->fontMetrics().height() + 4);
         auto* alias = new QLabel(this);
         alias->setObjectName(QStringLiteral("procSimAlias"));
         alias->setMinimumWidth(aliasWidth);
