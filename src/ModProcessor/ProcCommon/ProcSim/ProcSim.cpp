@@ -7,6 +7,7 @@
 #include "ProcSimCoreData.h"
 #include "ProcSimHighlight.h"
 #include "ProcSimIODevice.h"
+#include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimWidgets.h"
 
@@ -115,6 +116,11 @@ void ProcSim::showWaveViewer()
         m_widgets->waveViewer = new ProcSimWaveViewer(m_config.clkFreq);
         m_waves = m_widgets->waveViewer->data();
         m_widgets->waveViewer->setBase(numberBase(m_base));
+        m_widgets->waveViewer->setPortNames(
+            [this](int addr, ProcSimWaveData::eAccessType_t access) {
+                return ProcSimPortNames::nameOf(modAsmFeHook, addr, access == ProcSimWaveData::eAccessWr);
+            },
+            [this](const QString& name) { return ProcSimPortNames::addrOf(modAsmFeHook, name); });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->waveViewer, tr("Waves"));
     }
     m_widgets->lastBottom = m_widgets->waveViewer.data();
@@ -136,6 +142,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         return false;
     }
     m_config = *config;
+    if (m_widgets->waveViewer != nullptr)
+        m_widgets->waveViewer->updatePortNames();
     nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_lineIndex);
     if (opcode == nullptr) {
         signMsg(errPcRestore);
@@ -146,7 +154,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
-    showHighlight();
+    // The user is about to edit: what he has before him stays.
+    showHighlight(false);
     return true;
 }
 

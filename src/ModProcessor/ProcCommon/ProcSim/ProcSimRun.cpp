@@ -356,13 +356,16 @@ void ProcSim::setBreakpoints()
     m_breakpointsTaken = true;
 }
 
-void ProcSim::showHighlight()
+void ProcSim::showHighlight(bool isFollowed)
 {
     updateWidgets();
     if (m_pc == nullptr || modEditorHook == nullptr || m_core == nullptr)
         return;
     const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(m_pc->srcRef.fileNo);
-    modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    if (isFollowed)
+        modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    else
+        modEditorHook->markLine(path, m_pc->srcRef.lineNo);
 }
 
 } // namespace nsProc
