@@ -169,6 +169,41 @@ TEST_F(SimState, ProgramCounterIsTypedIn)
     EXPECT_EQ(pc->value(), 3);
 }
 
+TEST_F(SimState, CommandStartsAtTheAddressThatWasTypedLast)
+{
+    ASSERT_TRUE(start("XPBlze3", {"LOAD s0, 1", "LOAD s1, 2", "LOAD s2, 3", "end: JUMP end"}));
+    auto* pc = sim()->coreWidget()->findChild<nsProc::ProcSimEdtNumeric*>();
+    pc->selectAll();
+    QTest::keyClicks(pc, "2");
+    trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(reg(0), 0);
+    EXPECT_EQ(reg(2), 3);
+    EXPECT_EQ(pcLine(), 3);
+    // No command starts anywhere else, if there is no instruction at the address.
+    pc->selectAll();
+    QTest::keyClicks(pc, "77");
+    trigger(Action::eActionNextLine);
+    EXPECT_EQ(messages("No command to execute!"), 1);
+    EXPECT_EQ(clocks(), 2);
+    EXPECT_EQ(pcLine(), 3);
+    EXPECT_EQ(pc->text(), "003");
+}
+
+TEST_F(SimState, SimulatorThatGoesTakesAHalfTypedAddressWithIt)
+{
+    ASSERT_TRUE(start("XPBlze3", {"LOAD s0, 1", "LOAD s1, 2", "end: JUMP end"}));
+    auto* pc = sim()->coreWidget()->findChild<nsProc::ProcSimEdtNumeric*>();
+    QApplication::setActiveWindow(window.get());
+    pc->setFocus();
+    ASSERT_TRUE(pc->hasFocus());
+    pc->selectAll();
+    QTest::keyClicks(pc, "77");
+    const int before = messageTexts().size();
+    trigger(Action::eActionEnable);
+    EXPECT_EQ(sim(), nullptr);
+    EXPECT_EQ(messageTexts().size(), before) << messageTexts().join('\n').toStdString();
+}
+
 TEST_F(SimState, TypedProgramCounterBringsSteppingBack)
 {
     ASSERT_TRUE(start("XPBlze3", {"RET", "end: JUMP end"}));

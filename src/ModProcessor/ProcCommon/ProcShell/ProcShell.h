@@ -123,7 +123,7 @@ protected:
 private:
     bool simEnable();
     void removeSim();
-    void showStop(ProcActionsSim::eAction_t action);
+    void showStop(ProcActionsSim::eAction_t action, bool stopping);
     void takeProgramCounter();
     void runSim(ProcActionsSim::eAction_t action, void (ProcSim::*command)());
     void setBase(ProcActionsSim::eAction_t action, eBase_t base);

@@ -122,11 +122,10 @@ void ProcShell::dropServices()
         m_sim->dropServices();
 }
 
-/// Shows at an action that a second use of it stops what the first one has begun.
-void ProcShell::showStop(Action::eAction_t action)
+void ProcShell::showStop(Action::eAction_t action, bool stopping)
 {
     if (m_actions != nullptr)
-        m_actions->setStopping(action, m_sim != nullptr && m_sim->isRunning());
+        m_actions->setStopping(action, stopping);
 }
 
 void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
@@ -143,11 +142,9 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
                        Action::eActionToCursor, Action::eActionSetPc},
                       false);
     setActionsEnabled({action}, true);
-    if (m_actions != nullptr)
-        m_actions->setStopping(action, true);
+    showStop(action, true);
     (sim.get()->*command)();
-    // A run that began in the middle of this one goes on showing its sign.
-    showStop(action);
+    showStop(action, false);
     if (m_sim != sim)
         return;
     // A processor that was detached meanwhile could only stop its simulator.

@@ -193,6 +193,9 @@ void ProcSim::simExit()
         modEditorHook->simEn(false);
     }
     m_waves = nullptr;
+    // A field that loses the focus with its dock ends an edit, to nobody.
+    if (m_widgets->core != nullptr)
+        m_widgets->core->blockSignals(true);
     dropWidget(m_widgets->core);
     dropWidget(m_widgets->io);
     dropWidget(m_widgets->callStack);

@@ -285,6 +285,9 @@ private:
     bool enterInterrupt();
     /// Page in which to look an address up, while the program counter stands in the shared range.
     bool resolvePage(int* memRange);
+    /// Goes to an address that the user has typed without a Return, before a command starts.
+    /// @return false after a report: the command must not start elsewhere
+    bool takeTypedPc();
     /// The instruction at an address of a page or of the shared range.
     bool opcodeOfPage(int addr, int memRange, nsModAsmFe::Opcode** result) const;
     bool readPort(const nsModAsmFe::Arg* arg, int addr, int* value);

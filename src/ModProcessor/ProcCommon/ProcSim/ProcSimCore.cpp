@@ -169,6 +169,14 @@ void ProcSimCore::setRunning(bool running)
     m_pc->setReadOnly(running);
 }
 
+bool ProcSimCore::takeTypedPc(int* addr)
+{
+    if (!m_pc->takeEdit())
+        return false;
+    *addr = m_pc->value();
+    return true;
+}
+
 void ProcSimCore::refresh()
 {
     m_pc->setValue(m_data->pc());

@@ -35,6 +35,9 @@ public:
     void setBase(int base);
     /// During a run, no address can be typed for the program counter: it would not stand still.
     void setRunning(bool running);
+    /// An address that the user has typed for the program counter and not ended with Return; it is reported no more after this.
+    /// @return false, with nothing changed, if there is none
+    bool takeTypedPc(int* addr);
     /// Shows what has changed in the data, and asks for the front if a flag was set.
     void refresh();
 

@@ -7,7 +7,7 @@
 #include "ProcSimObserver.h"
 #include "ProcSimPorts.h"
 #include "ProcSimResolvePageDialog.h"
-#include "ProcSimWaveViewer.h"
+#include "ProcSimWidgets.h"
 
 #include "AsmFeFileHndlr.h"
 #include "ModAsmFeHookIf.h"
@@ -114,7 +114,7 @@ void ProcSim::runLoop(Ends ends)
 
 void ProcSim::simRun()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     runLoop([] { return false; });
@@ -124,7 +124,7 @@ void ProcSim::simNextInstruction()
 {
     if (!m_traits.clearsEachInstr)
         clearHighlights();
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     simOpcode();
     showHighlight();
@@ -132,7 +132,7 @@ void ProcSim::simNextInstruction()
 
 void ProcSim::simNextLine()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     if (m_pc == nullptr || m_pc->opcode != nsModAsmFe::ocCall) {
@@ -146,7 +146,7 @@ void ProcSim::simNextLine()
 
 void ProcSim::simToEndOfCall()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     const int depth = m_callStack->count();
@@ -155,7 +155,7 @@ void ProcSim::simToEndOfCall()
 
 void ProcSim::simToCursor()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     syncBreakpoints();
     Opcode* target = nullptr;
@@ -196,6 +196,12 @@ bool ProcSim::setPcFromAddr(int addr)
     if (success)
         emit programCounterTyped();
     return success;
+}
+
+bool ProcSim::takeTypedPc()
+{
+    int addr = 0;
+    return m_widgets->core == nullptr || !m_widgets->core->takeTypedPc(&addr) || setPcFromAddr(addr);
 }
 
 void ProcSim::simInt()

@@ -114,12 +114,18 @@ void ProcSimEdtNumeric::takeText(const QString& text)
     emit edited(m_value);
 }
 
-void ProcSimEdtNumeric::finishEdit()
+bool ProcSimEdtNumeric::takeEdit()
 {
     if (!m_isEdited)
-        return;
+        return false;
     showValue();
-    emit valueChanged(m_value);
+    return true;
+}
+
+void ProcSimEdtNumeric::finishEdit()
+{
+    if (takeEdit())
+        emit valueChanged(m_value);
 }
 
 void ProcSimEdtNumeric::changeEvent(QEvent* event)
