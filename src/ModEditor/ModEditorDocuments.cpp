@@ -67,6 +67,8 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
+    // Its breakpoints go with it.
+    ++m_simBreakpointsRevision;
     m_latin1Widgets.remove(widget);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(widget);
