@@ -204,6 +204,9 @@ private:
     bool saveFileAs(EditorWidget* widget);
     void reloadFile(EditorWidget* widget);
     void closeFile(EditorWidget* widget);
+    void closeFiles(const QList<EditorWidget*>& widgets);
+    template <class Action>
+    bool inGroup(const QString& text, Action action);
     void printFile(EditorWidget* widget);
     bool askForSave(const QString& path);
     bool askForReload(const QString& path);
@@ -242,6 +245,7 @@ private:
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     bool m_simEnabled = false;
+    bool m_errorShown = false; ///< the present action of the user has reported an error
 };
 
 } // namespace nsModEditor

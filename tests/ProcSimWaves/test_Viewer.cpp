@@ -1,5 +1,6 @@
 // Adding and removing of ports, the rows of the tree, number bases, saving.
 
+#include "FullDisk.h"
 #include "ModalHelper.h"
 #include "WavesFixture.h"
 
@@ -433,6 +434,24 @@ TEST_F(WavesViewer, RejectedDialogSavesNothing)
     click("procSimWaveSave");
     EXPECT_EQ(helper.seen(), 1);
     EXPECT_EQ(message(), QString());
+}
+
+TEST_F(WavesViewer, AFullDiskLeavesTheOldDumpAndIsAFailure)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("run.vcd");
+    ASSERT_TRUE(viewer->saveVcd(path).isEmpty());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray old = file.readAll();
+    viewer->addAddrChannel(1, wr, -1, {});
+    {
+        const FullDisk disk(50);
+        EXPECT_EQ(viewer->saveVcd(path), qt_error_string(EFBIG));
+    }
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll(), old);
 }
 
 TEST_F(WavesViewer, FailureToSaveIsShown)

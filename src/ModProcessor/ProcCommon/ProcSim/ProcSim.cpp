@@ -5,6 +5,7 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimIODevice.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimWidgets.h"
@@ -236,7 +237,12 @@ bool ProcSim::initIODevice(IODev* dev)
     const auto direction = ProcSimPorts::eDirection_t(dev->simAccessMode);
     ProcSimIOPluginIf* plugin = m_ports->addIOPlugin(type, direction, int(dev->initValue));
     plugin->setMemSize(dev->memSize);
-    plugin->setBaseAddr(int(dev->baseAddr), QString());
+    if (dev->baseAddr > uint(ProcSimIODevice::maxAddr)) {
+        plugin->setBaseAddr(ProcSimIODevice::noAddr, QString());
+        signMsg(warnIODevNoPort, dev->devName);
+    } else {
+        plugin->setBaseAddr(int(dev->baseAddr), QString());
+    }
     plugin->setName(dev->devName);
     plugin->initValue(values.data(), std::min(dev->memSize, int(values.size())));
     return true;

@@ -3,6 +3,7 @@
 #include "ProcSimVcd.h"
 #include "ProcSimWaveTree.h"
 #include "ProcSimWavesWidget.h"
+#include "SafeFile.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -14,7 +15,7 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QSaveFile>
+#include <QRegularExpressionValidator>
 #include <QScrollBar>
 #include <QSplitter>
 #include <QStyle>
@@ -475,8 +476,8 @@ void ProcSimWaveViewer::showMoment(qint64 pointed)
 
 QString ProcSimWaveViewer::saveVcd(const QString& path) const
 {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
+    SafeFile file(path);
+    if (!file.open() || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
         return file.errorString();
     return {};
 }
