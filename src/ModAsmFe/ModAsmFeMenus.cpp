@@ -192,15 +192,26 @@ void ModAsmFe::setupSupportMenuDynamics()
     EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
     if (menu == nullptr)
         return;
-    const auto text = EditorSupportMenu::typeText;
-    menu->removeEntry("Label");
-    for (const QString& name : m_labelList.nameList())
-        menu->setEntry("Label/" + name, name, text);
-    menu->removeEntry("Defines");
-    for (const QString& name : m_equList.nameList())
-        menu->setEntry("Defines/" + name, name, text);
+    setupSupportMenuNames(menu, "Label", m_labelList.nameList(), &m_menuLabels);
+    setupSupportMenuNames(menu, "Defines", m_equList.nameList(), &m_menuDefines);
     if (m_asmBe != nullptr)
-        menu->setEntry(QString(codeGeneration).arg(m_asmBe->processorDefine()), m_asmBe->processorDefine(), text);
+        menu->setEntry(QString(codeGeneration).arg(m_asmBe->processorDefine()), m_asmBe->processorDefine(),
+                       EditorSupportMenu::typeText);
+}
+
+/// Makes the names the entries of a sub menu.
+/// @param shown the names that the sub menu has. Most runs change none, and ten thousands of entries take their time.
+void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
+                                     QStringList* shown)
+{
+    if (names == *shown)
+        return;
+    menu->removeEntry(title);
+    for (const QString& name : names) {
+        goesOn();
+        menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
+    }
+    *shown = names;
 }
 
 void ModAsmFe::setupSupportMenuHardware()

@@ -310,4 +310,22 @@ TEST(EquMessages, randomProgramsAsTheRulesSay)
     EXPECT_LT(failed, 3900);
 }
 
+TEST(EquListOrder, aReplacedConstantKeepsItsPlace)
+{
+    AsmFixture f;
+    f.run("#EQU first, 1\n#EQU second, 2\n#EQU third, 3\n#EQU first, 4\n#EQU second, 5\n LOAD s0, 1\n",
+          ModAsmFe::eEventSave);
+    EXPECT_EQ(f.warnings().count("warnEquDuplicate"), 2);
+    EXPECT_EQ(f.asmFe.equList()->nameList(), QStringList({"first", "second", "third"}));
+    QList<int> values;
+    QList<int> lines;
+    for (const Equ* equ = f.asmFe.equList()->first(); equ != nullptr; equ = equ->next) {
+        values.append(equ->arg->iValue);
+        lines.append(equ->srcRef.lineNo);
+    }
+    EXPECT_EQ(values, QList<int>({4, 5, 3}));
+    // The place in the list is that of the first, the position in the source that of the last.
+    EXPECT_EQ(lines, QList<int>({3, 4, 2}));
+}
+
 } // namespace

@@ -84,6 +84,8 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
     event = events.value(eventName);
     style.json = formats.value(formatName);
     style.werror = parser.isSet("werror");
+    // Each kind of output whose event is set warns where no device writes it, and nothing is wrong with that.
+    style.harmless = QStringList("warnIODevNoFileToWrite");
     style.quiet = parser.isSet("q");
     style.verbose = parser.isSet("v");
     return style.quiet && style.verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;
