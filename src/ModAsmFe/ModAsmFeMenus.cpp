@@ -200,14 +200,26 @@ void ModAsmFe::setupSupportMenuDynamics()
 }
 
 /// Makes the names the entries of a sub menu.
-/// @param shown the names that the sub menu has. Most runs change none, and ten thousands of entries take their time.
+/// @param shown the names that the sub menu has. Most runs change few or none of them, and ten thousands of entries take their time.
 void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
                                      QStringList* shown)
 {
     if (names == *shown)
         return;
-    menu->removeEntry(title);
-    for (const QString& name : names) {
+    const QSet<QString> before(shown->cbegin(), shown->cend());
+    const QSet<QString> now(names.cbegin(), names.cend());
+    QSet<QString> gone = before;
+    gone.subtract(now);
+    QSet<QString> added = now;
+    added.subtract(before);
+    if (now.isEmpty() || gone.size() > now.size() / 2) {
+        menu->removeEntry(title);
+        gone.clear();
+        added = now;
+    }
+    for (const QString& name : qAsConst(gone))
+        menu->removeEntry(title + '/' + name);
+    for (const QString& name : qAsConst(added)) {
         goesOn();
         menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
     }

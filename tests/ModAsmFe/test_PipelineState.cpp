@@ -284,8 +284,16 @@ TEST(PipelineState, theInsertionMenuIsRebuiltForOtherNamesOnly)
     EXPECT_FALSE(constant.isNull());
     EXPECT_TRUE(label.isNull());
     EXPECT_EQ(entriesOf(&f, {"Label"}), QStringList("there"));
+    // One more, and one less.
+    EXPECT_TRUE(f.run("#EQU another, 3\n#EQU one, 2\n#EQU two, 2\n LOAD s0, one + 1\n"));
+    EXPECT_EQ(constant.data(), f.editor.menu.node({"Defines", "one"}));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList({"another", "one", "two"}));
+    EXPECT_TRUE(f.run("#EQU one, 2\n#EQU two, 2\n LOAD s0, one + 1\n"));
+    EXPECT_EQ(constant.data(), f.editor.menu.node({"Defines", "one"}));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList({"one", "two"}));
     EXPECT_TRUE(f.run(" LOAD s0, 1\n"));
     EXPECT_TRUE(constant.isNull());
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList("no Defines"));
 }
 
 TEST(PipelineState, constantsAreShownAfterEventsOnly)
