@@ -1,8 +1,8 @@
 // The panel by itself: what it shows.
 
 #include "NaviFixture.h"
+#include "Settle.h"
 
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QMetaType>
 #include <QScrollBar>
@@ -149,7 +149,7 @@ TEST_F(NaviFixture, disabledTagsAreGreyAndTheirGroupsFolded)
     // Its user can open it; a click gives it its look again, and folds it.
     hand.item("off")->setExpanded(true);
     EXPECT_TRUE(hand.item("off")->isExpanded());
-    QTest::qWait(300); // a fold that moves takes no clicks
+    settleAnimations(); // a fold that moves takes no clicks
     hand.click("off");
     EXPECT_FALSE(hand.item("off")->isExpanded());
 }
@@ -240,18 +240,42 @@ TEST_F(NaviFixture, withoutAKeptEntryTheTreeDoesNotJump)
     EXPECT_EQ(hand.tree->verticalScrollBar()->value(), 0);
 }
 
-TEST_F(NaviFixture, tellsEachTimeThatTheContentHasChanged)
+TEST_F(NaviFixture, reportsNewContentAndNoneThatIsTheSame)
 {
     QSignalSpy changed(&widget, SIGNAL(contentChanged(QWidget*)));
     show();
+    EXPECT_EQ(changed.count(), 0) << "nothing before, nothing now";
+    NaviTag* a = add(NaviTag::typeLabel, "a");
+    show();
     ASSERT_EQ(changed.count(), 1);
     EXPECT_EQ(changed.first().first().value<QWidget*>(), &widget);
-    add(NaviTag::typeLabel, "a");
-    show();
-    show(true);
-    EXPECT_EQ(changed.count(), 3);
+    // The next run makes the same list anew, with lines that may have moved.
     widget.clearTagList();
-    EXPECT_EQ(changed.count(), 3);
+    a->line += 7;
+    show();
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(hand.tree->topLevelItemCount(), 1);
+
+    const auto expectReport = [&](const char* what) {
+        show();
+        EXPECT_EQ(changed.count(), 1) << what;
+        changed.clear();
+        show();
+        EXPECT_EQ(changed.count(), 0) << what;
+    };
+    changed.clear();
+    add(NaviTag::typeLabel, "b");
+    expectReport("one more");
+    a->title = "c";
+    expectReport("title");
+    a->type = NaviTag::typeSeparator;
+    expectReport("type");
+    a->disabled = true;
+    expectReport("disabled");
+    a->filePath = "/project/other.psm";
+    expectReport("file");
+    show(true);
+    EXPECT_EQ(changed.count(), 1) << "order";
 }
 
 TEST_F(NaviFixture, nullsAreNoTags)
@@ -282,7 +306,7 @@ TEST_F(NaviFixture, endlessNestingDoesNoHarm)
     EXPECT_EQ(hand.tree->topLevelItemCount(), 2);
 }
 
-TEST_F(NaviFixture, tenThousandTagsAreShownQuickly)
+TEST_F(NaviFixture, tenThousandTags)
 {
     for (int i = 0; i < 10000; ++i)
         add(i % 10 == 0   ? NaviTag::typeGroupBegin
@@ -290,15 +314,9 @@ TEST_F(NaviFixture, tenThousandTagsAreShownQuickly)
                           : NaviTag::typeLabel,
             QString("title %1").arg(i));
     show();
-    QElapsedTimer clock;
-    clock.start();
     widget.clearTagList();
     show();
     QApplication::processEvents();
     widget.grab();
-    // A thorough build with checks inside is some ten times slower; what grows with the square takes minutes.
-    EXPECT_LT(clock.elapsed(), 1500);
-    RecordProperty("milliseconds", int(clock.elapsed()));
-    std::printf("10,000 tags: %d ms\n", int(clock.elapsed()));
     EXPECT_EQ(hand.tree->topLevelItemCount(), 1000);
 }
