@@ -399,7 +399,7 @@ TEST(ShellCatalogue, KeysInOrder)
                               "warnMissingInstrAtIntVectorAddr",
                               "errMissingInstrAtIntVectorAddr",
                               "warnMissingInstrAtIntVectorAddrAndPage",
-                              "errMissingInstrAtIntVectorAddrAndPage"};
+                              "errMissingInstrAtIntVectorAddrAndPage", "warnFlowAddrTruncated"};
     for (int i = 0; i < keys.size(); ++i) {
         ASSERT_NE(nsProc::asmMsg(i), nullptr);
         EXPECT_EQ(nsProc::asmMsg(i)->key, keys.at(i));
