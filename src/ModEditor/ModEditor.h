@@ -173,6 +173,7 @@ public slots:
     void clearLineHighlited() override;
     void setLineHighlighted(QUrl url) override;
     void setLineHighlighted(QString path, int line) override;
+    void markLine(QString path, int line) override;
     /// Inserts the text at the cursor of the current document.
     void insertText(QString text);
 

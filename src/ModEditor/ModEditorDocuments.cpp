@@ -373,10 +373,22 @@ void ModEditor::setLineHighlighted(QUrl url)
 
 void ModEditor::setLineHighlighted(QString path, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
-        widget->setLineHighlighted(line);
-    else
+    EditorWidget* widget = openFileWidget(path);
+    if (widget == nullptr) {
         showError(tr("Can not highlight line!"));
+        return;
+    }
+    clearLineHighlited();
+    widget->setLineHighlighted(line);
+}
+
+void ModEditor::markLine(QString path, int line)
+{
+    clearLineHighlited();
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->filePath() == path)
+            widget->markLine(line);
+    }
 }
 
 bool ModEditor::cursorLine(QString* path, int* line)

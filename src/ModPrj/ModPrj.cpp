@@ -46,12 +46,15 @@ bool ModPrj::readPrjFile(CfgTree* tree, QString file)
 bool ModPrj::savePrjFile(CfgTree* tree, QString file)
 {
     QString message;
+    QString reason;
     QStringList dropped;
-    const bool success = PrjFile::write(tree, file, &dropped, &message);
+    const bool success = PrjFile::write(tree, file, &dropped, &message, &reason);
     for (const QString& key : dropped)
         warning(tr("Project setting can not be saved: ") + key);
     if (!success)
         error(message);
+    if (!reason.isEmpty())
+        info(tr("Reason: ") + reason);
     return success;
 }
 

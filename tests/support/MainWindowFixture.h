@@ -18,7 +18,7 @@
 
 #include <memory>
 
-/// The whole main window with a settings folder of its own, for tests of modules in their real surroundings.
+/// The whole main window with folders of its own for settings and data, for tests of modules in their real surroundings.
 ///
 /// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a
 /// test:
@@ -30,6 +30,7 @@ protected:
     MainWindowFixture()
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir());
+        qputenv("XDG_DATA_HOME", folder.filePath(QStringLiteral("data")).toLocal8Bit());
         QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
         // As in the program; for pictures at other scales (QT_SCALE_FACTOR).
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
