@@ -24,6 +24,7 @@
 #include <QSet>
 #include <QString>
 
+class QPrinter;
 class QStringListModel;
 
 namespace nsModEditor {
@@ -135,7 +136,7 @@ public:
 
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
-    void srcFileContentChanged() override {}
+    void srcFileContentChanged() override { clearMessageFlag(); }
 
     // ModFindReplacePluginIf
     QString findInit() override;
@@ -151,6 +152,8 @@ public:
     /// Open documents in the order of their creation. Owned.
     const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
     EditorStatusBar* statusBar() const;
+    /// Prints the document, or what is selected in it, as the printer is set.
+    void printFile(EditorWidget* widget, QPrinter* printer);
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -186,6 +189,7 @@ private slots:
     void clearSimBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
+    void openDroppedFiles(const QStringList& paths);
 
 private:
     // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
@@ -211,6 +215,7 @@ private:
     void setFileContentChanged();
     void chkProjectMembership(const QString& path);
     QString convToRelPath(const QString& path) const;
+    static int lineOf(const QUrl& url);
     void showError(const QString& text);
     void showWarning(const QString& text);
 
@@ -219,6 +224,8 @@ private:
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
     void setActionState(EditorWidget* current);
+    void updateActionState();
+    void clearMessageFlag();
     void setFindParameter();
     void find(bool configChanged, bool backward);
 
@@ -241,6 +248,7 @@ private:
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     bool m_simEnabled = false;
+    bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
 };
 
 } // namespace nsModEditor
