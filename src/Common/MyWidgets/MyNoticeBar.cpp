@@ -1,0 +1,118 @@
+#include "MyNoticeBar.h"
+
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+
+namespace {
+
+const int iconSize = 16;
+const int gap = 8;
+const char* const gradeNames[] = {"info", "warning", "error"};
+const char* const gradeIcons[] = {":/styles/img/box-information.png", ":/ModMsg/img/msgWarning.png",
+                                  ":/ModMsg/img/msgError.png"};
+
+} // namespace
+
+MyNoticeBar::MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent)
+    : QFrame(parent)
+    , m_icon(new QLabel(this))
+    , m_label(new QLabel(this))
+    , m_buttons(new QHBoxLayout)
+    , m_close(new QPushButton(this))
+{
+    setObjectName(QStringLiteral("noticeBar"));
+    setAutoFillBackground(true);
+    setCursor(Qt::ArrowCursor);
+    m_icon->setObjectName(QStringLiteral("noticeBarIcon"));
+    m_label->setObjectName(QStringLiteral("noticeBarText"));
+    m_label->setTextFormat(Qt::PlainText);
+    m_label->setWordWrap(true);
+    // A long word must not make the bar wider than its place.
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_close->setObjectName(QStringLiteral("noticeBarClose"));
+    m_close->setIcon(QIcon(QStringLiteral(":/ModFindReplace/img/widget/closeWidget.png")));
+    m_close->setToolTip(tr("Closes this notice (Esc)"));
+    m_close->setAccessibleName(tr("Close notice"));
+    m_close->setFlat(true);
+    m_close->setAutoDefault(false);
+    connect(m_close, &QPushButton::clicked, this, &MyNoticeBar::closeByUser);
+
+    m_buttons->setSpacing(gap);
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(gap, gap / 2, gap, gap / 2);
+    layout->setSpacing(gap);
+    layout->addWidget(m_icon);
+    layout->addWidget(m_label, 1);
+    layout->addLayout(m_buttons);
+    layout->addWidget(m_close);
+    setText(text);
+    setGrade(grade);
+}
+
+void MyNoticeBar::setGrade(eGrade_t grade)
+{
+    m_grade = grade;
+    m_icon->setPixmap(QIcon(QString::fromLatin1(gradeIcons[grade])).pixmap(iconSize, iconSize));
+    // The style sheet gives each grade its ground.
+    setProperty("grade", QString::fromLatin1(gradeNames[grade]));
+    style()->unpolish(this);
+    style()->polish(this);
+}
+
+QString MyNoticeBar::text() const
+{
+    return m_label->text();
+}
+
+void MyNoticeBar::setText(const QString& text)
+{
+    m_label->setText(text);
+    m_label->setToolTip(text);
+    setAccessibleName(text);
+    updateGeometry();
+}
+
+QPushButton* MyNoticeBar::addButton(const QString& text, const QString& toolTip)
+{
+    auto* button = new QPushButton(text, this);
+    button->setObjectName(QStringLiteral("noticeBarButton"));
+    button->setToolTip(toolTip);
+    button->setAutoDefault(false);
+    m_buttons->addWidget(button);
+    // The keyboard goes from left to right.
+    setTabOrder(button, m_close);
+    updateGeometry();
+    return button;
+}
+
+QWidget* MyNoticeBar::firstControl() const
+{
+    for (int i = 0; i < m_buttons->count(); ++i) {
+        if (m_buttons->itemAt(i)->widget()->isEnabled())
+            return m_buttons->itemAt(i)->widget();
+    }
+    return m_close;
+}
+
+void MyNoticeBar::keyPressEvent(QKeyEvent* event)
+{
+    if (event->key() == Qt::Key_Escape)
+        closeByUser();
+    event->accept();
+}
+
+void MyNoticeBar::mousePressEvent(QMouseEvent* event)
+{
+    event->accept();
+}
+
+void MyNoticeBar::closeByUser()
+{
+    hide();
+    deleteLater();
+    emit closed();
+}

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QFrame>
+
+class QHBoxLayout;
+class QLabel;
+class QPushButton;
+
+/// A calm strip that reports a state and offers what can be done about it, without a dialog: icon, text, buttons and a
+/// button that closes it.
+///
+/// The bar goes on standing until it is closed or deleted; it never takes the focus on its own. Keys that nobody in the
+/// bar wants end here, so that they do not become text of an editor that the bar stands in.
+class MyNoticeBar : public QFrame
+{
+    Q_OBJECT
+
+public:
+    enum eGrade_t
+    {
+        eGradeInfo = 0,
+        eGradeWarning = 1,
+        eGradeError = 2
+    };
+
+    /// @param text plain text, wrapped where the bar is narrow
+    MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent = nullptr);
+
+    eGrade_t grade() const { return m_grade; }
+    void setGrade(eGrade_t grade);
+    QString text() const;
+    void setText(const QString& text);
+
+    /// Appends a button. The bar owns it and stays when it is clicked: whoever connects it decides.
+    /// @param text may hold a mnemonic
+    QPushButton* addButton(const QString& text, const QString& toolTip);
+    /// The first button that can take the focus; the one that closes the bar if there is no other.
+    QWidget* firstControl() const;
+
+signals:
+    /// The user has closed the bar, by its button or by Esc. The bar is hidden already and deletes itself.
+    void closed();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+
+private slots:
+    void closeByUser();
+
+private:
+    eGrade_t m_grade = eGradeInfo;
+    QLabel* m_icon;
+    QLabel* m_label;
+    QHBoxLayout* m_buttons;
+    QPushButton* m_close;
+};
