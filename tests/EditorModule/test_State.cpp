@@ -5,6 +5,7 @@
 #include "EditorMemPageAddrMap.h"
 #include "EditorStatusBar.h"
 #include "EditorWidgetLeftMargin.h"
+#include "ModEditorPluginIf.h"
 
 #include <QCompleter>
 #include <QStringListModel>
@@ -445,6 +446,40 @@ TEST_F(State, completionListIsSortedAndCanBeEmptied)
     words.clear();
     editor.setTextCompletionList(words);
     EXPECT_EQ(model->rowCount(), 0);
+}
+
+template <class Plugin>
+void checkStrangers(ModEditorHookIf* hook)
+{
+    Plugin known;
+    Plugin stranger;
+    stranger.modEditorHook = hook;
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook) << "with nobody registered";
+    hook->registerPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, nullptr);
+    // It is a stranger from now on.
+    known.modEditorHook = hook;
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+}
+
+TEST_F(State, nullAndStrangersThatLeaveChangeNothing)
+{
+    checkStrangers<ModEditorPluginIf>(&editor);
+    checkStrangers<ModEditorPluginIfAssembler>(&editor);
+    checkStrangers<ModEditorPluginIfSimulator>(&editor);
+    editor.registerPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
+    editor.unregisterPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
 }
 
 } // namespace
