@@ -24,6 +24,7 @@
 #include <QSet>
 #include <QString>
 
+class QPrinter;
 class QStringListModel;
 
 namespace nsModEditor {
@@ -136,7 +137,7 @@ public:
 
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
-    void srcFileContentChanged() override {}
+    void srcFileContentChanged() override { clearMessageFlag(); }
 
     // ModFindReplacePluginIf
     QString findInit() override;
@@ -152,6 +153,8 @@ public:
     /// Open documents in the order of their creation. Owned.
     const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
     EditorStatusBar* statusBar() const;
+    /// Prints the document, or what is selected in it, as the printer is set.
+    void printFile(EditorWidget* widget, QPrinter* printer);
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -188,6 +191,7 @@ private slots:
     void clearSimBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
+    void openDroppedFiles(const QStringList& paths);
 
 private:
     // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
@@ -216,6 +220,7 @@ private:
     void setFileContentChanged();
     void chkProjectMembership(const QString& path);
     QString convToRelPath(const QString& path) const;
+    static int lineOf(const QUrl& url);
     void showError(const QString& text);
     void showWarning(const QString& text);
 
@@ -224,6 +229,8 @@ private:
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
     void setActionState(EditorWidget* current);
+    void updateActionState();
+    void clearMessageFlag();
     void setFindParameter();
     void find(bool configChanged, bool backward);
 
@@ -247,6 +254,7 @@ private:
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     int m_simBreakpointsRevision = 0;                 ///< grows with each change of what simBreakpoints() answers
     bool m_simEnabled = false;
+    bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
     bool m_errorShown = false; ///< the present action of the user has reported an error
 };
 

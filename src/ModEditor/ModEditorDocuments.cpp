@@ -77,6 +77,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     if (modFindReplaceHook != nullptr)
         modFindReplaceHook->unregisterPluginWidget(widget);
     delete widget;
+    updateActionState();
 }
 
 void ModEditor::focusCurrentWidget()
@@ -126,6 +127,13 @@ void ModEditor::openFilesByDialog()
         return;
     for (const QString& path : dialog.selectedFiles())
         openFile(path);
+}
+
+void ModEditor::openDroppedFiles(const QStringList& paths)
+{
+    for (const QString& path : paths)
+        openFile(path);
+    focusCurrentWidget();
 }
 
 bool ModEditor::selectFile(QString path)
@@ -329,7 +337,14 @@ void ModEditor::printFile(EditorWidget* widget)
     dialog.setWindowTitle(tr("Print Document"));
     dialog.setOption(QAbstractPrintDialog::PrintSelection, widget->hasSelection());
     if (dialog.exec() == QDialog::Accepted && m_editorWidgets.contains(widget))
-        widget->print(&printer);
+        printFile(widget, &printer);
+}
+
+void ModEditor::printFile(EditorWidget* widget, QPrinter* printer)
+{
+    const QString name = widget->filePath().isEmpty() ? tr("Untitled") : convToRelPath(widget->filePath());
+    if (!PrintedPages::print(widget->printJob(name, printer->printRange() == QPrinter::Selection), printer))
+        showError(tr("Can not print: ") + name);
 }
 
 void ModEditor::printFile()
@@ -357,20 +372,27 @@ void ModEditor::setCursorToLine(QString path, int line)
     }
 }
 
+/// The line that a link names in its fragment, counted from 0.
+int ModEditor::lineOf(const QUrl& url)
+{
+    return url.fragment().toInt();
+}
+
 void ModEditor::setCursorToLine(QUrl url)
 {
-    setCursorToLine(url.path(), url.fragment().toInt());
+    setCursorToLine(url.path(), lineOf(url));
 }
 
 void ModEditor::clearLineHighlited()
 {
+    m_isMessageFlagged = false;
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearLineHighlighted();
 }
 
 void ModEditor::setLineHighlighted(QUrl url)
 {
-    setLineHighlighted(url.path(), url.fragment().toInt());
+    setLineHighlighted(url.path(), lineOf(url));
 }
 
 void ModEditor::setLineHighlighted(QString path, int line)

@@ -85,14 +85,12 @@ void EditorWidget::indent()
         forSelectedLines(insertTab);
     else
         textCursor().insertText("\t");
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::deindent()
 {
     forSelectedLines(removeBlank);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -102,7 +100,6 @@ void EditorWidget::commentOut()
     forSelectedLines(insertSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -112,7 +109,6 @@ void EditorWidget::commentIn()
     forSelectedLines(removeSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -126,7 +122,6 @@ void EditorWidget::duplicateLine()
     cursor.insertText(text);
     cursor.endEditBlock();
     setTextCursor(cursor);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -145,31 +140,19 @@ QTextBlock EditorWidget::lastSelectedBlock() const
 
 void EditorWidget::moveLineUp()
 {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
     const QTextBlock previous = firstSelectedBlock().previous();
-    if (!previous.isValid()) {
-        leaveEditBlockOpen();
+    if (!previous.isValid())
         return;
-    }
     exchangeLines(previous, lastSelectedBlock(), true);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::moveLineDown()
 {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
     const QTextBlock next = lastSelectedBlock().next();
-    if (!next.isValid()) {
-        leaveEditBlockOpen();
+    if (!next.isValid())
         return;
-    }
     exchangeLines(firstSelectedBlock(), next, false);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -187,7 +170,9 @@ void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last
     const int split = up ? text.indexOf(separator) : text.lastIndexOf(separator);
     const QString head = text.left(split);
     const QString tail = text.mid(split + 1);
+    cursor.beginEditBlock();
     cursor.insertText(tail + separator + head);
+    cursor.endEditBlock();
 
     const int shift = up ? -(head.length() + 1) : tail.length() + 1;
     const int end = m_textDocument->characterCount() - 1;
