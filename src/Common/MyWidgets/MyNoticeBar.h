@@ -44,11 +44,14 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private slots:
     void closeByUser();
 
 private:
+    QList<QWidget*> controls() const;
+
     eGrade_t m_grade = eGradeInfo;
     QLabel* m_icon;
     QLabel* m_label;
