@@ -20,8 +20,18 @@ need_packages() {
     }
     as_root="sudo"
   fi
-  $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends $missing >&2 || {
-    $as_root apt-get -q update >&2 &&
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends $missing >&2
+  # What the package manager prints is read when it fails.
+  mkdir -p "$root/build"
+  packages_log="$root/build/packages.log"
+  {
+    install_packages $missing || { $as_root apt-get -q update && install_packages $missing; }
+  } >"$packages_log" 2>&1 || {
+    cat "$packages_log" >&2
+    return 1
   }
+}
+
+# install_packages NAME ...
+install_packages() {
+  $as_root env DEBIAN_FRONTEND=noninteractive apt-get -q -y install --no-install-recommends "$@"
 }

@@ -74,7 +74,8 @@ void Nalvo::handleArgs()
     if (m_modArgs->hasError())
         return;
     const QString project = m_modArgs->prjFile();
-    if (!project.isEmpty() && !m_modPrj->open(project))
+    // What the start has reported stays beside what the project reports.
+    if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
     const QString script = m_modArgs->scriptFile();
     if (!script.isEmpty() && m_modArgs->modMsgHook != nullptr)

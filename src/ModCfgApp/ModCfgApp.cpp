@@ -2,12 +2,17 @@
 
 #include "ModMsgHookIf.h"
 
+#include "SafeFile.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QVector>
+
+#include <algorithm>
 
 namespace nsModCfgApp {
 
@@ -15,17 +20,12 @@ namespace {
 
 const QString rootName = QStringLiteral("app");
 
-/// Removes locks of the settings file that are empty: their owner was killed between creating and filling them. Writing
-/// would wait half a minute for such an owner, as nothing tells that it is gone. The removal of a lock has a lock of
-/// its own, and so on.
-void removeDeadLocks(const QString& settingsFile)
+/// The settings file of this user, existing or not.
+QString settingsFile()
 {
-    const QFileInfo file(settingsFile);
-    const QStringList pattern(file.fileName() + QLatin1String(".lock*"));
-    for (const QFileInfo& lock : file.dir().entryInfoList(pattern, QDir::Files | QDir::Hidden)) {
-        if (lock.size() == 0)
-            QFile::remove(lock.filePath());
-    }
+    return QSettings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
+                     QCoreApplication::applicationName())
+        .fileName();
 }
 
 } // namespace
@@ -58,17 +58,50 @@ void ModCfgApp::saveAppConfig()
 {
     if (modMsgHook != nullptr)
         modMsgHook->showInfoMessage(tr("Saving application configuation"));
-    QSettings settings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
-                       QCoreApplication::applicationName());
     QSettings::setDefaultFormat(QSettings::IniFormat);
-    removeDeadLocks(settings.fileName());
-    settings.clear();
-    CfgNode* root = getNode(QStringList());
-    for (CfgNode* child : root->childs())
+    const QString path = settingsFile();
+    QByteArray text;
+    QString reason;
+    bool success = formatSettings(&text, &reason);
+    if (success) {
+        success = QDir().mkpath(QFileInfo(path).path()) && SafeFile::replace(path, text, &reason);
+        if (!success && reason.isEmpty())
+            reason = tr("The folder can not be made.");
+    }
+    if (success || modMsgHook == nullptr)
+        return;
+    modMsgHook->showErrorMessage(tr("Can not write application configuration: ") + path);
+    modMsgHook->showInfoMessage(tr("Reason: ") + reason);
+}
+
+/// The form of the file is that of QSettings, which does not say whether the disk took all of it. So it writes a temporary file,
+/// and what counts is what a second one reads in a copy of that.
+bool ModCfgApp::formatSettings(QByteArray* text, QString* reason)
+{
+    *reason = tr("No temporary file can be written.");
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("settings.ini"));
+    const QString copy = folder.filePath(QStringLiteral("copy.ini"));
+    QSettings settings(path, QSettings::IniFormat);
+    for (CfgNode* child : getNode(QStringList())->childs())
         saveAppCfgNode(child, &settings);
-    // An empty tree is written too, by the destructor.
-    if (root->hasChild())
+    const QStringList keys = settings.allKeys();
+    // No file is written for an empty tree.
+    if (!keys.isEmpty()) {
         settings.sync();
+        if (!folder.isValid() || settings.status() != QSettings::NoError || !QFile::copy(path, copy))
+            return false;
+        const QSettings written(copy, QSettings::IniFormat);
+        if (!std::all_of(keys.cbegin(), keys.cend(),
+                         [&](const QString& key) { return written.value(key) == settings.value(key); }))
+            return false;
+        QFile file(copy);
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        *text = file.readAll();
+    }
+    reason->clear();
+    return true;
 }
 
 void ModCfgApp::saveAppCfgNode(CfgNode* top, QSettings* settings)

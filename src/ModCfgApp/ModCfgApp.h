@@ -14,8 +14,8 @@ namespace nsModCfgApp {
 /// The settings of one user, kept from one run of the program to the next in an ini file that is named by the
 /// application's organisation and name.
 ///
-/// The file is replaced in one step, so it always holds the old or the new settings. Nothing is reported when it can
-/// not be read or written.
+/// The file is replaced in one step, so it always holds the old or the new settings. That it can not be written is reported;
+/// one that can not be read is as good as none.
 class ModCfgApp : public CfgTree, public ModCfgAppHookIf, public ModPluginIf, public ModMsgPluginIfInterMod
 {
     Q_OBJECT
@@ -61,6 +61,7 @@ public:
     void modExit() override;
 
 private:
+    bool formatSettings(QByteArray* text, QString* reason);
     static void saveAppCfgNode(CfgNode* top, QSettings* settings);
 
     PluginList<ModCfgAppPluginIf> m_plugins;

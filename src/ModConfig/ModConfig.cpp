@@ -9,10 +9,13 @@
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
+#include "MsgGroup.h"
 
 #include <QCoreApplication>
 #include <QListWidget>
 #include <QStackedWidget>
+
+#include <optional>
 
 namespace nsModConfig {
 
@@ -221,6 +224,10 @@ void ModConfig::closeDialog(bool accepted)
         m_state = eState_t::open;
         return;
     }
+    // Applied settings let the assembler run, which is to leave the reports of the rest on the screen.
+    std::optional<nsModMsg::MsgGroup> group;
+    if (accepted)
+        group.emplace(modMsgHook, tr("Applying the configuration..."));
     closePages(accepted);
     removeDialog();
     m_state = eState_t::closed;

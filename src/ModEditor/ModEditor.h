@@ -173,6 +173,7 @@ public slots:
     void clearLineHighlited() override;
     void setLineHighlighted(QUrl url) override;
     void setLineHighlighted(QString path, int line) override;
+    void markLine(QString path, int line) override;
     /// Inserts the text at the cursor of the current document.
     void insertText(QString text);
 
@@ -203,6 +204,9 @@ private:
     bool saveFileAs(EditorWidget* widget);
     void reloadFile(EditorWidget* widget);
     void closeFile(EditorWidget* widget);
+    void closeFiles(const QList<EditorWidget*>& widgets);
+    template <class Action>
+    bool inGroup(const QString& text, Action action);
     void printFile(EditorWidget* widget);
     bool askForSave(const QString& path);
     bool askForReload(const QString& path);
@@ -241,6 +245,7 @@ private:
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     bool m_simEnabled = false;
+    bool m_errorShown = false; ///< the present action of the user has reported an error
 };
 
 } // namespace nsModEditor

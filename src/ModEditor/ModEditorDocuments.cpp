@@ -7,12 +7,16 @@
 #include "ModClipboardHookIf.h"
 #include "ModFindReplaceHookIf.h"
 #include "ModGuiHookIf.h"
+#include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "MsgGroup.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
+
+#include <algorithm>
 
 namespace nsModEditor {
 
@@ -147,22 +151,39 @@ bool ModEditor::saveFile(EditorWidget* widget)
     return true;
 }
 
+/// Does what the user has asked for in a message group, so that its reports outlive the run that it may start. An error
+/// makes the group a failure; a dialog that was cancelled does not.
+template <class Action>
+bool ModEditor::inGroup(const QString& text, Action action)
+{
+    nsModMsg::MsgGroup group(modMsgHook, text);
+    m_errorShown = false;
+    const bool success = action();
+    group.end(!m_errorShown);
+    return success;
+}
+
 bool ModEditor::saveFile()
 {
-    const bool success = saveFile(currentEditorWidget());
-    setFileContentChanged();
-    return success;
+    return inGroup(tr("Saving..."), [this] {
+        const bool success = saveFile(currentEditorWidget());
+        setFileContentChanged();
+        return success;
+    });
 }
 
 void ModEditor::saveAllFiles()
 {
-    // A dialog for an untitled document lets the user close pages meanwhile.
-    const QList<EditorWidget*> widgets = m_editorWidgets;
-    for (EditorWidget* widget : widgets) {
-        if (m_editorWidgets.contains(widget))
-            saveFile(widget);
-    }
-    setFileContentChanged();
+    inGroup(tr("Saving..."), [this] {
+        // A dialog for an untitled document lets the user close pages meanwhile.
+        const QList<EditorWidget*> widgets = m_editorWidgets;
+        for (EditorWidget* widget : widgets) {
+            if (m_editorWidgets.contains(widget))
+                saveFile(widget);
+        }
+        setFileContentChanged();
+        return true;
+    });
 }
 
 bool ModEditor::saveFileAs(EditorWidget* widget)
@@ -191,9 +212,11 @@ bool ModEditor::saveFileAs(EditorWidget* widget)
 
 bool ModEditor::saveFileAs()
 {
-    const bool success = saveFileAs(currentEditorWidget());
-    setFileContentChanged();
-    return success;
+    return inGroup(tr("Saving..."), [this] {
+        const bool success = saveFileAs(currentEditorWidget());
+        setFileContentChanged();
+        return success;
+    });
 }
 
 bool ModEditor::saveFileAs(QString path)
@@ -201,14 +224,16 @@ bool ModEditor::saveFileAs(QString path)
     EditorWidget* widget = currentEditorWidget();
     if (path.isEmpty() || widget == nullptr)
         return false;
-    widget->setFilePath(path);
-    chkProjectMembership(path);
-    if (!m_editorWidgets.contains(widget) || !saveFile(widget))
-        return false;
-    if (modGuiHook != nullptr)
-        modGuiHook->setWidgetName(widget, convToRelPath(path));
-    setFileContentChanged();
-    return true;
+    return inGroup(tr("Saving..."), [this, widget, path] {
+        widget->setFilePath(path);
+        chkProjectMembership(path);
+        if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+            return false;
+        if (modGuiHook != nullptr)
+            modGuiHook->setWidgetName(widget, convToRelPath(path));
+        setFileContentChanged();
+        return true;
+    });
 }
 
 void ModEditor::reloadFile(EditorWidget* widget)
@@ -257,23 +282,33 @@ void ModEditor::closeFile()
     closeFile(currentEditorWidget());
 }
 
+void ModEditor::closeFiles(const QList<EditorWidget*>& widgets)
+{
+    const auto close = [this, &widgets] {
+        for (EditorWidget* widget : widgets) {
+            if (m_editorWidgets.contains(widget))
+                closeFile(widget);
+        }
+        return true;
+    };
+    // Only a save can report. A close that saves nothing leaves the messages of the last run alone.
+    if (std::any_of(widgets.begin(), widgets.end(), [](EditorWidget* widget) { return widget->isModified(); }))
+        inGroup(tr("Closing..."), close);
+    else
+        close();
+}
+
 void ModEditor::closeAllFiles()
 {
     const QList<EditorWidget*> widgets = m_editorWidgets;
-    for (EditorWidget* widget : widgets) {
-        if (m_editorWidgets.contains(widget))
-            closeFile(widget);
-    }
+    closeFiles(widgets);
 }
 
 void ModEditor::closeOtherFiles()
 {
-    EditorWidget* current = currentEditorWidget();
-    const QList<EditorWidget*> widgets = m_editorWidgets;
-    for (EditorWidget* widget : widgets) {
-        if (widget != current && m_editorWidgets.contains(widget))
-            closeFile(widget);
-    }
+    QList<EditorWidget*> widgets = m_editorWidgets;
+    widgets.removeOne(currentEditorWidget());
+    closeFiles(widgets);
 }
 
 void ModEditor::removeWidgetRequest(QWidget* widget)
@@ -334,10 +369,22 @@ void ModEditor::setLineHighlighted(QUrl url)
 
 void ModEditor::setLineHighlighted(QString path, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
-        widget->setLineHighlighted(line);
-    else
+    EditorWidget* widget = openFileWidget(path);
+    if (widget == nullptr) {
         showError(tr("Can not highlight line!"));
+        return;
+    }
+    clearLineHighlited();
+    widget->setLineHighlighted(line);
+}
+
+void ModEditor::markLine(QString path, int line)
+{
+    clearLineHighlited();
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->filePath() == path)
+            widget->markLine(line);
+    }
 }
 
 bool ModEditor::cursorLine(QString* path, int* line)

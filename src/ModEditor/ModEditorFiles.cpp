@@ -3,6 +3,7 @@
 #include "ModEditor.h"
 
 #include "EditorWidget.h"
+#include "SafeFile.h"
 
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
@@ -12,7 +13,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QSaveFile>
 #include <QTextCodec>
 
 namespace nsModEditor {
@@ -74,19 +74,14 @@ QByteArray ModEditor::encoded(EditorWidget* widget)
 
 bool ModEditor::writeFile(const QString& path, const QByteArray& bytes)
 {
-    // Written aside and renamed, so that a failure leaves the old file; where the folder forbids that, in place. A link stays one.
-    const QFileInfo info(path);
-    QSaveFile file(info.exists() ? info.canonicalFilePath() : path);
-    file.setDirectWriteFallback(true);
-    if ((info.exists() && !info.isFile()) || !file.open(QIODevice::WriteOnly)) {
-        showError(tr("Can not open file: ") + path);
-        return false;
-    }
-    if (file.write(bytes) != bytes.size() || !file.commit()) {
-        showError(tr("Can not write data to file: ") + path);
-        return false;
-    }
-    return true;
+    SafeFile file(path);
+    const bool opened = file.open();
+    if (opened && file.write(bytes) == bytes.size() && file.commit())
+        return true;
+    showError((opened ? tr("Can not write data to file: ") : tr("Can not open file: ")) + path);
+    if (modMsgHook != nullptr)
+        modMsgHook->showInfoMessage(tr("Reason: ") + file.errorString());
+    return false;
 }
 
 bool ModEditor::ask(const QString& title, const QString& first, const QString& path, const QStringList& closing)
@@ -137,6 +132,7 @@ QString ModEditor::convToRelPath(const QString& path) const
 
 void ModEditor::showError(const QString& text)
 {
+    m_errorShown = true;
     if (modMsgHook != nullptr)
         modMsgHook->showErrorMessage(text);
 }

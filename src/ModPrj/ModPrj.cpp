@@ -46,12 +46,15 @@ bool ModPrj::readPrjFile(CfgTree* tree, QString file)
 bool ModPrj::savePrjFile(CfgTree* tree, QString file)
 {
     QString message;
+    QString reason;
     QStringList dropped;
-    const bool success = PrjFile::write(tree, file, &dropped, &message);
+    const bool success = PrjFile::write(tree, file, &dropped, &message, &reason);
     for (const QString& key : dropped)
         warning(tr("Project setting can not be saved: ") + key);
     if (!success)
         error(message);
+    if (!reason.isEmpty())
+        info(tr("Reason: ") + reason);
     return success;
 }
 
@@ -71,7 +74,25 @@ void ModPrj::wrPrjInfo(CfgTree* tree, const PrjConfig& config)
 
 // --- open, save, close ---
 
-bool ModPrj::openPrj(QString file)
+ModMsgHookIf* ModPrj::groupHook() const
+{
+    return modGuiHook != nullptr ? modMsgHook : nullptr;
+}
+
+QString ModPrj::openingText(const QString& file)
+{
+    return tr("Opening project %1...").arg(QFileInfo(file).fileName());
+}
+
+bool ModPrj::openPrj(QString file, nsModMsg::MsgGroup::eEarlier_t earlier)
+{
+    if (m_closing)
+        return false;
+    nsModMsg::MsgGroup group(groupHook(), openingText(file), earlier);
+    return group.end(openPrjInGroup(file));
+}
+
+bool ModPrj::openPrjInGroup(const QString& file)
 {
     if (m_closing)
         return false;
@@ -117,19 +138,25 @@ bool ModPrj::openPrj(QString file)
 
 void ModPrj::savePrjCfg()
 {
+    saveOpenPrj();
+}
+
+bool ModPrj::saveOpenPrj()
+{
     if (!isValid()) {
         error(tr("No project file set."));
-        return;
+        return false;
     }
     // A client that saves from within prjSave() is served by the save that is under way.
     if (m_saving)
-        return;
+        return true;
     m_saving = true;
     info(tr("Saving project configuration"));
     wrPrjInfo(this, *this);
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjSave(); });
-    savePrjFile(this, m_path);
+    const bool saved = savePrjFile(this, m_path);
     m_saving = false;
+    return saved;
 }
 
 bool ModPrj::closePrj()
@@ -140,9 +167,10 @@ bool ModPrj::closePrj()
         error(tr("No project to close!"));
         return false;
     }
+    nsModMsg::MsgGroup group(groupHook(), tr("Closing project %1...").arg(prjFileName()));
     m_closing = true;
     if (modGuiHook != nullptr) {
-        savePrjCfg();
+        group.end(saveOpenPrj());
         modGuiHook->setWindowTitle(QString());
     }
     m_path.clear();

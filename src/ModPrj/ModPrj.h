@@ -11,6 +11,7 @@
 #include "ModPrjHookIf.h"
 #include "ModPrjPluginIf.h"
 #include "ModScriptPluginIf.h"
+#include "MsgGroup.h"
 #include "PluginList.h"
 #include "PrjActions.h"
 #include "PrjConfig.h"
@@ -49,8 +50,9 @@ public:
     ~ModPrj() override;
 
     /// Closes the open project, then opens the file.
+    /// @param earlier what becomes of the messages in the view
     /// @return false: the file can not be read, which was reported; no project is open then
-    bool openPrj(QString file);
+    bool openPrj(QString file, nsModMsg::MsgGroup::eEarlier_t earlier = nsModMsg::MsgGroup::eClearEarlier);
     /// Saves and closes the project.
     /// @return false: there is none, which was reported
     bool closePrj();
@@ -155,6 +157,12 @@ public slots:
     void prjMngrHndlEventCancel();
 
 private:
+    /// The message service for the groups of open and close; null in a batch program, whose messages nobody clears.
+    ModMsgHookIf* groupHook() const;
+    static QString openingText(const QString& file);
+    bool openPrjInGroup(const QString& file);
+    /// savePrjCfg() with its result.
+    bool saveOpenPrj();
     void setWindowTitle();
     void updateCloseAction();
     void info(const QString& text);

@@ -156,10 +156,11 @@ void ModPrj::prjMngrHndlEventGenerateAdd(QString file, QString title)
 
 void ModPrj::prjMngrHndlEventGenerateOpen(QString file, QString title)
 {
-    if (!prjMngrGenerate(file, title))
+    nsModMsg::MsgGroup group(groupHook(), openingText(file));
+    if (!group.end(prjMngrGenerate(file, title)))
         return;
     prjMngrFetchCollection();
-    openPrj(file);
+    group.end(openPrjInGroup(file));
 }
 
 void ModPrj::prjMngrHndlEventAdd(QString file)
@@ -169,8 +170,9 @@ void ModPrj::prjMngrHndlEventAdd(QString file)
 
 void ModPrj::prjMngrHndlEventOpen(QString file)
 {
+    nsModMsg::MsgGroup group(groupHook(), openingText(file));
     prjMngrFetchCollection();
-    openPrj(file);
+    group.end(openPrjInGroup(file));
 }
 
 void ModPrj::prjMngrHndlEventClose()

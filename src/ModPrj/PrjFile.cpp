@@ -1,11 +1,11 @@
 #include "PrjFile.h"
 
 #include "CfgTree.h"
+#include "SafeFile.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QSaveFile>
 #include <QVector>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -315,7 +315,7 @@ bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)
     return true;
 }
 
-bool PrjFile::write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error)
+bool PrjFile::write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error, QString* reason)
 {
     const QFileInfo info(path);
     if (info.isDir())
@@ -325,13 +325,16 @@ bool PrjFile::write(CfgTree* tree, const QString& path, QStringList* dropped, QS
         return fail(error, tr("Project file is no valid file: ") + path);
     if (info.exists() && !info.isWritable())
         return fail(error, tr("Project file is not writable: ") + path);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Text))
-        return fail(error, tr("Can not open project file: ") + path);
     const QByteArray text = format(tree, dropped);
-    if (text.isEmpty() || text.size() > maxBytes || file.write(text) != text.size() || !file.commit())
+    if (text.isEmpty() || text.size() > maxBytes)
         return fail(error, tr("Can not write project file: ") + path);
-    return true;
+    SafeFile file(path);
+    const bool opened = file.open();
+    if (opened && file.write(text) == text.size() && file.commit())
+        return true;
+    if (reason != nullptr)
+        *reason = file.errorString();
+    return fail(error, (opened ? tr("Can not write project file: ") : tr("Can not open project file: ")) + path);
 }
 
 } // namespace nsModPrj

@@ -27,11 +27,12 @@ public:
     /// @param error the message for the user, when the result is false; the tree then holds what came before the error
     static bool read(CfgTree* tree, const QString& path, QString* error);
 
-    /// Writes the tree. The file is replaced in one step: it always holds the old or the new text, whole. A symbolic
-    /// link stays.
+    /// Writes the tree through SafeFile: the file always holds the old or the new text, whole.
     /// @param dropped keys of nodes that the format can not carry and that were left out, may be null
     /// @param error the message for the user, when the result is false; the old file is then untouched
-    static bool write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error);
+    /// @param reason what the system said to that, where it said something; may be null
+    static bool write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error,
+                      QString* reason = nullptr);
 
     /// The text of the file for a tree; empty when the tree has more than maxNodes.
     /// @param dropped as in write()

@@ -5,6 +5,7 @@
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
+#include "MsgGroup.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -64,6 +65,8 @@ void ModSources::addFile(QString path)
     if (srcFiles.contains(path))
         return;
     srcFiles.append(path);
+    // The run that the new list starts leaves the messages of the open or save that the file came with.
+    const nsModMsg::MsgGroup group(modMsgHook, tr("Adding a file to the project..."), nsModMsg::MsgGroup::eKeepEarlier);
     if (m_page)
         m_page->insertFile(path);
     if (modMsgHook != nullptr)
@@ -110,6 +113,7 @@ bool ModSources::askToAdd(const QString& path)
 void ModSources::prjOpen()
 {
     srcFiles.clear();
+    m_vanishedFiles.clear();
     if (modPrjHook == nullptr)
         return;
     for (const QString& entry : modPrjHook->value(keySrcFiles, QStringList())) {
@@ -118,6 +122,7 @@ void ModSources::prjOpen()
         if (!info.exists()) {
             if (modMsgHook != nullptr)
                 modMsgHook->showErrorMessage(tr("File does not exist: ") + path);
+            m_vanishedFiles.append(path);
             continue;
         }
         if (modMsgHook != nullptr && !info.isReadable())
@@ -141,11 +146,22 @@ void ModSources::prjSave()
     for (const QString& path : srcFiles)
         list.append(modPrjHook->convToRelPath(path));
     modPrjHook->setValue(keySrcFiles, list);
+    reportVanishedFiles();
+}
+
+void ModSources::reportVanishedFiles()
+{
+    for (const QString& path : qAsConst(m_vanishedFiles)) {
+        if (modMsgHook != nullptr && !srcFiles.contains(path))
+            modMsgHook->showWarningMessage(tr("Removed from the project, as it did not exist: ") + path);
+    }
+    m_vanishedFiles.clear();
 }
 
 void ModSources::prjClose()
 {
     srcFiles.clear();
+    m_vanishedFiles.clear();
     if (m_page)
         m_page->setDefaultConfig();
 }

@@ -71,9 +71,11 @@ protected:
 private:
     void setFilesListChanged();
     bool askToAdd(const QString& path);
+    void reportVanishedFiles();
 
     PluginList<ModSourcesPluginIf> m_plugins;
     QPointer<SourcesConfigPage> m_page; ///< while the configuration dialog is open
+    QStringList m_vanishedFiles; ///< entries of the project file without a file: the next save drops them, and says so
 };
 
 } // namespace nsModSources

@@ -7,6 +7,7 @@
 #include "MyFileSelectOpen.h"
 #include "MyFileSelectSave.h"
 #include "MyPathEdit.h"
+#include "Settle.h"
 #include "TargetConfigWidget.h"
 #include "TargetMapperConfigWidget.h"
 
@@ -260,10 +261,10 @@ TEST_F(AsmFePage, LooksLikeThis)
     config.targetVhdl.en = true;
     config.targetVhdl.entityName = "program_rom";
     page.setConfig(&config, dir.path());
-    EXPECT_TRUE(pages.grab().save(pictures + "/configPageAssembler.png"));
+    EXPECT_TRUE(expectReadable(&pages).save(pictures + "/configPageAssembler.png"));
     pages.resize(720, page.sizeHint().height() + 40);
-    QTest::qWait(20);
-    EXPECT_TRUE(pages.grab().save(pictures + "/configPageAssemblerWhole.png"));
+    settleLayout();
+    EXPECT_TRUE(expectReadable(&pages).save(pictures + "/configPageAssemblerWhole.png"));
 }
 
 } // namespace

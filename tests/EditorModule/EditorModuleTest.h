@@ -20,6 +20,8 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <sys/stat.h>
+
 /// Stands in for find and replace: parameters as knobs.
 class FakeFindReplaceHook : public ModFindReplaceHookIf
 {
@@ -67,6 +69,11 @@ class EditorModuleTest : public ::testing::Test
 protected:
     EditorModuleTest()
     {
+        // Open to the ordinary user as well that some tests become.
+        EXPECT_TRUE(QDir().mkpath(dataDir()));
+        EXPECT_EQ(chmod(dataDir().toLocal8Bit().constData(), 0777), 0);
+        EXPECT_EQ(chmod(data.path().toLocal8Bit().constData(), 0755), 0);
+        qputenv("XDG_DATA_HOME", dataDir().toLocal8Bit());
         msg.attach(static_cast<ModMsgPluginIf*>(&editor));
         gui.registerPlugin(static_cast<ModGuiPluginIf*>(&editor));
         sources.registerPlugin(&editor);
@@ -137,7 +144,10 @@ protected:
         editor.setFocus(ModGuiHookIf::eLocationTabs, &editor, widget);
     }
 
+    QString dataDir() const { return data.path() + "/data"; }
+
     QTemporaryDir dir;
+    QTemporaryDir data; ///< of the user, beside the folder of the project
     FakeMsgHook msg;
     FakeGuiHook gui;
     FakePrjHook prj;

@@ -64,6 +64,16 @@ protected:
         widget->setBookmark(15);
         widget->setSelectionHighlightEn(true);
     }
+    static bool hasColor(const QImage& image, const QColor& color)
+    {
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (image.pixel(x, y) == color.rgb())
+                    return true;
+            }
+        }
+        return false;
+    }
     void SetUp() override
     {
         EditorTest::SetUp();
@@ -130,6 +140,9 @@ TEST_F(Screenshot, Scales)
         image.setDevicePixelRatio(percent / 100.0);
         editor->render(&image);
         EXPECT_TRUE(image.save(dir + QString("/editor-widget-%1.png").arg(percent)));
+        // Text and marks are there at each scale.
+        for (const QColor& color : {QColor(Qt::red), QColor(Qt::green), QColor(Qt::darkYellow), QColor(Qt::black)})
+            EXPECT_TRUE(hasColor(image, color)) << percent << ' ' << qPrintable(color.name());
     }
     editor->setMemPageAddrMap(nullptr);
 }

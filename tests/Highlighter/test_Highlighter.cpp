@@ -2,7 +2,6 @@
 
 #include "HighlightFixture.h"
 
-#include <QElapsedTimer>
 #include <QImage>
 #include <QPlainTextEdit>
 #include <QSignalSpy>
@@ -184,15 +183,12 @@ TEST_F(HighlightTest, SelectionTakesTheFormatOfItsFirstCharacter)
     EXPECT_EQ(formatAt(0, 3), color(Qt::blue));
 }
 
-TEST_F(HighlightTest, SelectionOverSeveralLinesMarksNothingAndIsQuick)
+TEST_F(HighlightTest, SelectionOverSeveralLinesMarksNothing)
 {
     QString lines = QString("  LOAD s0, 12 ; \"text\" (see there)\n").repeated(5000);
     setText("LOAD s0\n");
-    QElapsedTimer clock;
-    clock.start();
     highlighter->setSelection(lines.replace('\n', QChar(QChar::ParagraphSeparator)));
     highlighter->rehighlight();
-    EXPECT_LT(clock.elapsed(), 1000);
     expectEqual();
     // A branch without the end of a line can match all the same.
     select(QString("LOAD|x") + QChar(QChar::ParagraphSeparator) + "y");

@@ -152,6 +152,7 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
+    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList& words) override
     {
         calls->append("editor.setTextCompletionList");

@@ -3,6 +3,8 @@
 #include "ModAction.h"
 #include "ModFindReplace.h"
 #include "ModGui.h"
+#include "Readable.h"
+#include "Settle.h"
 
 #include "QtPrinters.h"
 
@@ -80,7 +82,7 @@ protected:
     ~FindReplaceTest() override { qDeleteAll(pages); }
 
     /// The fading of the clear buttons outlives their fields by a moment, and is only deleted at its end.
-    static void TearDownTestSuite() { QTest::qWait(300); }
+    static void TearDownTestSuite() { settleAnimations(); }
 
     QWidget* addPage(const QString& name, FindClient* client = nullptr, int features = 3)
     {

@@ -32,9 +32,9 @@ protected:
     }
     void screenshot(const QString& name)
     {
-        QTest::qWait(50);
+        settleAnimations();
         QDir().mkpath(NALVO_BINARY_DIR "/screenshots");
-        EXPECT_TRUE(window.grab().save(QString(NALVO_BINARY_DIR "/screenshots/%1.png").arg(name)));
+        EXPECT_TRUE(expectReadable(&window).save(QString(NALVO_BINARY_DIR "/screenshots/%1.png").arg(name)));
     }
 };
 
@@ -82,10 +82,10 @@ TEST_F(Bar, toggleShowsAndHidesTheSecondRow)
 
 TEST_F(Bar, fieldsDoNotMoveWhenTheSecondRowComes)
 {
-    QTest::qWait(20);
+    settleLayout();
     const QRect before = find()->geometry();
     click("buttonToggleMode");
-    QTest::qWait(20);
+    settleLayout();
     EXPECT_EQ(find()->x(), before.x());
     EXPECT_EQ(replace()->x(), before.x());
     EXPECT_EQ(find()->y(), before.y());
@@ -239,19 +239,19 @@ TEST_F(Bar, fitsIntoTheSmallestWindowAndBesideDocks)
     QCheckBox* box = part<QCheckBox>("checkWholeWords");
     const auto top = [this](QWidget* widget) { return widget->mapTo(bar(), QPoint(0, 0)).y(); };
     window.resize(1000, 600);
-    QTest::qWait(20);
+    settleLayout();
     EXPECT_LT(top(box), top(replace()));
     window.resize(560, 600);
-    QTest::qWait(20);
+    settleLayout();
     EXPECT_EQ(window.width(), 560);
     EXPECT_GT(top(box), top(replace()));
     EXPECT_LE(box->mapTo(bar(), box->rect().bottomRight()).x(), bar()->width());
     EXPECT_LE(box->mapTo(bar(), box->rect().bottomRight()).y(), bar()->height());
     bar()->setMode(Widget::eModeFind);
-    QTest::qWait(20);
+    settleLayout();
     EXPECT_GT(top(box), top(find()));
     window.resize(1000, 600);
-    QTest::qWait(20);
+    settleLayout();
     EXPECT_LT(qAbs(box->mapTo(bar(), box->rect().center()).y() - find()->geometry().center().y()), 4);
 }
 

@@ -1,9 +1,9 @@
 #include "ModPrj.h"
 #include "PrjTestSupport.h"
+#include "SafeFile.h"
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 #include <QTemporaryDir>
 
 #include <csignal>
@@ -23,15 +23,27 @@ void fill(CfgTree* tree, int number)
         tree->setValue(str("s/k%1").arg(k), QString::number(number).rightJustified(2000, QLatin1Char('0')));
 }
 
-/// Saves projects with rising numbers.
-[[noreturn]] void saveForEver(const QString& file, int start)
+/// Saves a project of the number in a process of its own, which dies before the given step of the save, counted from 0.
+/// @return false: it came to its end, as the save has fewer steps
+bool saveAndDie(const QString& file, int number, int step)
 {
-    for (int i = start;; ++i) {
+    const pid_t child = fork();
+    EXPECT_GE(child, 0);
+    if (child == 0) {
+        int count = 0;
+        SafeFile::setWatch([&count, step](SafeFile::eStep_t) {
+            if (count++ == step)
+                kill(getpid(), SIGKILL);
+            return 0;
+        });
         ModPrj prj;
-        fill(&prj, i);
-        if (!prj.savePrjFile(&prj, file))
-            _exit(1);
+        fill(&prj, number);
+        _exit(prj.savePrjFile(&prj, file) ? 0 : 1);
     }
+    int status = 0;
+    EXPECT_EQ(waitpid(child, &status, 0), child);
+    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
+    return WIFSIGNALED(status);
 }
 
 TEST(ModPrjKilled, LeavesAWholeFile)
@@ -39,36 +51,25 @@ TEST(ModPrjKilled, LeavesAWholeFile)
     QTemporaryDir dir;
     ModPrj prj;
     const QString file = dir.filePath(str("p.nalvo"));
-    int last = 1;
-    fill(&prj, last);
+    fill(&prj, 1);
     ASSERT_TRUE(prj.savePrjFile(&prj, file));
-    QElapsedTimer clock;
-    clock.start();
-    int progress = 0;
-    // On a slow disk a child may be killed before its first save, so some more of them have their chance.
-    for (int round = 0; round < 60 || (progress < 10 && clock.elapsed() < 30000); ++round) {
-        const pid_t child = fork();
-        ASSERT_GE(child, 0);
-        if (child == 0)
-            saveForEver(file, last + 1);
-        usleep(2000 + 379 * round % 15000);
-        ASSERT_EQ(kill(child, SIGKILL), 0);
-        int status = 0;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        ASSERT_TRUE(WIFSIGNALED(status));
+    int step = 0;
+    for (bool killed = true; killed; ++step) {
+        ASSERT_LT(step, 1000);
+        killed = saveAndDie(file, 2, step);
         CfgTree tree;
-        ASSERT_TRUE(prj.readPrjFile(&tree, file)) << "round " << round;
+        ASSERT_TRUE(prj.readPrjFile(&tree, file)) << "step " << step;
         const int number = tree.value(str("s/k0"), 0);
+        // Renaming is the last step: only a save that came to its end has changed the file.
+        ASSERT_EQ(number, killed ? 1 : 2) << "step " << step;
         ASSERT_EQ(tree.getNode({str("s")})->childs().size(), killKeys);
         for (int k = 0; k < killKeys; ++k) {
             ASSERT_EQ(tree.value(str("s/k%1").arg(k), 0), number);
             ASSERT_EQ(tree.value(str("s/k%1").arg(k), QString()).size(), 2000);
         }
-        ASSERT_GE(number, last);
-        progress += number > last ? 1 : 0;
-        last = number;
     }
-    EXPECT_GE(progress, 10);
+    // Create, several parts of 100 kB, sync, attributes, rename.
+    EXPECT_GT(step, 8);
 }
 
 } // namespace

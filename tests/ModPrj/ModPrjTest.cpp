@@ -160,6 +160,7 @@ TEST_F(ModPrjTest, SavingWithoutAProjectIsAnError)
 
 TEST_F(ModPrjTest, FileThatDoesNotOpenLeavesNoProject)
 {
+    msg.dropOnClear = false;
     EXPECT_FALSE(prj.openPrj(QString()));
     EXPECT_FALSE(prj.openPrj(path("none")));
     EXPECT_FALSE(prj.open(m_dir.path()));

@@ -3,6 +3,7 @@
 #include "FakeEditorHook.h"
 #include "FakeMsgHook.h"
 #include "NaviFixture.h"
+#include "Settle.h"
 
 #include "CfgTree.h"
 #include "ModAsmFe.h"
@@ -85,8 +86,7 @@ protected:
     }
     void picture(const QString& name)
     {
-        // Folds move, if they do.
-        QTest::qWait(300);
+        settleAnimations();
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
         const QPixmap picture = hand->tree->window()->findChild<NaviWidget*>()->grab();

@@ -97,3 +97,14 @@ TEST_F(CommandLineTest, AScriptOptionWithoutAFileDoesNothing)
     EXPECT_TRUE(report.contains("visible: 1"));
     EXPECT_FALSE(mentions(report, "script"));
 }
+
+TEST_F(CommandLineTest, whatTheStartReportsOutlivesTheOpeningOfItsProject)
+{
+    writeProject("a.nalvo");
+    const QString gone = projectDir() + "/gone.nalvo";
+    writeSetting("PrjMngr/collection", gone);
+    const QStringList report = run({"a.nalvo"});
+    EXPECT_TRUE(report.contains("message: Assembling..."));
+    EXPECT_TRUE(report.contains(QString("message: Can not find project file %1. Removing it from project collection").arg(gone)))
+        << qPrintable(report.join('\n'));
+}

@@ -180,7 +180,7 @@ TEST_F(EditorInWindow, insertionMenuOffersLabelsConstantsAndTemplates)
     EXPECT_TRUE(current()->toPlainText().startsWith("ADD"));
     current()->undo();
     menu->menu->popup(window->mapToGlobal(QPoint(500, 120)));
-    QTest::qWait(50);
+    settleLayout();
     screenshot("editor-insertion-menu", menu->menu);
     menu->menu->hide();
 }

@@ -10,6 +10,8 @@
 #include "ProcSimIOReg8Bit.h"
 #include "QtPrinters.h"
 
+#include "Readable.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -88,7 +90,7 @@ protected:
     {
         QApplication::processEvents();
         QDir().mkpath(NALVO_BINARY_DIR "/screenshots");
-        EXPECT_TRUE(dock.grab().save(QString(NALVO_BINARY_DIR "/screenshots/ports-%1.png").arg(name)));
+        EXPECT_TRUE(expectReadable(&dock).save(QString(NALVO_BINARY_DIR "/screenshots/ports-%1.png").arg(name)));
     }
 
     std::shared_ptr<nsProc::ProcSimPorts> ports = std::make_shared<nsProc::ProcSimPorts>();

@@ -1,12 +1,11 @@
-// Pictures of the wave viewer in its states, for a person to look at, and the time that drawing takes.
+// Pictures of the wave viewer in its states, for a person to look at.
 
+#include "Readable.h"
 #include "WavesFixture.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
-
-#include <chrono>
 
 namespace {
 
@@ -25,6 +24,7 @@ protected:
     void save(const QString& name)
     {
         settle();
+        expectReadable(viewer.get());
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         ASSERT_TRUE(QDir().mkpath(dir));
         for (const int percent : {100, 200}) {
@@ -90,30 +90,16 @@ TEST_F(WavesScreenshot, ManyValues)
     save("narrow");
 }
 
-/// At 25 pictures a second, drawing a million values must leave the simulator its time.
-TEST_F(WavesScreenshot, MillionValuesAreDrawnQuickly)
+TEST_F(WavesScreenshot, MillionValues)
 {
     watch();
     fill(1000000);
     tree->expandItem(tree->topLevelItem(0));
     settle();
-    QImage image(waves->size(), QImage::Format_RGB32);
-    double worst = 0;
     // From single values to all of them.
-    for (int step = 0; step < 24; ++step) {
-        std::chrono::nanoseconds best = std::chrono::hours(1);
-        for (int round = 0; round < 10; ++round) {
-            const auto start = std::chrono::steady_clock::now();
-            waves->render(&image);
-            best = std::min<std::chrono::nanoseconds>(best, std::chrono::steady_clock::now() - start);
-        }
-        worst = std::max(worst, double(best.count()) / 1e6);
+    for (int step = 0; step < 24; ++step)
         click("procSimWaveZoomOut");
-    }
     EXPECT_EQ(bar->maximum(), 0) << "not all of the time is shown";
-    RecordProperty("microseconds", int(worst * 1000));
-    // Ten times what it takes on a machine of its own.
-    EXPECT_LT(worst, 30.0);
     save("million");
 }
 

@@ -302,8 +302,9 @@ TEST_F(SimLook, ScratchpadHasEightCellsBesideEachOtherWhereTheyFit)
     auto* scrpd = new ProcSimScrpd(64);
     show(scrpd, 240, 300);
     const auto cells = scrpd->findChildren<ProcSimEdtNumeric*>();
-    const auto inFirstRow = [&cells] {
-        return int(std::count_if(cells.begin(), cells.end(), [&cells](QWidget* cell) { return cell->y() == cells.first()->y(); }));
+    const auto top = [scrpd](QWidget* cell) { return cell->mapTo(scrpd, QPoint()).y(); };
+    const auto inFirstRow = [&] {
+        return int(std::count_if(cells.begin(), cells.end(), [&](QWidget* cell) { return top(cell) == top(cells.first()); }));
     };
     const auto addresses = [scrpd] {
         QStringList result;

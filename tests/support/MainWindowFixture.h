@@ -2,7 +2,9 @@
 
 #include "ModPluginIf.h"
 #include "Nalvo.h"
+#include "Readable.h"
 #include "Release.h"
+#include "Settle.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +18,7 @@
 
 #include <memory>
 
-/// The whole main window with a settings folder of its own, for tests of modules in their real surroundings.
+/// The whole main window with folders of its own for settings and data, for tests of modules in their real surroundings.
 ///
 /// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a
 /// test:
@@ -28,6 +30,7 @@ protected:
     MainWindowFixture()
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir());
+        qputenv("XDG_DATA_HOME", folder.filePath(QStringLiteral("data")).toLocal8Bit());
         QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
         // As in the program; for pictures at other scales (QT_SCALE_FACTOR).
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -94,12 +97,12 @@ protected:
         return result;
     }
 
-    /// Lets the window come to rest, then writes its picture into the folder of screenshots of the build.
+    /// Lets the window come to rest, checks that all its texts can be read, and writes its picture into the folder of
+    /// screenshots of the build.
     /// @return path of the picture
     QString screenshot(const QString& name) const
     {
-        // Long enough for folds that move.
-        QTest::qWait(350);
+        settleAnimations();
         return screenshot(name, window.get());
     }
     /// The same for another widget, as it is.
@@ -108,7 +111,7 @@ protected:
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
         const QString path = dir + QLatin1Char('/') + name + QStringLiteral(".png");
-        if (!widget->grab().save(path))
+        if (!expectReadable(widget).save(path))
             ADD_FAILURE() << "can not write " << qPrintable(path);
         return path;
     }

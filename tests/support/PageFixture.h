@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Readable.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -97,7 +99,7 @@ protected:
             }
         }
     }
-    /// Writes the picture of what is shown into the folder of screenshots of the build.
+    /// Checks that all texts of what is shown can be read, and writes its picture into the folder of screenshots of the build.
     void screenshot(const QString& name)
     {
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
@@ -105,7 +107,7 @@ protected:
         // Layouts within layouts come to rest one after the other.
         for (int i = 0; i < 10; ++i)
             QCoreApplication::processEvents();
-        EXPECT_TRUE(pages.grab().save(dir + QLatin1Char('/') + name + QStringLiteral(".png")));
+        EXPECT_TRUE(expectReadable(&pages).save(dir + QLatin1Char('/') + name + QStringLiteral(".png")));
     }
 
     QStackedWidget pages;

@@ -58,7 +58,7 @@ QString OutputFile::open(const QString& name)
 {
     m_name = name;
     m_saveFile = nullptr;
-    std::unique_ptr<QFileDevice> device;
+    std::unique_ptr<QIODevice> device;
     bool opened = false;
     if (name == "-") {
         auto file = std::make_unique<QFile>();
@@ -68,9 +68,8 @@ QString OutputFile::open(const QString& name)
         device = std::make_unique<QFile>(name);
         opened = device->open(QIODevice::WriteOnly | QIODevice::Unbuffered);
     } else {
-        auto file = std::make_unique<QSaveFile>(name);
-        file->setDirectWriteFallback(true);
-        opened = file->open(QIODevice::WriteOnly);
+        auto file = std::make_unique<SafeFile>(name);
+        opened = file->open();
         m_saveFile = file.get();
         device = std::move(file);
     }

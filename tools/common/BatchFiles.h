@@ -1,8 +1,9 @@
 #pragma once
 
+#include "SafeFile.h"
+
 #include <QByteArray>
 #include <QFile>
-#include <QSaveFile>
 #include <QString>
 #include <QStringList>
 
@@ -54,8 +55,8 @@ public:
 
 private:
     QString m_name;
-    std::unique_ptr<QFileDevice> m_device;
-    QSaveFile* m_saveFile = nullptr; ///< the device, if it is one of these
+    std::unique_ptr<QIODevice> m_device;
+    SafeFile* m_saveFile = nullptr; ///< the device, if it is one of these
 };
 
 } // namespace nsBatch

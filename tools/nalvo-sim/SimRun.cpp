@@ -166,7 +166,7 @@ bool SimRun::startSim()
     if (m_trace.isOpen())
         m_watch.trace().setFile(&m_trace);
     if (m_vcd.isOpen())
-        m_watch.keepWaves(m_sim->clock());
+        m_watch.keepWaves(m_sim->clock(), &m_modules.asmFe);
     return true;
 }
 

@@ -115,6 +115,8 @@ public:
     void setCursorPos(int pos);
     /// Flags the line and goes to it. A document has no more than one flagged line.
     void setLineHighlighted(int line);
+    /// Flags a line without a move to it: cursor and view stay.
+    void markLine(int line);
     void clearLineHighlighted();
     /// @return whether the text was found; it is selected then
     bool find(const QString& text, bool caseSensitive, bool wholeWords, bool backward, eFindOrigin_t origin);

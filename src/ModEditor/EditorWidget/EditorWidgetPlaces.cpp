@@ -91,6 +91,15 @@ void EditorWidget::setLineHighlighted(int line)
     setHighlightLinesToEditor();
 }
 
+void EditorWidget::markLine(int line)
+{
+    const QTextBlock block = m_textDocument->findBlockByNumber(line);
+    m_lineHighlightEn = block.isValid();
+    if (block.isValid())
+        m_highlightSelection.cursor = QTextCursor(block);
+    setHighlightLinesToEditor();
+}
+
 void EditorWidget::clearLineHighlighted()
 {
     m_lineHighlightEn = false;

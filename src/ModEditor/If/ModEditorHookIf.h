@@ -75,6 +75,7 @@ public:
     /// @return false without a current document
     virtual bool cursorLine(QString* path, int* line) = 0;
     virtual void clearLineHighlited() = 0;
+    /// Opens the file, goes to the line and flags it. One line is flagged at a time, over all documents.
     virtual void setLineHighlighted(QUrl url) = 0;
     virtual void setLineHighlighted(QString path, int line) = 0;
     /// Empties the list of highlighting rules.
@@ -94,4 +95,7 @@ public:
     virtual void setTextCompletionList(QStringList& words) = 0;
     /// The insertion menu; owned by the server.
     virtual nsModEditor::EditorSupportMenu* supportMenu() = 0;
+    /// The same flag as by setLineHighlighted(), without a move to it: page, cursor, view and focus stay. A file that is not open
+    /// gets none.
+    virtual void markLine(QString path, int line) = 0;
 };

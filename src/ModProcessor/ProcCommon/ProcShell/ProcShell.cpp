@@ -29,6 +29,8 @@ ProcShell::~ProcShell() = default;
 
 void ProcShell::modInit()
 {
+    // A run that was in progress at the detachment has kept its simulator until here. It belongs to what was open then.
+    removeSim();
     if (m_asmBe == nullptr) {
         m_asmBe = createAsmBe();
         m_asmBe->setParent(this);

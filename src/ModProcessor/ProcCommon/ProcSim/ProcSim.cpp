@@ -5,6 +5,8 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimIODevice.h"
+#include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimWidgets.h"
 
@@ -103,6 +105,11 @@ void ProcSim::showWaveViewer()
         m_widgets->waveViewer = new ProcSimWaveViewer(m_config.clkFreq);
         m_waves = m_widgets->waveViewer->data();
         m_widgets->waveViewer->setBase(numberBase(m_base));
+        m_widgets->waveViewer->setPortNames(
+            [this](int addr, ProcSimWaveData::eAccessType_t access) {
+                return ProcSimPortNames::nameOf(modAsmFeHook, addr, access == ProcSimWaveData::eAccessWr);
+            },
+            [this](const QString& name) { return ProcSimPortNames::addrOf(modAsmFeHook, name); });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->waveViewer, tr("Waves"));
     }
     m_widgets->lastBottom = m_widgets->waveViewer.data();
@@ -124,6 +131,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         return false;
     }
     m_config = *config;
+    if (m_widgets->waveViewer != nullptr)
+        m_widgets->waveViewer->updatePortNames();
     nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_lineIndex);
     if (opcode == nullptr) {
         signMsg(errPcRestore);
@@ -134,7 +143,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
-    showHighlight();
+    // The user is about to edit: what he has before him stays.
+    showHighlight(false);
     return true;
 }
 
@@ -227,7 +237,12 @@ bool ProcSim::initIODevice(IODev* dev)
     const auto direction = ProcSimPorts::eDirection_t(dev->simAccessMode);
     ProcSimIOPluginIf* plugin = m_ports->addIOPlugin(type, direction, int(dev->initValue));
     plugin->setMemSize(dev->memSize);
-    plugin->setBaseAddr(int(dev->baseAddr), QString());
+    if (dev->baseAddr > uint(ProcSimIODevice::maxAddr)) {
+        plugin->setBaseAddr(ProcSimIODevice::noAddr, QString());
+        signMsg(warnIODevNoPort, dev->devName);
+    } else {
+        plugin->setBaseAddr(int(dev->baseAddr), QString());
+    }
     plugin->setName(dev->devName);
     plugin->initValue(values.data(), std::min(dev->memSize, int(values.size())));
     return true;

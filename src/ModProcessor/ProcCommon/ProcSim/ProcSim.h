@@ -259,7 +259,9 @@ private:
     void forgetOpcodes();
     /// The first of the settings that may not change during a simulation and has; empty if none.
     QString changedSetting(const ProcCoreConfig& config) const;
-    void showHighlight();
+    /// Brings the widgets up to date, and shows the line of the next instruction.
+    /// @param isFollowed the editor goes to the line; else it is only marked
+    void showHighlight(bool isFollowed = true);
     void clearHighlights();
 
     // Commands (ProcSimRun.cpp).

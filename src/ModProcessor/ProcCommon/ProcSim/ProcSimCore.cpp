@@ -112,6 +112,10 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     layout->addWidget(hLine());
     layout->addWidget(m_scrpd, 1);
 
+    // A click toggles what the program has by now, which may be more than the last picture of a run shows.
+    connect(m_carry, &ProcSimEdtBit::aboutToToggle, this, [this] { m_carry->setValue(m_data->carryBit()); });
+    connect(m_zero, &ProcSimEdtBit::aboutToToggle, this, [this] { m_zero->setValue(m_data->zeroBit()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::aboutToToggle, this, [this] { m_interrupt->setValue(m_data->interrupt()); });
     connect(m_carry, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editCarryBit(m_carry->value()); });
     connect(m_zero, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editZeroBit(m_zero->value()); });
     connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this, [this] { m_data->setInterrupt(m_interrupt->value()); });

@@ -43,13 +43,12 @@ bool ProcSim::simOpcode()
 
 bool ProcSim::enterInterrupt()
 {
-    // Without room to come back, the interrupt has to wait.
-    if (m_callStack->count() >= m_callStack->capacity()) {
+    m_core->setInterrupt(eIntService);
+    // Without room to come back, the interrupt is lost; the program can go on where it is.
+    if (!pushToCallstack(QStringLiteral("ISR"))) {
         signMsg(errCallStackOverflow);
         return false;
     }
-    m_core->setInterrupt(eIntService);
-    pushToCallstack(QStringLiteral("ISR"));
     const Opcode* before = m_pc;
     Opcode* vector = nullptr;
     if (!getOpcodeOfAddr(m_config.intVectorAddr, &vector)) {
@@ -244,13 +243,13 @@ bool ProcSim::getOpcodeOfCursor(Opcode** result)
     int line = 0;
     if (modEditorHook == nullptr || !modEditorHook->cursorLine(&path, &line))
         return false;
-    if (!modAsmFeHook->isAssembled()) {
-        signMsg(errNoOpcodeAssembled);
-        return false;
-    }
     const int fileNo = modAsmFeHook->fileHndlr()->fileNo(path);
     if (fileNo < 0) {
         signMsg(errPcNoPrjFile);
+        return false;
+    }
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
         return false;
     }
     *result = modAsmFeHook->opcodeList()->nextOfSrcRef(fileNo, line);
@@ -329,13 +328,16 @@ void ProcSim::setBreakpoints()
     m_breakpointsTaken = true;
 }
 
-void ProcSim::showHighlight()
+void ProcSim::showHighlight(bool isFollowed)
 {
     updateWidgets();
     if (m_pc == nullptr || modEditorHook == nullptr || m_core == nullptr)
         return;
     const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(m_pc->srcRef.fileNo);
-    modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    if (isFollowed)
+        modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    else
+        modEditorHook->markLine(path, m_pc->srcRef.lineNo);
 }
 
 } // namespace nsProc

@@ -39,6 +39,7 @@ void ProcSimEdtBit::setHighlightEn(bool enabled)
 
 void ProcSimEdtBit::toggle()
 {
+    emit aboutToToggle();
     setValue(1 - m_value);
     emit valueChanged();
 }

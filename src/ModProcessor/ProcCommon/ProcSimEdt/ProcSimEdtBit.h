@@ -19,6 +19,8 @@ public:
     bool isHighlighted() const { return m_highlighted; }
 
 signals:
+    /// The user is about to toggle the bit: the last moment to show the bit as it is by now.
+    void aboutToToggle();
     /// The user has toggled the bit.
     void valueChanged();
 

@@ -60,6 +60,7 @@ void ProcSimEdtInterrupt::showState()
 
 void ProcSimEdtInterrupt::toggle()
 {
+    emit aboutToToggle();
     if (m_state != eIntEnabled && m_state != eIntPending)
         return;
     setValue(m_state == eIntEnabled ? eIntPending : eIntEnabled);

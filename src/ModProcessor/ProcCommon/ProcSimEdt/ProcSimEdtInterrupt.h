@@ -21,6 +21,8 @@ public:
     static QColor color(eInt_t state);
 
 signals:
+    /// The user is about to toggle the state: the last moment to show the state as it is by now.
+    void aboutToToggle();
     /// The user has toggled between enabled and pending.
     void valueChanged();
 

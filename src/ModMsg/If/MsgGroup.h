@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ModMsgHookIf.h"
+
+namespace nsModMsg {
+
+/// Holds a message group open for one action of the user, so that what the action reports is still on the screen when it
+/// has ended: many actions let the assembler run on their way, which empties the message view unless a group is open.
+class MsgGroup
+{
+public:
+    /// What becomes of the messages of earlier actions.
+    enum eEarlier_t
+    {
+        eClearEarlier, ///< the view is emptied first, unless this action is part of another one that holds a group
+        eKeepEarlier
+    };
+
+    /// @param hook message service, may be null; not owned, and must outlive the group
+    MsgGroup(ModMsgHookIf* hook, const QString& text, eEarlier_t earlier = eClearEarlier)
+        : m_hook(hook)
+    {
+        if (m_hook == nullptr)
+            return;
+        if (earlier == eClearEarlier)
+            m_hook->clearMessages();
+        m_hook->openMessageGroup(text);
+    }
+    /// Closes the group with what end() was given, as a success if nothing was. A failed group, and one that holds a
+    /// warning or an error, stays unfolded.
+    ~MsgGroup()
+    {
+        if (m_hook != nullptr)
+            m_hook->closeMessageGroup(m_success);
+    }
+    MsgGroup(const MsgGroup&) = delete;
+    MsgGroup& operator=(const MsgGroup&) = delete;
+
+    /// Takes over how the action has ended; the last call counts. @return success
+    bool end(bool success)
+    {
+        m_success = success;
+        return success;
+    }
+
+private:
+    ModMsgHookIf* m_hook;
+    bool m_success = true;
+};
+
+} // namespace nsModMsg
