@@ -15,6 +15,7 @@
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
 
+#include <QDir>
 #include <QMenu>
 #include <QRegExp>
 #include <QStringListModel>
@@ -53,6 +54,8 @@ void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModEditor::modInit()
 {
     m_statusBar = new EditorStatusBar;
+    connect(m_statusBar, SIGNAL(lineEndSelected(int)), this, SLOT(setLineEnd(int)));
+    connect(m_statusBar, SIGNAL(markSelected(bool)), this, SLOT(setMark(bool)));
     m_syntaxHighlighterConfig = new EditorSyntaxHighlighterConfig(this);
     m_tipManager = new EditorTipManager;
     m_supportMenu = new EditorSupportMenu(this);
@@ -185,13 +188,13 @@ void ModEditor::prjOpen()
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
     for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
-        openFileWidget(modPrjHook->convToAbsPath(file));
+        openFileWidget(QDir::cleanPath(modPrjHook->convToAbsPath(file)));
     configureEditorWidgets();
     setActionState(nullptr);
     const QString lastFile = modPrjHook->value("ModEditor/lastFile", QString());
     if (lastFile.isEmpty())
         return;
-    if (EditorWidget* widget = openFileWidget(modPrjHook->convToAbsPath(lastFile)))
+    if (EditorWidget* widget = openFileWidget(QDir::cleanPath(modPrjHook->convToAbsPath(lastFile))))
         widget->setCursorPos(modPrjHook->value("ModEditor/lastCursorPos", 0));
     setActionState(currentEditorWidget());
 }

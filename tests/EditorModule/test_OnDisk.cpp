@@ -31,8 +31,16 @@ protected:
         QFile::remove(path(name));
         EXPECT_TRUE(QFile::rename(path(name + ".new"), path(name)));
     }
-    static QFrame* notice(EditorWidget* widget) { return widget->findChild<QFrame*>("noticeBar"); }
-    static bool hasNotice(EditorWidget* widget) { return notice(widget) != nullptr && !notice(widget)->isHidden(); }
+    /// The bar that stands at the upper edge, null for none.
+    static QFrame* notice(EditorWidget* widget)
+    {
+        for (QFrame* bar : widget->findChildren<QFrame*>("noticeBar")) {
+            if (!bar->isHidden())
+                return bar;
+        }
+        return nullptr;
+    }
+    static bool hasNotice(EditorWidget* widget) { return notice(widget) != nullptr; }
     static QString noticeText(EditorWidget* widget)
     {
         return hasNotice(widget) ? notice(widget)->findChild<QLabel*>("noticeBarText")->text() : QString();

@@ -138,6 +138,12 @@ void MyNoticeBar::mousePressEvent(QMouseEvent* event)
 
 void MyNoticeBar::closeByUser()
 {
+    dismiss();
+    emit closed();
+}
+
+void MyNoticeBar::dismiss()
+{
     // The keyboard goes back to what the bar stands in.
     QWidget* home = parentWidget();
     while (home != nullptr && home->focusPolicy() == Qt::NoFocus)
@@ -146,5 +152,4 @@ void MyNoticeBar::closeByUser()
         home->setFocus();
     hide();
     deleteLater();
-    emit closed();
 }

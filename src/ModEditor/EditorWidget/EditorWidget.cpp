@@ -116,6 +116,8 @@ void EditorWidget::setTextCompleterItemCount(int count)
 
 void EditorWidget::insertCompletion(const QString& completion)
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     cursor.movePosition(QTextCursor::Left);
     cursor.movePosition(QTextCursor::EndOfWord);
@@ -157,13 +159,14 @@ QString EditorWidget::text() const
 
 bool EditorWidget::isModified() const
 {
-    return m_textDocument->isModified() ||
+    return m_textDocument->isModified() || m_format != m_cleanFormat ||
            (m_openEditBlocks > 0 && m_textDocument->availableUndoSteps() != m_cleanUndoSteps);
 }
 
 void EditorWidget::clearModified()
 {
     m_cleanUndoSteps = m_textDocument->availableUndoSteps();
+    m_cleanFormat = m_format;
     m_textDocument->setModified(false);
     setModified();
 }
@@ -209,6 +212,8 @@ void EditorWidget::redo()
 
 void EditorWidget::insertText(const QString& text)
 {
+    if (isReadOnly())
+        return;
     textCursor().insertText(text);
     settleOpenEdit();
     ensureCursorVisible();
@@ -294,7 +299,10 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
 void EditorWidget::keyPressEvent(QKeyEvent* event)
 {
     settleOpenEdit();
-    handleKey(event);
+    if (isReadOnly())
+        QPlainTextEdit::keyPressEvent(event);
+    else
+        handleKey(event);
     settleOpenEdit();
 }
 
@@ -360,8 +368,9 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
 void EditorWidget::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
+    layoutNotices();
     const QRect rect = contentsRect();
-    m_leftMargin->setGeometry(rect.left(), rect.top(), leftMarginWidth(), rect.height());
+    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(), rect.height() - m_noticeHeight);
 }
 
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event)

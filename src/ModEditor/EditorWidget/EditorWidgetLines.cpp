@@ -78,6 +78,8 @@ void EditorWidget::goToNextLine()
 
 void EditorWidget::indent()
 {
+    if (isReadOnly())
+        return;
     const QTextCursor cursor = textCursor();
     const bool severalLines =
         m_textDocument->findBlock(cursor.selectionStart()) != m_textDocument->findBlock(cursor.selectionEnd());
@@ -91,6 +93,8 @@ void EditorWidget::indent()
 
 void EditorWidget::deindent()
 {
+    if (isReadOnly())
+        return;
     forSelectedLines(removeBlank);
     settleOpenEdit();
     ensureCursorVisible();
@@ -98,6 +102,8 @@ void EditorWidget::deindent()
 
 void EditorWidget::commentOut()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(insertSemicolon);
     if (walksOn)
@@ -108,6 +114,8 @@ void EditorWidget::commentOut()
 
 void EditorWidget::commentIn()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(removeSemicolon);
     if (walksOn)
@@ -118,6 +126,8 @@ void EditorWidget::commentIn()
 
 void EditorWidget::duplicateLine()
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     const QString text = cursor.block().text();
     cursor.beginEditBlock();
@@ -145,6 +155,8 @@ QTextBlock EditorWidget::lastSelectedBlock() const
 
 void EditorWidget::moveLineUp()
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     cursor.beginEditBlock();
     const QTextBlock previous = firstSelectedBlock().previous();
@@ -160,6 +172,8 @@ void EditorWidget::moveLineUp()
 
 void EditorWidget::moveLineDown()
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     cursor.beginEditBlock();
     const QTextBlock next = lastSelectedBlock().next();

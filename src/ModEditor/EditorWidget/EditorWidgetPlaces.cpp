@@ -205,12 +205,14 @@ bool EditorWidget::find(const QString& text, bool caseSensitive, bool wholeWords
 
 void EditorWidget::replace(const QString& text)
 {
-    if (hasSelection())
+    if (hasSelection() && !isReadOnly())
         insertText(text);
 }
 
 bool EditorWidget::replaceAll(const QString& text, const QString& replacement, bool caseSensitive, bool wholeWords)
 {
+    if (isReadOnly())
+        return true;
     QTextDocument::FindFlags flags;
     flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
     flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
