@@ -88,9 +88,6 @@ void EditorStatusBar::addFormat()
     connect(m_mark, &QAction::triggered, this, &EditorStatusBar::markSelected);
     layout()->addWidget(title);
     layout()->addWidget(m_format);
-    // The widest text, so that nothing moves; the height is that of the labels.
-    m_format->setText(tr("%1 with mark").arg(QStringLiteral("UTF-8")) + QStringLiteral(", mixed"));
-    m_format->setMinimumWidth(m_format->sizeHint().width());
     clearFormat();
 }
 
