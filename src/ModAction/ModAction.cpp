@@ -1,5 +1,6 @@
 #include "ModAction.h"
 
+#include "MenuKeys.h"
 #include "ModActionPluginIf.h"
 
 #include <QAction>
@@ -165,6 +166,8 @@ void ModAction::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModAction::modInit()
 {
     setupActionClasses();
+    if (m_mainWindow != nullptr && m_menuKeys == nullptr)
+        m_menuKeys = new MenuKeys(m_mainWindow);
 }
 
 void ModAction::modRun()

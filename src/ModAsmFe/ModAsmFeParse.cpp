@@ -282,7 +282,11 @@ QString ModAsmFe::parseLineNaviTagLineRef(QString* line, const QString& word)
         if (expression.indexIn(*line) >= 0)
             return expression.cap(0);
     }
-    return *line;
+    // The line break is no part of the text that a document can find.
+    QString text = *line;
+    while (text.endsWith('\n') || text.endsWith('\r'))
+        text.chop(1);
+    return text;
 }
 
 } // namespace nsModAsmFe

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <limits>
 #include <memory>
 
 namespace nsProc {
@@ -107,8 +108,17 @@ protected:
     virtual ProcCoreConfig defaultConfig() const = 0;
     /// A new settings widget; the shell takes the ownership.
     virtual ProcConfigWidget* createConfigWidget() = 0;
-    /// The keys in the order of the file, with the fields of the settings that hold them; null for the clock frequency.
-    virtual QList<QPair<QString, int*>> cfgNumbers(ProcCoreConfig* settings) const;
+    /// A number of the settings in the project. Out of its range it is taken as the nearest number in it; what the
+    /// assembler checks with a message of its own has a range that leaves this to it.
+    struct sCfgNumber
+    {
+        QString key;
+        int* value; ///< null for the clock frequency
+        int min = 0;
+        int max = std::numeric_limits<int>::max();
+    };
+    /// The keys in the order of the file, with the fields of the settings that hold them.
+    virtual QList<sCfgNumber> cfgNumbers(ProcCoreConfig* settings) const;
 
 private:
     bool simEnable();
