@@ -27,6 +27,7 @@
 #include <QString>
 
 class MyNoticeBar;
+class QPrinter;
 class QStringListModel;
 
 namespace nsModEditor {
@@ -43,7 +44,8 @@ class EditorWidget;
 /// All open documents: opens, reloads, saves, prints and closes them, and leads other modules to their lines.
 ///
 /// A document is a page in the centre of the window. Its file is watched: a document without changes of its own follows it, any
-/// other one says so at its upper edge, and is not written over a file that others have changed without a question. Questions to the user are modal and nest the event loop.
+/// other one says so at its upper edge, and is not written over a file that others have changed without a question. Questions to
+/// the user are modal and nest the event loop.
 class ModEditor : public QObject,
                   public ModEditorHookIf,
                   public ModPluginIf,
@@ -139,7 +141,7 @@ public:
 
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
-    void srcFileContentChanged() override {}
+    void srcFileContentChanged() override { clearMessageFlag(); }
 
     // ModFindReplacePluginIf
     QString findInit() override;
@@ -155,6 +157,8 @@ public:
     /// Open documents in the order of their creation. Owned.
     const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
     EditorStatusBar* statusBar() const;
+    /// Prints the document, or what is selected in it, as the printer is set.
+    void printFile(EditorWidget* widget, QPrinter* printer);
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -195,6 +199,7 @@ private slots:
     // What the user chooses in the status bar.
     void setLineEnd(int lineEnd);
     void setMark(bool mark);
+    void openDroppedFiles(const QStringList& paths);
 
 private:
     // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
@@ -261,6 +266,7 @@ private:
     void setFileContentChanged();
     void chkProjectMembership(const QString& path);
     QString convToRelPath(const QString& path) const;
+    static int lineOf(const QUrl& url);
     void showError(const QString& text);
     void showWarning(const QString& text);
 
@@ -269,6 +275,8 @@ private:
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
     void setActionState(EditorWidget* current);
+    void updateActionState();
+    void clearMessageFlag();
     void setFindParameter();
     void find(bool configChanged, bool backward);
 
@@ -292,6 +300,7 @@ private:
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     bool m_simEnabled = false;
+    bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
     bool m_errorShown = false; ///< the present action of the user has reported an error
 };
 

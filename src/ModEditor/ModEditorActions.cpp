@@ -100,6 +100,9 @@ void ModEditor::handleActions(EditorActionsEdit::eAction_t action)
     case EditorActionsEdit::eActionMoveLineDown:
         widget->moveLineDown();
         break;
+    case EditorActionsEdit::eActionResetZoom:
+        widget->resetZoom();
+        break;
     }
 }
 
@@ -142,7 +145,7 @@ void ModEditor::setActionState(EditorWidget* current)
                               EditorActionsFile::eActionClose})
         m_actionsFile->setEnabled(action, true);
     m_actionsFile->setEnabled(EditorActionsFile::eActionCloseOthers, m_editorWidgets.size() > 1);
-    for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionMoveLineDown; ++action)
+    for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
     if (modClipboardHook != nullptr)
@@ -150,10 +153,19 @@ void ModEditor::setActionState(EditorWidget* current)
     setActionStateEditorWidget(current);
 }
 
+/// What is offered belongs to the page that is shown now.
+void ModEditor::updateActionState()
+{
+    setActionState(currentEditorWidget());
+}
+
 void ModEditor::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    if (location == ModGuiHookIf::eLocationTabs && modPrjHook != nullptr && modPrjHook->isValid())
+    // When the last page has gone there is no widget, so no area is named either.
+    if (location == ModGuiHookIf::eLocationTabs)
         setActionState(qobject_cast<EditorWidget*>(widget));
+    else if (widget == nullptr)
+        updateActionState();
 }
 
 void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
@@ -318,7 +330,9 @@ void ModEditor::replace(bool configChanged)
         return;
     if (modFindReplaceHook != nullptr)
         m_findParameter.replaceString = modFindReplaceHook->replaceString();
-    widget->replace(m_findParameter.replaceString);
+    // What the user has selected meanwhile is not what the search found.
+    if (widget->isHit(m_findParameter.findString, m_findParameter.caseSensitive, m_findParameter.wholeWords))
+        widget->replace(m_findParameter.replaceString);
     findNext(configChanged);
 }
 

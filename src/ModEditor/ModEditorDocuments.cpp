@@ -76,6 +76,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
         modFindReplaceHook->unregisterPluginWidget(widget);
     delete widget;
     watchDocuments();
+    updateActionState();
 }
 
 void ModEditor::focusCurrentWidget()
@@ -122,6 +123,13 @@ void ModEditor::openFilesByDialog()
         return;
     for (const QString& path : dialog.selectedFiles())
         openFile(path);
+}
+
+void ModEditor::openDroppedFiles(const QStringList& paths)
+{
+    for (const QString& path : paths)
+        openFile(path);
+    focusCurrentWidget();
 }
 
 bool ModEditor::selectFile(QString path)
@@ -321,7 +329,14 @@ void ModEditor::printFile(EditorWidget* widget)
     dialog.setWindowTitle(tr("Print Document"));
     dialog.setOption(QAbstractPrintDialog::PrintSelection, widget->hasSelection());
     if (dialog.exec() == QDialog::Accepted && m_editorWidgets.contains(widget))
-        widget->print(&printer);
+        printFile(widget, &printer);
+}
+
+void ModEditor::printFile(EditorWidget* widget, QPrinter* printer)
+{
+    const QString name = widget->filePath().isEmpty() ? tr("Untitled") : convToRelPath(widget->filePath());
+    if (!PrintedPages::print(widget->printJob(name, printer->printRange() == QPrinter::Selection), printer))
+        showError(tr("Can not print: ") + name);
 }
 
 void ModEditor::printFile()
@@ -345,20 +360,27 @@ void ModEditor::setCursorToLine(QString path, int line)
         showError(tr("Can not select line!"));
 }
 
+/// The line that a link names in its fragment, counted from 0.
+int ModEditor::lineOf(const QUrl& url)
+{
+    return url.fragment().toInt();
+}
+
 void ModEditor::setCursorToLine(QUrl url)
 {
-    setCursorToLine(url.path(), url.fragment().toInt());
+    setCursorToLine(url.path(), lineOf(url));
 }
 
 void ModEditor::clearLineHighlited()
 {
+    m_isMessageFlagged = false;
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearLineHighlighted();
 }
 
 void ModEditor::setLineHighlighted(QUrl url)
 {
-    setLineHighlighted(url.path(), url.fragment().toInt());
+    setLineHighlighted(url.path(), lineOf(url));
 }
 
 void ModEditor::setLineHighlighted(QString path, int line)

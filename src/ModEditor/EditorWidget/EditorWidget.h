@@ -3,6 +3,7 @@
 #include "DocumentFormat.h"
 #include "EditorMemPageAddrMap.h"
 #include "LineMarks.h"
+#include "PrintedPages.h"
 
 #include <QColor>
 #include <QPlainTextEdit>
@@ -22,7 +23,6 @@ class MyNoticeBar;
 
 namespace nsModEditor {
 
-class EditorDocumentLayout;
 class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
@@ -71,6 +71,10 @@ public:
     bool isRedoAvailable() const;
     /// Inserts at the cursor, in place of the selection if there is one.
     void insertText(const QString& text);
+    /// What is to be printed, in the font of the settings.
+    /// @param name what the pages call the document
+    /// @param selectionOnly the selected text and no other, if there is some
+    sPrintJob printJob(const QString& name, bool selectionOnly) const;
     /// Brings the formats of all lines up to date with the rules.
     void rehighlight();
 
@@ -89,10 +93,12 @@ public:
     void addNotice(MyNoticeBar* bar);
 
     // ---- Look and behaviour (EditorWidget.cpp)
-    /// The point size becomes the font size of the document.
+    /// The point size and the zoom of the document make its font size.
     void setFont(const QFont& font);
-    /// Points; the wheel changes it without a bound.
+    /// Points, from EditorConfig::minFontSize to EditorConfig::maxFontSize; the wheel with Ctrl changes it.
     int fontSize() const { return m_fontSize; }
+    /// Back to the size of the font that was set.
+    void resetZoom();
     /// @param indent width of a tab in characters
     void setTabIndent(int indent);
     void setDynamicLineWrapEn(bool enabled);
@@ -116,15 +122,15 @@ public:
     /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
     void commentIn();
     void duplicateLine();
-    /// Exchanges the selected lines with the one above. On the first line the step to undo that was begun stays open:
-    /// what follows is undone together, until the text is set anew.
+    /// Exchanges the selected lines with the one above; nothing on the first line.
     void moveLineUp();
-    /// Exchanges the selected lines with the one below. On the last line as moveLineUp() on the first.
+    /// Exchanges the selected lines with the one below; nothing on the last line.
     void moveLineDown();
 
     // ---- Places (EditorWidgetPlaces.cpp)
     void setCursorToLine(int line);
-    /// Selects the text where the document has it exactly once; goes to the line otherwise.
+    /// Selects the text where the document has it exactly once; goes to the line otherwise. A name with a colon is a
+    /// label: it is found at the start of a line, of several the one nearest to the line.
     void setCursorToLine(const QString& text, int line);
     int cursorLine() const;
     /// Position in characters from the start of the document.
@@ -137,6 +143,8 @@ public:
     void clearLineHighlighted();
     /// @return whether the text was found; it is selected then
     bool find(const QString& text, bool caseSensitive, bool wholeWords, bool backward, eFindOrigin_t origin);
+    /// The selection is what a search for the text finds there.
+    bool isHit(const QString& text, bool caseSensitive, bool wholeWords) const;
     /// Replaces the selection; does nothing without one.
     void replace(const QString& text);
     /// One step to undo. @return always true
@@ -198,10 +206,14 @@ signals:
     void clearAllBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
+    /// Files were dropped on the document.
+    void filesDropped(const QStringList& paths);
 
 protected:
     bool event(QEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -232,8 +244,8 @@ private:
     void initLeftMargin();
     void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
-    void handleKey(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
+    void applyFont(const QFont& font);
     void setSelectionMarks(const QString& text);
     void rehighlightVisible();
     void setHighlightLinesToEditor();
@@ -243,9 +255,7 @@ private:
     void exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up);
     QTextBlock firstSelectedBlock() const;
     QTextBlock lastSelectedBlock() const;
-    void leaveEditBlockOpen();
-    void closeOpenEditBlocks();
-    void settleOpenEdit();
+    bool goToLabel(const QString& label, int line);
 
     void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
     void paintMemPageAddr(QPainter* painter, int top, int addr);
@@ -256,7 +266,6 @@ private:
     const int m_marginSpace = 2; ///< air in all formulas of the margin, in pixels
 
     QTextDocument* m_textDocument;
-    EditorDocumentLayout* m_layout;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
     EditorWidgetLeftMargin* m_leftMargin = nullptr;
     QCompleter* m_completer = nullptr;
@@ -269,7 +278,9 @@ private:
     int m_noticeHeight = 0; ///< pixels
 
     int m_tabIndent = 4;
-    int m_fontSize = 0;
+    int m_baseFontSize = 0; ///< points, of the font that was set
+    int m_zoom = 0;         ///< points that the user has added
+    int m_fontSize = 0;     ///< points, what comes of both
     bool m_autoReturnIndentEn = false;
     bool m_textCompletionEn = false;
     int m_textCompleterPrefixLength = 3;
@@ -300,11 +311,6 @@ private:
     QColor m_simBreakpointSymbolColor = Qt::red;
     QColor m_simStartPointerSymbolColor = Qt::green;
     QColor m_bookmarkSymbolColor = Qt::darkYellow;
-
-    /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead.
-    int m_openEditBlocks = 0;
-    int m_cleanUndoSteps = 0;
-    QString m_openEditState;
 };
 
 } // namespace nsModEditor

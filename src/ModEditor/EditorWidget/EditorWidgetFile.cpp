@@ -67,7 +67,6 @@ void EditorWidget::changeText(const QString& text)
     const QString before = this->text();
     if (before == text)
         return;
-    closeOpenEditBlocks();
     const sChange_t change = changeBetween(before, text);
     const int position = textCursor().position();
     const int anchor = textCursor().anchor();

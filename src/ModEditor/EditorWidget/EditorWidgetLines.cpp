@@ -87,7 +87,6 @@ void EditorWidget::indent()
         forSelectedLines(insertTab);
     else
         textCursor().insertText("\t");
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -96,7 +95,6 @@ void EditorWidget::deindent()
     if (isReadOnly())
         return;
     forSelectedLines(removeBlank);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -108,7 +106,6 @@ void EditorWidget::commentOut()
     forSelectedLines(insertSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -120,7 +117,6 @@ void EditorWidget::commentIn()
     forSelectedLines(removeSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -136,7 +132,6 @@ void EditorWidget::duplicateLine()
     cursor.insertText(text);
     cursor.endEditBlock();
     setTextCursor(cursor);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -157,16 +152,10 @@ void EditorWidget::moveLineUp()
 {
     if (isReadOnly())
         return;
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
     const QTextBlock previous = firstSelectedBlock().previous();
-    if (!previous.isValid()) {
-        leaveEditBlockOpen();
+    if (!previous.isValid())
         return;
-    }
     exchangeLines(previous, lastSelectedBlock(), true);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -174,16 +163,10 @@ void EditorWidget::moveLineDown()
 {
     if (isReadOnly())
         return;
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
     const QTextBlock next = lastSelectedBlock().next();
-    if (!next.isValid()) {
-        leaveEditBlockOpen();
+    if (!next.isValid())
         return;
-    }
     exchangeLines(firstSelectedBlock(), next, false);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -201,7 +184,9 @@ void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last
     const int split = up ? text.indexOf(separator) : text.lastIndexOf(separator);
     const QString head = text.left(split);
     const QString tail = text.mid(split + 1);
+    cursor.beginEditBlock();
     cursor.insertText(tail + separator + head);
+    cursor.endEditBlock();
 
     const int shift = up ? -(head.length() + 1) : tail.length() + 1;
     const int end = m_textDocument->characterCount() - 1;
