@@ -50,10 +50,8 @@ inline QPixmap expectReadable(QWidget* root)
         if (scrolls && seen.size() != widget->size())
             continue;
         EXPECT_TRUE(QRegion(widget->rect()).subtracted(widget->visibleRegion()).isEmpty()) << "hidden in part: " << qPrintable(text);
-        // A widget that shortens its text by itself asks for no width.
-        const int asked = widget->minimumSizeHint().width();
-        const int needed = Qt::mightBeRichText(text) ? asked
-                                                     : qMin(asked, widget->fontMetrics().size(Qt::TextShowMnemonic, text).width());
+        const int needed = Qt::mightBeRichText(text) ? widget->minimumSizeHint().width()
+                                                     : widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
         // A line that takes any width shortens its text by itself, with an ellipsis.
         if (widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
             EXPECT_GE(widget->width(), needed) << "cut off: " << qPrintable(text);
