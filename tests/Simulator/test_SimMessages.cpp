@@ -68,6 +68,11 @@ protected:
                     "Can not restore program counter. Please set manually from cursor."};
         case nsProc::errPcNoPrjFile:
             return {"XPBlze3", {"NOP", "end: JUMP end"}, "The current file not part of the project.", 0};
+        case nsProc::warnIODevNoPort:
+            return {"XPBlze3",
+                    {"NOP", "#SET IODEV::far::EN, TRUE", "#SET IODEV::far::TYPE, REG", "#SET IODEV::far::SIZE, 1",
+                     "#SET IODEV::far::SIMEN, TRUE", "#SET IODEV::far::BASEADDR, 0x10000"},
+                    "The address of IO device IODEV::far does not fit into 16 bits. It answers at no port."};
         case nsProc::eSimMsgCount:
             break;
         }
@@ -100,6 +105,11 @@ protected:
             reload(msg);
             sim()->takeLastMsg();
             sim()->simNextInstruction();
+            return;
+        case nsProc::warnIODevNoPort:
+            // It was told at the start: start again.
+            sim()->simExit();
+            EXPECT_TRUE(sim()->simInit(shell()->runConfig()));
             return;
         case nsProc::errRegRd:
             // No source makes this: the assembler gives numbers of registers from 0 on, and the count is checked apart.

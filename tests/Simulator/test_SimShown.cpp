@@ -212,7 +212,7 @@ TEST_P(SimBase, ReachesAllThatIsShown)
     trigger(base.action);
     EXPECT_EQ(fieldText("Register s0"), base.reg);
     EXPECT_EQ(
-        field("Address of the next instruction. To go elsewhere, set the program counter from the text cursor.") !=
+        field("Address of the next instruction. Another one that is typed in takes effect with Return.") !=
             nullptr,
         true);
     bool isPcShown = false;
