@@ -28,13 +28,13 @@ using nsProc::ProcSimIOPluginIf;
 using nsProc::ProcSimPorts;
 using Data = nsProc::ProcSimWaveData;
 
-/// The widget of a class with this tool tip that is shown below a parent, such as in the selected bank; null if there
+/// The first widget of a class whose tool tip begins so that is shown below a parent, such as in the selected bank; null if there
 /// is none.
 template <class Widget>
 Widget* byToolTip(const QWidget* parent, const QString& toolTip)
 {
     for (Widget* candidate : parent->findChildren<Widget*>()) {
-        if (candidate->toolTip() == toolTip && candidate->isVisibleTo(parent))
+        if (candidate->toolTip().startsWith(toolTip) && candidate->isVisibleTo(parent))
             return candidate;
     }
     return nullptr;

@@ -117,16 +117,18 @@ TEST_F(SimWaves, WhatIsNeitherNumberNorConstantIsRefusedInSight)
         type(text);
         EXPECT_TRUE(viewer->data()->isEmpty()) << text.toStdString();
         EXPECT_EQ(field->text(), text);
-        EXPECT_EQ(message(), "\"" + text + "\" is neither an address from 00 to FF nor a constant with such a value.");
+        EXPECT_EQ(message(), "No address from 00 to FF: \"" + text + "\"");
         EXPECT_TRUE(isRefused()) << text.toStdString();
         EXPECT_TRUE(field->hasFocus());
     }
     // These are constants, but no ports.
     type("BAUD");
-    EXPECT_EQ(message(), "\"BAUD\" is neither an address from 00 to FF nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to FF: \"BAUD\"");
+    EXPECT_EQ(viewer->findChild<QLabel*>("statusBarTitle")->toolTip(),
+              "\"BAUD\" is neither an address from 00 to FF nor a constant with such a value.");
     EXPECT_TRUE(isRefused());
     type("KEYS");
-    EXPECT_EQ(message(), "\"KEYS\" is neither an address from 00 to FF nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to FF: \"KEYS\"");
     EXPECT_TRUE(viewer->data()->isEmpty());
     // The sign goes as soon as the text changes.
     QTest::keyClicks(field, "x");
@@ -189,6 +191,7 @@ TEST_F(SimWaves, NamesFollowTheProgram)
     EXPECT_EQ(ports().first(), "Write LAMPS");
     type("LAMPS");
     EXPECT_TRUE(isRefused());
+    screenshot("sim-waves-refused", viewer);
     type("7");
     EXPECT_EQ(ports().last(), "Write 07");
 }
