@@ -161,7 +161,7 @@ TEST_F(SimWaves, APortHasTheNameThatTheProgramHasForIt)
     EXPECT_EQ(ports(), (QStringList{"Write PORT_LEDS", "Read 05", "Write uart::DATA", "Read uart::DATA"}));
     EXPECT_EQ(wires(),
               (QStringList{"port_05_wr_PORT_LEDS", "port_05_rd", "port_10_wr_uart__DATA", "port_10_rd_uart__DATA"}));
-    EXPECT_EQ(tree->topLevelItem(0)->toolTip(0), "Write 05");
+    EXPECT_EQ(tree->topLevelItem(0)->toolTip(0), "Write 05, PORT_LEDS");
     EXPECT_EQ(tree->topLevelItem(0)->child(0)->text(0), "[7]");
     // An access by a register does not rename it.
     for (int step = 0; step < 4; ++step)

@@ -230,7 +230,8 @@ QWidget* ProcSimWaveViewer::makePanes()
     }
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({200, 800});
+    // Names of usual length are to be seen in full.
+    splitter->setSizes({280, 800});
     return splitter;
 }
 
