@@ -175,6 +175,7 @@ public:
         completion = words;
     }
     nsModEditor::EditorSupportMenu* supportMenu() override { return withMenu ? &menu : nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
     QStringList* calls;
     std::unique_ptr<nsModEditor::EditorMemPageAddrMap> map;

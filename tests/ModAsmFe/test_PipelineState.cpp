@@ -400,6 +400,37 @@ TEST(PipelineBackEnd, oneAtATime)
     EXPECT_EQ(f.errors().last(), QString("errNoAsmBe"));
 }
 
+template <class Plugin>
+void checkStrangers(ModAsmFeHookIf* hook, Plugin* known, Plugin* stranger)
+{
+    stranger->modAsmFeHook = hook;
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(stranger);
+    EXPECT_EQ(stranger->modAsmFeHook, hook) << "with nobody registered";
+    hook->registerPlugin(known);
+    EXPECT_EQ(known->modAsmFeHook, hook);
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(stranger);
+    EXPECT_EQ(stranger->modAsmFeHook, hook);
+    EXPECT_EQ(known->modAsmFeHook, hook);
+    hook->unregisterPlugin(known);
+    EXPECT_EQ(known->modAsmFeHook, nullptr);
+}
+
+TEST(PipelineClients, nullAndStrangersThatLeaveChangeNothing)
+{
+    AsmFixture f(AsmFixture::partEditor);
+    ModAsmFePluginIf known;
+    ModAsmFePluginIf stranger;
+    checkStrangers<ModAsmFePluginIf>(&f.asmFe, &known, &stranger);
+    FakeBackend otherBe(&f.calls);
+    checkStrangers<ModAsmFePluginIfBackend>(&f.asmFe, &f.be, &otherBe);
+    f.asmFe.registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(nullptr));
+    f.asmFe.unregisterPlugin(static_cast<ModAsmFePluginIfInterMod*>(nullptr));
+}
+
 TEST(PipelineBackEnd, withoutTables)
 {
     class Bare : public FakeBackend
