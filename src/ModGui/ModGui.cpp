@@ -483,9 +483,12 @@ void ModGui::rdAppCfg()
         return;
     const QRect first = WindowPlace::first(m_window);
     const QSize size(modCfgAppHook->value(keyWidth, first.width()), modCfgAppHook->value(keyHeight, first.height()));
-    const QPoint position(modCfgAppHook->value(keyX, first.x()), modCfgAppHook->value(keyY, first.y()));
-    const QRect geometry =
-        WindowPlace::reachable(QRect(position, size.expandedTo(WindowPlace::smallest)), m_window);
+    const auto place = [this](const QString& key, int dflt) {
+        return qBound(-WindowPlace::farthest, modCfgAppHook->value(key, dflt), WindowPlace::farthest);
+    };
+    const QPoint position(place(keyX, first.x()), place(keyY, first.y()));
+    const QRect geometry = WindowPlace::reachable(
+        QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), m_window);
     m_window->setGeometry(geometry);
     m_window->setIconSize(windowIconSize);
     if (modCfgAppHook->value(keyMaximized, 0) == 1)

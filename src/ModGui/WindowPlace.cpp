@@ -41,6 +41,8 @@ QRect centered(const QSize& size, const QRect& area, int title)
 } // namespace
 
 const QSize WindowPlace::smallest(800, 600);
+const QSize WindowPlace::largest(8192, 8192);
+const int WindowPlace::farthest = 32767;
 
 QRect WindowPlace::first(const QWidget* window)
 {

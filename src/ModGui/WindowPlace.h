@@ -17,6 +17,8 @@ public:
     static QRect reachable(const QRect& stored, const QWidget* window);
 
     static const QSize smallest; ///< of the client area
+    static const QSize largest;  ///< of the client area, more than any desk has room for
+    static const int farthest;   ///< coordinate of its place that a stored one is taken as, in pixels
 };
 
 } // namespace nsModGui

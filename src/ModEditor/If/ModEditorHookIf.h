@@ -66,7 +66,8 @@ public:
     virtual void closeOtherFiles() = 0;
     virtual void closeFile() = 0;
     virtual void printFile() = 0;
-    /// Moves the cursor to the line that holds the text, else to the line number.
+    /// Moves the cursor to the text where the file has it exactly once, else to the line number. A name with a colon is a
+    /// label: of the lines that begin with it the nearest one is meant.
     virtual void setCursorToLine(QString path, QString lineRef, int line) = 0;
     virtual void setCursorToLine(QString path, int line) = 0;
     /// @param url scheme "file", the line as fragment
@@ -98,4 +99,6 @@ public:
     /// The same flag as by setLineHighlighted(), without a move to it: page, cursor, view and focus stay. A file that is not open
     /// gets none.
     virtual void markLine(QString path, int line) = 0;
+    /// Differs from what it was when simBreakpoints() may do so. Cheap enough to be asked before each simulated instruction.
+    virtual int simBreakpointsRevision() = 0;
 };
