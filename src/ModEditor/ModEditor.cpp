@@ -15,6 +15,7 @@
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
 
+#include <QDir>
 #include <QMenu>
 #include <QRegExp>
 #include <QStringListModel>
@@ -53,6 +54,8 @@ void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModEditor::modInit()
 {
     m_statusBar = new EditorStatusBar;
+    connect(m_statusBar, SIGNAL(lineEndSelected(int)), this, SLOT(setLineEnd(int)));
+    connect(m_statusBar, SIGNAL(markSelected(bool)), this, SLOT(setMark(bool)));
     m_syntaxHighlighterConfig = new EditorSyntaxHighlighterConfig(this);
     m_tipManager = new EditorTipManager;
     m_supportMenu = new EditorSupportMenu(this);
@@ -184,11 +187,13 @@ void ModEditor::prjOpen()
     // The one value on the page that belongs to the project as well.
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
+    // One file has one path, also outside of the project's folder.
+    const auto fileOf = [this](const QString& path) { return QDir::cleanPath(modPrjHook->convToAbsPath(path)); };
     for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
-        openFileWidget(modPrjHook->convToAbsPath(file));
+        openFileWidget(fileOf(file));
     configureEditorWidgets();
     const QString lastFile = modPrjHook->value("ModEditor/lastFile", QString());
-    EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(modPrjHook->convToAbsPath(lastFile));
+    EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(modPrjHook->value("ModEditor/lastCursorPos", 0));
     // Without a last file, too, there is a page that is shown.

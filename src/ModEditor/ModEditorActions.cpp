@@ -122,6 +122,8 @@ void ModEditor::setActionState(EditorWidget* current)
 {
     if (m_actionsFile == nullptr)
         return;
+    if (!m_editorWidgets.contains(current))
+        m_statusBar->clearFormat();
     m_actionsFile->setEnabled(false);
     m_actionsEdit->setEnabled(false);
     m_supportMenu->setEnabled(false);
@@ -178,6 +180,7 @@ void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
             widget->hasSelection());
     m_statusBar->setFontSize(widget->fontSize());
     m_statusBar->setOverwrite(widget->overwriteMode());
+    m_statusBar->setFormat(widget->format(), !widget->isReadOnly());
 }
 
 void ModEditor::setModifiedState(EditorWidget* widget)
@@ -211,13 +214,14 @@ bool ModEditor::simStartPointer(QString* path, int* line)
 void ModEditor::setSimBreakpointsChanged()
 {
     m_simBreakpointsChangedFlag = true;
+    ++m_simBreakpointsRevision;
 }
 
 void ModEditor::clearSimBreakpoints()
 {
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearSimBreakpoints();
-    m_simBreakpointsChangedFlag = true;
+    setSimBreakpointsChanged();
 }
 
 void ModEditor::clearAllSimStartPointer()

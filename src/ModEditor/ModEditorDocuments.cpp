@@ -67,7 +67,9 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
-    m_latin1Widgets.remove(widget);
+    // Its breakpoints go with it.
+    ++m_simBreakpointsRevision;
+    m_disk.remove(widget);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(widget);
     if (modClipboardHook != nullptr)
@@ -75,6 +77,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     if (modFindReplaceHook != nullptr)
         modFindReplaceHook->unregisterPluginWidget(widget);
     delete widget;
+    watchDocuments();
     updateActionState();
 }
 
@@ -98,14 +101,11 @@ EditorWidget* ModEditor::openFileWidget(const QString& path)
             return widget;
         }
     }
-    QString text;
-    bool isLatin1 = false;
-    if (!readFile(path, &text, &isLatin1))
+    QByteArray bytes;
+    if (!readFile(path, &bytes))
         return nullptr;
     QPointer<EditorWidget> widget = newEditorWidget(path);
-    if (isLatin1)
-        m_latin1Widgets.insert(widget);
-    widget->setText(text);
+    showContent(widget, bytes);
     // The question that this can ask lets the user close the page meanwhile.
     chkProjectMembership(path);
     return m_editorWidgets.contains(widget) ? widget.data() : nullptr;
@@ -152,11 +152,7 @@ bool ModEditor::saveFile(EditorWidget* widget)
         return false;
     if (widget->filePath().isEmpty())
         return saveFileAs(widget);
-    if (!writeFile(widget->filePath(), encoded(widget)))
-        return false;
-    widget->clearModified();
-    setActionStateEditorWidget(widget);
-    return true;
+    return saveChecked(widget);
 }
 
 /// Does what the user has asked for in a message group, so that its reports outlive the run that it may start. An error
@@ -186,7 +182,8 @@ void ModEditor::saveAllFiles()
         // A dialog for an untitled document lets the user close pages meanwhile.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
-            if (m_editorWidgets.contains(widget))
+            // A file that the user has not touched here is left to whoever may have changed or removed it.
+            if (m_editorWidgets.contains(widget) && (widget->isModified() || !m_disk.value(widget).onDisk.isKnown()))
                 saveFile(widget);
         }
         setFileContentChanged();
@@ -208,10 +205,12 @@ bool ModEditor::saveFileAs(EditorWidget* widget)
     if (names.size() != 1 || names.first().isEmpty())
         return false;
     const QString name = names.first();
+    if (!canSaveAs(widget, name))
+        return false;
     m_lastPath = QFileInfo(name).absolutePath();
-    widget->setFilePath(name);
+    setNewPath(widget, name);
     chkProjectMembership(name);
-    if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+    if (!m_editorWidgets.contains(widget) || !writeDocument(widget))
         return false;
     if (modGuiHook != nullptr)
         modGuiHook->setWidgetName(widget, convToRelPath(name));
@@ -233,9 +232,11 @@ bool ModEditor::saveFileAs(QString path)
     if (path.isEmpty() || widget == nullptr)
         return false;
     return inGroup(tr("Saving..."), [this, widget, path] {
-        widget->setFilePath(path);
+        if (!canSaveAs(widget, path))
+            return false;
+        setNewPath(widget, path);
         chkProjectMembership(path);
-        if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+        if (!m_editorWidgets.contains(widget) || !writeDocument(widget))
             return false;
         if (modGuiHook != nullptr)
             modGuiHook->setWidgetName(widget, convToRelPath(path));
@@ -251,14 +252,9 @@ void ModEditor::reloadFile(EditorWidget* widget)
     const QString path = widget->filePath();
     if (widget->isModified() && !askForReload(path))
         return;
-    QString text;
-    bool isLatin1 = false;
-    if (!m_editorWidgets.contains(widget) || !readFile(path, &text, &isLatin1))
-        return;
-    m_latin1Widgets.remove(widget);
-    if (isLatin1)
-        m_latin1Widgets.insert(widget);
-    widget->setText(text);
+    QByteArray bytes;
+    if (m_editorWidgets.contains(widget) && readFile(path, &bytes))
+        showContent(widget, bytes);
 }
 
 void ModEditor::reloadFile()

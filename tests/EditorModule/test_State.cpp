@@ -59,7 +59,8 @@ TEST_F(State, closingTheLastDocumentTurnsThemOffAgain)
 {
     focus(open("a.psm"));
     editor.closeFile();
-    editor.setFocus(ModGuiHookIf::eLocationTabs, nullptr, nullptr);
+    // What the window sends when its centre has become empty: there is no area that no page stands in.
+    editor.setFocus(ModGuiHookIf::eLocationNone, nullptr, nullptr);
     for (const char* text : {"Save all", "Reload all", "Close all", "Save"})
         EXPECT_FALSE(enabled(text)) << text;
     EXPECT_TRUE(enabled("New..."));
@@ -207,6 +208,35 @@ TEST_F(State, changedFlagOfBreakpointsStays)
     EXPECT_TRUE(editor.simBreakpointsChanged());
     editor.prjClose();
     EXPECT_TRUE(editor.simBreakpointsChanged());
+}
+
+TEST_F(State, revisionOfBreakpointsGoesWithEachChangeOfThem)
+{
+    open("b.psm", "0\n1\n2\n");
+    auto* widget = open("a.psm", "0\n1\n2\n");
+    QMap<QString, QList<int>> known = editor.simBreakpoints();
+    int revision = editor.simBreakpointsRevision();
+    const auto isNoticed = [&] {
+        const bool isOther = editor.simBreakpoints() != known;
+        const bool isTold = editor.simBreakpointsRevision() != revision;
+        known = editor.simBreakpoints();
+        revision = editor.simBreakpointsRevision();
+        return isOther && isTold;
+    };
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(1);
+    EXPECT_TRUE(isNoticed());
+    ASSERT_TRUE(editor.saveFileAs(path("c.psm")));
+    EXPECT_TRUE(isNoticed());
+    emit widget->clearAllBreakpoints();
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(0);
+    EXPECT_TRUE(isNoticed());
+    editor.closeFile();
+    EXPECT_TRUE(isNoticed());
 }
 
 TEST_F(State, startMarkStandsInOneDocumentOnly)

@@ -146,6 +146,8 @@ void EditorWidget::setTextCompleterItemCount(int count)
 
 void EditorWidget::insertCompletion(const QString& completion)
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     cursor.movePosition(QTextCursor::Left);
     cursor.movePosition(QTextCursor::EndOfWord);
@@ -156,6 +158,9 @@ void EditorWidget::insertCompletion(const QString& completion)
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
+    // They are breakpoints of another file now.
+    if (!m_simBreakpoints.lines().isEmpty())
+        emit simBreakpointChanged();
 }
 
 void EditorWidget::setText(const QString& text)
@@ -186,11 +191,12 @@ QString EditorWidget::text() const
 
 bool EditorWidget::isModified() const
 {
-    return m_textDocument->isModified();
+    return m_textDocument->isModified() || m_format != m_cleanFormat;
 }
 
 void EditorWidget::clearModified()
 {
+    m_cleanFormat = m_format;
     m_textDocument->setModified(false);
     setModified();
 }
@@ -234,6 +240,8 @@ void EditorWidget::redo()
 
 void EditorWidget::insertText(const QString& text)
 {
+    if (isReadOnly())
+        return;
     textCursor().insertText(text);
     ensureCursorVisible();
 }
@@ -369,6 +377,10 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         event->ignore();
         return;
     }
+    if (isReadOnly()) {
+        QPlainTextEdit::keyPressEvent(event);
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
         insertAutoReturnIndent(event);
@@ -428,8 +440,9 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
 void EditorWidget::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
+    layoutNotices();
     const QRect rect = contentsRect();
-    m_leftMargin->setGeometry(rect.left(), rect.top(), leftMarginWidth(), rect.height());
+    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(), rect.height() - m_noticeHeight);
 }
 
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event)

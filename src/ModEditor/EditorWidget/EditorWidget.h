@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentFormat.h"
 #include "EditorMemPageAddrMap.h"
 #include "LineMarks.h"
 #include "PrintedPages.h"
@@ -18,9 +19,11 @@ class QPainter;
 class QStringListModel;
 class QTextBlock;
 class QTimer;
+class MyNoticeBar;
 
 namespace nsModEditor {
 
+class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
@@ -74,6 +77,20 @@ public:
     sPrintJob printJob(const QString& name, bool selectionOnly) const;
     /// Brings the formats of all lines up to date with the rules.
     void rehighlight();
+
+    // ---- File (EditorWidgetFile.cpp)
+    /// How the text will stand in its file. Another format than that on the disk is a modification.
+    const DocumentFormat& format() const { return m_format; }
+    void setFormat(const DocumentFormat& format);
+    /// The format that the file has now.
+    void setFormatOnDisk(const DocumentFormat& format);
+    /// For a document that can not be shown as it is: the text can be read and copied, and no command changes it.
+    void setLocked(bool locked);
+    /// Takes over a text that was changed elsewhere, as one step to undo of the part that differs: the cursor stays in its
+    /// text, the view on its lines, marks on their numbers.
+    void changeText(const QString& text);
+    /// Shows a bar at the upper edge, below those that stand there. The document owns it; F6 leads there and back.
+    void addNotice(MyNoticeBar* bar);
 
     // ---- Look and behaviour (EditorWidget.cpp)
     /// The point size and the zoom of the document make its font size.
@@ -214,6 +231,8 @@ private slots:
     void showLeftMarginContextMenu(const QPoint& pos);
     /// The menu of the margin for the line of the cursor, for those without a mouse.
     void showLeftMarginContextMenuAtCursor();
+    void layoutNotices();
+    void switchToNotices();
 
 private:
     /// What a command does to one line. @param cursor anywhere in the line
@@ -253,6 +272,10 @@ private:
     QPointer<EditorSupportMenu> m_supportMenu;
     QPointer<EditorTipManager> m_tipManager;
     QString m_filePath;
+    DocumentFormat m_format;
+    DocumentFormat m_cleanFormat; ///< of the file
+    EditorNotices* m_notices = nullptr;
+    int m_noticeHeight = 0; ///< pixels
 
     int m_tabIndent = 4;
     int m_baseFontSize = 0; ///< points, of the font that was set

@@ -78,6 +78,8 @@ void EditorWidget::goToNextLine()
 
 void EditorWidget::indent()
 {
+    if (isReadOnly())
+        return;
     const QTextCursor cursor = textCursor();
     const bool severalLines =
         m_textDocument->findBlock(cursor.selectionStart()) != m_textDocument->findBlock(cursor.selectionEnd());
@@ -90,12 +92,16 @@ void EditorWidget::indent()
 
 void EditorWidget::deindent()
 {
+    if (isReadOnly())
+        return;
     forSelectedLines(removeBlank);
     ensureCursorVisible();
 }
 
 void EditorWidget::commentOut()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(insertSemicolon);
     if (walksOn)
@@ -105,6 +111,8 @@ void EditorWidget::commentOut()
 
 void EditorWidget::commentIn()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(removeSemicolon);
     if (walksOn)
@@ -114,6 +122,8 @@ void EditorWidget::commentIn()
 
 void EditorWidget::duplicateLine()
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     const QString text = cursor.block().text();
     cursor.beginEditBlock();
@@ -140,6 +150,8 @@ QTextBlock EditorWidget::lastSelectedBlock() const
 
 void EditorWidget::moveLineUp()
 {
+    if (isReadOnly())
+        return;
     const QTextBlock previous = firstSelectedBlock().previous();
     if (!previous.isValid())
         return;
@@ -149,6 +161,8 @@ void EditorWidget::moveLineUp()
 
 void EditorWidget::moveLineDown()
 {
+    if (isReadOnly())
+        return;
     const QTextBlock next = lastSelectedBlock().next();
     if (!next.isValid())
         return;

@@ -246,12 +246,14 @@ bool EditorWidget::isHit(const QString& text, bool caseSensitive, bool wholeWord
 
 void EditorWidget::replace(const QString& text)
 {
-    if (hasSelection())
+    if (hasSelection() && !isReadOnly())
         insertText(text);
 }
 
 bool EditorWidget::replaceAll(const QString& text, const QString& replacement, bool caseSensitive, bool wholeWords)
 {
+    if (isReadOnly())
+        return true;
     const QTextDocument::FindFlags flags = findFlags(caseSensitive, wholeWords);
     QTextCursor step(m_textDocument);
     QTextCursor last;
