@@ -153,8 +153,6 @@ void ModAction::refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar)
     for (QAction* action : actions)
         toolBar->addAction(action);
     toolBar->setIconSize(toolBarIconSize);
-    // A grip with nothing behind it is clutter: only a bar with buttons can be taken hold of.
-    toolBar->setMovable(!actions.isEmpty());
 }
 
 void ModAction::modRegisterPlugins(QList<ModPluginIf*> modules)

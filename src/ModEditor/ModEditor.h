@@ -112,6 +112,7 @@ public:
     void simEn(bool enabled) override;
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
+    int simBreakpointsRevision() override { return m_simBreakpointsRevision; }
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;
@@ -299,6 +300,7 @@ private:
     QString m_lastPath; ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
+    int m_simBreakpointsRevision = 0;                 ///< grows with each change of what simBreakpoints() answers
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
     bool m_errorShown = false; ///< the present action of the user has reported an error

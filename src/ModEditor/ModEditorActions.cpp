@@ -214,13 +214,14 @@ bool ModEditor::simStartPointer(QString* path, int* line)
 void ModEditor::setSimBreakpointsChanged()
 {
     m_simBreakpointsChangedFlag = true;
+    ++m_simBreakpointsRevision;
 }
 
 void ModEditor::clearSimBreakpoints()
 {
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearSimBreakpoints();
-    m_simBreakpointsChangedFlag = true;
+    setSimBreakpointsChanged();
 }
 
 void ModEditor::clearAllSimStartPointer()

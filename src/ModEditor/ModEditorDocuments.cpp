@@ -67,6 +67,8 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
+    // Its breakpoints go with it.
+    ++m_simBreakpointsRevision;
     m_disk.remove(widget);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(widget);
@@ -346,18 +348,22 @@ void ModEditor::printFile()
 
 void ModEditor::setCursorToLine(QString path, QString lineRef, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
+    if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(lineRef, line);
-    else
+        widget->setFocus(); // whoever wants to see a line wants to work on it
+    } else {
         showError(tr("Can not select line!"));
+    }
 }
 
 void ModEditor::setCursorToLine(QString path, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
+    if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(line);
-    else
+        widget->setFocus(); // whoever wants to see a line wants to work on it
+    } else {
         showError(tr("Can not select line!"));
+    }
 }
 
 /// The line that a link names in its fragment, counted from 0.

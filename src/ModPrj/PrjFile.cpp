@@ -10,6 +10,8 @@
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 
+#include <cstring>
+
 namespace nsModPrj {
 
 namespace {
@@ -224,32 +226,70 @@ private:
     int m_nodes = 0;
 };
 
-/// Has one tag more attributes than the limit? The reader compares each attribute of a tag with each other one, so a
-/// tag with very many of them would keep it busy for hours.
-bool hasOverlongTag(const QByteArray& text)
+/// The place after a comment, a CDATA section or a processing instruction that begins here; where none begins, the same place.
+int skipText(const QByteArray& text, int pos)
+{
+    static const struct
+    {
+        QByteArray begin;
+        QByteArray end;
+    } kinds[] = {{"<!--", "-->"}, {"<![CDATA[", "]]>"}, {"<?", "?>"}};
+    for (const auto& kind : kinds) {
+        if (qstrncmp(text.constData() + pos, kind.begin.constData(), uint(kind.begin.size())) != 0)
+            continue;
+        const int end = text.indexOf(kind.end, pos + kind.begin.size());
+        return end < 0 ? text.size() : end + kind.end.size();
+    }
+    return pos;
+}
+
+/// Has the tag that begins here more attributes than the limit? *pos goes to its end.
+bool isOverlongTag(const QByteArray& text, int* pos)
 {
     int count = 0;
     char quote = 0;
-    bool inTag = false;
-    for (const char c : text) {
-        if (!inTag) {
-            inTag = c == '<';
-            count = 0;
-            quote = 0;
-        } else if (quote != 0) {
+    for (++*pos; *pos < text.size(); ++*pos) {
+        const char c = text.at(*pos);
+        if (quote != 0) {
             if (c == quote)
                 quote = 0;
-            else if (c == '<') // no attribute value holds this: the quote stood in a comment
+            else if (c == '<') // no attribute value holds this: the reader will end here
                 quote = 0, count = 0;
         } else if (c == '"' || c == '\'') {
             quote = c;
         } else if (c == '>') {
-            inTag = false;
+            return false;
         } else if (c == '=' && ++count > PrjFile::maxAttributes) {
             return true;
         }
     }
     return false;
+}
+
+/// Has one tag more attributes than the limit? The reader compares each attribute of a tag with each other one, so a
+/// tag with very many of them would keep it busy for hours.
+bool hasOverlongTag(const QByteArray& text)
+{
+    // In an encoding of two bytes a character, what looks like a comment may be none.
+    const bool isWide = text.contains('\0');
+    for (int pos = text.indexOf('<'); pos >= 0; pos = text.indexOf('<', pos)) {
+        const int next = isWide ? pos : skipText(text, pos);
+        if (next != pos)
+            pos = next;
+        else if (isOverlongTag(text, &pos))
+            return true;
+    }
+    return false;
+}
+
+/// The text from its first character on: an XML declaration must not stand after blank lines, which editors leave there.
+QByteArray withoutLeadingSpace(const QByteArray& text)
+{
+    const QByteArray mark("\xEF\xBB\xBF");
+    int pos = text.startsWith(mark) ? mark.size() : 0;
+    while (pos < text.size() && std::strchr(" \t\r\n", text.at(pos)) != nullptr && text.at(pos) != 0)
+        ++pos;
+    return text.mid(pos);
 }
 
 bool fail(QString* error, const QString& message)
@@ -284,9 +324,8 @@ QByteArray PrjFile::format(CfgTree* tree, QStringList* dropped)
 
 bool PrjFile::parse(CfgTree* tree, const QByteArray& text)
 {
-    if (hasOverlongTag(text))
-        return false;
-    return Parser(tree->getNode(QStringList()), text).run();
+    const QByteArray content = withoutLeadingSpace(text);
+    return !hasOverlongTag(content) && Parser(tree->getNode(QStringList()), content).run();
 }
 
 bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)

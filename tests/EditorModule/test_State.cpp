@@ -5,6 +5,7 @@
 #include "EditorMemPageAddrMap.h"
 #include "EditorStatusBar.h"
 #include "EditorWidgetLeftMargin.h"
+#include "ModEditorPluginIf.h"
 
 #include <QCompleter>
 #include <QStringListModel>
@@ -207,6 +208,35 @@ TEST_F(State, changedFlagOfBreakpointsStays)
     EXPECT_TRUE(editor.simBreakpointsChanged());
     editor.prjClose();
     EXPECT_TRUE(editor.simBreakpointsChanged());
+}
+
+TEST_F(State, revisionOfBreakpointsGoesWithEachChangeOfThem)
+{
+    open("b.psm", "0\n1\n2\n");
+    auto* widget = open("a.psm", "0\n1\n2\n");
+    QMap<QString, QList<int>> known = editor.simBreakpoints();
+    int revision = editor.simBreakpointsRevision();
+    const auto isNoticed = [&] {
+        const bool isOther = editor.simBreakpoints() != known;
+        const bool isTold = editor.simBreakpointsRevision() != revision;
+        known = editor.simBreakpoints();
+        revision = editor.simBreakpointsRevision();
+        return isOther && isTold;
+    };
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(1);
+    EXPECT_TRUE(isNoticed());
+    ASSERT_TRUE(editor.saveFileAs(path("c.psm")));
+    EXPECT_TRUE(isNoticed());
+    emit widget->clearAllBreakpoints();
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(0);
+    EXPECT_TRUE(isNoticed());
+    editor.closeFile();
+    EXPECT_TRUE(isNoticed());
 }
 
 TEST_F(State, startMarkStandsInOneDocumentOnly)
@@ -446,6 +476,40 @@ TEST_F(State, completionListIsSortedAndCanBeEmptied)
     words.clear();
     editor.setTextCompletionList(words);
     EXPECT_EQ(model->rowCount(), 0);
+}
+
+template <class Plugin>
+void checkStrangers(ModEditorHookIf* hook)
+{
+    Plugin known;
+    Plugin stranger;
+    stranger.modEditorHook = hook;
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook) << "with nobody registered";
+    hook->registerPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, nullptr);
+    // It is a stranger from now on.
+    known.modEditorHook = hook;
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+}
+
+TEST_F(State, nullAndStrangersThatLeaveChangeNothing)
+{
+    checkStrangers<ModEditorPluginIf>(&editor);
+    checkStrangers<ModEditorPluginIfAssembler>(&editor);
+    checkStrangers<ModEditorPluginIfSimulator>(&editor);
+    editor.registerPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
+    editor.unregisterPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
 }
 
 } // namespace

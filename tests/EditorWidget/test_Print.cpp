@@ -104,6 +104,27 @@ TEST_F(Print, everyPageHasHeadAndFoot)
     painted(printed, 0).save(QString(NALVO_BINARY_DIR "/screenshots/printed-page.png"));
 }
 
+TEST_F(Print, aLineOverThreePagesIsPaintedOnEach)
+{
+    editor->setText("first\n" + QString("abcdefgh ").repeated(900) + "\nlast");
+    const PrintedPages printed = pages(editor->printJob("main.psm", false));
+    ASSERT_GE(printed.count(), 3);
+    for (int page = 0; page < printed.count(); ++page) {
+        const QImage image = painted(printed, page);
+        int rows = 0;
+        for (const PrintedPages::sRow& row : printed.rows()) {
+            if (row.page != page)
+                continue;
+            ++rows;
+            EXPECT_GT(ink(image, row.rect), 10) << page << ' ' << qPrintable(row.text);
+        }
+        EXPECT_GT(rows, 0);
+        if (page < printed.count() - 1) {
+            EXPECT_GT(rows, 30);
+        }
+    }
+}
+
 TEST_F(Print, aSelectionIsPrintedWithItsNumbers)
 {
     editor->setText(numberedLines(120));
@@ -176,6 +197,15 @@ TEST_F(Print, pagesOfAPrinter)
     nowhere.setOutputFormat(QPrinter::PdfFormat);
     nowhere.setOutputFileName(folder.filePath("no/such/folder.pdf"));
     EXPECT_FALSE(PrintedPages::print(editor->printJob("main.psm", false), &nowhere));
+}
+
+TEST_F(Print, emptyLinesCount)
+{
+    editor->setText("\none\n\ntwo\n");
+    QStringList shown;
+    for (const PrintedPages::sRow& row : pages(editor->printJob("main.psm", false)).rows())
+        shown.append(QString("%1 %2").arg(row.number).arg(row.text));
+    EXPECT_EQ(shown, QStringList({"1 ", "2 one", "3 ", "4 two", "5 "}));
 }
 
 TEST_F(Print, nothingIsTooSmall)

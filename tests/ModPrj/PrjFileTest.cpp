@@ -100,6 +100,33 @@ TEST(PrjFile, ReadsTheProjectElementWhereverItStands)
     EXPECT_EQ(tree.version(QString()), -1);
 }
 
+TEST(PrjFile, OnlyAttributesCountAsAttributes)
+{
+    const std::string signs(5000, '=');
+    const std::string texts[] = {
+        "<project><!-- " + signs + " --><k>v</k></project>",
+        "<!-- it's " + signs + " > ' --><project><k>v</k></project>",
+        "<project><x><![CDATA[<a " + signs + "]]></x><k>v</k></project>",
+        "<?about " + signs + "?><project><k>v</k></project>",
+        "<project><x>" + signs + "</x><k>v</k></project>",
+        "<project><x y=\"" + signs + "\"><z/></x><k>v</k></project>",
+    };
+    for (const std::string& text : texts) {
+        CfgTree tree;
+        EXPECT_TRUE(parsed(tree, text)) << text.substr(0, 40);
+        EXPECT_EQ(tree.value(str("k"), QString()), str("v")) << text.substr(0, 40);
+    }
+}
+
+TEST(PrjFile, SpaceInFrontIsSkipped)
+{
+    for (const char* space : {"\n", "\r\n\r\n", " \t\n", "\xEF\xBB\xBF", "\xEF\xBB\xBF\n"}) {
+        CfgTree tree;
+        EXPECT_TRUE(parsed(tree, std::string(space) + head + "<project><k>v</k></project>"));
+        EXPECT_EQ(tree.value(str("k"), QString()), str("v"));
+    }
+}
+
 TEST(PrjFile, OtherRootElementsAreAnEmptyTree)
 {
     for (const char* text : {"<other/>", "<Project><k>v</k></Project>", "<a><b><c>1</c></b></a>"}) {
@@ -389,6 +416,7 @@ TEST(PrjFile, AttributesThatExplode)
     expectEnd("<project><a" + many + "/></project>");
     expectEnd("<project><!-- ' --><a" + many + "/></project>");
     expectEnd("<project" + many + "/>");
+    expectEnd("<project><!-- <a --><![CDATA[ ' ]]><a" + many + "/></project>");
 
     std::string list;
     for (int i = 0; i < 1000; ++i)

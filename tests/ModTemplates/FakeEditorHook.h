@@ -48,6 +48,7 @@ public:
     void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return menu; }
+    int simBreakpointsRevision() override { return 0; }
 
     nsModEditor::EditorSupportMenu* menu = nullptr; ///< knob: what supportMenu() answers; not owned
 };

@@ -71,9 +71,12 @@ TEST_P(Bounds, areKeptBySettings)
     }
     makeWindow();
     EXPECT_GE(window->width(), 800);
-    EXPECT_LE(window->width(), qMax(800, window->screen()->size().width()));
-    EXPECT_LE(window->height(), qMax(600, window->screen()->size().height()));
+    EXPECT_LE(window->width(), 8192);
+    EXPECT_GE(window->height(), 600);
+    EXPECT_LE(window->height(), 8192);
     EXPECT_TRUE(window->frameGeometry().intersects(window->screen()->geometry()));
+    // A window of that size takes long to paint, and what follows is about what stands in it.
+    window->resize(1200, 800);
     writeFile("main.psm", "start:\tLOAD s0, 1\n");
     writeFile("case.nalvo", projectOf({{"sources/srcFiles", "main.psm"}, {"ModProcessor/processor", processors[0]}}));
     ASSERT_TRUE(module<nsModPrj::ModPrj>()->openPrj(projectDir() + "/case.nalvo"));

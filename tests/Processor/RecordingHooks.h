@@ -225,6 +225,7 @@ public:
     void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
 private:
     template <class Plugin>

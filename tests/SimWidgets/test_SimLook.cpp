@@ -269,7 +269,7 @@ TEST_F(SimLook, CoreFitsALowWindowAndShowsAllRegistersInAHighOne)
     auto* area = qobject_cast<QScrollArea*>(core->findChild<ProcSimCoreReg*>()->parentWidget()->parentWidget());
     ASSERT_NE(area, nullptr);
     EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
-    m_window.resize(320, 900);
+    m_window.resize(320, 1300);
     rest();
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->height(), area->widget()->sizeHint().height());

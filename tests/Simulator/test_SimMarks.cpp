@@ -26,16 +26,17 @@ const QStringList countToThree = {
     "    JUMP done",      // 5
 };
 
+// The breakpoint is on the instruction after the present one: a command that takes the marks over later passes it.
 TEST_F(SimMarks, ABreakpointSetJustBeforeStopsARunToTheCursor)
 {
     ASSERT_TRUE(start("XPBlze3", countToThree));
     document()->setCursorToLine(5);
-    document()->setSimBreakpoint(3);
+    document()->setSimBreakpoint(2);
     trigger(Action::eActionToCursor);
-    EXPECT_EQ(pcLine(), 3);
+    EXPECT_EQ(pcLine(), 2);
     EXPECT_EQ(reg(0), 1);
     // Taken away just before, it does not.
-    document()->setSimBreakpoint(3);
+    document()->setSimBreakpoint(2);
     document()->setCursorToLine(5);
     trigger(Action::eActionToCursor);
     EXPECT_EQ(pcLine(), 5);
@@ -44,13 +45,13 @@ TEST_F(SimMarks, ABreakpointSetJustBeforeStopsARunToTheCursor)
 
 TEST_F(SimMarks, ABreakpointSetJustBeforeStopsEachCommandThatRuns)
 {
-    const QStringList lines = {"CALL proc", "end: JUMP end", "proc: ADD s0, 1", "ADD s0, 2", "RET"};
+    const QStringList lines = {"CALL proc", "RET", "proc: ADD s0, 1", "ADD s0, 2", "RET"};
     for (const Action::eAction_t command : {Action::eActionRun, Action::eActionNextLine, Action::eActionToEndOfCall}) {
         ASSERT_TRUE(start("XPBlze3", lines));
-        document()->setSimBreakpoint(3);
+        document()->setSimBreakpoint(2);
         trigger(command);
-        EXPECT_EQ(pcLine(), 3) << command;
-        EXPECT_EQ(reg(0), 1);
+        EXPECT_EQ(pcLine(), 2) << command;
+        EXPECT_EQ(reg(0), 0);
         document()->clearSimBreakpoints();
         trigger(Action::eActionEnable);
     }

@@ -158,6 +158,9 @@ void EditorWidget::insertCompletion(const QString& completion)
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
+    // They are breakpoints of another file now.
+    if (!m_simBreakpoints.lines().isEmpty())
+        emit simBreakpointChanged();
 }
 
 void EditorWidget::setText(const QString& text)

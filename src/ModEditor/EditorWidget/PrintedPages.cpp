@@ -9,6 +9,8 @@
 #include <QTextDocument>
 #include <QTextLayout>
 
+#include <limits>
+
 namespace nsModEditor {
 
 namespace {
@@ -36,7 +38,8 @@ PrintedPages::PrintedPages(const sPrintJob& job, QPaintDevice* device, const QRe
     m_textArea = m_area.adjusted(m_numberWidth + 2 * digit, 2 * m_rowHeight, 0, -2 * m_rowHeight);
     m_textArea.setWidth(qMax(m_textArea.width(), digit));
     m_textArea.setHeight(qMax(m_textArea.height(), leastRows * m_rowHeight));
-    walk([this](int page, qreal, int, const QTextLayout&, int) { m_count = page + 1; });
+    m_starts.append(sStart{m_job.document->findBlock(m_job.start).blockNumber(), 0});
+    m_starts = walk(0, std::numeric_limits<int>::max(), [](int, qreal, int, const QTextLayout&, int) {});
 }
 
 /// Lays out what is printed of the block. Marks of a selection stay on the screen.
@@ -66,33 +69,40 @@ void PrintedPages::layOut(QTextLayout* layout, const QTextBlock& block) const
     layout->endLayout();
 }
 
-void PrintedPages::walk(const RowVisitor& visit) const
+/// Lays out the pages from first to last, and shows each row.
+/// @return where these pages begin
+QVector<PrintedPages::sStart> PrintedPages::walk(int first, int last, const RowVisitor& visit) const
 {
-    int page = 0;
+    QVector<sStart> starts{m_starts.at(first)};
+    int skipped = starts.first().row;
     qreal top = m_textArea.top();
-    QTextBlock block = m_job.document->findBlock(m_job.start);
+    QTextBlock block = m_job.document->findBlockByNumber(starts.first().block);
     for (; block.isValid() && block.position() <= m_job.end; block = block.next()) {
         // A line at whose start the stretch ends is no part of it.
         if (block.position() == m_job.end && m_job.start < m_job.end && block.length() > 1)
             break;
         QTextLayout layout(QString(), m_job.font, m_device);
         layOut(&layout, block);
-        for (int index = 0; index < layout.lineCount(); ++index) {
+        for (int index = skipped; index < layout.lineCount(); ++index) {
             const qreal height = qMax(layout.lineAt(index).height(), m_rowHeight);
             if (top + height > m_textArea.bottom() && top > m_textArea.top()) {
-                ++page;
+                if (first + starts.size() > last)
+                    return starts;
+                starts.append(sStart{block.blockNumber(), index});
                 top = m_textArea.top();
             }
-            visit(page, top, index == 0 ? block.blockNumber() + 1 : 0, layout, index);
+            visit(first + starts.size() - 1, top, index == 0 ? block.blockNumber() + 1 : 0, layout, index);
             top += height;
         }
+        skipped = 0;
     }
+    return starts;
 }
 
 QVector<PrintedPages::sRow> PrintedPages::rows() const
 {
     QVector<sRow> result;
-    walk([&](int page, qreal top, int number, const QTextLayout& layout, int index) {
+    walk(0, count() - 1, [&](int page, qreal top, int number, const QTextLayout& layout, int index) {
         const QTextLine line = layout.lineAt(index);
         sRow row;
         row.page = page;
@@ -111,7 +121,7 @@ QString PrintedPages::headTime() const
 
 QString PrintedPages::foot(int page) const
 {
-    return tr("Page %1 of %2").arg(page + 1).arg(m_count);
+    return tr("Page %1 of %2").arg(page + 1).arg(count());
 }
 
 void PrintedPages::paintHeadAndFoot(QPainter* painter, int page) const
@@ -135,9 +145,7 @@ void PrintedPages::paint(QPainter* painter, int page) const
     painter->setFont(m_job.font);
     painter->setPen(Qt::black);
     paintHeadAndFoot(painter, page);
-    walk([&](int rowPage, qreal top, int number, const QTextLayout& layout, int index) {
-        if (rowPage != page)
-            return;
+    walk(page, page, [&](int, qreal top, int number, const QTextLayout& layout, int index) {
         if (number > 0) {
             const QRectF cell(m_area.left(), top, m_numberWidth, m_rowHeight);
             painter->setPen(Qt::darkGray);

@@ -47,7 +47,7 @@ public:
     /// @param area what can be painted on of a page, in pixels of the device
     PrintedPages(const sPrintJob& job, QPaintDevice* device, const QRectF& area);
 
-    int count() const { return m_count; }
+    int count() const { return m_starts.size(); }
     QVector<sRow> rows() const;
     QString headName() const { return m_job.name; }
     QString headTime() const;
@@ -63,7 +63,14 @@ private:
     /// Hears of each row: page, height on it, number of the line or 0, the line's layout and the row's index in that.
     using RowVisitor = std::function<void(int page, qreal top, int number, const QTextLayout& layout, int index)>;
 
-    void walk(const RowVisitor& visit) const;
+    /// Where a page begins.
+    struct sStart
+    {
+        int block = 0; ///< number of the line, counted from 0
+        int row = 0;   ///< of that line
+    };
+
+    QVector<sStart> walk(int first, int last, const RowVisitor& visit) const;
     void layOut(QTextLayout* layout, const QTextBlock& block) const;
     void paintHeadAndFoot(QPainter* painter, int page) const;
 
@@ -73,7 +80,7 @@ private:
     QRectF m_textArea;
     qreal m_rowHeight = 1;
     qreal m_numberWidth = 0;
-    int m_count = 1;
+    QVector<sStart> m_starts; ///< a page each
 };
 
 } // namespace nsModEditor

@@ -99,4 +99,6 @@ public:
     /// The same flag as by setLineHighlighted(), without a move to it: page, cursor, view and focus stay. A file that is not open
     /// gets none.
     virtual void markLine(QString path, int line) = 0;
+    /// Differs from what it was when simBreakpoints() may do so. Cheap enough to be asked before each simulated instruction.
+    virtual int simBreakpointsRevision() = 0;
 };

@@ -59,6 +59,10 @@ void ProcShell::modInitIntermod()
 
 void ProcShell::modExitIntermod()
 {
+    if (m_servicesGone) {
+        m_sim.reset();
+        return;
+    }
     simDisable();
     if (m_asmBe == nullptr)
         return;

@@ -39,8 +39,8 @@ public:
     const ProcCoreConfig* runConfig() const { return m_config; }
     /// A new simulator of this processor, which belongs to the caller. No hook of it is set.
     virtual ProcSim* createSim() = 0;
-    /// Forgets the services, for the case that they go before the simulator.
-    void dropHooks();
+    /// The services may be gone from now on: nothing calls them any more. The hooks stay, they are the services' own.
+    void dropServices();
 
     // ProcPluginIf
     void modInit() override;
@@ -123,6 +123,8 @@ protected:
 private:
     bool simEnable();
     void removeSim();
+    void showStop(ProcActionsSim::eAction_t action, bool stopping);
+    void takeProgramCounter();
     void runSim(ProcActionsSim::eAction_t action, void (ProcSim::*command)());
     void setBase(ProcActionsSim::eAction_t action, eBase_t base);
     void setActionsEnabled(bool enabled);
@@ -136,6 +138,7 @@ private:
     QPointer<ProcActionsSim> m_actions;
     std::shared_ptr<ProcSim> m_sim; ///< shared with those commands of it that are on the stack
     bool m_attached = false;
+    bool m_servicesGone = false;
 };
 
 } // namespace nsProc

@@ -7,7 +7,7 @@
 #include "ProcSimObserver.h"
 #include "ProcSimPorts.h"
 #include "ProcSimResolvePageDialog.h"
-#include "ProcSimWaveViewer.h"
+#include "ProcSimWidgets.h"
 
 #include "AsmFeFileHndlr.h"
 #include "ModAsmFeHookIf.h"
@@ -16,6 +16,7 @@
 #include "OpcodeList.h"
 
 #include <QApplication>
+#include <QMap>
 #include <QTimer>
 
 namespace nsProc {
@@ -77,6 +78,7 @@ void ProcSim::startRun()
 {
     m_running = 1;
     m_displayTimer->start();
+    showRunning(true);
     syncBreakpoints();
 }
 
@@ -84,6 +86,7 @@ void ProcSim::endRun()
 {
     m_running = 0;
     m_displayTimer->stop();
+    showRunning(false);
     showHighlight();
 }
 
@@ -111,7 +114,7 @@ void ProcSim::runLoop(Ends ends)
 
 void ProcSim::simRun()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     runLoop([] { return false; });
@@ -121,7 +124,7 @@ void ProcSim::simNextInstruction()
 {
     if (!m_traits.clearsEachInstr)
         clearHighlights();
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     simOpcode();
     showHighlight();
@@ -129,7 +132,7 @@ void ProcSim::simNextInstruction()
 
 void ProcSim::simNextLine()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     if (m_pc == nullptr || m_pc->opcode != nsModAsmFe::ocCall) {
@@ -143,7 +146,7 @@ void ProcSim::simNextLine()
 
 void ProcSim::simToEndOfCall()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     const int depth = m_callStack->count();
@@ -152,7 +155,7 @@ void ProcSim::simToEndOfCall()
 
 void ProcSim::simToCursor()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     syncBreakpoints();
     Opcode* target = nullptr;
@@ -171,6 +174,34 @@ bool ProcSim::setPcFromCursor()
     const bool success = setProgramCounter(target);
     showHighlight();
     return success;
+}
+
+bool ProcSim::setPcFromAddr(int addr)
+{
+    Opcode* target = nullptr;
+    if (m_core == nullptr || m_running == 1) {
+        updateWidgets();
+        return false;
+    }
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
+        return false;
+    }
+    if (!opcodeOfPage(addr, m_pc != nullptr && m_pc->memRange > 0 ? m_pc->memRange : m_lastPage, &target)) {
+        signMsg(errNoOpcodeToExec);
+        return false;
+    }
+    const bool success = setProgramCounter(target);
+    showHighlight();
+    if (success)
+        emit programCounterTyped();
+    return success;
+}
+
+bool ProcSim::takeTypedPc()
+{
+    int addr = 0;
+    return m_widgets->core == nullptr || !m_widgets->core->takeTypedPc(&addr) || setPcFromAddr(addr);
 }
 
 void ProcSim::simInt()
@@ -266,6 +297,11 @@ bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
     int memRange = m_pc->memRange;
     if (memRange == 0 && !resolvePage(&memRange))
         return false;
+    return opcodeOfPage(addr, memRange, result);
+}
+
+bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
+{
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     *result = opcodes->opcodeOfAddr(addr, memRange);
     // What is not in the page may be in the range that all pages share.
@@ -293,7 +329,9 @@ bool ProcSim::resolvePage(int* memRange)
 
 void ProcSim::syncBreakpoints()
 {
-    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged())
+    // Asked once an instruction: no more than two numbers are compared.
+    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged() &&
+        (!m_breakpointsTaken || modEditorHook->simBreakpointsRevision() != m_breakpointsRevision))
         setBreakpoints();
 }
 
@@ -301,7 +339,6 @@ void ProcSim::clearBreakpoints()
 {
     for (Opcode* opcode : *modAsmFeHook->opcodeList())
         opcode->breakpoint = 0;
-    m_breakpoints.clear();
     m_breakpointsTaken = false;
 }
 
@@ -310,9 +347,6 @@ void ProcSim::setBreakpoints()
     if (modEditorHook == nullptr)
         return;
     const QMap<QString, QList<int>> marks = modEditorHook->simBreakpoints();
-    // The editor says that marks have changed as long as it lives; only here is seen whether they have since.
-    if (m_breakpointsTaken && marks == m_breakpoints)
-        return;
     clearBreakpoints();
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     for (auto it = marks.cbegin(); it != marks.cend(); ++it) {
@@ -324,7 +358,7 @@ void ProcSim::setBreakpoints()
                 opcode->breakpoint = 1;
         }
     }
-    m_breakpoints = marks;
+    m_breakpointsRevision = modEditorHook->simBreakpointsRevision();
     m_breakpointsTaken = true;
 }
 

@@ -3,6 +3,7 @@
 #include "ProcSimFont.h"
 #include "ProcSimHighlight.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -27,6 +28,13 @@ void ProcSimEdtBit::setValue(int value)
         return;
     m_value = bit;
     setText(bit != 0 ? QStringLiteral("1") : QStringLiteral("0"));
+}
+
+bool ProcSimEdtBit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+        return true;
+    return QLabel::event(event);
 }
 
 void ProcSimEdtBit::setHighlightEn(bool enabled)
