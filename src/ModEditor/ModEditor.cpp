@@ -2,6 +2,7 @@
 
 #include "EditorConfigPage.h"
 #include "EditorMemPageAddrMap.h"
+#include "EditorRecovery.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighterConfig.h"
@@ -70,6 +71,7 @@ void ModEditor::modInit()
     m_actionsEdit->setEnabled(false);
     m_actionsSim->setEnabled(false);
     m_supportMenu->setEnabled(false);
+    initRecovery();
 }
 
 void ModEditor::modInitIntermod()
@@ -84,6 +86,7 @@ void ModEditor::modInitIntermod()
 
 void ModEditor::modExitIntermod()
 {
+    closeRecoveryNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
     if (modMsgHook != nullptr)
@@ -95,6 +98,7 @@ void ModEditor::modExit()
     // Documents without a project have not been closed with it.
     while (!m_editorWidgets.isEmpty())
         removeEditorWidget(m_editorWidgets.first());
+    exitRecovery();
     delete m_supportMenu;
     m_supportMenu = nullptr;
     delete m_syntaxHighlighterConfig;
@@ -184,15 +188,18 @@ void ModEditor::prjOpen()
     // The one value on the page that belongs to the project as well.
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
-    for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
+    // The list of a program that was killed is newer than that of the project file.
+    const RecoveryStore::Session session = takeSession();
+    const bool isKilled = !session.project.isEmpty();
+    for (const QString& file : isKilled ? session.files : modPrjHook->value("ModEditor/openFiles", QStringList()))
         openFileWidget(modPrjHook->convToAbsPath(file));
     configureEditorWidgets();
     setActionState(nullptr);
-    const QString lastFile = modPrjHook->value("ModEditor/lastFile", QString());
+    const QString lastFile = isKilled ? session.lastFile : modPrjHook->value("ModEditor/lastFile", QString());
     if (lastFile.isEmpty())
         return;
     if (EditorWidget* widget = openFileWidget(modPrjHook->convToAbsPath(lastFile)))
-        widget->setCursorPos(modPrjHook->value("ModEditor/lastCursorPos", 0));
+        widget->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
     setActionState(currentEditorWidget());
 }
 
@@ -216,6 +223,10 @@ void ModEditor::prjSave()
 void ModEditor::prjClose()
 {
     closeAllFiles();
+    if (m_recovery != nullptr) {
+        m_recovery->setProject(QString());
+        m_recovery->putSession({});
+    }
     setActionState(nullptr);
     setMemPageAddrMap(nullptr);
 }
@@ -231,7 +242,7 @@ QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionCla
         return {};
     switch (actionClass) {
     case ModActionHookIf::eActionClassFile:
-        return m_actionsFile->menuActions();
+        return m_actionsFile->menuActions() << m_recoverAction << m_recoverSeparator;
     case ModActionHookIf::eActionClassEdit:
         return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
     case ModActionHookIf::eActionClassSimulator:

@@ -2,6 +2,7 @@
 
 #include "ModEditor.h"
 
+#include "EditorRecovery.h"
 #include "EditorWidget.h"
 
 #include "ModClipboardHookIf.h"
@@ -23,6 +24,12 @@ namespace nsModEditor {
 namespace {
 
 const int findReplaceFeatures = 3; ///< the documents can replace, and know whole words
+
+/// A new page without a file, a text or a change.
+bool isUntouched(EditorWidget* widget)
+{
+    return widget->filePath().isEmpty() && !widget->isModified() && widget->document()->isEmpty();
+}
 
 void setupDialog(QFileDialog* dialog)
 {
@@ -47,6 +54,8 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
     auto* widget = new EditorWidget;
     connectEditorWidget(widget);
     m_editorWidgets.append(widget);
+    if (m_recovery != nullptr)
+        m_recovery->add(widget);
     widget->setSyntaxHighlighterConfig(m_syntaxHighlighterConfig);
     widget->setTipManager(m_tipManager);
     widget->setSupportMenu(m_supportMenu);
@@ -68,6 +77,8 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
     m_latin1Widgets.remove(widget);
+    if (m_recovery != nullptr)
+        m_recovery->forget(widget);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(widget);
     if (modClipboardHook != nullptr)
@@ -85,7 +96,10 @@ void ModEditor::focusCurrentWidget()
 
 void ModEditor::newFile(QString text)
 {
-    newEditorWidget(QString())->setText(text);
+    EditorWidget* widget = newEditorWidget(QString());
+    widget->setText(text);
+    // What a script or an import brings is nowhere on the disk.
+    widget->document()->setModified(!text.isEmpty());
 }
 
 EditorWidget* ModEditor::openFileWidget(const QString& path)
@@ -147,6 +161,8 @@ bool ModEditor::saveFile(EditorWidget* widget)
     if (!writeFile(widget->filePath(), encoded(widget)))
         return false;
     widget->clearModified();
+    if (m_recovery != nullptr)
+        m_recovery->setSaved(widget);
     setActionStateEditorWidget(widget);
     return true;
 }
@@ -178,7 +194,8 @@ void ModEditor::saveAllFiles()
         // A dialog for an untitled document lets the user close pages meanwhile.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
-            if (m_editorWidgets.contains(widget))
+            // A page that nobody has typed into needs no name.
+            if (m_editorWidgets.contains(widget) && !isUntouched(widget))
                 saveFile(widget);
         }
         setFileContentChanged();
@@ -241,8 +258,12 @@ void ModEditor::reloadFile(EditorWidget* widget)
     if (widget == nullptr || widget->filePath().isEmpty())
         return;
     const QString path = widget->filePath();
-    if (widget->isModified() && !askForReload(path))
-        return;
+    if (widget->isModified()) {
+        if (!askForReload(path) || !m_editorWidgets.contains(widget))
+            return;
+        keepText(widget, false);
+        m_recovery->release(widget);
+    }
     QString text;
     bool isLatin1 = false;
     if (!m_editorWidgets.contains(widget) || !readFile(path, &text, &isLatin1))
@@ -271,8 +292,7 @@ void ModEditor::closeFile(EditorWidget* widget)
 {
     if (widget == nullptr)
         return;
-    if (widget->isModified() && askForSave(widget->filePath()) && m_editorWidgets.contains(widget))
-        saveFile(widget);
+    settleFile(widget, false);
     if (m_editorWidgets.contains(widget))
         removeEditorWidget(widget);
 }
