@@ -78,6 +78,11 @@ protected:
         EXPECT_TRUE(button->isEnabled()) << name;
         button->click();
     }
+    /// The same for a button that opens a further dialog: the timer that leads here must not stand below that one.
+    static void pressSoon(QDialog* dialog, const char* name)
+    {
+        QTimer::singleShot(0, dialog, [dialog, name] { press(dialog, name); });
+    }
 };
 
 TEST_F(Recovery, aChangedTextIsKeptUntilItIsSaved)
@@ -315,6 +320,7 @@ TEST_F(Recovery, comparingShowsTheKeptTextBesideTheFile)
         type(other->editorWidgets().first(), "X");
     });
     int differences = -1;
+    bool isPressed = false;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
         QWidget* modal = QApplication::activeModalWidget();
@@ -322,10 +328,11 @@ TEST_F(Recovery, comparingShowsTheKeptTextBesideTheFile)
             differences = compare->differenceCount();
             compare->done(2);
         } else if (auto* dialog = qobject_cast<nsModEditor::RecoverDialog*>(modal)) {
-            if (differences < 0)
-                press(dialog, "recoverCompare");
-            else
+            if (!isPressed)
+                pressSoon(dialog, "recoverCompare");
+            else if (differences >= 0)
                 dialog->reject();
+            isPressed = true;
         }
     });
     timer.start(1);
@@ -379,6 +386,7 @@ TEST_F(Recovery, deletingAsksFirst)
 {
     killed([](ModEditor* other) { other->newFile("untitled"); });
     QList<QMessageBox::StandardButton> replies{QMessageBox::No, QMessageBox::Yes};
+    int pressed = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
         QWidget* modal = QApplication::activeModalWidget();
@@ -389,8 +397,8 @@ TEST_F(Recovery, deletingAsksFirst)
         } else if (auto* dialog = qobject_cast<nsModEditor::RecoverDialog*>(modal)) {
             if (replies.isEmpty())
                 dialog->reject();
-            else
-                press(dialog, "recoverDelete");
+            else if (pressed == 2 - replies.size() && ++pressed > 0)
+                pressSoon(dialog, "recoverDelete");
         }
     });
     timer.start(1);
