@@ -23,6 +23,21 @@ function(_nalvo_object_library target)
   target_link_libraries(${target} PRIVATE NalvoFlags)
   target_precompile_headers(${target} REUSE_FROM NalvoPch)
   set_property(GLOBAL APPEND PROPERTY NALVO_OBJECT_LIBS ${target})
+  nalvo_watch_headers(${target})
+endfunction()
+
+# nalvo_watch_headers(TARGET): a file that comes into an existing build tree, as by a merge, is searched for meta-objects. The
+# build itself remembers only the files of the last search, so that search is forgotten when the list of files changes.
+function(nalvo_watch_headers target)
+  get_target_property(sources ${target} SOURCES)
+  set(known "${CMAKE_CURRENT_BINARY_DIR}/${target}.sources")
+  if(EXISTS "${known}")
+    file(READ "${known}" before)
+    if(NOT before STREQUAL "${sources}")
+      file(REMOVE "${CMAKE_CURRENT_BINARY_DIR}/${target}_autogen/timestamp")
+    endif()
+  endif()
+  file(WRITE "${known}" "${sources}")
 endfunction()
 
 function(nalvo_interface)

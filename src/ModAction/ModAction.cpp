@@ -1,5 +1,6 @@
 #include "ModAction.h"
 
+#include "MenuKeys.h"
 #include "ModActionPluginIf.h"
 
 #include <QAction>
@@ -152,8 +153,6 @@ void ModAction::refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar)
     for (QAction* action : actions)
         toolBar->addAction(action);
     toolBar->setIconSize(toolBarIconSize);
-    // A grip with nothing behind it is clutter: only a bar with buttons can be taken hold of.
-    toolBar->setMovable(!actions.isEmpty());
 }
 
 void ModAction::modRegisterPlugins(QList<ModPluginIf*> modules)
@@ -165,6 +164,8 @@ void ModAction::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModAction::modInit()
 {
     setupActionClasses();
+    if (m_mainWindow != nullptr && m_menuKeys == nullptr)
+        m_menuKeys = new MenuKeys(m_mainWindow);
 }
 
 void ModAction::modRun()

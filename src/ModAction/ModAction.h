@@ -17,6 +17,8 @@ class QWidget;
 
 namespace nsModAction {
 
+class MenuKeys;
+
 /// The menu bar and the tool bars of the main window. Every entry comes from a client; this module has none of its own.
 class ModAction : public QObject, public ModActionHookIf, public ModPluginIf
 {
@@ -56,6 +58,7 @@ private:
     void refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar);
 
     QPointer<QMainWindow> m_mainWindow;
+    MenuKeys* m_menuKeys = nullptr; ///< the window's
     PluginList<ModActionPluginIf> m_plugins; ///< their order is the order of the groups in each menu
     QMap<eActionClass_t, QPointer<QMenu>> m_menus;
     QMap<eActionClass_t, QPointer<QToolBar>> m_toolBars;

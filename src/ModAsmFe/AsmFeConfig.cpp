@@ -13,7 +13,13 @@ struct Reader
     ModPrjHookIf* prj;
 
     void item(const QString& key, QString& field) { field = prj->value(key, field); }
-    void item(const QString& key, int& field) { field = prj->value(key, field); }
+    /// One of some values: any other leaves the field as it is.
+    void choice(const QString& key, int& field, int last)
+    {
+        const int value = prj->value(key, field);
+        if (value >= 0 && value <= last)
+            field = value;
+    }
     void item(const QString& key, bool& field) { field = prj->value(key, int(field)) != 0; }
     void path(const QString& key, QString& field)
     {
@@ -28,7 +34,7 @@ struct Writer
     ModPrjHookIf* prj;
 
     void item(const QString& key, const QString& field) { prj->setValue(key, field); }
-    void item(const QString& key, int field) { prj->setValue(key, field); }
+    void choice(const QString& key, int field, int) { prj->setValue(key, field); }
     void item(const QString& key, bool field) { prj->setValue(key, int(field)); }
     void path(const QString& key, const QString& field)
     {
@@ -58,9 +64,9 @@ template <class Access, class Config>
 void allItems(Access access, Config& config)
 {
     access.item("AsmFe/defaultCharset", config.defaultCharset);
-    access.item("AsmFe/behavior/charset", config.behaviorCharset);
-    access.item("AsmFe/behavior/equ", config.behaviorEqu);
-    access.item("AsmFe/behavior/set", config.behaviorSet);
+    access.choice("AsmFe/behavior/charset", config.behaviorCharset, AsmFeConfig::charsetSilent);
+    access.choice("AsmFe/behavior/equ", config.behaviorEqu, AsmFeConfig::equSilent);
+    access.choice("AsmFe/behavior/set", config.behaviorSet, AsmFeConfig::setSilent);
     hdlItems(access, "AsmFe/target/vhdl", config.targetVhdl);
     hdlItems(access, "AsmFe/target/verilog", config.targetVerilog);
     targetItems(access, "AsmFe/target/hex", config.targetHex);

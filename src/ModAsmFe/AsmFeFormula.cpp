@@ -101,8 +101,11 @@ bool isTerm(const AsmFeFormula::sFormularElement_t* element)
 bool AsmFeFormula::isFormula(const QString& text)
 {
     const QChar* c = text.constData();
+    ushort before = 0; // the last character that is no blank
+    bool inQuotes = false;
     for (int i = 0; i < text.size(); ++i) {
-        switch (c[i].unicode()) {
+        const ushort current = c[i].unicode();
+        switch (current) {
         case '+':
         case '-':
         case '*':
@@ -122,6 +125,16 @@ bool AsmFeFormula::isFormula(const QString& text)
         default:
             break;
         }
+        if (current == '"' && before != '\\')
+            inQuotes = !inQuotes;
+        // A term beside a parenthesis is multiplied.
+        const bool opensAtTerm = current == '(' && before != 0 && before != '(' && before != ')' && before != ',';
+        const bool closesAtTerm =
+            before == ')' && current != '(' && current != ')' && current != ',' && !c[i].isSpace();
+        if ((opensAtTerm || closesAtTerm) && !inQuotes)
+            return true;
+        if (!c[i].isSpace())
+            before = current;
     }
     return false;
 }

@@ -53,7 +53,7 @@ public:
     /// Gives a term its value. @return false ends the evaluation with resultFailed
     using TermValue = std::function<bool(const QString& term, int* value)>;
 
-    /// Does the text hold an operator, so that it is an expression and no plain argument?
+    /// Does the text hold an operator, written or implied, so that it is an expression and no plain argument?
     static bool isFormula(const QString& text);
 
     /// Evaluates an expression.

@@ -36,9 +36,30 @@ bool LineReader::fill()
     return !m_buffer.isEmpty();
 }
 
+/// Goes on behind the mark that some editors put in front of a text in UTF-8.
+void LineReader::skipByteOrderMark()
+{
+    static const char mark[] = {'\xef', '\xbb', '\xbf'};
+    fill();
+    // A device may hand out its first bytes one by one.
+    while (m_buffer.size() < 3 && std::memcmp(m_buffer.constData(), mark, size_t(m_buffer.size())) == 0) {
+        const QByteArray more = m_device->read(3 - m_buffer.size());
+        if (more.isEmpty())
+            return;
+        m_buffer.append(more);
+    }
+    if (m_buffer.size() >= 3 && std::memcmp(m_buffer.constData(), mark, 3) == 0)
+        m_pos = 3;
+}
+
 bool LineReader::readLine(QString* line)
 {
+    if (!m_started) {
+        m_started = true;
+        skipByteOrderMark();
+    }
     m_truncated = false;
+    m_ended = false;
     m_long.clear();
     bool any = false;
     while (m_pos < m_buffer.size() || fill()) {
@@ -48,6 +69,7 @@ bool LineReader::readLine(QString* line)
         const void* end = std::memchr(start, '\n', size_t(rest));
         const int length = end != nullptr ? int(static_cast<const char*>(end) - start) + 1 : rest;
         m_pos += length;
+        m_ended = end != nullptr;
         if (end != nullptr && m_long.isEmpty()) {
             *line = lineText(start, length);
             return true;

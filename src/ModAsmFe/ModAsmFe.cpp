@@ -49,15 +49,14 @@ void ModAsmFe::modInit()
 
 void ModAsmFe::modInitIntermod()
 {
-    if (modMsgHook != nullptr)
+    if (modMsgHook != nullptr) {
+        modMsgHook->registerPlugin(m_fileHndlr);
         modMsgHook->registerPlugin(m_msgHndlr);
+    }
     if (modGuiHook != nullptr) {
         m_statusBar = new AsmFeStatusBar;
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equList.listView(), tr("EQU list"));
-        m_ioDevViewer = new IODevViewerList;
-        connect(m_ioDevViewer, &IODevViewerList::srcRefRequest, this, &ModAsmFe::showSrcReference);
-        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_ioDevViewer, tr("IO device map viewer"));
     }
     setupSupportMenuBasic();
 }
@@ -67,13 +66,43 @@ void ModAsmFe::modExitIntermod()
     if (modGuiHook != nullptr && m_statusBar != nullptr) {
         modGuiHook->removeWidget(m_statusBar);
         modGuiHook->removeWidget(m_equList.listView());
-        modGuiHook->removeWidget(m_ioDevViewer);
     }
-    delete m_ioDevViewer;
+    removeIODevViewer();
     delete m_statusBar;
     m_statusBar = nullptr;
-    if (modMsgHook != nullptr)
+    if (modMsgHook != nullptr) {
         modMsgHook->unregisterPlugin(m_msgHndlr);
+        modMsgHook->unregisterPlugin(m_fileHndlr);
+    }
+}
+
+/// The maps are those of the open project's devices.
+void ModAsmFe::addIODevViewer()
+{
+    if (modGuiHook == nullptr || m_ioDevViewer != nullptr)
+        return;
+    m_ioDevViewer = new IODevViewerList;
+    connect(m_ioDevViewer, &IODevViewerList::srcRefRequest, this, &ModAsmFe::showSrcReference);
+    // A panel that is added comes to the front: opening a project leaves the one in front that the user has chosen.
+    QWidget* inFront = modGuiHook->currentWidget(ModGuiHookIf::eLocationDockRight);
+    modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_ioDevViewer, tr("IO device map viewer"));
+    if (inFront != nullptr && modGuiHook->widgetVisible(ModGuiHookIf::eLocationDockRight))
+        modGuiHook->setCurrentWidget(inFront);
+}
+
+void ModAsmFe::removeIODevViewer()
+{
+    if (m_ioDevViewer == nullptr)
+        return;
+    m_ioDevViewer->clear();
+    if (modGuiHook != nullptr)
+        modGuiHook->removeWidget(m_ioDevViewer);
+    // What closes the project during a run may have been called by the view.
+    if (m_running)
+        m_ioDevViewer->deleteLater();
+    else
+        delete m_ioDevViewer;
+    m_ioDevViewer = nullptr;
 }
 
 void ModAsmFe::modExit()
@@ -147,6 +176,7 @@ void ModAsmFe::prjOpen()
     // The handler takes the folder of a path, so it gets the path of a file in the project's folder.
     m_fileHndlr->setPrjDir(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
     applyBaseConfig();
+    addIODevViewer();
     if (m_actions != nullptr)
         m_actions->setEnabled(AsmFeActions::eActionAssemble, true);
 }
@@ -169,6 +199,7 @@ void ModAsmFe::prjClose()
         m_abandoned = true;
     else
         dropProgram();
+    removeIODevViewer();
 }
 
 nsModConfig::ModConfigPagePluginIf* ModAsmFe::configPage(int)

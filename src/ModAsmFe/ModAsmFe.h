@@ -35,8 +35,14 @@
 #include <QStringList>
 
 #include <memory>
+#include <vector>
 
+class MyBusyCursor;
 class QTextCodec;
+
+namespace nsModEditor {
+class EditorSupportMenu;
+}
 
 namespace nsModAsmFe {
 
@@ -46,6 +52,7 @@ class AsmFeConfigPage;
 class AsmFeStatusBar;
 class IODevViewerList;
 class Opcode;
+class TargetMapper;
 
 /// The assembler: all that is common to the processors, from the sources to the output files.
 ///
@@ -163,6 +170,8 @@ private:
     void clearAll();
     void dropProgram();
     void clearIODevViewer();
+    void addIODevViewer();
+    void removeIODevViewer();
     void runStages(eAssembleEvent_t event);
     bool runFrontEndStages();
     void runBackEndStages();
@@ -176,6 +185,7 @@ private:
     void setupTextCompleter();
     void applyBaseConfig();
     void applyBackendConfig();
+    void goesOn();
     void openGroup(const QString& text);
     void closeGroup(bool success);
 
@@ -233,8 +243,12 @@ private:
     void syntacticsSetArgNameSpace(Arg* arg, const QString& nameSpace);
     bool syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode);
     bool formula(const SrcReference* srcRef, const QString& nameSpace, const QString& text, unsigned int* value);
+    bool evaluateFormula(const SrcReference* srcRef, const QString& text, const AsmFeFormula::TermValue& termValue,
+                         unsigned int* value);
     bool formulaTermValue(const SrcReference* srcRef, const QString& nameSpace, const QString& term, int* value);
-    bool syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    Equ* equOfTerm(const QString& nameSpace, const QString& term) const;
+    bool equTermValue(const SrcReference* srcRef, const QString& term, Equ* equ, int* value);
+    bool syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg);
     static bool isFormula(const QString& text) { return AsmFeFormula::isFormula(text); }
 
     // Strings and character sets (ModAsmFeStrings.cpp)
@@ -256,19 +270,29 @@ private:
     bool checkName(const SrcReference* srcRef, const QString& name);
     bool syntacticsCheckLabel();
     bool syntacticsCheckEquNames();
-    bool syntacticsCheckEquArguments();
-    bool syntacticsCheckEquArgument(Equ* equ);
-    bool resolveEqu(Equ* equ);
-    QList<Equ*> equDependencies(Equ* equ);
-    bool checkEquAlias(Equ* equ, bool* isAlias);
-    bool checkEquAliasExt(Equ* equ);
-    bool checkEquValue(Equ* equ);
-    void prepareEqu(Equ* equ);
     bool syntacticsCheckOpcode();
     bool syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg, ArgExt* ext);
     bool syntacticsCheckOpcodeArgumentLabel(Opcode* opcode, Arg* arg, ArgExt* ext);
     bool syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgExt* ext);
     void usageCheck();
+
+    // Values of constants (ModAsmFeEqu.cpp)
+    enum eEquResult_t { equDone, equFailed, equWaits };
+    struct sEquStep_t;
+    /// Why a chain of names has no value.
+    struct sEquDeadEnd_t
+    {
+        Equ* last;   ///< its last name that leads on
+        Equ* target; ///< where that one leads: to a failure of its own, or back into the chain
+    };
+    bool syntacticsCheckEquArguments();
+    bool syntacticsCheckEquArgument(Equ* root);
+    eEquResult_t checkEquStep(std::vector<sEquStep_t>* path, bool success);
+    eEquResult_t checkEquAlias(std::vector<sEquStep_t>* path, Equ* target);
+    eEquResult_t checkEquFormula(sEquStep_t* step);
+    bool takeEquAlias(const sEquStep_t& step, bool success);
+    void noteEquLoop(const std::vector<sEquStep_t>& path);
+    void prepareEqu(Equ* equ);
 
     // Memory mapping (ModAsmFeMemMap.cpp)
     bool mapOpcodeToMem();
@@ -332,12 +356,14 @@ private:
     bool mapIODevToFileHex();
     bool mapIODevToFileMem();
     template <class Write>
-    bool mapIODevToFiles(const QString& groupText, bool IODev::*en, QString IODev::*file, Write write);
+    bool mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file, Write write);
     bool checkTargetFile(const QString& file);
 
     // Insertion menu and highlighting (ModAsmFeMenus.cpp)
     void setupSupportMenuBasic();
     void setupSupportMenuDynamics();
+    void setupSupportMenuNames(nsModEditor::EditorSupportMenu* menu, const QString& title, const QStringList& names,
+                               QStringList* shown);
     void setupSupportMenuHardware();
     void setHighlighter();
     void clearHighlighter();
@@ -351,7 +377,7 @@ private:
     AsmFeParseArg* m_parseArg;
     QPointer<AsmFeConfigPage> m_configPage; ///< null while the settings dialog is closed
     AsmFeStatusBar* m_statusBar = nullptr;
-    QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window
+    QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window or an open project
 
     QStringList m_charsetNames; ///< upper case; filled on first use, as asking the platform for them takes its time
     QSet<QString> m_charsetSet;
@@ -366,14 +392,18 @@ private:
     bool m_assembleOnChange = true;
     bool m_assembled = false;
     bool m_running = false; ///< a run must not be started from within a run
+    MyBusyCursor* m_busy = nullptr; ///< of the run in progress; not owned
     bool m_abandoned = false; ///< project or back end have gone during the run
     bool m_runSucceeded = false;
     QStringList m_writtenFiles;
+    QStringList m_menuLabels; ///< names in the insertion menu
+    QStringList m_menuDefines;
 
     // State of reading
     int m_ifActive = 0;
     bool m_ifMatched = false;
     bool m_ifSkip = false;
+    bool m_lastLineEnded = true; ///< the last line of the file has a line end
     QStringList m_defines; ///< upper case
     QSet<QString> m_defineSet;
     QString m_nameSpace;
@@ -389,9 +419,9 @@ private:
     MemRangeList m_memRangeList;
     MetaTags m_metaTags;
 
-    /// What went wrong with an `#EQU`: a further `#EQU` that depends on it says the same again.
-    QHash<const Equ*, AsmFeMsgHndlr::HeldMsgs> m_failedEqus;
-    QSet<int> m_equCheckStack; ///< `absLineNo` of the `#EQU`s on the present path of resolution
+    QHash<const Equ*, sEquDeadEnd_t> m_equDeadEnds; ///< during the check of the constants
+    QSet<const Equ*> m_equCheckStack;               ///< the `#EQU`s on the present path of resolution
+    bool m_equFailed = false;                       ///< one of them has failed
 
     const SrcReference* m_devSrcRef = nullptr; ///< where the device that is set up was declared; not owned
     int m_devWords = 0;                        ///< cells of all devices so far

@@ -104,8 +104,8 @@ void ModAsmFe::syntacticsSetArgParentheses(Arg* arg, ArgExt* ext)
 
 void ModAsmFe::syntacticsSetArgNameSpace(Arg* arg, const QString& nameSpace)
 {
-    // The terms of an expression have prefixes of their own.
-    if (!arg->name.contains(QLatin1String("::")) || isFormula(arg->name) ||
+    // The terms of an expression have prefixes of their own, and the colons of a string are text.
+    if (!arg->name.contains(QLatin1String("::")) || arg->name.startsWith('"') || isFormula(arg->name) ||
         !AsmFeParseArg::splitNsFromArg(&arg->name, &arg->nameSpace))
         arg->nameSpace = nameSpace;
 }
@@ -149,10 +149,15 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode)
 
 bool ModAsmFe::formula(const SrcReference* srcRef, const QString& nameSpace, const QString& text, unsigned int* value)
 {
-    AsmFeFormula evaluator;
-    const auto result = evaluator.evaluate(
-        text, [&](const QString& term, int* v) { return formulaTermValue(srcRef, nameSpace, term, v); }, value);
-    switch (result) {
+    return evaluateFormula(
+        srcRef, text, [&](const QString& term, int* v) { return formulaTermValue(srcRef, nameSpace, term, v); }, value);
+}
+
+/// Evaluates an expression and reports what is wrong with its form.
+bool ModAsmFe::evaluateFormula(const SrcReference* srcRef, const QString& text, const AsmFeFormula::TermValue& termValue,
+                               unsigned int* value)
+{
+    switch (AsmFeFormula().evaluate(text, termValue, value)) {
     case AsmFeFormula::resultOk:
         return true;
     case AsmFeFormula::resultSyntax:
@@ -176,18 +181,24 @@ bool ModAsmFe::formulaTermValue(const SrcReference* srcRef, const QString& nameS
         *value = m_parseArg->toNumeric(term);
         return true;
     }
+    Equ* equ = equOfTerm(nameSpace, term);
+    return equTermValue(srcRef, term, equ, value);
+}
+
+/// The `#EQU` that a term names, null if there is none.
+Equ* ModAsmFe::equOfTerm(const QString& nameSpace, const QString& term) const
+{
     QString name = term;
     QString termNameSpace = nameSpace;
     AsmFeParseArg::splitNsFromArg(&name, &termNameSpace);
-    Equ* equ = m_equList.find(termNameSpace, name);
-    if (equ == nullptr) {
-        m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
-        return false;
-    }
-    // What is wrong with the constant stands at the constant; that it gives no value here, stands here.
-    if (equ->arg->type == Arg::unset)
-        syntacticsCheckEquArgument(equ);
-    if (equ->arg->type != Arg::numeric) {
+    return m_equList.find(termNameSpace, name);
+}
+
+/// Takes the value of an `#EQU` that has been checked for a term. What is wrong with the constant stands at the constant; that it
+/// gives no value here, stands here.
+bool ModAsmFe::equTermValue(const SrcReference* srcRef, const QString& term, Equ* equ, int* value)
+{
+    if (equ == nullptr || equ->arg->type != Arg::numeric) {
         m_msgHndlr->signMsg(errExprNonNumericTerm, srcRef, term);
         return false;
     }
@@ -196,15 +207,18 @@ bool ModAsmFe::formulaTermValue(const SrcReference* srcRef, const QString& nameS
     return true;
 }
 
-bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+/// A range or an attribute behind an expression belongs to none of its terms, and does not apply to the whole either.
+bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg)
 {
+    // The value of a constant is known.
+    if (arg->type == Arg::numeric)
+        return true;
     arg->type = Arg::numeric;
     unsigned int value = 0;
     if (!formula(srcRef, arg->nameSpace, arg->name, &value))
         return false;
     arg->iValue = static_cast<int>(value);
-    // A range or a byte order behind an expression means the whole of it.
-    return syntacticsCheckArgNumeric(srcRef, arg, ext);
+    return true;
 }
 
 } // namespace nsModAsmFe

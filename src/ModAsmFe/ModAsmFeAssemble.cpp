@@ -10,6 +10,7 @@
 #include "ModPrjHookIf.h"
 #include "ModSrcNaviHookIf.h"
 #include "ModSyscallHookIf.h"
+#include "MyBusyCursor.h"
 #include "Opcode.h"
 
 #include <QDateTime>
@@ -35,6 +36,8 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     if (m_running || modPrjHook == nullptr || !modPrjHook->isValid())
         return;
     m_running = true;
+    MyBusyCursor busy;
+    m_busy = &busy;
     m_runSucceeded = false;
     if (m_actions != nullptr) {
         m_actions->setEnabled(false);
@@ -47,6 +50,7 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     // A run depends on the project and its sources, not on what a directive of the last run has set.
     m_defaultCodec = QTextCodec::codecForName(defaultCharset.toLatin1());
     runStages(event);
+    m_busy = nullptr;
     m_running = false;
     if (m_abandoned)
         dropProgram();
@@ -74,7 +78,7 @@ void ModAsmFe::clearAll()
         modSrcNaviHook->clearTagList();
     // It reads the devices where they are.
     clearIODevViewer();
-    m_failedEqus.clear();
+    m_equDeadEnds.clear();
     m_opcodeList.clear();
     m_equList.clear();
     m_orgList.clear();
@@ -89,9 +93,17 @@ void ModAsmFe::clearAll()
     m_writtenFiles.clear();
 }
 
+/// A run takes the GUI's thread: where it takes long, the cursor says so.
+void ModAsmFe::goesOn()
+{
+    if (m_busy != nullptr)
+        m_busy->goesOn();
+}
+
 template <class Stage>
 bool ModAsmFe::runGroup(eMsgGrp_t group, const QString& arg, Stage stage)
 {
+    goesOn();
     m_msgHndlr->signMsgGroup(group, arg);
     m_assembled = stage() && !m_abandoned;
     closeGroup(m_assembled);
@@ -127,6 +139,7 @@ void ModAsmFe::runStages(eAssembleEvent_t event)
         return;
     if (m_assembled)
         writeOutputs(event);
+    goesOn();
     m_equList.showToListView();
 }
 

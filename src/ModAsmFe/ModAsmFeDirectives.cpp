@@ -143,10 +143,9 @@ bool ModAsmFe::parseLineDirectiveDef(SrcReference* srcRef)
         return false;
     }
     addDefine(name);
-    if (!isEmpty(eTagArg1)) {
+    // The define stands, so the program is not the less clear for what follows it.
+    if (!isEmpty(eTagArg1))
         m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, tag(eTagArg1));
-        return false;
-    }
     return true;
 }
 
@@ -194,7 +193,7 @@ bool ModAsmFe::parseLineDirectiveNs(SrcReference* srcRef)
         return false;
     }
     if (m_nameSpace.size() + name.size() > maxNameSpaceLength) {
-        m_msgHndlr->signError(tr("Namespace exceeds maximum of %1 characters.").arg(maxNameSpaceLength), srcRef);
+        m_msgHndlr->signMsg(errNsTooLong, srcRef, QString::number(maxNameSpaceLength));
         return false;
     }
     m_nameSpace = m_nameSpace.isEmpty() ? name : m_nameSpace + QLatin1String("::") + name;

@@ -93,9 +93,7 @@ bool ModAsmFe::setupIODevAttrSize(IODev* dev)
     if (!setupIODevSetNumeric(set, &dev->memSize))
         return false;
     if (dev->memSize > maxMemWords - m_devWords) {
-        m_msgHndlr->signError(tr("Size of IO device %1 exceeds maximum of %2 words for all devices: %3")
-                                  .arg(dev->devName, QString::number(maxMemWords), set->value),
-                              &set->srcRef);
+        m_msgHndlr->signMsg(errIODevTooLarge, &set->srcRef, dev->devName, QString::number(maxMemWords), set->value);
         return false;
     }
     m_devWords += qMax(dev->memSize, 0);

@@ -95,11 +95,8 @@ bool ModAsmFe::mapOpcodeToMemSetConfig()
     // A memory of less than nothing has no room for any instruction either.
     m_pageSize = qMax(m_pageSize, 0);
     if (qint64(m_pageSize) * m_pageCount > maxMemWords) {
-        m_msgHndlr->signError(tr("Instruction memory of %1 pages of %2 words exceeds maximum of %3 words.")
-                                  .arg(m_pageCount)
-                                  .arg(m_pageSize)
-                                  .arg(maxMemWords),
-                              last != nullptr ? &last->srcRef : nullptr);
+        m_msgHndlr->signMsg(errMMInstMemTooLarge, last != nullptr ? &last->srcRef : nullptr, QString::number(m_pageCount),
+                            QString::number(m_pageSize), QString::number(maxMemWords));
         return false;
     }
     return true;

@@ -192,15 +192,38 @@ void ModAsmFe::setupSupportMenuDynamics()
     EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
     if (menu == nullptr)
         return;
-    const auto text = EditorSupportMenu::typeText;
-    menu->removeEntry("Label");
-    for (const QString& name : m_labelList.nameList())
-        menu->setEntry("Label/" + name, name, text);
-    menu->removeEntry("Defines");
-    for (const QString& name : m_equList.nameList())
-        menu->setEntry("Defines/" + name, name, text);
+    setupSupportMenuNames(menu, "Label", m_labelList.nameList(), &m_menuLabels);
+    setupSupportMenuNames(menu, "Defines", m_equList.nameList(), &m_menuDefines);
     if (m_asmBe != nullptr)
-        menu->setEntry(QString(codeGeneration).arg(m_asmBe->processorDefine()), m_asmBe->processorDefine(), text);
+        menu->setEntry(QString(codeGeneration).arg(m_asmBe->processorDefine()), m_asmBe->processorDefine(),
+                       EditorSupportMenu::typeText);
+}
+
+/// Makes the names the entries of a sub menu.
+/// @param shown the names that the sub menu has. Most runs change few or none of them, and ten thousands of entries take their time.
+void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
+                                     QStringList* shown)
+{
+    if (names == *shown)
+        return;
+    const QSet<QString> before(shown->cbegin(), shown->cend());
+    const QSet<QString> now(names.cbegin(), names.cend());
+    QSet<QString> gone = before;
+    gone.subtract(now);
+    QSet<QString> added = now;
+    added.subtract(before);
+    if (now.isEmpty() || gone.size() > now.size() / 2) {
+        menu->removeEntry(title);
+        gone.clear();
+        added = now;
+    }
+    for (const QString& name : qAsConst(gone))
+        menu->removeEntry(title + '/' + name);
+    for (const QString& name : qAsConst(added)) {
+        goesOn();
+        menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
+    }
+    *shown = names;
 }
 
 void ModAsmFe::setupSupportMenuHardware()

@@ -69,20 +69,23 @@ bool ModAsmFe::checkTargetFile(const QString& file)
             inputs.append(dev->verilogTemplateFile);
     }
     if (isOneOf(inputs)) {
-        m_msgHndlr->signError(tr("Output file would overwrite a file of the project: %1").arg(file));
+        m_msgHndlr->signMsg(errTargetOverwritesProject, file);
         return false;
     }
     // A device such as /dev/null takes any number of files.
     if (QFileInfo(file).isFile() && isOneOf(m_writtenFiles)) {
-        m_msgHndlr->signError(tr("Output file was already written in this run: %1").arg(file));
+        m_msgHndlr->signMsg(errTargetWrittenTwice, file);
         return false;
     }
     return true;
 }
 
 template <class Write>
-bool ModAsmFe::mapIODevToFiles(const QString& groupText, bool IODev::*en, QString IODev::*file, Write write)
+bool ModAsmFe::mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file,
+                               Write write)
 {
+    if (modMsgHook != nullptr)
+        modMsgHook->registerPlugin(writer);
     openGroup(groupText);
     bool success = true;
     bool any = false;
@@ -90,6 +93,7 @@ bool ModAsmFe::mapIODevToFiles(const QString& groupText, bool IODev::*en, QStrin
         if (!(dev->*en))
             continue;
         any = true;
+        goesOn();
         if (!checkTargetFile(dev->*file) || !write(dev)) {
             success = false;
             break;
@@ -100,34 +104,36 @@ bool ModAsmFe::mapIODevToFiles(const QString& groupText, bool IODev::*en, QStrin
     if (!any)
         m_msgHndlr->signMsg(warnIODevNoFileToWrite);
     closeGroup(success);
+    if (modMsgHook != nullptr)
+        modMsgHook->unregisterPlugin(writer);
     return success;
 }
 
 bool ModAsmFe::mapIODevToFileVhdl()
 {
-    TargetFileWriteVhdl writer(modMsgHook);
-    return mapIODevToFiles(tr("Writing vhdl files..."), &IODev::targetVhdlEn, &IODev::vhdlTargetFile,
+    TargetFileWriteVhdl writer;
+    return mapIODevToFiles(&writer, tr("Writing vhdl files..."), &IODev::targetVhdlEn, &IODev::vhdlTargetFile,
                            [&](IODev* dev) { return writer.writeFile(dev, &m_metaTags); });
 }
 
 bool ModAsmFe::mapIODevToFileVerilog()
 {
-    TargetFileWriteVerilog writer(modMsgHook);
-    return mapIODevToFiles(tr("Writing verilog files..."), &IODev::targetVerilogEn, &IODev::verilogTargetFile,
+    TargetFileWriteVerilog writer;
+    return mapIODevToFiles(&writer, tr("Writing verilog files..."), &IODev::targetVerilogEn, &IODev::verilogTargetFile,
                            [&](IODev* dev) { return writer.writeFile(dev, &m_metaTags); });
 }
 
 bool ModAsmFe::mapIODevToFileHex()
 {
-    TargetWriteFileHex writer(modMsgHook);
-    return mapIODevToFiles(tr("Writing hex files..."), &IODev::targetHexEn, &IODev::hexTargetFile,
+    TargetWriteFileHex writer;
+    return mapIODevToFiles(&writer, tr("Writing hex files..."), &IODev::targetHexEn, &IODev::hexTargetFile,
                            [&](IODev* dev) { return writer.writeFile(dev); });
 }
 
 bool ModAsmFe::mapIODevToFileMem()
 {
-    TargetWriteFileMem writer(modMsgHook);
-    return mapIODevToFiles(tr("Writing mem files..."), &IODev::targetMemEn, &IODev::memTargetFile,
+    TargetWriteFileMem writer;
+    return mapIODevToFiles(&writer, tr("Writing mem files..."), &IODev::targetMemEn, &IODev::memTargetFile,
                            [&](IODev* dev) { return writer.writeFile(dev); });
 }
 

@@ -4,7 +4,6 @@
 
 #include "AsmFeFileHndlr.h"
 #include "LineReader.h"
-#include "ModMsgHookIf.h"
 #include "ModSourcesHookIf.h"
 #include "ModSrcNaviHookIf.h"
 #include "NaviTag.h"
@@ -13,6 +12,8 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegExp>
+
+#include <algorithm>
 
 namespace nsModAsmFe {
 
@@ -32,6 +33,13 @@ void trimEnd(QString* text)
         text->chop(1);
 }
 
+/// Is there text after a carriage return, so that it may have been meant as the end of a line?
+bool holdsLoneCarriageReturn(const QString& line)
+{
+    const int pos = line.indexOf('\r');
+    return pos >= 0 && std::any_of(line.cbegin() + pos, line.cend(), [](QChar c) { return c != '\r' && c != '\n'; });
+}
+
 } // namespace
 
 bool ModAsmFe::parseFiles()
@@ -46,19 +54,22 @@ bool ModAsmFe::parseFiles()
     const QStringList files = modSourcesHook != nullptr ? modSourcesHook->files() : QStringList();
     m_fileHndlr->setFiles(files);
     for (int i = 0; i < files.size(); ++i) {
-        if (modMsgHook != nullptr)
-            modMsgHook->showInfoMessage(tr("Parsing file %1: %2").arg(QString::number(i + 1), m_fileHndlr->file(i)));
+        m_msgHndlr->signMsg(infoParsingFile, QString::number(i + 1), m_fileHndlr->file(i));
         srcRef.fileNo = i;
         if (!parseFile(&srcRef, m_fileHndlr->file(i)))
             return false;
+        SrcReference end = srcRef;
+        // Without a final line break the last line is the end of the file.
+        if (!m_lastLineEnded)
+            --end.lineNo;
         if (m_ifActive != 0) {
             m_ifActive = 0;
             m_ifSkip = false;
-            m_msgHndlr->signMsg(errSetExpectIfEndBeforeEof, &srcRef);
+            m_msgHndlr->signMsg(errSetExpectIfEndBeforeEof, &end);
             return false;
         }
         if (!m_nameSpace.isEmpty()) {
-            m_msgHndlr->signMsg(errSetExpectNsEndBeforeEof, &srcRef);
+            m_msgHndlr->signMsg(errSetExpectNsEndBeforeEof, &end);
             return false;
         }
     }
@@ -75,9 +86,19 @@ bool ModAsmFe::parseFile(SrcReference* srcRef, const QString& file)
         return false;
     }
     bool success = true;
+    bool hasWarned = false;
+    m_lastLineEnded = true;
     LineReader reader(&source, maxLineLength);
     QString line;
     while (reader.readLine(&line)) {
+        m_lastLineEnded = reader.wasEnded();
+        // Often enough for the eye, and too seldom to be felt.
+        if ((srcRef->lineNo & 0x3ff) == 0)
+            goesOn();
+        if (!hasWarned && holdsLoneCarriageReturn(line)) {
+            m_msgHndlr->signMsg(warnLoneCarriageReturn, srcRef);
+            hasWarned = true;
+        }
         if (reader.wasTruncated()) {
             m_msgHndlr->signMsg(errSyntax, srcRef);
             success = false;
@@ -282,7 +303,11 @@ QString ModAsmFe::parseLineNaviTagLineRef(QString* line, const QString& word)
         if (expression.indexIn(*line) >= 0)
             return expression.cap(0);
     }
-    return *line;
+    // The line break is no part of the text that a document can find.
+    QString text = *line;
+    while (text.endsWith('\n') || text.endsWith('\r'))
+        text.chop(1);
+    return text;
 }
 
 } // namespace nsModAsmFe

@@ -4,6 +4,7 @@
 
 #include "MyButton.h"
 #include "MyButtonCancel.h"
+#include "MyWheelGuard.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
@@ -132,6 +133,7 @@ QListWidgetItem* ConfigDialog::addPage(const QIcon& icon, const QString& title, 
     area->setWidgetResizable(true);
     area->setFocusPolicy(Qt::NoFocus); // the fields in it are stops enough
     area->setWidget(page);
+    MyWheelGuard::install(page);
     // The stack comes first: a new current item looks for its page there.
     m_stack->addWidget(area);
     m_list->addItem(item);

@@ -9,6 +9,7 @@ namespace nsModEditor {
 namespace {
 
 const int weightUnset = -1;
+const int maxWeight = 99; ///< of a font
 
 struct sFontContext_t
 {
@@ -43,7 +44,17 @@ struct Reader
 {
     ModCfgAppHookIf* cfg;
 
-    void item(const QString& key, int& field) { field = cfg->value(key, field); }
+    void item(const QString& key, int& field, int first, int last)
+    {
+        field = qBound(first, cfg->value(key, field), last);
+    }
+    /// One of some values: any other leaves the field as it is.
+    void choice(const QString& key, int& field, int last)
+    {
+        const int value = cfg->value(key, field);
+        if (value >= 0 && value <= last)
+            field = value;
+    }
     void item(const QString& key, bool& field) { field = cfg->value(key, int(field)) != 0; }
     void item(const QString& key, QColor& field)
     {
@@ -51,14 +62,21 @@ struct Reader
         if (color.isValid())
             field = color;
     }
-    void item(const QString& key, QFont& field) { field = cfg->font(key, field); }
+    void item(const QString& key, QFont& field)
+    {
+        field = cfg->font(key, field);
+        // A font can be stored in pixels; documents have points.
+        const int size = field.pointSize() > 0 ? field.pointSize() : EditorConfig::getNominalFont().pointSize();
+        field.setPointSize(qBound(EditorConfig::minFontSize, size, EditorConfig::maxFontSize));
+    }
 };
 
 struct Writer
 {
     ModCfgAppHookIf* cfg;
 
-    void item(const QString& key, int field) { cfg->setValue(key, field); }
+    void item(const QString& key, int field, int, int) { cfg->setValue(key, field); }
+    void choice(const QString& key, int field, int) { cfg->setValue(key, field); }
     void item(const QString& key, bool field) { cfg->setValue(key, int(field)); }
     void item(const QString& key, const QColor& field) { cfg->setValue(key, field); }
     void item(const QString& key, const QFont& field) { cfg->setFont(key, field); }
@@ -67,15 +85,16 @@ struct Writer
 template <class Access, class Config>
 void allItems(Access access, Config& config)
 {
-    access.item("ModEditor/tabIndent", config.tabIndent);
+    access.item("ModEditor/tabIndent", config.tabIndent, 1, EditorConfig::maxTabIndent);
     access.item("ModEditor/dynamicLineWrapEn", config.dynamicLineWrapEn);
     access.item("ModEditor/lineNumberEn", config.lineNumberEn);
     access.item("ModEditor/autoReturnIndentEn", config.autoReturnIndentEn);
     access.item("ModEditor/textCompletionEn", config.textCompletionEn);
-    access.item("ModEditor/textCompleterPrefixLength", config.textCompleterPrefixLength);
-    access.item("ModEditor/textCompleterItemCount", config.textCompleterItemCount);
+    access.item("ModEditor/textCompleterPrefixLength", config.textCompleterPrefixLength, 1,
+                EditorConfig::maxPrefixLength);
+    access.item("ModEditor/textCompleterItemCount", config.textCompleterItemCount, 1, EditorConfig::maxItemCount);
     access.item("ModEditor/highlightSelectionEn", config.highlightSelectionEn);
-    access.item("ModEditor/memPageAddrEn", config.memPageAddrEn);
+    access.choice("ModEditor/memPageAddrEn", config.memPageAddrEn, EditorConfig::memPageAddrSimOnly);
     access.item("ModEditor/cursorBgColor", config.cursorBgColor);
     access.item("ModEditor/highlightBgColor", config.highlightBgColor);
     access.item("ModEditor/leftMarginBgColor", config.leftMarginBgColor);
@@ -95,7 +114,8 @@ int storedWeight(const QTextCharFormat& format)
 void rdAppCfgFontFormat(ModCfgAppHookIf* cfg, const QString& context, QTextCharFormat* format)
 {
     const QString key = "ModEditor/font/" + context;
-    const int weight = cfg->value(key + "/weight", storedWeight(*format));
+    int weight = storedWeight(*format);
+    Reader{cfg}.choice(key + "/weight", weight, maxWeight);
     format->setFontWeight(weight == QFont::Normal ? 0 : weight);
     format->setFontItalic(cfg->value(key + "/italic", int(format->fontItalic())) != 0);
     const QColor color = cfg->value(key + "/color", format->foreground().color());

@@ -37,6 +37,13 @@ public:
         fontContextCount, ///< number of contexts, not a context
     };
 
+    // Ranges of the numbers, wherever they come from; the smallest width, length and count is 1.
+    static constexpr int maxTabIndent = 64; ///< characters
+    static constexpr int maxPrefixLength = 20;
+    static constexpr int maxItemCount = 100;
+    static constexpr int minFontSize = 4;  ///< points, also of a zoomed document
+    static constexpr int maxFontSize = 72; ///< points
+
     EditorConfig();
 
     /// Reads all keys from the application's settings; a missing one leaves the field as it is.

@@ -17,10 +17,6 @@ namespace nsModEditor {
 
 namespace {
 
-const int maxTabIndent = 64; ///< characters
-const int maxPrefixLength = 20;
-const int maxItemCount = 100;
-
 /// Indexed by eFontContext_t.
 QStringList fontContextNames()
 {
@@ -49,7 +45,7 @@ void EditorConfigPage::addFormating(MyPageLayout* layout)
 {
     layout->addSection(tr("Formating"));
     m_tabIndent = addNumber(layout, "tabIndent", tr("Tab indent:"), tr("Width of a tab; an open project has its own"),
-                            tr(" characters"), maxTabIndent);
+                            tr(" characters"), EditorConfig::maxTabIndent);
     m_dynamicLineWrapEn = addCheck(layout, "dynamicLineWrapEn", tr("Dynamic word wrap:"),
                                    tr("Lines longer than the window go on in the next row"));
     m_autoReturnIndentEn = addCheck(layout, "autoReturnIndentEn", tr("Auto return indent:"),
@@ -60,12 +56,13 @@ void EditorConfigPage::addTextCompletion(MyPageLayout* layout)
 {
     layout->addSection(tr("Text completion"));
     m_textCompletionEn =
-        addCheck(layout, "textCompletionEn", tr("Text completion enable:"), tr("Words are proposed while you type"));
+        addCheck(layout, "textCompletionEn", tr("Text completion enable:"),
+                 tr("For the completion of words, which this release does not offer yet"));
     m_textCompleterPrefixLength = addNumber(layout, "textCompleterPrefixLength", tr("Text completion prefix length:"),
-                                            tr("Number of typed characters from which on words are proposed"),
-                                            tr(" characters"), maxPrefixLength);
+                                            tr("For the completion of words: how many typed characters it begins with"),
+                                            tr(" characters"), EditorConfig::maxPrefixLength);
     m_textCompleterItemCount = addNumber(layout, "textCompleterItemCount", tr("Completion list proposal count:"),
-                                         tr("Number of proposals that are seen at once"), QString(), maxItemCount);
+                                         tr("For the completion of words: how many proposals are seen at once"), QString(), EditorConfig::maxItemCount);
 }
 
 void EditorConfigPage::addHighlighting(MyPageLayout* layout)
@@ -243,8 +240,9 @@ void EditorConfigPage::hndlFontFamilySel(const QFont& font)
 
 void EditorConfigPage::hndlFontSizeSel(const QString& size)
 {
-    if (size.toInt() > 0)
-        m_stdFont.setPointSize(size.toInt());
+    const int points = size.toInt();
+    if (points >= EditorConfig::minFontSize && points <= EditorConfig::maxFontSize)
+        m_stdFont.setPointSize(points);
 }
 
 } // namespace nsModEditor

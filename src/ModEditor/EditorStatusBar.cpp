@@ -2,8 +2,12 @@
 
 #include "MyStatusBarTitle.h"
 
+#include <QAction>
+#include <QActionGroup>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
+#include <QToolButton>
 
 namespace nsModEditor {
 
@@ -27,11 +31,13 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 0, 8, 0);
     layout->setSpacing(8);
-    m_fontSize = addPair(tr("Font size:"), tr("Font size of the document, changed with Ctrl and the wheel"),
+    m_fontSize = addPair(tr("Font size:"), tr("Font size of the document, changed with Ctrl and the wheel; Ctrl+0 resets it"),
                          "editorStatusBarFontSize");
     layout->addSpacing(8);
     m_mode = addPair(tr("Mode:"), tr("What typing does to the text behind the cursor, changed with the Insert key"),
                      "editorStatusBarMode");
+    layout->addSpacing(8);
+    addFormat();
     layout->addStretch(1);
     // What follows must not move when a value changes.
     reserve(m_fontSize, {tr("%1 pt").arg(100)});
@@ -49,6 +55,63 @@ QLabel* EditorStatusBar::addPair(const QString& title, const QString& toolTip, c
     layout()->addWidget(titleLabel);
     layout()->addWidget(value);
     return value;
+}
+
+void EditorStatusBar::addFormat()
+{
+    const QString toolTip = tr("Encoding and line ends of the file; click to change line ends and byte order mark");
+    auto* title = new MyStatusBarTitle(tr("File:"), this);
+    title->setToolTip(toolTip);
+    m_format = new QToolButton(this);
+    m_format->setObjectName(QStringLiteral("editorStatusBarFormat"));
+    m_format->setToolTip(toolTip);
+    m_format->setAccessibleName(tr("Format of the file"));
+    m_format->setAutoRaise(true);
+    m_format->setPopupMode(QToolButton::InstantPopup);
+    m_format->setFocusPolicy(Qt::TabFocus);
+    auto* menu = new QMenu(m_format);
+    m_lineEnds = new QActionGroup(this);
+    // Of mixed line ends none is checked.
+    m_lineEnds->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
+    const QStringList names = {tr("LF (Unix)"), tr("CRLF (Windows)"), tr("CR")};
+    for (int lineEnd = DocumentFormat::eLineEndLf; lineEnd <= DocumentFormat::eLineEndCr; ++lineEnd) {
+        QAction* action = menu->addAction(names.at(lineEnd));
+        action->setCheckable(true);
+        action->setData(lineEnd);
+        m_lineEnds->addAction(action);
+    }
+    menu->addSeparator();
+    m_mark = menu->addAction(tr("Byte order mark"));
+    m_mark->setCheckable(true);
+    m_format->setMenu(menu);
+    connect(m_lineEnds, &QActionGroup::triggered, this, &EditorStatusBar::selectLineEnd);
+    connect(m_mark, &QAction::triggered, this, &EditorStatusBar::markSelected);
+    layout()->addWidget(title);
+    layout()->addWidget(m_format);
+    clearFormat();
+}
+
+void EditorStatusBar::selectLineEnd(QAction* action)
+{
+    emit lineEndSelected(action->data().toInt());
+    // A click on the one that holds already does not take it away.
+    action->setChecked(true);
+}
+
+void EditorStatusBar::setFormat(const DocumentFormat& format, bool changeable)
+{
+    m_format->setText(format.text());
+    m_format->setEnabled(changeable);
+    for (QAction* action : m_lineEnds->actions())
+        action->setChecked(action->data().toInt() == format.lineEnd());
+    m_mark->setChecked(format.hasMark());
+    m_mark->setEnabled(format.encoding() == DocumentFormat::eEncodingUtf8);
+}
+
+void EditorStatusBar::clearFormat()
+{
+    m_format->setText(QString());
+    m_format->setEnabled(false);
 }
 
 void EditorStatusBar::setFontSize(int size)

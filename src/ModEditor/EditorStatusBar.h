@@ -1,12 +1,17 @@
 #pragma once
 
+#include "DocumentFormat.h"
+
 #include <QWidget>
 
+class QAction;
+class QActionGroup;
 class QLabel;
+class QToolButton;
 
 namespace nsModEditor {
 
-/// The editor's part of the status bar: font size and insert mode of the current document.
+/// The editor's part of the status bar: font size, insert mode and file format of the current document.
 class EditorStatusBar : public QWidget
 {
     Q_OBJECT
@@ -17,12 +22,28 @@ public:
     /// @param size points
     void setFontSize(int size);
     void setOverwrite(bool overwrite);
+    /// @param changeable whether line ends and mark can be chosen
+    void setFormat(const DocumentFormat& format, bool changeable);
+    /// There is no document.
+    void clearFormat();
+
+signals:
+    /// @param lineEnd a DocumentFormat::eLineEnd_t, not mixed
+    void lineEndSelected(int lineEnd);
+    void markSelected(bool mark);
+
+private slots:
+    void selectLineEnd(QAction* action);
 
 private:
+    void addFormat();
     QLabel* addPair(const QString& title, const QString& toolTip, const QString& name);
 
     QLabel* m_fontSize;
     QLabel* m_mode;
+    QToolButton* m_format = nullptr;
+    QActionGroup* m_lineEnds = nullptr;
+    QAction* m_mark = nullptr;
 };
 
 } // namespace nsModEditor

@@ -16,6 +16,7 @@
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
 
+#include <QDir>
 #include <QMenu>
 #include <QRegExp>
 #include <QStringListModel>
@@ -54,6 +55,8 @@ void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModEditor::modInit()
 {
     m_statusBar = new EditorStatusBar;
+    connect(m_statusBar, SIGNAL(lineEndSelected(int)), this, SLOT(setLineEnd(int)));
+    connect(m_statusBar, SIGNAL(markSelected(bool)), this, SLOT(setMark(bool)));
     m_syntaxHighlighterConfig = new EditorSyntaxHighlighterConfig(this);
     m_tipManager = new EditorTipManager;
     m_supportMenu = new EditorSupportMenu(this);
@@ -184,23 +187,24 @@ void ModEditor::wrAppCfg()
 void ModEditor::prjOpen()
 {
     m_lastPath = modPrjHook->prjDir().absolutePath();
-    tabIndent = modPrjHook->value("ModEditor/tabIndent", tabIndent);
+    tabIndent = qBound(1, modPrjHook->value("ModEditor/tabIndent", tabIndent), maxTabIndent);
     // The one value on the page that belongs to the project as well.
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
+    // One file has one path, also outside of the project's folder.
+    const auto fileOf = [this](const QString& path) { return QDir::cleanPath(modPrjHook->convToAbsPath(path)); };
     // The list of a program that was killed is newer than that of the project file.
     const RecoveryStore::Session session = takeSession();
     const bool isKilled = !session.project.isEmpty();
     for (const QString& file : isKilled ? session.files : modPrjHook->value("ModEditor/openFiles", QStringList()))
-        openFileWidget(modPrjHook->convToAbsPath(file));
+        openFileWidget(fileOf(file));
     configureEditorWidgets();
-    setActionState(nullptr);
     const QString lastFile = isKilled ? session.lastFile : modPrjHook->value("ModEditor/lastFile", QString());
-    if (lastFile.isEmpty())
-        return;
-    if (EditorWidget* widget = openFileWidget(modPrjHook->convToAbsPath(lastFile)))
-        widget->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
-    setActionState(currentEditorWidget());
+    EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
+    if (last != nullptr)
+        last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
+    // Without a last file, too, there is a page that is shown.
+    updateActionState();
 }
 
 void ModEditor::prjSave()
@@ -234,6 +238,21 @@ void ModEditor::prjClose()
 void ModEditor::handleUrl(QUrl url)
 {
     setCursorToLine(url);
+    clearMessageFlag();
+    EditorWidget* widget = currentEditorWidget();
+    // During a simulation the flag is that of the program counter.
+    if (m_simEnabled || widget == nullptr || widget->filePath() != url.path())
+        return;
+    clearLineHighlited();
+    widget->setLineHighlighted(lineOf(url));
+    m_isMessageFlagged = true;
+}
+
+/// The next run brings messages of its own.
+void ModEditor::clearMessageFlag()
+{
+    if (m_isMessageFlagged)
+        clearLineHighlited();
 }
 
 QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionClass)
@@ -293,7 +312,7 @@ void ModEditor::configPageClose(bool accepted)
 
 void ModEditor::setTabIndent(int indent)
 {
-    tabIndent = qBound(1, indent, 64);
+    tabIndent = qBound(1, indent, maxTabIndent);
     configureEditorWidgets();
 }
 
@@ -347,6 +366,9 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     connect(widget, SIGNAL(clearAllBreakpoints()), this, SLOT(clearSimBreakpoints()));
     connect(widget, SIGNAL(clearAllSimStartPointer()), this, SLOT(clearAllSimStartPointer()));
     connect(widget, SIGNAL(clearAllBookmarks()), this, SLOT(clearAllBookmarks()));
+    // Not inside of the drop: opening can ask a question, and whoever drags waits for the end.
+    connect(widget, &EditorWidget::filesDropped, this, &ModEditor::openDroppedFiles, Qt::QueuedConnection);
+    widget->addActions(m_actionsEdit->menuActions());
 }
 
 void ModEditor::configureEditorWidget(EditorWidget* widget)

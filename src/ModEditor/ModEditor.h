@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DocumentFormat.h"
+#include "DocumentOnDisk.h"
 #include "EditorActionsEdit.h"
 #include "EditorActionsFile.h"
 #include "EditorActionsSim.h"
@@ -19,17 +21,19 @@
 #include "PluginList.h"
 #include "RecoveryStore.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
-#include <QSet>
 #include <QString>
 
 class MyNoticeBar;
+class QPrinter;
 class QStringListModel;
 
 namespace nsModEditor {
 
+class DocumentWatcher;
 class EditorConfigPage;
 class EditorMemPageAddrMap;
 class EditorRecovery;
@@ -41,8 +45,9 @@ class EditorWidget;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and leads other modules to their lines.
 ///
-/// A document is a page in the centre of the window. Files are not watched: one that changed on the disk is read again when the
-/// user or another module asks for it. Questions to the user are modal and nest the event loop.
+/// A document is a page in the centre of the window. Its file is watched: a document without changes of its own follows it, any
+/// other one says so at its upper edge, and is not written over a file that others have changed without a question. Questions to
+/// the user are modal and nest the event loop.
 class ModEditor : public QObject,
                   public ModEditorHookIf,
                   public ModPluginIf,
@@ -110,6 +115,7 @@ public:
     void simEn(bool enabled) override;
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
+    int simBreakpointsRevision() override { return m_simBreakpointsRevision; }
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;
@@ -140,7 +146,7 @@ public:
 
     // ModSourcesPluginIf
     void srcFileListChanged() override {}
-    void srcFileContentChanged() override {}
+    void srcFileContentChanged() override { clearMessageFlag(); }
 
     // ModFindReplacePluginIf
     QString findInit() override;
@@ -158,6 +164,8 @@ public:
     EditorStatusBar* statusBar() const;
     /// Looks after what is not in a file; null before modInit() and after modExit().
     EditorRecovery* recovery() const { return m_recovery; }
+    /// Prints the document, or what is selected in it, as the printer is set.
+    void printFile(EditorWidget* widget, QPrinter* printer);
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -180,6 +188,7 @@ public slots:
     void clearLineHighlited() override;
     void setLineHighlighted(QUrl url) override;
     void setLineHighlighted(QString path, int line) override;
+    void markLine(QString path, int line) override;
     /// Inserts the text at the cursor of the current document.
     void insertText(QString text);
 
@@ -193,6 +202,11 @@ private slots:
     void clearSimBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
+    void checkDisk(const QString& path, bool sure);
+    // What the user chooses in the status bar.
+    void setLineEnd(int lineEnd);
+    void setMark(bool mark);
+    void openDroppedFiles(const QStringList& paths);
 
 private:
     // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
@@ -203,7 +217,7 @@ private:
     /// After a command of the user who now wants to type.
     void focusCurrentWidget();
     void openFilesByDialog();
-    bool readFile(const QString& path, QString* text, bool* isLatin1);
+    bool readFile(const QString& path, QByteArray* bytes);
     bool writeFile(const QString& path, const QByteArray& bytes);
     QByteArray encoded(EditorWidget* widget);
     bool saveFile(EditorWidget* widget);
@@ -218,9 +232,48 @@ private:
     bool askForReload(const QString& path);
     bool askForProjectMember(const QString& path);
     bool ask(const QString& title, const QString& first, const QString& path, const QStringList& closing);
+    // Files that others change (ModEditorDisk.cpp)
+    /// What the user wants where a file and its document have both changed.
+    enum eConflict_t
+    {
+        eConflictCancel = 0,
+        eConflictKeepMine = 1,
+        eConflictTakeFile = 2
+    };
+    /// What is known of the file of a document.
+    struct sDisk_t
+    {
+        DocumentOnDisk onDisk;
+        QPointer<MyNoticeBar> notice;     ///< others have changed or removed the file
+        QPointer<MyNoticeBar> lockNotice; ///< the file can not be shown as it is
+        QByteArray reported;              ///< what the notice was about, closed or not
+    };
+    /// Shows what was read. @param asEdit as a step to undo
+    void setContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit);
+    /// After an open or a reload.
+    void showContent(EditorWidget* widget, const QByteArray& bytes);
+    void setNewPath(EditorWidget* widget, const QString& path);
+    void setLocked(EditorWidget* widget, DocumentFormat::eObstacle_t obstacle);
+    bool canSaveAs(EditorWidget* widget, const QString& path);
+    bool writeDocument(EditorWidget* widget);
+    bool saveChecked(EditorWidget* widget);
+    eConflict_t askForConflict(EditorWidget* widget, const QByteArray& other, bool gone);
+    eConflict_t compareWithFile(EditorWidget* widget, const QByteArray& other);
+    bool takeFile(EditorWidget* widget);
+    void keepMine(EditorWidget* widget);
+    void writeAgain(EditorWidget* widget);
+    void compareByNotice(EditorWidget* widget);
+    void watchDocuments();
+    void checkDisk(EditorWidget* widget);
+    void showGoneNotice(EditorWidget* widget);
+    void showChangedNotice(EditorWidget* widget);
+    void removeDiskNotice(EditorWidget* widget);
+    static void removeNotice(QPointer<MyNoticeBar>* bar);
+
     void setFileContentChanged();
     void chkProjectMembership(const QString& path);
     QString convToRelPath(const QString& path) const;
+    static int lineOf(const QUrl& url);
     void showError(const QString& text);
     void showWarning(const QString& text);
 
@@ -245,11 +298,14 @@ private:
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
     void setActionState(EditorWidget* current);
+    void updateActionState();
+    void clearMessageFlag();
     void setFindParameter();
     void find(bool configChanged, bool backward);
 
     QList<EditorWidget*> m_editorWidgets;
-    QSet<EditorWidget*> m_latin1Widgets; ///< documents whose files are no UTF-8: they are written as they were read
+    QHash<EditorWidget*, sDisk_t> m_disk;
+    DocumentWatcher* m_watcher = nullptr; ///< null before the first document
     PluginList<ModEditorPluginIf> m_plugins;
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned
     ModEditorPluginIfSimulator* m_simulator = nullptr; ///< not owned
@@ -270,7 +326,9 @@ private:
     QString m_lastPath; ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
+    int m_simBreakpointsRevision = 0;                 ///< grows with each change of what simBreakpoints() answers
     bool m_simEnabled = false;
+    bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
     bool m_errorShown = false; ///< the present action of the user has reported an error
 };
 

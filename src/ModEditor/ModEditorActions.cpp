@@ -100,6 +100,9 @@ void ModEditor::handleActions(EditorActionsEdit::eAction_t action)
     case EditorActionsEdit::eActionMoveLineDown:
         widget->moveLineDown();
         break;
+    case EditorActionsEdit::eActionResetZoom:
+        widget->resetZoom();
+        break;
     }
 }
 
@@ -119,6 +122,8 @@ void ModEditor::setActionState(EditorWidget* current)
 {
     if (m_actionsFile == nullptr)
         return;
+    if (!m_editorWidgets.contains(current))
+        m_statusBar->clearFormat();
     m_actionsFile->setEnabled(false);
     m_actionsEdit->setEnabled(false);
     m_supportMenu->setEnabled(false);
@@ -140,7 +145,7 @@ void ModEditor::setActionState(EditorWidget* current)
                               EditorActionsFile::eActionClose})
         m_actionsFile->setEnabled(action, true);
     m_actionsFile->setEnabled(EditorActionsFile::eActionCloseOthers, m_editorWidgets.size() > 1);
-    for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionMoveLineDown; ++action)
+    for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
     if (modClipboardHook != nullptr)
@@ -148,10 +153,19 @@ void ModEditor::setActionState(EditorWidget* current)
     setActionStateEditorWidget(current);
 }
 
+/// What is offered belongs to the page that is shown now.
+void ModEditor::updateActionState()
+{
+    setActionState(currentEditorWidget());
+}
+
 void ModEditor::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    if (location == ModGuiHookIf::eLocationTabs && modPrjHook != nullptr && modPrjHook->isValid())
+    // When the last page has gone there is no widget, so no area is named either.
+    if (location == ModGuiHookIf::eLocationTabs)
         setActionState(qobject_cast<EditorWidget*>(widget));
+    else if (widget == nullptr)
+        updateActionState();
 }
 
 void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
@@ -166,6 +180,7 @@ void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
             widget->hasSelection());
     m_statusBar->setFontSize(widget->fontSize());
     m_statusBar->setOverwrite(widget->overwriteMode());
+    m_statusBar->setFormat(widget->format(), !widget->isReadOnly());
 }
 
 void ModEditor::setModifiedState(EditorWidget* widget)
@@ -199,13 +214,14 @@ bool ModEditor::simStartPointer(QString* path, int* line)
 void ModEditor::setSimBreakpointsChanged()
 {
     m_simBreakpointsChangedFlag = true;
+    ++m_simBreakpointsRevision;
 }
 
 void ModEditor::clearSimBreakpoints()
 {
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearSimBreakpoints();
-    m_simBreakpointsChangedFlag = true;
+    setSimBreakpointsChanged();
 }
 
 void ModEditor::clearAllSimStartPointer()
@@ -315,7 +331,9 @@ void ModEditor::replace(bool configChanged)
         return;
     if (modFindReplaceHook != nullptr)
         m_findParameter.replaceString = modFindReplaceHook->replaceString();
-    widget->replace(m_findParameter.replaceString);
+    // What the user has selected meanwhile is not what the search found.
+    if (widget->isHit(m_findParameter.findString, m_findParameter.caseSensitive, m_findParameter.wholeWords))
+        widget->replace(m_findParameter.replaceString);
     findNext(configChanged);
 }
 

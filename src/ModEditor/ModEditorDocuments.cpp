@@ -76,9 +76,11 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
-    m_latin1Widgets.remove(widget);
     if (m_recovery != nullptr)
         m_recovery->forget(widget);
+    // Its breakpoints go with it.
+    ++m_simBreakpointsRevision;
+    m_disk.remove(widget);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(widget);
     if (modClipboardHook != nullptr)
@@ -86,6 +88,8 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     if (modFindReplaceHook != nullptr)
         modFindReplaceHook->unregisterPluginWidget(widget);
     delete widget;
+    watchDocuments();
+    updateActionState();
 }
 
 void ModEditor::focusCurrentWidget()
@@ -111,14 +115,11 @@ EditorWidget* ModEditor::openFileWidget(const QString& path)
             return widget;
         }
     }
-    QString text;
-    bool isLatin1 = false;
-    if (!readFile(path, &text, &isLatin1))
+    QByteArray bytes;
+    if (!readFile(path, &bytes))
         return nullptr;
     QPointer<EditorWidget> widget = newEditorWidget(path);
-    if (isLatin1)
-        m_latin1Widgets.insert(widget);
-    widget->setText(text);
+    showContent(widget, bytes);
     // The question that this can ask lets the user close the page meanwhile.
     chkProjectMembership(path);
     return m_editorWidgets.contains(widget) ? widget.data() : nullptr;
@@ -140,6 +141,13 @@ void ModEditor::openFilesByDialog()
         openFile(path);
 }
 
+void ModEditor::openDroppedFiles(const QStringList& paths)
+{
+    for (const QString& path : paths)
+        openFile(path);
+    focusCurrentWidget();
+}
+
 bool ModEditor::selectFile(QString path)
 {
     for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
@@ -158,13 +166,7 @@ bool ModEditor::saveFile(EditorWidget* widget)
         return false;
     if (widget->filePath().isEmpty())
         return saveFileAs(widget);
-    if (!writeFile(widget->filePath(), encoded(widget)))
-        return false;
-    widget->clearModified();
-    if (m_recovery != nullptr)
-        m_recovery->setSaved(widget);
-    setActionStateEditorWidget(widget);
-    return true;
+    return saveChecked(widget);
 }
 
 /// Does what the user has asked for in a message group, so that its reports outlive the run that it may start. An error
@@ -194,8 +196,10 @@ void ModEditor::saveAllFiles()
         // A dialog for an untitled document lets the user close pages meanwhile.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
-            // A page that nobody has typed into needs no name.
-            if (m_editorWidgets.contains(widget) && !isUntouched(widget))
+            // A file that the user has not touched here is left to whoever may have changed or removed it, and a page that
+            // nobody has typed into needs no name.
+            if (m_editorWidgets.contains(widget) && !isUntouched(widget) &&
+                (widget->isModified() || !m_disk.value(widget).onDisk.isKnown()))
                 saveFile(widget);
         }
         setFileContentChanged();
@@ -217,10 +221,12 @@ bool ModEditor::saveFileAs(EditorWidget* widget)
     if (names.size() != 1 || names.first().isEmpty())
         return false;
     const QString name = names.first();
+    if (!canSaveAs(widget, name))
+        return false;
     m_lastPath = QFileInfo(name).absolutePath();
-    widget->setFilePath(name);
+    setNewPath(widget, name);
     chkProjectMembership(name);
-    if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+    if (!m_editorWidgets.contains(widget) || !writeDocument(widget))
         return false;
     if (modGuiHook != nullptr)
         modGuiHook->setWidgetName(widget, convToRelPath(name));
@@ -242,9 +248,11 @@ bool ModEditor::saveFileAs(QString path)
     if (path.isEmpty() || widget == nullptr)
         return false;
     return inGroup(tr("Saving..."), [this, widget, path] {
-        widget->setFilePath(path);
+        if (!canSaveAs(widget, path))
+            return false;
+        setNewPath(widget, path);
         chkProjectMembership(path);
-        if (!m_editorWidgets.contains(widget) || !saveFile(widget))
+        if (!m_editorWidgets.contains(widget) || !writeDocument(widget))
             return false;
         if (modGuiHook != nullptr)
             modGuiHook->setWidgetName(widget, convToRelPath(path));
@@ -264,14 +272,9 @@ void ModEditor::reloadFile(EditorWidget* widget)
         keepText(widget, false);
         m_recovery->release(widget);
     }
-    QString text;
-    bool isLatin1 = false;
-    if (!m_editorWidgets.contains(widget) || !readFile(path, &text, &isLatin1))
-        return;
-    m_latin1Widgets.remove(widget);
-    if (isLatin1)
-        m_latin1Widgets.insert(widget);
-    widget->setText(text);
+    QByteArray bytes;
+    if (m_editorWidgets.contains(widget) && readFile(path, &bytes))
+        showContent(widget, bytes);
 }
 
 void ModEditor::reloadFile()
@@ -347,7 +350,14 @@ void ModEditor::printFile(EditorWidget* widget)
     dialog.setWindowTitle(tr("Print Document"));
     dialog.setOption(QAbstractPrintDialog::PrintSelection, widget->hasSelection());
     if (dialog.exec() == QDialog::Accepted && m_editorWidgets.contains(widget))
-        widget->print(&printer);
+        printFile(widget, &printer);
+}
+
+void ModEditor::printFile(EditorWidget* widget, QPrinter* printer)
+{
+    const QString name = widget->filePath().isEmpty() ? tr("Untitled") : convToRelPath(widget->filePath());
+    if (!PrintedPages::print(widget->printJob(name, printer->printRange() == QPrinter::Selection), printer))
+        showError(tr("Can not print: ") + name);
 }
 
 void ModEditor::printFile()
@@ -357,42 +367,65 @@ void ModEditor::printFile()
 
 void ModEditor::setCursorToLine(QString path, QString lineRef, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
+    if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(lineRef, line);
-    else
+        widget->setFocus(); // whoever wants to see a line wants to work on it
+    } else {
         showError(tr("Can not select line!"));
+    }
 }
 
 void ModEditor::setCursorToLine(QString path, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
+    if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(line);
-    else
+        widget->setFocus(); // whoever wants to see a line wants to work on it
+    } else {
         showError(tr("Can not select line!"));
+    }
+}
+
+/// The line that a link names in its fragment, counted from 0.
+int ModEditor::lineOf(const QUrl& url)
+{
+    return url.fragment().toInt();
 }
 
 void ModEditor::setCursorToLine(QUrl url)
 {
-    setCursorToLine(url.path(), url.fragment().toInt());
+    setCursorToLine(url.path(), lineOf(url));
 }
 
 void ModEditor::clearLineHighlited()
 {
+    m_isMessageFlagged = false;
     for (EditorWidget* widget : qAsConst(m_editorWidgets))
         widget->clearLineHighlighted();
 }
 
 void ModEditor::setLineHighlighted(QUrl url)
 {
-    setLineHighlighted(url.path(), url.fragment().toInt());
+    setLineHighlighted(url.path(), lineOf(url));
 }
 
 void ModEditor::setLineHighlighted(QString path, int line)
 {
-    if (EditorWidget* widget = openFileWidget(path))
-        widget->setLineHighlighted(line);
-    else
+    EditorWidget* widget = openFileWidget(path);
+    if (widget == nullptr) {
         showError(tr("Can not highlight line!"));
+        return;
+    }
+    clearLineHighlited();
+    widget->setLineHighlighted(line);
+}
+
+void ModEditor::markLine(QString path, int line)
+{
+    clearLineHighlited();
+    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+        if (widget->filePath() == path)
+            widget->markLine(line);
+    }
 }
 
 bool ModEditor::cursorLine(QString* path, int* line)

@@ -13,24 +13,10 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QTextCodec>
 
 namespace nsModEditor {
 
-namespace {
-
-/// The characters of a text in UTF-8, or, if it is none, in Latin-1, in which every byte is a character.
-QString decoded(const QByteArray& bytes, bool* isLatin1)
-{
-    QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    *isLatin1 = state.invalidChars > 0 || state.remainingChars > 0;
-    return *isLatin1 ? QString::fromLatin1(bytes) : text;
-}
-
-} // namespace
-
-bool ModEditor::readFile(const QString& path, QString* text, bool* isLatin1)
+bool ModEditor::readFile(const QString& path, QByteArray* bytes)
 {
     const QFileInfo info(path);
     if (!info.exists()) {
@@ -45,15 +31,11 @@ bool ModEditor::readFile(const QString& path, QString* text, bool* isLatin1)
         showWarning(tr("File is not writable: ") + path);
     // A folder, a pipe or a device would answer without end, or never; and a text of that size is none.
     QFile file(path);
-    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadWrite | QIODevice::Text)) {
+    if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadWrite)) {
         showError(tr("Can not open file: ") + path);
         return false;
     }
-    QByteArray bytes = file.readAll();
-    bytes.truncate(int(qstrnlen(bytes.constData(), uint(bytes.size()))));
-    *text = decoded(bytes, isLatin1);
-    if (*isLatin1)
-        showWarning(tr("File is no UTF-8 text, it is read and written as ISO 8859-1: ") + path);
+    *bytes = file.readAll();
     return true;
 }
 
@@ -61,15 +43,14 @@ bool ModEditor::readFile(const QString& path, QString* text, bool* isLatin1)
 QByteArray ModEditor::encoded(EditorWidget* widget)
 {
     const QString text = widget->text();
-    if (!m_latin1Widgets.contains(widget))
-        return text.toUtf8();
-    QTextCodec* latin1 = QTextCodec::codecForName("ISO-8859-1");
-    if (latin1->canEncode(text))
-        return latin1->fromUnicode(text);
-    // A character that the old encoding does not have decides for the new one.
-    m_latin1Widgets.remove(widget);
-    showWarning(tr("File is written as UTF-8 from now on: ") + widget->filePath());
-    return text.toUtf8();
+    DocumentFormat format = widget->format();
+    if (!format.canEncode(text)) {
+        // A character that the old encoding does not have decides for the new one.
+        format.setEncoding(DocumentFormat::eEncodingUtf8);
+        widget->setFormat(format);
+        showWarning(tr("File is written as UTF-8 from now on: ") + widget->filePath());
+    }
+    return format.encode(text);
 }
 
 bool ModEditor::writeFile(const QString& path, const QByteArray& bytes)

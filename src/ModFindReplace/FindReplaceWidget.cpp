@@ -237,10 +237,11 @@ void FindReplaceWidget::setInitString(QString text, eMode_t mode)
 {
     setMode(mode);
     m_find->setFocus();
-    if (text.isEmpty())
-        m_find->selectAll();
-    else
+    // The field has one line; lines are nothing to search for in it.
+    if (!text.contains('\n') && !text.contains(QChar::ParagraphSeparator) && !text.isEmpty())
         m_find->setText(text);
+    // What is typed next takes its place.
+    m_find->selectAll();
     emit configChanged();
 }
 

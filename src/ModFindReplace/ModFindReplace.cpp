@@ -61,14 +61,15 @@ void ModFindReplace::unregisterPluginWidget(QWidget* widget)
 void ModFindReplace::forgetWidget(QWidget* widget)
 {
     const ModFindReplacePluginIf* plugin = m_widgets.take(widget).plugin;
-    if (plugin != m_activePlugin)
-        return;
     for (const sWidgetParameter_t& parameter : qAsConst(m_widgets)) {
         if (parameter.plugin == plugin)
             return;
     }
-    // A client without widgets may be about to go; it is not called any more.
-    m_activePlugin = nullptr;
+    // A client without widgets may be about to go; it is not called any more, and its address may be another one's.
+    if (plugin == m_activePlugin)
+        m_activePlugin = nullptr;
+    if (plugin == m_informedPlugin)
+        m_informedPlugin = nullptr;
 }
 
 QString ModFindReplace::findString()
@@ -193,13 +194,13 @@ void ModFindReplace::setActionsEn(QWidget* widget)
     }
     m_actions->setEnabled(FindReplaceActions::eActionFind, true);
     m_actions->setEnabled(FindReplaceActions::eActionReplace, it->replaceEn);
-    if (it->plugin != m_activePlugin) {
-        hideWidget();
-        return;
-    }
+    // Their keys go on with the last text while the bar is closed.
     m_actions->setEnabled(FindReplaceActions::eActionFindNext, m_widget->isFindEnabled());
     m_actions->setEnabled(FindReplaceActions::eActionFindPrev, m_widget->isFindEnabled());
-    showWidget();
+    if (it->plugin == m_activePlugin)
+        showWidget();
+    else
+        hideWidget();
 }
 
 void ModFindReplace::showWidget()
@@ -241,8 +242,10 @@ void ModFindReplace::setConfigChanged()
 
 bool ModFindReplace::takeConfigChanged()
 {
-    const bool changed = m_configChanged;
+    // A client that was not the last to search has other parameters.
+    const bool changed = m_configChanged || currentPlugin() != m_informedPlugin;
     m_configChanged = false;
+    m_informedPlugin = currentPlugin();
     return changed;
 }
 

@@ -88,6 +88,7 @@ private:
 
     QHash<QWidget*, sWidgetParameter_t> m_widgets; ///< the keys are compared, never followed
     ModFindReplacePluginIf* m_activePlugin = nullptr; ///< whom the bar serves; one that has a widget in the list
+    const ModFindReplacePluginIf* m_informedPlugin = nullptr; ///< who has read the parameters last; compared only
     bool m_configChanged = false;
     FindReplaceActions* m_actions = nullptr; ///< between modInit() and modExit()
     QPointer<FindReplaceWidget> m_widget;    ///< likewise; the window deletes it when it goes without modExit()

@@ -1,16 +1,17 @@
 #include "ModGui.h"
 
+#include "DockShares.h"
 #include "SplashScreen.h"
 #include "StatusFrame.h"
 #include "WidgetAreaDock.h"
 #include "WidgetAreaStacked.h"
 #include "WidgetAreaTabbed.h"
+#include "WindowPlace.h"
 
 #include "ModCfgAppHookIf.h"
 
 #include <QCoreApplication>
 #include <QDebug>
-#include <QDockWidget>
 #include <QFile>
 #include <QMainWindow>
 #include <QSplitter>
@@ -26,8 +27,11 @@ const QString keyWidth = QStringLiteral("ModGui/width");
 const QString keyHeight = QStringLiteral("ModGui/height");
 const QString keyX = QStringLiteral("ModGui/x");
 const QString keyY = QStringLiteral("ModGui/y");
+const QString keyState = QStringLiteral("ModGui/state"); ///< tool bars and docks, as the window writes them, in base 64
+const QString keyDockShares = QStringLiteral("ModGui/dockShares");
+const QString keyMaximized = QStringLiteral("ModGui/maximized"); ///< 0 or 1
 
-const QSize smallestWindow(800, 600);
+const int stateVersion = 1;       ///< of what keyState holds
 const QSize pictureWindow(1280, 750); ///< window size for pictures of the program
 const int pictureDockHeight = 200;    ///< height of the bottom dock in these
 const QSize windowIconSize(22, 22);
@@ -90,10 +94,13 @@ void ModGui::setupCenter()
     setArea(eLocationCenterBelow, below);
     connect(tabbed, &WidgetAreaTabbed::removeWidgetRequest, this, &ModGui::removeWidgetRequest);
     connect(tabbed, &WidgetAreaTabbed::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
+    // The click is reported before the page changes.
+    connect(tabbed, &WidgetAreaTabbed::tabBarClicked, this, &ModGui::focusPage, Qt::QueuedConnection);
 }
 
 void ModGui::setupDocks()
 {
+    m_dockShares = new DockShares(m_window);
     const struct
     {
         eLocation_t location;
@@ -111,6 +118,8 @@ void ModGui::setupDocks()
         m_window->addDockWidget(entry.side, dock);
         setArea(entry.location, dock);
         connect(dock, &WidgetAreaDock::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
+        m_dockShares->add(dock);
+        m_docks.append(dock);
     }
 }
 
@@ -241,8 +250,49 @@ void ModGui::removeWidget(QWidget* widget)
 {
     const eLocation_t location = locationOf(widget);
     forgetWidget(widget);
-    if (location != eLocationNone)
-        area(location)->removeWidget(widget);
+    if (location == eLocationNone)
+        return;
+    const bool hadFocus = holdsFocus(widget);
+    area(location)->removeWidget(widget);
+    if (hadFocus)
+        focusPage();
+}
+
+bool ModGui::holdsFocus(const QWidget* widget) const
+{
+    const QWidget* focus = m_window != nullptr ? m_window->focusWidget() : nullptr;
+    return focus != nullptr && widget != nullptr && (focus == widget || widget->isAncestorOf(focus));
+}
+
+/// Gives the keyboard to the page of the centre: to the field in it that had it last, or to its first one.
+void ModGui::focusPage()
+{
+    QWidget* page = currentWidget(eLocationTabs);
+    if (page == nullptr || holdsFocus(page))
+        return;
+    QWidget* target = page->focusWidget();
+    if (target == nullptr || !target->isEnabled())
+        target = page;
+    if (target == page && page->focusProxy() == nullptr && page->focusPolicy() == Qt::NoFocus) {
+        for (QWidget* next = page->nextInFocusChain(); next != page; next = next->nextInFocusChain()) {
+            if (page->isAncestorOf(next) && (next->focusPolicy() & Qt::TabFocus) != 0 && next->isEnabled() &&
+                next->isVisibleTo(page)) {
+                target = next;
+                break;
+            }
+        }
+    }
+    target->setFocus();
+}
+
+/// After a change of page. The keyboard stays with a field in a dock, from where a step of the simulator brings up pages.
+void ModGui::focusNewPage()
+{
+    const QWidget* focus = m_window != nullptr ? m_window->focusWidget() : nullptr;
+    const bool elsewhere = focus != nullptr && focus->isVisible() && focus->isEnabled() && focus != m_window &&
+                           !m_tabbed->isAncestorOf(focus) && focus != m_tabbed;
+    if (!elsewhere)
+        focusPage();
 }
 
 void ModGui::setCurrentWidget(QWidget* widget)
@@ -271,8 +321,15 @@ QWidget* ModGui::currentWidget(eLocation_t location)
 
 void ModGui::setWidgetVisible(eLocation_t location, bool visible)
 {
-    if (WidgetArea* asked = area(location))
-        asked->setAreaVisible(visible);
+    WidgetArea* asked = area(location);
+    if (asked == nullptr)
+        return;
+    const bool hadFocus = !visible && holdsFocus(m_areas[location].widget);
+    if (auto* dock = qobject_cast<WidgetAreaDock*>(m_areas[location].widget.data()))
+        dock->setAway(!visible && currentWidget(eLocationTabs) != nullptr);
+    asked->setAreaVisible(visible);
+    if (hadFocus)
+        focusPage();
 }
 
 bool ModGui::widgetVisible(eLocation_t location)
@@ -331,6 +388,8 @@ void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
     ModGuiPluginIf* owner = data != nullptr ? data->plugin : nullptr;
     showStoredStatusText(widget);
     const eLocation_t location = locationOf(widget);
+    if (sender() == m_tabbed)
+        endOfPage();
     // Each client that is told may do anything with the widget and its owner.
     const QPointer<QWidget> alive(widget);
     const bool any = widget != nullptr;
@@ -343,6 +402,17 @@ void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
         owner->setFocus(location, owner, widget);
     if (location == eLocationTabs && m_centerWidgets.removeAll(widget) > 0)
         m_centerWidgets.append(widget);
+    if (location == eLocationTabs)
+        focusNewPage();
+}
+
+/// A page that has left the front keeps no dock away any more.
+void ModGui::endOfPage()
+{
+    for (WidgetAreaDock* dock : qAsConst(m_docks)) {
+        if (dock != nullptr)
+            dock->setAway(false);
+    }
 }
 
 void ModGui::modRegisterPlugins(QList<ModPluginIf*> modules)
@@ -362,32 +432,23 @@ void ModGui::modInit()
 
 void ModGui::modRun()
 {
-    // When the window is shown: only then do the docks have their places.
-    QTimer::singleShot(0, this, &ModGui::fitDocks);
+    restoreState();
 }
 
-/// The centre is what people work in: at the start the docks take what they ask for, but no more than their share.
-void ModGui::fitDocks()
+/// Brings tool bars and docks back to where the user has left them.
+void ModGui::restoreState()
 {
-    if (m_window == nullptr)
+    if (modCfgAppHook == nullptr || m_window == nullptr)
         return;
-    // @return the extent that the dock gets; it never gets smaller than it can
-    const auto fit = [this](eLocation_t location, int share, Qt::Orientation orientation) {
-        auto* dock = qobject_cast<QDockWidget*>(m_areas[location].widget.data());
-        if (dock == nullptr || dock->isHidden())
-            return 0;
-        const bool horizontal = orientation == Qt::Horizontal;
-        const QSize least = dock->minimumSizeHint();
-        const QSize wanted = dock->sizeHint();
-        const int extent = qMax(horizontal ? least.width() : least.height(),
-                                qMin(horizontal ? wanted.width() : wanted.height(), share));
-        m_window->resizeDocks({dock}, {extent}, orientation);
-        return extent;
-    };
-    const int width = m_window->width();
-    const int left = fit(eLocationDockLeft, width * 28 / 100, Qt::Horizontal);
-    fit(eLocationDockRight, qMax(width * 18 / 100, width * 55 / 100 - left), Qt::Horizontal);
-    fit(eLocationDockBottom, m_window->height() * 22 / 100, Qt::Vertical);
+    const QByteArray state = QByteArray::fromBase64(modCfgAppHook->value(keyState, QString()).toLatin1());
+    if (!state.isEmpty())
+        m_window->restoreState(state, stateVersion);
+    // Which docks are seen is not a matter of the last time, but of what they hold now.
+    for (WidgetAreaDock* dock : qAsConst(m_docks)) {
+        if (dock != nullptr)
+            dock->setVisible(true);
+    }
+    m_dockShares->setShares(modCfgAppHook->value(keyDockShares, QStringList()));
 }
 
 void ModGui::modExit()
@@ -413,18 +474,25 @@ void ModGui::handleActions(GuiActions::eAction_t action)
     m_window->resize(pictureWindow);
     if (auto* dock = static_cast<WidgetAreaDock*>(m_areas[eLocationDockBottom].widget.data()))
         dock->setHeight(pictureDockHeight);
+    m_dockShares->record();
 }
 
 void ModGui::rdAppCfg()
 {
     if (modCfgAppHook == nullptr || m_window == nullptr)
         return;
-    const QSize size(modCfgAppHook->value(keyWidth, smallestWindow.width()),
-                     modCfgAppHook->value(keyHeight, smallestWindow.height()));
-    const QPoint position(modCfgAppHook->value(keyX, 0), modCfgAppHook->value(keyY, 0));
-    const QRect geometry(position, size.expandedTo(smallestWindow));
+    const QRect first = WindowPlace::first(m_window);
+    const QSize size(modCfgAppHook->value(keyWidth, first.width()), modCfgAppHook->value(keyHeight, first.height()));
+    const auto place = [this](const QString& key, int dflt) {
+        return qBound(-WindowPlace::farthest, modCfgAppHook->value(key, dflt), WindowPlace::farthest);
+    };
+    const QPoint position(place(keyX, first.x()), place(keyY, first.y()));
+    const QRect geometry = WindowPlace::reachable(
+        QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), m_window);
     m_window->setGeometry(geometry);
     m_window->setIconSize(windowIconSize);
+    if (modCfgAppHook->value(keyMaximized, 0) == 1)
+        m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
 
     delete m_splashScreen;
     m_splashScreen = new SplashScreen;
@@ -435,7 +503,11 @@ void ModGui::wrAppCfg()
 {
     if (modCfgAppHook == nullptr || m_window == nullptr)
         return;
-    const QRect geometry = m_window->geometry();
+    const bool maximized = m_window->isMaximized();
+    const QRect geometry = maximized ? m_window->normalGeometry() : m_window->geometry();
+    modCfgAppHook->setValue(keyMaximized, maximized ? 1 : 0);
+    modCfgAppHook->setValue(keyState, QString::fromLatin1(m_window->saveState(stateVersion).toBase64()));
+    modCfgAppHook->setValue(keyDockShares, m_dockShares->shares());
     modCfgAppHook->setValue(keyWidth, geometry.width());
     modCfgAppHook->setValue(keyHeight, geometry.height());
     modCfgAppHook->setValue(keyX, geometry.x());

@@ -18,6 +18,7 @@ class QStatusBar;
 
 namespace nsModGui {
 
+class DockShares;
 class SplashScreen;
 class WidgetArea;
 class WidgetAreaDock;
@@ -98,7 +99,11 @@ private:
 
     static constexpr int areaCount = eLocationStatusThird + 1;
 
-    void fitDocks();
+    void restoreState();
+    bool holdsFocus(const QWidget* widget) const;
+    void focusPage();
+    void focusNewPage();
+    void endOfPage();
     void setupCenter();
     void setupDocks();
     void setupStatusBar();
@@ -118,6 +123,8 @@ private:
     PluginList<ModGuiPluginIf> m_plugins;
     QHash<QWidget*, sWidgetData_t*> m_widgets;
     QList<QWidget*> m_centerWidgets; ///< widgets of the tabs, the most recently current one last
+    QList<QPointer<WidgetAreaDock>> m_docks;
+    QPointer<DockShares> m_dockShares; ///< child of the window
     GuiActions* m_actions = nullptr;
     QPointer<SplashScreen> m_splashScreen;
 };

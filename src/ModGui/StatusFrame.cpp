@@ -2,7 +2,6 @@
 
 #include "WidgetAreaStacked.h"
 
-#include <QEvent>
 #include <QHBoxLayout>
 
 namespace nsModGui {
@@ -17,15 +16,6 @@ StatusFrame::StatusFrame(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_area);
-    m_area->installEventFilter(this);
-    setVisible(false);
-}
-
-bool StatusFrame::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == m_area && (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent))
-        setVisible(!m_area->isHidden());
-    return QFrame::eventFilter(watched, event);
 }
 
 } // namespace nsModGui

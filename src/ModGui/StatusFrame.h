@@ -6,7 +6,7 @@ namespace nsModGui {
 
 class WidgetAreaStacked;
 
-/// The sunken frame of one area of the status bar; seen while its area is.
+/// The sunken frame of one area of the status bar. It stays where its area is empty, so that the others keep their order.
 class StatusFrame : public QFrame
 {
     Q_OBJECT
@@ -15,8 +15,6 @@ public:
     explicit StatusFrame(QWidget* parent = nullptr);
 
     WidgetAreaStacked* area() const { return m_area; }
-
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     WidgetAreaStacked* m_area;

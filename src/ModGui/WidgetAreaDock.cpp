@@ -115,9 +115,15 @@ void WidgetAreaDock::setVisible(bool visible)
     updateVisibility();
 }
 
+void WidgetAreaDock::setAway(bool away)
+{
+    m_away = away;
+    updateVisibility();
+}
+
 void WidgetAreaDock::updateVisibility()
 {
-    QDockWidget::setVisible(m_wantedVisible && m_tabs->count() > 0);
+    QDockWidget::setVisible(m_wantedVisible && !m_away && m_tabs->count() > 0);
 }
 
 } // namespace nsModGui

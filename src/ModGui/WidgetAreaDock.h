@@ -20,6 +20,8 @@ public:
     void setHeight(int height);
     /// Shows or hides the dock; while it has no tab the wish is kept until the first one comes.
     void setVisible(bool visible) override;
+    /// A page of the centre has no use for the dock: it is not seen until the page gives way, whatever happens in it.
+    void setAway(bool away);
 
     // WidgetArea
     void addWidget(const QString& name, QWidget* widget) override;
@@ -45,6 +47,7 @@ private:
 
     QTabWidget* m_tabs;
     bool m_wantedVisible = true;
+    bool m_away = false;
 };
 
 } // namespace nsModGui

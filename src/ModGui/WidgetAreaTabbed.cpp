@@ -2,6 +2,7 @@
 
 #include "EmptyPage.h"
 
+#include <QAction>
 #include <QKeyEvent>
 #include <QPushButton>
 #include <QRegExp>
@@ -23,7 +24,34 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
     connect(this, &QTabWidget::currentChanged, this,
             [this](int index) { emit currentWidgetChanged(this, widget(index)); });
+    setupPageKeys();
     updateEmptyState();
+}
+
+void WidgetAreaTabbed::setupPageKeys()
+{
+    const auto add = [this](const QString& text, const QList<QKeySequence>& keys, int step) {
+        auto* action = new QAction(text, this);
+        action->setShortcuts(keys);
+        connect(action, &QAction::triggered, this, [this, step] { stepPage(step); });
+        addAction(action);
+    };
+    add(tr("Next page"), {QKeySequence(QStringLiteral("Ctrl+Tab")), QKeySequence(QStringLiteral("Ctrl+PgDown"))}, 1);
+    add(tr("Previous page"),
+        {QKeySequence(QStringLiteral("Ctrl+Shift+Tab")), QKeySequence(QStringLiteral("Ctrl+PgUp"))}, -1);
+}
+
+void WidgetAreaTabbed::stepPage(int step)
+{
+    for (int tried = 1; tried < count(); ++tried) {
+        const int index = (currentIndex() + step * tried + count()) % count();
+        if (!isTabEnabled(index))
+            continue;
+        setCurrentIndex(index);
+        break;
+    }
+    if (currentWidget() != nullptr)
+        currentWidget()->setFocus(Qt::ShortcutFocusReason);
 }
 
 QString WidgetAreaTabbed::chkAppName(const QString& name) const

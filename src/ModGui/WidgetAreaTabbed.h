@@ -52,6 +52,9 @@ private slots:
     void requestClose();
 
 private:
+    void setupPageKeys();
+    /// Shows the next page that can be used, around at the ends. @param step 1, or -1 for the one before
+    void stepPage(int step);
     void updateEmptyState();
 
     QPushButton* m_closeButton;

@@ -42,7 +42,7 @@ ModProcessor::~ModProcessor()
     // Where the window goes without a close, the servers may be gone already: no processor must call them any more.
     for (ProcPluginIf* processor : m_list->processors()) {
         if (auto* shell = dynamic_cast<nsProc::ProcShell*>(processor))
-            shell->dropHooks();
+            shell->dropServices();
     }
 }
 
@@ -99,7 +99,8 @@ bool ModProcessor::configPageCloseRequest()
 
 void ModProcessor::configPageClose(bool accept)
 {
-    if (m_configPage != nullptr && accept) {
+    // The page belongs to the project: without one there is nothing to attach a processor for.
+    if (m_configPage != nullptr && accept && modPrjHook != nullptr && modPrjHook->isValid()) {
         processor = m_configPage->config().processor;
         setupProcessorIf();
         if (m_current != nullptr)

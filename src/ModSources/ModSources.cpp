@@ -8,6 +8,7 @@
 #include "MsgGroup.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QMessageBox>
 
@@ -62,6 +63,7 @@ void ModSources::setFilesListChanged()
 
 void ModSources::addFile(QString path)
 {
+    path = QDir::cleanPath(path);
     if (srcFiles.contains(path))
         return;
     srcFiles.append(path);
@@ -76,6 +78,7 @@ void ModSources::addFile(QString path)
 
 void ModSources::removeFile(QString path)
 {
+    path = QDir::cleanPath(path);
     if (!srcFiles.removeOne(path))
         return;
     if (m_page)
@@ -85,6 +88,7 @@ void ModSources::removeFile(QString path)
 
 bool ModSources::chkProjectMembership(QString path)
 {
+    path = QDir::cleanPath(path);
     const bool listed = srcFiles.contains(path);
     if (listed || path.isEmpty())
         return listed;
@@ -117,7 +121,8 @@ void ModSources::prjOpen()
     if (modPrjHook == nullptr)
         return;
     for (const QString& entry : modPrjHook->value(keySrcFiles, QStringList())) {
-        const QString path = modPrjHook->convToAbsPath(entry);
+        // One file has one path in the list, also outside of the project's folder.
+        const QString path = QDir::cleanPath(modPrjHook->convToAbsPath(entry));
         const QFileInfo info(path);
         if (!info.exists()) {
             if (modMsgHook != nullptr)
@@ -163,7 +168,7 @@ void ModSources::prjClose()
     srcFiles.clear();
     m_vanishedFiles.clear();
     if (m_page)
-        m_page->setDefaultConfig();
+        m_page->setConfig(QStringList(), QDir());
 }
 
 // --- life cycle ---

@@ -104,22 +104,24 @@ void SourcesConfigPage::insertFile(const QString& path)
 
 void SourcesConfigPage::dropFile(const QString& path)
 {
+    const QString clean = QDir::cleanPath(path);
     for (int row = m_list->count() - 1; row >= 0; --row) {
-        if (m_list->item(row)->data(Qt::UserRole).toString() == path)
+        if (m_list->item(row)->data(Qt::UserRole).toString() == clean)
             delete m_list->takeItem(row);
     }
 }
 
 void SourcesConfigPage::append(const QString& path)
 {
-    auto* item = new QListWidgetItem(m_prjDir.relativeFilePath(path), m_list);
-    item->setData(Qt::UserRole, path);
-    item->setToolTip(QDir::toNativeSeparators(path));
+    const QString clean = QDir::cleanPath(path);
+    auto* item = new QListWidgetItem(m_prjDir.relativeFilePath(clean), m_list);
+    item->setData(Qt::UserRole, clean);
+    item->setToolTip(QDir::toNativeSeparators(clean));
 }
 
 bool SourcesConfigPage::isInList(const QString& path) const
 {
-    return files().contains(path);
+    return files().contains(QDir::cleanPath(path));
 }
 
 void SourcesConfigPage::updateButtons()
@@ -283,7 +285,7 @@ void SourcesConfigPage::setFocus(bool) {}
 
 void SourcesConfigPage::setDefaultConfig()
 {
-    setConfig(QStringList(), m_prjDir);
+    // The files of a project are no settings: there is no default that they could be given.
 }
 
 bool SourcesConfigPage::checkConfig()

@@ -8,6 +8,18 @@
 
 namespace nsModSrcNavi {
 
+namespace {
+
+/// A label as its line begins with it: without its namespace, with its colon.
+QString labelText(const QString& title)
+{
+    const int nameSpace = title.lastIndexOf(QStringLiteral("::"));
+    const QString name = nameSpace < 0 ? title : title.mid(nameSpace + 2);
+    return name.endsWith(':') ? name : name + ':';
+}
+
+} // namespace
+
 ModSrcNavi::ModSrcNavi(QObject* parent)
     : QObject(parent)
     , m_naviWidget(new NaviWidget)
@@ -82,7 +94,8 @@ void ModSrcNavi::showSelectedTag(NaviTag* tag)
     if (tag == nullptr || modEditorHook == nullptr)
         return;
     // The call can lead to a run of the assembler, at which the tag goes: the editor gets copies.
-    modEditorHook->setCursorToLine(tag->filePath, tag->lineRef, tag->line);
+    const QString text = tag->type == NaviTag::typeLabel ? labelText(tag->title) : tag->lineRef;
+    modEditorHook->setCursorToLine(tag->filePath, text, tag->line);
 }
 
 // --- life cycle ---

@@ -225,6 +225,24 @@ void NaviWidget::showTagList(QList<NaviTag*>* list, bool flat)
         }
         m_tree->setUpdatesEnabled(true);
     }
+    reportContent(list, flat);
+}
+
+/// Lines that have moved are no other content: nobody sees them here.
+void NaviWidget::reportContent(const QList<NaviTag*>* list, bool flat)
+{
+    QStringList content;
+    if (list != nullptr) {
+        for (const NaviTag* tag : *list) {
+            if (tag != nullptr)
+                content << QString::number(tag->type) << QString::number(int(tag->disabled)) << tag->filePath
+                        << tag->title;
+        }
+    }
+    if (content == m_shownContent && flat == m_shownFlat)
+        return;
+    m_shownContent = content;
+    m_shownFlat = flat;
     emit contentChanged(this);
 }
 

@@ -87,6 +87,7 @@ private:
     void setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const;
     /// Gives the items of a bookmark their look again.
     void repaintBookmark(const QString& lineRef);
+    void reportContent(const QList<NaviTag*>* list, bool flat);
 
     QComboBox* m_sortBox = nullptr;
     NaviTreeWidget* m_tree = nullptr;
@@ -95,6 +96,8 @@ private:
     QTextCharFormat m_formats[SrcNaviConfig::fontContextCount];
     QStringList m_bookmarks; ///< line references
     int m_scrollPos = 0;     ///< where the tree stood when it was emptied
+    QStringList m_shownContent; ///< what was reported last
+    bool m_shownFlat = false;
     int m_shownOrder = 0;    ///< index in the combo box when the tree was filled
 };
 

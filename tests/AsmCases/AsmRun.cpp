@@ -120,6 +120,16 @@ QStringList AsmRun::provokedKeys() const
     return keys;
 }
 
+QStringList AsmRun::keylessMessages() const
+{
+    QStringList texts;
+    for (const FakeMsgHook::Entry& entry : m_msg.log.mid(m_infosFrom)) {
+        if (entry.kind == FakeMsgHook::kindMessage && (entry.key().isEmpty() || entry.hlpDoc.scheme() != "pageid"))
+            texts.append(entry.text);
+    }
+    return texts;
+}
+
 QStringList AsmRun::differences()
 {
     if (!m_case.problem.isEmpty())

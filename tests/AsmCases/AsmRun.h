@@ -43,6 +43,8 @@ public:
     QStringList differences();
     /// Keys of all messages and groups that the run has shown.
     QStringList provokedKeys() const;
+    /// Texts of the messages of the run that have no key, and so no help.
+    QStringList keylessMessages() const;
 
 private:
     void prepareFolder();

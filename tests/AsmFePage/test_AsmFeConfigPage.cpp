@@ -11,6 +11,7 @@
 #include "TargetConfigWidget.h"
 #include "TargetMapperConfigWidget.h"
 
+#include <QGraphicsEffect>
 #include <QTemporaryDir>
 
 using namespace nsModAsmFe;
@@ -238,6 +239,41 @@ TEST_F(AsmFePage, EventsAreAGrid)
     page.config(&result);
     EXPECT_TRUE(result.targetHex.writeFileEventSave);
     EXPECT_FALSE(result.targetMem.writeFileEventSave);
+}
+
+TEST_F(AsmFePage, EventsOfAnOutputThatIsOffAreGreyAndSayThatTheyOnlyWarn)
+{
+    const auto isGrey = [this](const char* name) {
+        const auto* widget = page.findChild<QWidget*>(name);
+        return widget->graphicsEffect() != nullptr && widget->graphicsEffect()->isEnabled();
+    };
+    auto* eventsHint = page.findChild<QLabel*>("targetEventsHint");
+    ASSERT_NE(eventsHint, nullptr);
+    // The buttons write all kinds from the start, and all outputs are off.
+    EXPECT_TRUE(isGrey("targetEvents2"));
+    EXPECT_TRUE(isGrey("targetEvent20"));
+    EXPECT_FALSE(eventsHint->isHidden());
+    EXPECT_TRUE(eventsHint->text().contains("only warn that no file is defined"));
+    QTest::keyClick(enable("targetHex"), Qt::Key_Space);
+    for (const char* name : {"targetEvents2", "targetEvent20", "targetEvent21", "targetEvent22"})
+        EXPECT_FALSE(isGrey(name)) << name;
+    for (const char* name : {"targetEvents3", "targetEvent30", "targetEvents0", "targetEvents1", "targetEvent12"})
+        EXPECT_TRUE(isGrey(name)) << name;
+    EXPECT_FALSE(eventsHint->isHidden());
+    // A device of the sources may have a file of that kind, so the events stay in use.
+    auto* memOnButton1 = page.findChild<QCheckBox*>("targetEvent30");
+    ASSERT_TRUE(memOnButton1->isEnabled() && memOnButton1->isChecked());
+    QTest::keyClick(memOnButton1, Qt::Key_Space);
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_FALSE(result.targetMem.writeFileEventBut1);
+    // Where no event of an output that is off is set, there is nothing to say.
+    for (const char* name : {"targetEvent00", "targetEvent01", "targetEvent10", "targetEvent11", "targetEvent31"})
+        page.findChild<QCheckBox*>(name)->setChecked(false);
+    EXPECT_TRUE(eventsHint->isHidden());
+    QTest::keyClick(enable("targetHex"), Qt::Key_Space);
+    EXPECT_TRUE(isGrey("targetEvent20"));
+    EXPECT_FALSE(eventsHint->isHidden());
 }
 
 TEST_F(AsmFePage, BelongsToTheProject)

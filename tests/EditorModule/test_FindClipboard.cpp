@@ -84,6 +84,28 @@ TEST_F(FindClipboard, replaceGoesOnToTheNextHit)
     EXPECT_EQ(at(widget), 4);
 }
 
+TEST_F(FindClipboard, replaceLeavesASelectionAloneThatIsNoHit)
+{
+    EditorWidget* widget = open("a.psm", "keep ab ab");
+    findReplace.find = "ab";
+    findReplace.replacement = "xyz";
+    QTextCursor cursor = widget->textCursor();
+    cursor.setPosition(4, QTextCursor::KeepAnchor);
+    widget->setTextCursor(cursor);
+    editor.replace(true);
+    EXPECT_EQ(widget->toPlainText(), "keep ab ab");
+    EXPECT_EQ(widget->textCursor().selectedText(), "ab");
+    EXPECT_EQ(at(widget), 5);
+    editor.replace(false);
+    EXPECT_EQ(widget->toPlainText(), "keep xyz ab");
+    EXPECT_EQ(at(widget), 9);
+    // In other letters it is no hit when these count.
+    findReplace.caseSensitive = true;
+    findReplace.find = "AB";
+    editor.replace(true);
+    EXPECT_EQ(widget->toPlainText(), "keep xyz ab");
+}
+
 TEST_F(FindClipboard, replaceAllEndsAlsoWhereTheReplacementHoldsTheText)
 {
     EditorWidget* widget = open("a.psm", "a a a");

@@ -4,6 +4,14 @@
 
 #include "EditorMemPageAddrMap.h"
 #include "EditorStatusBar.h"
+#include "EditorWidgetLeftMargin.h"
+#include "ModEditorPluginIf.h"
+
+#include <QCompleter>
+#include <QStringListModel>
+#include <QTextBlock>
+
+#include <limits>
 
 using nsModEditor::EditorConfig;
 using nsModEditor::EditorWidget;
@@ -53,7 +61,8 @@ TEST_F(State, closingTheLastDocumentTurnsThemOffAgain)
 {
     focus(open("a.psm"));
     editor.closeFile();
-    editor.setFocus(ModGuiHookIf::eLocationTabs, nullptr, nullptr);
+    // What the window sends when its centre has become empty: there is no area that no page stands in.
+    editor.setFocus(ModGuiHookIf::eLocationNone, nullptr, nullptr);
     for (const char* text : {"Save all", "Reload all", "Close all", "Save"})
         EXPECT_FALSE(enabled(text)) << text;
     EXPECT_TRUE(enabled("New..."));
@@ -203,6 +212,35 @@ TEST_F(State, changedFlagOfBreakpointsStays)
     EXPECT_TRUE(editor.simBreakpointsChanged());
 }
 
+TEST_F(State, revisionOfBreakpointsGoesWithEachChangeOfThem)
+{
+    open("b.psm", "0\n1\n2\n");
+    auto* widget = open("a.psm", "0\n1\n2\n");
+    QMap<QString, QList<int>> known = editor.simBreakpoints();
+    int revision = editor.simBreakpointsRevision();
+    const auto isNoticed = [&] {
+        const bool isOther = editor.simBreakpoints() != known;
+        const bool isTold = editor.simBreakpointsRevision() != revision;
+        known = editor.simBreakpoints();
+        revision = editor.simBreakpointsRevision();
+        return isOther && isTold;
+    };
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(2);
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(1);
+    EXPECT_TRUE(isNoticed());
+    ASSERT_TRUE(editor.saveFileAs(path("c.psm")));
+    EXPECT_TRUE(isNoticed());
+    emit widget->clearAllBreakpoints();
+    EXPECT_TRUE(isNoticed());
+    widget->setSimBreakpoint(0);
+    EXPECT_TRUE(isNoticed());
+    editor.closeFile();
+    EXPECT_TRUE(isNoticed());
+}
+
 TEST_F(State, startMarkStandsInOneDocumentOnly)
 {
     EditorWidget* a = open("a.psm", "0\n1\n");
@@ -219,16 +257,204 @@ TEST_F(State, startMarkStandsInOneDocumentOnly)
     EXPECT_FALSE(editor.simStartPointer(&file, &line));
 }
 
+/// Pixels of the margin's address column that are not of its ground: how much stands in the first line.
+int inkOfAddress(EditorWidget* widget)
+{
+    widget->resize(500, 300);
+    const QImage image = widget->leftMargin()->grab().toImage();
+    const QColor ground = image.pixelColor(1, image.height() - 1);
+    int ink = 0;
+    for (int x = widget->symbolMarginWidth() + 1; x < widget->symbolMarginWidth() + widget->memPageAddrMarginWidth(); ++x) {
+        for (int y = 0; y < widget->fontMetrics().height(); ++y)
+            ink += image.pixelColor(x, y) != ground ? 1 : 0;
+    }
+    return ink;
+}
+
 TEST_F(State, addressMapReachesTheDocumentsAndDiesWithTheProject)
 {
-    open("a.psm", "NOP\n");
-    QStringList files = {path("a.psm")};
+    editor.memPageAddrEn = EditorConfig::memPageAddrOn;
+    editor.lineNumberEn = false;
+    EditorWidget* first = open("a.psm", "NOP\n");
+    EditorWidget* second = open("b.psm", "NOP\n");
+    EditorWidget* stranger = open("c.psm", "NOP\n");
+    const int width = stranger->memPageAddrMarginWidth();
+    ASSERT_GT(width, 0);
+    QStringList files = {path("a.psm"), path("b.psm")};
     auto* map = new nsModEditor::EditorMemPageAddrMap(&files);
-    map->addItem(0, 0, 0x12);
+    ASSERT_TRUE(map->addItem(0, 0, 0x12));
+    ASSERT_TRUE(map->addItem(1, 0, 0x34));
+    EXPECT_EQ(inkOfAddress(first), 0);
     editor.setMemPageAddrMap(map);
-    document("a.psm")->setMemPageAddrEn(true);
-    document("a.psm")->grab();
+    EXPECT_GT(inkOfAddress(first), 0);
+    EXPECT_GT(inkOfAddress(second), 0);
+    EXPECT_EQ(inkOfAddress(stranger), 0);
+    EXPECT_EQ(stranger->memPageAddrMarginWidth(), width);
+    // A line more in one of them makes the addresses of all stale.
+    EXPECT_TRUE(map->valid);
+    type(second, "x");
+    EXPECT_TRUE(map->valid);
+    QTest::keyClick(second, Qt::Key_Return);
+    EXPECT_FALSE(map->valid);
+    second->clearModified();
+
+    editor.setMemPageAddrMap(nullptr);
+    EXPECT_EQ(inkOfAddress(first), 0);
+    EXPECT_EQ(inkOfAddress(second), 0);
     editor.prjClose();
+    EXPECT_TRUE(editor.editorWidgets().isEmpty());
+}
+
+TEST_F(State, aDocumentOpenedAfterTheRunHasNoAddressesUntilTheNext)
+{
+    editor.memPageAddrEn = EditorConfig::memPageAddrOn;
+    editor.lineNumberEn = false;
+    write("late.psm", "NOP\n");
+    const auto map = [this] {
+        QStringList files = {path("late.psm")};
+        auto* made = new nsModEditor::EditorMemPageAddrMap(&files);
+        EXPECT_TRUE(made->addItem(0, 0, 0x12));
+        return made;
+    };
+    editor.setMemPageAddrMap(map());
+    EXPECT_TRUE(editor.openFile(path("late.psm")));
+    EditorWidget* late = document("late.psm");
+    ASSERT_NE(late, nullptr);
+    EXPECT_GT(late->memPageAddrMarginWidth(), 0);
+    EXPECT_EQ(inkOfAddress(late), 0);
+    editor.setMemPageAddrMap(map());
+    EXPECT_GT(inkOfAddress(late), 0);
+}
+
+TEST_F(State, theAddressColumnFollowsSettingAndSimulator)
+{
+    EditorWidget* widget = open("a.psm", "NOP\n");
+    const auto shown = [&](int setting, bool simulator) {
+        editor.memPageAddrEn = setting;
+        editor.simEn(simulator);
+        return widget->memPageAddrMarginWidth() > 0;
+    };
+    EXPECT_FALSE(shown(EditorConfig::memPageAddrOff, false));
+    EXPECT_FALSE(shown(EditorConfig::memPageAddrOff, true));
+    EXPECT_TRUE(shown(EditorConfig::memPageAddrOn, false));
+    EXPECT_TRUE(shown(EditorConfig::memPageAddrOn, true));
+    EXPECT_FALSE(shown(EditorConfig::memPageAddrSimOnly, false));
+    EXPECT_TRUE(shown(EditorConfig::memPageAddrSimOnly, true));
+}
+
+TEST_F(State, theSettingsReachTheDocuments)
+{
+    EditorWidget* widget = open("a.psm", "  word word\n");
+    QTextCursor word = widget->textCursor();
+    word.setPosition(2);
+    word.setPosition(6, QTextCursor::KeepAnchor);
+    const auto marks = [widget] {
+        int count = 0;
+        for (const QTextLayout::FormatRange& range : widget->document()->firstBlock().layout()->formats())
+            count += range.format.background().color() == QColor(Qt::yellow) ? 1 : 0;
+        return count;
+    };
+    for (const bool on : {true, false, true}) {
+        SCOPED_TRACE(on);
+        editor.dynamicLineWrapEn = on;
+        editor.lineNumberEn = on;
+        editor.autoReturnIndentEn = on;
+        editor.highlightSelectionEn = on;
+        editor.textCompleterItemCount = on ? 7 : 8;
+        editor.setTabIndent(on ? 3 : 5);
+        EXPECT_EQ(widget->lineWrapMode(), on ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
+        EXPECT_EQ(widget->lineNumberMarginWidth() > 0, on);
+        EXPECT_EQ(widget->findChild<QCompleter*>()->maxVisibleItems(), on ? 7 : 8);
+        EXPECT_EQ(widget->tabStopDistance(),
+                  QFontMetricsF(widget->font()).horizontalAdvance(QString(on ? 3 : 5, 'x')));
+        widget->setTextCursor(word);
+        EXPECT_EQ(marks(), on ? 2 : 0);
+        widget->moveCursor(QTextCursor::EndOfBlock);
+        EXPECT_EQ(marks(), 0);
+        QTest::keyClick(widget, Qt::Key_Return);
+        EXPECT_EQ(widget->textCursor().positionInBlock(), on ? 2 : 0);
+        widget->undo();
+    }
+}
+
+TEST_F(State, changedRulesReachTheDocumentsWithTheNextSettings)
+{
+    EditorWidget* widget = open("a.psm", "LOAD\n");
+    editor.configHighlighterAddRegExp(ModEditorHookIf::eHighlightRuleCmd, QRegExp("\\bLOAD\\b"));
+    EXPECT_TRUE(widget->document()->firstBlock().layout()->formats().isEmpty());
+    editor.setTabIndent(4);
+    EXPECT_FALSE(widget->document()->firstBlock().layout()->formats().isEmpty());
+    editor.clearHighlighter();
+    editor.setTabIndent(4);
+    EXPECT_TRUE(widget->document()->firstBlock().layout()->formats().isEmpty());
+}
+
+TEST_F(State, theZoomOutlivesSimulatorAndSettings)
+{
+    EditorWidget* widget = open("a.psm");
+    EditorWidget* other = open("b.psm");
+    focus(widget);
+    const QPointF at(widget->viewport()->rect().center());
+    for (int step = 0; step < 4; ++step) {
+        QWheelEvent wheel(at, widget->viewport()->mapToGlobal(at.toPoint()), QPoint(), QPoint(0, 120), Qt::NoButton,
+                          Qt::ControlModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(widget->viewport(), &wheel);
+    }
+    EXPECT_EQ(widget->fontSize(), 13);
+    editor.simEn(true);
+    EXPECT_EQ(widget->fontSize(), 13);
+    editor.setTabIndent(5);
+    editor.rdAppCfg();
+    EXPECT_EQ(widget->fontSize(), 13);
+    EXPECT_EQ(other->fontSize(), 9);
+    QAction* reset = action(ModActionHookIf::eActionClassEdit, "Reset zoom");
+    ASSERT_NE(reset, nullptr);
+    EXPECT_TRUE(reset->isEnabled());
+    EXPECT_EQ(reset->shortcut(), QKeySequence("Ctrl+0"));
+    reset->trigger();
+    EXPECT_EQ(widget->fontSize(), 9);
+}
+
+TEST_F(State, numbersOutOfRangeAreCut)
+{
+    const auto read = [this](const QString& key, int value) {
+        cfg.tree.set(key, value);
+        editor.rdAppCfg();
+    };
+    const int max = std::numeric_limits<int>::max();
+    const int min = std::numeric_limits<int>::min();
+    for (const int value : {max, 20000000, min, -1, 0}) {
+        SCOPED_TRACE(value);
+        read("ModEditor/tabIndent", value);
+        EXPECT_EQ(editor.tabIndent, value > 0 ? EditorConfig::maxTabIndent : 1);
+        read("ModEditor/textCompleterPrefixLength", value);
+        EXPECT_EQ(editor.textCompleterPrefixLength, value > 0 ? EditorConfig::maxPrefixLength : 1);
+        read("ModEditor/textCompleterItemCount", value);
+        EXPECT_EQ(editor.textCompleterItemCount, value > 0 ? EditorConfig::maxItemCount : 1);
+        read("ModEditor/memPageAddrEn", value);
+        EXPECT_EQ(editor.memPageAddrEn, value == 0 ? 0 : int(EditorConfig::memPageAddrSimOnly));
+        cfg.tree.set("ModEditor/memPageAddrEn", 2);
+        read("ModEditor/font/cmd/weight", value);
+        EXPECT_GE(editor.formatOfRule(ModEditorHookIf::eHighlightRuleCmd)->fontWeight(), 0);
+        EXPECT_LE(editor.formatOfRule(ModEditorHookIf::eHighlightRuleCmd)->fontWeight(), 99);
+        prj.tree.set("ModEditor/tabIndent", value);
+        editor.prjOpen();
+        EXPECT_EQ(editor.tabIndent, value > 0 ? EditorConfig::maxTabIndent : 1);
+        editor.setTabIndent(value);
+        EXPECT_EQ(editor.tabIndent, value > 0 ? EditorConfig::maxTabIndent : 1);
+        EditorWidget* widget = open("a.psm", "one\ntwo");
+        editor.setCursorToLine(QUrl(widget->filePath() + '#' + QString::number(value)));
+        EXPECT_EQ(widget->cursorLine(), value > 0 ? 1 : 0);
+        editor.setLineHighlighted(widget->filePath(), value);
+        EXPECT_EQ(widget->cursorLine(), value > 0 ? 1 : 0);
+    }
+    cfg.tree.set("ModEditor/stdFont", QString("DejaVu Sans Mono,20000000,-1,7,50,0,0,0,0,0"));
+    editor.rdAppCfg();
+    EXPECT_EQ(editor.stdFont.pointSize(), EditorConfig::maxFontSize);
+    cfg.tree.set("ModEditor/stdFont", QString("DejaVu Sans Mono,-1,20000000,7,50,0,0,0,0,0"));
+    editor.rdAppCfg();
+    EXPECT_GE(editor.stdFont.pointSize(), EditorConfig::minFontSize);
+    EXPECT_LE(editor.stdFont.pointSize(), EditorConfig::maxFontSize);
 }
 
 TEST_F(State, unknownHighlightingRuleIsAnInternalError)
@@ -241,8 +467,51 @@ TEST_F(State, completionListIsSortedAndCanBeEmptied)
 {
     QStringList words = {"b", "a", "C"};
     editor.setTextCompletionList(words);
+    // One list for all documents, whenever they were opened.
+    auto* model = qobject_cast<QStringListModel*>(open("a.psm")->findChild<QCompleter*>()->model());
+    ASSERT_NE(model, nullptr);
+    EXPECT_EQ(open("b.psm")->findChild<QCompleter*>()->model(), model);
+    EXPECT_EQ(model->stringList(), QStringList({"C", "a", "b"}));
+    words = QStringList({"z", "y"});
+    editor.setTextCompletionList(words);
+    EXPECT_EQ(model->stringList(), QStringList({"y", "z"}));
     words.clear();
     editor.setTextCompletionList(words);
+    EXPECT_EQ(model->rowCount(), 0);
+}
+
+template <class Plugin>
+void checkStrangers(ModEditorHookIf* hook)
+{
+    Plugin known;
+    Plugin stranger;
+    stranger.modEditorHook = hook;
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook) << "with nobody registered";
+    hook->registerPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modEditorHook, hook);
+    EXPECT_EQ(known.modEditorHook, hook);
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, nullptr);
+    // It is a stranger from now on.
+    known.modEditorHook = hook;
+    hook->unregisterPlugin(&known);
+    EXPECT_EQ(known.modEditorHook, hook);
+}
+
+TEST_F(State, nullAndStrangersThatLeaveChangeNothing)
+{
+    checkStrangers<ModEditorPluginIf>(&editor);
+    checkStrangers<ModEditorPluginIfAssembler>(&editor);
+    checkStrangers<ModEditorPluginIfSimulator>(&editor);
+    editor.registerPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
+    editor.unregisterPlugin(static_cast<ModEditorPluginIfInterMod*>(nullptr));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 
 #include "EditorTipManager.h"
 
+#include <QAbstractItemView>
 #include <QCompleter>
 #include <QStringListModel>
 
@@ -97,9 +98,29 @@ TEST_F(Keys, TypingAndControlSpaceOpenNoList)
     editor->setTextCompletionList(&words);
     editor->setTextCompletionEn(true);
     editor->setTextCompleterPrefixLength(1);
+    auto* completer = editor->findChild<QCompleter*>();
+    ASSERT_NE(completer, nullptr);
     QTest::keyClicks(editor.get(), "count");
-    QTest::keyClick(editor.get(), Qt::Key_Space, Qt::ControlModifier);
     EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_FALSE(completer->popup()->isVisible());
+    // To the text edit this is no key of its own: what it leaves alone goes on to the window.
+    QPlainTextEdit plain;
+    QKeyEvent toBase(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, " ");
+    QApplication::sendEvent(&plain, &toBase);
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_Space, Qt::ControlModifier, " ");
+    QApplication::sendEvent(editor.get(), &event);
+    EXPECT_EQ(event.isAccepted(), toBase.isAccepted());
+    EXPECT_EQ(text(), "count" + plain.toPlainText());
+    EXPECT_EQ(text(), QString("count"));
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    EXPECT_FALSE(completer->popup()->isVisible());
+    EXPECT_EQ(completer->completionPrefix(), QString());
+}
+
+TEST_F(Keys, TheCompleterIsSetUp)
+{
+    QStringListModel words({"counter", "counterHigh"});
+    editor->setTextCompletionList(&words);
     auto* completer = editor->findChild<QCompleter*>();
     ASSERT_NE(completer, nullptr);
     EXPECT_EQ(completer->model(), &words);
@@ -109,6 +130,18 @@ TEST_F(Keys, TypingAndControlSpaceOpenNoList)
     EXPECT_EQ(completer->widget(), editor.get());
     editor->setTextCompleterItemCount(4);
     EXPECT_EQ(completer->maxVisibleItems(), 4);
+}
+
+TEST_F(Keys, AltTypesNothing)
+{
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_F, Qt::AltModifier, "f");
+    QApplication::sendEvent(editor.get(), &event);
+    // Left to the window, which may have a menu for it.
+    EXPECT_FALSE(event.isAccepted());
+    QTest::keyClick(editor.get(), 'F', Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_EQ(text(), QString());
+    QTest::sendKeyEvent(QTest::Click, editor.get(), Qt::Key_At, QString("@"), Qt::AltModifier | Qt::ControlModifier);
+    EXPECT_EQ(text(), QString("@"));
 }
 
 TEST_F(Keys, AChosenCompletionIsFinished)
@@ -124,7 +157,7 @@ TEST_F(Keys, AChosenCompletionIsFinished)
     EXPECT_EQ(column(), 11);
 }
 
-TEST_F(Keys, WheelWithControlZoomsWithoutABound)
+TEST_F(Keys, WheelWithControlZoomsWithinBounds)
 {
     editor->setTabIndent(4);
     QSignalSpy action(editor.get(), &EditorWidget::actionChanged);
@@ -141,12 +174,40 @@ TEST_F(Keys, WheelWithControlZoomsWithoutABound)
     EXPECT_GT(editor->leftMarginWidth(), width);
     for (int step = 0; step < 20; ++step)
         wheel(editor->viewport(), QPoint(0, -120), Qt::ControlModifier);
-    EXPECT_EQ(editor->fontSize(), -5);
+    EXPECT_EQ(editor->fontSize(), 4);
+    EXPECT_EQ(editor->font().pointSize(), 4);
     editor->grab();
-    for (int step = 0; step < 14; ++step)
-        wheel(editor->viewport(), QPoint(0, 1), Qt::ControlModifier);
-    EXPECT_EQ(editor->fontSize(), 9);
-    EXPECT_EQ(editor->font().pointSize(), 9);
+    // The steps against the bound do not count.
+    wheel(editor->viewport(), QPoint(0, 1), Qt::ControlModifier);
+    EXPECT_EQ(editor->fontSize(), 5);
+    for (int step = 0; step < 100; ++step)
+        wheel(editor->viewport(), QPoint(0, 120), Qt::ControlModifier);
+    EXPECT_EQ(editor->fontSize(), 72);
+    EXPECT_EQ(editor->font().pointSize(), 72);
+    wheel(editor->viewport(), QPoint(0, -120), Qt::ControlModifier);
+    EXPECT_EQ(editor->fontSize(), 71);
+}
+
+TEST_F(Keys, TheZoomIsKeptUntilItIsReset)
+{
+    for (int step = 0; step < 3; ++step)
+        wheel(editor->viewport(), QPoint(0, 120), Qt::ControlModifier);
+    EXPECT_EQ(editor->fontSize(), 12);
+    // The settings are applied anew at many occasions.
+    editor->setFont(QFont("DejaVu Sans Mono", 9));
+    EXPECT_EQ(editor->fontSize(), 12);
+    EXPECT_EQ(editor->font().pointSize(), 12);
+    editor->setFont(QFont("DejaVu Sans Mono", 11));
+    EXPECT_EQ(editor->fontSize(), 14);
+    QSignalSpy action(editor.get(), &EditorWidget::actionChanged);
+    editor->resetZoom();
+    EXPECT_EQ(editor->fontSize(), 11);
+    EXPECT_EQ(editor->font().pointSize(), 11);
+    EXPECT_GE(action.count(), 1);
+    editor->setFont(QFont("DejaVu Sans Mono", 500));
+    EXPECT_EQ(editor->fontSize(), 72);
+    editor->setFont(QFont("DejaVu Sans Mono", 1));
+    EXPECT_EQ(editor->fontSize(), 4);
 }
 
 TEST_F(Keys, OtherWheelsScroll)

@@ -231,136 +231,55 @@ TEST_F(Lines, MoveLeavesALineAtWhoseStartTheSelectionEnds)
     EXPECT_EQ(pos(), 7);
 }
 
-TEST_F(Lines, TheStepLeftOpenOnTheFirstLineIsUndoneWithWhatFollows)
+TEST_F(Lines, AtTheEdgesAMoveChangesNothingAndTakesPartInNoStep)
 {
     editor->setText("one\ntwo");
     QTest::keyClicks(editor.get(), "a");
     editor->moveLineUp();
     EXPECT_EQ(text(), QString("aone\ntwo"));
     moveTo(1, 0);
-    QTest::keyClicks(editor.get(), "b");
-    QTest::keyClick(editor.get(), Qt::Key_Return);
+    editor->moveLineDown();
+    editor->commentOut();
     moveTo(0, 0);
     editor->commentOut();
-    EXPECT_EQ(text(), QString(";aone\nb\ntwo"));
-    // All since the move is one step; what was typed before is another.
+    EXPECT_EQ(text(), QString(";aone\n;two"));
+    // Each action is a step of its own.
+    editor->undo();
+    EXPECT_EQ(text(), QString("aone\n;two"));
     editor->undo();
     EXPECT_EQ(text(), QString("aone\ntwo"));
     editor->undo();
     EXPECT_EQ(text(), QString("one\ntwo"));
     EXPECT_FALSE(editor->isUndoAvailable());
+    EXPECT_FALSE(editor->isModified());
     editor->redo();
     editor->redo();
-    EXPECT_EQ(text(), QString(";aone\nb\ntwo"));
+    EXPECT_EQ(text(), QString("aone\n;two"));
 }
 
-TEST_F(Lines, TheStepLeftOpenOnTheLastLine)
+TEST_F(Lines, AfterAMoveAtTheEdgeTheDocumentReportsItsChanges)
 {
-    editor->setText("one\ntwo");
-    moveTo(1, 0);
-    editor->moveLineDown();
-    editor->moveLineDown();
-    EXPECT_EQ(text(), QString("one\ntwo"));
-    EXPECT_FALSE(editor->isModified());
-    editor->duplicateLine();
+    editor->setText(numberedLines(300));
     editor->moveLineUp();
-    editor->indent();
-    EXPECT_EQ(text(), QString("one\ntwo\t\ntwo"));
-    editor->undo();
-    EXPECT_EQ(text(), QString("one\ntwo"));
-}
-
-TEST_F(Lines, WhileAStepIsOpenTheDocumentIsShownAndCountsAsModified)
-{
-    editor->setText("one\ntwo");
-    editor->moveLineUp();
-    EXPECT_FALSE(editor->isModified());
+    editor->moveCursor(QTextCursor::End);
+    editor->moveLineDown();
+    moveTo(3, 0);
     QSignalSpy modified(editor.get(), &EditorWidget::modifiedChanged);
-    QSignalSpy action(editor.get(), &EditorWidget::actionChanged);
-    const int width = editor->leftMarginWidth();
-    for (int line = 0; line < 9; ++line)
-        QTest::keyClick(editor.get(), Qt::Key_Return);
-    QTest::keyClicks(editor.get(), "WWWWWWWW");
-    EXPECT_TRUE(editor->isModified());
+    QSignalSpy changes(editor->document(), &QTextDocument::contentsChange);
+    QTest::keyClicks(editor.get(), "x");
     EXPECT_EQ(modified.count(), 1);
-    EXPECT_GT(action.count(), 0);
-    EXPECT_TRUE(editor->isUndoAvailable());
-    // The line number has gained a digit, the cursor line is marked and the letters are on the screen.
-    EXPECT_GT(editor->leftMarginWidth(), width);
-    ASSERT_FALSE(editor->extraSelections().isEmpty());
-    EXPECT_EQ(editor->extraSelections().first().cursor.blockNumber(), 9);
-    const QImage shown = editor->viewport()->grab().toImage();
-    const QRect row = editor->cursorRect();
-    int dark = 0;
-    for (int x = 0; x < row.x(); ++x) {
-        for (int y = row.top(); y <= row.bottom(); ++y)
-            dark += shown.pixelColor(x, y).lightness() < 120 ? 1 : 0;
-    }
-    EXPECT_GT(row.x(), 8 * 5);
-    EXPECT_GT(dark, 50);
-
-    editor->clearModified();
-    EXPECT_FALSE(editor->isModified());
-    EXPECT_EQ(modified.count(), 2);
-    QTest::keyClick(editor.get(), Qt::Key_Backspace);
-    EXPECT_TRUE(editor->isModified());
+    // The typed letter and not the whole document: highlighting works on what is reported here.
+    ASSERT_GE(changes.count(), 1);
+    for (const QList<QVariant>& change : qAsConst(changes))
+        EXPECT_LE(change.at(2).toInt(), 10);
 }
 
-TEST_F(Lines, ChangesBySlotsAreSeenWhileAStepIsOpen)
-{
-    editor->setText("one\ntwo");
-    editor->moveLineUp();
-    QSignalSpy modified(editor.get(), &EditorWidget::modifiedChanged);
-    // Cut and paste of the text edit tell nobody now.
-    editor->selectAll();
-    editor->cut();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return modified.count() > 0; }, 3000));
-    EXPECT_TRUE(editor->isModified());
-}
-
-TEST_F(Lines, WhileAStepIsOpenTheDocumentGrowsAndTheLinesChange)
-{
-    editor->setText(QString(60, ' ') + "\ntwo");
-    editor->moveLineUp();
-    const auto dark = [this] {
-        const QImage shown = editor->viewport()->grab().toImage();
-        int count = 0;
-        for (int x = 30; x < 200; ++x)
-            count += shown.pixelColor(x, marginY(0)).lightness() < 120 ? 1 : 0;
-        return count;
-    };
-    EXPECT_EQ(dark(), 0);
-    // The line is as long as it was.
-    QTest::keyClick(editor.get(), Qt::Key_Insert);
-    QTest::keyClicks(editor.get(), QString(40, 'W'));
-    EXPECT_GT(dark(), 40);
-    EXPECT_EQ(editor->verticalScrollBar()->maximum(), 0);
-    for (int line = 0; line < 40; ++line)
-        editor->duplicateLine();
-    EXPECT_GT(editor->verticalScrollBar()->maximum(), 10);
-}
-
-TEST_F(Lines, ChangesBySlotsArePaintedWhileAStepIsOpen)
-{
-    editor->setText("one\n" + QString(40, 'W') + "\nthree");
-    moveTo(2, 0);
-    editor->moveLineDown();
-    moveTo(1, 0);
-    editor->moveCursor(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-    editor->cut();
-    const QImage shown = editor->viewport()->grab().toImage();
-    int dark = 0;
-    for (int x = 30; x < 200; ++x)
-        dark += shown.pixelColor(x, marginY(1)).lightness() < 120 ? 1 : 0;
-    EXPECT_EQ(dark, 0);
-}
-
-class OpenStep : public Lines, public ::testing::WithParamInterface<int>
+class Random : public Lines, public ::testing::WithParamInterface<int>
 {
 };
 
-/// Whatever comes while a step is open: it stays one step, and the document can be painted at any time.
-TEST_P(OpenStep, BearsEverything)
+/// Whatever is done, the document can be painted at any time, and the steps lead back to where they began.
+TEST_P(Random, BearsEverything)
 {
     std::mt19937 random(static_cast<unsigned>(GetParam()));
     const QString before = numberedLines(30);
@@ -368,7 +287,6 @@ TEST_P(OpenStep, BearsEverything)
     editor->setAutoReturnIndentEn(true);
     editor->setSelectionHighlightEn(true);
     editor->setDynamicLineWrapEn(GetParam() % 2 == 0);
-    editor->moveLineUp();
     const auto key = [this](Qt::Key code, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
         return [this, code, modifiers] { QTest::keyClick(editor.get(), code, modifiers); };
     };
@@ -405,8 +323,10 @@ TEST_P(OpenStep, BearsEverything)
     run(400);
     EXPECT_TRUE(editor->isModified());
     EXPECT_NE(text(), before);
-    editor->undo();
+    for (int step = 0; step < 5000 && editor->isUndoAvailable(); ++step)
+        editor->undo();
     EXPECT_EQ(text(), before);
+    EXPECT_FALSE(editor->isModified());
     editor->grab();
     steps << [&] { editor->undo(); } << [&] { editor->redo(); } << key(Qt::Key_Z, Qt::ControlModifier);
     run(200);
@@ -415,24 +335,7 @@ TEST_P(OpenStep, BearsEverything)
     EXPECT_FALSE(editor->isModified());
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, OpenStep, ::testing::Range(1, 9));
-
-TEST_F(Lines, NewTextEndsTheOpenStep)
-{
-    editor->setText("one");
-    editor->moveLineUp();
-    editor->moveLineDown();
-    QTest::keyClicks(editor.get(), "x");
-    editor->setText("two");
-    EXPECT_FALSE(editor->isModified());
-    QSignalSpy contents(editor->document(), &QTextDocument::contentsChanged);
-    QTest::keyClicks(editor.get(), "a");
-    EXPECT_GT(contents.count(), 0);
-    moveTo(0, 4);
-    editor->duplicateLine();
-    editor->undo();
-    EXPECT_EQ(text(), QString("atwo"));
-}
+INSTANTIATE_TEST_SUITE_P(Seeds, Random, ::testing::Range(1, 9));
 
 TEST_F(Lines, EveryCommandStandsAnEmptyDocument)
 {

@@ -141,6 +141,8 @@ TEST_F(EditorActions, Edit)
                                           {7, "Move line up", "Move line up", QKeySequence("Ctrl+Shift+Up")},
                                           {8, "Move line down", "Move line down", QKeySequence("Ctrl+Shift+Down")},
                                           separator,
+                                          {9, "Reset zoom", "Font size as in the settings", QKeySequence("Ctrl+0")},
+                                          separator,
                                       });
     EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
     EXPECT_EQ(picturedOf(actions.menuActions()), (QStringList{"Undo...", "Redo...", "Comment out"}));
@@ -156,7 +158,7 @@ TEST_F(EditorActions, Edit)
                      [&](EditorActionsEdit::eAction_t action) { values.append(action); });
     for (QAction* action : actions.menuActions())
         action->trigger();
-    EXPECT_EQ(values, (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_EQ(values, (QList<int>{0, 1, 2, 3, 4, 5, 6, 7, 8, 9}));
 }
 
 TEST_F(EditorActions, Sim)

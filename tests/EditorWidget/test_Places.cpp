@@ -110,6 +110,23 @@ TEST_F(Places, OneLineIsFlagged)
     EXPECT_EQ(editor->extraSelections().size(), 1);
 }
 
+TEST_F(Places, WithWrappedLinesTheFlagStandsOnItsLine)
+{
+    editor->setDynamicLineWrapEn(true);
+    editor->setText("first\nsecond\n" + QString("word ").repeated(100) + "\nlast\n" + numberedLines(50));
+    ASSERT_GT(editor->document()->findBlockByNumber(2).layout()->lineCount(), 3);
+    for (const int line : {3, 1, 40, 0, 2, 3}) {
+        editor->setLineHighlighted(line);
+        ASSERT_EQ(editor->extraSelections().size(), 2);
+        EXPECT_EQ(editor->extraSelections()[1].cursor.blockNumber(), line);
+        EXPECT_EQ(editor->cursorLine(), line);
+    }
+    editor->setLineHighlighted(5000);
+    EXPECT_EQ(editor->extraSelections()[1].cursor.blockNumber(), editor->blockCount() - 1);
+    editor->setLineHighlighted(-5);
+    EXPECT_EQ(editor->extraSelections()[1].cursor.blockNumber(), 0);
+}
+
 TEST_F(Places, TheFlagStaysOnItsNumberWhenTheTextIsReadAgain)
 {
     editor->setText(numberedLines(50));
@@ -200,6 +217,26 @@ TEST_F(Places, ReplaceNeedsASelection)
     select(0, 3);
     editor->replace("x");
     EXPECT_EQ(text(), QString("x two"));
+}
+
+TEST_F(Places, ASelectionIsAHitOnlyAsAWhole)
+{
+    editor->setText("One one ones\none");
+    const auto isHit = [this](int start, int end, bool caseSensitive, bool wholeWords) {
+        select(start, end);
+        return editor->isHit("one", caseSensitive, wholeWords);
+    };
+    EXPECT_TRUE(isHit(0, 3, false, false));
+    EXPECT_TRUE(isHit(3, 0, false, false));
+    EXPECT_FALSE(isHit(0, 3, true, false));
+    EXPECT_TRUE(isHit(8, 11, true, false));
+    EXPECT_FALSE(isHit(8, 11, true, true));
+    EXPECT_TRUE(isHit(4, 7, true, true));
+    EXPECT_FALSE(isHit(4, 6, false, false));
+    EXPECT_FALSE(isHit(3, 7, false, false));
+    EXPECT_FALSE(isHit(4, 4, false, false));
+    EXPECT_TRUE(isHit(13, 16, true, true));
+    EXPECT_FALSE(isHit(4, 16, true, true));
 }
 
 TEST_F(Places, ReplaceAllEndsAndIsOneStep)

@@ -202,15 +202,21 @@ TEST_F(ActionTest, ToolBarsHaveIconsOf26Pixels)
     EXPECT_EQ(toolBar("File")->iconSize(), QSize(26, 26));
 }
 
-TEST_F(ActionTest, OnlyAToolBarWithButtonsCanBeMoved)
+TEST_F(ActionTest, AnEmptyToolBarStaysAsItIs)
 {
     a.toolBars[1] = {actions[0]};
     hook->registerPlugin(&a);
     start();
-    EXPECT_TRUE(toolBar("File")->isMovable());
-    EXPECT_FALSE(toolBar("Edit")->isMovable());
+    for (const char* title : {"File", "Edit"}) {
+        EXPECT_TRUE(toolBar(title)->isMovable()) << title;
+        EXPECT_TRUE(toolBar(title)->isEnabled()) << title;
+        EXPECT_FALSE(toolBar(title)->isHidden()) << title;
+    }
     hook->unregisterPlugin(&a);
-    EXPECT_FALSE(toolBar("File")->isMovable());
+    EXPECT_TRUE(toolBar("File")->actions().isEmpty());
+    EXPECT_TRUE(toolBar("File")->isMovable());
+    EXPECT_TRUE(toolBar("File")->isEnabled());
+    EXPECT_FALSE(toolBar("File")->isHidden());
 }
 
 TEST_F(ActionTest, NothingIsDrawnBeforeTheRunAndAfterTheExit)

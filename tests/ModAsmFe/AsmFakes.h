@@ -17,6 +17,7 @@
 #include "OpcodeList.h"
 
 #include <QRegExp>
+#include <QSet>
 #include <QUrl>
 
 #include <functional>
@@ -30,6 +31,19 @@ class LoggingMsgHook : public FakeMsgHook
 public:
     explicit LoggingMsgHook(QStringList* log) : calls(log) {}
 
+    using FakeMsgHook::registerPlugin;
+    using FakeMsgHook::unregisterPlugin;
+    void registerPlugin(ModMsgPluginIf* plugin) override
+    {
+        FakeMsgHook::registerPlugin(plugin);
+        registered.insert(plugin);
+        ++registrations;
+    }
+    void unregisterPlugin(ModMsgPluginIf* plugin) override
+    {
+        FakeMsgHook::unregisterPlugin(plugin);
+        registered.remove(plugin);
+    }
     void clearMessages() override
     {
         FakeMsgHook::clearMessages();
@@ -52,6 +66,8 @@ public:
     }
 
     QStringList* calls;
+    QSet<ModMsgPluginIf*> registered;
+    int registrations = 0;
 };
 
 /// The navigator: keeps the tags.
@@ -152,12 +168,14 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
+    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList& words) override
     {
         calls->append("editor.setTextCompletionList");
         completion = words;
     }
     nsModEditor::EditorSupportMenu* supportMenu() override { return withMenu ? &menu : nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
     QStringList* calls;
     std::unique_ptr<nsModEditor::EditorMemPageAddrMap> map;

@@ -9,6 +9,7 @@
 
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSignalSpy>
@@ -58,7 +59,7 @@ void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt::MouseB
 class IODevViewer : public ::testing::Test
 {
 protected:
-    IODevViewer() : view(qobject_cast<IODevViewerList*>(f.gui.widgetNamed("IO device map viewer")))
+    IODevViewer() : view(openedView(&f))
     {
         f.be.pageSize = 1024;
         qRegisterMetaType<SrcReference*>("SrcReference*");
@@ -91,9 +92,56 @@ protected:
     }
     QScrollBar* scrollBar() const { return view->findChild<QScrollArea*>()->verticalScrollBar(); }
 
+    static IODevViewerList* openedView(AsmFixture* fixture)
+    {
+        fixture->open();
+        return qobject_cast<IODevViewerList*>(fixture->gui.widgetNamed("IO device map viewer"));
+    }
+
     AsmFixture f;
-    IODevViewerList* view;
+    QPointer<IODevViewerList> view; ///< there while the project is open
 };
+
+TEST(IODevViewerInWindow, comesAndGoesWithTheProject)
+{
+    AsmFixture f;
+    const auto there = [&] { return f.gui.widgetNamed("IO device map viewer"); };
+    EXPECT_EQ(there(), nullptr) << "at the start of the program";
+    QWidget other;
+    f.gui.addWidget(nullptr, ModGuiHookIf::eLocationDockRight, &other, "other");
+    f.gui.setWidgetVisible(ModGuiHookIf::eLocationDockRight, true);
+    f.open();
+    QPointer<QWidget> view = there();
+    ASSERT_FALSE(view.isNull());
+    EXPECT_TRUE(f.gui.hasWidget(ModGuiHookIf::eLocationDockRight, view));
+    EXPECT_EQ(f.gui.currentWidget(ModGuiHookIf::eLocationDockRight), &other) << "the panel in front stays in front";
+    EXPECT_TRUE(f.run(ramSource));
+    f.prj.close();
+    EXPECT_EQ(there(), nullptr);
+    EXPECT_TRUE(view.isNull());
+    // A dock that the user has put away stays away.
+    f.gui.setWidgetVisible(ModGuiHookIf::eLocationDockRight, false);
+    f.open();
+    EXPECT_NE(there(), nullptr);
+    EXPECT_FALSE(f.gui.widgetVisible(ModGuiHookIf::eLocationDockRight));
+    EXPECT_TRUE(f.run(ramSource));
+    f.gui.removeWidget(&other);
+}
+
+TEST(IODevViewerInWindow, theProjectClosesDuringARun)
+{
+    AsmFixture f;
+    f.open();
+    QPointer<QWidget> view = f.gui.widgetNamed("IO device map viewer");
+    ASSERT_FALSE(view.isNull());
+    f.be.onStage1 = [&] {
+        f.prj.close();
+        EXPECT_EQ(f.gui.widgetNamed("IO device map viewer"), nullptr);
+    };
+    EXPECT_FALSE(f.run(ramSource));
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(view.isNull());
+}
 
 TEST_F(IODevViewer, standsInTheWindow)
 {
@@ -140,7 +188,7 @@ TEST_F(IODevViewer, isEmptyWithoutProjectOrProcessor)
     EXPECT_TRUE(f.run(ramSource));
     EXPECT_EQ(count(), 2);
     f.asmFe.prjClose();
-    EXPECT_EQ(count(), 0);
+    EXPECT_TRUE(view.isNull());
 }
 
 TEST_F(IODevViewer, isClearedBeforeTheDevicesGo)

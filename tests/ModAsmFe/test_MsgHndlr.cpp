@@ -135,23 +135,24 @@ TEST_F(MsgHndlrTest, withoutAMessageService)
     silent.signMsg(eMsgType_t(-1));
     silent.signMsgGroup(grpParsingFiles);
     silent.signInternalError("x");
-    silent.signError("x");
+    AsmFeMsgHndlr::showMsg(nullptr, errSyntax, nsModMsg::MsgUrl());
 }
 
-TEST_F(MsgHndlrTest, heldMessagesAreShownLater)
+TEST_F(MsgHndlrTest, internalErrorsHaveAHelpLinkToo)
 {
-    AsmFeMsgHndlr::HeldMsgs held;
-    const SrcReference srcRef = {0, 3, 3};
-    EXPECT_EQ(hndlr.setHeldMsgs(&held), nullptr);
-    hndlr.signMsg(errUnsupportedArgument, &srcRef, "a%1");
-    hndlr.signMsg(errNoAsmBe);
-    EXPECT_TRUE(msg.messages().isEmpty());
-    EXPECT_EQ(hndlr.setHeldMsgs(nullptr), &held);
-    hndlr.signHeldMsgs(held);
-    ASSERT_EQ(msg.messages().size(), 2);
-    EXPECT_EQ(msg.messages().first().text, QString("Unsupported argument: a%1"));
-    EXPECT_EQ(msg.messages().first().srcFile.displayName(), QString("main.psm#4"));
-    EXPECT_TRUE(last().srcFile.isEmpty());
+    hndlr.signInternalError("x");
+    EXPECT_EQ(last().hlpDoc, QUrl("pageid://asmFeMessages#errInternal"));
+    hndlr.signMsg(eMsgType_t(-1));
+    EXPECT_EQ(last().key(), QString("errInternal"));
+}
+
+TEST_F(MsgHndlrTest, aHookOfAnother)
+{
+    AsmFeMsgHndlr::showMsg(&msg, warnTargetStuffing, nsModMsg::MsgUrl());
+    EXPECT_EQ(last().type, int(ModMsgHookIf::eMsgWarning));
+    EXPECT_EQ(last().hlpDoc, QUrl("pageid://asmFeMessages#warnTargetStuffing"));
+    AsmFeMsgHndlr::showMsg(&msg, errTargetWrite, nsModMsg::MsgUrl(), "%2", "full");
+    EXPECT_EQ(last().text, QString("Can not write output file: %2 (full)"));
 }
 
 TEST(MsgCatalogue, complete)
@@ -181,7 +182,7 @@ TEST(MsgCatalogue, complete)
         EXPECT_TRUE(QRegExp("(grp|chk|refresh)[A-Z]\\w+").exactMatch(row->key)) << row->key;
         EXPECT_TRUE(QString::fromLatin1(row->text).endsWith("...")) << row->key;
     }
-    EXPECT_EQ(keys.size(), 101 + 17);
+    EXPECT_EQ(keys.size(), 120 + 17);
     EXPECT_EQ(msgText(-1), nullptr);
     EXPECT_EQ(msgText(eMsgTypeCount), nullptr);
     EXPECT_EQ(msgGrpText(-1), nullptr);

@@ -15,7 +15,7 @@ const char* const program = "#SET EDITOR::TABINDENT, 4\n"
 
 const QStringList frontEndCalls = {
     "clear", "open Assembling...", "navi.clear", "msg infoSetProcDef",
-    "open grpParsingFiles", "msg Parsing file", "close ok",
+    "open grpParsingFiles", "msg infoParsingFile", "close ok",
     "navi.show",
     "open chkSetDirectives", "editor.setTabIndent 4", "close ok",
     "open chkLabelDirectives", "close ok",

@@ -5,7 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
-#include <QTreeWidget>
+#include <QPointer>
+#include <QTreeView>
 
 using namespace nsModAsmFe;
 
@@ -270,21 +271,46 @@ TEST(PipelineState, insertionMenu)
     EXPECT_EQ(entriesOf(&f, {"Hardware"}), QStringList("no Hardware"));
 }
 
+TEST(PipelineState, theInsertionMenuIsRebuiltForOtherNamesOnly)
+{
+    AsmFixture f(AsmFixture::partBackend | AsmFixture::partEditor | AsmFixture::partMenu);
+    EXPECT_TRUE(f.run("#EQU one, 1\nhere: LOAD s0, one\n"));
+    const QPointer<QObject> constant = f.editor.menu.node({"Defines", "one"});
+    const QPointer<QObject> label = f.editor.menu.node({"Label", "here"});
+    EXPECT_TRUE(f.run("#EQU one, 2\n\nhere: LOAD s0, one + 1\n"));
+    EXPECT_EQ(constant.data(), f.editor.menu.node({"Defines", "one"}));
+    EXPECT_EQ(label.data(), f.editor.menu.node({"Label", "here"}));
+    EXPECT_TRUE(f.run("#EQU one, 2\n\nthere: LOAD s0, one + 1\n"));
+    EXPECT_FALSE(constant.isNull());
+    EXPECT_TRUE(label.isNull());
+    EXPECT_EQ(entriesOf(&f, {"Label"}), QStringList("there"));
+    // One more, and one less.
+    EXPECT_TRUE(f.run("#EQU another, 3\n#EQU one, 2\n#EQU two, 2\n LOAD s0, one + 1\n"));
+    EXPECT_EQ(constant.data(), f.editor.menu.node({"Defines", "one"}));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList({"another", "one", "two"}));
+    EXPECT_TRUE(f.run("#EQU one, 2\n#EQU two, 2\n LOAD s0, one + 1\n"));
+    EXPECT_EQ(constant.data(), f.editor.menu.node({"Defines", "one"}));
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList({"one", "two"}));
+    EXPECT_TRUE(f.run(" LOAD s0, 1\n"));
+    EXPECT_TRUE(constant.isNull());
+    EXPECT_EQ(entriesOf(&f, {"Defines"}), QStringList("no Defines"));
+}
+
 TEST(PipelineState, constantsAreShownAfterEventsOnly)
 {
     AsmFixture f;
     f.run("#EQU x, 1\n LOAD s0, x\n");
     QWidget* view = f.gui.widgetNamed("EQU list");
     ASSERT_NE(view, nullptr);
-    auto* tree = view->findChild<QTreeWidget*>("equListView");
-    EXPECT_EQ(tree->topLevelItemCount(), 0);
+    const QAbstractItemModel* lines = view->findChild<QTreeView*>("equListView")->model();
+    EXPECT_EQ(lines->rowCount(), 0);
     f.run("#EQU x, 1\n LOAD s0, x\n", ModAsmFe::eEventSave);
-    EXPECT_EQ(tree->topLevelItemCount(), 1);
+    EXPECT_EQ(lines->rowCount(), 1);
     // With success or without.
     f.run("#EQU x, 1\n#EQU y, 2\n NONSENSE\n", ModAsmFe::eEventButton1);
-    EXPECT_EQ(tree->topLevelItemCount(), 2);
+    EXPECT_EQ(lines->rowCount(), 2);
     f.prj.close();
-    EXPECT_EQ(tree->topLevelItemCount(), 0);
+    EXPECT_EQ(lines->rowCount(), 0);
 }
 
 TEST(PipelineState, defineOfTheProcessor)
@@ -372,6 +398,37 @@ TEST(PipelineBackEnd, oneAtATime)
     EXPECT_FALSE(f.asmFe.isAssembled());
     EXPECT_FALSE(f.run("s0: LOAD r0, 1\n"));
     EXPECT_EQ(f.errors().last(), QString("errNoAsmBe"));
+}
+
+template <class Plugin>
+void checkStrangers(ModAsmFeHookIf* hook, Plugin* known, Plugin* stranger)
+{
+    stranger->modAsmFeHook = hook;
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(stranger);
+    EXPECT_EQ(stranger->modAsmFeHook, hook) << "with nobody registered";
+    hook->registerPlugin(known);
+    EXPECT_EQ(known->modAsmFeHook, hook);
+    hook->registerPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(static_cast<Plugin*>(nullptr));
+    hook->unregisterPlugin(stranger);
+    EXPECT_EQ(stranger->modAsmFeHook, hook);
+    EXPECT_EQ(known->modAsmFeHook, hook);
+    hook->unregisterPlugin(known);
+    EXPECT_EQ(known->modAsmFeHook, nullptr);
+}
+
+TEST(PipelineClients, nullAndStrangersThatLeaveChangeNothing)
+{
+    AsmFixture f(AsmFixture::partEditor);
+    ModAsmFePluginIf known;
+    ModAsmFePluginIf stranger;
+    checkStrangers<ModAsmFePluginIf>(&f.asmFe, &known, &stranger);
+    FakeBackend otherBe(&f.calls);
+    checkStrangers<ModAsmFePluginIfBackend>(&f.asmFe, &f.be, &otherBe);
+    f.asmFe.registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(nullptr));
+    f.asmFe.unregisterPlugin(static_cast<ModAsmFePluginIfInterMod*>(nullptr));
 }
 
 TEST(PipelineBackEnd, withoutTables)

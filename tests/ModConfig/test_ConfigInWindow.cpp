@@ -6,12 +6,19 @@
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 #include "ModSourcesHookIf.h"
+#include "MsgViewer.h"
 #include "QtPrinters.h"
 
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSpinBox>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
@@ -240,4 +247,90 @@ TEST_F(ConfigInWindow, picturesOfEveryPage)
         }
         EXPECT_GT(inked, 50) << qPrintable(path);
     }
+}
+
+TEST_F(ConfigInWindow, theRightDockStaysAwayWhileItIsInFront)
+{
+    const auto dock = ModGuiHookIf::eLocationDockRight;
+    nsModMsg::MsgViewer panel;
+    nsModMsg::MsgViewer beside;
+    gui->addWidget(nullptr, dock, &panel, "Panel");
+    gui->addWidget(nullptr, dock, &beside, "Beside");
+    ASSERT_TRUE(prj->open(makePrj("counter", {"main.psm"})));
+    EXPECT_TRUE(gui->widgetVisible(dock));
+    config->openDialog();
+    EXPECT_FALSE(gui->widgetVisible(dock));
+    // A panel with new content, and one that is brought to the front of its dock.
+    panel.showInfoMessage("text", QUrl(), nsModMsg::MsgUrl());
+    EXPECT_EQ(gui->currentWidget(dock), &panel);
+    EXPECT_FALSE(gui->widgetVisible(dock));
+    gui->setCurrentWidget(&beside);
+    EXPECT_FALSE(gui->widgetVisible(dock));
+    // Another page brings it back, the dialog takes it away again.
+    QWidget other;
+    gui->addWidget(nullptr, ModGuiHookIf::eLocationTabs, &other, "Other");
+    EXPECT_TRUE(gui->widgetVisible(dock));
+    gui->setCurrentWidget(dialog());
+    EXPECT_FALSE(gui->widgetVisible(dock));
+    panel.showInfoMessage("text", QUrl(), nsModMsg::MsgUrl());
+    EXPECT_FALSE(gui->widgetVisible(dock));
+    config->closeDialog(false);
+    EXPECT_TRUE(gui->widgetVisible(dock));
+    for (QWidget* widget : {static_cast<QWidget*>(&panel), static_cast<QWidget*>(&beside), &other})
+        gui->removeWidget(widget);
+}
+
+TEST_F(ConfigInWindow, theWheelScrollsThePageAndChangesNoValue)
+{
+    ASSERT_TRUE(prj->open(makePrj("counter", {"main.psm"})));
+    config->openDialog();
+    int boxes = 0;
+    for (int row = 0; row < list()->count(); ++row) {
+        list()->setCurrentRow(row);
+        QApplication::processEvents();
+        auto* area = qobject_cast<QScrollArea*>(dialog()->findChild<QStackedWidget*>("configPages")->currentWidget());
+        ASSERT_NE(area, nullptr);
+        const auto turn = [](QWidget* widget) {
+            const QPointF pos(widget->rect().center());
+            QWheelEvent event(pos, widget->mapToGlobal(widget->rect().center()), QPoint(), QPoint(0, -120),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            // As from the platform, so that a box could also take the focus.
+            QSpontaneKeyEvent::setSpontaneous(&event);
+            QApplication::instance()->notify(widget, &event);
+        };
+        const auto value = [](QWidget* widget) {
+            auto* box = qobject_cast<QComboBox*>(widget);
+            return box != nullptr ? QString::number(box->currentIndex()) : widget->property("text").toString();
+        };
+        // A value can take other fields of its page away.
+        QList<QPointer<QWidget>> widgets;
+        for (QWidget* widget : area->findChildren<QWidget*>())
+            widgets.append(widget);
+        for (QWidget* widget : qAsConst(widgets)) {
+            auto* combo = qobject_cast<QComboBox*>(widget);
+            auto* spin = qobject_cast<QAbstractSpinBox*>(widget);
+            if ((combo == nullptr && spin == nullptr) || !widget->isVisible() || !widget->isEnabled())
+                continue;
+            if (combo != nullptr && combo->count() < 2)
+                continue;
+            ++boxes;
+            list()->setFocus();
+            if (combo != nullptr)
+                combo->setCurrentIndex(0);
+            if (spin != nullptr)
+                spin->stepUp();
+            const QString before = value(widget);
+            area->verticalScrollBar()->setValue(0);
+            turn(widget);
+            turn(widget);
+            EXPECT_EQ(value(widget), before) << qPrintable(list()->currentItem()->text());
+            EXPECT_FALSE(widget->hasFocus());
+            EXPECT_EQ(area->verticalScrollBar()->value() > 0, area->verticalScrollBar()->maximum() > 0);
+            // With the focus it is the user's wish.
+            widget->setFocus();
+            turn(widget);
+            EXPECT_NE(value(widget), before) << qPrintable(list()->currentItem()->text());
+        }
+    }
+    EXPECT_GE(boxes, 5);
 }

@@ -157,3 +157,41 @@ TEST_F(DialogLife, manyRoundsLeaveNothingBehind)
     EXPECT_EQ(logOf({"deleted"}).size(), 2 * 51);
     EXPECT_TRUE(gui.widgets.isEmpty());
 }
+
+TEST_F(DialogLife, nullAndStrangersThatLeaveChangeNothing)
+{
+    RecordingClient stranger("Stranger", &log);
+    stranger.modConfigHook = config.get();
+    log.clear();
+    config->registerPlugin(nullptr);
+    config->unregisterPlugin(nullptr);
+    config->unregisterPlugin(&stranger);
+    EXPECT_EQ(stranger.modConfigHook, config.get());
+    EXPECT_EQ(log, QStringList());
+    EXPECT_EQ(list()->count(), 2);
+    EXPECT_EQ(prjClient.modConfigHook, config.get());
+    EXPECT_EQ(appClient.modConfigHook, config.get());
+    // Who has left is a stranger, too.
+    config->unregisterPlugin(&prjClient);
+    prjClient.modConfigHook = config.get();
+    config->unregisterPlugin(&prjClient);
+    EXPECT_EQ(prjClient.modConfigHook, config.get());
+    EXPECT_EQ(list()->count(), 1);
+}
+
+TEST_F(DialogLife, theStackFollowsTheRowOfTheList)
+{
+    RecordingClient many("Many", &log, false, 3);
+    config->closeDialog(false);
+    config->registerPlugin(&many);
+    openDialog();
+    ASSERT_EQ(list()->count(), 5);
+    for (int row : {4, 0, 2, 3, 1}) {
+        list()->setCurrentRow(row);
+        EXPECT_EQ(stack()->currentIndex(), row);
+    }
+    EXPECT_EQ(shownPage(), appClient.page());
+    clickItem("Many1");
+    EXPECT_EQ(shownPage(), many.page(1));
+    config->unregisterPlugin(&many);
+}

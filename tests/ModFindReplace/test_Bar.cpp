@@ -154,13 +154,21 @@ TEST_F(Bar, initStringIsPutInAndAnEmptyOneSelectsWhatStandsThere)
     EXPECT_EQ(find()->text(), "first");
     EXPECT_TRUE(find()->hasFocus());
     EXPECT_EQ(bar()->mode(), Widget::eModeReplace);
-    EXPECT_EQ(find()->selectedText(), "");
+    // Another text can be typed over it.
+    EXPECT_EQ(find()->selectedText(), "first");
     spy.clear();
     bar()->setInitString("", Widget::eModeFind);
     EXPECT_EQ(spy.count(), 1);
     EXPECT_EQ(find()->text(), "first");
     EXPECT_EQ(find()->selectedText(), "first");
     EXPECT_EQ(bar()->mode(), Widget::eModeFind);
+    // The field has one line.
+    for (const QString& lines : {QString("one") + QChar(QChar::ParagraphSeparator) + "two", QString("one\ntwo")}) {
+        find()->deselect();
+        bar()->setInitString(lines, Widget::eModeFind);
+        EXPECT_EQ(find()->text(), "first");
+        EXPECT_EQ(find()->selectedText(), "first");
+    }
 }
 
 TEST_F(Bar, withoutReplaceThereIsNoSecondRow)

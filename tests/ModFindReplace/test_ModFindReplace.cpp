@@ -28,7 +28,9 @@ TEST_F(FindReplace, actionsStandInTheMenuInTheirOrder)
         EXPECT_EQ(entries.at(i)->text(), expected[i].text);
         EXPECT_EQ(entries.at(i)->toolTip(), expected[i].text);
         EXPECT_EQ(entries.at(i)->data().toInt(), expected[i].id);
-        EXPECT_EQ(entries.at(i)->shortcuts(), QKeySequence::keyBindings(expected[i].key));
+        for (const QKeySequence& key : QKeySequence::keyBindings(expected[i].key))
+            EXPECT_TRUE(entries.at(i)->shortcuts().contains(key));
+        EXPECT_FALSE(entries.at(i)->shortcuts().isEmpty()) << "whatever the desktop knows as a key for it";
         EXPECT_FALSE(entries.at(i)->icon().pixmap(22).isNull());
     }
     for (int actionClass = 0; actionClass < 8; ++actionClass) {
@@ -233,7 +235,7 @@ TEST_F(FindReplace, pageOfAnotherClientHidesTheBarUntilTheBackWay)
     QTest::keyClicks(find(), "a");
     addPage("help", &help, 0);
     EXPECT_FALSE(bar()->isVisible());
-    EXPECT_EQ(enabled(), "f---");
+    EXPECT_EQ(enabled(), "fnp-");
     gui->setCurrentWidget(document);
     EXPECT_TRUE(bar()->isVisible());
     // Once the bar has served the other one, it stays with that.
@@ -241,7 +243,7 @@ TEST_F(FindReplace, pageOfAnotherClientHidesTheBarUntilTheBackWay)
     choose(Actions::eActionFind);
     gui->setCurrentWidget(document);
     EXPECT_FALSE(bar()->isVisible());
-    EXPECT_EQ(enabled(), "f--r");
+    EXPECT_EQ(enabled(), "fnpr");
 }
 
 TEST_F(FindReplace, escapeClosesAndGivesTheFocusBack)
@@ -253,13 +255,35 @@ TEST_F(FindReplace, escapeClosesAndGivesTheFocusBack)
     EXPECT_FALSE(bar()->isVisible());
     EXPECT_TRUE(document->hasFocus());
     EXPECT_EQ(editor.take(), QStringList({"init", "exit"}));
-    EXPECT_EQ(enabled(), "f--r");
+    EXPECT_EQ(enabled(), "fnpr");
     // It does not come back by itself.
     addPage("settings");
     gui->setCurrentWidget(document);
     EXPECT_FALSE(bar()->isVisible());
     choose(Actions::eActionFind);
     EXPECT_EQ(find()->selectedText(), "a");
+}
+
+TEST_F(FindReplace, findingGoesOnWithTheBarClosed)
+{
+    QWidget* document = addPage("document", &editor);
+    choose(Actions::eActionFind);
+    QTest::keyClicks(find(), "a");
+    QTest::keyClick(find(), Qt::Key_Escape);
+    editor.take();
+    choose(Actions::eActionFindNext);
+    choose(Actions::eActionFindPrev);
+    EXPECT_EQ(editor.take(), QStringList({"next*", "prev"}));
+    EXPECT_FALSE(bar()->isVisible());
+    EXPECT_TRUE(document->hasFocus());
+    // A client that the bar has not served yet hears of the parameters first.
+    addPage("help", &help, 0);
+    choose(Actions::eActionFindNext);
+    choose(Actions::eActionFindNext);
+    EXPECT_EQ(help.take(), QStringList({"next*", "next"}));
+    gui->setCurrentWidget(document);
+    choose(Actions::eActionFindNext);
+    EXPECT_EQ(editor.take(), QStringList({"next*"}));
 }
 
 TEST_F(FindReplace, otherAreasChangeNothing)

@@ -133,19 +133,17 @@ TEST_F(GuiTest, StackedAreaIsHiddenWhenItBecomesEmptyAndShownByTheNextWidget)
     }
 }
 
-TEST_F(GuiTest, FrameInTheStatusBarIsSeenWithItsArea)
+TEST_F(GuiTest, FramesInTheStatusBarStayWhenTheyAreEmpty)
 {
     const QList<QFrame*> frames = window.statusBar()->findChildren<QFrame*>(QString(), Qt::FindDirectChildrenOnly);
-    EXPECT_TRUE(frames.at(0)->isHidden());
-    QWidget* widget = make("status");
-    hook->addWidget(&a, Hook::eLocationStatusFirst, widget, "");
-    EXPECT_FALSE(frames.at(0)->isHidden());
-    EXPECT_TRUE(frames.at(1)->isHidden());
     window.show();
     QCoreApplication::processEvents();
-    EXPECT_TRUE(frames.at(0)->isVisible());
+    QWidget* widget = make("status");
+    hook->addWidget(&a, Hook::eLocationStatusFirst, widget, "");
     hook->removeWidget(widget);
-    EXPECT_TRUE(frames.at(0)->isHidden());
+    QCoreApplication::processEvents();
+    for (const QFrame* frame : frames)
+        EXPECT_TRUE(frame->isVisible());
 }
 
 TEST_F(GuiTest, DockIsSeenOnlyWithTabsAndKeepsTheWish)
@@ -168,6 +166,46 @@ TEST_F(GuiTest, DockIsSeenOnlyWithTabsAndKeepsTheWish)
     EXPECT_TRUE(dock("dockRight")->isVisible());
     delete widget;
     EXPECT_FALSE(dock("dockRight")->isVisible()) << "deleted by its owner";
+}
+
+TEST_F(GuiTest, AnEmptyDockThatIsToBeSeenAgainComesWithItsFirstTab)
+{
+    window.show();
+    // The last wish counts, also where there is nothing to be seen yet.
+    hook->setWidgetVisible(Hook::eLocationDockRight, false);
+    hook->setWidgetVisible(Hook::eLocationDockRight, true);
+    hook->addWidget(&a, Hook::eLocationDockRight, make("one"), "one");
+    EXPECT_TRUE(dock("dockRight")->isVisible());
+    hook->setWidgetVisible(Hook::eLocationDockLeft, true);
+    hook->setWidgetVisible(Hook::eLocationDockLeft, false);
+    hook->addWidget(&a, Hook::eLocationDockLeft, make("two"), "two");
+    EXPECT_FALSE(dock("dockLeft")->isVisible());
+}
+
+TEST_F(GuiTest, ADockThatAPageKeepsAwayStaysAwayUntilThePageGivesWay)
+{
+    window.show();
+    auto* reporter = make<Reporter>("reporter");
+    QWidget* page = make("page");
+    QWidget* other = make("other");
+    hook->addWidget(&a, Hook::eLocationDockRight, reporter, "reporter");
+    hook->addWidget(&a, Hook::eLocationDockRight, make("beside"), "beside");
+    hook->addWidget(&a, Hook::eLocationTabs, other, "other");
+    hook->addWidget(&a, Hook::eLocationTabs, page, "page");
+    hook->setWidgetVisible(Hook::eLocationDockRight, false);
+    emit reporter->contentChanged(reporter);
+    EXPECT_EQ(hook->currentWidget(Hook::eLocationDockRight), reporter);
+    EXPECT_FALSE(hook->widgetVisible(Hook::eLocationDockRight));
+    hook->setCurrentWidget(reporter);
+    hook->addWidget(&a, Hook::eLocationDockRight, make("new"), "new");
+    EXPECT_FALSE(hook->widgetVisible(Hook::eLocationDockRight));
+    // Something has come up for it meanwhile.
+    hook->setCurrentWidget(other);
+    EXPECT_TRUE(hook->widgetVisible(Hook::eLocationDockRight));
+    hook->setCurrentWidget(page);
+    hook->setWidgetVisible(Hook::eLocationDockRight, false);
+    hook->setWidgetVisible(Hook::eLocationDockRight, true);
+    EXPECT_TRUE(hook->widgetVisible(Hook::eLocationDockRight));
 }
 
 TEST_F(GuiTest, NewContentBringsTheTabOfADockToTheFront)

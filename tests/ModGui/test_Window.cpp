@@ -5,6 +5,8 @@
 #include "SplashScreen.h"
 
 #include <QApplication>
+#include <QScreen>
+#include <QStyle>
 #include <QTest>
 
 namespace {
@@ -61,10 +63,46 @@ TEST_F(GuiTest, GeometryComesFromTheSettings)
     EXPECT_EQ(window.iconSize(), QSize(22, 22));
 }
 
-TEST_F(GuiTest, GeometryHasDefaultsAndASmallestSize)
+TEST_F(GuiTest, TheFirstWindowStandsInsideTheScreenWithItsTitleBar)
 {
     gui->rdAppCfg();
-    EXPECT_EQ(window.geometry(), QRect(0, 0, 800, 600));
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size = (screen.size() * 4 / 5).boundedTo(QSize(1440, 900)).expandedTo(QSize(800, 600));
+    EXPECT_EQ(window.size(), size);
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    ASSERT_GT(title, 0);
+    EXPECT_GE(window.geometry().top(), screen.top() + title);
+    EXPECT_GE(window.geometry().left(), screen.left());
+    if (size.width() <= screen.width())
+        EXPECT_LE(window.geometry().right(), screen.right());
+    if (size.height() + title <= screen.height())
+        EXPECT_LE(window.geometry().bottom(), screen.bottom());
+}
+
+TEST_F(GuiTest, AWindowOfAScreenThatIsGoneComesBackOntoOne)
+{
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const int title = window.style()->pixelMetric(QStyle::PM_TitleBarHeight);
+    const QList<QPoint> lost{{5000, 100}, {-3000, 100}, {100, 4000}, {100, -2000}, {0, 0}};
+    for (const QPoint& position : lost) {
+        cfg.setValue("ModGui/width", 900);
+        cfg.setValue("ModGui/height", 650);
+        cfg.setValue("ModGui/x", position.x());
+        cfg.setValue("ModGui/y", position.y());
+        gui->rdAppCfg();
+        EXPECT_EQ(window.size(), QSize(900, 650));
+        const QRect bar(window.x(), window.geometry().top() - title, window.width(), title);
+        EXPECT_TRUE(screen.contains(bar.topLeft())) << position.x() << ' ' << position.y();
+    }
+    // One that can be taken hold of stays where it is.
+    cfg.setValue("ModGui/x", -600);
+    cfg.setValue("ModGui/y", 300);
+    gui->rdAppCfg();
+    EXPECT_EQ(window.geometry(), QRect(-600, 300, 900, 650));
+}
+
+TEST_F(GuiTest, GeometryHasASmallestSize)
+{
     cfg.setValue("ModGui/width", 300);
     cfg.setValue("ModGui/height", 599);
     gui->rdAppCfg();
@@ -82,6 +120,24 @@ TEST_F(GuiTest, GeometryIsWrittenBackAndComesAgain)
     EXPECT_EQ(cfg.value("ModGui/y", 0), 60);
     gui->rdAppCfg();
     EXPECT_EQ(window.geometry(), QRect(50, 60, 900, 650));
+}
+
+TEST_F(GuiTest, AMaximizedWindowComesBackMaximizedAndKeepsItsSizeForLater)
+{
+    window.setGeometry(50, 60, 900, 650);
+    window.show();
+    window.showMaximized();
+    QTRY_VERIFY_WITH_TIMEOUT(window.isMaximized() && window.size() != QSize(900, 650), 60000);
+    gui->wrAppCfg();
+    EXPECT_EQ(cfg.value("ModGui/width", 0), 900);
+    EXPECT_EQ(cfg.value("ModGui/height", 0), 650);
+    window.showNormal();
+    gui->rdAppCfg();
+    EXPECT_TRUE(window.isMaximized());
+    window.showNormal();
+    gui->wrAppCfg();
+    gui->rdAppCfg();
+    EXPECT_FALSE(window.isMaximized());
 }
 
 TEST_F(GuiTest, SettingsAreTolerantOfAMissingHook)

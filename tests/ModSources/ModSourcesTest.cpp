@@ -160,6 +160,32 @@ TEST_F(ModSourcesTest, AddsAFileOnce)
     EXPECT_EQ(client.lists, 1);
 }
 
+TEST_F(ModSourcesTest, AFileOutsideOfTheProjectFolderIsKnownUnderItsCleanPath)
+{
+    const QString outside = makeFile("x.psm");
+    QDir(m_dir.path()).mkdir(str("project"));
+    prj.tree.set(str(key), QStringList(str("../x.psm")));
+    prj.open(path("project/p.nalvo"));
+    EXPECT_EQ(sources.files(), QStringList(outside));
+    // Nobody is asked: a question would wait here for an answer.
+    EXPECT_TRUE(sources.chkProjectMembership(outside));
+    EXPECT_TRUE(sources.chkProjectMembership(path("project/../x.psm")));
+    sources.addFile(path("project/./../x.psm"));
+    EXPECT_EQ(sources.files(), QStringList(outside));
+    sources.addFile(path("project/sub/../y.psm"));
+    EXPECT_EQ(sources.files(), QStringList({outside, path("project/y.psm")}));
+    prj.close();
+    EXPECT_EQ(prj.saved.get(str(key), QStringList()), QStringList({str("../x.psm"), str("y.psm")}));
+}
+
+TEST_F(ModSourcesTest, RemovesAFileUnderAnySpellingOfItsPath)
+{
+    open({});
+    sources.addFile(path("a.psm"));
+    sources.removeFile(path("./sub/../a.psm"));
+    EXPECT_TRUE(sources.files().isEmpty());
+}
+
 TEST_F(ModSourcesTest, RemovesTheFirstMatch)
 {
     makeFile("a.psm");

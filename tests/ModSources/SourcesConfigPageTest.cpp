@@ -482,15 +482,28 @@ TEST_F(SourcesPageTest, aProjectThatClosesTakesItsFilesAlong)
     EXPECT_EQ(sources.files(), QStringList());
 }
 
-TEST_F(SourcesPageTest, defaultsAreAnEmptyList)
+TEST_F(SourcesPageTest, defaultsLeaveTheListAlone)
+{
+    openPrj({"main.psm", "uart.psm"});
+    openPage();
+    page->setDefaultConfig();
+    EXPECT_EQ(shown(), QStringList({"main.psm", "uart.psm"}));
+    EXPECT_TRUE(page->checkConfig());
+    closePage(true);
+    EXPECT_EQ(sources.files(), paths({"main.psm", "uart.psm"}));
+}
+
+TEST_F(SourcesPageTest, aFileIsKnownUnderAnySpellingOfItsPath)
 {
     openPrj({"main.psm"});
     openPage();
-    page->setDefaultConfig();
-    EXPECT_EQ(shown(), QStringList());
-    sources.configPageSetConfig(page);
-    EXPECT_EQ(shown(), QStringList("main.psm"));
-    EXPECT_TRUE(page->checkConfig());
+    sources.addFile(path("lib/../lib/tick.psm"));
+    EXPECT_EQ(sources.files(), paths({"main.psm", "lib/tick.psm"}));
+    EXPECT_EQ(shown(), QStringList({"main.psm", "lib/tick.psm"}));
+    page->dropFile(path("./main.psm"));
+    EXPECT_EQ(shown(), QStringList("lib/tick.psm"));
+    page->insertFile(path("./lib/tick.psm"));
+    EXPECT_EQ(shown(), QStringList("lib/tick.psm"));
 }
 
 TEST_F(SourcesPageTest, thePageMayGoWhileItsFileDialogIsOpen)

@@ -61,8 +61,10 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
+    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
     QList<Cursor> cursors;
     std::function<void()> whenCursor; ///< knob: what happens inside of a call, before it uses its arguments

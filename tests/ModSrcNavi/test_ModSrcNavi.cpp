@@ -164,7 +164,7 @@ TEST_F(Module, aDoubleClickLeadsToTheLine)
     QTest::keyClick(hand->tree, Qt::Key_Down);
     QTest::keyClick(hand->tree, Qt::Key_Return);
     ASSERT_EQ(editor.cursors.size(), 2);
-    EXPECT_EQ(editor.cursors.last().lineRef, QString());
+    EXPECT_EQ(editor.cursors.last().lineRef, QString("b:"));
     EXPECT_EQ(editor.cursors.last().line, 5);
 }
 

@@ -166,14 +166,41 @@ TEST_F(WithAssembler, aNewRunKeepsTheSelectionAndTheFocus)
     EXPECT_EQ(editor.cursors.first().line, 2);
 }
 
-TEST_F(WithAssembler, aRunBringsThePanelForward)
+TEST_F(WithAssembler, aRunWithOtherTagsBringsThePanelForward)
 {
     QWidget other;
     gui->addWidget(nullptr, ModGuiHookIf::eLocationDockLeft, &other, "Other");
     EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockLeft), &other);
     assemble("start: NOP\n");
     EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockLeft), window.findChild<NaviWidget*>());
+    gui->setCurrentWidget(&other);
+    assemble("NOP\nstart: NOP\n");
+    EXPECT_EQ(gui->currentWidget(ModGuiHookIf::eLocationDockLeft), &other);
+    EXPECT_EQ(hand->outline(), QStringList({"start:"}));
     gui->removeWidget(&other);
+}
+
+TEST_F(WithAssembler, theTextOfALineEndsBeforeTheLineBreak)
+{
+    assemble("; \\navSep\"Ports\"\r\n; \\navSep\n  ; \\navConst(x)\nNOP\n");
+    ASSERT_EQ(hand->tree->topLevelItemCount(), 3);
+    const QStringList expected = {"; \\navSep\"Ports\"", "; \\navSep", "  ; \\navConst(x)"};
+    for (int i = 0; i < 3; ++i) {
+        const auto* tag = hand->tree->topLevelItem(i)->data(0, Qt::UserRole).value<NaviTag*>();
+        EXPECT_EQ(tag->lineRef, expected.at(i));
+    }
+}
+
+TEST_F(WithAssembler, aLabelIsFoundByItsName)
+{
+    assemble("start: NOP\n#NAMESPACE ns\ninner: NOP\n#ENDNAMESPACE\nJUMP start\n");
+    hand->doubleClick("start:");
+    hand->doubleClick("ns::inner:");
+    ASSERT_EQ(editor.cursors.size(), 2);
+    EXPECT_EQ(editor.cursors.at(0).lineRef, QString("start:"));
+    EXPECT_EQ(editor.cursors.at(0).line, 0);
+    EXPECT_EQ(editor.cursors.at(1).lineRef, QString("inner:"));
+    EXPECT_EQ(editor.cursors.at(1).line, 2);
 }
 
 TEST_F(WithAssembler, behindAnotherTabItStaysThereWhenItsSettingsChange)

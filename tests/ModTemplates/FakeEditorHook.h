@@ -45,8 +45,10 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
+    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return menu; }
+    int simBreakpointsRevision() override { return 0; }
 
     nsModEditor::EditorSupportMenu* menu = nullptr; ///< knob: what supportMenu() answers; not owned
 };

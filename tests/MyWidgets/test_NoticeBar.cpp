@@ -64,6 +64,12 @@ TEST_F(NoticeBar, theKeyboardGoesThroughItsButtonsInOrder)
     EXPECT_EQ(QApplication::focusWidget(), keep);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), bar->findChild<QPushButton*>("noticeBarClose"));
+    // The text edit keeps the Tab key for itself: the end leads to the start.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), reload);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(QApplication::focusWidget(), bar->findChild<QPushButton*>("noticeBarClose"));
+    EXPECT_EQ(edit.toPlainText(), "");
     reload->setEnabled(false);
     EXPECT_EQ(bar->firstControl(), keep);
 }
@@ -84,6 +90,7 @@ TEST_F(NoticeBar, escapeAndTheCloseButtonEndIt)
     QTest::keyClick(reload, Qt::Key_Escape);
     EXPECT_EQ(closed.count(), 1);
     EXPECT_FALSE(bar->isVisible());
+    EXPECT_TRUE(edit.hasFocus());
     QTRY_VERIFY_WITH_TIMEOUT(bar.isNull(), 60000);
 
     QPointer<MyNoticeBar> other(new MyNoticeBar(MyNoticeBar::eGradeInfo, "text", &edit));

@@ -32,7 +32,8 @@ protected:
     {
         dialog.setTexts("Mine", left, "Other", right);
         dialog.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+        dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
     }
     QPushButton* button(const QString& name) { return dialog.findChild<QPushButton*>(name); }
     QString state() { return dialog.findChild<QLabel*>("textCompareState")->text(); }

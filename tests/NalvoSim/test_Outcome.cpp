@@ -126,6 +126,22 @@ TEST_F(SimToolOutcome, NotAssembled)
     EXPECT_EQ(run({"p.nalvo"}).status, 1);
 }
 
+TEST_F(SimToolOutcome, WhatIsAssembledRunsInSpiteOfAnError)
+{
+    // A jump that is too far is told as an internal error and cut to 12 bits; the window runs such a program, too.
+    AsmProject project;
+    project.processor = "Lattice Mico8 v3.x";
+    project.settings["LMico8v3x/memMap/pageSize"] = "8192";
+    writeProject(project);
+    write("a.psm", " ADD r1, 5\n JUMP far\n#ORG ADDR, 4000\nfar: ADD r1, 2\nend: JUMP end\n");
+    const AsmToolResult result = run({"--until", "end", "p.nalvo"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errLines().first(), "error: Internal error: Offset exceeds maximum of 2047 [errInternal]");
+    EXPECT_TRUE(result.errLines().last().startsWith("nalvo-sim: label end reached, 3 instructions"))
+        << result.err.constData();
+    EXPECT_EQ(reg(dump({"--until", "end", "p.nalvo"}), "r1"), 7);
+}
+
 TEST_F(SimToolOutcome, NoProject)
 {
     for (const char* name : {"nosuch.nalvo", "", "."}) {

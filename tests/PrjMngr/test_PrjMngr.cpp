@@ -491,6 +491,11 @@ TEST_F(PrjMngr, ACardShowsWhatTheProjectSays)
         EXPECT_TRUE(labels(card(full)).contains(text)) << text;
     EXPECT_EQ(cardText(bare, "prjViewTitle"), "Title: No title set");
     EXPECT_EQ(cardText(bare, "prjViewVersion"), "No version set");
+    // A card without a comment has the line all the same, so that the cards are of one height.
+    EXPECT_EQ(cardText(bare, "prjViewComment"), "");
+    EXPECT_FALSE(card(bare)->findChild<QLabel*>("prjViewComment")->isHidden());
+    for (const QLabel* label : card(bare)->findChildren<QLabel*>())
+        EXPECT_FALSE(label->isHidden()) << qPrintable(label->text());
     EXPECT_EQ(card(full)->objectName(), "prjView");
     EXPECT_NE(card(full)->findChild<QFrame*>("prjViewButtonLine"), nullptr);
 }

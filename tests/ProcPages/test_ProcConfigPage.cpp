@@ -284,6 +284,30 @@ TEST_F(ProcConfigPageTest, WithoutAProjectThePageIsDisabledAndSaysWhy)
     EXPECT_FALSE(page->findChild<QLabel*>("pageNote")->isVisible());
 }
 
+TEST_F(ProcConfigPageTest, AcceptingWithoutAProjectAttachesNothing)
+{
+    open(namePicoBlaze3);
+    prj.close();
+    ASSERT_EQ(registry.currentProcessor(), nullptr);
+    log.clear();
+    openPage();
+    closePage(true);
+    EXPECT_EQ(registry.currentProcessor(), nullptr);
+    EXPECT_EQ(log.filter("+"), QStringList());
+    // The same where the project closes below an open dialog.
+    open(namePicoBlaze6);
+    openPage();
+    prj.close();
+    closePage(true);
+    EXPECT_EQ(registry.currentProcessor(), nullptr);
+    // The next project is as it says itself.
+    open(namePicoBlaze3);
+    EXPECT_EQ(registry.currentProcessor(), processor(namePicoBlaze3));
+    openPage();
+    closePage(true);
+    EXPECT_EQ(registry.currentProcessor(), processor(namePicoBlaze3));
+}
+
 TEST_F(ProcConfigPageTest, ThePageMayOutliveNothing)
 {
     auto other = std::make_unique<nsModProcessor::ModProcessor>();

@@ -120,16 +120,16 @@ TEST_F(PortsCards, TheListFollowsTheProgramAndTheUser)
     QTest::keyClick(list(fifo), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(list(fifo), Qt::Key_Delete);
     EXPECT_EQ(fifo->lines().count(), 1);
-    EXPECT_EQ(fifo->lines().pointer(), 0);
+    EXPECT_EQ(fifo->lines().pointer(), 3) << "a line number";
     ports->setValue(4, "", 0x44);
     dock.refresh();
-    EXPECT_EQ(list(fifo)->toPlainText(), "44\n");
+    EXPECT_EQ(list(fifo)->toPlainText(), "\n44\n");
     ports->setBase(8);
     dock.refresh();
-    EXPECT_EQ(list(fifo)->toPlainText(), "104\n");
+    EXPECT_EQ(list(fifo)->toPlainText(), "\n104\n");
     ports->clear();
     dock.refresh();
-    EXPECT_EQ(list(fifo)->toPlainText(), "104\n") << "a reset keeps the text";
+    EXPECT_EQ(list(fifo)->toPlainText(), "\n104\n") << "a reset keeps the text";
     EXPECT_EQ(list(fifo)->extraSelections().first().cursor.blockNumber(), 0);
 }
 

@@ -42,15 +42,19 @@ TEST(Device, TheNameIsTheOneThatTheProgramUsedLast)
     EXPECT_EQ(reg.name(), "LED_ALIAS");
 }
 
-TEST(Device, AnAddressOutOfRangeIsRefused)
+TEST(Device, WithAnAddressOutOfRangeItAnswersNowhere)
 {
     ProcSimIOReg8Bit reg;
-    reg.setBaseAddr(7, "");
-    reg.setBaseAddr(-1, "");
-    EXPECT_TRUE(reg.chkAddr(7));
-    reg.setBaseAddr(0x10000, "");
-    EXPECT_TRUE(reg.chkAddr(7));
-    EXPECT_FALSE(reg.chkAddr(8));
+    for (int addr : {-1, 0x10000}) {
+        reg.setBaseAddr(7, "");
+        EXPECT_TRUE(reg.chkAddr(7));
+        reg.setBaseAddr(addr, "");
+        EXPECT_EQ(reg.addr(), ProcSimIODevice::noAddr);
+        for (int port : {addr, 0, 7, 8})
+            EXPECT_FALSE(reg.chkAddr(port)) << addr << " at " << port;
+    }
+    reg.setBaseAddr(0xFFFF, "");
+    EXPECT_TRUE(reg.chkAddr(0xFFFF));
 }
 
 TEST(Register, HoldsOneValue)

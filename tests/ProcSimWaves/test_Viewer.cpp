@@ -132,15 +132,16 @@ TEST_F(WavesViewer, NoAddressIsNoPort)
 {
     type({});
     EXPECT_TRUE(viewer->data()->isEmpty());
-    EXPECT_EQ(message(), "Enter an address from 00 to FF.");
+    EXPECT_EQ(message(), "Enter an address from 00 to FF, or a constant.");
     viewer->setBase(10);
     type("256");
     EXPECT_TRUE(viewer->data()->isEmpty());
-    EXPECT_EQ(message(), "Enter an address from 00 to 255.");
+    EXPECT_EQ(message(), "\"256\" is neither an address from 00 to 255 nor a constant with such a value.");
     // No digits of another base.
     viewer->setBase(8);
     type("89");
-    EXPECT_EQ(child<QLineEdit>("procSimWaveAddr")->text(), QString());
+    EXPECT_TRUE(viewer->data()->isEmpty());
+    EXPECT_EQ(message(), "\"89\" is neither an address from 00 to 377 nor a constant with such a value.");
 }
 
 TEST_F(WavesViewer, SecondTimeIsRefusedKindly)
@@ -166,7 +167,7 @@ TEST_F(WavesViewer, NumberHasARowForEachBit)
     EXPECT_TRUE(viewer->addAddrChannel(0x11, rd, -1, {}));
     ASSERT_EQ(tree->topLevelItemCount(), 2);
     EXPECT_EQ(names(tree->topLevelItem(0)),
-              (QStringList{"led", "[7]", "[6]", "[5]", "[4]", "[3]", "[2]", "[1]", "[0]"}));
+              (QStringList{"Write led", "[7]", "[6]", "[5]", "[4]", "[3]", "[2]", "[1]", "[0]"}));
     EXPECT_EQ(names(tree->topLevelItem(1)).size(), 9);
     tree->expandAll();
     viewer->resize(1000, 800);
@@ -180,7 +181,7 @@ TEST_F(WavesViewer, NumberHasARowForEachBit)
         EXPECT_EQ(shown[row]->maximum, isBit ? 1 : 255);
         EXPECT_EQ(shown[row]->channel->addr, row < 9 ? 0x10 : 0x11);
     }
-    EXPECT_EQ(shown[1]->name, "led[7]");
+    EXPECT_EQ(shown[1]->name, "Write led[7]");
     EXPECT_EQ(shown[17]->name, "Read 11[0]");
 }
 
@@ -295,9 +296,9 @@ TEST_F(WavesViewer, NameComesWithTheFirstValueThatHasOne)
     viewer->addValue(1, wr, {}, 5, 10);
     EXPECT_EQ(ports(), QStringList{"Write 01"});
     viewer->addValue(1, wr, "led", 5, 11);
-    EXPECT_EQ(ports(), QStringList{"led"});
+    EXPECT_EQ(ports(), QStringList{"Write led"});
     viewer->addValue(1, wr, "other", 5, 12);
-    EXPECT_EQ(ports(), QStringList{"led"});
+    EXPECT_EQ(ports(), QStringList{"Write led"});
 }
 
 TEST_F(WavesViewer, ChannelMayStartWithAValue)

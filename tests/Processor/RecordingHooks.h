@@ -222,8 +222,10 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
+    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
+    int simBreakpointsRevision() override { return 0; }
 
 private:
     template <class Plugin>

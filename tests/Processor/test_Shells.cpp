@@ -7,6 +7,8 @@
 #include "LMico8v3x.h"
 #include "ModPrj.h"
 #include "ProcAsmMsg.h"
+#include "ProcShell.h"
+#include "ProcSim.h"
 #include "XPBlze3.h"
 #include "XPBlze6.h"
 
@@ -363,6 +365,22 @@ TEST(ShellRun, APercentSignInAnArgumentStaysWhatItIs)
               QStringList("errExceededMaxNumeric | Value \"3000 % 1000 + 300\"exceeds maximum of \"255\"!"));
 }
 
+TEST_F(ShellTest, ServicesThatAreGoneAreNotCalledAndKeepTheirHooks)
+{
+    open(namePicoBlaze3);
+    auto* shell = dynamic_cast<nsProc::ProcShell*>(registry.currentProcessor());
+    ASSERT_NE(shell, nullptr);
+    takeLog();
+    shell->dropServices();
+    // Only a service sets or takes back the hook to itself.
+    EXPECT_EQ(shell->modMsgHook, &msg);
+    EXPECT_EQ(shell->modGuiHook, &gui);
+    EXPECT_EQ(shell->modAsmFeHook, &asmFe);
+    shell->modExitIntermod();
+    EXPECT_EQ(takeLog(), QStringList());
+    EXPECT_EQ(shell->sim(), nullptr);
+}
+
 TEST(ShellCatalogue, KeysInOrder)
 {
     const QStringList keys = {"errExceededMaxNumeric",
@@ -381,7 +399,7 @@ TEST(ShellCatalogue, KeysInOrder)
                               "warnMissingInstrAtIntVectorAddr",
                               "errMissingInstrAtIntVectorAddr",
                               "warnMissingInstrAtIntVectorAddrAndPage",
-                              "errMissingInstrAtIntVectorAddrAndPage"};
+                              "errMissingInstrAtIntVectorAddrAndPage", "warnFlowAddrTruncated"};
     for (int i = 0; i < keys.size(); ++i) {
         ASSERT_NE(nsProc::asmMsg(i), nullptr);
         EXPECT_EQ(nsProc::asmMsg(i)->key, keys.at(i));

@@ -34,7 +34,7 @@ QSet<QString> namedPaths(const QString& text)
     return paths;
 }
 
-const QStringList simulatorActions{"simEn",       "simRestart",     "simSetPc",    "simInt",  "simRun",  "simNext",
+const QStringList simulatorActions{"simEn",       "simRestart",     "simSetPc",    "simInt",  "simRun",  "simStop", "simNext",
                                    "simNextLine", "simToEndOfCall", "simToCursor", "baseDec", "baseHex", "baseOct"};
 const QStringList deviceButtons{"devClose", "fifoExpand", "fifoCollapse"};
 const QStringList waveButtons{"waveAdd", "waveZoomIn", "waveZoomOut", "waveZoomFit", "waveSave"};

@@ -175,9 +175,9 @@ Outcome NaiveProcessor::step()
     writes.clear();
     readPorts.clear();
     if (interrupt == pending) {
+        interrupt = inService;
         if (calls.size() >= deepestCalls)
             return Outcome::stackOverflow;
-        interrupt = inService;
         calls.push_back({"ISR", pc, carry, zero});
         moveTo(find(m_build.vector));
         if (pc < 0)

@@ -164,6 +164,8 @@ TEST(SimCore, ProgramCounterIsShownWithItsPage)
     EXPECT_EQ(edit->text(), "02A");
     core.setBase(8);
     EXPECT_EQ(edit->text(), "0052");
+    EXPECT_FALSE(edit->isReadOnly());
+    core.setRunning(true);
     EXPECT_TRUE(edit->isReadOnly());
 }
 

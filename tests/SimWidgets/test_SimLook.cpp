@@ -269,7 +269,7 @@ TEST_F(SimLook, CoreFitsALowWindowAndShowsAllRegistersInAHighOne)
     auto* area = qobject_cast<QScrollArea*>(core->findChild<ProcSimCoreReg*>()->parentWidget()->parentWidget());
     ASSERT_NE(area, nullptr);
     EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
-    m_window.resize(320, 900);
+    m_window.resize(320, 1300);
     rest();
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(area->height(), area->widget()->sizeHint().height());
@@ -302,8 +302,9 @@ TEST_F(SimLook, ScratchpadHasEightCellsBesideEachOtherWhereTheyFit)
     auto* scrpd = new ProcSimScrpd(64);
     show(scrpd, 240, 300);
     const auto cells = scrpd->findChildren<ProcSimEdtNumeric*>();
-    const auto inFirstRow = [&cells] {
-        return int(std::count_if(cells.begin(), cells.end(), [&cells](QWidget* cell) { return cell->y() == cells.first()->y(); }));
+    const auto top = [scrpd](QWidget* cell) { return cell->mapTo(scrpd, QPoint()).y(); };
+    const auto inFirstRow = [&] {
+        return int(std::count_if(cells.begin(), cells.end(), [&](QWidget* cell) { return top(cell) == top(cells.first()); }));
     };
     const auto addresses = [scrpd] {
         QStringList result;

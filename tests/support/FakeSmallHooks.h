@@ -74,12 +74,12 @@ public:
 class FakeHlpHook : public ModHlpHookIf
 {
 public:
-    void registerPlugin(ModHlpPluginIf* plugin) override
+    void registerPlugin(ModHlpPluginIf* plugin)
     {
         if (plugin != nullptr)
             plugin->modHlpHook = this;
     }
-    void unregisterPlugin(ModHlpPluginIf* plugin) override
+    void unregisterPlugin(ModHlpPluginIf* plugin)
     {
         if (plugin != nullptr)
             plugin->modHlpHook = nullptr;
@@ -105,12 +105,12 @@ public:
 class FakeScriptHook : public ModScriptHookIf
 {
 public:
-    void registerPlugin(ModScriptPluginIf* plugin) override
+    void registerPlugin(ModScriptPluginIf* plugin)
     {
         if (plugin != nullptr)
             plugin->modScriptHook = this;
     }
-    void unregisterPlugin(ModScriptPluginIf* plugin) override
+    void unregisterPlugin(ModScriptPluginIf* plugin)
     {
         if (plugin != nullptr)
             plugin->modScriptHook = nullptr;

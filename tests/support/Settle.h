@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -25,6 +27,6 @@ inline void settleAnimations()
     last.setDuration(300);
     QSignalSpy ended(&last, &QVariantAnimation::finished);
     last.start();
-    QTest::qWaitFor([&ended] { return !ended.isEmpty(); }, 120000);
+    EXPECT_TRUE(QTest::qWaitFor([&ended] { return !ended.isEmpty(); }, 120000));
     settleLayout();
 }

@@ -75,11 +75,11 @@ void BatchMsg::closeMessageGroup(bool)
         m_groups.removeLast();
 }
 
-bool BatchMsg::isShown(eMsgType_t type) const
+bool BatchMsg::isShown(eMsgType_t type, const QString& key) const
 {
     // A warning that makes the run fail is never hidden.
-    const bool warningCounts = !m_style.quiet || m_style.werror;
-    return type == eMsgError || (type == eMsgWarning && warningCounts) || (type == eMsgInfo && m_style.verbose);
+    const bool warningIsShown = !m_style.quiet || isFatal(key);
+    return type == eMsgError || (type == eMsgWarning && warningIsShown) || (type == eMsgInfo && m_style.verbose);
 }
 
 void BatchMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile)
@@ -88,7 +88,8 @@ void BatchMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, nsModMsg:
         return;
     m_errors += int(type == eMsgError);
     m_warnings += int(type == eMsgWarning);
-    if (!isShown(type))
+    m_fatalWarnings += int(type == eMsgWarning && isFatal(hlpDoc.fragment()));
+    if (!isShown(type, hlpDoc.fragment()))
         return;
     const QString file = shownPath(srcFile.path());
     const int line = srcFile.hasFragment() ? srcFile.fragment().toInt() + 1 : -1;

@@ -12,7 +12,8 @@ namespace nsBatch {
 struct BatchMsgStyle
 {
     bool json = false;    ///< one object a line on standard output, instead of text on standard error
-    bool werror = false;  ///< warnings make the run fail
+    bool werror = false;  ///< warnings make the run fail, but for those of `harmless`
+    QStringList harmless; ///< keys of warnings that never make the run fail
     bool quiet = false;   ///< errors alone
     bool verbose = false; ///< info messages and groups too
 };
@@ -25,6 +26,8 @@ public:
 
     int errors() const { return m_errors; }
     int warnings() const { return m_warnings; }
+    /// Those of the warnings that make the run fail.
+    int fatalWarnings() const { return m_fatalWarnings; }
 
     // ModMsgHookIf
     void registerPlugin(ModMsgPluginIfInterMod* plugin) override;
@@ -52,7 +55,8 @@ public:
     void modExit() override {}
 
 private:
-    bool isShown(eMsgType_t type) const;
+    bool isFatal(const QString& key) const { return m_style.werror && !m_style.harmless.contains(key); }
+    bool isShown(eMsgType_t type, const QString& key) const;
     void printText(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
     void printJson(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
 
@@ -61,6 +65,7 @@ private:
     QStringList m_groups;
     int m_errors = 0;
     int m_warnings = 0;
+    int m_fatalWarnings = 0;
 };
 
 } // namespace nsBatch

@@ -47,7 +47,7 @@ void setup(QCommandLineParser* parser)
         {{"f", "format"}, tr("Show messages as text (default) or json."), tr("format"), "text"},
         {{"l", "listing"}, tr("Write a listing, one line an instruction, to FILE. - is standard output."), tr("FILE")},
         {{"s", "symbols"}, tr("Write labels and #EQUs as JSON to FILE. - is standard output."), tr("FILE")},
-        {{"W", "werror"}, tr("Count warnings as errors.")},
+        {{"W", "werror"}, tr("Count warnings as errors, but for kinds of output that no device writes.")},
         {"q", tr("Show errors alone, and no summary. With -W, warnings too.")},
         {"v", tr("Show info messages and groups too.")},
         {{"h", "help"}, tr("Show this help.")},
@@ -84,6 +84,8 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
     event = events.value(eventName);
     style.json = formats.value(formatName);
     style.werror = parser.isSet("werror");
+    // Each kind of output whose event is set warns where no device writes it, and nothing is wrong with that.
+    style.harmless = QStringList("warnIODevNoFileToWrite");
     style.quiet = parser.isSet("q");
     style.verbose = parser.isSet("v");
     return style.quiet && style.verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;

@@ -54,7 +54,9 @@ void showSummary(const BatchMsg& msg, const BatchMsgStyle& style, bool success, 
     parts << (success ? tr("assembled") : tr("failed"));
     parts << (msg.errors() == 1 ? tr("1 error") : tr("%1 errors").arg(msg.errors()));
     parts << (msg.warnings() == 1 ? tr("1 warning") : tr("%1 warnings").arg(msg.warnings()));
-    if (style.werror && msg.warnings() > 0)
+    if (msg.fatalWarnings() > 0 && msg.fatalWarnings() < msg.warnings())
+        parts.last() += tr(" (as errors: %1)").arg(msg.fatalWarnings());
+    else if (msg.fatalWarnings() > 0)
         parts.last() += msg.warnings() == 1 ? tr(" (counts as an error)") : tr(" (count as errors)");
     parts << (instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(instructions));
     parts << (files.size() == 1 ? tr("1 file written") : tr("%1 files written").arg(files.size()));
@@ -114,7 +116,7 @@ int run(const AsmOptions& options)
     }
     // A run that has reported an error counts as failed, even where the assembler could go on.
     const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 &&
-                         !(options.style.werror && modules.msg.warnings() > 0);
+                         modules.msg.fatalWarnings() == 0;
     showSummary(modules.msg, options.style, success, modules.asmFe.opcodeList()->count(),
                 modules.asmFe.writtenFiles() + reports.written());
     return success ? exitAssembled : exitNotAssembled;

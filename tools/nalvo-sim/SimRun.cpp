@@ -90,7 +90,8 @@ int SimRun::run()
 bool SimRun::assemble()
 {
     m_modules.asmFe.assemble(nsModAsmFe::ModAsmFe::eEventNone);
-    if (!m_modules.asmFe.runSucceeded() || !m_modules.asmFe.isAssembled() || m_modules.msg.errors() > 0)
+    // As in the window: an error that does not keep the program from being assembled does not keep it from running.
+    if (!m_modules.asmFe.isAssembled())
         return false;
     m_shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
     if (m_shell == nullptr)
@@ -166,7 +167,7 @@ bool SimRun::startSim()
     if (m_trace.isOpen())
         m_watch.trace().setFile(&m_trace);
     if (m_vcd.isOpen())
-        m_watch.keepWaves(m_sim->clock());
+        m_watch.keepWaves(m_sim->clock(), &m_modules.asmFe);
     return true;
 }
 

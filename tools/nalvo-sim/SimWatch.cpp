@@ -2,6 +2,7 @@
 
 #include "Opcode.h"
 #include "ProcSimClock.h"
+#include "ProcSimPortNames.h"
 
 namespace nsNalvoSim {
 
@@ -83,7 +84,8 @@ void SimWatch::keepValue(int addr, ProcSimWaveData::eAccessType_t access, int va
     if (m_clock == nullptr)
         return;
     if (m_waves.channel(addr, access) == nullptr)
-        m_waves.addChannel(addr, access, QString());
+        m_waves.addChannel(addr, access,
+                           nsProc::ProcSimPortNames::nameOf(m_asmFe, addr, access == ProcSimWaveData::eAccessWr));
     m_waves.addValue(addr, access, value, m_clock->clocks);
 }
 

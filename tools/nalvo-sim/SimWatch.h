@@ -10,6 +10,8 @@
 #include <map>
 #include <memory>
 
+class ModAsmFeHookIf;
+
 namespace nsProc {
 struct ProcSimClock;
 }
@@ -26,7 +28,12 @@ public:
     QString openPortReads(int port, const QString& file);
     /// Keeps waves from here on.
     /// @param clock must outlive the watching
-    void keepWaves(const nsProc::ProcSimClock* clock) { m_clock = clock; }
+    /// @param asmFe the program, which has names for the ports; must outlive the watching
+    void keepWaves(const nsProc::ProcSimClock* clock, ModAsmFeHookIf* asmFe)
+    {
+        m_clock = clock;
+        m_asmFe = asmFe;
+    }
     nsProc::ProcSimWaveData& waves() { return m_waves; }
     SimTrace& trace() { return m_trace; }
 
@@ -58,6 +65,7 @@ private:
     std::unique_ptr<SimReads> m_reads;
     std::map<int, std::unique_ptr<SimReads>> m_portReads;
     const nsProc::ProcSimClock* m_clock = nullptr;
+    ModAsmFeHookIf* m_asmFe = nullptr;
     nsProc::ProcSimWaveData m_waves{0};
     const nsModAsmFe::Opcode* m_pending = nullptr;
     SimReads::eResult_t m_readResult = SimReads::resultValue;

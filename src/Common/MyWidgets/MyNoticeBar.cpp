@@ -1,5 +1,6 @@
 #include "MyNoticeBar.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QKeyEvent>
@@ -91,11 +92,36 @@ QPushButton* MyNoticeBar::addButton(const QString& text, const QString& toolTip)
 
 QWidget* MyNoticeBar::firstControl() const
 {
+    return controls().first();
+}
+
+/// What can take the focus, from left to right.
+QList<QWidget*> MyNoticeBar::controls() const
+{
+    QList<QWidget*> result;
     for (int i = 0; i < m_buttons->count(); ++i) {
         if (m_buttons->itemAt(i)->widget()->isEnabled())
-            return m_buttons->itemAt(i)->widget();
+            result.append(m_buttons->itemAt(i)->widget());
     }
-    return m_close;
+    return result << m_close;
+}
+
+bool MyNoticeBar::focusNextPrevChild(bool next)
+{
+    if (QFrame::focusNextPrevChild(next))
+        return true;
+    // An editor keeps the Tab key for its text: the key goes round through the bars that stand in it.
+    QList<QWidget*> all;
+    for (const MyNoticeBar* bar : parentWidget()->findChildren<MyNoticeBar*>(QString(), Qt::FindDirectChildrenOnly)) {
+        if (!bar->isHidden())
+            all += bar->controls();
+    }
+    const int index = all.indexOf(QApplication::focusWidget());
+    if (index < 0)
+        return false;
+    all.at((index + (next ? 1 : all.size() - 1)) % all.size())
+        ->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void MyNoticeBar::keyPressEvent(QKeyEvent* event)
@@ -112,7 +138,18 @@ void MyNoticeBar::mousePressEvent(QMouseEvent* event)
 
 void MyNoticeBar::closeByUser()
 {
+    dismiss();
+    emit closed();
+}
+
+void MyNoticeBar::dismiss()
+{
+    // The keyboard goes back to what the bar stands in.
+    QWidget* home = parentWidget();
+    while (home != nullptr && home->focusPolicy() == Qt::NoFocus)
+        home = home->parentWidget();
+    if (home != nullptr && isAncestorOf(QApplication::focusWidget()))
+        home->setFocus();
     hide();
     deleteLater();
-    emit closed();
 }

@@ -37,6 +37,10 @@ public:
     /// The first button that can take the focus; the one that closes the bar if there is no other.
     QWidget* firstControl() const;
 
+    /// Ends the bar as if it had been closed, without the signal: hidden at once, deleted later. The focus goes back to
+    /// what the bar stands in.
+    void dismiss();
+
 signals:
     /// The user has closed the bar, by its button or by Esc. The bar is hidden already and deletes itself.
     void closed();
@@ -44,11 +48,14 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    bool focusNextPrevChild(bool next) override;
 
 private slots:
     void closeByUser();
 
 private:
+    QList<QWidget*> controls() const;
+
     eGrade_t m_grade = eGradeInfo;
     QLabel* m_icon;
     QLabel* m_label;

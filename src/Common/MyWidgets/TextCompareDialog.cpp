@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 
 namespace {
 
@@ -146,14 +147,15 @@ void TextCompareDialog::addNavigation()
     m_previous = m_buttons->addButton(tr("&Previous difference"), QDialogButtonBox::ActionRole);
     m_previous->setObjectName(QStringLiteral("textComparePrevious"));
     m_previous->setToolTip(tr("Goes to the difference above (Alt+Up)"));
-    m_previous->setShortcut(QKeySequence(QStringLiteral("Alt+Up")));
     m_next = m_buttons->addButton(tr("&Next difference"), QDialogButtonBox::ActionRole);
     m_next->setObjectName(QStringLiteral("textCompareNext"));
     m_next->setToolTip(tr("Goes to the difference below (Alt+Down)"));
-    m_next->setShortcut(QKeySequence(QStringLiteral("Alt+Down")));
     for (QAbstractButton* button : m_buttons->buttons())
         qobject_cast<QPushButton*>(button)->setAutoDefault(false);
     m_buttons->button(QDialogButtonBox::Close)->setToolTip(tr("Closes the comparison and changes nothing (Esc)"));
+    // Beside the mnemonics of the buttons, for the hand that stays at the arrows.
+    new QShortcut(QKeySequence(QStringLiteral("Alt+Up")), this, SLOT(goToPrevious()));
+    new QShortcut(QKeySequence(QStringLiteral("Alt+Down")), this, SLOT(goToNext()));
     connect(m_previous, &QPushButton::clicked, this, &TextCompareDialog::goToPrevious);
     connect(m_next, &QPushButton::clicked, this, &TextCompareDialog::goToNext);
     connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

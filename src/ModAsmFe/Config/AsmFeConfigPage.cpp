@@ -147,6 +147,8 @@ void AsmFeConfigPage::updateHint()
     const bool anyEnabled = m_hex->isEnabledOutput() || m_mem->isEnabledOutput() || m_vhdl->isEnabledOutput() ||
                             m_verilog->isEnabledOutput();
     m_hint->setVisible(!anyEnabled);
+    m_mapper->setOutputsEnabled(m_vhdl->isEnabledOutput(), m_verilog->isEnabledOutput(), m_hex->isEnabledOutput(),
+                                m_mem->isEnabledOutput());
 }
 
 void AsmFeConfigPage::setConfig(const AsmFeConfig* config, const QString& prjDir)

@@ -3,10 +3,27 @@
 #include "MyFieldTitle.h"
 
 #include <QCheckBox>
+#include <QGraphicsOpacityEffect>
 #include <QGridLayout>
 #include <QLabel>
 
 namespace nsModAsmFe {
+
+namespace {
+
+/// Grey, but in use.
+void setPale(QWidget* widget, bool pale)
+{
+    auto* effect = qobject_cast<QGraphicsOpacityEffect*>(widget->graphicsEffect());
+    if (effect == nullptr) {
+        effect = new QGraphicsOpacityEffect(widget);
+        effect->setOpacity(0.4);
+        widget->setGraphicsEffect(effect);
+    }
+    effect->setEnabled(pale);
+}
+
+} // namespace
 
 TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     : QWidget(parent)
@@ -22,19 +39,54 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     for (int event = 0; event < eventCount; ++event)
         m_layout->addWidget(new QLabel(events[event], this), 0, event + 1, Qt::AlignCenter);
     for (int kind = 0; kind < targetCount; ++kind) {
-        m_layout->addWidget(new MyFieldTitle(kinds[kind], this), kind + 1, 0);
+        m_titles[kind] = new MyFieldTitle(kinds[kind], this);
+        m_titles[kind]->setObjectName(QStringLiteral("targetEvents%1").arg(kind));
+        m_layout->addWidget(m_titles[kind], kind + 1, 0);
         for (int event = 0; event < eventCount; ++event) {
             auto* box = new QCheckBox(this);
             box->setObjectName(QStringLiteral("targetEvent%1%2").arg(kind).arg(event));
             box->setToolTip(kinds[kind] + ' ' + events[event]);
             box->setAccessibleName(box->toolTip());
             m_layout->addWidget(box, kind + 1, event + 1, Qt::AlignCenter);
+            connect(box, &QCheckBox::toggled, this, &TargetMapperConfigWidget::updateHint);
             m_boxes[kind][event] = box;
         }
     }
     for (int event = 0; event < eventCount; ++event)
         m_layout->setColumnMinimumWidth(event + 1, 96);
     m_layout->setColumnStretch(eventCount + 1, 1);
+    m_hint = new QLabel(tr("Grey: this output is off. Its events only warn that no file is defined, unless a device of the "
+                           "sources has a file of this kind."),
+                        this);
+    m_hint->setObjectName(QStringLiteral("targetEventsHint"));
+    m_hint->setWordWrap(true);
+    m_layout->addWidget(m_hint, targetCount + 1, 0, 1, eventCount + 2);
+    setOutputsEnabled(false, false, false, false);
+}
+
+void TargetMapperConfigWidget::setOutputsEnabled(bool vhdl, bool verilog, bool hex, bool mem)
+{
+    m_isOn[targetVhdl] = vhdl;
+    m_isOn[targetVerilog] = verilog;
+    m_isOn[targetHex] = hex;
+    m_isOn[targetMem] = mem;
+    for (int kind = 0; kind < targetCount; ++kind) {
+        setPale(m_titles[kind], !m_isOn[kind]);
+        for (QCheckBox* box : m_boxes[kind])
+            setPale(box, !m_isOn[kind]);
+    }
+    updateHint();
+}
+
+/// The hint speaks of events that are set.
+void TargetMapperConfigWidget::updateHint()
+{
+    bool anyWarns = false;
+    for (int kind = 0; kind < targetCount; ++kind) {
+        for (const QCheckBox* box : m_boxes[kind])
+            anyWarns = anyWarns || (!m_isOn[kind] && box->isChecked());
+    }
+    m_hint->setVisible(anyWarns);
 }
 
 void TargetMapperConfigWidget::setLabelWidth(int width)

@@ -6,10 +6,14 @@
 
 class QCheckBox;
 class QGridLayout;
+class QLabel;
 
 namespace nsModAsmFe {
 
 /// On which events which kind of output file is written: a grid of check boxes.
+///
+/// The events of an output that is off are grey, as they only make the run warn. They can be changed all the same: a device that the
+/// sources declare has a file of its own, and the events hold for that one, too.
 class TargetMapperConfigWidget : public QWidget
 {
     Q_OBJECT
@@ -19,6 +23,8 @@ public:
 
     void setConfig(const AsmFeConfig* config);
     void config(AsmFeConfig* config) const;
+    /// Which outputs are on.
+    void setOutputsEnabled(bool vhdl, bool verilog, bool hex, bool mem);
     /// Makes room for labels of this width, in pixels.
     void setLabelWidth(int width);
 
@@ -28,9 +34,13 @@ private:
 
     void setTarget(eTarget_t target, const TargetConfig& config);
     void target(eTarget_t target, TargetConfig* config) const;
+    void updateHint();
 
     QGridLayout* m_layout;
     QCheckBox* m_boxes[targetCount][eventCount];
+    QWidget* m_titles[targetCount];
+    bool m_isOn[targetCount] = {};
+    QLabel* m_hint = nullptr;
 };
 
 } // namespace nsModAsmFe

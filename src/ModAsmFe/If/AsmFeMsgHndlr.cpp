@@ -41,28 +41,29 @@ AsmFeMsgHndlr::AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent) : QObje
 
 void AsmFeMsgHndlr::signMsg(eMsgType_t type, const SrcReference* srcRef, QString arg1, QString arg2, QString arg3)
 {
+    showMsg(modMsgHook, type, srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl(), arg1, arg2, arg3);
+}
+
+void AsmFeMsgHndlr::showMsg(ModMsgHookIf* hook, eMsgType_t type, const nsModMsg::MsgUrl& link, const QString& arg1,
+                            const QString& arg2, const QString& arg3)
+{
+    if (hook == nullptr)
+        return;
     const sMsgText_t* text = msgText(type);
     if (text == nullptr) {
-        signInternalError(tr("Unsupported simulator message."));
+        showMsg(hook, errInternal, nsModMsg::MsgUrl(), tr("Unsupported simulator message."));
         return;
     }
-    if (m_held != nullptr) {
-        m_held->push_back({type, srcRef != nullptr, srcRef != nullptr ? *srcRef : SrcReference(), arg1, arg2, arg3});
-        return;
-    }
-    if (modMsgHook == nullptr)
-        return;
     const QString words = filled(tr(text->text), arg1, arg2, arg3);
-    const nsModMsg::MsgUrl link = srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl();
     switch (grade(text->key)) {
     case ModMsgHookIf::eMsgInfo:
-        modMsgHook->showInfoMessage(words, helpUrl(text->key), link);
+        hook->showInfoMessage(words, helpUrl(text->key), link);
         break;
     case ModMsgHookIf::eMsgWarning:
-        modMsgHook->showWarningMessage(words, helpUrl(text->key), link);
+        hook->showWarningMessage(words, helpUrl(text->key), link);
         break;
     case ModMsgHookIf::eMsgError:
-        modMsgHook->showErrorMessage(words, helpUrl(text->key), link);
+        hook->showErrorMessage(words, helpUrl(text->key), link);
         break;
     }
 }
@@ -85,14 +86,7 @@ void AsmFeMsgHndlr::signMsgGroup(eMsgGrp_t group, QString arg1)
 
 void AsmFeMsgHndlr::signInternalError(QString text)
 {
-    if (modMsgHook != nullptr)
-        modMsgHook->showErrorMessage(tr("Internal error: ") + text);
-}
-
-void AsmFeMsgHndlr::signError(QString text, const SrcReference* srcRef)
-{
-    if (modMsgHook != nullptr)
-        modMsgHook->showErrorMessage(text, QUrl(), srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl());
+    signMsg(errInternal, text);
 }
 
 nsModMsg::MsgUrl AsmFeMsgHndlr::srcUrl(const SrcReference& srcRef) const
@@ -106,24 +100,7 @@ nsModMsg::MsgUrl AsmFeMsgHndlr::srcUrl(const SrcReference& srcRef) const
     return url;
 }
 
-AsmFeMsgHndlr::HeldMsgs* AsmFeMsgHndlr::setHeldMsgs(HeldMsgs* held)
-{
-    HeldMsgs* before = m_held;
-    m_held = held;
-    return before;
-}
-
-void AsmFeMsgHndlr::signHeldMsgs(HeldMsgs held)
-{
-    if (m_held != nullptr && m_held->empty()) {
-        m_held->swap(held);
-        return;
-    }
-    for (const sHeldMsg_t& msg : held)
-        signMsg(eMsgType_t(msg.type), msg.hasSrcRef ? &msg.srcRef : nullptr, msg.arg1, msg.arg2, msg.arg3);
-}
-
-QUrl AsmFeMsgHndlr::helpUrl(const char* key) const
+QUrl AsmFeMsgHndlr::helpUrl(const char* key)
 {
     QUrl url("pageid://asmFeMessages");
     url.setFragment(QString::fromLatin1(key));

@@ -8,8 +8,6 @@
 #include <QObject>
 #include <QUrl>
 
-#include <vector>
-
 namespace nsModAsmFe {
 
 class AsmFeFileHndlr;
@@ -20,18 +18,6 @@ class AsmFeMsgHndlr : public QObject, public ModMsgPluginIf
     Q_OBJECT
 
 public:
-    /// A message that was held back.
-    struct sHeldMsg_t
-    {
-        int type;
-        bool hasSrcRef;
-        SrcReference srcRef;
-        QString arg1;
-        QString arg2;
-        QString arg3;
-    };
-    using HeldMsgs = std::vector<sHeldMsg_t>;
-
     /// @param fileHndlr turns file numbers into paths; not owned, must outlive the handler
     explicit AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent = nullptr);
 
@@ -45,24 +31,18 @@ public:
     void signMsgGroup(eMsgGrp_t group, QString arg1 = QString());
     /// An error that earlier checks should have made impossible.
     void signInternalError(QString text);
-    /// An error of the file layer and of limits, which stands in no catalogue.
-    void signError(QString text, const SrcReference* srcRef = nullptr);
+    /// Shows a message of the catalogue, for those who report through a hook of their own.
+    /// @param hook may be null: nothing is shown then
+    static void showMsg(ModMsgHookIf* hook, eMsgType_t type, const nsModMsg::MsgUrl& link, const QString& arg1 = QString(),
+                        const QString& arg2 = QString(), const QString& arg3 = QString());
 
     /// The link to a position, with the relative path and the line as its display name.
     nsModMsg::MsgUrl srcUrl(const SrcReference& srcRef) const;
 
-    /// While set, messages go into the list instead of the view. Groups and internal errors are not held back.
-    /// @param held null shows messages again; not owned
-    /// @return what was set before
-    HeldMsgs* setHeldMsgs(HeldMsgs* held);
-    /// Shows, or holds back in turn, what was held back.
-    void signHeldMsgs(HeldMsgs held);
-
 private:
-    QUrl helpUrl(const char* key) const;
+    static QUrl helpUrl(const char* key);
 
     AsmFeFileHndlr* m_fileHndlr;
-    HeldMsgs* m_held = nullptr;
 };
 
 } // namespace nsModAsmFe

@@ -60,31 +60,33 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     if (!checkType(dev))
         return false;
     if (hdl.entityName.isEmpty())
-        return fail(tr("%1 entity name for %2 is not defined.").arg(hdl.language, dev->devName));
+        return fail(errTargetNoEntityName, hdl.language, dev->devName);
     if (hdl.templateFile.isEmpty())
-        return fail(tr("%1 template file for %2 is not defined.").arg(hdl.language, dev->devName));
+        return fail(errTargetNoTemplateFile, hdl.language, dev->devName);
     if (hdl.outputFile.isEmpty())
-        return fail(tr("%1 output file for %2 is not defined.").arg(hdl.language, dev->devName));
+        return fail(errTargetNoOutputFile, hdl.language, dev->devName);
     if (!checkSize(dev))
         return false;
     // The template is read before the output is touched; and an output that is the template would destroy it.
     QByteArray text;
     if (!fillTemplate(hdl, *metaTags, &text))
-        return fail(tr("Can not open template file: %1").arg(hdl.templateFile));
+        return fail(errTargetOpenTemplate, hdl.templateFile);
     const QString canonical = QFileInfo(hdl.outputFile).canonicalFilePath();
     if (!canonical.isEmpty() && canonical == QFileInfo(hdl.templateFile).canonicalFilePath())
-        return fail(tr("Can not open destination file: %1").arg(hdl.outputFile));
-    return writeBytes(hdl.outputFile, text, tr("Can not open destination file: %1")) && checkComplete();
+        return fail(errTargetOpenDestination, hdl.outputFile);
+    return writeBytes(hdl.outputFile, text, errTargetOpenDestination) && checkComplete();
 }
 
 bool TargetFileWriteHdl::fillTemplate(const sTarget_t& target, const MetaTags& metaTags, QByteArray* text)
 {
     QFile templ(target.templateFile);
-    if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly))
         return false;
-    const QByteArray content = templ.readAll();
+    QByteArray content = templ.readAll();
     if (templ.error() != QFile::NoError)
         return false;
+    // CR LF is one line end. A carriage return anywhere else is text: the device would drop it in its text mode.
+    content.replace("\r\n", "\n");
     bool begun = false;
     for (int pos = 0; pos < content.size();) {
         const int end = content.indexOf('\n', pos) + 1;
@@ -166,7 +168,7 @@ unsigned int TargetFileWriteHdl::getOpcode(int addr)
 void TargetFileWriteHdl::signWarningStuffingMemory()
 {
     if (m_warnStuffing)
-        warn(tr("Template memory size bigger than expected: Stuffing with zeros"));
+        warn(warnTargetStuffing);
     m_warnStuffing = false;
 }
 
@@ -248,7 +250,7 @@ bool TargetFileWriteHdl::checkComplete()
 {
     for (int addr = 0; addr < m_dev->memSize; ++addr) {
         if (!m_dev->isWritten(addr))
-            return fail(tr("Opcode at address %1 was not written to file!").arg(addr));
+            return fail(errTargetNotComplete, QString::number(addr));
     }
     return true;
 }

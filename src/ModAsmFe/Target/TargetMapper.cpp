@@ -1,7 +1,7 @@
 #include "TargetMapper.h"
 
+#include "AsmFeMsgHndlr.h"
 #include "IODev.h"
-#include "ModMsgHookIf.h"
 
 #include <QFile>
 
@@ -28,45 +28,39 @@ bool openOutput(QFile* output)
 
 } // namespace
 
-TargetMapper::TargetMapper(ModMsgHookIf* msgHook, QObject* parent) : QObject(parent)
-{
-    modMsgHook = msgHook;
-}
+TargetMapper::TargetMapper(QObject* parent) : QObject(parent) {}
 
-bool TargetMapper::fail(const QString& text)
+bool TargetMapper::fail(eMsgType_t type, const QString& arg1, const QString& arg2)
 {
-    if (modMsgHook != nullptr)
-        modMsgHook->showErrorMessage(text);
+    AsmFeMsgHndlr::showMsg(modMsgHook, type, nsModMsg::MsgUrl(), arg1, arg2);
     return false;
 }
 
-void TargetMapper::warn(const QString& text)
+void TargetMapper::warn(eMsgType_t type)
 {
-    if (modMsgHook != nullptr)
-        modMsgHook->showWarningMessage(text);
+    AsmFeMsgHndlr::showMsg(modMsgHook, type, nsModMsg::MsgUrl());
 }
 
 bool TargetMapper::checkType(const IODev* dev)
 {
-    return dev->devType != IODev::unset || fail(tr("Memory type for %1 is not defined.").arg(dev->devName));
+    return dev->devType != IODev::unset || fail(errTargetNoType, dev->devName);
 }
 
 bool TargetMapper::checkSize(const IODev* dev)
 {
-    return dev->memSize > 0 || fail(tr("Memory size must be greater than zero: ") + QString::number(dev->memSize));
+    return dev->memSize > 0 || fail(errTargetNoSize, QString::number(dev->memSize));
 }
 
-bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, const QString& openText)
+bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, eMsgType_t openError)
 {
     QFile output(file);
     if (!openOutput(&output))
-        return fail(openText.arg(file));
+        return fail(openError, file);
     output.resize(0);
     // A full disk may show itself as late as at closing.
     const bool written = output.write(bytes) == bytes.size() && output.flush();
     output.close();
-    return (written && output.error() == QFile::NoError) ||
-           fail(tr("Can not write output file: %1 (%2)").arg(file, output.errorString()));
+    return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, output.errorString());
 }
 
 } // namespace nsModAsmFe

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AsmFeMsgCatalogue.h"
 #include "ModMsgPluginIf.h"
 
 #include <QObject>
@@ -11,26 +12,26 @@ namespace nsModAsmFe {
 
 class IODev;
 
-/// What all writers of output files have in common: their way to report, and the file itself.
+/// What all writers of output files have in common: their way to report, and the file itself. They report through the message
+/// service that they are registered with, and in silence without one.
 class TargetMapper : public QObject, public ModMsgPluginIf
 {
     Q_OBJECT
 
 public:
-    /// @param msgHook where to report; not owned, may be null
-    explicit TargetMapper(ModMsgHookIf* msgHook, QObject* parent = nullptr);
+    explicit TargetMapper(QObject* parent = nullptr);
 
 protected:
     /// Reports an error. @return false
-    bool fail(const QString& text);
-    void warn(const QString& text);
+    bool fail(eMsgType_t type, const QString& arg1 = QString(), const QString& arg2 = QString());
+    void warn(eMsgType_t type);
     /// @return the device has a kind; else an error is reported
     bool checkType(const IODev* dev);
     /// @return the device has cells; else an error is reported
     bool checkSize(const IODev* dev);
     /// Writes the bytes into the file, whatever it held.
-    /// @param openText error text for a file that cannot be opened, with a place for its name
-    bool writeBytes(const QString& file, const QByteArray& bytes, const QString& openText);
+    /// @param openError reports a file that cannot be opened, with its name
+    bool writeBytes(const QString& file, const QByteArray& bytes, eMsgType_t openError);
 };
 
 } // namespace nsModAsmFe

@@ -10,7 +10,7 @@ bool TargetWriteFileHex::writeFile(IODev* dev)
     if (!checkType(dev))
         return false;
     if (dev->hexTargetFile.isEmpty())
-        return fail(tr("Hex output file for %1 is not defined.").arg(dev->devName));
+        return fail(errTargetNoOutputFile, QStringLiteral("Hex"), dev->devName);
     if (!checkSize(dev))
         return false;
     QByteArray text;
@@ -18,11 +18,11 @@ bool TargetWriteFileHex::writeFile(IODev* dev)
     for (int addr = 0; addr < dev->memSize; ++addr) {
         unsigned int value = 0;
         if (!dev->value(addr, &value))
-            return fail(tr("Internal error: addrIterator exceeds memSize"));
+            return fail(errInternal, tr("addrIterator exceeds memSize"));
         appendHexWord(&text, value);
         text.append('\n');
     }
-    return writeBytes(dev->hexTargetFile, text, tr("Can not open output file: %1"));
+    return writeBytes(dev->hexTargetFile, text, errTargetOpenOutput);
 }
 
 } // namespace nsModAsmFe

@@ -10,14 +10,14 @@ bool TargetWriteFileMem::writeFile(IODev* dev)
     if (!checkType(dev))
         return false;
     if (dev->memTargetFile.isEmpty())
-        return fail(tr("Mem output file for %1 is not defined.").arg(dev->devName));
+        return fail(errTargetNoOutputFile, QStringLiteral("Mem"), dev->devName);
     if (!checkSize(dev))
         return false;
     QByteArray text;
     text.reserve(dev->memSize * 7 + 8);
     if (!(dev->memGapStuffingEn ? stuffedText(dev, &text) : blockText(dev, &text)))
-        return fail(tr("Internal error: addrIterator exceeds memSize"));
-    return writeBytes(dev->memTargetFile, text, tr("Can not open output file: %1"));
+        return fail(errInternal, tr("addrIterator exceeds memSize"));
+    return writeBytes(dev->memTargetFile, text, errTargetOpenOutput);
 }
 
 bool TargetWriteFileMem::stuffedText(const IODev* dev, QByteArray* text)

@@ -23,6 +23,8 @@ EditorActionsEdit::EditorActionsEdit(QObject* parent)
     add(eActionMoveLineUp, tr("Move line up"), tr("Move line up"), QString(), {QKeySequence("Ctrl+Shift+Up")});
     add(eActionMoveLineDown, tr("Move line down"), tr("Move line down"), QString(), {QKeySequence("Ctrl+Shift+Down")});
     addSeparator();
+    add(eActionResetZoom, tr("Reset zoom"), tr("Font size as in the settings"), QString(), {QKeySequence("Ctrl+0")});
+    addSeparator();
     connect(this, SIGNAL(triggered(QAction*)), this, SLOT(handleAction(QAction*)));
 }
 
@@ -36,6 +38,8 @@ QAction* EditorActionsEdit::add(eAction_t action, const QString& text, const QSt
     entry->setStatusTip(toolTip);
     entry->setData(int(action));
     entry->setShortcuts(keys);
+    // Elsewhere these keys are those of fields and lists.
+    entry->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     return entry;
 }
 

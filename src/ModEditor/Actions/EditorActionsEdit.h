@@ -7,6 +7,8 @@
 namespace nsModEditor {
 
 /// What can be done with the text of the current document, in menu and tool bar.
+///
+/// The keys belong to the widgets that carry the actions, and to their children: the menu alone makes none of them work.
 class EditorActionsEdit : public QActionGroup
 {
     Q_OBJECT
@@ -23,6 +25,7 @@ public:
         eActionDuplicateLine = 6,
         eActionMoveLineUp = 7,
         eActionMoveLineDown = 8,
+        eActionResetZoom = 9,
     };
 
     explicit EditorActionsEdit(QObject* parent);

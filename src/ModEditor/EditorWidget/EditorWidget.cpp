@@ -2,7 +2,7 @@
 
 #include "EditorWidget.h"
 
-#include "EditorDocumentLayout.h"
+#include "EditorConfig.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
@@ -14,9 +14,12 @@
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QMimeData>
+#include <QPlainTextDocumentLayout>
 #include <QStringListModel>
 #include <QTextBlock>
 #include <QTimer>
+#include <QUrl>
 #include <QWheelEvent>
 
 namespace nsModEditor {
@@ -31,6 +34,33 @@ QString leadingBlanks(const QString& text)
     return text.left(length);
 }
 
+/// A letter with Alt is a key for the window and no text. With Ctrl as well it is the right Alt key of some keyboards.
+bool isTextWithAlt(const QKeyEvent* event)
+{
+    const QString text = event->text();
+    return (event->modifiers() & (Qt::AltModifier | Qt::ControlModifier)) == Qt::AltModifier && !text.isEmpty() &&
+           text.at(0).isPrint();
+}
+
+/// The files of this machine that are dragged; empty where it is anything else.
+QStringList draggedFiles(const QMimeData* data)
+{
+    QStringList paths;
+    for (const QUrl& url : data->urls()) {
+        if (!url.isLocalFile())
+            return {};
+        paths.append(url.toLocalFile());
+    }
+    return paths;
+}
+
+/// Takes the drag of files. They are read and stay where they are, whatever was proposed.
+void acceptAsCopy(QDropEvent* event)
+{
+    event->setDropAction(Qt::CopyAction);
+    event->accept();
+}
+
 } // namespace
 
 EditorWidget::EditorWidget(QWidget* parent)
@@ -38,11 +68,11 @@ EditorWidget::EditorWidget(QWidget* parent)
     , m_textDocument(new QTextDocument(this))
     , m_rehighlightTimer(new QTimer(this))
 {
-    m_layout = new EditorDocumentLayout(m_textDocument);
-    m_textDocument->setDocumentLayout(m_layout);
+    m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
     setDocument(m_textDocument);
-    m_fontSize = QFontInfo(font()).pointSize();
+    m_baseFontSize = QFontInfo(font()).pointSize();
+    m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
     initCompleter();
 
@@ -116,6 +146,8 @@ void EditorWidget::setTextCompleterItemCount(int count)
 
 void EditorWidget::insertCompletion(const QString& completion)
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     cursor.movePosition(QTextCursor::Left);
     cursor.movePosition(QTextCursor::EndOfWord);
@@ -126,6 +158,9 @@ void EditorWidget::insertCompletion(const QString& completion)
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
+    // They are breakpoints of another file now.
+    if (!m_simBreakpoints.lines().isEmpty())
+        emit simBreakpointChanged();
 }
 
 void EditorWidget::setText(const QString& text)
@@ -133,7 +168,6 @@ void EditorWidget::setText(const QString& text)
     const int flaggedLine = m_highlightSelection.cursor.blockNumber();
     m_settingText = true;
     setUpdatesEnabled(false);
-    closeOpenEditBlocks();
     setPlainText(text);
     m_textDocument->clearUndoRedoStacks();
     m_textDocument->setModified(false);
@@ -157,13 +191,12 @@ QString EditorWidget::text() const
 
 bool EditorWidget::isModified() const
 {
-    return m_textDocument->isModified() ||
-           (m_openEditBlocks > 0 && m_textDocument->availableUndoSteps() != m_cleanUndoSteps);
+    return m_textDocument->isModified() || m_format != m_cleanFormat;
 }
 
 void EditorWidget::clearModified()
 {
-    m_cleanUndoSteps = m_textDocument->availableUndoSteps();
+    m_cleanFormat = m_format;
     m_textDocument->setModified(false);
     setModified();
 }
@@ -194,7 +227,6 @@ bool EditorWidget::isRedoAvailable() const
 void EditorWidget::undo()
 {
     QPlainTextEdit::undo();
-    settleOpenEdit();
     m_modifiedTold = isModified();
     emit modifiedChanged(this);
 }
@@ -202,16 +234,32 @@ void EditorWidget::undo()
 void EditorWidget::redo()
 {
     QPlainTextEdit::redo();
-    settleOpenEdit();
     m_modifiedTold = isModified();
     emit modifiedChanged(this);
 }
 
 void EditorWidget::insertText(const QString& text)
 {
+    if (isReadOnly())
+        return;
     textCursor().insertText(text);
-    settleOpenEdit();
     ensureCursorVisible();
+}
+
+sPrintJob EditorWidget::printJob(const QString& name, bool selectionOnly) const
+{
+    const QTextCursor cursor = textCursor();
+    const bool isPart = selectionOnly && cursor.hasSelection();
+    sPrintJob job;
+    job.document = m_textDocument;
+    job.name = name;
+    job.time = QDateTime::currentDateTime();
+    job.font = font();
+    job.font.setPointSize(m_baseFontSize);
+    job.tabIndent = qMax(m_tabIndent, 1);
+    job.start = isPart ? cursor.selectionStart() : 0;
+    job.end = isPart ? cursor.selectionEnd() : m_textDocument->characterCount() - 1;
+    return job;
 }
 
 void EditorWidget::rehighlight()
@@ -227,10 +275,25 @@ void EditorWidget::setActionChanged()
 
 void EditorWidget::setFont(const QFont& font)
 {
-    m_fontSize = font.pointSize() > 0 ? font.pointSize() : QFontInfo(font).pointSize();
+    m_baseFontSize = font.pointSize() > 0 ? font.pointSize() : QFontInfo(font).pointSize();
     QFont smooth = font;
     smooth.setStyleStrategy(QFont::PreferAntialias);
-    QPlainTextEdit::setFont(smooth);
+    applyFont(smooth);
+}
+
+void EditorWidget::resetZoom()
+{
+    m_zoom = 0;
+    applyFont(font());
+}
+
+/// Shows the font in the size that the document has.
+void EditorWidget::applyFont(const QFont& font)
+{
+    m_fontSize = qBound(EditorConfig::minFontSize, m_baseFontSize + m_zoom, EditorConfig::maxFontSize);
+    QFont scaled = font;
+    scaled.setPointSize(m_fontSize);
+    QPlainTextEdit::setFont(scaled);
     calculateTabWidth();
     updateLeftMarginWidth();
     emit actionChanged(this);
@@ -262,11 +325,31 @@ bool EditorWidget::event(QEvent* event)
     return QPlainTextEdit::event(event);
 }
 
-bool EditorWidget::viewportEvent(QEvent* event)
+void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 {
-    // Whatever has changed the text, its cursor is painted next.
-    settleOpenEdit();
-    return QPlainTextEdit::viewportEvent(event);
+    if (draggedFiles(event->mimeData()).isEmpty())
+        QPlainTextEdit::dragEnterEvent(event);
+    else
+        acceptAsCopy(event);
+}
+
+void EditorWidget::dragMoveEvent(QDragMoveEvent* event)
+{
+    if (draggedFiles(event->mimeData()).isEmpty())
+        QPlainTextEdit::dragMoveEvent(event);
+    else
+        acceptAsCopy(event);
+}
+
+void EditorWidget::dropEvent(QDropEvent* event)
+{
+    const QStringList paths = draggedFiles(event->mimeData());
+    if (paths.isEmpty()) {
+        QPlainTextEdit::dropEvent(event);
+        return;
+    }
+    acceptAsCopy(event);
+    emit filesDropped(paths);
 }
 
 void EditorWidget::mouseMoveEvent(QMouseEvent* event)
@@ -281,26 +364,23 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
         QPlainTextEdit::wheelEvent(event);
         return;
     }
-    m_fontSize += delta > 0 ? 1 : -1;
-    QFont scaled = font();
-    scaled.setPointSize(qMax(m_fontSize, 1));
-    QPlainTextEdit::setFont(scaled);
-    calculateTabWidth();
-    updateLeftMarginWidth();
-    emit actionChanged(this);
+    // From the size that is shown, so that turns against a bound do not add up.
+    m_zoom = m_fontSize + (delta > 0 ? 1 : -1) - m_baseFontSize;
+    applyFont(font());
     event->accept();
 }
 
 void EditorWidget::keyPressEvent(QKeyEvent* event)
 {
-    settleOpenEdit();
-    handleKey(event);
-    settleOpenEdit();
-}
-
-void EditorWidget::handleKey(QKeyEvent* event)
-{
     const Qt::KeyboardModifiers modifiers = event->modifiers();
+    if (isTextWithAlt(event)) {
+        event->ignore();
+        return;
+    }
+    if (isReadOnly()) {
+        QPlainTextEdit::keyPressEvent(event);
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
         insertAutoReturnIndent(event);
@@ -360,62 +440,19 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
 void EditorWidget::resizeEvent(QResizeEvent* event)
 {
     QPlainTextEdit::resizeEvent(event);
+    layoutNotices();
     const QRect rect = contentsRect();
-    m_leftMargin->setGeometry(rect.left(), rect.top(), leftMarginWidth(), rect.height());
+    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(), rect.height() - m_noticeHeight);
 }
 
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event)
 {
     if (m_supportMenu == nullptr)
         return;
-    const QPointer<EditorWidget> self(this);
     const QPointer<QMenu> menu(createStandardContextMenu());
     m_supportMenu->showMenu(menu, event->globalPos());
     // The document may have been closed meanwhile, and the menu with it.
     delete menu;
-    if (self != nullptr)
-        settleOpenEdit();
-}
-
-void EditorWidget::leaveEditBlockOpen()
-{
-    ++m_openEditBlocks;
-    if (m_openEditBlocks > 1)
-        return;
-    m_cleanUndoSteps = m_textDocument->availableUndoSteps();
-    m_layout->setUnsettled(true);
-}
-
-void EditorWidget::closeOpenEditBlocks()
-{
-    for (QTextCursor cursor(m_textDocument); m_openEditBlocks > 0; --m_openEditBlocks)
-        cursor.endEditBlock();
-    m_layout->setUnsettled(false);
-}
-
-void EditorWidget::settleOpenEdit()
-{
-    if (m_openEditBlocks == 0)
-        return;
-    const QTextCursor cursor = textCursor();
-    const QString state = QString("%1 %2 %3 %4")
-                              .arg(m_textDocument->availableUndoSteps())
-                              .arg(m_textDocument->characterCount())
-                              .arg(cursor.position())
-                              .arg(cursor.anchor());
-    if (state == m_openEditState)
-        return;
-    m_openEditState = state;
-    if (isModified())
-        m_textDocument->setModified(true);
-    // Lays out all that has changed since the last time.
-    m_textDocument->markContentsDirty(cursor.position(), 0);
-    rehighlight();
-    highlightCurrentLine();
-    m_leftMargin->update();
-    viewport()->update();
-    setModified();
-    setActionChanged();
-}
+    }
 
 } // namespace nsModEditor

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "DocumentFormat.h"
 #include "EditorMemPageAddrMap.h"
 #include "LineMarks.h"
+#include "PrintedPages.h"
 
 #include <QColor>
 #include <QPlainTextEdit>
@@ -17,10 +19,11 @@ class QPainter;
 class QStringListModel;
 class QTextBlock;
 class QTimer;
+class MyNoticeBar;
 
 namespace nsModEditor {
 
-class EditorDocumentLayout;
+class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
@@ -68,14 +71,34 @@ public:
     bool isRedoAvailable() const;
     /// Inserts at the cursor, in place of the selection if there is one.
     void insertText(const QString& text);
+    /// What is to be printed, in the font of the settings.
+    /// @param name what the pages call the document
+    /// @param selectionOnly the selected text and no other, if there is some
+    sPrintJob printJob(const QString& name, bool selectionOnly) const;
     /// Brings the formats of all lines up to date with the rules.
     void rehighlight();
 
+    // ---- File (EditorWidgetFile.cpp)
+    /// How the text will stand in its file. Another format than that on the disk is a modification.
+    const DocumentFormat& format() const { return m_format; }
+    void setFormat(const DocumentFormat& format);
+    /// The format that the file has now.
+    void setFormatOnDisk(const DocumentFormat& format);
+    /// For a document that can not be shown as it is: the text can be read and copied, and no command changes it.
+    void setLocked(bool locked);
+    /// Takes over a text that was changed elsewhere, as one step to undo of the part that differs: the cursor stays in its
+    /// text, the view on its lines, marks on their numbers.
+    void changeText(const QString& text);
+    /// Shows a bar at the upper edge, below those that stand there. The document owns it; F6 leads there and back.
+    void addNotice(MyNoticeBar* bar);
+
     // ---- Look and behaviour (EditorWidget.cpp)
-    /// The point size becomes the font size of the document.
+    /// The point size and the zoom of the document make its font size.
     void setFont(const QFont& font);
-    /// Points; the wheel changes it without a bound.
+    /// Points, from EditorConfig::minFontSize to EditorConfig::maxFontSize; the wheel with Ctrl changes it.
     int fontSize() const { return m_fontSize; }
+    /// Back to the size of the font that was set.
+    void resetZoom();
     /// @param indent width of a tab in characters
     void setTabIndent(int indent);
     void setDynamicLineWrapEn(bool enabled);
@@ -99,15 +122,15 @@ public:
     /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
     void commentIn();
     void duplicateLine();
-    /// Exchanges the selected lines with the one above. On the first line the step to undo that was begun stays open:
-    /// what follows is undone together, until the text is set anew.
+    /// Exchanges the selected lines with the one above; nothing on the first line.
     void moveLineUp();
-    /// Exchanges the selected lines with the one below. On the last line as moveLineUp() on the first.
+    /// Exchanges the selected lines with the one below; nothing on the last line.
     void moveLineDown();
 
     // ---- Places (EditorWidgetPlaces.cpp)
     void setCursorToLine(int line);
-    /// Selects the text where the document has it exactly once; goes to the line otherwise.
+    /// Selects the text where the document has it exactly once; goes to the line otherwise. A name with a colon is a
+    /// label: it is found at the start of a line, of several the one nearest to the line.
     void setCursorToLine(const QString& text, int line);
     int cursorLine() const;
     /// Position in characters from the start of the document.
@@ -115,9 +138,13 @@ public:
     void setCursorPos(int pos);
     /// Flags the line and goes to it. A document has no more than one flagged line.
     void setLineHighlighted(int line);
+    /// Flags a line without a move to it: cursor and view stay.
+    void markLine(int line);
     void clearLineHighlighted();
     /// @return whether the text was found; it is selected then
     bool find(const QString& text, bool caseSensitive, bool wholeWords, bool backward, eFindOrigin_t origin);
+    /// The selection is what a search for the text finds there.
+    bool isHit(const QString& text, bool caseSensitive, bool wholeWords) const;
     /// Replaces the selection; does nothing without one.
     void replace(const QString& text);
     /// One step to undo. @return always true
@@ -179,10 +206,14 @@ signals:
     void clearAllBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
+    /// Files were dropped on the document.
+    void filesDropped(const QStringList& paths);
 
 protected:
     bool event(QEvent* event) override;
-    bool viewportEvent(QEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dragMoveEvent(QDragMoveEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -200,6 +231,8 @@ private slots:
     void showLeftMarginContextMenu(const QPoint& pos);
     /// The menu of the margin for the line of the cursor, for those without a mouse.
     void showLeftMarginContextMenuAtCursor();
+    void layoutNotices();
+    void switchToNotices();
 
 private:
     /// What a command does to one line. @param cursor anywhere in the line
@@ -211,8 +244,8 @@ private:
     void initLeftMargin();
     void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
-    void handleKey(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
+    void applyFont(const QFont& font);
     void setSelectionMarks(const QString& text);
     void rehighlightVisible();
     void setHighlightLinesToEditor();
@@ -222,9 +255,7 @@ private:
     void exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up);
     QTextBlock firstSelectedBlock() const;
     QTextBlock lastSelectedBlock() const;
-    void leaveEditBlockOpen();
-    void closeOpenEditBlocks();
-    void settleOpenEdit();
+    bool goToLabel(const QString& label, int line);
 
     void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
     void paintMemPageAddr(QPainter* painter, int top, int addr);
@@ -235,16 +266,21 @@ private:
     const int m_marginSpace = 2; ///< air in all formulas of the margin, in pixels
 
     QTextDocument* m_textDocument;
-    EditorDocumentLayout* m_layout;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
     EditorWidgetLeftMargin* m_leftMargin = nullptr;
     QCompleter* m_completer = nullptr;
     QPointer<EditorSupportMenu> m_supportMenu;
     QPointer<EditorTipManager> m_tipManager;
     QString m_filePath;
+    DocumentFormat m_format;
+    DocumentFormat m_cleanFormat; ///< of the file
+    EditorNotices* m_notices = nullptr;
+    int m_noticeHeight = 0; ///< pixels
 
     int m_tabIndent = 4;
-    int m_fontSize = 0;
+    int m_baseFontSize = 0; ///< points, of the font that was set
+    int m_zoom = 0;         ///< points that the user has added
+    int m_fontSize = 0;     ///< points, what comes of both
     bool m_autoReturnIndentEn = false;
     bool m_textCompletionEn = false;
     int m_textCompleterPrefixLength = 3;
@@ -275,11 +311,6 @@ private:
     QColor m_simBreakpointSymbolColor = Qt::red;
     QColor m_simStartPointerSymbolColor = Qt::green;
     QColor m_bookmarkSymbolColor = Qt::darkYellow;
-
-    /// While a step to undo stays open, the text edit tells nobody of changes: they are looked for instead.
-    int m_openEditBlocks = 0;
-    int m_cleanUndoSteps = 0;
-    QString m_openEditState;
 };
 
 } // namespace nsModEditor

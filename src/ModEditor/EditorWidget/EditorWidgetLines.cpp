@@ -78,6 +78,8 @@ void EditorWidget::goToNextLine()
 
 void EditorWidget::indent()
 {
+    if (isReadOnly())
+        return;
     const QTextCursor cursor = textCursor();
     const bool severalLines =
         m_textDocument->findBlock(cursor.selectionStart()) != m_textDocument->findBlock(cursor.selectionEnd());
@@ -85,39 +87,43 @@ void EditorWidget::indent()
         forSelectedLines(insertTab);
     else
         textCursor().insertText("\t");
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::deindent()
 {
+    if (isReadOnly())
+        return;
     forSelectedLines(removeBlank);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::commentOut()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(insertSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::commentIn()
 {
+    if (isReadOnly())
+        return;
     const bool walksOn = !hasSelection();
     forSelectedLines(removeSemicolon);
     if (walksOn)
         goToNextLine();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::duplicateLine()
 {
+    if (isReadOnly())
+        return;
     QTextCursor cursor = textCursor();
     const QString text = cursor.block().text();
     cursor.beginEditBlock();
@@ -126,7 +132,6 @@ void EditorWidget::duplicateLine()
     cursor.insertText(text);
     cursor.endEditBlock();
     setTextCursor(cursor);
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -145,31 +150,23 @@ QTextBlock EditorWidget::lastSelectedBlock() const
 
 void EditorWidget::moveLineUp()
 {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
-    const QTextBlock previous = firstSelectedBlock().previous();
-    if (!previous.isValid()) {
-        leaveEditBlockOpen();
+    if (isReadOnly())
         return;
-    }
+    const QTextBlock previous = firstSelectedBlock().previous();
+    if (!previous.isValid())
+        return;
     exchangeLines(previous, lastSelectedBlock(), true);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
 void EditorWidget::moveLineDown()
 {
-    QTextCursor cursor = textCursor();
-    cursor.beginEditBlock();
-    const QTextBlock next = lastSelectedBlock().next();
-    if (!next.isValid()) {
-        leaveEditBlockOpen();
+    if (isReadOnly())
         return;
-    }
+    const QTextBlock next = lastSelectedBlock().next();
+    if (!next.isValid())
+        return;
     exchangeLines(firstSelectedBlock(), next, false);
-    cursor.endEditBlock();
-    settleOpenEdit();
     ensureCursorVisible();
 }
 
@@ -187,7 +184,9 @@ void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last
     const int split = up ? text.indexOf(separator) : text.lastIndexOf(separator);
     const QString head = text.left(split);
     const QString tail = text.mid(split + 1);
+    cursor.beginEditBlock();
     cursor.insertText(tail + separator + head);
+    cursor.endEditBlock();
 
     const int shift = up ? -(head.length() + 1) : tail.length() + 1;
     const int end = m_textDocument->characterCount() - 1;

@@ -77,10 +77,10 @@ int EditorWidget::leftMarginWidth() const
 void EditorWidget::updateLeftMarginWidth()
 {
     const int width = leftMarginWidth();
-    if (viewportMargins().left() != width)
-        setViewportMargins(width, 0, 0, 0);
+    if (viewportMargins().left() != width || viewportMargins().top() != m_noticeHeight)
+        setViewportMargins(width, m_noticeHeight, 0, 0);
     const QRect rect = contentsRect();
-    m_leftMargin->setGeometry(rect.left(), rect.top(), width, rect.height());
+    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, width, rect.height() - m_noticeHeight);
     m_leftMargin->update();
 }
 

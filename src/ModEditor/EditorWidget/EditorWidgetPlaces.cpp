@@ -18,6 +18,21 @@ namespace {
 const int manyLines = 2000;
 const int rehighlightDelay = 100; ///< milliseconds
 
+/// A name and a colon, as the navigator has it.
+bool isLabel(const QString& text)
+{
+    return text.size() > 1 && text.endsWith(':') && !text.contains(' ') && !text.contains('\t');
+}
+
+QTextDocument::FindFlags findFlags(bool caseSensitive, bool wholeWords, bool backward = false)
+{
+    QTextDocument::FindFlags flags;
+    flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
+    flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
+    flags.setFlag(QTextDocument::FindBackward, backward);
+    return flags;
+}
+
 } // namespace
 
 void EditorWidget::initHighlighting()
@@ -37,8 +52,8 @@ void EditorWidget::initHighlighting()
 
 void EditorWidget::setCursorToLine(int line)
 {
-    settleOpenEdit();
     QTextCursor cursor = textCursor();
+    line = qBound(0, line, blockCount());
     const int current = cursor.blockNumber();
     // Upwards by what is a line on the screen, so that wrapped lines count for more than one.
     if (line >= current)
@@ -51,6 +66,8 @@ void EditorWidget::setCursorToLine(int line)
 
 void EditorWidget::setCursorToLine(const QString& text, int line)
 {
+    if (isLabel(text) && goToLabel(text, line))
+        return;
     const QTextCursor hit = m_textDocument->find(text, 0);
     const bool isUnique = !hit.isNull() && m_textDocument->find(text, hit).isNull();
     if (isUnique) {
@@ -61,6 +78,25 @@ void EditorWidget::setCursorToLine(const QString& text, int line)
     // From the start, so that only whole lines count.
     moveCursor(QTextCursor::Start);
     setCursorToLine(line);
+}
+
+/// @return false if no line begins with the label
+bool EditorWidget::goToLabel(const QString& label, int line)
+{
+    QTextBlock nearest;
+    for (QTextBlock block = m_textDocument->begin(); block.isValid(); block = block.next()) {
+        if (!block.text().startsWith(label))
+            continue;
+        if (!nearest.isValid() || qAbs(block.blockNumber() - line) < qAbs(nearest.blockNumber() - line))
+            nearest = block;
+    }
+    if (!nearest.isValid())
+        return false;
+    QTextCursor cursor(nearest);
+    cursor.setPosition(nearest.position() + label.length(), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    centerCursor();
+    return true;
 }
 
 int EditorWidget::cursorLine() const
@@ -75,7 +111,6 @@ int EditorWidget::cursorPos() const
 
 void EditorWidget::setCursorPos(int pos)
 {
-    settleOpenEdit();
     QTextCursor cursor = textCursor();
     cursor.setPosition(qBound(0, pos, m_textDocument->characterCount() - 1));
     setTextCursor(cursor);
@@ -84,10 +119,20 @@ void EditorWidget::setCursorPos(int pos)
 
 void EditorWidget::setLineHighlighted(int line)
 {
-    setCursorToLine(line);
-    m_highlightSelection.cursor = textCursor();
-    m_highlightSelection.cursor.clearSelection();
+    // By the number of the line: rows of wrapped lines above it do not count.
+    const QTextBlock block = m_textDocument->findBlockByNumber(qBound(0, line, blockCount() - 1));
+    setCursorPos(block.position());
+    m_highlightSelection.cursor = QTextCursor(block);
     m_lineHighlightEn = true;
+    setHighlightLinesToEditor();
+}
+
+void EditorWidget::markLine(int line)
+{
+    const QTextBlock block = m_textDocument->findBlockByNumber(line);
+    m_lineHighlightEn = block.isValid();
+    if (block.isValid())
+        m_highlightSelection.cursor = QTextCursor(block);
     setHighlightLinesToEditor();
 }
 
@@ -187,24 +232,29 @@ bool EditorWidget::find(const QString& text, bool caseSensitive, bool wholeWords
         moveCursor(QTextCursor::Start);
     else if (origin == eFindOriginEnd)
         moveCursor(QTextCursor::End);
-    QTextDocument::FindFlags flags;
-    flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
-    flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
-    flags.setFlag(QTextDocument::FindBackward, backward);
-    return QPlainTextEdit::find(text, flags);
+    return QPlainTextEdit::find(text, findFlags(caseSensitive, wholeWords, backward));
+}
+
+bool EditorWidget::isHit(const QString& text, bool caseSensitive, bool wholeWords) const
+{
+    const QTextCursor selection = textCursor();
+    const QTextCursor hit =
+        m_textDocument->find(text, selection.selectionStart(), findFlags(caseSensitive, wholeWords));
+    return !hit.isNull() && selection.hasSelection() && hit.selectionStart() == selection.selectionStart() &&
+           hit.selectionEnd() == selection.selectionEnd();
 }
 
 void EditorWidget::replace(const QString& text)
 {
-    if (hasSelection())
+    if (hasSelection() && !isReadOnly())
         insertText(text);
 }
 
 bool EditorWidget::replaceAll(const QString& text, const QString& replacement, bool caseSensitive, bool wholeWords)
 {
-    QTextDocument::FindFlags flags;
-    flags.setFlag(QTextDocument::FindCaseSensitively, caseSensitive);
-    flags.setFlag(QTextDocument::FindWholeWords, wholeWords);
+    if (isReadOnly())
+        return true;
+    const QTextDocument::FindFlags flags = findFlags(caseSensitive, wholeWords);
     QTextCursor step(m_textDocument);
     QTextCursor last;
     step.beginEditBlock();
@@ -217,7 +267,6 @@ bool EditorWidget::replaceAll(const QString& text, const QString& replacement, b
     step.endEditBlock();
     if (!last.isNull())
         setTextCursor(last);
-    settleOpenEdit();
     return true;
 }
 

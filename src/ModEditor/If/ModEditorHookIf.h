@@ -66,7 +66,8 @@ public:
     virtual void closeOtherFiles() = 0;
     virtual void closeFile() = 0;
     virtual void printFile() = 0;
-    /// Moves the cursor to the line that holds the text, else to the line number.
+    /// Moves the cursor to the text where the file has it exactly once, else to the line number. A name with a colon is a
+    /// label: of the lines that begin with it the nearest one is meant.
     virtual void setCursorToLine(QString path, QString lineRef, int line) = 0;
     virtual void setCursorToLine(QString path, int line) = 0;
     /// @param url scheme "file", the line as fragment
@@ -75,6 +76,7 @@ public:
     /// @return false without a current document
     virtual bool cursorLine(QString* path, int* line) = 0;
     virtual void clearLineHighlited() = 0;
+    /// Opens the file, goes to the line and flags it. One line is flagged at a time, over all documents.
     virtual void setLineHighlighted(QUrl url) = 0;
     virtual void setLineHighlighted(QString path, int line) = 0;
     /// Empties the list of highlighting rules.
@@ -94,4 +96,9 @@ public:
     virtual void setTextCompletionList(QStringList& words) = 0;
     /// The insertion menu; owned by the server.
     virtual nsModEditor::EditorSupportMenu* supportMenu() = 0;
+    /// The same flag as by setLineHighlighted(), without a move to it: page, cursor, view and focus stay. A file that is not open
+    /// gets none.
+    virtual void markLine(QString path, int line) = 0;
+    /// Differs from what it was when simBreakpoints() may do so. Cheap enough to be asked before each simulated instruction.
+    virtual int simBreakpointsRevision() = 0;
 };

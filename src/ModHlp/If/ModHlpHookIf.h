@@ -3,7 +3,6 @@
 #include <QString>
 #include <QUrl>
 
-class ModHlpPluginIf;
 class QWidget;
 
 /// The help browser. Served by nsModHlp::ModHlp.
@@ -11,9 +10,6 @@ class ModHlpHookIf
 {
 public:
     virtual ~ModHlpHookIf() = default;
-
-    virtual void registerPlugin(ModHlpPluginIf* plugin) = 0;
-    virtual void unregisterPlugin(ModHlpPluginIf* plugin) = 0;
 
     /// Shows the help page beside a dialog.
     /// @param ref a reference such as "pageId://configPageAsmFe"; upper and lower case are the same

@@ -38,7 +38,6 @@ PrjMngrListElementWidget::PrjMngrListElementWidget(QWidget* parent)
     : QFrame(parent)
     , m_title(makeLine("prjViewTitle", this))
     , m_version(makeLine("prjViewVersion", this))
-    , m_commentTitle(new MyFieldTitle(tr("Comment:"), this))
     , m_comment(makeLine("prjViewComment", this))
     , m_path(makeLine("prjViewPath", this))
     , m_remove(new MyButton(tr("Remove from collection"), this))
@@ -66,7 +65,7 @@ PrjMngrListElementWidget::PrjMngrListElementWidget(QWidget* parent)
     layout->addWidget(m_title, 0, 0, 1, 2);
     layout->addWidget(new MyFieldTitle(tr("Version:"), this), 1, 0);
     layout->addWidget(m_version, 1, 1);
-    layout->addWidget(m_commentTitle, 2, 0);
+    layout->addWidget(new MyFieldTitle(tr("Comment:"), this), 2, 0);
     layout->addWidget(m_comment, 2, 1);
     layout->addWidget(new MyFieldTitle(tr("Project file:"), this), 3, 0);
     layout->addWidget(m_path, 3, 1);
@@ -85,8 +84,6 @@ void PrjMngrListElementWidget::setPrjInfo(const QString& file, const QString& ti
     m_comment->setText(comment.simplified());
     m_title->setToolTip(toolTipOf(m_title->text()));
     m_comment->setToolTip(toolTipOf(m_comment->text()));
-    m_comment->setVisible(!comment.trimmed().isEmpty());
-    m_commentTitle->setVisible(!comment.trimmed().isEmpty());
     m_path->setText(file.size() <= maxPathLength ? file : QStringLiteral("...") + file.right(maxPathLength));
     m_path->setToolTip(toolTipOf(QDir::toNativeSeparators(file)));
     const QString name = m_title->text();

@@ -34,7 +34,6 @@ private:
     QString m_prjFile;
     PrjMngrLine* m_title;
     PrjMngrLine* m_version;
-    QLabel* m_commentTitle;
     PrjMngrLine* m_comment;
     PrjMngrLine* m_path;
     MyButton* m_remove;

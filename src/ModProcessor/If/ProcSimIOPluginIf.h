@@ -49,6 +49,8 @@ public:
     virtual void setHighlightEn(bool enabled) = 0;
     virtual void clearHighlighted() = 0;
     virtual void clear() = 0;
+    /// @return a write of the value at the address would leave the contents as they are
+    virtual bool holds(int /*addr*/, int /*value*/) const { return false; }
 
     /// Set by the list while the device stands in it. Not owned.
     ProcSimIOHookIf* procSimIOHook = nullptr;

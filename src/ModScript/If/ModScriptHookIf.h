@@ -2,7 +2,6 @@
 
 #include <QString>
 
-class ModScriptPluginIf;
 class QObject;
 
 /// The script engine. Served by nsModScript::ModScript.
@@ -10,9 +9,6 @@ class ModScriptHookIf
 {
 public:
     virtual ~ModScriptHookIf() = default;
-
-    virtual void registerPlugin(ModScriptPluginIf* plugin) = 0;
-    virtual void unregisterPlugin(ModScriptPluginIf* plugin) = 0;
 
     /// Makes the object's signals, slots and properties visible to scripts under the name. The caller keeps the ownership.
     virtual void registerObject(QObject* object, QString name) = 0;

@@ -21,7 +21,7 @@ struct NaviTag
     int type = typeUnset;
     QString filePath;      ///< absolute
     int line = 0;          ///< counted from 0
-    QString lineRef;       ///< text that finds the line again after edits
+    QString lineRef;       ///< text that finds the line again after edits; empty for a label, whose title does
     QString title;         ///< what the navigator shows
     bool disabled = false; ///< the line lies in a conditional branch that is skipped
 };

@@ -1,32 +1,32 @@
 #include "EquListView.h"
 
-#include "SymbolHash.h"
-
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
-#include <QTreeWidget>
+#include <QTreeView>
 #include <QVBoxLayout>
 
 namespace nsModAsmFe {
 
-EquListView::EquListView(QWidget* parent) : QWidget(parent), m_tree(new QTreeWidget(this))
+EquListView::EquListView(QWidget* parent)
+    : QWidget(parent)
+    , m_model(new EquListModel(this))
+    , m_tree(new QTreeView(this))
 {
     m_tree->setObjectName("equListView");
-    m_tree->setColumnCount(2);
-    m_tree->setHeaderLabels({tr("Name"), tr("Value")});
+    m_tree->setModel(m_model);
     m_tree->setRootIsDecorated(false);
     m_tree->setUniformRowHeights(true);
     m_tree->setAlternatingRowColors(true);
     m_tree->setToolTip(tr("Names and values of all EQU directives"));
-    m_tree->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
     m_tree->header()->setStretchLastSection(false);
-    m_tree->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_tree->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_tree->header()->setSectionResizeMode(EquListModel::columnName, QHeaderView::Stretch);
+    m_tree->header()->setSectionResizeMode(EquListModel::columnValue, QHeaderView::ResizeToContents);
 
-    m_numberFont = QFont("DejaVu Sans Mono");
-    m_numberFont.setStyleHint(QFont::Monospace);
-    m_numberFont.setPointSizeF(font().pointSizeF());
+    QFont numberFont("DejaVu Sans Mono");
+    numberFont.setStyleHint(QFont::Monospace);
+    numberFont.setPointSizeF(font().pointSizeF());
+    m_model->setNumberFont(numberFont);
 
     auto* note = new QLabel(
         tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
@@ -48,23 +48,18 @@ QSize EquListView::sizeHint() const
 
 void EquListView::addItem(QString name, QString nameSpace, int value)
 {
-    auto* item = new QTreeWidgetItem;
-    item->setText(0, qualifiedName(nameSpace, name));
-    item->setText(1, QStringLiteral("0x%1").arg(uint(value), 0, 16));
-    item->setToolTip(0, item->text(0));
-    item->setFont(1, m_numberFont);
-    item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    const EquListModel::sRow_t row = {nameSpace, name, value};
     if (m_filling) {
-        m_gathered.append(item);
+        m_gathered.append(row);
         return;
     }
-    m_tree->addTopLevelItem(item);
+    m_model->appendRow(row);
     emit contentChanged(this);
 }
 
 void EquListView::clear()
 {
-    m_tree->clear();
+    m_model->setRows({});
 }
 
 void EquListView::beginFill()
@@ -75,30 +70,15 @@ void EquListView::beginFill()
 void EquListView::endFill()
 {
     m_filling = false;
-    if (isShown(m_gathered)) {
-        // Nobody is disturbed by a run that changed no constant: neither place and selection here, nor the panel in front.
-        qDeleteAll(m_gathered);
-        m_gathered.clear();
+    QVector<EquListModel::sRow_t> rows;
+    rows.swap(m_gathered);
+    // Nobody is disturbed by a run that changed no constant: neither place and selection here, nor the panel in front.
+    if (rows == m_model->rows())
         return;
-    }
     const int place = m_tree->verticalScrollBar()->value();
-    m_tree->clear();
-    m_tree->addTopLevelItems(m_gathered);
-    m_gathered.clear();
+    m_model->setRows(std::move(rows));
     m_tree->verticalScrollBar()->setValue(place);
     emit contentChanged(this);
-}
-
-bool EquListView::isShown(const QList<QTreeWidgetItem*>& items) const
-{
-    if (items.size() != m_tree->topLevelItemCount())
-        return false;
-    for (int i = 0; i < items.size(); ++i) {
-        const QTreeWidgetItem* shown = m_tree->topLevelItem(i);
-        if (shown->text(0) != items[i]->text(0) || shown->text(1) != items[i]->text(1))
-            return false;
-    }
-    return true;
 }
 
 } // namespace nsModAsmFe

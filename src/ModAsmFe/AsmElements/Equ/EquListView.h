@@ -1,10 +1,10 @@
 #pragma once
 
-#include <QFont>
+#include "EquListModel.h"
+
 #include <QWidget>
 
-class QTreeWidget;
-class QTreeWidgetItem;
+class QTreeView;
 
 namespace nsModAsmFe {
 
@@ -31,11 +31,9 @@ signals:
     void contentChanged(QWidget* widget);
 
 private:
-    bool isShown(const QList<QTreeWidgetItem*>& items) const;
-
-    QTreeWidget* m_tree = nullptr;
-    QFont m_numberFont;
-    QList<QTreeWidgetItem*> m_gathered;
+    EquListModel* m_model;
+    QTreeView* m_tree;
+    QVector<EquListModel::sRow_t> m_gathered;
     bool m_filling = false;
 };
 

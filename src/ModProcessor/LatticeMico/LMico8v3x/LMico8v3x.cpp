@@ -47,12 +47,12 @@ nsProc::ProcConfigWidget* LMico8v3x::createConfigWidget()
     return new LMico8v3xConfigWidget;
 }
 
-QList<QPair<QString, int*>> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const
+QList<nsProc::ProcShell::sCfgNumber> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const
 {
     return {{"scrpdSize", &settings->scrpdSize},
             {"clkFreq", nullptr},
-            {"instrClkCnt", &settings->instrClkCnt},
-            {"regCount", &settings->regCount},
+            {"instrClkCnt", &settings->instrClkCnt, 0, LMico8v3xConfig::maxInstrClkCnt},
+            {"regCount", &settings->regCount, LMico8v3xConfig::minRegCount, LMico8v3xConfig::maxRegCount},
             {"memMap/pageSize", &settings->pageSize}};
 }
 

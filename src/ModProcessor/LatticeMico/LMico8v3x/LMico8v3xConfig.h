@@ -7,6 +7,10 @@ namespace nsLMico8v3x {
 /// Settings of a Mico8. Its interrupt vector is fixed by the hardware; its scratchpad has at least 32 bytes.
 struct LMico8v3xConfig : nsProc::ProcCoreConfig
 {
+    static constexpr int minRegCount = 16;
+    static constexpr int maxRegCount = 32;
+    static constexpr int maxInstrClkCnt = 10000;
+
     LMico8v3xConfig()
     {
         intVectorAddr = 0;

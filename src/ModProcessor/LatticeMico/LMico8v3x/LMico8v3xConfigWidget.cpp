@@ -21,7 +21,7 @@ QVector<Field> fields()
         0,
         0,
         0,
-        {16, 32}};
+        {LMico8v3xConfig::minRegCount, LMico8v3xConfig::maxRegCount}};
     const Field scrpdSize = {
         "scrpdSize",
         Field::ePageCore,
@@ -42,7 +42,7 @@ QVector<Field> fields()
         QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Clock cycles that the processor takes for an instruction"),
         &nsProc::ProcCoreConfig::instrClkCnt,
         0,
-        10000,
+        LMico8v3xConfig::maxInstrClkCnt,
         0};
     return {nsProc::procConfigClkFreq(), regCount, scrpdSize, instrClkCnt, nsProc::procConfigPageSize()};
 }

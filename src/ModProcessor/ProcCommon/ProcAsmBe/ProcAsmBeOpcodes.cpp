@@ -201,6 +201,9 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
         return refuse(opcode, target);
     const int addr = target->labelOpcode->pageAddr;
     const int mask = (1 << m_layout.addrBits) - 1;
+    // The higher bits of an address have no place in the word, and the core does not know of them.
+    if (!m_layout.relativeFlow && (addr & ~mask) != 0)
+        signMsg(warnFlowAddrTruncated, &opcode->srcRef, QString::number(addr), addr & mask);
     opcode->instWord = instr.words[always ? wordAlways : word] +
                        (m_layout.relativeFlow ? assembleArg_labelOffsAddr(opcode->pageAddr, addr) : addr & mask);
     return true;

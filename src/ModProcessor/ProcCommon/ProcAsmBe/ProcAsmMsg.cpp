@@ -28,6 +28,8 @@ const sAsmMsg_t asmMsgs[eAsmMsgCount] = {
     NALVO_MSG(errMissingInstrAtIntVectorAddr, "Missing instruction at interrupt vector address %1."),
     NALVO_MSG(warnMissingInstrAtIntVectorAddrAndPage, "Missing instruction at interrupt vector address %1 on page %2."),
     NALVO_MSG(errMissingInstrAtIntVectorAddrAndPage, "Missing instruction at interrupt vector address %1 on page %2."),
+    NALVO_MSG(warnFlowAddrTruncated,
+              "Address %1 exceeds the address field of the instruction: the processor goes to address %2."),
 };
 
 } // namespace

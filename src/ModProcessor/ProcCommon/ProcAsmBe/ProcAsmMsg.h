@@ -21,6 +21,7 @@ enum eAsmMsg_t {
     errMissingInstrAtIntVectorAddr,
     warnMissingInstrAtIntVectorAddrAndPage,
     errMissingInstrAtIntVectorAddrAndPage,
+    warnFlowAddrTruncated,
     eAsmMsgCount, ///< number of messages, not a message
 };
 

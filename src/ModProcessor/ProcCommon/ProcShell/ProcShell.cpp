@@ -13,12 +13,14 @@ namespace nsProc {
 
 namespace {
 
+const double maxFrequency = 10e9; ///< Hz, as on the settings page
+
 /// The frequency in Hz that a project holds as text. What is no number counts as 0, and so does "nan" or "inf", which
 /// nobody could write back as whole Hz.
 double frequencyOf(const QString& text)
 {
     const double frequency = text.toDouble();
-    return qIsFinite(frequency) ? frequency : 0;
+    return qIsFinite(frequency) ? qBound(0.0, frequency, maxFrequency) : 0;
 }
 
 } // namespace
@@ -29,6 +31,8 @@ ProcShell::~ProcShell() = default;
 
 void ProcShell::modInit()
 {
+    // A run that was in progress at the detachment has kept its simulator until here. It belongs to what was open then.
+    removeSim();
     if (m_asmBe == nullptr) {
         m_asmBe = createAsmBe();
         m_asmBe->setParent(this);
@@ -55,6 +59,10 @@ void ProcShell::modInitIntermod()
 
 void ProcShell::modExitIntermod()
 {
+    if (m_servicesGone) {
+        m_sim.reset();
+        return;
+    }
     simDisable();
     if (m_asmBe == nullptr)
         return;
@@ -84,7 +92,7 @@ bool ProcShell::configWidgetCloseRequest()
     return false;
 }
 
-QList<QPair<QString, int*>> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
+QList<ProcShell::sCfgNumber> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
 {
     return {{"clkFreq", nullptr}, {"memMap/pageSize", &settings->pageSize}};
 }
@@ -95,12 +103,12 @@ void ProcShell::rdCfg()
         return;
     m_settings = defaultConfig();
     for (const auto& number : cfgNumbers(&m_settings)) {
-        const QString key = cfgSection() + '/' + number.first;
+        const QString key = cfgSection() + '/' + number.key;
         // A frequency is stored in whole Hz, and may be larger than an int.
-        if (number.second == nullptr)
+        if (number.value == nullptr)
             m_settings.clkFreq = frequencyOf(modPrjHook->value(key, QString::number(m_settings.clkFreq, 'f', 0)));
         else
-            *number.second = modPrjHook->value(key, *number.second);
+            *number.value = qBound(number.min, modPrjHook->value(key, *number.value), number.max);
     }
     setSettings(m_settings);
 }
@@ -116,11 +124,11 @@ void ProcShell::wrCfg()
     if (modPrjHook == nullptr)
         return;
     for (const auto& number : cfgNumbers(&m_settings)) {
-        const QString key = cfgSection() + '/' + number.first;
-        if (number.second == nullptr)
+        const QString key = cfgSection() + '/' + number.key;
+        if (number.value == nullptr)
             modPrjHook->setValue(key, QString::number(m_settings.clkFreq, 'f', 0));
         else
-            modPrjHook->setValue(key, *number.second);
+            modPrjHook->setValue(key, *number.value);
     }
 }
 

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <limits>
 #include <memory>
 
 namespace nsProc {
@@ -38,8 +39,8 @@ public:
     const ProcCoreConfig* runConfig() const { return m_config; }
     /// A new simulator of this processor, which belongs to the caller. No hook of it is set.
     virtual ProcSim* createSim() = 0;
-    /// Forgets the services, for the case that they go before the simulator.
-    void dropHooks();
+    /// The services may be gone from now on: nothing calls them any more. The hooks stay, they are the services' own.
+    void dropServices();
 
     // ProcPluginIf
     void modInit() override;
@@ -107,12 +108,23 @@ protected:
     virtual ProcCoreConfig defaultConfig() const = 0;
     /// A new settings widget; the shell takes the ownership.
     virtual ProcConfigWidget* createConfigWidget() = 0;
-    /// The keys in the order of the file, with the fields of the settings that hold them; null for the clock frequency.
-    virtual QList<QPair<QString, int*>> cfgNumbers(ProcCoreConfig* settings) const;
+    /// A number of the settings in the project. Out of its range it is taken as the nearest number in it; what the
+    /// assembler checks with a message of its own has a range that leaves this to it.
+    struct sCfgNumber
+    {
+        QString key;
+        int* value; ///< null for the clock frequency
+        int min = 0;
+        int max = std::numeric_limits<int>::max();
+    };
+    /// The keys in the order of the file, with the fields of the settings that hold them.
+    virtual QList<sCfgNumber> cfgNumbers(ProcCoreConfig* settings) const;
 
 private:
     bool simEnable();
     void removeSim();
+    void showStop(ProcActionsSim::eAction_t action, bool stopping);
+    void takeProgramCounter();
     void runSim(ProcActionsSim::eAction_t action, void (ProcSim::*command)());
     void setBase(ProcActionsSim::eAction_t action, eBase_t base);
     void setActionsEnabled(bool enabled);
@@ -126,6 +138,7 @@ private:
     QPointer<ProcActionsSim> m_actions;
     std::shared_ptr<ProcSim> m_sim; ///< shared with those commands of it that are on the stack
     bool m_attached = false;
+    bool m_servicesGone = false;
 };
 
 } // namespace nsProc

@@ -75,6 +75,7 @@ bool ProcShell::simEnable()
         modGuiHook->registerPlugin(static_cast<ModGuiPluginIf*>(sim.get()));
     if (modEditorHook != nullptr)
         modEditorHook->registerPlugin(static_cast<ModEditorPluginIfSimulator*>(sim.get()));
+    connect(sim.get(), &ProcSim::programCounterTyped, this, &ProcShell::takeProgramCounter);
     if (!sim->simInit(m_config))
         return false;
     setActionsEnabled(true);
@@ -114,21 +115,17 @@ void ProcShell::removeSim()
         sim->modEditorHook->unregisterPlugin(static_cast<ModEditorPluginIfSimulator*>(sim.get()));
 }
 
-void ProcShell::dropHooks()
+void ProcShell::dropServices()
 {
-    modMsgHook = nullptr;
-    modGuiHook = nullptr;
-    modEditorHook = nullptr;
-    modActionHook = nullptr;
-    modAsmFeHook = nullptr;
-    modCfgAppHook = nullptr;
-    modPrjHook = nullptr;
-    if (m_sim == nullptr)
-        return;
-    m_sim->modMsgHook = nullptr;
-    m_sim->modGuiHook = nullptr;
-    m_sim->modAsmFeHook = nullptr;
-    m_sim->modEditorHook = nullptr;
+    m_servicesGone = true;
+    if (m_sim != nullptr)
+        m_sim->dropServices();
+}
+
+void ProcShell::showStop(Action::eAction_t action, bool stopping)
+{
+    if (m_actions != nullptr)
+        m_actions->setStopping(action, stopping);
 }
 
 void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
@@ -145,7 +142,9 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
                        Action::eActionToCursor, Action::eActionSetPc},
                       false);
     setActionsEnabled({action}, true);
+    showStop(action, true);
     (sim.get()->*command)();
+    showStop(action, false);
     if (m_sim != sim)
         return;
     // A processor that was detached meanwhile could only stop its simulator.
@@ -205,6 +204,15 @@ void ProcShell::setPcFromCursor()
     setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction, Action::eActionToEndOfCall,
                        Action::eActionToCursor},
                       success);
+}
+
+void ProcShell::takeProgramCounter()
+{
+    // As with the cursor: there is an instruction to go on with again.
+    if (sender() == m_sim.get())
+        setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,
+                           Action::eActionToEndOfCall, Action::eActionToCursor},
+                          true);
 }
 
 void ProcShell::simReload()

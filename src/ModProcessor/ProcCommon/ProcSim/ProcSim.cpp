@@ -5,6 +5,9 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimHighlight.h"
+#include "ProcSimIODevice.h"
+#include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimWidgets.h"
 
@@ -89,6 +92,16 @@ void ProcSim::createWidgets()
     // The waves must see that time goes back before it has passed its old place again.
     connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);
     connect(m_widgets->io, &ProcSimIO::wavesRequested, this, &ProcSim::showWaveViewer);
+    connect(m_widgets->core, &ProcSimCore::pcTyped, this, &ProcSim::setPcFromAddr);
+    const QString note = m_traits.clearsEachInstr ? tr("Set by the instruction that was executed last.")
+                                                  : tr("Set by the program since the last single step or reset.");
+    setHighlightNote(m_widgets->core, note);
+    setHighlightNote(m_widgets->io, note);
+    addWidgets();
+}
+
+void ProcSim::addWidgets()
+{
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockLeft, m_widgets->core, tr("Processor core"));
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_widgets->io, tr("Processor ports"));
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->callStack, tr("Processor callstack"));
@@ -103,6 +116,11 @@ void ProcSim::showWaveViewer()
         m_widgets->waveViewer = new ProcSimWaveViewer(m_config.clkFreq);
         m_waves = m_widgets->waveViewer->data();
         m_widgets->waveViewer->setBase(numberBase(m_base));
+        m_widgets->waveViewer->setPortNames(
+            [this](int addr, ProcSimWaveData::eAccessType_t access) {
+                return ProcSimPortNames::nameOf(modAsmFeHook, addr, access == ProcSimWaveData::eAccessWr);
+            },
+            [this](const QString& name) { return ProcSimPortNames::addrOf(modAsmFeHook, name); });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->waveViewer, tr("Waves"));
     }
     m_widgets->lastBottom = m_widgets->waveViewer.data();
@@ -124,6 +142,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         return false;
     }
     m_config = *config;
+    if (m_widgets->waveViewer != nullptr)
+        m_widgets->waveViewer->updatePortNames();
     nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_lineIndex);
     if (opcode == nullptr) {
         signMsg(errPcRestore);
@@ -134,7 +154,8 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
-    showHighlight();
+    // The user is about to edit: what he has before him stays.
+    showHighlight(false);
     return true;
 }
 
@@ -156,7 +177,7 @@ void ProcSim::dropWidget(QWidget* widget)
 {
     if (widget == nullptr)
         return;
-    if (modGuiHook != nullptr)
+    if (modGuiHook != nullptr && !m_servicesGone)
         modGuiHook->removeWidget(widget);
     delete widget;
 }
@@ -167,11 +188,14 @@ void ProcSim::simExit()
     m_displayTimer->stop();
     m_pc = nullptr;
     m_watch.watch(nullptr);
-    if (modEditorHook != nullptr) {
+    if (hasEditor()) {
         modEditorHook->clearLineHighlited();
         modEditorHook->simEn(false);
     }
     m_waves = nullptr;
+    // A field that loses the focus with its dock ends an edit, to nobody.
+    if (m_widgets->core != nullptr)
+        m_widgets->core->blockSignals(true);
     dropWidget(m_widgets->core);
     dropWidget(m_widgets->io);
     dropWidget(m_widgets->callStack);
@@ -183,7 +207,6 @@ void ProcSim::forgetOpcodes()
 {
     m_running = 0;
     m_pc = nullptr;
-    m_breakpoints.clear();
     m_breakpointsTaken = false;
     ++m_deletions;
 }
@@ -227,7 +250,12 @@ bool ProcSim::initIODevice(IODev* dev)
     const auto direction = ProcSimPorts::eDirection_t(dev->simAccessMode);
     ProcSimIOPluginIf* plugin = m_ports->addIOPlugin(type, direction, int(dev->initValue));
     plugin->setMemSize(dev->memSize);
-    plugin->setBaseAddr(int(dev->baseAddr), QString());
+    if (dev->baseAddr > uint(ProcSimIODevice::maxAddr)) {
+        plugin->setBaseAddr(ProcSimIODevice::noAddr, QString());
+        signMsg(warnIODevNoPort, dev->devName);
+    } else {
+        plugin->setBaseAddr(int(dev->baseAddr), QString());
+    }
     plugin->setName(dev->devName);
     plugin->initValue(values.data(), std::min(dev->memSize, int(values.size())));
     return true;
@@ -248,6 +276,14 @@ void ProcSim::setBase(eBase_t base)
     if (m_widgets->statusBar != nullptr)
         m_widgets->statusBar->setBase(base == eBaseOct ? "OCT" : base == eBaseDec ? "DEC" : "HEX");
     updateWidgets();
+}
+
+void ProcSim::showRunning(bool running)
+{
+    if (m_widgets->core != nullptr)
+        m_widgets->core->setRunning(running);
+    if (m_widgets->statusBar != nullptr)
+        m_widgets->statusBar->setRunning(running);
 }
 
 void ProcSim::updateWidgets()

@@ -10,7 +10,6 @@
 #include "ProcSimTypes.h"
 #include "eOpcode.h"
 
-#include <QMap>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -85,6 +84,8 @@ public:
     bool simReload(const ProcCoreConfig* config);
     /// Takes the widgets from the main window and deletes them. What of a command is still on the stack ends.
     void simExit();
+    /// The services may be gone from now on: nothing calls them any more.
+    void dropServices() { m_servicesGone = true; }
 
     // Commands. Those that execute return at once while one of them is in progress.
 
@@ -102,6 +103,9 @@ public:
     void simToCursor();
     /// @return the program counter stands on the instruction at the cursor or the first one below
     bool setPcFromCursor();
+    /// Goes to the instruction at an address of the page that the program is in, or was in last. Not during a run.
+    /// @return false after a report, with the program counter where it was
+    bool setPcFromAddr(int addr);
     /// Sets or takes back a pending interrupt, if interrupts are enabled.
     void simInt();
     void setBase(eBase_t base);
@@ -159,6 +163,10 @@ public slots:
     void showWaveViewer();
     /// Brings the widgets up to date.
     void updateWidgets();
+
+signals:
+    /// The user has typed an address, and the program counter stands there.
+    void programCounterTyped();
 
 protected:
     using Handler = bool (ProcSim::*)();
@@ -255,12 +263,17 @@ private:
     bool initIODevices();
     bool initIODevice(nsModAsmFe::IODev* dev);
     void createWidgets();
+    void addWidgets();
     void dropWidget(QWidget* widget);
     void forgetOpcodes();
     /// The first of the settings that may not change during a simulation and has; empty if none.
     QString changedSetting(const ProcCoreConfig& config) const;
-    void showHighlight();
+    /// Brings the widgets up to date, and shows the line of the next instruction.
+    /// @param isFollowed the editor goes to the line; else it is only marked
+    void showHighlight(bool isFollowed = true);
     void clearHighlights();
+    void showRunning(bool running);
+    bool hasEditor() const { return modEditorHook != nullptr && !m_servicesGone; }
 
     // Commands (ProcSimRun.cpp).
     template <class Ends>
@@ -272,6 +285,11 @@ private:
     bool enterInterrupt();
     /// Page in which to look an address up, while the program counter stands in the shared range.
     bool resolvePage(int* memRange);
+    /// Goes to an address that the user has typed without a Return, before a command starts.
+    /// @return false after a report: the command must not start elsewhere
+    bool takeTypedPc();
+    /// The instruction at an address of a page or of the shared range.
+    bool opcodeOfPage(int addr, int memRange, nsModAsmFe::Opcode** result) const;
     bool readPort(const nsModAsmFe::Arg* arg, int addr, int* value);
     bool readReg(const nsModAsmFe::Arg* arg, int* value);
     bool flowTarget(bool* taken, nsModAsmFe::Opcode** target, QString* name);
@@ -291,8 +309,9 @@ private:
     ProcSimObserver* m_observer = nullptr;
     ProcSimWaveData* m_waves = nullptr; ///< of the wave viewer
     nsModAsmFe::OpcodeListWatch m_watch;
-    QMap<QString, QList<int>> m_breakpoints; ///< as the instructions have them
+    int m_breakpointsRevision = 0; ///< the editor's, as the instructions have them
     bool m_breakpointsTaken = false;
+    bool m_servicesGone = false;
 
     std::shared_ptr<ProcSimCoreData> m_core;
     std::shared_ptr<ProcSimCallStackData> m_callStack;

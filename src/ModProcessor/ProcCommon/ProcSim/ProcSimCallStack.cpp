@@ -49,8 +49,9 @@ void ProcSimCallStack::setup()
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     header()->setDefaultAlignment(Qt::AlignCenter);
     header()->setSectionsMovable(false);
-    // The columns follow their contents; the last one takes the rest.
-    for (int column = 0; column < columnLabel; ++column)
+    // The columns follow their contents. The last one would be cut if it took no more than the rest.
+    header()->setStretchLastSection(false);
+    for (int column = 0; column < columnCount; ++column)
         header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);
     refresh();
 }

@@ -74,8 +74,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     m_regs->setParent(this);
     m_scrpd = new ProcSimScrpd(m_data, this);
     m_pc->setRange(0, std::max(pcMax, 0));
-    m_pc->setReadOnly(true);
-    m_pc->setToolTip(tr("Address of the next instruction. To go elsewhere, set the program counter from the text cursor."));
+    m_pc->setToolTip(tr("Address of the next instruction. Another one that is typed in takes effect with Return."));
     m_carry->setToolTip(tr("Carry flag, toggled with a click"));
     m_zero->setToolTip(tr("Zero flag, toggled with a click"));
 
@@ -112,9 +111,14 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     layout->addWidget(hLine());
     layout->addWidget(m_scrpd, 1);
 
+    // A click toggles what the program has by now, which may be more than the last picture of a run shows.
+    connect(m_carry, &ProcSimEdtBit::aboutToToggle, this, [this] { m_carry->setValue(m_data->carryBit()); });
+    connect(m_zero, &ProcSimEdtBit::aboutToToggle, this, [this] { m_zero->setValue(m_data->zeroBit()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::aboutToToggle, this, [this] { m_interrupt->setValue(m_data->interrupt()); });
     connect(m_carry, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editCarryBit(m_carry->value()); });
     connect(m_zero, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editZeroBit(m_zero->value()); });
     connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this, [this] { m_data->setInterrupt(m_interrupt->value()); });
+    connect(m_pc, &ProcSimEdtNumeric::valueChanged, this, &ProcSimCore::pcTyped);
     refresh();
 }
 
@@ -158,6 +162,19 @@ void ProcSimCore::setBase(int base)
     m_scrpd->setBase(base);
     if (m_hwbld != nullptr)
         m_hwbld->setBase(base);
+}
+
+void ProcSimCore::setRunning(bool running)
+{
+    m_pc->setReadOnly(running);
+}
+
+bool ProcSimCore::takeTypedPc(int* addr)
+{
+    if (!m_pc->takeEdit())
+        return false;
+    *addr = m_pc->value();
+    return true;
 }
 
 void ProcSimCore::refresh()

@@ -19,9 +19,10 @@ class ProcSimEdtInterrupt;
 class ProcSimEdtNumeric;
 class ProcSimScrpd;
 
-/// The dock of a simulated core: program counter, flags, interrupt, registers and scratchpad, all but the first to be edited.
+/// The dock of a simulated core: program counter, flags, interrupt, registers and scratchpad, all to be edited.
 ///
-/// It shows a ProcSimCoreData, and what the user types goes there at once.
+/// It shows a ProcSimCoreData, and what the user types goes there at once. An address for the program counter is reported when it is
+/// complete: it decides on an instruction, which the data does not know.
 class ProcSimCore : public QWidget
 {
     Q_OBJECT
@@ -32,6 +33,11 @@ public:
     const std::shared_ptr<ProcSimCoreData>& data() const { return m_data; }
     /// @param base 8, 10 or 16
     void setBase(int base);
+    /// During a run, no address can be typed for the program counter: it would not stand still.
+    void setRunning(bool running);
+    /// An address that the user has typed for the program counter and not ended with Return; it is reported no more after this.
+    /// @return false, with nothing changed, if there is none
+    bool takeTypedPc(int* addr);
     /// Shows what has changed in the data, and asks for the front if a flag was set.
     void refresh();
 
@@ -57,6 +63,8 @@ public:
 signals:
     /// Something happened that the user wants to see. @param widget this
     void contentChanged(QWidget* widget);
+    /// The user has typed an address for the program counter, which the display shows until the next refresh().
+    void pcTyped(int addr);
 
 protected:
     /// @param pcMax highest address of the program counter

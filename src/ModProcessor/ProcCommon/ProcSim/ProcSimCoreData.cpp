@@ -46,16 +46,16 @@ bool ProcSimCoreData::reg(int index, const QString& alias, int* value)
 
 void ProcSimCoreData::setCarryBit(int value)
 {
+    m_contentChanged = m_contentChanged || m_carry != int(value != 0);
     m_carry = value != 0;
     m_carryStep = m_step;
-    m_contentChanged = true;
 }
 
 void ProcSimCoreData::setZeroBit(int value)
 {
+    m_contentChanged = m_contentChanged || m_zero != int(value != 0);
     m_zero = value != 0;
     m_zeroStep = m_step;
-    m_contentChanged = true;
 }
 
 bool ProcSimCoreData::initScrpd(const unsigned int* values, int count)

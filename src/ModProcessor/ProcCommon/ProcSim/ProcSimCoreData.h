@@ -96,7 +96,7 @@ public:
     /// Registers of all banks, flags and scratchpad to 0, aliases empty, highlights off, interrupt disabled. The bank stays selected.
     void clear();
 
-    /// @return true once after a flag was set: what shows the core is then brought to the front
+    /// @return true once after the program has changed a flag: what shows the core is then brought to the front
     bool takeContentChanged();
 
 private:

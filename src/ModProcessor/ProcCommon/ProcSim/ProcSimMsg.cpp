@@ -29,6 +29,7 @@ const sSimMsg_t simMsgs[eSimMsgCount] = {
                                  "setting: %1"),
     NALVO_MSG(errPcRestore, "Can not restore program counter. Please set manually from cursor."),
     NALVO_MSG(errPcNoPrjFile, "The current file not part of the project."),
+    NALVO_MSG(warnIODevNoPort, "The address of IO device %1 does not fit into 16 bits. It answers at no port."),
 };
 
 } // namespace

@@ -20,6 +20,7 @@ enum eSimMsg_t {
     errProcSetChanged,
     errPcRestore,
     errPcNoPrjFile,
+    warnIODevNoPort,
     eSimMsgCount, ///< number of messages, not a message
 };
 

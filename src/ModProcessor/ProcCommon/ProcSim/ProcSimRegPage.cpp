@@ -10,7 +10,6 @@ namespace nsProc {
 
 namespace {
 
-const int rowsPerColumn = 8;
 const int aliasWidth = 40; ///< pixels; a longer name shows its end, and all of it as a tool tip
 
 } // namespace
@@ -24,27 +23,27 @@ ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank, 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setHorizontalSpacing(4);
-    layout->setVerticalSpacing(2);
+    layout->setVerticalSpacing(0);
     for (int index = 0; index < m_data->regCount(); ++index) {
-        const int row = index % rowsPerColumn + index / (2 * rowsPerColumn) * rowsPerColumn;
-        const int column = index / rowsPerColumn % 2 * 3;
         const QString name = nameOf(index);
         auto* title = new QLabel(name, this);
         auto* value = new ProcSimEdtNumeric(this);
         value->setToolTip(tr("Register %1").arg(name));
         value->setAccessibleName(value->toolTip());
+        // Low rows, as in a table: sixteen of them have to stand above the scratchpad.
+        value->setFixedHeight(value->fontMetrics().height() + 4);
         auto* alias = new QLabel(this);
         alias->setObjectName(QStringLiteral("procSimAlias"));
         alias->setMinimumWidth(aliasWidth);
         alias->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-        layout->addWidget(title, row, column, Qt::AlignRight | Qt::AlignVCenter);
-        layout->addWidget(value, row, column + 1);
-        layout->addWidget(alias, row, column + 2);
-        layout->setColumnStretch(column + 2, 1);
-        m_rows.append({value, alias, QString()});
+        layout->addWidget(title, index, 0, Qt::AlignRight | Qt::AlignVCenter);
+        layout->addWidget(value, index, 1);
+        layout->addWidget(alias, index, 2);
+        m_rows.append({name, value, alias, QString()});
         connect(value, &ProcSimEdtNumeric::edited, this,
                 [this, index](int edited) { m_data->editReg(m_bank, index, edited); });
     }
+    layout->setColumnStretch(2, 1);
     refresh();
 }
 
@@ -64,15 +63,20 @@ void ProcSimRegPage::refresh()
         if (alias == row.shownAlias)
             continue;
         row.shownAlias = alias;
-        row.alias->setToolTip(alias);
+        row.alias->setToolTip(secondName(row));
         showAlias(row);
     }
 }
 
+QString ProcSimRegPage::secondName(const sRow_t& row)
+{
+    return row.shownAlias.compare(row.name, Qt::CaseInsensitive) == 0 ? QString() : row.shownAlias;
+}
+
 void ProcSimRegPage::showAlias(const sRow_t& row)
 {
-    // Names differ at their ends, behind a namespace.
-    row.alias->setText(row.alias->fontMetrics().elidedText(row.shownAlias, Qt::ElideLeft, row.alias->width()));
+    // Names differ at their ends, after a namespace.
+    row.alias->setText(row.alias->fontMetrics().elidedText(secondName(row), Qt::ElideLeft, row.alias->width()));
 }
 
 void ProcSimRegPage::resizeEvent(QResizeEvent* event)

@@ -33,11 +33,14 @@ protected:
 private:
     struct sRow_t
     {
+        QString name;
         ProcSimEdtNumeric* value;
         QLabel* alias;
         QString shownAlias;
     };
 
+    /// What the register is called beside its name; empty if that is the name itself.
+    static QString secondName(const sRow_t& row);
     static void showAlias(const sRow_t& row);
 
     std::shared_ptr<ProcSimCoreData> m_data;

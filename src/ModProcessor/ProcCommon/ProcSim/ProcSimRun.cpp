@@ -7,7 +7,7 @@
 #include "ProcSimObserver.h"
 #include "ProcSimPorts.h"
 #include "ProcSimResolvePageDialog.h"
-#include "ProcSimWaveViewer.h"
+#include "ProcSimWidgets.h"
 
 #include "AsmFeFileHndlr.h"
 #include "ModAsmFeHookIf.h"
@@ -16,6 +16,7 @@
 #include "OpcodeList.h"
 
 #include <QApplication>
+#include <QMap>
 #include <QTimer>
 
 namespace nsProc {
@@ -43,13 +44,12 @@ bool ProcSim::simOpcode()
 
 bool ProcSim::enterInterrupt()
 {
-    // Without room to come back, the interrupt has to wait.
-    if (m_callStack->count() >= m_callStack->capacity()) {
+    m_core->setInterrupt(eIntService);
+    // Without room to come back, the interrupt is lost; the program can go on where it is.
+    if (!pushToCallstack(QStringLiteral("ISR"))) {
         signMsg(errCallStackOverflow);
         return false;
     }
-    m_core->setInterrupt(eIntService);
-    pushToCallstack(QStringLiteral("ISR"));
     const Opcode* before = m_pc;
     Opcode* vector = nullptr;
     if (!getOpcodeOfAddr(m_config.intVectorAddr, &vector)) {
@@ -78,6 +78,7 @@ void ProcSim::startRun()
 {
     m_running = 1;
     m_displayTimer->start();
+    showRunning(true);
     syncBreakpoints();
 }
 
@@ -85,6 +86,7 @@ void ProcSim::endRun()
 {
     m_running = 0;
     m_displayTimer->stop();
+    showRunning(false);
     showHighlight();
 }
 
@@ -112,7 +114,7 @@ void ProcSim::runLoop(Ends ends)
 
 void ProcSim::simRun()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     runLoop([] { return false; });
@@ -122,7 +124,7 @@ void ProcSim::simNextInstruction()
 {
     if (!m_traits.clearsEachInstr)
         clearHighlights();
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     simOpcode();
     showHighlight();
@@ -130,7 +132,7 @@ void ProcSim::simNextInstruction()
 
 void ProcSim::simNextLine()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     if (m_pc == nullptr || m_pc->opcode != nsModAsmFe::ocCall) {
@@ -144,7 +146,7 @@ void ProcSim::simNextLine()
 
 void ProcSim::simToEndOfCall()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     startRun();
     const int depth = m_callStack->count();
@@ -153,7 +155,7 @@ void ProcSim::simToEndOfCall()
 
 void ProcSim::simToCursor()
 {
-    if (m_running == 1 || m_core == nullptr)
+    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
         return;
     syncBreakpoints();
     Opcode* target = nullptr;
@@ -172,6 +174,34 @@ bool ProcSim::setPcFromCursor()
     const bool success = setProgramCounter(target);
     showHighlight();
     return success;
+}
+
+bool ProcSim::setPcFromAddr(int addr)
+{
+    Opcode* target = nullptr;
+    if (m_core == nullptr || m_running == 1) {
+        updateWidgets();
+        return false;
+    }
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
+        return false;
+    }
+    if (!opcodeOfPage(addr, m_pc != nullptr && m_pc->memRange > 0 ? m_pc->memRange : m_lastPage, &target)) {
+        signMsg(errNoOpcodeToExec);
+        return false;
+    }
+    const bool success = setProgramCounter(target);
+    showHighlight();
+    if (success)
+        emit programCounterTyped();
+    return success;
+}
+
+bool ProcSim::takeTypedPc()
+{
+    int addr = 0;
+    return m_widgets->core == nullptr || !m_widgets->core->takeTypedPc(&addr) || setPcFromAddr(addr);
 }
 
 void ProcSim::simInt()
@@ -244,13 +274,13 @@ bool ProcSim::getOpcodeOfCursor(Opcode** result)
     int line = 0;
     if (modEditorHook == nullptr || !modEditorHook->cursorLine(&path, &line))
         return false;
-    if (!modAsmFeHook->isAssembled()) {
-        signMsg(errNoOpcodeAssembled);
-        return false;
-    }
     const int fileNo = modAsmFeHook->fileHndlr()->fileNo(path);
     if (fileNo < 0) {
         signMsg(errPcNoPrjFile);
+        return false;
+    }
+    if (!modAsmFeHook->isAssembled()) {
+        signMsg(errNoOpcodeAssembled);
         return false;
     }
     *result = modAsmFeHook->opcodeList()->nextOfSrcRef(fileNo, line);
@@ -267,6 +297,11 @@ bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
     int memRange = m_pc->memRange;
     if (memRange == 0 && !resolvePage(&memRange))
         return false;
+    return opcodeOfPage(addr, memRange, result);
+}
+
+bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
+{
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     *result = opcodes->opcodeOfAddr(addr, memRange);
     // What is not in the page may be in the range that all pages share.
@@ -294,7 +329,9 @@ bool ProcSim::resolvePage(int* memRange)
 
 void ProcSim::syncBreakpoints()
 {
-    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged())
+    // Asked once an instruction: no more than two numbers are compared.
+    if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged() &&
+        (!m_breakpointsTaken || modEditorHook->simBreakpointsRevision() != m_breakpointsRevision))
         setBreakpoints();
 }
 
@@ -302,7 +339,6 @@ void ProcSim::clearBreakpoints()
 {
     for (Opcode* opcode : *modAsmFeHook->opcodeList())
         opcode->breakpoint = 0;
-    m_breakpoints.clear();
     m_breakpointsTaken = false;
 }
 
@@ -311,9 +347,6 @@ void ProcSim::setBreakpoints()
     if (modEditorHook == nullptr)
         return;
     const QMap<QString, QList<int>> marks = modEditorHook->simBreakpoints();
-    // The editor says that marks have changed as long as it lives; only here is seen whether they have since.
-    if (m_breakpointsTaken && marks == m_breakpoints)
-        return;
     clearBreakpoints();
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     for (auto it = marks.cbegin(); it != marks.cend(); ++it) {
@@ -325,17 +358,20 @@ void ProcSim::setBreakpoints()
                 opcode->breakpoint = 1;
         }
     }
-    m_breakpoints = marks;
+    m_breakpointsRevision = modEditorHook->simBreakpointsRevision();
     m_breakpointsTaken = true;
 }
 
-void ProcSim::showHighlight()
+void ProcSim::showHighlight(bool isFollowed)
 {
     updateWidgets();
     if (m_pc == nullptr || modEditorHook == nullptr || m_core == nullptr)
         return;
     const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(m_pc->srcRef.fileNo);
-    modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    if (isFollowed)
+        modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+    else
+        modEditorHook->markLine(path, m_pc->srcRef.lineNo);
 }
 
 } // namespace nsProc

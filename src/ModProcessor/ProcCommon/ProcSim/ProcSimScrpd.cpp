@@ -2,10 +2,11 @@
 
 #include "ProcSimCoreData.h"
 #include "ProcSimEdtNumeric.h"
-#include "ProcSimFont.h"
+#include "ProcSimScrpdBlock.h"
 
-#include <QGridLayout>
+#include <QEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -14,11 +15,10 @@ namespace nsProc {
 
 namespace {
 
-const int shownCells = 1024;
-const int narrowRow = 4; ///< cells
-const int wideRow = 8;   ///< cells
-const int spacing = 4;   ///< pixels
-const int scrollMargin = 50; ///< pixels
+const int blockCells = 32;
+const int firstBlocks = 8;     ///< always there: a program reaches 256 cells by a register
+const int scrollMargin = 50;   ///< pixels
+const int maxCells = 1 << 20;  ///< a widget has no more than 16,777,215 pixels, so the rows are counted
 
 } // namespace
 
@@ -43,70 +43,103 @@ void ProcSimScrpd::setup()
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     // The cells take the focus.
     setFocusPolicy(Qt::NoFocus);
-    const QFont font = monospaceFont();
-    const int count = std::min(m_data->scrpdSize(), shownCells);
-    // Room for any base, so that nothing moves when the base changes.
-    const QString widest(QString::number(std::max(count - 1, 0), 8).size(), QLatin1Char('0'));
-    for (int addr = 0; addr < count; ++addr) {
-        if (addr % narrowRow == 0) {
-            auto* title = new QLabel(m_page);
-            title->setFont(font);
-            title->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-            title->setMinimumWidth(title->fontMetrics().horizontalAdvance(widest));
-            title->setToolTip(tr("Address"));
-            m_addresses.append(title);
-        }
-        auto* cell = new ProcSimEdtNumeric(m_page);
-        m_cells.append(cell);
-        connect(cell, &ProcSimEdtNumeric::edited, this, [this, addr](int value) { m_data->editScrpd(addr, value); });
-    }
-    if (m_data->scrpdSize() > count) {
-        m_note = new QLabel(tr("The cells from address %1 on are not shown: no program reaches them.").arg(count), m_page);
+    m_count = std::min(m_data->scrpdSize(), maxCells);
+    m_cellsPerRow = ProcSimScrpdBlock::narrowRow;
+    setWidget(m_page);
+    for (int index = 0; index < firstBlocks && index * blockCells < m_count; ++index)
+        block(index);
+    if (m_data->scrpdSize() > m_count) {
+        m_note = new QLabel(tr("The cells from address %1 on are not shown.").arg(m_count), m_page);
         m_note->setWordWrap(true);
     }
-    arrange(narrowRow);
-    setWidget(m_page);
-    setBase(16);
+    connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &ProcSimScrpd::showBlocks);
+    arrange();
     refresh();
 }
 
-void ProcSimScrpd::arrange(int cellsPerRow)
+ProcSimScrpdBlock* ProcSimScrpd::block(int index)
 {
-    if (cellsPerRow == m_cellsPerRow)
+    if (ProcSimScrpdBlock* present = m_blocks.value(index))
+        return present;
+    const int first = index * blockCells;
+    auto* made = new ProcSimScrpdBlock(m_data, first, std::min(blockCells, m_count - first), m_page);
+    made->setBase(m_base);
+    made->arrange(m_cellsPerRow);
+    made->refresh(m_highlighted);
+    m_blocks.insert(index, made);
+    chainFocus(index);
+    place(made);
+    made->show();
+    return made;
+}
+
+void ProcSimScrpd::chainFocus(int index)
+{
+    const auto here = m_blocks.constFind(index);
+    if (here == m_blocks.constBegin())
         return;
-    m_cellsPerRow = cellsPerRow;
-    delete m_page->layout();
-    auto* layout = new QGridLayout(m_page);
-    layout->setContentsMargins(0, 0, spacing, 0);
-    layout->setHorizontalSpacing(spacing);
-    layout->setVerticalSpacing(2);
-    for (int index = 0; index < m_addresses.size(); ++index) {
-        const int addr = index * narrowRow;
-        const bool isFirst = addr % cellsPerRow == 0;
-        m_addresses.at(index)->setVisible(isFirst);
-        if (isFirst)
-            layout->addWidget(m_addresses.at(index), addr / cellsPerRow, 0);
+    // Blocks are made in the order in which the user comes to them; each cell is put after the one with the address before.
+    const ProcSimScrpdBlock* former = *std::prev(here);
+    QWidget* before = former->cell(former->first() + former->count() - 1);
+    for (int addr = (*here)->first(); addr < (*here)->first() + (*here)->count(); ++addr) {
+        setTabOrder(before, (*here)->cell(addr));
+        before = (*here)->cell(addr);
     }
-    for (int addr = 0; addr < m_cells.size(); ++addr)
-        layout->addWidget(m_cells.at(addr), addr / cellsPerRow, 1 + addr % cellsPerRow);
-    const int rows = (m_cells.size() + cellsPerRow - 1) / cellsPerRow;
-    if (m_note != nullptr)
-        layout->addWidget(m_note, rows, 0, 1, cellsPerRow + 2);
-    layout->setColumnStretch(1 + cellsPerRow, 1);
-    layout->setRowStretch(rows + 1, 1);
 }
 
-int ProcSimScrpd::rowWidth(int cells) const
+void ProcSimScrpd::arrange()
 {
-    if (m_cells.isEmpty())
-        return 0;
-    return m_addresses.first()->minimumWidth() + cells * (spacing + m_cells.first()->width()) + 2 * spacing;
+    if (m_blocks.isEmpty())
+        return;
+    for (ProcSimScrpdBlock* each : qAsConst(m_blocks))
+        each->arrange(m_cellsPerRow);
+    const ProcSimScrpdBlock* model = m_blocks.first();
+    const int rows = (model->count() + m_cellsPerRow - 1) / m_cellsPerRow;
+    const int rowHeight = model->sizeHint().height() / rows;
+    m_blockHeight = model->sizeHint().height();
+    const int allRows = (m_count + m_cellsPerRow - 1) / m_cellsPerRow;
+    const int cellsHeight = m_count <= blockCells ? m_blockHeight
+                                                  : m_count / blockCells * m_blockHeight +
+                                                        (allRows - m_count / blockCells * blockCells / m_cellsPerRow) * rowHeight;
+    int height = cellsHeight;
+    if (m_note != nullptr) {
+        m_note->setGeometry(0, cellsHeight, viewport()->width(), m_note->heightForWidth(viewport()->width()));
+        height += m_note->height();
+    }
+    m_page->setMinimumHeight(height);
+    for (ProcSimScrpdBlock* each : qAsConst(m_blocks))
+        place(each);
+    showBlocks();
 }
 
-void ProcSimScrpd::resizeEvent(QResizeEvent* event)
+void ProcSimScrpd::place(ProcSimScrpdBlock* block)
 {
-    QScrollArea::resizeEvent(event);
-    arrange(viewport()->width() >= rowWidth(wideRow) ? wideRow : narrowRow);
+    block->setGeometry(0, block->first() / blockCells * m_blockHeight, std::max(viewport()->width(), 1),
+                       block->sizeHint().height());
+    block->layout()->activate();
+}
+
+void ProcSimScrpd::showBlocks()
+{
+    if (m_blocks.isEmpty() || !isVisible())
+        return;
+    const int last = (m_count - 1) / blockCells;
+    const int top = verticalScrollBar()->value();
+    // The tabulator has a field to go to beyond what is in sight.
+    const int from = std::max(top / m_blockHeight - 1, 0);
+    const int to = std::min((top + viewport()->height()) / m_blockHeight + 1, last);
+    for (int index = from; index <= to; ++index)
+        block(index);
+    for (int index : m_blocks.keys()) {
+        ProcSimScrpdBlock* each = m_blocks.value(index);
+        const bool isFocused = each->isAncestorOf(focusWidget()) && focusWidget()->hasFocus();
+        if (index < firstBlocks || (index >= from && index <= to) || isFocused)
+            continue;
+        // It may be what has led here, by a key in one of its fields.
+        m_blocks.remove(index);
+        each->hide();
+        each->deleteLater();
+    }
 }
 
 QSize ProcSimScrpd::sizeHint() const
@@ -117,8 +150,11 @@ QSize ProcSimScrpd::sizeHint() const
 
 QSize ProcSimScrpd::minimumSizeHint() const
 {
-    const int rowHeight = m_cells.isEmpty() ? 0 : m_cells.first()->sizeHint().height();
-    return {rowWidth(narrowRow) + verticalScrollBar()->sizeHint().width(), 2 * rowHeight};
+    if (m_blocks.isEmpty())
+        return {verticalScrollBar()->sizeHint().width(), 0};
+    const ProcSimScrpdBlock* model = m_blocks.first();
+    return {model->rowWidth(ProcSimScrpdBlock::narrowRow) + verticalScrollBar()->sizeHint().width(),
+            2 * model->cell(0)->sizeHint().height()};
 }
 
 bool ProcSimScrpd::setValue(int addr, int value)
@@ -148,31 +184,21 @@ void ProcSimScrpd::clear()
 
 void ProcSimScrpd::setBase(int base)
 {
-    const int width = QString::number(std::max(int(m_cells.size()) - 1, 0), base).size();
-    for (int row = 0; row < m_addresses.size(); ++row)
-        m_addresses.at(row)->setText(QString::number(row * narrowRow, base).toUpper().rightJustified(width, '0'));
-    for (int addr = 0; addr < m_cells.size(); ++addr) {
-        m_cells.at(addr)->setBase(base);
-        m_cells.at(addr)->setToolTip(tr("Address") + ' ' + QString::number(addr, base).toUpper().rightJustified(width, '0'));
-    }
+    m_base = base;
+    for (ProcSimScrpdBlock* each : qAsConst(m_blocks))
+        each->setBase(base);
 }
 
 void ProcSimScrpd::refresh()
 {
-    for (int addr = 0; addr < m_cells.size(); ++addr) {
-        int value = 0;
-        m_data->scrpd(addr, &value);
-        m_cells.at(addr)->setValue(value);
-    }
     const int highlighted = m_data->scrpdHighlighted();
+    for (ProcSimScrpdBlock* each : qAsConst(m_blocks))
+        each->refresh(highlighted);
     if (highlighted == m_highlighted)
         return;
-    if (m_highlighted >= 0 && m_highlighted < m_cells.size())
-        m_cells.at(m_highlighted)->setHighlightEn(false);
     m_highlighted = highlighted;
-    if (highlighted < 0 || highlighted >= m_cells.size())
+    if (!isShown(highlighted))
         return;
-    m_cells.at(highlighted)->setHighlightEn(true);
     m_isScrollDue = true;
     if (isVisible())
         scrollToHighlighted();
@@ -180,22 +206,43 @@ void ProcSimScrpd::refresh()
 
 void ProcSimScrpd::scrollToHighlighted()
 {
-    if (!m_isScrollDue || m_highlighted < 0 || m_highlighted >= m_cells.size())
+    if (!m_isScrollDue || !isShown(m_highlighted))
         return;
     m_isScrollDue = false;
-    m_page->layout()->activate();
+    const ProcSimScrpdBlock* holder = block(m_highlighted / blockCells);
     // Asked for the widget itself, the area would bring the cursor of the field into view.
-    const QRect cell = m_cells.at(m_highlighted)->geometry();
+    const QRect cell = holder->cell(m_highlighted)->geometry().translated(holder->pos());
     const QSize room = viewport()->size() / 2;
     ensureVisible(cell.center().x(), cell.center().y(), std::min(scrollMargin + cell.width() / 2, room.width()),
                   std::min(scrollMargin + cell.height() / 2, room.height()));
+    showBlocks();
+}
+
+void ProcSimScrpd::resizeEvent(QResizeEvent* event)
+{
+    QScrollArea::resizeEvent(event);
+    if (m_blocks.isEmpty())
+        return;
+    const int wide = m_blocks.first()->rowWidth(ProcSimScrpdBlock::wideRow);
+    m_cellsPerRow = viewport()->width() >= wide ? ProcSimScrpdBlock::wideRow : ProcSimScrpdBlock::narrowRow;
+    arrange();
 }
 
 void ProcSimScrpd::showEvent(QShowEvent* event)
 {
     QScrollArea::showEvent(event);
+    arrange();
     // Where nothing was laid out yet, there was nowhere to scroll to.
     scrollToHighlighted();
+}
+
+bool ProcSimScrpd::event(QEvent* event)
+{
+    const bool result = QScrollArea::event(event);
+    // Both change the height of a row.
+    if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
+        arrange();
+    return result;
 }
 
 } // namespace nsProc

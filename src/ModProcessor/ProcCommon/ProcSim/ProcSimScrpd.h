@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QMap>
 #include <QScrollArea>
-#include <QVector>
 
 #include <memory>
 
@@ -10,11 +10,13 @@ class QLabel;
 namespace nsProc {
 
 class ProcSimCoreData;
-class ProcSimEdtNumeric;
+class ProcSimScrpdBlock;
 
 /// The cells of the scratchpad, each with its address.
 ///
-/// A program reaches 256 cells. Of a scratchpad that is declared larger, the first 1024 are shown, with a note.
+/// A scratchpad can be far larger than a window can have fields. So there are fields only for the first addresses, which most
+/// programs use, for what is in sight, for the block beside it, and where the focus is. The others are made when they come into
+/// sight.
 class ProcSimScrpd : public QScrollArea
 {
     Q_OBJECT
@@ -45,21 +47,30 @@ public:
 protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool event(QEvent* event) override;
 
 private:
     void setup();
-    /// Lays the cells out, if they are not so already.
-    void arrange(int cellsPerRow);
+    /// Gives each block its place.
+    void arrange();
+    void place(ProcSimScrpdBlock* block);
+    /// Makes the blocks that come into sight, and drops those that no one sees any more.
+    void showBlocks();
+    /// The block with a number, made if it does not exist.
+    ProcSimScrpdBlock* block(int index);
+    /// Puts a new block between its neighbours in the order of the focus.
+    void chainFocus(int index);
     void scrollToHighlighted();
-    /// Pixels that so many cells need beside each other, with their address.
-    int rowWidth(int cells) const;
+    bool isShown(int addr) const { return addr >= 0 && addr < m_count; }
 
     std::shared_ptr<ProcSimCoreData> m_data;
     QWidget* m_page;
-    QVector<ProcSimEdtNumeric*> m_cells;
-    QVector<QLabel*> m_addresses; ///< of the cells 0, 4, 8 ...
-    QLabel* m_note = nullptr;     ///< null where all cells are shown
+    QMap<int, ProcSimScrpdBlock*> m_blocks; ///< by number; the first ones are always there
+    QLabel* m_note = nullptr;               ///< null where all cells can be shown
+    int m_count = 0;                        ///< cells that can be shown
     int m_cellsPerRow = 0;
+    int m_blockHeight = 1; ///< pixels
+    int m_base = 16;
     int m_highlighted = -1;
     bool m_isScrollDue = false; ///< the highlighted cell was not brought into view yet
 };

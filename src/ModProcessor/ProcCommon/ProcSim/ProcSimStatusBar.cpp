@@ -7,6 +7,8 @@
 #include <QHBoxLayout>
 #include <QLabel>
 
+#include <algorithm>
+
 namespace nsProc {
 
 namespace {
@@ -27,11 +29,28 @@ double timeOfClock(double clkFreq, const char** unit)
     return double(1000.0f / frequency);
 }
 
+/// A time in the unit that makes it short, with four digits or, from 10000 s on, with all seconds.
+QString readableTime(double seconds)
+{
+    const struct
+    {
+        double length;
+        const char* name;
+    } units[] = {{1e-9, "ns"}, {1e-6, "us"}, {1e-3, "ms"}};
+    for (const auto& unit : units) {
+        // What would be rounded to a thousand of one unit is one of the next.
+        if (seconds > 0 && seconds < 999.95 * unit.length)
+            return QString::number(seconds / unit.length, 'g', 4) + ' ' + QLatin1String(unit.name);
+    }
+    return QString::number(seconds, seconds < 9999.5 ? 'g' : 'f', seconds < 9999.5 ? 4 : 0) + QStringLiteral(" s");
+}
+
 } // namespace
 
 ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double clkFreq, QWidget* parent)
     : QWidget(parent)
     , m_clock(std::move(clock))
+    , m_clkFreq(clkFreq)
 {
     const char* unit = nullptr;
     m_timeFactor = timeOfClock(clkFreq, &unit);
@@ -39,6 +58,11 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     layout->setContentsMargins(8, 0, 8, 0);
     layout->setSpacing(6);
     // What follows a number must not move while it grows.
+    const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
+    m_state = addValue(QStringLiteral("procSimState"), stateWidth + 4);
+    m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    m_state->setToolTip(tr("Whether the program is running"));
+    layout->addSpacing(8);
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEXX")));
     layout->addSpacing(8);
@@ -53,6 +77,7 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     button->setToolTip(tr("Set the clock count to zero"));
     layout->addWidget(button);
     connect(button, &QPushButton::clicked, this, &ProcSimStatusBar::clear);
+    setRunning(false);
     setBase(QStringLiteral("HEX"));
     updateValues();
 }
@@ -84,6 +109,12 @@ void ProcSimStatusBar::updateValues()
     m_clocks->setText(QString::number(m_shown));
     // No clock takes no time, also where a clock takes for ever.
     m_time->setText(QStringLiteral("%1").arg(m_shown == 0 ? 0.0 : double(m_shown) * m_timeFactor));
+    m_time->setToolTip(m_clkFreq > 0 ? readableTime(double(m_shown) / m_clkFreq) : tr("No clock frequency is set."));
+}
+
+void ProcSimStatusBar::setRunning(bool running)
+{
+    m_state->setText(running ? tr("Running") : tr("Stopped"));
 }
 
 void ProcSimStatusBar::refresh()

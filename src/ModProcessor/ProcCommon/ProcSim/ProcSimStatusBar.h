@@ -25,6 +25,8 @@ public:
     void updateValues();
     /// @param base "DEC", "HEX" or "OCT"; the counters stay decimal
     void setBase(const QString& base);
+    /// Shows whether a command that takes more than one instruction is in progress.
+    void setRunning(bool running);
     /// Shows what has changed in the clock.
     void refresh();
 
@@ -40,7 +42,9 @@ private:
     QLabel* addValue(const QString& name, int width);
 
     std::shared_ptr<ProcSimClock> m_clock;
+    double m_clkFreq;
     double m_timeFactor;
+    QLabel* m_state;
     QLabel* m_base;
     QLabel* m_clocks;
     QLabel* m_time;

@@ -36,6 +36,16 @@ const sAction_t simActions[] = {
     {ProcActionsSim::eActionBaseOct, NALVO_TR("Oct"), NALVO_TR("Set numeric base to octal"), "baseOct", nullptr, false},
 };
 
+QIcon iconOf(const char* name)
+{
+    return QIcon(QStringLiteral(":/ProcCommon/img/simulator/%1.png").arg(QLatin1String(name)));
+}
+
+QString toolTipOf(const sAction_t& row)
+{
+    return ProcActionsSim::tr(row.toolTip != nullptr ? row.toolTip : row.text);
+}
+
 } // namespace
 
 ProcActionsSim::ProcActionsSim(QObject* parent)
@@ -43,11 +53,9 @@ ProcActionsSim::ProcActionsSim(QObject* parent)
 {
     setExclusive(false);
     for (const sAction_t& row : simActions) {
-        const QString icon = QStringLiteral(":/ProcCommon/img/simulator/%1.png").arg(QLatin1String(row.icon));
-        QAction* entry = addAction(QIcon(icon), tr(row.text));
-        const QString toolTip = tr(row.toolTip != nullptr ? row.toolTip : row.text);
-        entry->setToolTip(toolTip);
-        entry->setStatusTip(toolTip);
+        QAction* entry = addAction(iconOf(row.icon), tr(row.text));
+        entry->setToolTip(toolTipOf(row));
+        entry->setStatusTip(toolTipOf(row));
         entry->setData(int(row.action));
         if (row.keys != nullptr)
             entry->setShortcut(QKeySequence(QLatin1String(row.keys)));
@@ -70,21 +78,40 @@ void ProcActionsSim::setEnabled(bool enabled)
         entry->setEnabled(enabled);
 }
 
-void ProcActionsSim::setEnabled(eAction_t action, bool enabled)
+QAction* ProcActionsSim::actionOf(eAction_t action) const
 {
     for (QAction* entry : actions()) {
         if (!entry->isSeparator() && entry->data().toInt() == int(action))
-            entry->setEnabled(enabled);
+            return entry;
     }
+    return nullptr;
+}
+
+void ProcActionsSim::setEnabled(eAction_t action, bool enabled)
+{
+    if (QAction* entry = actionOf(action))
+        entry->setEnabled(enabled);
 }
 
 bool ProcActionsSim::isEnabled(eAction_t action) const
 {
-    for (const QAction* entry : actions()) {
-        if (!entry->isSeparator() && entry->data().toInt() == int(action))
-            return entry->isEnabled();
+    const QAction* entry = actionOf(action);
+    return entry != nullptr && entry->isEnabled();
+}
+
+void ProcActionsSim::setStopping(eAction_t action, bool stopping)
+{
+    QAction* entry = actionOf(action);
+    if (entry == nullptr)
+        return;
+    for (const sAction_t& row : simActions) {
+        if (row.action != action)
+            continue;
+        entry->setIcon(iconOf(stopping ? "simStop" : row.icon));
+        const QString toolTip = stopping ? tr("Stop simulation") : toolTipOf(row);
+        entry->setToolTip(toolTip);
+        entry->setStatusTip(toolTip);
     }
-    return false;
 }
 
 void ProcActionsSim::handleAction(QAction* action)

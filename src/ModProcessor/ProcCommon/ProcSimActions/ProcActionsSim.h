@@ -31,6 +31,8 @@ public:
     void setEnabled(bool enabled);
     void setEnabled(eAction_t action, bool enabled);
     bool isEnabled(eAction_t action) const;
+    /// While what the action has begun is in progress, it shows a stop sign: used again, it stops that.
+    void setStopping(eAction_t action, bool stopping);
     /// All actions and separators in the order of the screen. Owned by the group.
     QList<QAction*> menuActions() const { return actions(); }
     QList<QAction*> toolBarActions() const { return actions(); }
@@ -43,6 +45,7 @@ private slots:
 
 private:
     void addSeparator();
+    QAction* actionOf(eAction_t action) const;
 };
 
 } // namespace nsProc

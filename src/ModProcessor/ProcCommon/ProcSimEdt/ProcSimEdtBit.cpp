@@ -3,6 +3,7 @@
 #include "ProcSimFont.h"
 #include "ProcSimHighlight.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QPainter>
 #include <QStyle>
@@ -29,6 +30,13 @@ void ProcSimEdtBit::setValue(int value)
     setText(bit != 0 ? QStringLiteral("1") : QStringLiteral("0"));
 }
 
+bool ProcSimEdtBit::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+        return true;
+    return QLabel::event(event);
+}
+
 void ProcSimEdtBit::setHighlightEn(bool enabled)
 {
     if (enabled == m_highlighted)
@@ -39,6 +47,7 @@ void ProcSimEdtBit::setHighlightEn(bool enabled)
 
 void ProcSimEdtBit::toggle()
 {
+    emit aboutToToggle();
     setValue(1 - m_value);
     emit valueChanged();
 }

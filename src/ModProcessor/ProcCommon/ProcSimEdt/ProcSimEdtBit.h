@@ -19,10 +19,13 @@ public:
     bool isHighlighted() const { return m_highlighted; }
 
 signals:
+    /// The user is about to toggle the bit: the last moment to show the bit as it is by now.
+    void aboutToToggle();
     /// The user has toggled the bit.
     void valueChanged();
 
 protected:
+    bool event(QEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;

@@ -20,6 +20,7 @@ ProcSimEdtBitField::ProcSimEdtBitField(int bits, QWidget* parent)
         if (bit % 4 == 0 && bit > 0)
             layout->addSpacing(6);
         m_bits.prepend(edit);
+        connect(edit, &ProcSimEdtBit::aboutToToggle, this, &ProcSimEdtBitField::aboutToToggle);
         connect(edit, &ProcSimEdtBit::valueChanged, this, [this] { emit valueChanged(value()); });
     }
 }

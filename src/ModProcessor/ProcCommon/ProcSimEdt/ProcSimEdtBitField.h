@@ -21,6 +21,8 @@ public:
     void setHighlightEn(bool enabled);
 
 signals:
+    /// The user is about to toggle a bit: the last moment to show the value as it is by now.
+    void aboutToToggle();
     /// The user has toggled a bit.
     void valueChanged(int value);
 

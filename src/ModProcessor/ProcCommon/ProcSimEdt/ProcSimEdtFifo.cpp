@@ -86,7 +86,8 @@ void ProcSimEdtFifo::refresh()
     int first = 0;
     int last = -1;
     const bool changed = lines().takeChanged(&first, &last);
-    const int pointer = lines().pointer();
+    // Where the pointer has no line, the end of the list is what can be shown.
+    const int pointer = qMin(lines().pointer(), lines().count() - 1);
     const bool inText = pointer >= m_first && pointer < m_first + qMax(m_shown, windowLines);
     if (!inText || lines().dropped() != m_dropped)
         fill();
@@ -160,11 +161,14 @@ void ProcSimEdtFifo::setBlocks(int first, int last, const QStringList& texts)
 void ProcSimEdtFifo::showPointer()
 {
     const int pointer = lines().pointer() - m_first;
-    if (pointer == m_pointer)
+    const QTextBlock block = document()->findBlockByNumber(pointer);
+    // A mark goes with the text of its line when lines are edited; the pointer does not.
+    QList<QTextEdit::ExtraSelection> marks = extraSelections();
+    const int marked = marks.isEmpty() ? -1 : marks.first().cursor.blockNumber();
+    if (pointer == m_pointer && marked == (block.isValid() ? pointer : -1))
         return;
     m_pointer = pointer;
-    QList<QTextEdit::ExtraSelection> marks;
-    const QTextBlock block = document()->findBlockByNumber(pointer);
+    marks.clear();
     if (block.isValid()) {
         QTextEdit::ExtraSelection mark;
         mark.cursor = QTextCursor(block);

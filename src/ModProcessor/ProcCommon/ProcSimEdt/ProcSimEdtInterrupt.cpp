@@ -10,6 +10,17 @@ namespace nsProc {
 namespace {
 
 const int squareWidth = 10;
+const int gap = 4; ///< pixels between the square and the letter
+
+/// By the values of eInt_t.
+const struct
+{
+    const char* name;
+    const char* letter;
+} states[] = {{QT_TRANSLATE_NOOP("nsProc::ProcSimEdtInterrupt", "enabled"), "E"},
+              {QT_TRANSLATE_NOOP("nsProc::ProcSimEdtInterrupt", "disabled"), "D"},
+              {QT_TRANSLATE_NOOP("nsProc::ProcSimEdtInterrupt", "pending"), "P"},
+              {QT_TRANSLATE_NOOP("nsProc::ProcSimEdtInterrupt", "in service"), "S"}};
 
 } // namespace
 
@@ -17,7 +28,6 @@ ProcSimEdtInterrupt::ProcSimEdtInterrupt(QWidget* parent)
     : QLabel(parent)
 {
     setObjectName(QStringLiteral("procSimEdtInterrupt"));
-    setToolTip(tr("If interrupt is enabled click to change status."));
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     // Room for the frame of the focus.
@@ -41,6 +51,12 @@ QColor ProcSimEdtInterrupt::color(eInt_t state)
     return Qt::darkGray;
 }
 
+QSize ProcSimEdtInterrupt::sizeHint() const
+{
+    // The widest of the letters, so that nothing moves.
+    return QLabel::sizeHint() + QSize(gap + fontMetrics().horizontalAdvance(QLatin1Char('D')) + 2, 0);
+}
+
 void ProcSimEdtInterrupt::setValue(eInt_t state)
 {
     if (state == m_state)
@@ -54,12 +70,13 @@ void ProcSimEdtInterrupt::showState()
     QPixmap square(squareWidth, fontMetrics().height());
     square.fill(color(m_state));
     setPixmap(square);
-    const char* const names[] = {QT_TR_NOOP("enabled"), QT_TR_NOOP("disabled"), QT_TR_NOOP("pending"), QT_TR_NOOP("in service")};
-    setAccessibleName(tr("Interrupt: %1").arg(tr(names[m_state])));
+    setAccessibleName(tr("Interrupt: %1").arg(tr(states[m_state].name)));
+    setToolTip(tr("If interrupt is enabled click to change status.") + '\n' + accessibleName());
 }
 
 void ProcSimEdtInterrupt::toggle()
 {
+    emit aboutToToggle();
     if (m_state != eIntEnabled && m_state != eIntPending)
         return;
     setValue(m_state == eIntEnabled ? eIntPending : eIntEnabled);
@@ -83,9 +100,12 @@ void ProcSimEdtInterrupt::keyPressEvent(QKeyEvent* event)
 void ProcSimEdtInterrupt::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(palette().color(QPalette::WindowText));
+    painter.drawText(rect().adjusted(margin() + squareWidth + gap, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter,
+                     QLatin1String(states[m_state].letter));
     if (!hasFocus())
         return;
-    QPainter painter(this);
     painter.setPen(QColor(0x204398));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

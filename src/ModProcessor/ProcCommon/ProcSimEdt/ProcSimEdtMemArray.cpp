@@ -54,10 +54,10 @@ public:
 
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
     {
-        // Only what was typed: a word that does not fit the field is not cut by opening it.
-        auto* field = static_cast<ProcSimEdtNumeric*>(editor);
-        if (field->isModified() && !field->text().isEmpty())
-            model->setData(index, field->text(), Qt::EditRole);
+        // Each key press counted already. What the program has written since must not be taken back by the end of the edit.
+        Q_UNUSED(editor)
+        Q_UNUSED(model)
+        Q_UNUSED(index)
     }
 
     void updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

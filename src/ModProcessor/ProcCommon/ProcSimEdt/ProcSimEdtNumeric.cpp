@@ -4,6 +4,7 @@
 #include "ProcSimHighlight.h"
 
 #include <QEvent>
+#include <QHelpEvent>
 #include <QRegExp>
 #include <QRegExpValidator>
 
@@ -87,6 +88,13 @@ bool ProcSimEdtNumeric::setValue(int value)
     return true;
 }
 
+bool ProcSimEdtNumeric::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+        return true;
+    return QLineEdit::event(event);
+}
+
 void ProcSimEdtNumeric::setHighlightEn(bool enabled)
 {
     if (enabled == m_highlighted)
@@ -106,12 +114,18 @@ void ProcSimEdtNumeric::takeText(const QString& text)
     emit edited(m_value);
 }
 
-void ProcSimEdtNumeric::finishEdit()
+bool ProcSimEdtNumeric::takeEdit()
 {
     if (!m_isEdited)
-        return;
+        return false;
     showValue();
-    emit valueChanged(m_value);
+    return true;
+}
+
+void ProcSimEdtNumeric::finishEdit()
+{
+    if (takeEdit())
+        emit valueChanged(m_value);
 }
 
 void ProcSimEdtNumeric::changeEvent(QEvent* event)

@@ -24,6 +24,9 @@ public:
     /// @return false, with nothing changed, outside of the range
     bool setValue(int value);
     int value() const { return m_value; }
+    /// Ends an edit as a change of the focus does, but reports nothing.
+    /// @return there was one: value() is what the user has typed
+    bool takeEdit();
     /// Red text: the program has changed the value.
     void setHighlightEn(bool enabled);
     bool isHighlighted() const { return m_highlighted; }
@@ -35,6 +38,7 @@ signals:
     void valueChanged(int value);
 
 protected:
+    bool event(QEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private slots:

@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QResizeEvent>
+#include <QSignalBlocker>
 
 namespace nsProc {
 
@@ -34,7 +35,8 @@ ProcSimIOAddrLine::ProcSimIOAddrLine(QWidget* parent)
     layout->addWidget(m_addr);
     layout->addWidget(m_nameLabel, 1);
     setFocusProxy(m_addr);
-    connect(m_addr, &ProcSimEdtNumeric::edited, this, &ProcSimIOAddrLine::addrEdited);
+    connect(m_addr, &ProcSimEdtNumeric::edited, this, &ProcSimIOAddrLine::takeEdit);
+    connect(m_addr, &ProcSimEdtNumeric::valueChanged, this, &ProcSimIOAddrLine::finishEdit);
 }
 
 void ProcSimIOAddrLine::setBase(int base)
@@ -45,9 +47,42 @@ void ProcSimIOAddrLine::setBase(int base)
 
 void ProcSimIOAddrLine::setAddr(int addr)
 {
+    if (addr == ProcSimIODevice::noAddr) {
+        showNone();
+        return;
+    }
+    if (m_isNone && m_addr->text().isEmpty())
+        m_addr->setBase(m_addr->base());
+    m_isNone = false;
+    m_addr->setPlaceholderText(QString());
     if (addr > ProcSimIODevice::maxPortAddr)
         m_addr->setRange(0, ProcSimIODevice::maxAddr);
     m_addr->setValue(addr);
+}
+
+void ProcSimIOAddrLine::showNone()
+{
+    m_isNone = true;
+    m_addr->setPlaceholderText(tr("none"));
+    // An empty text is no edit to 0.
+    const QSignalBlocker silence(m_addr);
+    m_addr->clear();
+}
+
+void ProcSimIOAddrLine::takeEdit(int addr)
+{
+    // A field that the user only passes through fills itself with a number.
+    if (m_isNone && !m_addr->isModified())
+        return;
+    m_isNone = false;
+    m_addr->setPlaceholderText(QString());
+    emit addrEdited(addr);
+}
+
+void ProcSimIOAddrLine::finishEdit()
+{
+    if (m_isNone)
+        showNone();
 }
 
 bool ProcSimIOAddrLine::addr(int* addr) const

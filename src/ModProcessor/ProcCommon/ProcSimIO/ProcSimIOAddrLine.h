@@ -17,7 +17,8 @@ public:
     explicit ProcSimIOAddrLine(QWidget* parent = nullptr);
 
     void setBase(int base);
-    /// @param addr 0 to ProcSimIODevice::maxAddr; one that no processor asks for widens the field
+    /// @param addr 0 to ProcSimIODevice::maxAddr; one that no processor asks for widens the field. ProcSimIODevice::noAddr empties it
+    /// until the user types an address
     void setAddr(int addr);
     /// Reads the field. @return false if it is empty
     bool addr(int* addr) const;
@@ -31,12 +32,18 @@ signals:
 protected:
     void resizeEvent(QResizeEvent* event) override;
 
+private slots:
+    void takeEdit(int addr);
+    void finishEdit();
+
 private:
+    void showNone();
     void showName();
 
     ProcSimEdtNumeric* m_addr;
     QLabel* m_nameLabel;
     QString m_name;
+    bool m_isNone = false; ///< the field shows no address
 };
 
 } // namespace nsProc

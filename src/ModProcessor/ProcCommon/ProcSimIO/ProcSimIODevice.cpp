@@ -74,8 +74,7 @@ bool ProcSimIODevice::chkDirection(eDirection_t direction)
 
 void ProcSimIODevice::setBaseAddr(int addr, QString name)
 {
-    if (addr >= 0 && addr <= maxAddr)
-        m_addr = addr;
+    m_addr = addr >= 0 && addr <= maxAddr ? addr : int(noAddr);
     m_usedName = name;
     m_changed = true;
 }

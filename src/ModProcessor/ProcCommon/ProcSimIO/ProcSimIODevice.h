@@ -18,6 +18,7 @@ class ProcSimIODevice : public ProcSimIOPluginIf
 public:
     static constexpr int maxValue = 255;     ///< largest value that a field of a device shows
     static constexpr int maxAddr = 0xFFFF;   ///< largest address of a device
+    static constexpr int noAddr = -1;        ///< a device that answers at no address
     static constexpr int maxPortAddr = 0xFF; ///< largest address that a processor can ask for
 
     ProcSimIODevice() = default;
@@ -32,13 +33,14 @@ public:
     void setBase(int base) override;
     void setDirection(eDirection_t direction) override;
     bool chkDirection(eDirection_t direction) override;
-    /// An address that is out of range is refused.
+    /// With an address that is out of range the device answers nowhere.
     void setBaseAddr(int addr, QString name) override;
-    bool chkAddr(int addr) override { return addr == m_addr; }
+    bool chkAddr(int addr) override { return m_addr != noAddr && addr == m_addr; }
     void setHighlightEn(bool enabled) override;
     void clearHighlighted() override { setHighlightEn(false); }
 
     int base() const { return m_base; }
+    /// 0 to maxAddr, or noAddr
     int addr() const { return m_addr; }
     /// The user's choice. @param addr 0 to maxAddr, others are limited
     void setAddr(int addr);

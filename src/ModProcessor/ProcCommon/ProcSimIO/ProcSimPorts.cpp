@@ -88,8 +88,8 @@ bool ProcSimPorts::setValue(int addr, const QString& name, int value)
         device->setBaseAddr(addr, name);
     }
     m_touched = true;
+    m_contentChanged = m_contentChanged || !device->holds(addr, value);
     device->setValue(addr, name, value);
-    m_contentChanged = true;
     return true;
 }
 

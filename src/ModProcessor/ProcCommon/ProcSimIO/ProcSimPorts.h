@@ -61,7 +61,7 @@ public:
     void setBase(int base);
     int base() const { return m_base; }
 
-    /// @return true once after a write: what shows the ports is then brought to the front
+    /// @return true once after a write that has changed a device: what shows the ports is then brought to the front
     bool takeContentChanged();
 
 private:

@@ -92,11 +92,12 @@ void ProcSimWaveData::clearValues()
     for (const auto& target : m_channels)
         clearValues(target.get());
     m_clock = 0;
-    ++m_changes;
 }
 
 void ProcSimWaveData::clearValues(sAddrChannel_t* channel)
 {
+    if (channel->values.empty())
+        return;
     m_count -= channel->values.size();
     std::vector<sValue_t>().swap(channel->values);
     std::vector<sBits_t>().swap(channel->blocks);

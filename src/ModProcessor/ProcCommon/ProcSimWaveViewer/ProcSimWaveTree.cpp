@@ -63,10 +63,20 @@ ProcSimWaveTree::sWave_t* ProcSimWaveTree::currentWave() const
     return waveOf(currentItem());
 }
 
+QString ProcSimWaveTree::accessText(const sAddrChannel_t* channel, const QString& port)
+{
+    return channel->access == ProcSimWaveData::eAccessRd ? tr("Read %1").arg(port) : tr("Write %1").arg(port);
+}
+
+QString ProcSimWaveTree::placeText(const sAddrChannel_t* channel, int base)
+{
+    return accessText(channel, QStringLiteral("%1").arg(channel->addr, 2, base, QLatin1Char('0')).toUpper());
+}
+
 QString ProcSimWaveTree::channelText(const sAddrChannel_t* channel, int base)
 {
-    const QString addr = QStringLiteral("%1").arg(channel->addr, 2, base, QLatin1Char('0')).toUpper();
-    return channel->access == ProcSimWaveData::eAccessRd ? tr("Read %1").arg(addr) : tr("Write %1").arg(addr);
+    // One port is often read and written by the same name.
+    return channel->name.isEmpty() ? placeText(channel, base) : accessText(channel, channel->name);
 }
 
 void ProcSimWaveTree::addWave(sWave_t* wave)
@@ -94,12 +104,12 @@ void ProcSimWaveTree::addWave(sWave_t* wave)
 void ProcSimWaveTree::setNames(QTreeWidgetItem* item)
 {
     sWave_t* wave = waveOf(item);
-    const QString channel = wave->channel->name.isEmpty() ? channelText(wave->channel, m_base) : wave->channel->name;
+    const QString channel = channelText(wave->channel, m_base);
     const bool isBit = wave->kind == ProcSimWaveData::eWaveBit;
     const QString bit = QStringLiteral("[%1]").arg(wave->bit);
     wave->name = isBit ? channel + bit : channel;
     item->setText(eColumnName, isBit ? bit : channel);
-    const QString place = channelText(wave->channel, m_base);
+    const QString place = placeText(wave->channel, m_base);
     item->setToolTip(eColumnName, isBit ? tr("%1, bit %2").arg(place).arg(wave->bit) : place);
 }
 

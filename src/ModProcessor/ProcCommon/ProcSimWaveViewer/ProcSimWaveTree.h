@@ -41,7 +41,7 @@ public:
     void selectWave(const sWave_t* wave);
     /// Null if no row is the present one.
     sWave_t* currentWave() const;
-    /// What a channel is called where it has no name of its own: "Read 2A".
+    /// What a channel is called: its access with its name, "Write LEDS", or else with its address, "Read 2A".
     static QString channelText(const sAddrChannel_t* channel, int base);
 
     QSize sizeHint() const override;
@@ -63,6 +63,8 @@ protected:
 private:
     QTreeWidgetItem* itemOf(const sWave_t* wave) const { return m_items.value(wave); }
     static sWave_t* waveOf(const QTreeWidgetItem* item);
+    static QString accessText(const sAddrChannel_t* channel, const QString& port);
+    static QString placeText(const sAddrChannel_t* channel, int base);
     void setNames(QTreeWidgetItem* item);
     void passVisibleWaves();
 

@@ -18,12 +18,19 @@
 #include <QRegularExpressionValidator>
 #include <QScrollBar>
 #include <QSplitter>
+#include <QStyle>
 #include <QToolButton>
 #include <QWheelEvent>
 
 #include <algorithm>
 
 namespace nsProc {
+
+namespace {
+
+const int addrWidth = 112; ///< of the field for a port, pixels: a name of usual length
+
+} // namespace
 
 ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
     : QWidget(parent)
@@ -129,12 +136,15 @@ void ProcSimWaveViewer::addPortTools()
     auto* title = new QLabel(tr("&Port address"), row);
     m_addr = new QLineEdit(row);
     m_addr->setObjectName(QStringLiteral("procSimWaveAddr"));
-    m_addr->setToolTip(tr("Address of the port whose values are to be shown, in the present number base"));
-    m_addrValidator = new QRegularExpressionValidator(m_addr);
-    m_addr->setValidator(m_addrValidator);
-    m_addr->setFixedWidth(56);
+    m_addr->setToolTip(tr("Address of the port whose values are to be shown: a constant of the program, such as "
+                          "PORT_LEDS, or a number in the present number base"));
+    m_addr->setFixedWidth(addrWidth);
     title->setBuddy(m_addr);
     connect(m_addr, &QLineEdit::returnPressed, this, [this] { addWave(); });
+    connect(m_addr, &QLineEdit::textEdited, this, [this] {
+        showProblem(false);
+        say({});
+    });
     m_access = new QComboBox(row);
     m_access->setObjectName(QStringLiteral("procSimWaveAccess"));
     m_access->setToolTip(tr("Show what the program reads from the port, or what it writes to it"));
@@ -247,25 +257,73 @@ void ProcSimWaveViewer::say(const QString& text)
 
 void ProcSimWaveViewer::setBase(int base)
 {
-    const int addr = enteredAddr();
+    QString name;
+    const int addr = enteredAddr(&name);
     m_base = base;
-    const QString digits =
-        base == 16 ? QStringLiteral("[0-9A-Fa-f]{0,2}") : QStringLiteral("[0-%1]{0,3}").arg(base - 1);
-    m_addrValidator->setRegularExpression(QRegularExpression(digits));
-    if (addr >= 0)
+    if (addr >= 0 && name.isEmpty())
         m_addr->setText(QStringLiteral("%1").arg(addr, 2, base, QLatin1Char('0')).toUpper());
     m_wavesWidget->setBase(base);
     m_tree->setBase(base);
     m_tree->showValues(m_wavesWidget->marker());
+    showProblem(false);
     say({});
 }
 
-/// Below 0 if no address is entered.
-int ProcSimWaveViewer::enteredAddr() const
+void ProcSimWaveViewer::setPortNames(NameOf nameOf, AddrOf addrOf)
 {
+    m_nameOf = std::move(nameOf);
+    m_addrOf = std::move(addrOf);
+    updatePortNames();
+}
+
+void ProcSimWaveViewer::updatePortNames()
+{
+    for (const auto& channel : m_data.channels()) {
+        // A name that still holds may be the user's choice among several.
+        if (m_addrOf && !channel->name.isEmpty() && m_addrOf(channel->name) == channel->addr)
+            continue;
+        channel->name = m_nameOf ? m_nameOf(channel->addr, channel->access) : QString();
+    }
+    m_tree->setBase(m_base);
+}
+
+int ProcSimWaveViewer::enteredAddr(QString* name) const
+{
+    const QString text = m_addr->text().trimmed();
+    // A constant may look like a number; a number can always be written with a zero in front.
+    int addr = m_addrOf ? m_addrOf(text) : -1;
+    if (addr >= 0) {
+        *name = text;
+        return addr;
+    }
+    name->clear();
     bool ok = false;
-    const int addr = m_addr->text().toInt(&ok, m_base);
+    addr = text.toInt(&ok, m_base);
     return ok && addr >= 0 && addr <= 0xFF ? addr : -1;
+}
+
+void ProcSimWaveViewer::refuseAddr()
+{
+    const QString text = m_addr->text().trimmed();
+    const QString first = m_wavesWidget->valueText(0);
+    const QString last = m_wavesWidget->valueText(0xFF);
+    if (text.isEmpty())
+        say(tr("Enter an address from %1 to %2, or a constant.").arg(first, last));
+    else
+        say(tr("\"%3\" is neither an address from %1 to %2 nor a constant with such a value.").arg(first, last, text));
+    showProblem(true);
+    m_addr->setFocus();
+    m_addr->selectAll();
+}
+
+/// Draws the frame of the address field in the colour of an error.
+void ProcSimWaveViewer::showProblem(bool isProblem)
+{
+    if (m_addr->property("problem").toBool() == isProblem)
+        return;
+    m_addr->setProperty("problem", isProblem);
+    m_addr->style()->unpolish(m_addr);
+    m_addr->style()->polish(m_addr);
 }
 
 void ProcSimWaveViewer::clearValues()
@@ -282,15 +340,15 @@ void ProcSimWaveViewer::clearAddrChannelValues(sAddrChannel_t* channel)
 
 void ProcSimWaveViewer::addWave(bool)
 {
-    const int addr = enteredAddr();
+    QString name;
+    const int addr = enteredAddr(&name);
     if (addr < 0) {
-        say(tr("Enter an address from %1 to %2.").arg(QStringLiteral("00"), m_wavesWidget->valueText(0xFF)));
-        m_addr->setFocus();
-        m_addr->selectAll();
+        refuseAddr();
         return;
     }
+    showProblem(false);
     const auto access = m_access->currentIndex() == 0 ? ProcSimWaveData::eAccessRd : ProcSimWaveData::eAccessWr;
-    addAddrChannel(addr, access, -1, {});
+    addAddrChannel(addr, access, -1, name);
     m_addr->selectAll();
 }
 
@@ -308,7 +366,8 @@ void ProcSimWaveViewer::addValue(int addr, eAccessType_t access, const QString& 
 
 bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name)
 {
-    sAddrChannel_t* channel = m_data.addChannel(addr, access, name);
+    const bool isNamed = !name.isEmpty() || !m_nameOf;
+    sAddrChannel_t* channel = m_data.addChannel(addr, access, isNamed ? name : m_nameOf(addr, access));
     if (channel == nullptr) {
         const sAddrChannel_t* present = m_data.channel(addr, access);
         m_tree->selectChannel(present);
@@ -393,6 +452,7 @@ void ProcSimWaveViewer::showEvent(QShowEvent* event)
     m_stale = false;
     m_wavesWidget->refresh();
     m_tree->showValues(m_wavesWidget->marker());
+    showMoment(-1);
 }
 
 /// @param pointed clock count under the pointer, -1 for none

@@ -4,6 +4,7 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -12,7 +13,6 @@ class QBoxLayout;
 class QComboBox;
 class QLabel;
 class QLineEdit;
-class QRegularExpressionValidator;
 class QScrollBar;
 
 namespace nsProc {
@@ -39,6 +39,15 @@ public:
 
     /// Owned by this object.
     ProcSimWaveData* data() { return &m_data; }
+    /// What the program calls a port: empty without a name.
+    using NameOf = std::function<QString(int addr, eAccessType_t access)>;
+    /// The address that a constant of the program stands for: 0 to 255, -1 if it is none.
+    using AddrOf = std::function<int(const QString& name)>;
+
+    /// Takes the names of the program. The functions must be callable as long as this lives.
+    void setPortNames(NameOf nameOf, AddrOf addrOf);
+    /// The program has changed: the channels get the names that it has now.
+    void updatePortNames();
     /// @param base 8, 10 or 16
     void setBase(int base);
     /// Forgets the values of all channels and keeps the channels. Time starts anew.
@@ -52,7 +61,7 @@ public:
     /// Watches a port from now on.
     /// @param addr 0 to 255
     /// @param initValue value at the present time, below 0 if it is unknown
-    /// @param name text of the row; if empty, the row tells access and address
+    /// @param name what the port is called; if empty, what the program calls it, and without that its address
     /// @return false if the port is watched already: its row becomes the present one
     bool addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name);
     /// The port is not watched any longer; the channel with its values is deleted.
@@ -69,7 +78,7 @@ public:
     QSize sizeHint() const override;
 
 public slots:
-    /// Watches the port whose address and access are entered.
+    /// Watches the port whose address, as a number or a constant, and access are entered.
     void addWave(bool checked = false);
     /// Watches no port any longer.
     void clear(bool checked = false);
@@ -96,10 +105,16 @@ private:
     void updateButtons();
     void showMoment(qint64 pointed);
     void say(const QString& text);
-    int enteredAddr() const;
+    /// @param name the constant that was entered; empty for a number
+    /// @return below 0 if no address is entered
+    int enteredAddr(QString* name) const;
+    void refuseAddr();
+    void showProblem(bool isProblem);
 
     ProcSimWaveData m_data;
     double m_clkFreq;
+    NameOf m_nameOf; ///< may be empty
+    AddrOf m_addrOf; ///< may be empty
     int m_base = 16;
     int m_waveCount = 0; ///< index of the next wave
     std::vector<std::unique_ptr<sWave_t>> m_waves;
@@ -111,7 +126,6 @@ private:
     QWidget* m_portTools = nullptr;
     QWidget* m_viewTools = nullptr;
     QLineEdit* m_addr = nullptr;
-    QRegularExpressionValidator* m_addrValidator = nullptr; ///< digits of the present base
     QComboBox* m_access = nullptr;
     QComboBox* m_unit = nullptr;
     QAbstractButton* m_add = nullptr;

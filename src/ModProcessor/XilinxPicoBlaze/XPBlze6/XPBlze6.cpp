@@ -47,7 +47,7 @@ nsProc::ProcConfigWidget* XPBlze6::createConfigWidget()
     return new XPBlze6ConfigWidget;
 }
 
-QList<QPair<QString, int*>> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const
+QList<nsProc::ProcShell::sCfgNumber> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const
 {
     return {{"scrpdSize", &settings->scrpdSize},
             {"intVectorAddr", &settings->intVectorAddr},

@@ -22,7 +22,7 @@ protected:
     QString cfgSection() const override;
     nsProc::ProcCoreConfig defaultConfig() const override;
     nsProc::ProcConfigWidget* createConfigWidget() override;
-    QList<QPair<QString, int*>> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
+    QList<sCfgNumber> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
 };
 
 } // namespace nsXPBlze6

@@ -26,13 +26,12 @@ void ProcSimFifoLines::setBase(int base)
 
 void ProcSimFifoLines::write(int value)
 {
-    if (m_pointer >= count()) {
-        m_pointer = count();
+    const int line = std::min(m_pointer, count());
+    if (line == count())
         m_lines.push_back(eMarkEmpty);
-    }
-    forget(m_pointer);
-    m_lines[static_cast<size_t>(m_pointer)] = qMax(0, value);
-    touch(m_pointer, m_pointer);
+    forget(line);
+    m_lines[static_cast<size_t>(line)] = qMax(0, value);
+    touch(line, line);
     ++m_pointer;
     appendEmptyAtEnd();
 }
@@ -128,7 +127,6 @@ void ProcSimFifoLines::replace(int first, int removed, const QStringList& texts)
     }
     if (m_lines.empty())
         m_lines.push_back(eMarkEmpty);
-    m_pointer = qMin(m_pointer, count() - 1);
     touch(first, added == removed ? first + added - 1 : count() - 1);
 }
 

@@ -18,18 +18,20 @@ public:
 
     /// @param base 8, 10 or 16
     void setBase(int base);
-    /// Replaces the line at the pointer, or appends one, and moves on. Never leaves the pointer behind the last line.
+    /// Replaces the line at the pointer, or appends one if there is none, and moves the pointer on by one. A list that would end
+    /// before the pointer gets an empty line.
     void write(int value);
-    /// @return false, with the pointer unchanged, if the line at the pointer holds no number
+    /// @return false, with the pointer unchanged, if there is no line at the pointer, or one that holds no number
     bool read(int* value);
     void resetPointer() { m_pointer = 0; }
+    /// A line number. There is no such line after an edit has shortened the list to less.
     int pointer() const { return m_pointer; }
     /// The list becomes these values, the pointer the first of them.
     void assign(const unsigned int* values, int count);
 
     int count() const { return static_cast<int>(m_lines.size()); }
     QString text(int line) const;
-    /// Replaces lines by others, as an edit in a text does. The pointer stays, as far as there is a line for it.
+    /// Replaces lines by others, as an edit in a text does. The pointer stays the line number that it is.
     /// @param first index, @param removed how many of the present lines go; both within the list
     void replace(int first, int removed, const QStringList& texts);
 

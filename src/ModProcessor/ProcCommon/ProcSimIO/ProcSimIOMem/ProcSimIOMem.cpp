@@ -19,7 +19,7 @@ ProcSimIODeviceView* ProcSimIOMem::createView()
 
 bool ProcSimIOMem::chkAddr(int addr)
 {
-    return addr >= this->addr() && addr < this->addr() + size();
+    return this->addr() != noAddr && addr >= this->addr() && addr < this->addr() + size();
 }
 
 void ProcSimIOMem::initValue(unsigned int* values, int count)

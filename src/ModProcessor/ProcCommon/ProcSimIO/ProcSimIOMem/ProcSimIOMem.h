@@ -41,6 +41,12 @@ public:
     void clearHighlighted() override;
     /// The words stay.
     void clear() override;
+    /// As long as the cell is the one that was written last.
+    bool holds(int addr, int value) const override
+    {
+        return m_lastAccess == eAccessWr && m_lastAddr == addr && m_lastValue == value &&
+               (addr >= size() || m_words[size_t(addr)] == unsigned(value));
+    }
 
     int size() const { return static_cast<int>(m_words.size()); }
     /// @param row within the size

@@ -14,6 +14,7 @@ public:
     bool value(int addr, QString name, int* value) override;
     void setMemSize(int size) override { Q_UNUSED(size) }
     void clear() override;
+    bool holds(int /*addr*/, int value) const override { return m_value == value; }
 
     int regValue() const { return m_value; }
     /// Value and bit field in one; a value outside of 0 to 255 is refused.

@@ -1,0 +1,24 @@
+#include "MyBusyCursor.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+
+MyBusyCursor::MyBusyCursor(int delay)
+    : m_delay(delay)
+{
+    m_timer.start();
+}
+
+MyBusyCursor::~MyBusyCursor()
+{
+    if (m_shown)
+        QGuiApplication::restoreOverrideCursor();
+}
+
+void MyBusyCursor::goesOn()
+{
+    if (m_shown || m_timer.elapsed() < m_delay || qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
+        return;
+    QGuiApplication::setOverrideCursor(Qt::WaitCursor);
+    m_shown = true;
+}

@@ -1,0 +1,196 @@
+// The values of constants: each `#EQU` after those that it names, in the order in which it names them.
+
+#include "ModAsmFe.h"
+
+#include "AsmFeParseArg.h"
+
+namespace nsModAsmFe {
+
+/// One `#EQU` on the way from the one whose value was asked for.
+struct ModAsmFe::sEquStep_t
+{
+    explicit sEquStep_t(Equ* e) : equ(e) {}
+
+    Equ* equ;
+    Equ* target = nullptr; ///< the `#EQU` whose value this one waits for
+    bool isFormula = false;
+    QStringList terms; ///< of an expression
+    std::vector<int> values; ///< of its terms, as far as they are known
+};
+
+bool ModAsmFe::syntacticsCheckEquArguments()
+{
+    m_equFailed = false;
+    for (Equ* equ = m_equList.first(); equ != nullptr; equ = equ->next)
+        syntacticsCheckEquArgument(equ);
+    m_equDeadEnds.clear();
+    return !m_equFailed;
+}
+
+/// Finds the value of an `#EQU`.
+///
+/// Constants can depend on one another over thousands of steps, so the way down is kept in a list and not on the machine's stack.
+/// One that fails may have got a kind all the same: it counts as done from then on. One that has none is looked at again whenever
+/// it is asked for, and reports again.
+bool ModAsmFe::syntacticsCheckEquArgument(Equ* root)
+{
+    if (root->arg->type != Arg::unset)
+        return true;
+    std::vector<sEquStep_t> path;
+    path.emplace_back(root);
+    m_equCheckStack.insert(root);
+    bool success = true;
+    while (!path.empty()) {
+        const eEquResult_t result = checkEquStep(&path, success);
+        if (result == equWaits) {
+            Equ* target = path.back().target;
+            success = true;
+            path.emplace_back(target);
+            m_equCheckStack.insert(target);
+            continue;
+        }
+        success = result == equDone;
+        m_equFailed = m_equFailed || !success;
+        m_equCheckStack.remove(path.back().equ);
+        path.pop_back();
+    }
+    return success;
+}
+
+/// Goes on with the last `#EQU` of the path.
+/// @param success the `#EQU` that it has waited for has got its value
+ModAsmFe::eEquResult_t ModAsmFe::checkEquStep(std::vector<sEquStep_t>* path, bool success)
+{
+    sEquStep_t& step = path->back();
+    const auto result = [](bool done) { return done ? equDone : equFailed; };
+    if (step.isFormula)
+        return checkEquFormula(&step);
+    if (step.target != nullptr)
+        return result(takeEquAlias(step, success));
+
+    Arg* arg = step.equ->arg;
+    ArgExt* ext = step.equ->argExt;
+    const SrcReference* srcRef = &step.equ->srcRef;
+    // A value can become empty when its parentheses are taken off: that one is refused below.
+    if (arg->name.isEmpty() && !step.equ->prepared) {
+        arg->type = Arg::empty;
+        m_msgHndlr->signMsg(errExpectArgument, srcRef);
+        return equFailed;
+    }
+    prepareEqu(step.equ);
+    if (Equ* target = m_equList.find(arg->nameSpace, arg->name))
+        return checkEquAlias(path, target);
+    if (AsmFeParseArg::isNumeric(arg->name))
+        return result(syntacticsCheckArgNumeric(srcRef, arg, ext));
+    if (m_regTable.contains(arg->name))
+        return result(syntacticsCheckArgReg(srcRef, arg, ext));
+    if (m_bankTable.contains(arg->name))
+        return result(syntacticsCheckArgBankName(srcRef, arg, ext));
+    if (isString(arg->name))
+        return result(syntacticsCheckArgString(srcRef, arg, ext, true));
+    if (isFormula(arg->name)) {
+        arg->type = Arg::numeric;
+        step.isFormula = true;
+        step.terms = AsmFeFormula().terms(arg->name);
+        return checkEquFormula(&step);
+    }
+    m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, arg->name);
+    return equFailed;
+}
+
+/// Takes parentheses and prefix off the value's text; doing so again changes nothing.
+void ModAsmFe::prepareEqu(Equ* equ)
+{
+    if (equ->prepared)
+        return;
+    equ->prepared = true;
+    syntacticsSetArgParentheses(equ->arg, equ->argExt);
+    syntacticsSetArgNameSpace(equ->arg, equ->nameSpace);
+}
+
+/// The last `#EQU` of the path is another name for the target.
+ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Equ* target)
+{
+    sEquStep_t& step = path->back();
+    // Where a chain of names has failed before, its end is known: each of thousands of names would walk the chain again.
+    const sEquDeadEnd_t deadEnd = m_equDeadEnds.value(step.equ, {step.equ, target});
+    step.target = deadEnd.target;
+    if (m_equCheckStack.contains(step.target)) {
+        m_msgHndlr->signMsg(errEquClosedLoop, &deadEnd.last->srcRef);
+        if (deadEnd.last == step.equ)
+            noteEquLoop(*path);
+        return equFailed;
+    }
+    if (step.target->arg->type == Arg::unset)
+        return equWaits;
+    return takeEquAlias(step, true) ? equDone : equFailed;
+}
+
+/// Takes over the value of the target: whatever it is, it is this one's value as a whole.
+/// @param success the target has one
+bool ModAsmFe::takeEquAlias(const sEquStep_t& step, bool success)
+{
+    if (!success) {
+        if (!m_equDeadEnds.contains(step.equ))
+            m_equDeadEnds.insert(step.equ, m_equDeadEnds.value(step.target, {step.equ, step.target}));
+        return false;
+    }
+    step.target->used = true;
+    step.equ->arg->takeValue(*step.target->arg);
+    return true;
+}
+
+/// The path ends in a name that stands on it already. Of a loop of names alone, each member meets itself at the one before it.
+void ModAsmFe::noteEquLoop(const std::vector<sEquStep_t>& path)
+{
+    const Equ* target = path.back().target;
+    size_t first = path.size() - 1;
+    while (path[first].equ != target && !path[first].isFormula)
+        --first;
+    m_equDeadEnds.insert(path.back().equ, {path.back().equ, path.back().target});
+    if (path[first].isFormula)
+        return;
+    m_equDeadEnds.insert(path[first].equ, {path.back().equ, path[first].equ});
+    for (size_t i = first + 1; i < path.size(); ++i)
+        m_equDeadEnds.insert(path[i].equ, {path[i - 1].equ, path[i].equ});
+}
+
+/// Goes on with the terms of an expression. The first one that gives no number ends it: those after it are not looked at.
+ModAsmFe::eEquResult_t ModAsmFe::checkEquFormula(sEquStep_t* step)
+{
+    Arg* arg = step->equ->arg;
+    const SrcReference* srcRef = &step->equ->srcRef;
+    while (int(step->values.size()) < step->terms.size()) {
+        const QString& term = step->terms.at(int(step->values.size()));
+        int value = 0;
+        if (AsmFeParseArg::isNumeric(term)) {
+            value = m_parseArg->toNumeric(term);
+        } else {
+            Equ* target = equOfTerm(arg->nameSpace, term);
+            if (target != nullptr && m_equCheckStack.contains(target)) {
+                m_msgHndlr->signMsg(errEquClosedLoop, srcRef);
+                return equFailed;
+            }
+            const bool wasAsked = step->target == target;
+            step->target = target;
+            if (target != nullptr && target->arg->type == Arg::unset && !wasAsked)
+                return equWaits;
+            if (!equTermValue(srcRef, term, target, &value))
+                return equFailed;
+        }
+        step->values.push_back(value);
+        step->target = nullptr;
+    }
+    size_t next = 0;
+    unsigned int result = 0;
+    const auto nextValue = [&](const QString&, int* value) {
+        *value = step->values.at(next++);
+        return true;
+    };
+    if (!evaluateFormula(srcRef, arg->name, nextValue, &result))
+        return equFailed;
+    arg->iValue = static_cast<int>(result);
+    return equDone;
+}
+
+} // namespace nsModAsmFe

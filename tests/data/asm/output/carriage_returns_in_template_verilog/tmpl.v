@@ -1,0 +1,3 @@
+{begin template}
+// ab
+{INIT_00}
