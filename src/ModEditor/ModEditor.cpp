@@ -2,6 +2,7 @@
 
 #include "EditorConfigPage.h"
 #include "EditorMemPageAddrMap.h"
+#include "EditorRecovery.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighterConfig.h"
@@ -73,6 +74,7 @@ void ModEditor::modInit()
     m_actionsEdit->setEnabled(false);
     m_actionsSim->setEnabled(false);
     m_supportMenu->setEnabled(false);
+    initRecovery();
 }
 
 void ModEditor::modInitIntermod()
@@ -87,6 +89,7 @@ void ModEditor::modInitIntermod()
 
 void ModEditor::modExitIntermod()
 {
+    closeRecoveryNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
     if (modMsgHook != nullptr)
@@ -98,6 +101,7 @@ void ModEditor::modExit()
     // Documents without a project have not been closed with it.
     while (!m_editorWidgets.isEmpty())
         removeEditorWidget(m_editorWidgets.first());
+    exitRecovery();
     delete m_supportMenu;
     m_supportMenu = nullptr;
     delete m_syntaxHighlighterConfig;
@@ -189,13 +193,16 @@ void ModEditor::prjOpen()
         m_configPage->setTabIndent(tabIndent);
     // One file has one path, also outside of the project's folder.
     const auto fileOf = [this](const QString& path) { return QDir::cleanPath(modPrjHook->convToAbsPath(path)); };
-    for (const QString& file : modPrjHook->value("ModEditor/openFiles", QStringList()))
+    // The list of a program that was killed is newer than that of the project file.
+    const RecoveryStore::Session session = takeSession();
+    const bool isKilled = !session.project.isEmpty();
+    for (const QString& file : isKilled ? session.files : modPrjHook->value("ModEditor/openFiles", QStringList()))
         openFileWidget(fileOf(file));
     configureEditorWidgets();
-    const QString lastFile = modPrjHook->value("ModEditor/lastFile", QString());
+    const QString lastFile = isKilled ? session.lastFile : modPrjHook->value("ModEditor/lastFile", QString());
     EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
     if (last != nullptr)
-        last->setCursorPos(modPrjHook->value("ModEditor/lastCursorPos", 0));
+        last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
     // Without a last file, too, there is a page that is shown.
     updateActionState();
 }
@@ -220,6 +227,10 @@ void ModEditor::prjSave()
 void ModEditor::prjClose()
 {
     closeAllFiles();
+    if (m_recovery != nullptr) {
+        m_recovery->setProject(QString());
+        m_recovery->putSession({});
+    }
     setActionState(nullptr);
     setMemPageAddrMap(nullptr);
 }
@@ -250,7 +261,7 @@ QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionCla
         return {};
     switch (actionClass) {
     case ModActionHookIf::eActionClassFile:
-        return m_actionsFile->menuActions();
+        return m_actionsFile->menuActions() << m_recoverAction << m_recoverSeparator;
     case ModActionHookIf::eActionClassEdit:
         return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
     case ModActionHookIf::eActionClassSimulator:

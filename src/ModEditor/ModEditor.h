@@ -19,6 +19,7 @@
 #include "ModScriptPluginIf.h"
 #include "ModSourcesPluginIf.h"
 #include "PluginList.h"
+#include "RecoveryStore.h"
 
 #include <QHash>
 #include <QList>
@@ -35,6 +36,7 @@ namespace nsModEditor {
 class DocumentWatcher;
 class EditorConfigPage;
 class EditorMemPageAddrMap;
+class EditorRecovery;
 class EditorStatusBar;
 class EditorSupportMenu;
 class EditorSyntaxHighlighterConfig;
@@ -85,8 +87,9 @@ public:
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
     void modInit() override;
     void modInitIntermod() override;
-    void modRun() override {}
-    bool modExitRequest() override { return true; }
+    void modRun() override;
+    /// Asks for the changed documents while the window is whole; afterwards each text is in its file or in the recovery store.
+    bool modExitRequest() override;
     void modExitIntermod() override;
     void modExit() override;
 
@@ -121,6 +124,7 @@ public:
     // ModPrjPluginIf
     void prjOpen() override;
     void prjOpened() override {}
+    void prjAboutToClose() override;
     void prjSave() override;
     void prjClose() override;
 
@@ -158,6 +162,8 @@ public:
     /// Open documents in the order of their creation. Owned.
     const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
     EditorStatusBar* statusBar() const;
+    /// Looks after what is not in a file; null before modInit() and after modExit().
+    EditorRecovery* recovery() const { return m_recovery; }
     /// Prints the document, or what is selected in it, as the printer is set.
     void printFile(EditorWidget* widget, QPrinter* printer);
 
@@ -271,6 +277,22 @@ private:
     void showError(const QString& text);
     void showWarning(const QString& text);
 
+    // What must not be lost (ModEditorRecovery.cpp)
+    void initRecovery();
+    void exitRecovery();
+    void settleFiles(bool isNew);
+    void settleFile(EditorWidget* widget, bool isNew);
+    bool keepText(EditorWidget* widget, bool isNew);
+    void keepSession();
+    RecoveryStore::Session takeSession();
+    QString prjFilePath() const;
+    void offerRecovery();
+    void showRecoverDialog();
+    void closeRecoveryNotice();
+    bool restoreText(const QString& id);
+    bool compareText(const QString& id, bool canRestore);
+    EditorWidget* documentOf(const QString& path) const;
+
     // State (ModEditor.cpp)
     void connectEditorWidget(EditorWidget* widget);
     void configureEditorWidget(EditorWidget* widget);
@@ -297,6 +319,10 @@ private:
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;
     sFindParameter_t m_findParameter;
+    EditorRecovery* m_recovery = nullptr;
+    QAction* m_recoverAction = nullptr; ///< enabled at any time, unlike those of the documents
+    QAction* m_recoverSeparator = nullptr;
+    QPointer<MyNoticeBar> m_recoveryNotice; ///< after a start that found texts, until its user closes it
     QString m_lastPath; ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays

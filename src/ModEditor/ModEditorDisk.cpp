@@ -3,6 +3,7 @@
 #include "ModEditor.h"
 
 #include "DocumentWatcher.h"
+#include "EditorRecovery.h"
 #include "EditorWidget.h"
 #include "MyNoticeBar.h"
 #include "TextCompareDialog.h"
@@ -123,6 +124,8 @@ bool ModEditor::writeDocument(EditorWidget* widget)
     format.settle(widget->text());
     widget->setFormatOnDisk(format);
     widget->clearModified();
+    if (m_recovery != nullptr)
+        m_recovery->setSaved(widget);
     removeDiskNotice(widget);
     watchDocuments();
     setActionStateEditorWidget(widget);

@@ -2,6 +2,7 @@
 
 #include "ModEditor.h"
 
+#include "EditorRecovery.h"
 #include "EditorWidget.h"
 
 #include "ModClipboardHookIf.h"
@@ -23,6 +24,12 @@ namespace nsModEditor {
 namespace {
 
 const int findReplaceFeatures = 3; ///< the documents can replace, and know whole words
+
+/// A new page without a file, a text or a change.
+bool isUntouched(EditorWidget* widget)
+{
+    return widget->filePath().isEmpty() && !widget->isModified() && widget->document()->isEmpty();
+}
 
 void setupDialog(QFileDialog* dialog)
 {
@@ -47,6 +54,8 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
     auto* widget = new EditorWidget;
     connectEditorWidget(widget);
     m_editorWidgets.append(widget);
+    if (m_recovery != nullptr)
+        m_recovery->add(widget);
     widget->setSyntaxHighlighterConfig(m_syntaxHighlighterConfig);
     widget->setTipManager(m_tipManager);
     widget->setSupportMenu(m_supportMenu);
@@ -67,6 +76,8 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
     m_editorWidgets.removeOne(widget);
+    if (m_recovery != nullptr)
+        m_recovery->forget(widget);
     // Its breakpoints go with it.
     ++m_simBreakpointsRevision;
     m_disk.remove(widget);
@@ -89,7 +100,10 @@ void ModEditor::focusCurrentWidget()
 
 void ModEditor::newFile(QString text)
 {
-    newEditorWidget(QString())->setText(text);
+    EditorWidget* widget = newEditorWidget(QString());
+    widget->setText(text);
+    // What a script or an import brings is nowhere on the disk.
+    widget->document()->setModified(!text.isEmpty());
 }
 
 EditorWidget* ModEditor::openFileWidget(const QString& path)
@@ -182,8 +196,10 @@ void ModEditor::saveAllFiles()
         // A dialog for an untitled document lets the user close pages meanwhile.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
-            // A file that the user has not touched here is left to whoever may have changed or removed it.
-            if (m_editorWidgets.contains(widget) && (widget->isModified() || !m_disk.value(widget).onDisk.isKnown()))
+            // A file that the user has not touched here is left to whoever may have changed or removed it, and a page that
+            // nobody has typed into needs no name.
+            if (m_editorWidgets.contains(widget) && !isUntouched(widget) &&
+                (widget->isModified() || !m_disk.value(widget).onDisk.isKnown()))
                 saveFile(widget);
         }
         setFileContentChanged();
@@ -250,8 +266,12 @@ void ModEditor::reloadFile(EditorWidget* widget)
     if (widget == nullptr || widget->filePath().isEmpty())
         return;
     const QString path = widget->filePath();
-    if (widget->isModified() && !askForReload(path))
-        return;
+    if (widget->isModified()) {
+        if (!askForReload(path) || !m_editorWidgets.contains(widget))
+            return;
+        keepText(widget, false);
+        m_recovery->release(widget);
+    }
     QByteArray bytes;
     if (m_editorWidgets.contains(widget) && readFile(path, &bytes))
         showContent(widget, bytes);
@@ -275,8 +295,7 @@ void ModEditor::closeFile(EditorWidget* widget)
 {
     if (widget == nullptr)
         return;
-    if (widget->isModified() && askForSave(widget->filePath()) && m_editorWidgets.contains(widget))
-        saveFile(widget);
+    settleFile(widget, false);
     if (m_editorWidgets.contains(widget))
         removeEditorWidget(widget);
 }

@@ -102,7 +102,8 @@ void ModEditor::setFileContentChanged()
 
 void ModEditor::chkProjectMembership(const QString& path)
 {
-    if (modSourcesHook != nullptr)
+    // Without a project there is nothing that a file could be a member of.
+    if (modSourcesHook != nullptr && modPrjHook != nullptr && modPrjHook->isValid())
         modSourcesHook->chkProjectMembership(path);
 }
 

@@ -169,6 +169,7 @@ bool ModPrj::closePrj()
     }
     nsModMsg::MsgGroup group(groupHook(), tr("Closing project %1...").arg(prjFileName()));
     m_closing = true;
+    m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjAboutToClose(); });
     if (modGuiHook != nullptr) {
         group.end(saveOpenPrj());
         modGuiHook->setWindowTitle(QString());

@@ -1,6 +1,7 @@
 // What is asked before something is lost, and what the answers do.
 
 #include "EditorModuleTest.h"
+#include "ModalAnswers.h"
 
 #include <QFileDialog>
 #include <QLineEdit>
@@ -111,6 +112,96 @@ TEST_F(Questions, cancelledDialogLeavesTheUntitledOneAndSavesTheOthers)
     EXPECT_EQ(read("a.psm"), "XNOP");
     EXPECT_EQ(editor.editorWidgets().size(), 2);
     EXPECT_EQ(sources.contentChanges, 1);
+}
+
+TEST_F(Questions, aCancelledDialogForTheFirstDocumentSavesThoseAfterIt)
+{
+    editor.newFile("untitled");
+    type(open("a.psm", "NOP"), "X");
+    type(open("b.psm", "NOP"), "Y");
+    ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
+    editor.saveAllFiles();
+    EXPECT_EQ(helper.seen(), 1);
+    EXPECT_EQ(read("a.psm"), "XNOP");
+    EXPECT_EQ(read("b.psm"), "YNOP");
+    EXPECT_TRUE(editor.editorWidgets().first()->isModified());
+    EXPECT_EQ(editor.editorWidgets().first()->toPlainText(), "untitled");
+    EXPECT_EQ(sources.contentChanges, 1);
+}
+
+TEST_F(Questions, saveAllAsksForNoNameOfAnUntouchedDocument)
+{
+    editor.newFile(QString());
+    type(open("a.psm", "NOP"), "X");
+    ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
+    editor.saveAllFiles();
+    EXPECT_EQ(helper.seen(), 0);
+    EXPECT_EQ(read("a.psm"), "XNOP");
+    // One that somebody has typed into has something to save, also when the text is gone again.
+    type(editor.editorWidgets().first(), "Z");
+    editor.saveAllFiles();
+    EXPECT_EQ(helper.seen(), 1);
+}
+
+TEST_F(Questions, aTextThatComesWithANewDocumentIsAChange)
+{
+    editor.newFile("from a script");
+    EXPECT_TRUE(editor.editorWidgets().first()->isModified());
+    EXPECT_FALSE(gui.widgets.value(editor.editorWidgets().first()).icon.isNull());
+    editor.newFile(QString());
+    EXPECT_FALSE(editor.editorWidgets().last()->isModified());
+    ModalHelper helper(answer(QMessageBox::No));
+    editor.closeAllFiles();
+    EXPECT_EQ(helper.seen(), 1);
+}
+
+TEST_F(Questions, withoutAProjectNobodyIsAskedForMembership)
+{
+    prj.path.clear();
+    editor.newFile("NOP");
+    ModalHelper helper(chooseFile(path("new.psm")));
+    EXPECT_TRUE(editor.saveFile());
+    open("a.psm");
+    EXPECT_TRUE(editor.saveFileAs(path("b.psm")));
+    EXPECT_EQ(sources.asked, QStringList());
+}
+
+TEST_F(Questions, theProjectIsStillWholeWhenItsDocumentsAreAskedFor)
+{
+    prj.registerPlugin(&editor);
+    type(open("a.psm", "NOP"), "X");
+    editor.newFile("NOP");
+    sources.asked.clear();
+    bool wasOpen = false;
+    int saves = -1;
+    ModalAnswers answers({[&](QDialog* dialog) {
+                              wasOpen = prj.isValid();
+                              saves = prj.saves;
+                              answer(QMessageBox::Yes)(dialog);
+                          },
+                          answer(QMessageBox::Yes), chooseFile(path("new.psm"))});
+    prj.close();
+    EXPECT_EQ(answers.seen(), 3);
+    EXPECT_TRUE(wasOpen);
+    EXPECT_EQ(saves, 0);
+    EXPECT_EQ(read("a.psm"), "XNOP");
+    // The new file can become a member, and is one of the open documents.
+    EXPECT_EQ(sources.asked, QStringList({path("new.psm")}));
+    EXPECT_EQ(prj.saved.get("ModEditor/openFiles", QStringList()), QStringList({"a.psm", "new.psm"}));
+    EXPECT_TRUE(editor.editorWidgets().isEmpty());
+}
+
+TEST_F(Questions, theEndOfTheProgramAsksOnceAndBeforeAnythingElse)
+{
+    prj.registerPlugin(&editor);
+    type(open("a.psm", "NOP"), "X");
+    ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
+    EXPECT_TRUE(editor.modExitRequest());
+    EXPECT_EQ(helper.seen(), 1);
+    EXPECT_EQ(editor.editorWidgets().size(), 1);
+    prj.close();
+    EXPECT_EQ(helper.seen(), 1);
+    EXPECT_EQ(read("a.psm"), "NOP");
 }
 
 TEST_F(Questions, openDialogOpensWhatWasChosen)

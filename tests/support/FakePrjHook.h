@@ -76,6 +76,8 @@ public:
     /// Saves and closes the project.
     void close()
     {
+        for (ModPrjPluginIf* plugin : QList<ModPrjPluginIf*>(plugins))
+            plugin->prjAboutToClose();
         savePrjCfg();
         saved = tree;
         path.clear();
