@@ -73,10 +73,12 @@ TEST_F(GuiTest, TheFirstWindowStandsInsideTheScreenWithItsTitleBar)
     ASSERT_GT(title, 0);
     EXPECT_GE(window.geometry().top(), screen.top() + title);
     EXPECT_GE(window.geometry().left(), screen.left());
-    if (size.width() <= screen.width())
+    if (size.width() <= screen.width()) {
         EXPECT_LE(window.geometry().right(), screen.right());
-    if (size.height() + title <= screen.height())
+    }
+    if (size.height() + title <= screen.height()) {
         EXPECT_LE(window.geometry().bottom(), screen.bottom());
+    }
 }
 
 TEST_F(GuiTest, AWindowOfAScreenThatIsGoneComesBackOntoOne)

@@ -53,8 +53,9 @@ inline QPixmap expectReadable(QWidget* root)
         const int needed = Qt::mightBeRichText(text) ? widget->minimumSizeHint().width()
                                                      : widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
         // A line that takes any width shortens its text by itself, with an ellipsis.
-        if (widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored)
+        if (widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored) {
             EXPECT_GE(widget->width(), needed) << "cut off: " << qPrintable(text);
+        }
         const QPoint place = widget->mapTo(root, QPoint(0, 0));
         int darkest = 255;
         int lightest = 0;
