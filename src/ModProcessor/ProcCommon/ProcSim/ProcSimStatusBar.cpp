@@ -56,14 +56,14 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     m_timeFactor = timeOfClock(clkFreq, &unit);
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(4, 0, 4, 0);
-    layout->setSpacing(6);
+    layout->setSpacing(4);
     // What follows a number must not move while it grows.
     const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
-    m_state = addValue(QStringLiteral("procSimState"), stateWidth + 4);
+    m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setToolTip(tr("Whether the program is running"));
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
-    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEXX")));
+    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")));
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
     layout->addWidget(new QLabel(tr("clocks"), this));
