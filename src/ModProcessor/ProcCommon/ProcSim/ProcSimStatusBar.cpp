@@ -55,15 +55,15 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     const char* unit = nullptr;
     m_timeFactor = timeOfClock(clkFreq, &unit);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(4, 0, 4, 0);
-    layout->setSpacing(4);
+    layout->setContentsMargins(2, 0, 2, 0);
+    layout->setSpacing(3);
     // What follows a number must not move while it grows.
     const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
     m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setToolTip(tr("Whether the program is running"));
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
-    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")));
+    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
     layout->addWidget(new QLabel(tr("clocks"), this));
