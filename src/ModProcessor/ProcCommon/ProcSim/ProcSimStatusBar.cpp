@@ -55,21 +55,18 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     const char* unit = nullptr;
     m_timeFactor = timeOfClock(clkFreq, &unit);
     auto* layout = new QHBoxLayout(this);
-    layout->setContentsMargins(8, 0, 8, 0);
-    layout->setSpacing(6);
+    layout->setContentsMargins(2, 0, 2, 0);
+    layout->setSpacing(3);
     // What follows a number must not move while it grows.
     const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
-    m_state = addValue(QStringLiteral("procSimState"), stateWidth + 4);
+    m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setToolTip(tr("Whether the program is running"));
-    layout->addSpacing(8);
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
-    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEXX")));
-    layout->addSpacing(8);
+    m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
-    m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(12, '0')));
+    m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
     layout->addWidget(new QLabel(tr("clocks"), this));
-    layout->addSpacing(8);
     layout->addWidget(new MyStatusBarTitle(tr("Time count:"), this));
     m_time = addValue(QStringLiteral("procSimTime"), fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")));
     layout->addWidget(new QLabel(QString::fromLatin1(unit), this));
