@@ -295,7 +295,8 @@ TEST_F(AsmToolOtherUser, AReadOnlyProjectAssembles)
     // Its outputs have no place to go.
     const AsmToolResult output = run({"-q", "p.nalvo"}, asOther());
     EXPECT_EQ(output.status, 1);
-    EXPECT_EQ(output.errLines(), QStringList("error: Can not open output file: " + path("out.hex")));
+    EXPECT_EQ(output.errLines(),
+              QStringList("error: Can not open output file: " + path("out.hex") + " [errTargetOpenOutput]"));
     const AsmToolResult listing = run({"-q", "-e", "none", "-l", "list", "p.nalvo"}, asOther());
     EXPECT_EQ(listing.status, 1);
     EXPECT_EQ(listing.errLines(), QStringList("error: Can not write list: Permission denied"));
