@@ -62,7 +62,8 @@ void EditorConfigPage::addTextCompletion(MyPageLayout* layout)
                                             tr("For the completion of words: how many typed characters it begins with"),
                                             tr(" characters"), EditorConfig::maxPrefixLength);
     m_textCompleterItemCount = addNumber(layout, "textCompleterItemCount", tr("Completion list proposal count:"),
-                                         tr("For the completion of words: how many proposals are seen at once"), QString(), EditorConfig::maxItemCount);
+                                         tr("For the completion of words: how many proposals are seen at once"), QString(),
+                                         EditorConfig::maxItemCount);
 }
 
 void EditorConfigPage::addHighlighting(MyPageLayout* layout)

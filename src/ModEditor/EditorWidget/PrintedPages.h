@@ -29,8 +29,8 @@ struct sPrintJob
     int end = 0;        ///< the position after the last one
 };
 
-/// A document, or a stretch of it, on pages: lines with their numbers in the document, too long ones in several rows, below a
-/// head with file name and date and above a foot with the number of the page.
+/// A document, or a stretch of it, on pages: lines with their numbers in the document, too long ones in several rows,
+/// below a head with file name and date and above a foot with the number of the page.
 class PrintedPages
 {
 public:
