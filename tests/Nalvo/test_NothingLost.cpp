@@ -117,6 +117,7 @@ TEST_F(NothingLost, theQuestionAtTheEndComesWhileTheWindowIsWhole)
     ASSERT_NE(bar, nullptr);
     EXPECT_TRUE(bar->isVisible());
     openProject();
+    EXPECT_TRUE(bar->isVisible());
     screenshot("recoveryNotice");
     ModalAnswers restore({[&](QDialog* dialog) {
         screenshot("recoverDialog", dialog);
@@ -143,7 +144,7 @@ TEST_F(NothingLost, aClosedNoticeDoesNotComeAgain)
     auto* bar = window->findChild<MyNoticeBar*>();
     ASSERT_NE(bar, nullptr);
     bar->findChild<QPushButton*>("noticeBarClose")->click();
-    EXPECT_EQ(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationCenterBelow), nullptr);
+    EXPECT_FALSE(module<ModGuiHookIf>()->widgetVisible(ModGuiHookIf::eLocationCenterBelow));
     EXPECT_TRUE(closeWindow());
     makeWindow();
     EXPECT_EQ(window->findChild<MyNoticeBar*>(), nullptr);
