@@ -169,6 +169,7 @@ void ModEditor::offerRecovery()
     connect(button, &QPushButton::clicked, this, [this] {
         showRecoverDialog();
         closeRecoveryNotice();
+        focusCurrentWidget();
     });
     connect(m_recoveryNotice, &MyNoticeBar::closed, this, [this, entries] {
         for (const RecoveryStore::Entry& entry : entries)
