@@ -194,8 +194,9 @@ Equ* ModAsmFe::equOfTerm(const QString& nameSpace, const QString& term) const
     return m_equList.find(termNameSpace, name);
 }
 
-/// Takes the value of an `#EQU` that has been checked for a term. What is wrong with the constant stands at the constant; that it
-/// gives no value here, stands here.
+/// Takes the value of an `#EQU` that has been checked for a term. What is wrong with the constant is reported at the constant; that
+/// the term has no value is reported here.
+/// @param equ null if the term names none
 bool ModAsmFe::equTermValue(const SrcReference* srcRef, const QString& term, Equ* equ, int* value)
 {
     if (equ == nullptr || equ->arg->type != Arg::numeric) {

@@ -143,7 +143,7 @@ bool ModAsmFe::parseLineDirectiveDef(SrcReference* srcRef)
         return false;
     }
     addDefine(name);
-    // The define stands, so the program is not the less clear for what follows it.
+    // The define stands, and the run goes on.
     if (!isEmpty(eTagArg1))
         m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, tag(eTagArg1));
     return true;

@@ -27,11 +27,12 @@ const QString keyWidth = QStringLiteral("ModGui/width");
 const QString keyHeight = QStringLiteral("ModGui/height");
 const QString keyX = QStringLiteral("ModGui/x");
 const QString keyY = QStringLiteral("ModGui/y");
-const QString keyState = QStringLiteral("ModGui/state"); ///< tool bars and docks, as the window writes them, in base 64
-const QString keyDockShares = QStringLiteral("ModGui/dockShares");
-const QString keyMaximized = QStringLiteral("ModGui/maximized"); ///< 0 or 1
+/// A list of entries: the shares of the docks, the two below. All that is not in the stated keys.
+const QString keyState = QStringLiteral("ModGui/state");
+const QString entryMaximized = QStringLiteral("maximized");
+const QString entryBars = QStringLiteral("bars="); ///< tool bars and docks, as the window writes them, in base 64
 
-const int stateVersion = 1;       ///< of what keyState holds
+const int stateVersion = 1; ///< of the bars
 const QSize pictureWindow(1280, 750); ///< window size for pictures of the program
 const int pictureDockHeight = 200;    ///< height of the bottom dock in these
 const QSize windowIconSize(22, 22);
@@ -440,15 +441,17 @@ void ModGui::restoreState()
 {
     if (modCfgAppHook == nullptr || m_window == nullptr)
         return;
-    const QByteArray state = QByteArray::fromBase64(modCfgAppHook->value(keyState, QString()).toLatin1());
-    if (!state.isEmpty())
-        m_window->restoreState(state, stateVersion);
+    const QStringList state = modCfgAppHook->value(keyState, QStringList());
+    for (const QString& entry : state) {
+        if (entry.startsWith(entryBars))
+            m_window->restoreState(QByteArray::fromBase64(entry.mid(entryBars.size()).toLatin1()), stateVersion);
+    }
     // Which docks are seen is not a matter of the last time, but of what they hold now.
     for (WidgetAreaDock* dock : qAsConst(m_docks)) {
         if (dock != nullptr)
             dock->setVisible(true);
     }
-    m_dockShares->setShares(modCfgAppHook->value(keyDockShares, QStringList()));
+    m_dockShares->setShares(state);
 }
 
 void ModGui::modExit()
@@ -491,7 +494,7 @@ void ModGui::rdAppCfg()
         QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), m_window);
     m_window->setGeometry(geometry);
     m_window->setIconSize(windowIconSize);
-    if (modCfgAppHook->value(keyMaximized, 0) == 1)
+    if (modCfgAppHook->value(keyState, QStringList()).contains(entryMaximized))
         m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
 
     delete m_splashScreen;
@@ -505,9 +508,11 @@ void ModGui::wrAppCfg()
         return;
     const bool maximized = m_window->isMaximized();
     const QRect geometry = maximized ? m_window->normalGeometry() : m_window->geometry();
-    modCfgAppHook->setValue(keyMaximized, maximized ? 1 : 0);
-    modCfgAppHook->setValue(keyState, QString::fromLatin1(m_window->saveState(stateVersion).toBase64()));
-    modCfgAppHook->setValue(keyDockShares, m_dockShares->shares());
+    QStringList state = m_dockShares->shares();
+    if (maximized)
+        state.append(entryMaximized);
+    state.append(entryBars + QString::fromLatin1(m_window->saveState(stateVersion).toBase64()));
+    modCfgAppHook->setValue(keyState, state);
     modCfgAppHook->setValue(keyWidth, geometry.width());
     modCfgAppHook->setValue(keyHeight, geometry.height());
     modCfgAppHook->setValue(keyX, geometry.x());

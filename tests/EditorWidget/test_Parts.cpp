@@ -188,7 +188,7 @@ TEST(EditorStatusBar, ShowsFontSizeAndMode)
     QStringList titles;
     for (const QLabel* label : bar.findChildren<QLabel*>("statusBarTitle"))
         titles.append(label->text());
-    EXPECT_EQ(titles, (QStringList{"Font size:", "Mode:"}));
+    EXPECT_EQ(titles, (QStringList{"Font size:", "Mode:", "File:"}));
     auto* size = bar.findChild<QLabel*>("editorStatusBarFontSize");
     auto* mode = bar.findChild<QLabel*>("editorStatusBarMode");
     ASSERT_NE(size, nullptr);

@@ -37,7 +37,7 @@ QStringList shownFor(const QByteArray& source)
 
 TEST(EquMessages, termThatIsALoop)
 {
-    // The loop is a loop for whoever meets it, and gives no number to the one that asks.
+    // The loop is reported again for each constant that leads to it, and is no number for the expression.
     EXPECT_EQ(shownFor("#EQU dd, aa + 1\n#EQU aa, aa\n"),
               QStringList({"errEquClosedLoop 2", "errExprNonNumericTerm 1", "errEquClosedLoop 2"}));
     EXPECT_EQ(shownFor("#EQU aa, aa\n#EQU dd, aa + 1\n"),
@@ -66,7 +66,7 @@ TEST(EquMessages, nothingIsReadAfterTheFirstFailingTerm)
     // One that has a kind in spite of its failure gives a number: the term after it is a loop.
     EXPECT_EQ(shownFor("#EQU foo, bb + foo\n#EQU bb, nowhere + 1\n"),
               QStringList({"errExprNonNumericTerm 2", "errEquClosedLoop 1"}));
-    // Numbers that have no value speak in their turn, too.
+    // Numbers without a value report in their turn, too.
     EXPECT_EQ(shownFor("#EQU foo, 0d1 + bb + 0o1\n#EQU bb, nowhere\n"),
               QStringList({"errExpectArgument", "errUnsupportedArgument 2", "errExprNonNumericTerm 1",
                            "errUnsupportedArgument 2"}));
@@ -162,7 +162,7 @@ private:
         int value = 0;
     };
 
-    void say(const char* key, int at) { m_shown.append(QString("%1 %2").arg(key).arg(at + 1)); }
+    void report(const char* key, int at) { m_shown.append(QString("%1 %2").arg(key).arg(at + 1)); }
 
     bool check(int i)
     {
@@ -173,12 +173,12 @@ private:
         switch (constant.kind) {
         case kindEmpty:
             state.type = typeOther;
-            say("errExpectArgument", i);
+            report("errExpectArgument", i);
             return false;
         case kindAlias:
             if (constant.left >= 0)
                 return checkAlias(i);
-            say("errUnsupportedArgument", i);
+            report("errUnsupportedArgument", i);
             return false;
         case kindNumber:
             state = {typeNumeric, constant.value};
@@ -188,10 +188,10 @@ private:
             return true;
         case kindRegWithAttr:
             state.type = typeOther;
-            say("errUnsupportedAttribute", i);
+            report("errUnsupportedAttribute", i);
             return false;
         case kindNowhere:
-            say("errUnsupportedArgument", i);
+            report("errUnsupportedArgument", i);
             return false;
         default:
             return checkExpression(i);
@@ -203,7 +203,7 @@ private:
     {
         if (!m_path.contains(target))
             return true;
-        say("errEquClosedLoop", from);
+        report("errEquClosedLoop", from);
         return false;
     }
 
@@ -229,7 +229,7 @@ private:
         if (!hasTerms)
             return false;
         if (constant.kind == kindBroken || (constant.kind == kindQuotient && values[1] == 0)) {
-            say("errSyntax", i);
+            report("errSyntax", i);
             return false;
         }
         m_states[size_t(i)].value = constant.kind == kindSum ? values[0] + values[1] : values[0] / values[1];
@@ -239,7 +239,7 @@ private:
     bool term(int i, int target, int* value)
     {
         if (target < 0) {
-            say("errExprNonNumericTerm", i);
+            report("errExprNonNumericTerm", i);
             return false;
         }
         if (!isFree(i, target))
@@ -248,7 +248,7 @@ private:
         const State& state = m_states[size_t(target)];
         *value = state.value;
         if (state.type != typeNumeric)
-            say("errExprNonNumericTerm", i);
+            report("errExprNonNumericTerm", i);
         return state.type == typeNumeric;
     }
 

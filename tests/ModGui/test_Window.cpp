@@ -127,7 +127,7 @@ TEST_F(GuiTest, AMaximizedWindowComesBackMaximizedAndKeepsItsSizeForLater)
     window.setGeometry(50, 60, 900, 650);
     window.show();
     window.showMaximized();
-    QTRY_VERIFY_WITH_TIMEOUT(window.isMaximized() && window.size() != QSize(900, 650), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return window.isMaximized() && window.size() != QSize(900, 650); }, 60000));
     gui->wrAppCfg();
     EXPECT_EQ(cfg.value("ModGui/width", 0), 900);
     EXPECT_EQ(cfg.value("ModGui/height", 0), 650);

@@ -268,7 +268,13 @@ TEST_F(EditorInWindow, aFileThatChangesOutsideIsFollowedOrReported)
     EXPECT_EQ(widget->leftMargin()->geometry().top(), widget->viewport()->geometry().top());
     screenshot("document_changed_outside");
     QTest::keyClick(widget, Qt::Key_F6);
+    QWidget* first = QApplication::focusWidget();
+    EXPECT_TRUE(bar->isAncestorOf(first));
+    const QString text = widget->text();
+    QTest::keyClick(first, Qt::Key_Tab);
     EXPECT_TRUE(bar->isAncestorOf(QApplication::focusWidget()));
+    EXPECT_NE(QApplication::focusWidget(), first);
+    EXPECT_EQ(widget->text(), text);
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     EXPECT_TRUE(widget->hasFocus());
     EXPECT_EQ(content(source("main.psm")), "; again\n" + before);

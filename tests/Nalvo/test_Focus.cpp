@@ -114,15 +114,17 @@ TEST_F(Focus, isInThePageWhoseTabIsClicked)
     EditorWidget* first = open("main.psm");
     open("uart.psm");
     messageView()->setFocus();
+    ASSERT_FALSE(isInPage());
     QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
                       tabs()->tabBar()->tabRect(tabs()->indexOf(first)).center());
     ASSERT_EQ(page(), first);
-    QTRY_VERIFY_WITH_TIMEOUT(isInPage(), 60000);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isInPage(); }, 60000)) << where();
     // Also where it is in front already.
     messageView()->setFocus();
+    ASSERT_FALSE(isInPage());
     QTest::mouseClick(tabs()->tabBar(), Qt::LeftButton, Qt::NoModifier,
                       tabs()->tabBar()->tabRect(tabs()->indexOf(first)).center());
-    QTRY_VERIFY_WITH_TIMEOUT(isInPage(), 60000);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return isInPage(); }, 60000)) << where();
 }
 
 TEST_F(Focus, isInTheSourceThatAMessageLeadsTo)

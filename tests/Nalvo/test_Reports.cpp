@@ -1,5 +1,6 @@
 // What an action reports is on the screen when the action has ended, also if it let the assembler run on its way.
 
+#include "FullDisk.h"
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
 
@@ -14,34 +15,9 @@
 #include <QLineEdit>
 #include <QMessageBox>
 
-#include <csignal>
-#include <sys/resource.h>
-
 using nsModEditor::EditorWidget;
 
 namespace {
-
-/// A disk that is full: no file of this process grows over the limit.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-        : m_handler(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_before);
-        std::signal(SIGXFSZ, m_handler);
-    }
-
-private:
-    void (*m_handler)(int);
-    rlimit m_before{};
-};
 
 class Reports : public MainWindowFixture
 {

@@ -128,8 +128,7 @@ TEST_F(WindowState, docksAndToolBarsComeBackAtTheNextStart)
 
 TEST_F(WindowState, aStoredStateThatIsNoneDoesNoHarm)
 {
-    writeSetting("ModGui/state", "no state");
-    writeSetting("ModGui/dockShares", "dockLeft=7:dockBottom:dockRight=x:=0.5:dockNone=0.3");
+    writeSetting("ModGui/state", "dockLeft=7:dockBottom:dockRight=x:=0.5:dockNone=0.3:bars=no bars:bars=::other");
     show(1200, 800);
     auto* gui = module<ModGuiHookIf>();
     EXPECT_GE(gui->currentWidget(ModGuiHookIf::eLocationTabs)->width(), 300);

@@ -128,7 +128,7 @@ TEST_F(SimToolOutcome, NotAssembled)
 
 TEST_F(SimToolOutcome, WhatIsAssembledRunsInSpiteOfAnError)
 {
-    // A jump that is too far is told as an internal error and cut to 12 bits; the window runs such a program, too.
+    // A jump that is too far is reported as an internal error and cut to 12 bits. The window runs such a program, too.
     AsmProject project;
     project.processor = "Lattice Mico8 v3.x";
     project.settings["LMico8v3x/memMap/pageSize"] = "8192";

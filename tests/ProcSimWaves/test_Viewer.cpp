@@ -136,12 +136,12 @@ TEST_F(WavesViewer, NoAddressIsNoPort)
     viewer->setBase(10);
     type("256");
     EXPECT_TRUE(viewer->data()->isEmpty());
-    EXPECT_EQ(message(), "\"256\" is neither an address from 00 to 255 nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to 255: \"256\"");
     // No digits of another base.
     viewer->setBase(8);
     type("89");
     EXPECT_TRUE(viewer->data()->isEmpty());
-    EXPECT_EQ(message(), "\"89\" is neither an address from 00 to 377 nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to 377: \"89\"");
 }
 
 TEST_F(WavesViewer, SecondTimeIsRefusedKindly)

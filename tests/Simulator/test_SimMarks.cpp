@@ -93,28 +93,40 @@ TEST_F(SimMarks, TheStartMarkCountsInAnySource)
     EXPECT_EQ(currentDocument()->filePath(), otherSource());
 }
 
+// Address 0 is not at the first instruction of the sources.
+const QStringList startsBelow = {
+    "#SET INSTMEM::PAGESIZE, 1024",           // 0
+    "#SET INSTMEM::PAGECOUNT, 2",             // 1
+    "#SET INSTMEM::SHAREDMEMLOCATION, HIMEM", // 2
+    "#ORG MEMRANGE, PAGE1",                   // 3
+    "second: JUMP common",                    // 4
+    "#ORG MEMRANGE, PAGE0",                   // 5
+    "first: JUMP common",                     // 6
+    "#ORG MEMRANGE, SHARED",                  // 7
+    "common: NOP",                            // 8
+    "end: JUMP end",                          // 9
+};
+
+TEST_F(SimMarks, TheProgramStartsAtAddressZeroWhereverThatStands)
+{
+    ASSERT_TRUE(start("XPBlze3", startsBelow)) << messageTexts().join('\n').toStdString();
+    EXPECT_EQ(pcLine(), 6);
+}
+
 TEST_F(SimMarks, AStartMarkInAForeignFileDoesNotCount)
 {
-    ASSERT_TRUE(open("XPBlze3", {"; text", "NOP", "NOP", "end: JUMP end", "#ORG ADDR, 0x10", "other: NOP"}));
+    ASSERT_TRUE(open("XPBlze3", startsBelow)) << messageTexts().join('\n').toStdString();
     nsModEditor::EditorWidget* foreign = openForeign("notes.psm", "one\ntwo\nthree\nfour\nfive\nsix\n");
     ASSERT_NE(foreign, nullptr);
     foreign->setSimStartPointer(5);
     trigger(Action::eActionEnable);
     ASSERT_NE(sim(), nullptr);
     ASSERT_NE(sim()->programCounter(), nullptr);
-    EXPECT_EQ(pcLine(), 1);
+    EXPECT_EQ(pcLine(), 6);
     EXPECT_EQ(messages("The current file not part of the project."), 0);
     trigger(Action::eActionNextInstruction);
+    EXPECT_EQ(pcLine(), 8);
     trigger(Action::eActionReset);
-    EXPECT_EQ(pcLine(), 1);
-}
-
-TEST_F(SimMarks, TheProgramStartsAtAddressZeroWhereverThatStands)
-{
-    ASSERT_TRUE(start("XPBlze3", {"#SET INSTMEM::PAGESIZE, 1024", "#SET INSTMEM::PAGECOUNT, 2",
-                                  "#SET INSTMEM::SHAREDMEMLOCATION, HIMEM", "#ORG MEMRANGE, PAGE1", "other: JUMP other",
-                                  "#ORG MEMRANGE, PAGE0", "end: JUMP end"}))
-        << messageTexts().join('\n').toStdString();
     EXPECT_EQ(pcLine(), 6);
 }
 

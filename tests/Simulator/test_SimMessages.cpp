@@ -68,6 +68,12 @@ protected:
                     "Can not restore program counter. Please set manually from cursor."};
         case nsProc::errPcNoPrjFile:
             return {"XPBlze3", {"NOP", "end: JUMP end"}, "The current file not part of the project.", 0};
+        case nsProc::warnIODevNoPort:
+            return {"XPBlze3",
+                    {"#SET IODEV::far::EN, TRUE", "#SET IODEV::far::TYPE, REG", "#SET IODEV::far::SIZE, 1",
+                     "#SET IODEV::far::BASEADDR, 0x10000", "#SET IODEV::far::SIMEN, TRUE",
+                     "#SET IODEV::far::SIMACCESSMODE, RD", "NOP", "end: JUMP end"},
+                    "The address of IO device IODEV::far does not fit into 16 bits. It answers at no port."};
         case nsProc::eSimMsgCount:
             break;
         }
@@ -127,6 +133,25 @@ protected:
         for (int step = 0; step < steps; ++step)
             sim()->simNextInstruction();
     }
+    /// @return the key of the last message
+    QString provokeInSim(eSimMsg_t msg, FakeMsgHook* shown)
+    {
+        ModMsgHookIf* const real = sim()->modMsgHook;
+        sim()->modMsgHook = shown;
+        sim()->takeLastMsg();
+        provoke(msg);
+        sim()->modMsgHook = real;
+        return sim()->takeLastMsg();
+    }
+    /// The same for a message of the start: a second simulator, without widgets, starts on the program.
+    QString provokeAtStart(FakeMsgHook* shown)
+    {
+        const std::unique_ptr<nsProc::ProcSim> second(shell()->createSim());
+        second->modAsmFeHook = asmFe();
+        second->modMsgHook = shown;
+        EXPECT_TRUE(second->simInit(shell()->runConfig()));
+        return second->takeLastMsg();
+    }
     void reload(eSimMsg_t msg)
     {
         QStringList lines = scenario(msg).program;
@@ -148,14 +173,9 @@ TEST_P(SimMessages, IsProvokedWithItsGradeAndItsHelp)
     const auto msg = eSimMsg_t(GetParam());
     const sScenario_t wanted = scenario(msg);
     ASSERT_TRUE(start(wanted.processor, wanted.program)) << messageTexts().join('\n').toStdString();
-    FakeMsgHook shown;
-    ModMsgHookIf* const real = sim()->modMsgHook;
-    sim()->modMsgHook = &shown;
-    sim()->takeLastMsg();
-    provoke(msg);
-    sim()->modMsgHook = real;
     const QString key = QString::fromLatin1(nsProc::simMsg(msg)->key);
-    EXPECT_EQ(sim()->takeLastMsg(), key);
+    FakeMsgHook shown;
+    EXPECT_EQ(msg == nsProc::warnIODevNoPort ? provokeAtStart(&shown) : provokeInSim(msg, &shown), key);
     const QList<FakeMsgHook::Entry> entries = shown.messages();
     ASSERT_FALSE(entries.isEmpty());
     const FakeMsgHook::Entry& entry = entries.last();

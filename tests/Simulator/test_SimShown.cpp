@@ -28,13 +28,13 @@ using nsProc::ProcSimIOPluginIf;
 using nsProc::ProcSimPorts;
 using Data = nsProc::ProcSimWaveData;
 
-/// The widget of a class with this tool tip that is shown below a parent, such as in the selected bank; null if there
+/// The first widget of a class whose tool tip begins so that is shown below a parent, such as in the selected bank; null if there
 /// is none.
 template <class Widget>
 Widget* byToolTip(const QWidget* parent, const QString& toolTip)
 {
     for (Widget* candidate : parent->findChildren<Widget*>()) {
-        if (candidate->toolTip() == toolTip && candidate->isVisibleTo(parent))
+        if (candidate->toolTip().startsWith(toolTip) && candidate->isVisibleTo(parent))
             return candidate;
     }
     return nullptr;
@@ -211,14 +211,7 @@ TEST_P(SimBase, ReachesAllThatIsShown)
     trigger(base.action == Action::eActionBaseDec ? Action::eActionBaseOct : Action::eActionBaseDec);
     trigger(base.action);
     EXPECT_EQ(fieldText("Register s0"), base.reg);
-    EXPECT_EQ(
-        field("Address of the next instruction. To go elsewhere, set the program counter from the text cursor.") !=
-            nullptr,
-        true);
-    bool isPcShown = false;
-    for (const ProcSimEdtNumeric* candidate : sim()->coreWidget()->findChildren<ProcSimEdtNumeric*>())
-        isPcShown = isPcShown || (candidate->value() == 0x11 && candidate->text().endsWith(base.returnsTo));
-    EXPECT_TRUE(isPcShown);
+    EXPECT_TRUE(fieldText("Address of the next instruction").endsWith(base.returnsTo));
     bool isCellShown = false;
     for (const ProcSimEdtNumeric* candidate : sim()->coreWidget()->findChildren<ProcSimEdtNumeric*>())
         isCellShown = isCellShown || (candidate->text() == base.cell && candidate != field("Register s0"));

@@ -117,16 +117,18 @@ TEST_F(SimWaves, WhatIsNeitherNumberNorConstantIsRefusedInSight)
         type(text);
         EXPECT_TRUE(viewer->data()->isEmpty()) << text.toStdString();
         EXPECT_EQ(field->text(), text);
-        EXPECT_EQ(message(), "\"" + text + "\" is neither an address from 00 to FF nor a constant with such a value.");
+        EXPECT_EQ(message(), "No address from 00 to FF: \"" + text + "\"");
         EXPECT_TRUE(isRefused()) << text.toStdString();
         EXPECT_TRUE(field->hasFocus());
     }
     // These are constants, but no ports.
     type("BAUD");
-    EXPECT_EQ(message(), "\"BAUD\" is neither an address from 00 to FF nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to FF: \"BAUD\"");
+    EXPECT_EQ(viewer->findChild<QLabel*>("statusBarTitle")->toolTip(),
+              "\"BAUD\" is neither an address from 00 to FF nor a constant with such a value.");
     EXPECT_TRUE(isRefused());
     type("KEYS");
-    EXPECT_EQ(message(), "\"KEYS\" is neither an address from 00 to FF nor a constant with such a value.");
+    EXPECT_EQ(message(), "No address from 00 to FF: \"KEYS\"");
     EXPECT_TRUE(viewer->data()->isEmpty());
     // The sign goes as soon as the text changes.
     QTest::keyClicks(field, "x");
@@ -159,7 +161,7 @@ TEST_F(SimWaves, APortHasTheNameThatTheProgramHasForIt)
     EXPECT_EQ(ports(), (QStringList{"Write PORT_LEDS", "Read 05", "Write uart::DATA", "Read uart::DATA"}));
     EXPECT_EQ(wires(),
               (QStringList{"port_05_wr_PORT_LEDS", "port_05_rd", "port_10_wr_uart__DATA", "port_10_rd_uart__DATA"}));
-    EXPECT_EQ(tree->topLevelItem(0)->toolTip(0), "Write 05");
+    EXPECT_EQ(tree->topLevelItem(0)->toolTip(0), "Write 05, PORT_LEDS");
     EXPECT_EQ(tree->topLevelItem(0)->child(0)->text(0), "[7]");
     // An access by a register does not rename it.
     for (int step = 0; step < 4; ++step)
@@ -189,6 +191,7 @@ TEST_F(SimWaves, NamesFollowTheProgram)
     EXPECT_EQ(ports().first(), "Write LAMPS");
     type("LAMPS");
     EXPECT_TRUE(isRefused());
+    screenshot("sim-waves-refused", viewer);
     type("7");
     EXPECT_EQ(ports().last(), "Write 07");
 }

@@ -124,6 +124,19 @@ bool MyNoticeBar::focusNextPrevChild(bool next)
     return true;
 }
 
+bool MyNoticeBar::event(QEvent* event)
+{
+    // The keys of the bar are not those of the commands of an editor around it.
+    if (event->type() == QEvent::ShortcutOverride) {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (key == Qt::Key_Tab || key == Qt::Key_Backtab || key == Qt::Key_Escape) {
+            event->accept();
+            return true;
+        }
+    }
+    return QFrame::event(event);
+}
+
 void MyNoticeBar::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape)

@@ -109,7 +109,10 @@ void ProcSimWaveTree::setNames(QTreeWidgetItem* item)
     const QString bit = QStringLiteral("[%1]").arg(wave->bit);
     wave->name = isBit ? channel + bit : channel;
     item->setText(eColumnName, isBit ? bit : channel);
-    const QString place = placeText(wave->channel, m_base);
+    // A long name is cut in its column.
+    QString place = placeText(wave->channel, m_base);
+    if (!wave->channel->name.isEmpty())
+        place += QStringLiteral(", ") + wave->channel->name;
     item->setToolTip(eColumnName, isBit ? tr("%1, bit %2").arg(place).arg(wave->bit) : place);
 }
 

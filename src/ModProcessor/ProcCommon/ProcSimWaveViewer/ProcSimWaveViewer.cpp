@@ -230,7 +230,8 @@ QWidget* ProcSimWaveViewer::makePanes()
     }
     splitter->setStretchFactor(0, 0);
     splitter->setStretchFactor(1, 1);
-    splitter->setSizes({200, 800});
+    // Names of usual length are to be seen in full.
+    splitter->setSizes({280, 800});
     return splitter;
 }
 
@@ -307,10 +308,14 @@ void ProcSimWaveViewer::refuseAddr()
     const QString text = m_addr->text().trimmed();
     const QString first = m_wavesWidget->valueText(0);
     const QString last = m_wavesWidget->valueText(0xFF);
-    if (text.isEmpty())
+    if (text.isEmpty()) {
         say(tr("Enter an address from %1 to %2, or a constant.").arg(first, last));
-    else
-        say(tr("\"%3\" is neither an address from %1 to %2 nor a constant with such a value.").arg(first, last, text));
+    } else {
+        say(tr("No address from %1 to %2: \"%3\"").arg(first, last, text));
+        // There is no room for the whole of it beside the tools.
+        m_message->setToolTip(
+            tr("\"%3\" is neither an address from %1 to %2 nor a constant with such a value.").arg(first, last, text));
+    }
     showProblem(true);
     m_addr->setFocus();
     m_addr->selectAll();
