@@ -169,12 +169,12 @@ void ModEditor::offerRecovery()
     connect(button, &QPushButton::clicked, this, [this] {
         showRecoverDialog();
         closeRecoveryNotice();
+        focusCurrentWidget();
     });
     connect(m_recoveryNotice, &MyNoticeBar::closed, this, [this, entries] {
         for (const RecoveryStore::Entry& entry : entries)
             m_recovery->store()->setSeen(entry.id);
-        if (modGuiHook != nullptr)
-            modGuiHook->removeWidget(m_recoveryNotice);
+        closeRecoveryNotice();
     });
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationCenterBelow, m_recoveryNotice, QString());
     modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, true);
@@ -184,8 +184,12 @@ void ModEditor::closeRecoveryNotice()
 {
     if (m_recoveryNotice == nullptr)
         return;
-    if (modGuiHook != nullptr)
+    // What stood in the area before does not come up in its place.
+    if (modGuiHook != nullptr) {
+        if (modGuiHook->currentWidget(ModGuiHookIf::eLocationCenterBelow) == m_recoveryNotice)
+            modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, false);
         modGuiHook->removeWidget(m_recoveryNotice);
+    }
     // The click that led here may be one of its buttons'.
     m_recoveryNotice->hide();
     m_recoveryNotice->deleteLater();

@@ -217,7 +217,8 @@ void ModFindReplace::showWidget()
 
 void ModFindReplace::hideWidget()
 {
-    if (modGuiHook != nullptr)
+    // The area may show a notice of somebody else.
+    if (modGuiHook != nullptr && modGuiHook->currentWidget(ModGuiHookIf::eLocationCenterBelow) == m_widget)
         modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, false);
 }
 
