@@ -47,8 +47,8 @@ Nalvo::Nalvo(int, char**)
 
 void Nalvo::makeModules()
 {
-    // These two are also called by their classes, for what the command line names. The order of creation differs from
-    // that of the list: the settings, for one, are read at the place of ModCfgApp in the list.
+    // These two are kept as members, as the window needs them for the command line. The order of creation need not be
+    // that of the list: the phases run in the order of the list, so the settings are read at the place of ModCfgApp.
     m_modArgs = new nsModArgs::ModArgs(this);
     m_modPrj = new nsModPrj::ModPrj(this);
 
@@ -74,7 +74,7 @@ void Nalvo::handleArgs()
     if (m_modArgs->hasError())
         return;
     const QString project = m_modArgs->prjFile();
-    // What the start has reported stays beside what the project reports.
+    // Keeps the messages of the start together with those of the project.
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
     const QString script = m_modArgs->scriptFile();
@@ -97,7 +97,7 @@ QMenu* Nalvo::createPopupMenu()
 
 void Nalvo::closeEvent(QCloseEvent* event)
 {
-    // After a refusal the event stays as it came.
+    // After a refusal the event is left unchanged.
     if (m_phases.stop())
         event->accept();
 }

@@ -13,8 +13,8 @@ class ModPrj;
 
 /// The main window: makes the modules, drives them through their phases, and hands over what the command line names.
 ///
-/// Visible to scripts as "app". The modules are children of the window; it knows them by the module list alone, but for
-/// the two that the command line concerns.
+/// Visible to scripts as "app". The modules are children of the window; it uses only the module list, except for the
+/// two modules that the command line needs.
 class Nalvo : public QMainWindow
 {
     Q_OBJECT

@@ -1,4 +1,5 @@
-// Speed and memory of the batch assembler, process start included, beside those of nasm on a source of the same shape.
+// Speed and memory of the batch assembler, process start included, compared with those of nasm on a source of the same
+// shape.
 //
 // Usage: bench_assembler NALVO_ASM NASM SCRATCH_FOLDER
 //
@@ -132,7 +133,7 @@ int writeOurs(const std::string& path, int lines, int pages)
             break;
         }
     }
-    // The last label needs an instruction behind it.
+    // The last label needs an instruction after it.
     out << "    NOP ; end\n";
     return instructions + 1;
 }

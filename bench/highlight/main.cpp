@@ -82,7 +82,7 @@ int main(int argc, char** argv)
     editor.setPlainText(text);
     out << "rules: " << config.rules().size() << "\n";
     out << "first_ms_5000: " << double(clock.nsecsElapsed()) * 1e-6 << "\n";
-    // Words of many lines, of one line, and nothing.
+    // Words that occur in many lines, words that occur in one line, and no selection.
     const QStringList selections = {"LOAD", "label_8", "screen", "", "state", "s1",
                                     "part", "s[0-9]",  "x+",     "", "value", "JUMP"};
     QStringList all;

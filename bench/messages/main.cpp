@@ -66,7 +66,7 @@ int main(int argc, char** argv)
     report(msg);
     const double called = clock.nsecsElapsed() * 1e-9;
     QApplication::processEvents();
-    // Whatever of painting the events have left open is painted now.
+    // Paints what the event loop has not painted yet.
     window.grab();
     const double painted = clock.nsecsElapsed() * 1e-9;
 

@@ -247,7 +247,7 @@ struct Bench
         for (StopWatch* watch : {&msg.completer, &msg.menu, &naviHook.watch})
             watch->reset();
         asmFe.assemble(nsModAsmFe::ModAsmFe::eEventNone);
-        // Painting is the navigator's: nothing else in the window has changed.
+        // Painting counts as time of the navigator: nothing else in the window has changed.
         naviHook.watch.start();
         QApplication::processEvents();
         window.grab();

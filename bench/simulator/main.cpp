@@ -1,8 +1,9 @@
-// How fast the simulator runs with a living window, as shares of what a bare loop over the window's events reaches, and how fast
-// the batch simulator is.
+// Speed of the simulator while the window handles its events, as a share of the speed of a loop that only handles
+// events, and speed of the batch simulator.
 //
-// The whole window is shown with all docks of the simulator. The runs that are compared take turns, so that a machine that becomes
-// slower for a while slows both; the medians of the rounds count. Usage: bench_simulator PATH_OF_NALVO_SIM
+// The whole window is shown with all docks of the simulator. The runs that are compared take turns, so that a temporary
+// slowdown of the machine affects both; the result is the median of the rounds. Usage: bench_simulator
+// PATH_OF_NALVO_SIM
 
 #include "EditorWidget.h"
 #include "ModAsmFe.h"
@@ -83,7 +84,7 @@ public:
     /// Opens a project on the program and enables the simulator. @return path of the project
     QString start(const QString& name, QStringList lines)
     {
-        // Room for the breakpoints, where the program never comes.
+        // Lines for the breakpoints, which the program never reaches.
         for (int i = 0; i < 120; ++i)
             lines.append("NOP");
         write(name + ".psm", lines.join('\n') + '\n');
@@ -103,7 +104,7 @@ public:
         return project;
     }
 
-    /// Events alone: rounds of the loop a second.
+    /// Rounds a second of a loop that only handles events.
     double bareRate() const
     {
         bool stop = false;
@@ -191,7 +192,7 @@ int main(int argc, char** argv)
     std::vector<double> rates;
     std::vector<double> shares;
     std::vector<double> marked;
-    // The runs without any breakpoint come first: the editor never forgets that there was one.
+    // The runs without breakpoints come first, as the editor keeps the information that there was one.
     for (int round = 0; round < rounds; ++round) {
         const double bare = bench.bareRate();
         rates.push_back(bench.runRate());

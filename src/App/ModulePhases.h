@@ -7,11 +7,12 @@ class ModPluginIf;
 /// Drives the modules through their life: each phase for all modules, in the order of the list, before the next one
 /// starts.
 ///
-/// This is the one place where phases run. Each of the two halves runs once, whatever is called how often.
+/// This is the one place where phases run. start() and stop() run their phases once; further calls have no effect.
 class ModulePhases
 {
 public:
-    /// Appends a module. The list owns nothing; the modules must live until stop() is through. A null entry is skipped.
+    /// Appends a module. The list owns nothing; the modules must live until stop() has returned. A null entry is
+    /// skipped.
     void append(ModPluginIf* module);
     /// The module list, in order.
     const QList<ModPluginIf*>& modules() const { return m_modules; }
@@ -19,7 +20,7 @@ public:
     /// Registration, set-up, set-up between the modules, run.
     void start();
     /// Asks every module whether the program may stop, and if all agree runs the exit phases.
-    /// @return false at the first refusal: nobody further has been asked, and all modules go on
+    /// @return false if a module has refused: the modules after it were not asked, and all modules stay in use
     bool stop();
 
 private:

@@ -79,7 +79,7 @@ CfgNode* CfgNode::child(QString name) const
 
 CfgNode* CfgNode::addChild(QString name)
 {
-    // Without a QObject parent: the list of children alone says who owns whom, and releasing a deep tree needs no
+    // Without a QObject parent: the list of children alone defines the ownership, and a deep tree is deleted without
     // recursion.
     CfgNode* node = new CfgNode(nullptr);
     node->m_name = name;

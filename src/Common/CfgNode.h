@@ -40,7 +40,7 @@ public:
     CfgNode* child(QString name) const;
     /// Appends a child of that name, whether or not there is one already.
     CfgNode* addChild(QString name);
-    /// Takes the child out and deletes it with its subtree. What is no child of this node does nothing.
+    /// Takes the child out and deletes it with its subtree. Ignores a node that is not a child of this node.
     void removeChild(CfgNode* child);
     /// The same for the first child of that name.
     void removeChild(QString name);

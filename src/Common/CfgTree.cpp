@@ -114,7 +114,7 @@ QColor CfgTree::value(QString key, QColor dflt)
     if (node == nullptr)
         return dflt;
     const QString text = decString(node->value());
-    // The setter would complain on the debug output about a text that names no colour.
+    // The constructor of QColor writes a warning to the debug output if the text names no colour.
     return QColor::isValidColor(text) ? QColor(text) : QColor();
 }
 
@@ -142,7 +142,7 @@ QFont CfgTree::font(QString key, QFont dflt)
         return dflt;
     const QString text = decString(node->value());
     QFont result = dflt;
-    // An empty text would pass as a font family without a name.
+    // QFont would accept an empty text as a font family without a name.
     if (text.trimmed().isEmpty() || !result.fromString(text))
         return dflt;
     return result;

@@ -10,7 +10,7 @@
 #include <QStringList>
 
 /// Strings under slash-separated keys such as "ModGui/width", with typed access: the form in memory of the application
-/// settings and of the project file. The tree knows nothing of files.
+/// settings and of the project file. The tree does not access files.
 ///
 /// A key is split at "/" without its empty parts and with its case kept: "a//b/" is "a/b", and "" and "/" are the root.
 /// A getter never creates a node and answers its second argument when the key's node does not exist; a setter creates
@@ -25,7 +25,7 @@ public:
     /// Empties the tree, the root's attributes and name included.
     void clear();
 
-    /// The one place for an encoding of values in the tree; none is used.
+    /// The place where values would be encoded; at present it returns the text unchanged.
     QString encString(QString text) const;
     QString decString(QString text) const;
 
@@ -37,7 +37,8 @@ public:
     CfgNode* getNode(QStringList path);
 
     bool hasNode(QString key);
-    /// Deletes the node with its subtree. An unknown key does nothing, nor does the key of the root, which cannot go.
+    /// Deletes the node with its subtree. An unknown key does nothing, nor does the key of the root, which cannot be
+    /// removed.
     void removeNode(QString key);
 
     /// The node's attribute "version" as a decimal number; -1 when the node does not exist or has none.

@@ -48,7 +48,7 @@ public:
 
     QVector<LineDiff::sHunk_t> run()
     {
-        // A list in place of calls that nest: texts may need many steps. The part that comes first lies on top.
+        // A stack instead of recursion, as texts may need many steps. The part that comes first in the text is on top.
         m_parts.append({0, m_left.size(), 0, m_right.size()});
         while (!m_parts.isEmpty()) {
             const sRange_t part = trimmed(m_parts.takeLast());
@@ -81,7 +81,7 @@ private:
         return part;
     }
 
-    /// Appends a hunk, to the one before it where they touch.
+    /// Appends a hunk; extends the last one if they touch.
     void add(const sRange_t& part)
     {
         if (!m_hunks.isEmpty()) {
@@ -129,7 +129,7 @@ private:
         return false;
     }
 
-    /// Walks the way back from its end, and adds its edits in their order.
+    /// Follows the shortest way back from its end, and adds its edits in text order.
     void addWay(const sRange_t& part, const QVector<QVector<int>>& history, int diagonal)
     {
         QVector<sRange_t> way;
@@ -149,7 +149,7 @@ private:
             add(*it);
     }
 
-    /// Splits the part at lines that both sides hold once, in an order that both sides have.
+    /// Splits the part at lines that occur once on each side, and in the same order on both.
     /// @return false without any, or when the work is used up
     bool splitAtAnchors(const sRange_t& part)
     {
@@ -182,7 +182,7 @@ private:
         return longestAscending(common);
     }
 
-    /// For each line that is there once its place, -1 for the others.
+    /// For each line that occurs once its index; -1 for a line that occurs more than once.
     static QHash<int, int> uniqueLines(const QVector<int>& lines, int begin, int end)
     {
         QHash<int, int> result;

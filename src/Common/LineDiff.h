@@ -5,8 +5,8 @@
 
 /// Where two texts differ, line by line.
 ///
-/// The result is exact for what people do to a text. Two large texts that have little in common end in wider stretches
-/// than the smallest possible: the work is bounded, whatever the texts hold.
+/// The result is minimal for ordinary edits. For two large texts that have little in common the reported stretches may
+/// be larger than necessary, as the work is limited.
 class LineDiff
 {
 public:

@@ -6,7 +6,7 @@
 
 /// The clients of one service, in registration order.
 ///
-/// The list owns nothing. It never holds a client twice, and a walk over it survives clients that register or leave meanwhile.
+/// The list owns nothing. It never holds a client twice, and clients may register or leave while it is iterated.
 template <class Plugin>
 class PluginList
 {

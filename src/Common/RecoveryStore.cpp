@@ -84,7 +84,7 @@ bool RecoveryStore::makeFolder(const QString& folder)
         return false;
     if (::mkdir(name.constData(), 0700) == 0)
         return true;
-    // Among the temporary files anybody can make a folder of any name.
+    // In the folder for temporary files any user can create a folder of this name.
     struct stat status = {};
     if (errno != EEXIST || ::lstat(name.constData(), &status) != 0)
         return false;
@@ -92,7 +92,7 @@ bool RecoveryStore::makeFolder(const QString& folder)
     return S_ISDIR(status.st_mode) && status.st_uid == ::geteuid();
 }
 
-/// The lock is taken before anything of this instance exists, so that nobody takes it for one that has ended.
+/// Takes the lock before this instance writes any file, so that no other instance considers it ended.
 bool RecoveryStore::lock(QString* error)
 {
     if (m_lockFd >= 0)
@@ -107,7 +107,7 @@ bool RecoveryStore::lock(QString* error)
             code = errno == EEXIST ? EAGAIN : errno;
             continue;
         }
-        // Whoever cleans up may have taken the file for that of an ended instance, before the lock was on it.
+        // Another instance may have removed the file as a leftover before it was locked.
         struct stat there = {};
         if (::flock(fd, LOCK_EX | LOCK_NB) == 0 && ::stat(name.constData(), &there) == 0) {
             m_lockFd = fd;
@@ -130,7 +130,7 @@ void RecoveryStore::unlock()
     m_lockFd = -1;
 }
 
-/// An instance without a lock file has ended in good order.
+/// An instance without a lock file has ended normally.
 bool RecoveryStore::isAlive(const QString& instance) const
 {
     if (m_lockFd >= 0 && instance == m_instance)
@@ -291,7 +291,7 @@ RecoveryStore::Session RecoveryStore::takeSession(const QString& project)
 {
     const QMutexLocker locker(&m_mutex);
     Session result;
-    // The newest first; older ones of the same project are of no use any more.
+    // The newest first; older ones of the same project are obsolete.
     for (const QFileInfo& info :
          QDir(m_folder).entryInfoList({QLatin1Char('*') + sessionSuffix}, QDir::Files, QDir::Time)) {
         QFile file(info.filePath());

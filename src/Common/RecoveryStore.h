@@ -10,9 +10,9 @@
 
 /// Texts that are not, or no longer, in the user's files: one file an entry in a folder of the user's data.
 ///
-/// Each store object is an instance of its own with a lock file that the system frees when the process ends, in whatever way. An
-/// entry belongs to the instance that wrote it; the others see it as soon as that one has ended. All operations may be called
-/// from any thread.
+/// Each store object is an instance with a lock file of its own; the system releases the lock when the process ends,
+/// even when it is killed. An entry belongs to the instance that wrote it; other instances see it after that one has
+/// ended. All operations may be called from any thread.
 class RecoveryStore
 {
     Q_DECLARE_TR_FUNCTIONS(RecoveryStore)
@@ -32,7 +32,7 @@ public:
         QString path;       ///< file of the document, absolute; empty: it has none yet
         QString project;    ///< project file that was open, absolute; may be empty
         QDateTime time;     ///< UTC; set by put()
-        bool isNew = true;  ///< the user has not been told of it
+        bool isNew = true;  ///< the user has not been informed of it
         qint64 size = 0;    ///< bytes on the disk
     };
 
@@ -49,33 +49,35 @@ public:
     static const qint64 maxTotalBytes = qint64(64) * 1024 * 1024;
 
     explicit RecoveryStore(const QString& folder = defaultFolder());
-    /// Gives the entries of this instance to all others.
+    /// Ends the instance: all others see its entries from now on.
     ~RecoveryStore();
     RecoveryStore(const RecoveryStore&) = delete;
     RecoveryStore& operator=(const RecoveryStore&) = delete;
 
     /// The folder that all programs of one user share.
     static QString defaultFolder();
-    /// A folder among the temporary files, for what must be kept for a moment by a user without a home.
+    /// A folder among the temporary files, for users without a home folder.
     static QString spareFolder();
-    /// Makes the folder, which only its user can read. @return false: errno says why; also for that of somebody else
+    /// Makes the folder, readable for its owner only. @return false: errno has the reason; also if the folder belongs
+    /// to another user
     static bool makeFolder(const QString& folder);
 
-    /// Writes an entry, in the place of the one with its id if it has one.
+    /// Writes an entry; replaces the stored one if the entry has an id.
     /// @param error why that failed, may be null
     /// @return the id; empty: nothing was written, and an entry of this id is as it was
     QString put(Entry entry, const QByteArray& text, QString* error);
     /// Does nothing for an unknown id.
     void remove(const QString& id);
-    /// The entry is in the list, but its user need not be told of it again.
+    /// Keeps the entry in the list, but does not report it to the user again.
     void setSeen(const QString& id);
-    /// Makes the entry of an instance that has ended one of this instance. @return its new id; empty: somebody else was faster
+    /// Takes over the entry of an instance that has ended. @return its new id; empty: another instance has taken it
+    /// before
     QString take(const QString& id);
     /// Entries of instances that have ended, and what this one dropped; the newest first.
     QList<Entry> entries() const;
     /// @return false: the entry does not exist or is damaged
     bool read(const QString& id, Entry* entry, QByteArray* text) const;
-    /// File that holds the entry behind a header of two lines.
+    /// File that holds the entry, after a header of two lines.
     QString fileOf(const QString& id) const;
     /// Removes entries that are too old, and the oldest ones while all of them together are too large. The newest one stays.
     void prune(const QDateTime& now);

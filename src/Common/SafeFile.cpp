@@ -18,7 +18,7 @@
 namespace {
 
 const int blockSize = 16 * 1024;
-const int maxLinks = 40; ///< in a chain, as the system's own limit
+const int maxLinks = 40; ///< in a chain; the same as the limit of the system
 const char* const accessList = "system.posix_acl_access";
 
 SafeFile::Watch& watch()
@@ -33,7 +33,7 @@ int forcedError(SafeFile::eStep_t step)
     return watch() ? watch()(step) : 0;
 }
 
-/// Calls the system for one step. The function returns -1 and sets errno, as the system does.
+/// Makes the system call of one step. The function returns -1 and sets errno, like a system call.
 /// @return 0 or the errno
 template <class Call>
 int run(SafeFile::eStep_t step, Call call)
@@ -48,7 +48,7 @@ int run(SafeFile::eStep_t step, Call call)
     return result < 0 ? (errno != 0 ? errno : EIO) : 0;
 }
 
-/// Writes all of the bytes at a place of the file, or where the file stands (position -1). @return 0 or the errno
+/// Writes all of the bytes at a position of the file, or at the present one (position -1). @return 0 or the errno
 int writeAll(int fd, const char* data, qint64 size, qint64 position, SafeFile::eStep_t step)
 {
     while (size > 0) {
@@ -69,14 +69,14 @@ int writeAll(int fd, const char* data, qint64 size, qint64 position, SafeFile::e
     return 0;
 }
 
-/// @return 0 or the errno. A file system that can not say that the content is on the disk is no failure.
+/// @return 0 or the errno. A file system without support for syncing counts as success.
 int syncFile(int fd, SafeFile::eStep_t step)
 {
     const int error = run(step, [fd] { return ::fsync(fd); });
     return error == EINVAL || error == ENOSYS ? 0 : error;
 }
 
-/// What the name leads to, also where that does not exist yet.
+/// The path with all links resolved; the target need not exist.
 QString withoutLinks(const QString& path)
 {
     QFileInfo info(path);
@@ -85,7 +85,7 @@ QString withoutLinks(const QString& path)
     return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
 }
 
-/// Gives the rights that the system keeps beside those of owner, group and others.
+/// Copies the access control list, which the system stores in addition to the rights of owner, group and others.
 int copyAccessList(const QByteArray& from, int to)
 {
     const ssize_t size = ::getxattr(from.constData(), accessList, nullptr, 0);
@@ -215,7 +215,7 @@ bool SafeFile::commit()
     return success;
 }
 
-/// @return false: the new file can not be what the old one is to the system
+/// @return false: the attributes of the old file can not be given to the new one
 bool SafeFile::takeAttributes()
 {
     if (!m_exists)
@@ -235,7 +235,7 @@ bool SafeFile::takeAttributes()
            }) == 0;
 }
 
-/// A file that the system will not see renamed is left to writeInPlace().
+/// A file that the system refuses to rename is left to writeInPlace().
 bool SafeFile::renameAside()
 {
     const QByteArray from = QFile::encodeName(m_aside);
@@ -246,7 +246,7 @@ bool SafeFile::renameAside()
         return m_inPlace || fail(error);
     }
     m_aside.clear();
-    // The new name, too, has to outlive a loss of power. Not every file system can do this for a folder.
+    // The new name, too, must survive a loss of power. Not every file system can sync a folder.
     const QByteArray folder = QFile::encodeName(QFileInfo(m_target).absolutePath());
     const int fd = ::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (fd >= 0) {
@@ -276,7 +276,7 @@ bool SafeFile::writeInPlace()
     entry.kind = RecoveryStore::eKindReplaced;
     entry.path = m_target;
     QString error;
-    // Who has no home, as on a build server, has at least a place for temporary files.
+    // A user without a home folder, as on a build server, still has a folder for temporary files.
     RecoveryStore* keeper = &store;
     QString id = keeper->put(entry, old, &error);
     if (id.isEmpty()) {
@@ -301,7 +301,7 @@ bool SafeFile::writeInPlace()
 
 bool SafeFile::overwriteTarget(int target, const QByteArray& old)
 {
-    // Room for all of it comes first, so that a full disk shows itself while the old content is still whole.
+    // Reserves the space first, so that a full disk is detected while the old content is still complete.
     if (m_size > old.size()) {
         const int error = run(eStepReserve, [&] {
             errno = ::posix_fallocate(target, 0, off_t(m_size));

@@ -9,13 +9,13 @@
 
 #include <sys/types.h>
 
-/// A user's file that gets a new content as a whole: the one way in which documents, projects, settings and waves are written.
+/// Replaces the whole content of a user's file. All documents, projects, settings and waves are written by this class.
 ///
 /// What is written goes into a file beside the target, which commit() puts in its place. Until then, and after any failure,
-/// the target holds its old content byte for byte; a kill leaves the old or the new one. Links stay links, rights and owner
-/// stay. Where renaming would break that (a file with several names, an owner that can not be kept, a folder that takes no new
-/// file), commit() writes into the target itself, after its old content is safe in the RecoveryStore; when that fails the old
-/// content is put back.
+/// the target holds its old content byte for byte; if the process is killed, it holds the old or the new one. Links
+/// stay links, rights and owner are kept. Where renaming would break that (a file with several names, an owner that can
+/// not be kept, a folder that takes no new file), commit() writes into the target itself, after its old content is safe
+/// in the RecoveryStore; when that fails the old content is put back.
 ///
 /// Sequential, write only. A failure of write() is remembered: commit() then fails with its reason.
 class SafeFile : public QIODevice
@@ -23,7 +23,7 @@ class SafeFile : public QIODevice
     Q_DECLARE_TR_FUNCTIONS(SafeFile)
 
 public:
-    /// What the system is asked for, in the order of the steps. Each of them can fail, and before each of them the program
+    /// The steps of writing, in their order. Each of them can fail, and before each of them the program
     /// can be killed.
     enum eStep_t
     {
@@ -41,26 +41,26 @@ public:
     /// Asked before each step. @return 0, or the errno with which the step is to fail
     using Watch = std::function<int(eStep_t)>;
 
-    /// @param path existing or not; a link stands for what it leads to
+    /// @param path existing or not; of a link, the target is written
     explicit SafeFile(const QString& path);
-    /// Without a commit() nothing has happened.
+    /// Without commit() the target is unchanged.
     ~SafeFile() override;
 
     /// @return false: errorString() says why
     bool open();
     bool open(OpenMode mode) override { return mode == WriteOnly && open(); }
     bool isSequential() const override { return true; }
-    /// Puts what was written in the place of the target, and closes this. Success means that it is on the disk.
+    /// Replaces the target by what was written, and closes this device. After success the content is on the disk.
     /// @return false: the target is as it was, and errorString() says why. If even putting the old content back failed, the
     /// text names the file that holds it.
     bool commit();
     /// Drops what was written.
     void close() override;
 
-    /// All of the above in one call. @param error why it failed, may be null
+    /// open(), write() and commit() in one call. @param error why it failed, may be null
     static bool replace(const QString& path, const QByteArray& bytes, QString* error);
 
-    /// For tests: makes steps fail, or ends the process at one. An empty function ends that.
+    /// For tests: makes steps fail, or ends the process at one. An empty function removes the watch.
     static void setWatch(Watch watch);
 
 protected:

@@ -13,7 +13,7 @@ MenuKeys::MenuKeys(QMainWindow* window)
     : QObject(window)
     , m_window(window)
 {
-    // The key arrives at the widget with the focus, which can be any.
+    // The event goes to the widget with the focus, so this filters the events of the application.
     qApp->installEventFilter(this);
 }
 

@@ -10,8 +10,8 @@ namespace nsModAction {
 
 /// Opens the menus of the main window by Alt and the first letter of their titles, which have no letter marked.
 ///
-/// Keys of actions and of buttons go first: this hears of a key only after nobody has taken it as a shortcut, but before
-/// the widget with the focus does, so that no field takes the letter for text.
+/// Shortcuts of actions and buttons have priority: this class gets a key only if no shortcut uses it, but before the
+/// widget with the focus gets it, so that no field takes the letter as text.
 class MenuKeys : public QObject
 {
     Q_OBJECT

@@ -38,7 +38,7 @@ const sActionClass_t actionClasses[] = {
 
 const QSize toolBarIconSize(26, 26);
 
-/// Deletes the separators of the last time; the actions belong to the clients.
+/// Deletes the separators of the last refresh; the actions belong to the clients.
 void deleteSeparators(QWidget* bar)
 {
     for (QAction* action : bar->actions()) {

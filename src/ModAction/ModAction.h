@@ -52,13 +52,13 @@ public:
 private:
     using ListOperation = QList<QAction*> (ModActionPluginIf::*)(eActionClass_t);
 
-    /// The actions of all clients, with separators that belong to the menu or tool bar that they are for.
+    /// The actions of all clients, with separators that are owned by the given menu or tool bar.
     QList<QAction*> collectActions(eActionClass_t actionClass, ListOperation list, QWidget* bar);
     void refreshMenu(eActionClass_t actionClass, QMenu* menu);
     void refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar);
 
     QPointer<QMainWindow> m_mainWindow;
-    MenuKeys* m_menuKeys = nullptr; ///< the window's
+    MenuKeys* m_menuKeys = nullptr; ///< owned by the window
     PluginList<ModActionPluginIf> m_plugins; ///< their order is the order of the groups in each menu
     QMap<eActionClass_t, QPointer<QMenu>> m_menus;
     QMap<eActionClass_t, QPointer<QToolBar>> m_toolBars;

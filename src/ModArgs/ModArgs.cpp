@@ -80,7 +80,7 @@ bool ModArgs::checkArguementMap()
     return true;
 }
 
-bool ModArgs::takeSingle(const QString& key, const QString& complaint, QString* file)
+bool ModArgs::takeSingle(const QString& key, const QString& errorText, QString* file)
 {
     const QStringList values = m_map.values(key);
     if (values.size() == 1) {
@@ -88,7 +88,7 @@ bool ModArgs::takeSingle(const QString& key, const QString& complaint, QString* 
         return true;
     }
     for (const QString& value : values)
-        error(complaint + value);
+        error(errorText + value);
     return false;
 }
 

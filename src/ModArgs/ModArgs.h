@@ -10,7 +10,7 @@
 
 namespace nsModArgs {
 
-/// The command line: at most one project file, and at most one script file behind "-s".
+/// The command line: at most one project file, and at most one script file after "-s".
 ///
 /// Every word that begins with "-" is a key; the next word, if it does not begin with "-", is its value. A word without
 /// a key is a project file. The result stands from modInit() on.
@@ -22,7 +22,7 @@ public:
     explicit ModArgs(QObject* parent = nullptr);
     ~ModArgs() override;
 
-    /// The command line is wrong, which was reported: neither project nor script is to be used.
+    /// The command line is wrong and the error was reported: neither project nor script may be used.
     bool hasError() const;
     /// As typed, empty without one.
     QString prjFile() const;
@@ -32,7 +32,7 @@ public:
     /// Splits the command line into keys and values.
     /// @return false: there are no arguments
     bool setupArguementMap();
-    /// Takes the two files out of the map and reports what does not belong there.
+    /// Takes the two files out of the map and reports unknown or surplus arguments.
     /// @return true: everything is in order
     bool checkArguementMap();
 
@@ -50,7 +50,7 @@ protected:
     virtual QStringList arguments() const;
 
 private:
-    bool takeSingle(const QString& key, const QString& complaint, QString* file);
+    bool takeSingle(const QString& key, const QString& errorText, QString* file);
     void error(const QString& text);
 
     QMultiMap<QString, QString> m_map;

@@ -6,14 +6,14 @@ namespace nsModAsmFe {
 
 namespace {
 
-// Reading and writing walk the same fields in the same order, so that no key can be forgotten on one side.
+// Reading and writing use one list of fields, so that no key can be forgotten on one side.
 
 struct Reader
 {
     ModPrjHookIf* prj;
 
     void item(const QString& key, QString& field) { field = prj->value(key, field); }
-    /// One of some values: any other leaves the field as it is.
+    /// One of several values: any other value leaves the field unchanged.
     void choice(const QString& key, int& field, int last)
     {
         const int value = prj->value(key, field);

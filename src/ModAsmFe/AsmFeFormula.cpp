@@ -101,7 +101,7 @@ bool isTerm(const AsmFeFormula::sFormularElement_t* element)
 bool AsmFeFormula::isFormula(const QString& text)
 {
     const QChar* c = text.constData();
-    ushort before = 0; // the last character that is no blank
+    ushort before = 0; // the last character that is not a blank
     bool inQuotes = false;
     for (int i = 0; i < text.size(); ++i) {
         const ushort current = c[i].unicode();
@@ -118,7 +118,7 @@ bool AsmFeFormula::isFormula(const QString& text)
             return true;
         case '<':
         case '>':
-            // The text ends with a terminating zero, so looking one further is safe.
+            // The text ends with a terminating zero, so reading one character further is safe.
             if (c[i + 1] == c[i])
                 return true;
             break;
@@ -127,7 +127,7 @@ bool AsmFeFormula::isFormula(const QString& text)
         }
         if (current == '"' && before != '\\')
             inQuotes = !inQuotes;
-        // A term beside a parenthesis is multiplied.
+        // A term next to a parenthesis is multiplied with it.
         const bool opensAtTerm = current == '(' && before != 0 && before != '(' && before != ')' && before != ',';
         const bool closesAtTerm =
             before == ')' && current != '(' && current != ')' && current != ',' && !c[i].isSpace();
@@ -230,7 +230,7 @@ void AsmFeFormula::remove(Element* element)
         element->next->prev = element->prev;
 }
 
-void AsmFeFormula::insertBehind(Element* element, int type)
+void AsmFeFormula::insertAfter(Element* element, int type)
 {
     m_elements.emplace_back();
     Element* added = &m_elements.back();
@@ -272,7 +272,7 @@ bool AsmFeFormula::chkSigns()
     for (Element* element = m_first; element != nullptr; element = element->next) {
         if (element->type != elementSub || element->prev == nullptr || isTerm(element->prev))
             continue;
-        // A sign at the end of the expression, or of its parentheses, has nothing to stand for.
+        // A sign at the end of the expression, or before a closing parenthesis, has no operand.
         if (element->next == nullptr || element->next->type == elementClose)
             return false;
         element->next->value = wrapped(0u - static_cast<unsigned int>(element->next->value));
@@ -290,7 +290,7 @@ bool AsmFeFormula::chkTerms()
         if (isTerm(element) && isTerm(next))
             return false;
         if ((isTerm(element) && next->type == elementOpen) || (element->type == elementClose && isTerm(next))) {
-            insertBehind(element, elementMul);
+            insertAfter(element, elementMul);
             element = element->next;
         }
     }
@@ -299,7 +299,7 @@ bool AsmFeFormula::chkTerms()
 
 AsmFeFormula::eResult_t AsmFeFormula::formulaClc(unsigned int* value)
 {
-    // Each closing parenthesis folds the segment from the last open one; the outermost pair is not in the text.
+    // Each closing parenthesis evaluates the segment since the last open one; the outermost pair is not in the text.
     std::vector<Element*> open;
     int level = 0;
     Element* folded = nullptr;
@@ -384,7 +384,8 @@ bool AsmFeFormula::formulaClcShift(Element* open, Element* close, int type)
     for (Element* element = open->next; element != close; element = element->next) {
         if (element->type != type)
             continue;
-        // A shift is two equal signs in a row; the first of them goes, the second one then stands between its operands.
+        // A shift consists of two equal signs in a row; the first of them is removed, and the second one is the
+        // operator.
         if (element->next->type != type)
             return false;
         Element* second = element->next;

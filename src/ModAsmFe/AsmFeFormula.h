@@ -9,8 +9,9 @@ namespace nsModAsmFe {
 
 /// The evaluator of expressions: 32-bit integer arithmetic over numbers and `#EQU` names.
 ///
-/// An expression is a chain of elements. It is cut out of the text, its terms get their values from outside, signs and implicit
-/// multiplications are worked out, and then each pair of parentheses is folded into one term, operator family by operator family.
+/// An expression is a chain of elements. It is parsed from the text, a callback gives its terms their values, signs and
+/// implicit multiplications are resolved, and then each pair of parentheses is evaluated to one term, one operator
+/// family after the other.
 class AsmFeFormula
 {
 public:
@@ -44,7 +45,7 @@ public:
 
     enum eResult_t {
         resultOk,
-        resultFailed, ///< without a word: whoever gives the values has spoken, or there is nothing to say
+        resultFailed, ///< without a message: the callback has reported the error, or there is nothing to report
         resultSyntax,
         resultMissingOpen,
         resultMissingClose,
@@ -53,12 +54,12 @@ public:
     /// Gives a term its value. @return false ends the evaluation with resultFailed
     using TermValue = std::function<bool(const QString& term, int* value)>;
 
-    /// Does the text hold an operator, written or implied, so that it is an expression and no plain argument?
+    /// Does the text contain an operator, written or implied? If so, it is an expression and not a plain argument.
     static bool isFormula(const QString& text);
 
     /// Evaluates an expression.
     eResult_t evaluate(const QString& text, const TermValue& termValue, unsigned int* value);
-    /// The terms of an expression that are no operators, in their order; empty if it cannot be cut.
+    /// The terms of an expression without the operators, in their order; empty if it cannot be parsed.
     QStringList terms(const QString& text);
 
 private:
@@ -78,9 +79,9 @@ private:
     bool formulaClcBinary(Element* open, Element* close, int type1, int type2);
     bool formulaClcShift(Element* open, Element* close, int type);
     void remove(Element* element);
-    void insertBehind(Element* element, int type);
+    void insertAfter(Element* element, int type);
 
-    std::deque<Element> m_elements; ///< storage; the chain is what counts
+    std::deque<Element> m_elements; ///< storage of the elements; the order is given by the chain
     Element* m_first = nullptr;
     Element* m_last = nullptr;
 };

@@ -6,7 +6,7 @@ namespace nsModAsmFe {
 
 namespace {
 
-// The scanners run on every line, so they walk it once by index. Each returns the position behind its piece.
+// The scanners run on every line, so they read it once by index. Each returns the position after its piece.
 
 inline bool isSpace(QChar c)
 {
@@ -14,17 +14,17 @@ inline bool isSpace(QChar c)
     return u < 128 ? u == ' ' || (u >= '\t' && u <= '\r') : c.isSpace();
 }
 
-int behindSpacer(const QChar* text, int pos, int length)
+int afterSpacer(const QChar* text, int pos, int length)
 {
     while (pos < length && isSpace(text[pos]))
         ++pos;
     return pos;
 }
 
-/// Behind the next piece that ends before a character for which the test is true. Quotes protect such characters, and a
-/// backslash protects the character behind it.
+/// @return position after the piece, which ends before the first character for which the test is true. Quotes protect
+/// such characters, and a backslash protects the character after it.
 template <class Ends>
-int behindQuoted(const QChar* text, int pos, int length, Ends ends)
+int afterQuoted(const QChar* text, int pos, int length, Ends ends)
 {
     bool quoted = false;
     while (pos < length) {
@@ -42,18 +42,18 @@ int behindQuoted(const QChar* text, int pos, int length, Ends ends)
     return pos < length ? pos : length;
 }
 
-int behindWord(const QChar* text, int pos, int length)
+int afterWord(const QChar* text, int pos, int length)
 {
-    return behindQuoted(text, pos, length, [](QChar c) { return c == ',' || c == ';' || isSpace(c); });
+    return afterQuoted(text, pos, length, [](QChar c) { return c == ',' || c == ';' || isSpace(c); });
 }
 
-int behindList(const QChar* text, int pos, int length)
+int afterList(const QChar* text, int pos, int length)
 {
-    return behindQuoted(text, pos, length, [](QChar c) { return c == ';'; });
+    return afterQuoted(text, pos, length, [](QChar c) { return c == ';'; });
 }
 
-/// Behind the colon of a label that stands here; the position itself if none does.
-int behindLabel(const QChar* text, int pos, int length)
+/// @return position after the colon of a label at the position; the position itself if there is no label
+int afterLabel(const QChar* text, int pos, int length)
 {
     for (int i = pos; i < length; ++i) {
         const QChar c = text[i];
@@ -84,18 +84,18 @@ bool AsmFeLineHndlr::splitLine(const QString& line)
         m_tags[tag] = {pos, end - pos};
         pos = end;
     };
-    take(eTagSpacer0, behindSpacer(text, pos, length));
-    take(eTagLabel, behindLabel(text, pos, length));
-    take(eTagSpacer2, behindSpacer(text, pos, length));
-    take(eTagInstruction, behindWord(text, pos, length));
-    take(eTagSpacer4, behindSpacer(text, pos, length));
-    take(eTagArg0, behindWord(text, pos, length));
-    take(eTagSpacer6, behindSpacer(text, pos, length));
+    take(eTagSpacer0, afterSpacer(text, pos, length));
+    take(eTagLabel, afterLabel(text, pos, length));
+    take(eTagSpacer2, afterSpacer(text, pos, length));
+    take(eTagInstruction, afterWord(text, pos, length));
+    take(eTagSpacer4, afterSpacer(text, pos, length));
+    take(eTagArg0, afterWord(text, pos, length));
+    take(eTagSpacer6, afterSpacer(text, pos, length));
     take(eTagSep, pos < length && text[pos] == ',' ? pos + 1 : pos);
-    take(eTagSpacer8, behindSpacer(text, pos, length));
-    take(eTagArg1, behindList(text, pos, length));
+    take(eTagSpacer8, afterSpacer(text, pos, length));
+    take(eTagArg1, afterList(text, pos, length));
     m_tags[eTagArg1].length = withoutSpaceAtEnd(text, m_tags[eTagArg1].start, pos) - m_tags[eTagArg1].start;
-    take(eTagSpacer10, behindSpacer(text, pos, length));
+    take(eTagSpacer10, afterSpacer(text, pos, length));
     take(eTagComment, pos < length && text[pos] == ';' ? length : pos);
     return pos == length;
 }
@@ -129,24 +129,24 @@ QString taken(const QString& line, int* pos, int end)
 
 QString AsmFeLineHndlr::splitLineSpacer(QString& line, int* pos, int length)
 {
-    return taken(line, pos, behindSpacer(line.constData(), *pos, length));
+    return taken(line, pos, afterSpacer(line.constData(), *pos, length));
 }
 
 QString AsmFeLineHndlr::splitLineWord(QString& line, int* pos, int length)
 {
-    return taken(line, pos, behindWord(line.constData(), *pos, length));
+    return taken(line, pos, afterWord(line.constData(), *pos, length));
 }
 
 QString AsmFeLineHndlr::splitLineList(QString& line, int* pos, int length)
 {
-    QString piece = taken(line, pos, behindList(line.constData(), *pos, length));
+    QString piece = taken(line, pos, afterList(line.constData(), *pos, length));
     piece.truncate(withoutSpaceAtEnd(piece.constData(), 0, piece.size()));
     return piece;
 }
 
 QString AsmFeLineHndlr::splitLineLabel(QString& line, int* pos, int length)
 {
-    return taken(line, pos, behindLabel(line.constData(), *pos, length));
+    return taken(line, pos, afterLabel(line.constData(), *pos, length));
 }
 
 QString AsmFeLineHndlr::splitLineSep(QString& line, int* pos, int length)

@@ -38,12 +38,13 @@ public:
     }
     bool isEmpty(eTag_t tag) const { return m_tags[tag].length == 0; }
     QString line() const { return m_line; }
-    /// All tags in their order. White space behind Arg1 is lost.
+    /// All tags in their order. White space after Arg1 is lost.
     QString mergeLine() const;
     /// Dumps the tags to standard output.
     void printTags() const;
 
-    // The scanners: each takes a piece of the line from the position on, moves the position behind it and returns the piece.
+    // The scanners: each takes a piece of the line from the position on, moves the position after it and returns the
+    // piece.
     static QString splitLineSpacer(QString& line, int* pos, int length);
     static QString splitLineWord(QString& line, int* pos, int length);
     static QString splitLineList(QString& line, int* pos, int length);

@@ -16,7 +16,7 @@ QString lineText(const char* bytes, int length)
 {
     if (const void* nul = std::memchr(bytes, 0, size_t(length)))
         length = int(static_cast<const char*>(nul) - bytes);
-    // Text without a carriage return before its line end is the usual case.
+    // Usually there is no carriage return before the line end.
     if (length >= 2 && bytes[length - 1] == '\n' && bytes[length - 2] == '\r')
         return QString::fromLatin1(bytes, length - 2) + '\n';
     return QString::fromLatin1(bytes, length);
@@ -36,12 +36,12 @@ bool LineReader::fill()
     return !m_buffer.isEmpty();
 }
 
-/// Goes on behind the mark that some editors put in front of a text in UTF-8.
+/// Skips the byte order mark that some editors write at the start of a UTF-8 text.
 void LineReader::skipByteOrderMark()
 {
     static const char mark[] = {'\xef', '\xbb', '\xbf'};
     fill();
-    // A device may hand out its first bytes one by one.
+    // A device may return its first bytes one by one.
     while (m_buffer.size() < 3 && std::memcmp(m_buffer.constData(), mark, size_t(m_buffer.size())) == 0) {
         const QByteArray more = m_device->read(3 - m_buffer.size());
         if (more.isEmpty())

@@ -24,7 +24,7 @@ ModAsmFe::ModAsmFe(QObject* parent)
 
 ModAsmFe::~ModAsmFe()
 {
-    // A window that goes without its phases of exit still has the view.
+    // If the window is deleted without the exit phases, the view still exists.
     clearIODevViewer();
     delete m_configPage;
 }
@@ -76,14 +76,14 @@ void ModAsmFe::modExitIntermod()
     }
 }
 
-/// The maps are those of the open project's devices.
+/// Shows the maps of the devices of the open project.
 void ModAsmFe::addIODevViewer()
 {
     if (modGuiHook == nullptr || m_ioDevViewer != nullptr)
         return;
     m_ioDevViewer = new IODevViewerList;
     connect(m_ioDevViewer, &IODevViewerList::srcRefRequest, this, &ModAsmFe::showSrcReference);
-    // A panel that is added comes to the front: opening a project leaves the one in front that the user has chosen.
+    // An added panel comes to the front: so the panel that was in front before is brought to the front again.
     QWidget* inFront = modGuiHook->currentWidget(ModGuiHookIf::eLocationDockRight);
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_ioDevViewer, tr("IO device map viewer"));
     if (inFront != nullptr && modGuiHook->widgetVisible(ModGuiHookIf::eLocationDockRight))
@@ -97,7 +97,7 @@ void ModAsmFe::removeIODevViewer()
     m_ioDevViewer->clear();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_ioDevViewer);
-    // What closes the project during a run may have been called by the view.
+    // Deleted later, as the call may come from the view.
     if (m_running)
         m_ioDevViewer->deleteLater();
     else
@@ -194,7 +194,7 @@ void ModAsmFe::prjClose()
         m_statusBar->setProcessorName(QString());
     clearHighlighter();
     m_fileHndlr->setPrjDir(QString());
-    // A run in progress still walks its elements: it ends first.
+    // A run in progress still uses its elements: assemble() drops them when the run has ended.
     if (m_running)
         m_abandoned = true;
     else
@@ -237,7 +237,7 @@ void ModAsmFe::configPagesClosed(bool accepted)
 
 void ModAsmFe::clearHighlighter()
 {
-    // The rules are those of a project's processor: without one, text is plain.
+    // The rules belong to the processor of the project: without a project, text is not highlighted.
     if (modEditorHook != nullptr)
         modEditorHook->clearHighlighter();
 }

@@ -56,9 +56,10 @@ class TargetMapper;
 
 /// The assembler: all that is common to the processors, from the sources to the output files.
 ///
-/// assemble() runs the stages in a fixed order and is the only place that decides when a run stops. Each stage walks all its
-/// elements before it answers, so that one run shows all the errors of a stage; a failed stage prevents the later ones. A run is
-/// synchronous. The stages stand in source files of their own: ModAsmFeParse, ModAsmFeDirectives, ModAsmFeArguments and so on.
+/// assemble() runs the stages in a fixed order and is the only place that decides when a run stops. Each stage
+/// processes all its elements before it returns, so that one run reports all the errors of a stage; after a failed
+/// stage the later ones are skipped. A run is synchronous. The stages stand in source files of their own:
+/// ModAsmFeParse, ModAsmFeDirectives, ModAsmFeArguments and so on.
 class ModAsmFe : public QObject,
                  public ModAsmFeHookIf,
                  public ModPluginIf,
@@ -80,12 +81,12 @@ public:
     /// Why a run was started: which output files and external programs belong to it.
     enum eAssembleEvent_t { eEventNone = 0, eEventButton1 = 1, eEventButton2 = 2, eEventSave = 3 };
 
-    /// Largest instruction memory and largest IO device, in words. Larger ones are refused, so that a slip of the pen in a
-    /// `#SET` does not ask for all the memory of the machine.
+    /// Largest instruction memory and largest IO device, in words. Larger ones are refused, so that a typing error in a
+    /// `#SET` can not use up the memory of the machine.
     static const int maxMemWords = 1 << 24;
     /// Longest source line in characters; what exceeds it is reported and skipped.
     static const int maxLineLength = 1 << 24;
-    /// Longest namespace in characters, with all those around it: each of its elements has it whole.
+    /// Longest namespace in characters, including those around it: each element in it stores the complete name.
     static const int maxNameSpaceLength = 1 << 15;
 
     explicit ModAsmFe(QObject* parent = nullptr);
@@ -282,8 +283,8 @@ private:
     /// Why a chain of names has no value.
     struct sEquDeadEnd_t
     {
-        Equ* last;   ///< its last name that leads on
-        Equ* target; ///< where that one leads: to a failure of its own, or back into the chain
+        Equ* last;   ///< the last name that refers to another one
+        Equ* target; ///< what that one refers to: an `#EQU` that fails itself, or one of the chain
     };
     bool syntacticsCheckEquArguments();
     bool syntacticsCheckEquArgument(Equ* root);
@@ -393,7 +394,7 @@ private:
     bool m_assembled = false;
     bool m_running = false; ///< a run must not be started from within a run
     MyBusyCursor* m_busy = nullptr; ///< of the run in progress; not owned
-    bool m_abandoned = false; ///< project or back end have gone during the run
+    bool m_abandoned = false; ///< project or back end were removed during the run
     bool m_runSucceeded = false;
     QStringList m_writtenFiles;
     QStringList m_menuLabels; ///< names in the insertion menu

@@ -51,7 +51,7 @@ bool ModAsmFe::syntacticsCheckArgNumeric(const SrcReference* srcRef, Arg* arg, A
     return true;
 }
 
-/// @return no range, no attribute and, if asked for, no parentheses stand around the argument; else what stands there is reported
+/// @return the argument has no range, no attribute and, if asked for, no parentheses; else these are reported
 bool ModAsmFe::refuseArgExt(const SrcReference* srcRef, const ArgExt* ext, bool parenthesesToo)
 {
     if (!ext->range.isEmpty()) {
@@ -135,7 +135,7 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode)
     }
     if (!enclosed0 && !enclosed1)
         return true;
-    // What is left is one pair of parentheses around both registers.
+    // The remaining valid form is one pair of parentheses around both registers.
     if (arg0->type != Arg::reg || arg1->type != Arg::reg)
         return refuse(errUnsupportedParenthese);
     if (p0 != ArgExt::parenthesesOpen)
@@ -208,7 +208,7 @@ bool ModAsmFe::equTermValue(const SrcReference* srcRef, const QString& term, Equ
     return true;
 }
 
-/// A range or an attribute behind an expression belongs to none of its terms, and does not apply to the whole either.
+/// A range or an attribute after an expression applies neither to a term nor to the whole expression.
 bool ModAsmFe::syntacticsCheckArgFormula(const SrcReference* srcRef, Arg* arg)
 {
     // The value of a constant is known.

@@ -32,7 +32,8 @@ QDateTime stampTime()
 
 void ModAsmFe::assemble(eAssembleEvent_t event)
 {
-    // A hook that is called during a run may save a file or change the list of files: the run in progress stands.
+    // A hook that is called during a run may save a file or change the list of files: the run in progress continues,
+    // and no second one starts.
     if (m_running || modPrjHook == nullptr || !modPrjHook->isValid())
         return;
     m_running = true;
@@ -76,7 +77,7 @@ void ModAsmFe::clearAll()
 {
     if (modSrcNaviHook != nullptr)
         modSrcNaviHook->clearTagList();
-    // It reads the devices where they are.
+    // The viewer has pointers to the devices, which are deleted below.
     clearIODevViewer();
     m_equDeadEnds.clear();
     m_opcodeList.clear();
@@ -93,7 +94,7 @@ void ModAsmFe::clearAll()
     m_writtenFiles.clear();
 }
 
-/// A run takes the GUI's thread: where it takes long, the cursor says so.
+/// A run blocks the GUI thread, so a long run shows the busy cursor.
 void ModAsmFe::goesOn()
 {
     if (m_busy != nullptr)

@@ -1,4 +1,4 @@
-// The values of constants: each `#EQU` after those that it names, in the order in which it names them.
+// The values of constants: each `#EQU` is evaluated after those that it names, in the order in which it names them.
 
 #include "ModAsmFe.h"
 
@@ -6,7 +6,7 @@
 
 namespace nsModAsmFe {
 
-/// One `#EQU` on the way from the one whose value was asked for.
+/// One `#EQU` of the path that starts at the requested one.
 struct ModAsmFe::sEquStep_t
 {
     explicit sEquStep_t(Equ* e) : equ(e) {}
@@ -29,9 +29,9 @@ bool ModAsmFe::syntacticsCheckEquArguments()
 
 /// Finds the value of an `#EQU`.
 ///
-/// Constants can depend on one another over thousands of steps, so the way down is kept in a list and not on the machine's stack.
-/// One that fails may have got a kind all the same: it counts as done from then on. One that has none is looked at again whenever
-/// it is asked for, and reports again.
+/// Constants can depend on one another over thousands of steps, so the path is kept in a list and not on the machine's
+/// stack. An `#EQU` that fails may have a type nevertheless: then it counts as done from now on. One without a type is
+/// evaluated again at each request, and reports its error again.
 bool ModAsmFe::syntacticsCheckEquArgument(Equ* root)
 {
     if (root->arg->type != Arg::unset)
@@ -57,8 +57,8 @@ bool ModAsmFe::syntacticsCheckEquArgument(Equ* root)
     return success;
 }
 
-/// Goes on with the last `#EQU` of the path.
-/// @param success the `#EQU` that it has waited for has got its value
+/// Continues the evaluation of the last `#EQU` of the path.
+/// @param success the `#EQU` that it has waited for has a value now
 ModAsmFe::eEquResult_t ModAsmFe::checkEquStep(std::vector<sEquStep_t>* path, bool success)
 {
     sEquStep_t& step = path->back();
@@ -71,7 +71,7 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquStep(std::vector<sEquStep_t>* path, boo
     Arg* arg = step.equ->arg;
     ArgExt* ext = step.equ->argExt;
     const SrcReference* srcRef = &step.equ->srcRef;
-    // A value can become empty when its parentheses are taken off: that one is refused below.
+    // A value that becomes empty when its parentheses are removed is refused below.
     if (arg->name.isEmpty() && !step.equ->prepared) {
         arg->type = Arg::empty;
         m_msgHndlr->signMsg(errExpectArgument, srcRef);
@@ -112,7 +112,8 @@ void ModAsmFe::prepareEqu(Equ* equ)
 ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Equ* target)
 {
     sEquStep_t& step = path->back();
-    // Where a chain of names has failed before, its end is known: each of thousands of names would walk the chain again.
+    // If a chain of names has failed before, its stored end is used: otherwise each of thousands of names would follow
+    // the chain again.
     const sEquDeadEnd_t deadEnd = m_equDeadEnds.value(step.equ, {step.equ, target});
     step.target = deadEnd.target;
     if (m_equCheckStack.contains(step.target)) {
@@ -126,7 +127,7 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Eq
     return takeEquAlias(step, true) ? equDone : equFailed;
 }
 
-/// Takes over the value of the target: whatever it is, it is this one's value as a whole.
+/// Takes over the value of the target as a whole.
 /// @param success the target has one
 bool ModAsmFe::takeEquAlias(const sEquStep_t& step, bool success)
 {
@@ -140,7 +141,8 @@ bool ModAsmFe::takeEquAlias(const sEquStep_t& step, bool success)
     return true;
 }
 
-/// The path ends in a name that stands on it already. Of a loop of names alone, each member meets itself at the one before it.
+/// The path ends in a name that it contains already. In a cycle that consists of names only, each member reports the
+/// cycle at its predecessor.
 void ModAsmFe::noteEquLoop(const std::vector<sEquStep_t>& path)
 {
     const Equ* target = path.back().target;
@@ -155,7 +157,8 @@ void ModAsmFe::noteEquLoop(const std::vector<sEquStep_t>& path)
         m_equDeadEnds.insert(path[i].equ, {path[i - 1].equ, path[i].equ});
 }
 
-/// Goes on with the terms of an expression. The first one that gives no number ends it: those after it are not looked at.
+/// Continues with the terms of an expression. The first term that is not a number ends it: later terms are not
+/// evaluated.
 ModAsmFe::eEquResult_t ModAsmFe::checkEquFormula(sEquStep_t* step)
 {
     Arg* arg = step->equ->arg;

@@ -284,7 +284,7 @@ bool ModAsmFe::setupIODevDefault()
             setValue(opcode->memAddr, opcode, false);
             continue;
         }
-        // The bound is inclusive: a shared word at address 0 runs into the end of the memory.
+        // The bound is inclusive: a shared word at address 0 is also copied to the end of the memory.
         for (qint64 addr = opcode->memAddr; addr <= dev->memSize; addr += m_pageSize)
             setValue(addr, opcode, true);
     }

@@ -94,7 +94,7 @@ bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& i
     }
     if (!mapInstMem(dev, set, span, *addr))
         return false;
-    // The item counts as its whole length; the caller goes on behind its last cell.
+    // The item occupies its whole length; the caller continues after its last cell.
     *addr = int(qMin<qint64>(qint64(*addr) + span.count() - 1, std::numeric_limits<int>::max() - 1));
     return true;
 }

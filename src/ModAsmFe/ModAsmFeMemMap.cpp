@@ -49,7 +49,7 @@ bool ModAsmFe::mapOpcodeToMemCheckOrgDirectives()
             if (value == QLatin1String("SHARED")) {
                 org->iValue = 0;
             } else if (page.exactMatch(value)) {
-                // A number without an end stands for a page that cannot exist.
+                // A number that is too large stands for a page that cannot exist.
                 bool ok = false;
                 const int number = page.cap(1).toInt(&ok);
                 org->iValue = ok && number < maxPageCount ? number + 1 : maxPageCount + 1;
@@ -267,7 +267,7 @@ bool ModAsmFe::mapOpcodeToMemSetAddresses()
 }
 
 /// Gives an instruction the next free address, unless a directive has pinned it to one.
-/// @param free in: next free address; out: the address behind the instruction
+/// @param free in: next free address; out: the address after the instruction
 bool ModAsmFe::placeOpcode(Opcode* opcode, int range, int* free, int limit)
 {
     const int addr = opcode->pageAddr < 0 ? *free : opcode->pageAddr;
@@ -295,7 +295,7 @@ bool ModAsmFe::mapOpcodeToMemSetAddressesUpwards(int range, int start, int* limi
 
 bool ModAsmFe::mapOpcodeToMemSetAddressesDownwards(int range, int* start, int limit)
 {
-    // Behind a pinned instruction the code ascends; only the code in front of the first pin is placed from the top downwards.
+    // After a pinned instruction addresses ascend; only the code before the first pin is placed from the top downwards.
     int free = *start;
     bool pinned = false;
     Opcode* last = nullptr;
@@ -345,7 +345,7 @@ bool ModAsmFe::mapOpcodeToMemCheckForInterPageReferencing()
 {
     bool success = true;
     for (const Opcode* opcode : m_opcodeList) {
-        // The instruction check tells the mnemonic and the kinds of the arguments together.
+        // The instruction check has set the opcode and the types of the arguments.
         if (opcode->memRange <= 0 || (opcode->opcode != ocJump && opcode->opcode != ocCall))
             continue;
         const Arg* arg = opcode->arg0->type == Arg::label ? opcode->arg0 : opcode->arg1;

@@ -200,7 +200,8 @@ void ModAsmFe::setupSupportMenuDynamics()
 }
 
 /// Makes the names the entries of a sub menu.
-/// @param shown the names that the sub menu has. Most runs change few or none of them, and ten thousands of entries take their time.
+/// @param shown the names that the sub menu has. Most runs change few or none of them, and updating tens of thousands
+/// of entries is slow.
 void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
                                      QStringList* shown)
 {

@@ -48,7 +48,7 @@ bool ModAsmFe::mapIODevToFile(eAssembleEvent_t event)
     return success;
 }
 
-/// @return the file is none that the run has read or written: those would be lost
+/// @return false if the run has read or written this file, which would be lost; reported
 bool ModAsmFe::checkTargetFile(const QString& file)
 {
     const QString canonical = QFileInfo(file).canonicalFilePath();
@@ -62,7 +62,7 @@ bool ModAsmFe::checkTargetFile(const QString& file)
     QStringList inputs = m_fileHndlr->files();
     inputs.append(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
     for (const IODev* dev : m_ioDevList.devices()) {
-        // The template of a file of its own is the writer's to refuse.
+        // An output that is its own template is refused by its writer.
         if (dev->targetVhdlEn && dev->vhdlTargetFile != file)
             inputs.append(dev->vhdlTemplateFile);
         if (dev->targetVerilogEn && dev->verilogTargetFile != file)

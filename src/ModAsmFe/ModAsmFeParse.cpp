@@ -33,7 +33,7 @@ void trimEnd(QString* text)
         text->chop(1);
 }
 
-/// Is there text after a carriage return, so that it may have been meant as the end of a line?
+/// Is there text after a carriage return, which then may be meant as a line end?
 bool holdsLoneCarriageReturn(const QString& line)
 {
     const int pos = line.indexOf('\r');
@@ -59,7 +59,7 @@ bool ModAsmFe::parseFiles()
         if (!parseFile(&srcRef, m_fileHndlr->file(i)))
             return false;
         SrcReference end = srcRef;
-        // Without a final line break the last line is the end of the file.
+        // Without a final line break the end of the file is in the last line.
         if (!m_lastLineEnded)
             --end.lineNo;
         if (m_ifActive != 0) {
@@ -79,7 +79,7 @@ bool ModAsmFe::parseFiles()
 bool ModAsmFe::parseFile(SrcReference* srcRef, const QString& file)
 {
     srcRef->lineNo = 0;
-    // A folder, a pipe or a device in place of a source could answer without end, or never.
+    // Reading a folder, a pipe or a device instead of a source might never end.
     QFile source(file);
     if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly)) {
         m_msgHndlr->signMsg(errFileRead, file);
@@ -92,7 +92,7 @@ bool ModAsmFe::parseFile(SrcReference* srcRef, const QString& file)
     QString line;
     while (reader.readLine(&line)) {
         m_lastLineEnded = reader.wasEnded();
-        // Often enough for the eye, and too seldom to be felt.
+        // Often enough for the cursor to appear in time, and seldom enough not to cost time.
         if ((srcRef->lineNo & 0x3ff) == 0)
             goesOn();
         if (!hasWarned && holdsLoneCarriageReturn(line)) {
@@ -178,7 +178,7 @@ bool ModAsmFe::parseLineOpcode(SrcReference* srcRef, const QString& word)
     opcode->name = word;
 
     const auto setupArg = [&](QStringView text, Arg* arg, ArgExt* ext, bool withRange) {
-        // Nearly all arguments are plain words: only these cost a look for more.
+        // Nearly all arguments are plain words, which need no search for an attribute or a range.
         if (!text.contains(QChar('\'')) && !(withRange && text.endsWith(QChar(']')))) {
             arg->name = m_pool.intern(text);
         } else {
@@ -202,16 +202,16 @@ void ModAsmFe::splitFromArgAttr(SrcReference* srcRef, QString* arg, QString* att
     const int pos = arg->lastIndexOf('\'');
     if (pos < 0)
         return;
-    QString behind = arg->mid(pos + 1);
-    if (behind.isEmpty())
+    QString after = arg->mid(pos + 1);
+    if (after.isEmpty())
         m_msgHndlr->signMsg(warnAttributeEmpty, srcRef);
-    // A quote behind it says that the apostrophe stands inside a string.
-    if (behind.contains('"'))
+    // A quote after it means that the apostrophe is inside a string.
+    if (after.contains('"'))
         return;
     arg->truncate(pos);
     trimEnd(arg);
-    trimStart(&behind);
-    *attr = behind;
+    trimStart(&after);
+    *attr = after;
 }
 
 void ModAsmFe::splitFromArgRange(SrcReference*, QString* arg, QString* range)
@@ -284,7 +284,7 @@ void ModAsmFe::parseLineNaviTag(SrcReference* srcRef)
             continue;
         QString title = comment;
         title.remove(QRegExp("^.*\\\\" + word + "\\s*", Qt::CaseInsensitive));
-        // The comment holds the line's end; a title ends before it.
+        // The comment includes the line end, which is not part of the title.
         trimEnd(&title);
         title.remove(QRegExp("^\""));
         title.remove(QRegExp("\"$"));
@@ -303,7 +303,7 @@ QString ModAsmFe::parseLineNaviTagLineRef(QString* line, const QString& word)
         if (expression.indexIn(*line) >= 0)
             return expression.cap(0);
     }
-    // The line break is no part of the text that a document can find.
+    // Without the line break, as a search in the document could not find it.
     QString text = *line;
     while (text.endsWith('\n') || text.endsWith('\r'))
         text.chop(1);

@@ -42,7 +42,7 @@ bool ModAsmFe::syntacticsCheckArgString(const SrcReference* srcRef, Arg* arg, Ar
         }
     }
     if (arg->type == Arg::stringUtf16) {
-        // Whoever uses the constant encodes it in a character set of their own.
+        // Each use of the constant encodes it in the character set of that use.
         if (keepString && ext->attr.isEmpty() && ext->range.isEmpty())
             return true;
         if (!encodeString(srcRef, arg, ext))

@@ -177,7 +177,7 @@ bool ModAsmFe::syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgEx
         const bool success = syntacticsCheckArgString(srcRef, arg, ext, false);
         if (arg->type == Arg::numeric)
             return success;
-        // Beside what is wrong with the string, this tells how a string reaches an instruction.
+        // Reported in addition to the error in the string: how an instruction can use a string.
         m_msgHndlr->signMsg(errStrExpectRange, srcRef);
         return false;
     }

@@ -44,7 +44,7 @@ void ModCfgApp::loadAppConfig()
 {
     QSettings settings(QSettings::IniFormat, QSettings::UserScope, QCoreApplication::organizationName(),
                        QCoreApplication::applicationName());
-    // Settings of the whole organisation or machine are none of this user's.
+    // Settings of the organisation or of the machine are not read.
     settings.setFallbacksEnabled(false);
     for (const QString& key : settings.allKeys()) {
         const QVariant stored = settings.value(key);
@@ -74,8 +74,8 @@ void ModCfgApp::saveAppConfig()
     modMsgHook->showInfoMessage(tr("Reason: ") + reason);
 }
 
-/// The form of the file is that of QSettings, which does not say whether the disk took all of it. So it writes a temporary file,
-/// and what counts is what a second one reads in a copy of that.
+/// QSettings defines the format of the file, but does not report whether all of it was written. So it writes a
+/// temporary file, and a second QSettings reads a copy of that to verify it.
 bool ModCfgApp::formatSettings(QByteArray* text, QString* reason)
 {
     *reason = tr("No temporary file can be written.");

@@ -14,8 +14,8 @@ namespace nsModCfgApp {
 /// The settings of one user, kept from one run of the program to the next in an ini file that is named by the
 /// application's organisation and name.
 ///
-/// The file is replaced in one step, so it always holds the old or the new settings. That it can not be written is reported;
-/// one that can not be read is as good as none.
+/// The file is replaced in one step, so it always holds the old or the new settings. A file that can not be written is
+/// reported; one that can not be read counts as missing.
 class ModCfgApp : public CfgTree, public ModCfgAppHookIf, public ModPluginIf, public ModMsgPluginIfInterMod
 {
     Q_OBJECT
@@ -26,9 +26,9 @@ public:
 
     /// Reads the file into the tree.
     void loadAppConfig();
-    /// Tells all clients to take their settings.
+    /// Calls rdAppCfg() of all clients.
     void distributeAppConfigToModules();
-    /// Tells all clients to put their settings into the tree.
+    /// Calls wrAppCfg() of all clients.
     void collectAppConfigFromModules();
 
     // ModCfgAppHookIf

@@ -44,7 +44,8 @@ void ModClipboard::registerPluginWidget(ModClipboardPluginIf* plugin, QWidget* w
 {
     if (plugin == nullptr || widget == nullptr)
         return;
-    // A widget that goes without a word must not leave its address to the next one.
+    // If a widget is deleted without being unregistered, a later widget at the same address must not count as
+    // registered.
     if (!m_plugins.contains(widget))
         connect(widget, &QObject::destroyed, this, [this, widget] { m_plugins.remove(widget); });
     m_plugins.insert(widget, plugin);
@@ -82,7 +83,7 @@ void ModClipboard::modExit()
 
 void ModClipboard::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    // When the last page has gone there is no widget, so no area is named either.
+    // When the last page was removed there is neither a widget nor a location.
     const bool noPage = widget == nullptr && currentPage() == nullptr;
     // The plug-in of a registered page sets the features itself.
     if (noPage || (location == ModGuiHookIf::eLocationTabs && !m_plugins.contains(widget)))

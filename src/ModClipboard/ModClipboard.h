@@ -18,7 +18,8 @@ namespace nsModClipboard {
 
 /// Routes cut, copy and paste to the plug-in that owns the current page of the tabs.
 ///
-/// The pages decide themselves what the actions do and when they are on; a page that nobody has registered has them off.
+/// The pages decide themselves what the actions do and when they are on; for a page that is not registered they are
+/// disabled.
 class ModClipboard : public QObject,
                      public ModClipboardHookIf,
                      public ModPluginIf,

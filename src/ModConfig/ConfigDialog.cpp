@@ -106,7 +106,7 @@ QWidget* ConfigDialog::makeButtons()
     m_buttons->setSpacing(gap);
     m_buttons->addLayout(pageButtons);
     m_buttons->addLayout(dialogButtons);
-    // Less than one line needs: a small window gives the buttons two lines, and does not grow.
+    // Smaller than one row of buttons: in a small window the buttons take two rows, and the window does not grow.
     frame->setMinimumWidth(1);
     return frame;
 }
@@ -131,7 +131,7 @@ QListWidgetItem* ConfigDialog::addPage(const QIcon& icon, const QString& title, 
     area->setFrameStyle(QFrame::Box | QFrame::Plain);
     area->setLineWidth(0);
     area->setWidgetResizable(true);
-    area->setFocusPolicy(Qt::NoFocus); // the fields in it are stops enough
+    area->setFocusPolicy(Qt::NoFocus); // Tab stops at the fields only
     area->setWidget(page);
     MyWheelGuard::install(page);
     // The stack comes first: a new current item looks for its page there.
@@ -166,7 +166,7 @@ void ConfigDialog::dropPage(QListWidgetItem* item)
     if (area == nullptr)
         return;
     m_stack->removeWidget(area);
-    // It still counts the widget among its own.
+    // The scroll area still refers to the widget.
     area->deleteLater();
 }
 
@@ -186,12 +186,12 @@ void ConfigDialog::showPage(QListWidgetItem* item)
     QScrollArea* area = areaOf(item);
     m_stack->setCurrentWidget(area);
     if (area != nullptr && area->widget() != nullptr)
-        putButtonsBehind(area->widget());
+        putButtonsAfter(area->widget());
 }
 
-void ConfigDialog::putButtonsBehind(QWidget* page)
+void ConfigDialog::putButtonsAfter(QWidget* page)
 {
-    // The pages are made after the buttons; in tab order the buttons come last.
+    // The pages are created after the buttons, but in the tab order the buttons come last.
     QWidget* last = page;
     for (QWidget* widget = nextInFocusChain(); widget != this; widget = widget->nextInFocusChain()) {
         if (page->isAncestorOf(widget))

@@ -11,8 +11,8 @@ class QStackedWidget;
 
 namespace nsModConfig {
 
-/// The frame around the settings pages: the list of pages, the page, and the buttons. Knows nothing of what stands in a
-/// page.
+/// The frame around the settings pages: the list of pages, the page, and the buttons. Does not depend on the contents
+/// of the pages.
 class ConfigDialog : public QWidget
 {
     Q_OBJECT
@@ -37,7 +37,7 @@ public:
     void showPage(QListWidgetItem* item);
 
 signals:
-    /// The dialog is being deleted, by whoever holds it; the pages in it follow.
+    /// The dialog is being deleted; the pages in it are deleted next.
     void vanishing();
     void setDefaultRequested();
     void restoreRequested();
@@ -51,7 +51,7 @@ private:
     void setupList();
     QWidget* makeButtons();
     QScrollArea* areaOf(QListWidgetItem* item) const;
-    void putButtonsBehind(QWidget* page);
+    void putButtonsAfter(QWidget* page);
 
     QListWidget* m_list = nullptr;
     QStackedWidget* m_stack = nullptr;

@@ -23,7 +23,7 @@ ConfigListDelegate::ConfigListDelegate(QListView* view)
 QSize ConfigListDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const QSize wanted = index.data(Qt::SizeHintRole).toSize();
-    // The width that the list is going to have, as it may not have been laid out yet.
+    // The final width of the list, which may not have been laid out yet.
     const int width = m_view->maximumWidth() - 1 - 2 * m_view->spacing();
     const int height = iconSize.height() + option.fontMetrics.height() + 2 * gap;
     return wanted.expandedTo(QSize(width, height));
@@ -35,7 +35,7 @@ void ConfigListDelegate::initStyleOption(QStyleOptionViewItem* option, const QMo
     QWindow* window = m_view->window()->windowHandle();
     option->decorationSize = iconSize;
     option->decorationAlignment = Qt::AlignHCenter | Qt::AlignBottom;
-    // The list has a fixed width: a title is rather small than cut off.
+    // The list has a fixed width: a long title gets a smaller font instead of being cut off.
     const int room = option->rect.width() - 2 * titleMargin;
     const int title = option->fontMetrics.horizontalAdvance(option->text);
     option->textElideMode = Qt::ElideNone;

@@ -115,7 +115,7 @@ void ModConfig::forgetPage(ModConfigPagePluginIf* page)
     QListWidgetItem* item = itemOf(page);
     if (item == nullptr)
         return;
-    // Without the entry nobody follows the pointer any more.
+    // Without the entry the pointer is not used any more.
     m_items.remove(item);
     m_dialog->dropPage(item);
 }
@@ -224,7 +224,7 @@ void ModConfig::closeDialog(bool accepted)
         m_state = eState_t::open;
         return;
     }
-    // Applied settings let the assembler run, which is to leave the reports of the rest on the screen.
+    // Applied settings start a run of the assembler, which must not clear the other messages of this action.
     std::optional<nsModMsg::MsgGroup> group;
     if (accepted)
         group.emplace(modMsgHook, tr("Applying the configuration..."));
@@ -257,7 +257,7 @@ bool ModConfig::mayApply()
 
 void ModConfig::closePages(bool accepted)
 {
-    // Pages go one after the other from here on; none of them is to come to the front for that.
+    // From here on the pages are removed one after the other, without bringing the next one to the front.
     disconnect(m_list, &QListWidget::currentItemChanged, this, &ModConfig::changeDlgPage);
     QList<ModConfigPluginIf*> plugins;
     for (QListWidgetItem* item : items()) {
@@ -274,7 +274,7 @@ void ModConfig::closePages(bool accepted)
 
 void ModConfig::closePage(QListWidgetItem* item, bool accepted)
 {
-    // The entry goes first: the module deletes the page.
+    // The entry is removed first, as the module deletes the page.
     const sConfigItem_t entry = m_items.take(item);
     entry.page->modConfigPageHook = nullptr;
     entry.plugin->configPageClose(accepted);
@@ -287,7 +287,7 @@ void ModConfig::removeDialog()
         modHlpHook->closeDialogHlp(m_dialog);
     modGuiHook->removeWidget(m_dialog);
     m_dialog->hide();
-    // The click that led here may be one of its buttons'.
+    // Deleted later, as the call may come from one of its buttons.
     m_dialog->deleteLater();
     m_items.clear();
     m_dialog = nullptr;
@@ -381,7 +381,7 @@ void ModConfig::prjOpen()
 
 void ModConfig::prjOpened()
 {
-    // What these pages show is not of this project, and would be written into it.
+    // The values on these pages are not those of this project, but would be written into it.
     for (QListWidgetItem* item : items()) {
         const auto it = m_items.find(item);
         if (it == m_items.end() || !it.value().stale)

@@ -28,8 +28,8 @@ class ModConfigPagePluginIf;
 
 /// The configuration dialog: a tab of the main window with one page for each subsystem that has settings.
 ///
-/// The pages belong to the modules that give them. A page, a module or a project may vanish while the dialog is open;
-/// the dialog then goes on without it. Scripts know this object as "config".
+/// The pages belong to the modules that give them. Pages and modules may be removed and the project may be closed while
+/// the dialog is open; the dialog stays usable. Scripts know this object as "config".
 class ModConfig : public QObject,
                   public ModConfigHookIf,
                   public ModConfigPageHookIf,
@@ -100,12 +100,12 @@ private:
         closing
     };
 
-    /// What stands behind an entry of the list.
+    /// The page of an entry of the list.
     struct sConfigItem_t
     {
         ModConfigPluginIf* plugin = nullptr;
         ModConfigPagePluginIf* page = nullptr;
-        bool stale = false; ///< was disabled when the present project came: shows values of none, or of the last one
+        bool stale = false; ///< was disabled when the project was opened: does not show its values
     };
 
     void makeDialog();

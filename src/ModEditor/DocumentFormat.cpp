@@ -20,7 +20,7 @@ const std::array<const char*, 3> lineEndTexts = {"\n", "\r\n", "\r"};
 /// @return false when the bytes are no UTF-8
 bool decodeUtf8(const QByteArray& bytes, QString* text)
 {
-    // A mark inside of the text is a character like others.
+    // A byte order mark inside of the text is an ordinary character.
     QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
     *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
     return state.invalidChars == 0 && state.remainingChars == 0;
@@ -157,7 +157,7 @@ QVector<DocumentFormat::eLineEnd_t> DocumentFormat::mixedLineEnds(const QString&
     };
     for (const LineDiff::sHunk_t& hunk : LineDiff::compare(before, now)) {
         keep(hunk.left);
-        // A line that was changed is still the same line.
+        // A line that was changed keeps its line end.
         for (int i = 0; i < qMin(hunk.leftCount, hunk.rightCount); ++i)
             ends[hunk.right + i] = m_mixedEnds.value(hunk.left + i, most);
         oldLine = hunk.left + hunk.leftCount;

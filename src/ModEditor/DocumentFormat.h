@@ -6,9 +6,9 @@
 
 namespace nsModEditor {
 
-/// How the text of a document stands in its file: encoding, byte order mark and line ends.
+/// How the text of a document is stored in its file: encoding, byte order mark and line ends.
 ///
-/// A text that was not changed becomes the same bytes again. Where the line ends of a file are mixed, each line keeps
+/// A text that was not changed gives the same bytes again. If the line ends of a file are mixed, each line keeps
 /// its own; a line that is new gets the one that the file has most often.
 class DocumentFormat
 {
@@ -36,7 +36,7 @@ public:
         eObstacleCharacters = 3 ///< characters that the text edit does not keep
     };
 
-    /// Takes the bytes of a file apart.
+    /// Decodes the bytes of a file.
     /// @param text the text to show, one line feed between lines; of a file with an obstacle what can be shown of it
     static DocumentFormat decode(const QByteArray& bytes, QString* text);
     /// The bytes of the text in this format. @param text one line feed between lines

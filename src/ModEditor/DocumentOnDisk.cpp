@@ -55,7 +55,7 @@ DocumentOnDisk::eState_t DocumentOnDisk::state(const QString& path, QByteArray* 
     const QByteArray content = file.readAll();
     if (m_known && hashOf(content) == m_hash)
         return eStateSame;
-    // An empty content is one, too.
+    // Empty content must differ from no content (null).
     *bytes = content.isNull() ? QByteArray("") : content;
     return eStateChanged;
 }

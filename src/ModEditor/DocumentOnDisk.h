@@ -6,7 +6,7 @@
 
 namespace nsModEditor {
 
-/// What a file held when a document was last read from it or written to it, to find out what others have done since.
+/// The content of a file when a document was last read from it or written to it, to detect changes by others.
 class DocumentOnDisk
 {
 public:
@@ -15,7 +15,7 @@ public:
         eStateSame = 0,
         eStateChanged = 1,
         eStateGone = 2,
-        eStateNoFile = 3 ///< a folder or device stands there, nothing that a document could be read from
+        eStateNoFile = 3 ///< there is a folder or a device, which a document can not be read from
     };
 
     /// No file yet.
@@ -23,12 +23,12 @@ public:
     /// @param bytes what was read or written just now
     DocumentOnDisk(const QString& path, const QByteArray& bytes);
 
-    /// Whether the document has come from a file, or gone to one.
+    /// True if the document was read from a file or written to one.
     bool isKnown() const { return m_known; }
-    /// By the content. Where no file was known, one that is there has changed, and one that is not is the same.
+    /// Compares the content. If no file was known, an existing file counts as changed, and a missing one as unchanged.
     /// @param bytes set to the present content when it has changed; null when it can not be read
     eState_t state(const QString& path, QByteArray* bytes) const;
-    /// By size and time stamps alone: a quick answer, which may be wrong right after another change.
+    /// Compares size and time stamps only, which is fast but may miss a change right after another one.
     bool looksSame(const QString& path) const;
 
     /// Whether both paths lead to one file, over links and in any spelling. Files that do not exist are compared by

@@ -27,7 +27,7 @@ void DocumentWatcher::setPaths(const QStringList& paths)
     for (const QString& path : paths) {
         const QFileInfo info(path);
         m_pathsOfFolder.insert(info.absolutePath(), path);
-        // A link leads to a file that is replaced in a folder of its own.
+        // The target of a link is replaced in its own folder, so that is watched, too.
         const QString target = QFileInfo(info.canonicalFilePath()).absolutePath();
         if (info.exists() && target != info.absolutePath())
             m_pathsOfFolder.insert(target, path);
@@ -35,7 +35,7 @@ void DocumentWatcher::setPaths(const QStringList& paths)
     watchAll();
 }
 
-/// Brings the watch up to date. A file that was removed or replaced has fallen out of it.
+/// Brings the watch up to date. A file that was removed or replaced is no longer watched.
 void DocumentWatcher::watchAll()
 {
     const QStringList watched = m_watcher.files() + m_watcher.directories();
@@ -64,14 +64,14 @@ void DocumentWatcher::noteFile(const QString& path)
 void DocumentWatcher::noteFolder(const QString& path)
 {
     m_touchedFolders.insert(path);
-    // Whoever works in the folder all the time must not hold up the report.
+    // Continuous changes in the folder must not delay the report.
     if (!m_delay.isActive())
         m_delay.start();
 }
 
 void DocumentWatcher::report()
 {
-    // Before the files are looked at, so that what happens from now on is reported again.
+    // Before the files are read, so that later changes are reported again.
     watchAll();
     const QSet<QString> files = m_touchedFiles;
     QSet<QString> neighbours;

@@ -11,9 +11,8 @@ namespace nsModEditor {
 
 /// Reports that something has happened to files, whether they are written, replaced, removed or made again.
 ///
-/// Files are watched together with their folders: a file that is replaced is another one, which the watch of the file
-/// itself does not see. What happens within a moment is reported once; what has really changed is for the receiver to
-/// find out.
+/// Files are watched together with their folders: a file that replaces another one is not seen by the watch of the file
+/// itself. Changes within a short time are reported once; the receiver must find out what has changed.
 class DocumentWatcher : public QObject
 {
     Q_OBJECT
@@ -37,7 +36,7 @@ private:
     void watchAll();
 
     QFileSystemWatcher m_watcher;
-    QTimer m_delay; ///< until a writer has come to its end
+    QTimer m_delay; ///< waits until a writer has finished
     QStringList m_paths;
     QMultiHash<QString, QString> m_pathsOfFolder;
     QSet<QString> m_touchedFiles;

@@ -38,7 +38,7 @@ const sFontContext_t fontContexts[EditorConfig::fontContextCount] = {
     {ModEditorHookIf::eHighlightRuleKeyWords, "keyWords", QFont::Bold, 0x000000},
 };
 
-// Reading and writing walk the same fields in the same order, so that no key can be forgotten on one side.
+// Reading and writing use one list of fields, so that no key can be forgotten on one side.
 
 struct Reader
 {
@@ -48,7 +48,7 @@ struct Reader
     {
         field = qBound(first, cfg->value(key, field), last);
     }
-    /// One of some values: any other leaves the field as it is.
+    /// One of several values: any other value leaves the field unchanged.
     void choice(const QString& key, int& field, int last)
     {
         const int value = cfg->value(key, field);
@@ -105,7 +105,7 @@ void allItems(Access access, Config& config)
     access.item("ModEditor/stdFont", config.stdFont);
 }
 
-/// A weight of 0 is stored as that of a normal font.
+/// A weight of 0 is stored as the weight of a normal font.
 int storedWeight(const QTextCharFormat& format)
 {
     return format.fontWeight() == 0 ? int(QFont::Normal) : format.fontWeight();
@@ -145,7 +145,7 @@ EditorConfig::EditorConfig() : stdFont(getNominalFont())
 QFont EditorConfig::getNominalFont()
 {
     QFont font("DejaVu Sans Mono", 9, QFont::Normal, false);
-    // Where the family is missing, another one of fixed width serves.
+    // If the family is not installed, another one of fixed width is used.
     font.setStyleHint(QFont::Monospace);
     return font;
 }

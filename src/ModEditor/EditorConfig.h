@@ -37,7 +37,7 @@ public:
         fontContextCount, ///< number of contexts, not a context
     };
 
-    // Ranges of the numbers, wherever they come from; the smallest width, length and count is 1.
+    // Ranges of the numbers, from the settings as well as from the page; the smallest width, length and count is 1.
     static constexpr int maxTabIndent = 64; ///< characters
     static constexpr int maxPrefixLength = 20;
     static constexpr int maxItemCount = 100;

@@ -139,7 +139,7 @@ QSpinBox* EditorConfigPage::addNumber(MyPageLayout* layout, const char* name, co
 MyColorSelector* EditorConfigPage::addColor(MyPageLayout* layout, const char* name, const QString& title)
 {
     auto* selector = new MyColorSelector(this);
-    // The style sheet knows colour fields by their own name.
+    // The style sheet selects colour fields by this property.
     selector->setProperty("setting", QLatin1String(name));
     selector->setAccessibleName(title);
     layout->addField(title, selector);
@@ -165,7 +165,7 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_simStartAddressSymbolColor->setColor(config->simStartAddressSymbolColor);
     m_bookmarkSymbolColor->setColor(config->bookmarkSymbolColor);
 
-    // A family that is missing here shows as the one in its place, but stays in the settings.
+    // A family that is not installed is shown as its substitute, but stays in the settings.
     m_stdFont = config->stdFont;
     const QSignalBlocker familyBlocker(m_fontFamily);
     const QSignalBlocker sizeBlocker(m_fontSize);

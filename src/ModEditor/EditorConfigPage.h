@@ -75,7 +75,7 @@ private:
     QFontComboBox* m_fontFamily = nullptr;
     QComboBox* m_fontSize = nullptr;
     MyFontTable* m_fontTable = nullptr;
-    QFont m_stdFont; ///< what the two boxes do not show comes back as it was put in
+    QFont m_stdFont; ///< keeps the properties that the two boxes do not show
 };
 
 } // namespace nsModEditor

@@ -40,7 +40,7 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
     layout->addSpacing(8);
     addFormat();
     layout->addStretch(1);
-    // What follows must not move when a value changes.
+    // The widgets after it must not move when a value changes.
     reserve(m_fontSize, {tr("%1 pt").arg(100)});
     reserve(m_mode, {tr("Insert"), tr("Overwrite")});
     setOverwrite(false);
@@ -72,7 +72,7 @@ void EditorStatusBar::addFormat()
     m_format->setFocusPolicy(Qt::TabFocus);
     auto* menu = new QMenu(m_format);
     m_lineEnds = new QActionGroup(this);
-    // Of mixed line ends none is checked.
+    // With mixed line ends no entry is checked.
     m_lineEnds->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     const QStringList names = {tr("LF (Unix)"), tr("CRLF (Windows)"), tr("CR")};
     for (int lineEnd = DocumentFormat::eLineEndLf; lineEnd <= DocumentFormat::eLineEndCr; ++lineEnd) {
@@ -95,7 +95,7 @@ void EditorStatusBar::addFormat()
 void EditorStatusBar::selectLineEnd(QAction* action)
 {
     emit lineEndSelected(action->data().toInt());
-    // A click on the one that holds already does not take it away.
+    // A click on the checked entry does not uncheck it.
     action->setChecked(true);
 }
 

@@ -33,7 +33,7 @@ void EditorTipManager::showTip(QWidget* parent, QPoint pos, QString& word)
 {
     if (!setTip(word))
         return;
-    // Setting a parent alone would make a child of the dialog.
+    // Without the flags, setParent() would turn the dialog into a child widget.
     setParent(parent, windowFlags());
     move(pos);
     show();

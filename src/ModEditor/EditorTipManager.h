@@ -19,11 +19,12 @@ public:
     explicit EditorTipManager(QWidget* parent = nullptr);
 
     /// Shows the tip for the word.
-    /// @param parent becomes the dialog's parent; whoever owns the dialog takes it back before the parent ends
+    /// @param parent becomes the dialog's parent; the owner of the dialog must give it another parent before this one
+    /// is deleted
     /// @param pos in the coordinates of the parent's window
     void showTip(QWidget* parent, QPoint pos, QString& word);
-    /// Composes the text of the tip. The word does not count yet.
-    /// @return false if the frame of the text cannot be read
+    /// Composes the text of the tip. The word is not used yet.
+    /// @return false if the template of the text cannot be read
     bool setTip(QString& word);
     /// A table under a heading, empty for no values.
     QString setTipArgs(QString title, QHash<QString, QString>& args);

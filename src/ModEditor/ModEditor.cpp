@@ -27,12 +27,12 @@ ModEditor::ModEditor(QObject* parent) : QObject(parent), m_textCompletionList(ne
 
 ModEditor::~ModEditor()
 {
-    // Pages that the window still holds go with it; the others are nobody's but ours.
+    // The window deletes the pages that it still contains; the others are owned by this object.
     for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
         if (widget->parent() == nullptr)
             delete widget;
     }
-    // Where the window goes without a close, these have not been given back.
+    // If the window is deleted without being closed, these are still owned here.
     if (m_statusBar != nullptr && m_statusBar->parent() == nullptr)
         delete m_statusBar;
     delete m_tipManager;
@@ -188,7 +188,7 @@ void ModEditor::prjOpen()
 {
     m_lastPath = modPrjHook->prjDir().absolutePath();
     tabIndent = qBound(1, modPrjHook->value("ModEditor/tabIndent", tabIndent), maxTabIndent);
-    // The one value on the page that belongs to the project as well.
+    // The only value on the page that is also a project setting.
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
     // One file has one path, also outside of the project's folder.
@@ -203,7 +203,7 @@ void ModEditor::prjOpen()
     EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
-    // Without a last file, too, there is a page that is shown.
+    // Without a last file one of the pages is current, too.
     updateActionState();
 }
 
@@ -240,7 +240,7 @@ void ModEditor::handleUrl(QUrl url)
     setCursorToLine(url);
     clearMessageFlag();
     EditorWidget* widget = currentEditorWidget();
-    // During a simulation the flag is that of the program counter.
+    // During a simulation the flagged line is that of the program counter.
     if (m_simEnabled || widget == nullptr || widget->filePath() != url.path())
         return;
     clearLineHighlited();
@@ -303,7 +303,7 @@ void ModEditor::configPageClose(bool accepted)
     if (m_configPage != nullptr && accepted) {
         m_configPage->config(this);
         configureEditorWidgets();
-        // The dialog saves what stands in the settings now.
+        // The dialog saves the settings tree, so the new values are written to it first.
         if (modCfgAppHook != nullptr)
             wrAppCfg();
     }
@@ -366,7 +366,8 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     connect(widget, SIGNAL(clearAllBreakpoints()), this, SLOT(clearSimBreakpoints()));
     connect(widget, SIGNAL(clearAllSimStartPointer()), this, SLOT(clearAllSimStartPointer()));
     connect(widget, SIGNAL(clearAllBookmarks()), this, SLOT(clearAllBookmarks()));
-    // Not inside of the drop: opening can ask a question, and whoever drags waits for the end.
+    // After the drop has ended: opening can ask a question, which would block the program that the files are dragged
+    // from.
     connect(widget, &EditorWidget::filesDropped, this, &ModEditor::openDroppedFiles, Qt::QueuedConnection);
     widget->addActions(m_actionsEdit->menuActions());
 }

@@ -43,11 +43,11 @@ class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidget;
 
-/// All open documents: opens, reloads, saves, prints and closes them, and leads other modules to their lines.
+/// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
 ///
-/// A document is a page in the centre of the window. Its file is watched: a document without changes of its own follows it, any
-/// other one says so at its upper edge, and is not written over a file that others have changed without a question. Questions to
-/// the user are modal and nest the event loop.
+/// A document is a page in the centre of the window. Its file is watched: a document without changes of its own follows
+/// it, any other one shows a bar at its upper edge, and asks before it overwrites a file that others have changed.
+/// Questions to the user are modal and nest the event loop.
 class ModEditor : public QObject,
                   public ModEditorHookIf,
                   public ModPluginIf,
@@ -72,7 +72,7 @@ public:
     {
         bool caseSensitive = false;
         bool wholeWords = false;
-        bool wrapPending = false; ///< the end of the document was reached; the next search goes on at the other end
+        bool wrapPending = false; ///< the end of the document was reached; the next search continues at the other end
         QString findString;
         QString replaceString;
     };
@@ -214,7 +214,7 @@ private:
     void removeEditorWidget(EditorWidget* widget);
     EditorWidget* openFileWidget(const QString& path);
     EditorWidget* currentEditorWidget() const;
-    /// After a command of the user who now wants to type.
+    /// Gives the focus to the current document, after a command of the user.
     void focusCurrentWidget();
     void openFilesByDialog();
     bool readFile(const QString& path, QByteArray* bytes);
@@ -233,7 +233,7 @@ private:
     bool askForProjectMember(const QString& path);
     bool ask(const QString& title, const QString& first, const QString& path, const QStringList& closing);
     // Files that others change (ModEditorDisk.cpp)
-    /// What the user wants where a file and its document have both changed.
+    /// The user's choice if a file and its document have both changed.
     enum eConflict_t
     {
         eConflictCancel = 0,
@@ -326,7 +326,7 @@ private:
     QString m_lastPath; ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
-    int m_simBreakpointsRevision = 0;                 ///< grows with each change of what simBreakpoints() answers
+    int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
     bool m_errorShown = false; ///< the present action of the user has reported an error

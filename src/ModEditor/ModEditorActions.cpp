@@ -153,7 +153,7 @@ void ModEditor::setActionState(EditorWidget* current)
     setActionStateEditorWidget(current);
 }
 
-/// What is offered belongs to the page that is shown now.
+/// Enables the actions for the current page.
 void ModEditor::updateActionState()
 {
     setActionState(currentEditorWidget());
@@ -161,7 +161,7 @@ void ModEditor::updateActionState()
 
 void ModEditor::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    // When the last page has gone there is no widget, so no area is named either.
+    // When the last page was removed there is neither a widget nor a location.
     if (location == ModGuiHookIf::eLocationTabs)
         setActionState(qobject_cast<EditorWidget*>(widget));
     else if (widget == nullptr)
@@ -277,7 +277,7 @@ void ModEditor::setFindParameter()
     m_findParameter.wrapPending = false;
 }
 
-/// One search. The first miss only says that the end is reached; the next one goes on at the other end.
+/// One search. If the text is not found, only a message is shown; the next search continues at the other end.
 void ModEditor::find(bool configChanged, bool backward)
 {
     if (configChanged)
@@ -331,7 +331,7 @@ void ModEditor::replace(bool configChanged)
         return;
     if (modFindReplaceHook != nullptr)
         m_findParameter.replaceString = modFindReplaceHook->replaceString();
-    // What the user has selected meanwhile is not what the search found.
+    // The user may have selected another text since the search.
     if (widget->isHit(m_findParameter.findString, m_findParameter.caseSensitive, m_findParameter.wholeWords))
         widget->replace(m_findParameter.replaceString);
     findNext(configChanged);

@@ -1,4 +1,4 @@
-// Documents and what others do to their files: what was read, what has changed since, and what is done about it.
+// Documents whose files are changed by others: detecting the change, and following it or asking the user.
 
 #include "ModEditor.h"
 
@@ -38,8 +38,8 @@ QString reasonOf(DocumentFormat::eObstacle_t obstacle)
     return QString();
 }
 
-/// A mark of what others have done to a file, to report each deed once.
-QByteArray deedOf(DocumentOnDisk::eState_t state, const QByteArray& bytes)
+/// Identifies a change of a file by others, so that each change is reported once.
+QByteArray changeIdOf(DocumentOnDisk::eState_t state, const QByteArray& bytes)
 {
     return QByteArray::number(state) + QCryptographicHash::hash(bytes, QCryptographicHash::Sha1);
 }
@@ -55,7 +55,7 @@ void ModEditor::setContent(EditorWidget* widget, const QByteArray& bytes, bool a
         widget->changeText(text);
     else
         widget->setText(text);
-    // The proof that the file can be written as it was.
+    // Checks that writing the text gives the bytes of the file.
     if (format.obstacle() == DocumentFormat::eObstacleNone && format.encode(widget->text()) != bytes)
         format.setObstacle(DocumentFormat::eObstacleCharacters);
     widget->setFormatOnDisk(format);
@@ -103,7 +103,7 @@ bool ModEditor::canSaveAs(EditorWidget* widget, const QString& path)
     for (EditorWidget* other : qAsConst(m_editorWidgets)) {
         if (other == widget || other->filePath().isEmpty() || !DocumentOnDisk::isSameFile(other->filePath(), path))
             continue;
-        // Two documents of one name would overwrite each other in silence.
+        // Two documents with the same file would overwrite each other without a question.
         showError(tr("Can not save under the name of another open document: ") + path);
         return false;
     }
@@ -142,7 +142,7 @@ bool ModEditor::saveChecked(EditorWidget* widget)
     if (state == DocumentOnDisk::eStateSame || state == DocumentOnDisk::eStateNoFile)
         return writeDocument(widget);
     if (state == DocumentOnDisk::eStateChanged && onDisk.isKnown() && !widget->isModified() && !other.isNull()) {
-        // Nothing of the user's is at stake.
+        // The document has no changes that could be lost.
         setContent(widget, other, true);
         return true;
     }
@@ -183,7 +183,7 @@ ModEditor::eConflict_t ModEditor::askForConflict(EditorWidget* widget, const QBy
         box.setEscapeButton(cancel);
         box.exec();
         QAbstractButton* clicked = box.clickedButton();
-        // Pages can be closed while the question stands.
+        // Pages can be closed while the question is open.
         if (clicked == nullptr || clicked == cancel || !m_editorWidgets.contains(widget))
             return eConflictCancel;
         if (clicked == mine)
@@ -219,7 +219,7 @@ bool ModEditor::takeFile(EditorWidget* widget)
     return true;
 }
 
-/// Whatever the file holds now, the text of the document goes over it at the next save.
+/// The next save overwrites the file, whatever its content is.
 void ModEditor::keepMine(EditorWidget* widget)
 {
     QByteArray other;
@@ -267,10 +267,10 @@ void ModEditor::checkDisk(EditorWidget* widget)
         setContent(widget, other, true);
         return;
     }
-    if (disk.reported == deedOf(state, other))
+    if (disk.reported == changeIdOf(state, other))
         return;
     removeDiskNotice(widget);
-    disk.reported = deedOf(state, other);
+    disk.reported = changeIdOf(state, other);
     if (state == DocumentOnDisk::eStateGone)
         showGoneNotice(widget);
     else
@@ -301,7 +301,7 @@ void ModEditor::showChangedNotice(EditorWidget* widget)
     widget->addNotice(bar);
 }
 
-/// A file that is there again meanwhile is asked for.
+/// Asks the user if the file exists again.
 void ModEditor::writeAgain(EditorWidget* widget)
 {
     QByteArray other;

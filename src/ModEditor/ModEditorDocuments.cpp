@@ -23,7 +23,7 @@ namespace nsModEditor {
 
 namespace {
 
-const int findReplaceFeatures = 3; ///< the documents can replace, and know whole words
+const int findReplaceFeatures = 3; ///< replace, and search for whole words
 
 /// A new page without a file, a text or a change.
 bool isUntouched(EditorWidget* widget)
@@ -78,7 +78,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     m_editorWidgets.removeOne(widget);
     if (m_recovery != nullptr)
         m_recovery->forget(widget);
-    // Its breakpoints go with it.
+    // Its breakpoints are removed with it.
     ++m_simBreakpointsRevision;
     m_disk.remove(widget);
     if (modGuiHook != nullptr)
@@ -120,7 +120,7 @@ EditorWidget* ModEditor::openFileWidget(const QString& path)
         return nullptr;
     QPointer<EditorWidget> widget = newEditorWidget(path);
     showContent(widget, bytes);
-    // The question that this can ask lets the user close the page meanwhile.
+    // While this asks a question, the user can close the page.
     chkProjectMembership(path);
     return m_editorWidgets.contains(widget) ? widget.data() : nullptr;
 }
@@ -169,8 +169,8 @@ bool ModEditor::saveFile(EditorWidget* widget)
     return saveChecked(widget);
 }
 
-/// Does what the user has asked for in a message group, so that its reports outlive the run that it may start. An error
-/// makes the group a failure; a dialog that was cancelled does not.
+/// Runs an action of the user in a message group, so that a run started by it does not clear its messages. An error
+/// makes the group a failure; a cancelled dialog does not.
 template <class Action>
 bool ModEditor::inGroup(const QString& text, Action action)
 {
@@ -193,7 +193,7 @@ bool ModEditor::saveFile()
 void ModEditor::saveAllFiles()
 {
     inGroup(tr("Saving..."), [this] {
-        // A dialog for an untitled document lets the user close pages meanwhile.
+        // While the dialog for an untitled document is open, the user can close pages.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
             // A file that the user has not touched here is left to whoever may have changed or removed it, and a page that
@@ -369,7 +369,7 @@ void ModEditor::setCursorToLine(QString path, QString lineRef, int line)
 {
     if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(lineRef, line);
-        widget->setFocus(); // whoever wants to see a line wants to work on it
+        widget->setFocus(); // the user wants to edit the line
     } else {
         showError(tr("Can not select line!"));
     }
@@ -379,7 +379,7 @@ void ModEditor::setCursorToLine(QString path, int line)
 {
     if (EditorWidget* widget = openFileWidget(path)) {
         widget->setCursorToLine(line);
-        widget->setFocus(); // whoever wants to see a line wants to work on it
+        widget->setFocus(); // the user wants to edit the line
     } else {
         showError(tr("Can not select line!"));
     }

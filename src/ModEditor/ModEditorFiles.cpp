@@ -1,4 +1,4 @@
-// Files and questions: what is read and written, and what the user is asked before something is lost.
+// Files and questions: reading and writing, and the questions that are asked before data is lost.
 
 #include "ModEditor.h"
 
@@ -29,7 +29,7 @@ bool ModEditor::readFile(const QString& path, QByteArray* bytes)
     }
     if (!info.isWritable())
         showWarning(tr("File is not writable: ") + path);
-    // A folder, a pipe or a device would answer without end, or never; and a text of that size is none.
+    // Reading a folder, a pipe or a device might never end; a larger file is not opened.
     QFile file(path);
     if (!info.isFile() || info.size() > maxFileSize || !file.open(QIODevice::ReadWrite)) {
         showError(tr("Can not open file: ") + path);
@@ -45,7 +45,7 @@ QByteArray ModEditor::encoded(EditorWidget* widget)
     const QString text = widget->text();
     DocumentFormat format = widget->format();
     if (!format.canEncode(text)) {
-        // A character that the old encoding does not have decides for the new one.
+        // The text has a character that Latin-1 does not have: the document changes to UTF-8.
         format.setEncoding(DocumentFormat::eEncodingUtf8);
         widget->setFormat(format);
         showWarning(tr("File is written as UTF-8 from now on: ") + widget->filePath());

@@ -17,7 +17,7 @@ FindReplaceActions::FindReplaceActions(QObject* parent)
         QStringLiteral(":/ModFindReplace/img/actions/edit-find-next.png"));
     add(eActionReplace, tr("Replace"), QKeySequence::Replace,
         QStringLiteral(":/ModFindReplace/img/actions/edit-replace.png"));
-    // Some desktops have no key for it.
+    // Some desktops define no standard key for it.
     QList<QKeySequence> replaceKeys = actions().last()->shortcuts();
     if (!replaceKeys.contains(QKeySequence(Qt::CTRL | Qt::Key_H)))
         replaceKeys.append(QKeySequence(Qt::CTRL | Qt::Key_H));

@@ -47,7 +47,7 @@ FindReplaceWidget::FindReplaceWidget(QWidget* parent)
     setupOptions();
     layout->setColumnStretch(columnEdit, 1);
     layout->addWidget(m_options, 0, columnOptions);
-    // The fields do not move when the second row comes and goes.
+    // Fixed width, so that the fields do not move when the second row is shown or hidden.
     layout->setColumnMinimumWidth(columnLabel, labelWidth());
     setupTabOrder();
     setFocusProxy(m_find);
@@ -237,10 +237,10 @@ void FindReplaceWidget::setInitString(QString text, eMode_t mode)
 {
     setMode(mode);
     m_find->setFocus();
-    // The field has one line; lines are nothing to search for in it.
+    // The field has one line, so a text of several lines is not taken over.
     if (!text.contains('\n') && !text.contains(QChar::ParagraphSeparator) && !text.isEmpty())
         m_find->setText(text);
-    // What is typed next takes its place.
+    // Selected, so that typing replaces it.
     m_find->selectAll();
     emit configChanged();
 }
@@ -249,7 +249,7 @@ void FindReplaceWidget::setMode(eMode_t mode)
 {
     m_mode = m_replaceEn ? mode : eModeFind;
     const bool shown = m_mode == eModeReplace;
-    // The focus must not leave the bar with the row.
+    // If the focus is in the row that is hidden, it moves to another field of the bar.
     if (!shown && (m_replace->hasFocus() || m_replaceButton->hasFocus() || m_replaceAllButton->hasFocus()))
         m_find->setFocus();
     for (QWidget* part : {static_cast<QWidget*>(m_replaceLabel), static_cast<QWidget*>(m_replace), m_replaceButtons})

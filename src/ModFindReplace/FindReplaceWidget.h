@@ -12,7 +12,7 @@ class QToolButton;
 
 namespace nsModFindReplace {
 
-/// The search bar: what to find and how, and in its second row what to put in its place. It searches nothing itself.
+/// The search bar: what to find and how, and in its second row what to put in its place. It does not search itself.
 class FindReplaceWidget : public QWidget
 {
     Q_OBJECT
@@ -29,7 +29,7 @@ public:
     QString findString() const;
     QString replaceString() const;
     bool isCaseSensitive() const;
-    /// False as well while the choice is not offered.
+    /// Also false while the option is not offered.
     bool isWholeWords() const;
     /// There is a text to find.
     bool isFindEnabled() const;
@@ -58,7 +58,7 @@ signals:
     void findPrev();
     void replace();
     void replaceAll();
-    /// The user wants the bar to go.
+    /// The user wants to close the bar.
     void closeRequest();
 
 protected:

@@ -35,7 +35,8 @@ void ModFindReplace::registerPluginWidget(ModFindReplacePluginIf* plugin, QWidge
 {
     if (plugin == nullptr || widget == nullptr)
         return;
-    // A widget that goes without a word must not leave its address to the next one.
+    // If a widget is deleted without being unregistered, a later widget at the same address must not count as
+    // registered.
     if (!m_widgets.contains(widget))
         connect(widget, &QObject::destroyed, this, [this, widget] { forgetWidget(widget); });
     sWidgetParameter_t parameter;
@@ -65,7 +66,7 @@ void ModFindReplace::forgetWidget(QWidget* widget)
         if (parameter.plugin == plugin)
             return;
     }
-    // A client without widgets may be about to go; it is not called any more, and its address may be another one's.
+    // A client without widgets may be deleted soon; it is not called any more, and another client may get its address.
     if (plugin == m_activePlugin)
         m_activePlugin = nullptr;
     if (plugin == m_informedPlugin)
@@ -157,7 +158,7 @@ ModFindReplacePluginIf* ModFindReplace::currentPlugin() const
 
 void ModFindReplace::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
 {
-    // When the last page has gone there is no widget, so no area is named either.
+    // When the last page was removed there is neither a widget nor a location.
     if (location == ModGuiHookIf::eLocationTabs || (widget == nullptr && currentWidget() == nullptr))
         setActionsEn(widget);
 }
@@ -194,7 +195,7 @@ void ModFindReplace::setActionsEn(QWidget* widget)
     }
     m_actions->setEnabled(FindReplaceActions::eActionFind, true);
     m_actions->setEnabled(FindReplaceActions::eActionReplace, it->replaceEn);
-    // Their keys go on with the last text while the bar is closed.
+    // With the bar closed, their keys search for the last text.
     m_actions->setEnabled(FindReplaceActions::eActionFindNext, m_widget->isFindEnabled());
     m_actions->setEnabled(FindReplaceActions::eActionFindPrev, m_widget->isFindEnabled());
     if (it->plugin == m_activePlugin)
@@ -209,7 +210,7 @@ void ModFindReplace::showWidget()
         return;
     modGuiHook->setCurrentWidget(m_widget);
     modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationCenterBelow, true);
-    // Whoever types the replacement goes on typing there.
+    // If the focus is in the bar already, such as in the field for the replacement, it stays there.
     const QWidget* focus = m_widget->window()->focusWidget();
     if (focus == nullptr || !m_widget->isAncestorOf(focus))
         m_widget->setFocus();
@@ -243,7 +244,7 @@ void ModFindReplace::setConfigChanged()
 
 bool ModFindReplace::takeConfigChanged()
 {
-    // A client that was not the last to search has other parameters.
+    // If another client has searched last, this one must read the parameters again.
     const bool changed = m_configChanged || currentPlugin() != m_informedPlugin;
     m_configChanged = false;
     m_informedPlugin = currentPlugin();

@@ -15,8 +15,8 @@
 
 namespace nsModFindReplace {
 
-/// One search bar for all pages of the tabs that register with it. It knows nothing about text: it tells the plug-in of
-/// the current page to find or replace, and the plug-in reads the parameters back through the hook.
+/// One search bar for all pages of the tabs that register with it. It does not search itself: it calls the plug-in of
+/// the current page, which reads the parameters through the hook.
 class ModFindReplace : public QObject,
                        public ModFindReplaceHookIf,
                        public ModPluginIf,
@@ -83,15 +83,15 @@ private:
     void showWidget();
     void hideWidget();
     void forgetWidget(QWidget* widget);
-    /// The flag as it stands, which is down from then on.
+    /// Returns the flag and clears it.
     bool takeConfigChanged();
 
     QHash<QWidget*, sWidgetParameter_t> m_widgets; ///< the keys are compared, never followed
-    ModFindReplacePluginIf* m_activePlugin = nullptr; ///< whom the bar serves; one that has a widget in the list
-    const ModFindReplacePluginIf* m_informedPlugin = nullptr; ///< who has read the parameters last; compared only
+    ModFindReplacePluginIf* m_activePlugin = nullptr; ///< the client that the bar serves; it has a widget in the list
+    const ModFindReplacePluginIf* m_informedPlugin = nullptr; ///< has read the parameters last; only compared
     bool m_configChanged = false;
     FindReplaceActions* m_actions = nullptr; ///< between modInit() and modExit()
-    QPointer<FindReplaceWidget> m_widget;    ///< likewise; the window deletes it when it goes without modExit()
+    QPointer<FindReplaceWidget> m_widget;    ///< likewise; without modExit() the window deletes it
 };
 
 } // namespace nsModFindReplace

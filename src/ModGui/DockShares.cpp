@@ -9,7 +9,7 @@ namespace nsModGui {
 
 namespace {
 
-// A dock that nobody has sized yet gets at most this much of the window.
+// A dock that the user has not resized yet gets at most this share of the window.
 const double firstLeft = 0.28;
 const double firstSides = 0.55; ///< left and right together
 const double firstRight = 0.18; ///< the right one beside a wide left one
@@ -71,7 +71,8 @@ double DockShares::firstShare(QDockWidget* dock) const
             most = qMax(firstRight, firstSides - left);
         }
     }
-    // No dock gets smaller than it can; but one that needs more than this in a small window does not keep it in a big one.
+    // A dock never gets smaller than its minimum; but a larger share that it needs in a small window is not kept in a
+    // big one.
     return qMin(double(horizontal ? wanted.width() : wanted.height()) / windowExtent(dock), most);
 }
 
@@ -100,11 +101,11 @@ void DockShares::setShares(const QStringList& shares)
 
 void DockShares::record()
 {
-    // Where a share is due, what is on the screen is not what the user has made of it.
+    // While a share has not been applied yet, the extent on the screen is not the choice of the user.
     if (!isReady() || m_applyPending)
         return;
     for (QDockWidget* dock : qAsConst(m_docks)) {
-        // A dock that is as apply() has left it keeps its share, also where the window is too small for it.
+        // A dock with the extent that apply() has set keeps its share, even if the window is too small for it.
         if (dock != nullptr && dock->isVisible() && extentOf(dock) != m_applied.value(dock->objectName()))
             m_shares.insert(dock->objectName(),
                             qBound(smallestShare, double(extentOf(dock)) / windowExtent(dock), largestShare));
@@ -148,7 +149,7 @@ bool DockShares::eventFilter(QObject* watched, QEvent* event)
             apply();
         break;
     case QEvent::Show:
-        // The layout learns of a new dock later.
+        // The layout handles a new dock later.
         applySoon();
         break;
     case QEvent::MouseButtonRelease:

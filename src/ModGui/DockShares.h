@@ -11,7 +11,8 @@ class QMainWindow;
 namespace nsModGui {
 
 /// Keeps the docks' shares of the window: they grow and shrink with it, and come back with the extent that the user gave
-/// them. By itself the layout gives all growth to the centre, and forgets a dock that has been hidden.
+/// them. Without this class the layout gives all additional space to the centre, and forgets the extent of a hidden
+/// dock.
 class DockShares : public QObject
 {
     Q_OBJECT
@@ -24,12 +25,13 @@ public:
 
     /// The shares as text, such as "dockLeft=0.25"; empty as long as none is known. What is on the screen counts.
     QStringList shares();
-    /// Takes over stored shares; what is no share of a known dock is ignored.
+    /// Takes over stored shares; entries that are not a share of a known dock are ignored.
     void setShares(const QStringList& shares);
 
-    /// Takes the present extents as what the user wants.
+    /// Stores the present extents as the choice of the user.
     void record();
-    /// Gives each visible dock its share; one without takes what it asks for, but leaves the centre its room.
+    /// Gives each visible dock its share; a dock without a share gets what it asks for, but leaves enough space for the
+    /// centre.
     void apply();
 
 protected:
@@ -46,7 +48,7 @@ private:
     QPointer<QMainWindow> m_window;
     QList<QPointer<QDockWidget>> m_docks;
     QHash<QString, double> m_shares; ///< by object name of the dock: extent of dock to extent of window
-    QHash<QString, int> m_applied;   ///< by object name: extent that apply() has led to
+    QHash<QString, int> m_applied;   ///< by object name: extent that apply() has set
     bool m_applyPending = false;
 };
 

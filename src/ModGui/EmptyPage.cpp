@@ -33,7 +33,7 @@ QString EmptyPage::hint() const
 {
     if (m_openText.isEmpty())
         return tr("Open a project: Configuration > Open project...\nMake a new one: Configuration > New project...");
-    // The whole way, as a new project has neither source nor processor nor output.
+    // All steps, as a new project has neither source nor processor nor output.
     return m_openText + "\n\n" +
            tr("Write a source: File > New...\n"
               "Choose processor and outputs: Configuration > Configure...\n"
@@ -51,7 +51,7 @@ void EmptyPage::paintEvent(QPaintEvent*)
     nameFont.setWeight(QFont::Light);
     const int nameHeight = QFontMetrics(nameFont).height();
     const int hintHeight = fontMetrics().height() * (hint().count('\n') + 1);
-    // A little above the middle is where the eye looks for the middle.
+    // Slightly above the middle, which looks centred.
     const int top = qMax(0, (height() - nameHeight - gap - hintHeight) * 2 / 5);
 
     painter.setFont(nameFont);

@@ -15,7 +15,7 @@ public:
 
     /// @param text what is open, such as the project; empty if nothing is
     void setOpenText(const QString& text);
-    /// What the page tells under the name, in lines.
+    /// The text under the name, in lines.
     QString hint() const;
 
 protected:

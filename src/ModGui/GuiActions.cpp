@@ -37,7 +37,7 @@ QList<QAction*> GuiActions::menuActions(ModActionHookIf::eActionClass_t actionCl
 
 QList<QAction*> GuiActions::toolBarActions(ModActionHookIf::eActionClass_t) const
 {
-    // Needed once in a while by whoever takes pictures; no button for it.
+    // Rarely needed, so it has no button.
     return {};
 }
 

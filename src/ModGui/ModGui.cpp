@@ -81,7 +81,7 @@ void ModGui::setupCenter()
     splitter->addWidget(tabbed);
     splitter->addWidget(right);
     splitter->setSizes({centerWidth, rightWidth});
-    // The page is what the room is for.
+    // The page gets the additional space.
     splitter->setStretchFactor(0, 1);
     splitter->setStretchFactor(1, 0);
     layout->addWidget(splitter, 1);
@@ -189,7 +189,7 @@ void ModGui::unregisterPlugin(ModGuiPluginIf* plugin)
     if (!m_plugins.remove(plugin))
         return;
     plugin->modGuiHook = nullptr;
-    // Who leaves may be about to go for good: its widgets, where it left any, stand without an owner from now on.
+    // The client may be deleted soon: its widgets that are still in the window have no owner from now on.
     for (sWidgetData_t* data : qAsConst(m_widgets)) {
         if (data->plugin == plugin)
             data->plugin = nullptr;
@@ -217,8 +217,8 @@ void ModGui::addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* wi
 
     if (location == eLocationTabs)
         m_centerWidgets.append(widget);
-    // Becoming current is told to the clients before the owner is on record, so that an owner who is still at its
-    // set-up does not get a call of its own in the middle of it.
+    // The clients are notified of the new current widget before its owner is stored, so that an owner that is still
+    // being set up is not called.
     const QPointer<QWidget> alive(widget);
     target->addWidget(name, widget);
     if (alive.isNull()) {
@@ -226,7 +226,7 @@ void ModGui::addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* wi
         return;
     }
     if (!target->hasWidget(widget))
-        return; // a client that heard of the widget has moved it away again
+        return; // a client has moved the widget when it was notified
 
     forgetWidget(widget);
     if (location == eLocationTabs)
@@ -265,7 +265,7 @@ bool ModGui::holdsFocus(const QWidget* widget) const
     return focus != nullptr && widget != nullptr && (focus == widget || widget->isAncestorOf(focus));
 }
 
-/// Gives the keyboard to the page of the centre: to the field in it that had it last, or to its first one.
+/// Gives the focus to the page of the centre: to the field in it that had it last, or to its first one.
 void ModGui::focusPage()
 {
     QWidget* page = currentWidget(eLocationTabs);
@@ -286,7 +286,7 @@ void ModGui::focusPage()
     target->setFocus();
 }
 
-/// After a change of page. The keyboard stays with a field in a dock, from where a step of the simulator brings up pages.
+/// Called after a change of page. A field in a dock keeps the focus, as steps of the simulator change pages.
 void ModGui::focusNewPage()
 {
     const QWidget* focus = m_window != nullptr ? m_window->focusWidget() : nullptr;
@@ -391,7 +391,7 @@ void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
     const eLocation_t location = locationOf(widget);
     if (sender() == m_tabbed)
         endOfPage();
-    // Each client that is told may do anything with the widget and its owner.
+    // Each notified client may remove or delete the widget and its owner.
     const QPointer<QWidget> alive(widget);
     const bool any = widget != nullptr;
     m_plugins.forEach([&](ModGuiPluginIf* plugin) {
@@ -407,7 +407,7 @@ void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
         focusNewPage();
 }
 
-/// A page that has left the front keeps no dock away any more.
+/// Shows the docks again that were hidden for a page, when that leaves the front.
 void ModGui::endOfPage()
 {
     for (WidgetAreaDock* dock : qAsConst(m_docks)) {
@@ -436,7 +436,7 @@ void ModGui::modRun()
     restoreState();
 }
 
-/// Brings tool bars and docks back to where the user has left them.
+/// Restores tool bars and docks as the user has left them.
 void ModGui::restoreState()
 {
     if (modCfgAppHook == nullptr || m_window == nullptr)
@@ -446,7 +446,7 @@ void ModGui::restoreState()
         if (entry.startsWith(entryBars))
             m_window->restoreState(QByteArray::fromBase64(entry.mid(entryBars.size()).toLatin1()), stateVersion);
     }
-    // Which docks are seen is not a matter of the last time, but of what they hold now.
+    // The visibility of docks is not restored: it depends on whether they have pages now.
     for (WidgetAreaDock* dock : qAsConst(m_docks)) {
         if (dock != nullptr)
             dock->setVisible(true);

@@ -6,7 +6,8 @@ namespace nsModGui {
 
 class WidgetAreaStacked;
 
-/// The sunken frame of one area of the status bar. It stays where its area is empty, so that the others keep their order.
+/// The sunken frame of one area of the status bar. It stays visible while its area is empty, so that the others keep
+/// their places.
 class StatusFrame : public QFrame
 {
     Q_OBJECT

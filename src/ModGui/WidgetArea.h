@@ -6,7 +6,7 @@ class QWidget;
 namespace nsModGui {
 
 /// What all areas of the main window have in common. An area owns none of its widgets; a null widget and one of another
-/// area are ignored, and a widget that its owner deletes is gone from the area.
+/// area are ignored, and a widget that its owner deletes is removed from the area.
 class WidgetArea
 {
 public:

@@ -12,7 +12,7 @@ namespace {
 
 const char* const contentChangedSignature = "contentChanged(QWidget*)";
 
-/// Tabs that tell when one has come or gone, also one that its owner deleted.
+/// A tab widget that calls a function when a tab was added or removed, also by deleting its widget.
 class DockTabs : public QTabWidget
 {
 public:
@@ -58,7 +58,7 @@ void WidgetAreaDock::addWidget(const QString& name, QWidget* widget)
     if (widget == nullptr)
         return;
     removeWidget(widget);
-    // Who reports new content comes to the front.
+    // A widget that reports new content comes to the front.
     if (widget->metaObject()->indexOfSignal(contentChangedSignature) >= 0)
         connect(widget, SIGNAL(contentChanged(QWidget*)), this, SLOT(setCurrentWidget(QWidget*)));
     m_tabs->addTab(widget, name);
@@ -104,7 +104,7 @@ void WidgetAreaDock::setWidgetEnabled(QWidget* widget, bool enabled)
 void WidgetAreaDock::setHeight(int height)
 {
     m_tabs->resize(m_tabs->width(), height);
-    // The layout of the window has the last word on sizes in docks, so it is told too.
+    // The layout of the window decides on the sizes of docks, so it needs the height, too.
     if (auto* window = qobject_cast<QMainWindow*>(parentWidget()))
         window->resizeDocks({this}, {height}, Qt::Vertical);
 }

@@ -18,9 +18,9 @@ public:
 
     /// @param height in pixels, of the tabs and their page
     void setHeight(int height);
-    /// Shows or hides the dock; while it has no tab the wish is kept until the first one comes.
+    /// Shows or hides the dock; while it has no tab, takes effect when the first tab is added.
     void setVisible(bool visible) override;
-    /// A page of the centre has no use for the dock: it is not seen until the page gives way, whatever happens in it.
+    /// Hides the dock while a page of the centre does not want it, whatever happens in the dock.
     void setAway(bool away);
 
     // WidgetArea
@@ -39,7 +39,7 @@ public slots:
 
 signals:
     /// @param area this
-    /// @param widget the current page, null when the last one has gone
+    /// @param widget the current page, null when the last one was removed
     void currentWidgetChanged(QWidget* area, QWidget* widget);
 
 private:

@@ -71,7 +71,7 @@ void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
     if (!hasWidget(widget))
         return;
     const int index = indexOf(widget);
-    // A tab must not count itself.
+    // A tab must not count its own name as used.
     setTabText(index, QString());
     setTabText(index, chkAppName(name));
 }

@@ -39,7 +39,7 @@ signals:
     /// The user asks to close the page.
     void removeWidgetRequest(QWidget* widget);
     /// @param area this
-    /// @param widget the current page, null when the last one has gone
+    /// @param widget the current page, null when the last one was removed
     void currentWidgetChanged(QWidget* area, QWidget* widget);
 
 protected:
@@ -53,7 +53,7 @@ private slots:
 
 private:
     void setupPageKeys();
-    /// Shows the next page that can be used, around at the ends. @param step 1, or -1 for the one before
+    /// Shows the next enabled page; after the last one the first one. @param step 1, or -1 for the one before
     void stepPage(int step);
     void updateEmptyState();
 

@@ -10,7 +10,7 @@ namespace nsModGui {
 namespace {
 
 const QSize largestFirst(1440, 900);
-const int graspWidth = 100; ///< pixels of the title bar that the user needs to take hold of it
+const int graspWidth = 100; ///< pixels of the title bar that must be visible so that the user can drag it
 
 QRect primaryArea()
 {
@@ -55,7 +55,7 @@ QRect WindowPlace::reachable(const QRect& stored, const QWidget* window)
 {
     const int height = titleHeight(window);
     const QRect title(stored.left(), stored.top() - height, stored.width(), height);
-    const QRect inner = stored; // where no title bar is known, the window itself has to be on a screen
+    const QRect inner = stored; // if the title bar is not known, the window itself must be on a screen
     for (const QScreen* screen : QGuiApplication::screens()) {
         if (isReachable(height > 0 ? title : inner, screen->availableGeometry()))
             return stored;

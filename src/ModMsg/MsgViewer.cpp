@@ -16,7 +16,7 @@ const char* const iconPaths[] = {
     ":/ModMsg/img/msgError.png",
 };
 
-/// An update that takes longer than this (milliseconds) is not made after every single message.
+/// An update that takes longer than this (milliseconds) is not repeated for every message.
 const qint64 cheapUpdate = 30;
 /// Longest time (milliseconds) that the newest message can stay out of sight.
 const qint64 longestDelay = 150;
@@ -42,14 +42,14 @@ MsgViewer::MsgViewer(QWidget* parent)
     connect(this, &QTreeWidget::itemClicked, this, &MsgViewer::handleClick);
     connect(this, &QTreeWidget::itemExpanded, this, &MsgViewer::scheduleUpdate);
     connect(this, &QTreeWidget::itemCollapsed, this, &MsgViewer::scheduleUpdate);
-    // Whoever empties the tree by the means of QTreeWidget leaves no pointer to a deleted item behind.
+    // Drops pointers to deleted items when the tree is cleared through QTreeWidget::clear().
     connect(model(), &QAbstractItemModel::modelReset, this, &MsgViewer::resetGroups);
     connect(model(), &QAbstractItemModel::rowsAboutToBeRemoved, this, &MsgViewer::dropNewest);
 }
 
 MsgViewer::~MsgViewer()
 {
-    // The model empties itself once more on its way out, when there is nothing left here to reset.
+    // The destructor of the model resets it again, when the members of this class no longer exist.
     model()->disconnect(this);
 }
 
@@ -73,7 +73,7 @@ void MsgViewer::resetGroups()
 
 void MsgViewer::dropNewest(const QModelIndex&, int, int)
 {
-    // Nothing in here takes single items out; somebody else does, and we cannot tell which of our items go with them.
+    // This class never removes single items; if other code does, it is unknown which of the stored items are removed.
     resetGroups();
 }
 
@@ -175,7 +175,7 @@ void MsgViewer::scheduleUpdate()
 {
     if (m_updateTimer.isActive())
         return;
-    // A small tree is brought up to date at once; a big one gets room to work between two updates.
+    // A small tree is updated at once; for a big one there is a delay between two updates.
     const qint64 delay = m_updateCost <= cheapUpdate ? 0 : qMin(2 * m_updateCost, longestDelay);
     m_updateTimer.start(static_cast<int>(delay));
 }
@@ -195,15 +195,15 @@ void MsgViewer::updateView()
     if (target != nullptr)
         scrollToItem(target);
     m_newest = nullptr;
-    // Opening the groups on the way to the item asks for an update again, which this one has been.
+    // Expanding the parents of the item has requested another update, which is not needed.
     m_updateTimer.stop();
     m_updateCost = clock.elapsed();
 }
 
 QTreeWidgetItem* MsgViewer::scrollTarget() const
 {
-    // Scrolling opens what is folded on the way to the item. That is wanted for groups at work; one that has been
-    // closed and folded away stays folded, and its own line is what the user gets to see.
+    // Scrolling expands the parents of the item. That is wanted for open groups only; a group that was closed and
+    // folded stays folded, and the view scrolls to its line.
     QTreeWidgetItem* target = m_newest;
     for (QTreeWidgetItem* group = m_newest->parent(); group != nullptr; group = group->parent()) {
         if (!group->isExpanded() && !m_groups.contains(group))

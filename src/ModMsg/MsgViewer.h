@@ -12,9 +12,9 @@ namespace nsModMsg {
 
 /// The view of all messages: a tree with one line a message and one branch a group.
 ///
-/// Items stand in the tree, with grade and fold, as soon as a call returns. What costs a layout of the whole tree
-/// (fitting the columns, scrolling to the newest item) is gathered and done once when control returns to the event
-/// loop, so that a run with tens of thousands of messages stays quick.
+/// Items are in the tree, with grade and fold, as soon as a call returns. Operations that lay out the whole tree
+/// (fitting the columns, scrolling to the newest item) are done once when control returns to the event loop, so that a
+/// run with tens of thousands of messages stays fast.
 class MsgViewer : public QTreeWidget
 {
     Q_OBJECT
@@ -77,7 +77,7 @@ private:
     QHash<QTreeWidgetItem*, eMsgType_t> m_groups; ///< every group not yet closed, with its worst state so far
     QTreeWidgetItem* m_newest = nullptr;          ///< item to scroll to, null when that has been done
     QTimer m_updateTimer;
-    qint64 m_updateCost = 0; ///< milliseconds that the last gathered update took
+    qint64 m_updateCost = 0; ///< milliseconds that the last update took
 };
 
 } // namespace nsModMsg

@@ -99,7 +99,7 @@ bool ModPrj::openPrjInGroup(const QString& file)
     const bool wasOpen = isValid();
     if (wasOpen)
         closePrj();
-    // A file that broke off left its first part behind.
+    // A file with an error may have left a part in the tree.
     CfgTree::clear();
     if (!readPrjFile(this, file)) {
         // Without a project the window shows the project manager.
@@ -114,7 +114,7 @@ bool ModPrj::openPrjInGroup(const QString& file)
     const auto isOpen = [this, serial] { return isValid() && m_openCount == serial; };
     info(tr("Open project: ") + file);
     rdPrjInfo(this, this);
-    // A client may close the project, or open another one; the clients behind it then have nothing to read.
+    // A client may close the project, or open another one; the clients after it then have nothing to read.
     m_plugins.forEach([&](ModPrjPluginIf* plugin) {
         if (isOpen())
             plugin->prjOpen();
@@ -147,7 +147,7 @@ bool ModPrj::saveOpenPrj()
         error(tr("No project file set."));
         return false;
     }
-    // A client that saves from within prjSave() is served by the save that is under way.
+    // If a client saves from within prjSave(), the save in progress does it.
     if (m_saving)
         return true;
     m_saving = true;

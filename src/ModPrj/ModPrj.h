@@ -29,8 +29,7 @@ class PrjConfigPage;
 /// A project is open exactly while the path of its file is not empty. Closing saves, without a question. Sections of
 /// the file that no client knows stay in the tree and are written back.
 ///
-/// In a program without a main window (no ModGuiHookIf) nothing is written unless savePrjCfg() is called: closing drops
-/// the project.
+/// In a program without a main window (no ModGuiHookIf) only savePrjCfg() writes the project: closing drops it.
 class ModPrj : public CfgTree,
                public ModPrjHookIf,
                public ModPluginIf,
@@ -50,7 +49,7 @@ public:
     ~ModPrj() override;
 
     /// Closes the open project, then opens the file.
-    /// @param earlier what becomes of the messages in the view
+    /// @param earlier what happens to the messages in the view
     /// @return false: the file can not be read, which was reported; no project is open then
     bool openPrj(QString file, nsModMsg::MsgGroup::eEarlier_t earlier = nsModMsg::MsgGroup::eClearEarlier);
     /// Saves and closes the project.
@@ -170,7 +169,7 @@ private:
     void error(const QString& text);
 
     QString m_path;      ///< absolute path of the project file; empty: no project is open
-    int m_openCount = 0; ///< number of projects opened so far: tells whether the project is still the same one
+    int m_openCount = 0; ///< number of projects opened so far, to detect that another project was opened
     bool m_saving = false;
     bool m_closing = false;
     PrjActions* m_actions = nullptr;   ///< null in a program without menus

@@ -20,7 +20,7 @@ namespace {
 
 const QString keyCollection = QStringLiteral("PrjMngr/collection");
 
-/// Are both names of the same file? Links count as what they lead to.
+/// Do both paths name the same file? Links are resolved.
 bool isSameFile(const QString& a, const QString& b)
 {
     const QFileInfo infoA(a);
@@ -28,7 +28,7 @@ bool isSameFile(const QString& a, const QString& b)
     return infoA.exists() && infoB.exists() && infoA.canonicalFilePath() == infoB.canonicalFilePath();
 }
 
-/// Lets the window draw its new state. What the user does meanwhile has to wait.
+/// Lets the window paint its new state. Input of the user is handled later.
 void spinEvents()
 {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
@@ -75,7 +75,7 @@ void ModPrj::prjMngrClose()
         modHlpHook->closeDialogHlp(page);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(page);
-    // The click that led here may be one of its buttons'.
+    // Deleted later, as the call may come from one of its buttons.
     page->hide();
     page->deleteLater();
     updateCloseAction();
@@ -114,7 +114,7 @@ bool ModPrj::prjMngrAddToCollection(const QString& file)
 
 bool ModPrj::prjMngrGenerate(const QString& file, const QString& title)
 {
-    // Closing writes the present project into its file, so this has to come before the new content.
+    // Closing writes the open project into its file, so it must happen before the new content is written.
     if (isValid() && isSameFile(file, m_path))
         closePrj();
     CfgTree tree;
@@ -149,7 +149,7 @@ void ModPrj::prjMngrHndlEventGenerateAdd(QString file, QString title)
 {
     if (!prjMngrGenerate(file, title) || !prjMngrAddToCollection(file))
         return;
-    // The user sees that it is there, and the next project starts with empty fields.
+    // Shows that the project was added, and prepares the fields for the next one.
     m_prjMngr->newWidget()->clear();
     prjMngrSetMode(eModeOpen);
 }

@@ -4,7 +4,7 @@
 
 namespace nsModPrj {
 
-/// What a project says of itself.
+/// Title, version and comment of a project.
 class PrjConfig
 {
 public:

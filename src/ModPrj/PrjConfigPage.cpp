@@ -25,7 +25,7 @@ PrjConfigPage::PrjConfigPage(QWidget* parent)
     m_version->setObjectName(QStringLiteral("prjVersion"));
     m_comment->setObjectName(QStringLiteral("prjComment"));
     m_version->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed); // short by nature
-    // A text needs no tabs, and the key leads on to the next field.
+    // The comment needs no tabs, so the Tab key moves to the next field.
     m_comment->setTabChangesFocus(true);
     m_comment->setMinimumHeight(commentLines * m_comment->fontMetrics().lineSpacing());
 

@@ -11,7 +11,7 @@ class QPlainTextEdit;
 
 namespace nsModPrj {
 
-/// The settings page "Info": what the project says of itself.
+/// The settings page "Info": title, version and comment of the project.
 class PrjConfigPage : public QWidget, public nsModConfig::ModConfigPagePluginIf
 {
     Q_OBJECT

@@ -29,15 +29,15 @@ struct Escape
     QLatin1String escaped;
 };
 
-// In the order of escaping: the ampersand first. Unescaping takes it last.
+// In the order of escaping: the ampersand first. Unescaping handles it last.
 const Escape escapes[] = {
     {QLatin1String("&"), QLatin1String("&amp;")},  {QLatin1String("/"), QLatin1String("&#47;")},
     {QLatin1String("<"), QLatin1String("&#60;")},  {QLatin1String(">"), QLatin1String("&#62;")},
     {QLatin1String("\""), QLatin1String("&#34;")}, {QLatin1String("!"), QLatin1String("&#33;")},
 };
 
-/// The text without the characters that XML can not carry, as one of them would make the file unreadable as a whole. A
-/// reader of XML makes every line end a line feed, so this is done here too: what is written is what is read back.
+/// The text without characters that XML does not allow: one of them would make the whole file unreadable. A reader of
+/// XML converts every line end to a line feed; this does the same, so that the text is read back as it was written.
 QString cleanText(const QString& text)
 {
     QString result;
@@ -59,7 +59,7 @@ QString cleanText(const QString& text)
     return result;
 }
 
-/// Can a name stand as the name of an element or attribute? Asks the reader itself, which is to read it back.
+/// Is this a valid name of an element or attribute? Tries it with the reader that reads the file back.
 bool isXmlName(const QString& name)
 {
     QXmlStreamReader reader(QLatin1Char('<') + name + QLatin1String("/>"));
@@ -208,7 +208,7 @@ private:
             m_open.append(m_root);
             return;
         }
-        // Attributes count too: a document type definition can give many of them to every element.
+        // Attributes count too: a document type definition can add many of them to every element.
         m_nodes += 1 + m_reader.attributes().size();
         if (m_open.size() > PrjFile::maxDepth || m_nodes > PrjFile::maxNodes) {
             m_reader.raiseError(QStringLiteral("too many elements"));
@@ -226,7 +226,8 @@ private:
     int m_nodes = 0;
 };
 
-/// The place after a comment, a CDATA section or a processing instruction that begins here; where none begins, the same place.
+/// The position after a comment, a CDATA section or a processing instruction that begins at the position; the same
+/// position if none begins there.
 int skipText(const QByteArray& text, int pos)
 {
     static const struct
@@ -266,11 +267,11 @@ bool isOverlongTag(const QByteArray& text, int* pos)
     return false;
 }
 
-/// Has one tag more attributes than the limit? The reader compares each attribute of a tag with each other one, so a
-/// tag with very many of them would keep it busy for hours.
+/// Has any tag more attributes than the limit? The reader compares each attribute of a tag with every other one, which
+/// would take hours for a tag with very many of them.
 bool hasOverlongTag(const QByteArray& text)
 {
-    // In an encoding of two bytes a character, what looks like a comment may be none.
+    // In an encoding with two bytes a character, bytes may look like a comment without being one.
     const bool isWide = text.contains('\0');
     for (int pos = text.indexOf('<'); pos >= 0; pos = text.indexOf('<', pos)) {
         const int next = isWide ? pos : skipText(text, pos);
@@ -282,7 +283,7 @@ bool hasOverlongTag(const QByteArray& text)
     return false;
 }
 
-/// The text from its first character on: an XML declaration must not stand after blank lines, which editors leave there.
+/// The text from its first character on: an XML declaration is not allowed after blank lines, which some editors add.
 QByteArray withoutLeadingSpace(const QByteArray& text)
 {
     const QByteArray mark("\xEF\xBB\xBF");
@@ -335,7 +336,7 @@ bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)
     const QFileInfo info(path);
     if (!info.exists())
         return fail(error, tr("Project file does not exist: ") + path);
-    // Before anything is opened: the opening of a pipe would wait for its writer.
+    // Checked before the file is opened: opening a pipe would wait for its writer.
     if (!info.isFile())
         return fail(error, tr("Project file is no valid file: ") + path);
     if (!info.isReadable())

@@ -39,7 +39,8 @@ ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_
 
 ModProcessor::~ModProcessor()
 {
-    // Where the window goes without a close, the servers may be gone already: no processor must call them any more.
+    // If the window is deleted without being closed, the servers may be deleted already: no processor must call them
+    // any more.
     for (ProcPluginIf* processor : m_list->processors()) {
         if (auto* shell = dynamic_cast<nsProc::ProcShell*>(processor))
             shell->dropServices();
@@ -69,7 +70,7 @@ void ModProcessor::prjSave()
 
 void ModProcessor::prjClose()
 {
-    // The page would choose the processor of this project for the next one, should that name one that nobody knows.
+    // If the next project names an unknown processor, the page would otherwise keep the one of this project.
     if (m_configPage != nullptr)
         m_configPage->setProcessor(QString());
     if (m_current == nullptr)

@@ -83,7 +83,7 @@ private:
     void detach(ProcPluginIf* processor);
 
     std::unique_ptr<ProcList> m_list;
-    std::unique_ptr<ProcConfigPage> m_configPage; ///< null while the settings dialog is closed; gone before the list
+    std::unique_ptr<ProcConfigPage> m_configPage; ///< null while the settings dialog is closed; deleted before the list
     ProcPluginIf* m_current = nullptr; ///< not owned
 };
 

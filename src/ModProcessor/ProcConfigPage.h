@@ -17,7 +17,7 @@ class ProcPluginIf;
 
 /// The settings page on which the project's processor is chosen and set up.
 ///
-/// The settings widgets of all processors stand on it, one at a time to be seen. They live as long as the page.
+/// It contains the settings widgets of all processors and shows one of them at a time. They exist as long as the page.
 class ProcConfigPage : public QWidget, public ProcConfigHookIf, public nsModConfig::ModConfigPagePluginIf
 {
     Q_OBJECT

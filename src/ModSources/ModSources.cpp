@@ -67,7 +67,7 @@ void ModSources::addFile(QString path)
     if (srcFiles.contains(path))
         return;
     srcFiles.append(path);
-    // The run that the new list starts leaves the messages of the open or save that the file came with.
+    // Adding the file starts a run, which must not clear the messages of the open or save that has added it.
     const nsModMsg::MsgGroup group(modMsgHook, tr("Adding a file to the project..."), nsModMsg::MsgGroup::eKeepEarlier);
     if (m_page)
         m_page->insertFile(path);
@@ -100,7 +100,7 @@ bool ModSources::chkProjectMembership(QString path)
 
 bool ModSources::askToAdd(const QString& path)
 {
-    // A program without windows has nobody to ask.
+    // A program without windows can not ask the user.
     if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
         return false;
     const QString shown = modPrjHook != nullptr ? modPrjHook->convToRelPath(path) : path;
@@ -121,7 +121,7 @@ void ModSources::prjOpen()
     if (modPrjHook == nullptr)
         return;
     for (const QString& entry : modPrjHook->value(keySrcFiles, QStringList())) {
-        // One file has one path in the list, also outside of the project's folder.
+        // The list has one spelling of each path, also outside of the project's folder.
         const QString path = QDir::cleanPath(modPrjHook->convToAbsPath(entry));
         const QFileInfo info(path);
         if (!info.exists()) {

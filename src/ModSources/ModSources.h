@@ -62,10 +62,10 @@ public:
     void configPagesClosed(bool accepted) override;
 
 protected:
-    /// Appends a file and tells the clients; a known one does nothing.
+    /// Appends a file and notifies the clients; does nothing if the list has it already.
     /// @param path absolute path
     void addFile(QString path);
-    /// Takes a file out and tells the clients; an unknown one does nothing.
+    /// Removes a file and notifies the clients; does nothing if the list does not have it.
     void removeFile(QString path);
 
 private:
@@ -75,7 +75,7 @@ private:
 
     PluginList<ModSourcesPluginIf> m_plugins;
     QPointer<SourcesConfigPage> m_page; ///< while the configuration dialog is open
-    QStringList m_vanishedFiles; ///< entries of the project file without a file: the next save drops them, and says so
+    QStringList m_vanishedFiles;        ///< entries without a file: the next save drops and reports them
 };
 
 } // namespace nsModSources

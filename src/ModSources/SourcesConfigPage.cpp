@@ -19,7 +19,7 @@ namespace {
 
 const int gap = 8;
 
-/// Does the relative path lead out of its folder?
+/// Is the file outside of the folder that the path is relative to?
 bool leadsOut(const QString& relPath)
 {
     return QDir::isAbsolutePath(relPath) || relPath == QLatin1String("..") || relPath.startsWith(QLatin1String("../"));
@@ -128,7 +128,7 @@ void SourcesConfigPage::updateButtons()
 {
     const QList<int> rows = m_list->selectedRows();
     const bool any = !rows.isEmpty();
-    // A block that stands at the end already can not go further.
+    // Selected rows that are at the end of the list already can not be moved further.
     enableButton(m_remove, any);
     enableButton(m_up, any && rows.last() >= rows.size());
     enableButton(m_down, any && rows.first() < m_list->count() - rows.size());
@@ -136,7 +136,7 @@ void SourcesConfigPage::updateButtons()
 
 void SourcesConfigPage::enableButton(QPushButton* button, bool enabled)
 {
-    // Else the focus would go to the neighbour, which does something else with the next stroke.
+    // Else the focus would move to the next button, and the next key press would trigger that one.
     if (!enabled && button->hasFocus())
         m_list->setFocus();
     button->setEnabled(enabled);
@@ -183,7 +183,7 @@ QString SourcesConfigPage::pathBeneathPrj(const QString& path) const
     const QString plain = m_prjDir.relativeFilePath(QDir::cleanPath(path));
     if (!leadsOut(plain))
         return QDir::cleanPath(m_prjDir.absoluteFilePath(plain));
-    // A folder can be reached by several ways, over links.
+    // A folder can have several paths if there are links.
     const QString canonical = QDir(m_prjDir.canonicalPath()).relativeFilePath(QFileInfo(path).canonicalFilePath());
     if (m_prjDir.canonicalPath().isEmpty() || canonical.isEmpty() || leadsOut(canonical))
         return QString();
@@ -192,7 +192,7 @@ QString SourcesConfigPage::pathBeneathPrj(const QString& path) const
 
 void SourcesConfigPage::refuse(const QString& path, const QString& reason)
 {
-    // On the heap, as the page can vanish below it, and takes it along.
+    // On the heap, as the page can be deleted while the box is open, and deletes the box.
     const QPointer<QMessageBox> box(new QMessageBox(QMessageBox::Warning, tr("Adding file"),
                                                     path + QLatin1String(": \n\n") + reason, QMessageBox::Ok, this));
     box->setTextFormat(Qt::PlainText);
@@ -206,7 +206,7 @@ void SourcesConfigPage::removeFile()
     const QSignalBlocker blocker(m_list);
     for (auto it = rows.crbegin(); it != rows.crend(); ++it)
         delete m_list->takeItem(*it);
-    // The next file takes the place, so that several can go one after the other.
+    // Selects the next file, so that several can be removed one after the other.
     if (!rows.isEmpty() && m_list->count() > 0)
         m_list->setCurrentRow(qMin(rows.first(), m_list->count() - 1));
     updateButtons();
@@ -226,11 +226,11 @@ void SourcesConfigPage::moveSelection(int step)
 {
     QList<int> rows = m_list->selectedRows();
     QListWidgetItem* current = m_list->currentItem();
-    // The row that leads goes first. One that is stopped by the end stops those behind it.
+    // The row nearest to the end is moved first. A row that can not move further stops the ones after it.
     if (step > 0)
         std::reverse(rows.begin(), rows.end());
     int border = step < 0 ? 0 : m_list->count() - 1;
-    // The buttons are judged by the outcome, not by each step.
+    // The buttons are updated once at the end, not after each step.
     const QSignalBlocker blocker(m_list);
     for (int row : qAsConst(rows)) {
         const int target = step < 0 ? qMax(row - 1, border) : qMin(row + 1, border);
@@ -285,7 +285,7 @@ void SourcesConfigPage::setFocus(bool) {}
 
 void SourcesConfigPage::setDefaultConfig()
 {
-    // The files of a project are no settings: there is no default that they could be given.
+    // The files of a project have no default value.
 }
 
 bool SourcesConfigPage::checkConfig()

@@ -14,7 +14,7 @@ namespace {
 
 const QColor emptyTextColor(0x52, 0x60, 0x6d);
 const int emptyTextMargin = 16;
-const int hintLines = 6; ///< height that the list asks for; it takes what there is
+const int hintLines = 6; ///< height that the list asks for; it grows with the available space
 
 QStringList localFiles(const QMimeData* data)
 {
@@ -63,7 +63,7 @@ QList<int> SourcesListWidget::selectedRows() const
 void SourcesListWidget::focusInEvent(QFocusEvent* event)
 {
     QListWidget::focusInEvent(event);
-    // Who comes by the keyboard wants to go on with it; without a selection its keys would do nothing.
+    // If the focus comes by the keyboard, a row is selected: without a selection the keys would do nothing.
     const bool byKey = event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason ||
                        event->reason() == Qt::ShortcutFocusReason;
     if (byKey && count() > 0 && selectedItems().isEmpty())
@@ -115,7 +115,7 @@ void SourcesListWidget::dropEvent(QDropEvent* event)
 {
     if (event->source() == this) {
         moveRowsTo(rowForDrop(event->pos()));
-        // Said to be a copy, lest the view takes the rows away that it has dragged.
+        // Set to a copy, so that the view does not remove the dragged rows itself.
         event->setDropAction(Qt::CopyAction);
         event->accept();
         return;

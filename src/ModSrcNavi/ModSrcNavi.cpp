@@ -33,7 +33,7 @@ ModSrcNavi::~ModSrcNavi()
     delete m_configPage;
     if (m_naviWidget == nullptr)
         return;
-    // In the window the panel stays behind, and the window deletes it; the tags go now.
+    // A panel inside of the window is deleted by the window; its tags are deleted now.
     m_naviWidget->clearTagList();
     if (m_naviWidget->parentWidget() == nullptr)
         delete m_naviWidget.data();
@@ -57,7 +57,7 @@ void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIf* plugin)
 
 void ModSrcNavi::clearTagList()
 {
-    // The tree first: its items point to the tags.
+    // Empties the tree first: its items point to the tags.
     if (m_naviWidget != nullptr)
         m_naviWidget->clearTagList();
     m_tagList.clear();
@@ -93,7 +93,7 @@ void ModSrcNavi::showSelectedTag(NaviTag* tag)
 {
     if (tag == nullptr || modEditorHook == nullptr)
         return;
-    // The call can lead to a run of the assembler, at which the tag goes: the editor gets copies.
+    // The call can start a run of the assembler, which deletes the tag: the editor gets copies of its values.
     const QString text = tag->type == NaviTag::typeLabel ? labelText(tag->title) : tag->lineRef;
     modEditorHook->setCursorToLine(tag->filePath, text, tag->line);
 }
@@ -137,7 +137,7 @@ void ModSrcNavi::configureNaviWidget()
         m_naviWidget->hide();
         return;
     }
-    // In its place it is left alone: a page behind another tab must not come up over that one.
+    // A panel that is in its dock already is not added again: it would come to the front of the other tabs.
     if (modGuiHook->hasWidget(location, m_naviWidget))
         return;
     modGuiHook->removeWidget(m_naviWidget);
@@ -150,7 +150,7 @@ void ModSrcNavi::rdAppCfg()
     if (modCfgAppHook == nullptr)
         return;
     rdSrcNaviConfig(modCfgAppHook);
-    // The settings arrive when the panel has its place already.
+    // The settings are read after the panel was placed.
     configureNaviWidget();
 }
 
@@ -183,7 +183,7 @@ void ModSrcNavi::configPageClose(bool accepted)
         if (m_naviWidget != nullptr)
             m_naviWidget->showSortMode(static_cast<eTagListSortMode_t>(tagListSortMode));
         showTagList();
-        // The dialog saves what stands in the settings now.
+        // The dialog saves the settings tree, so the new values are written to it first.
         wrAppCfg();
     }
     delete m_configPage;

@@ -17,10 +17,11 @@ public:
 
     /// Appends a tag and takes its ownership; null is ignored.
     void addTag(NaviTag* tag);
-    /// Deletes all tags. Who shows them has to drop them first.
+    /// Deletes all tags. Views must drop their pointers before.
     void clear();
 
-    /// A copy of the list in document order; the tags stay in the ownership of this object. So with the next two.
+    /// A copy of the list in document order; the tags stay in the ownership of this object. The same applies to the
+    /// next two.
     QList<NaviTag*> tagListDocument() const;
     /// Sorted by title, without regard to case. Tags with equal titles come in no particular order.
     QList<NaviTag*> tagListAsc() const;

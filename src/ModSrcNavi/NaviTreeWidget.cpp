@@ -14,7 +14,7 @@ NaviTreeWidget::NaviTreeWidget(QWidget* parent)
     setAlternatingRowColors(false);
     setAnimated(true);
     setUniformRowHeights(true);
-    // A double click leads to the line; a group that folds meanwhile would be in the way.
+    // A double click goes to the line and must not fold a group at the same time.
     setExpandsOnDoubleClick(false);
 }
 
@@ -33,7 +33,7 @@ void NaviTreeWidget::keyPressEvent(QKeyEvent* event)
         return;
     }
     event->accept();
-    // A key that is held down does not ask again and again.
+    // A key that is held down triggers once only.
     if (!event->isAutoRepeat())
         emit returnPressed(currentItem(), currentColumn());
 }

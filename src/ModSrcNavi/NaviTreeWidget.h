@@ -13,7 +13,7 @@ public:
     explicit NaviTreeWidget(QWidget* parent = nullptr);
 
 signals:
-    /// A context menu was asked for, by mouse or key; tells the current item and column.
+    /// A context menu was requested, by mouse or key, for the current item and column.
     void clickedRight(QTreeWidgetItem* item, int column);
     /// Return was pressed on the current item.
     void returnPressed(QTreeWidgetItem* item, int column);

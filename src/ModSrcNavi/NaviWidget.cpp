@@ -17,7 +17,7 @@ namespace nsModSrcNavi {
 namespace {
 
 const int grid = 8; ///< pixels
-/// Groups deeper than this are shown, but their entries stand beside them.
+/// Entries of groups deeper than this are shown on the level of the group.
 const int deepestGroup = 500;
 
 /// The format of a type of tag; fontContextCount if it has none.
@@ -79,7 +79,7 @@ QBoxLayout* NaviWidget::makeSortRow()
     m_sortBox->addItem(tr("Document structure"), SrcNaviConfig::sortDocument);
     m_sortBox->addItem(tr("Plain Ascent"), SrcNaviConfig::sortPlainAscent);
     m_sortBox->addItem(tr("Plain Descent"), SrcNaviConfig::sortPlainDescent);
-    // In a narrow panel the end of a text gives way.
+    // In a narrow panel the end of the text is cut off.
     m_sortBox->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
     connectSortBox();
 
@@ -214,7 +214,7 @@ void NaviWidget::showTagList(QList<NaviTag*>* list, bool flat)
         QTreeWidgetItem* current = nullptr;
         m_tree->setUpdatesEnabled(false);
         m_tree->addTopLevelItems(makeItems(*list, flat, &open, &current));
-        // The tree has not laid its new rows out yet, so that this is a note for each group and no work.
+        // The tree has not laid out its new rows yet, so expanding a group is cheap.
         for (QTreeWidgetItem* item : qAsConst(open))
             item->setExpanded(true);
         if (current != nullptr) {
@@ -228,7 +228,7 @@ void NaviWidget::showTagList(QList<NaviTag*>* list, bool flat)
     reportContent(list, flat);
 }
 
-/// Lines that have moved are no other content: nobody sees them here.
+/// Changed line numbers do not count as new content, as the panel does not show them.
 void NaviWidget::reportContent(const QList<NaviTag*>* list, bool flat)
 {
     QStringList content;
@@ -319,7 +319,7 @@ void NaviWidget::setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const
 void NaviWidget::repaintColors()
 {
     {
-        // One painting of the tree is cheaper than a word about every property of every item.
+        // Painting the tree once is faster than a dataChanged() signal for every property of every item.
         const QSignalBlocker quiet(m_tree->model());
         for (QTreeWidgetItemIterator it(m_tree); *it != nullptr; ++it) {
             if (const NaviTag* tag = tagOf(*it))

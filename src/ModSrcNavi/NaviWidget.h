@@ -19,8 +19,9 @@ class NaviTreeWidget;
 
 /// The panel of the navigator: the tags as a tree, their order, and bookmarks on them.
 ///
-/// Items point to tags that somebody else owns. Whoever deletes tags calls clearTagList() before. Bookmarks are texts that find a
-/// line; they live as long as the panel. All labels share the empty text, so they are marked together.
+/// Items point to tags that are owned elsewhere: clearTagList() must be called before tags are deleted. A bookmark is
+/// the text by which its line is found; bookmarks are kept as long as the panel exists. All labels share the empty
+/// text, so they are marked together.
 class NaviWidget : public QWidget
 {
     Q_OBJECT
@@ -28,21 +29,21 @@ class NaviWidget : public QWidget
 public:
     explicit NaviWidget(QWidget* parent = nullptr);
 
-    /// Shows the order in the combo box and tells the change. The order of the document, with which the box starts, is never
-    /// set here; a value that does not exist changes nothing either.
+    /// Shows the order in the combo box and emits sortModeChanged(). Ignores the order of the document, with which the
+    /// box starts, and values that do not exist.
     void setSortMode(SrcNaviConfig::eTagListSortMode_t mode);
-    /// Shows any order in the combo box, without telling.
+    /// Shows any order in the combo box, without a signal.
     void showSortMode(SrcNaviConfig::eTagListSortMode_t mode);
     SrcNaviConfig::eTagListSortMode_t sortMode() const;
     /// Takes colours, formats and the order (as setSortMode() does, but without a signal).
     void setConfig(SrcNaviConfig* config);
     /// Empties the tree. Bookmarks and the entry last clicked are kept.
     void clearTagList();
-    /// Shows the tags, in place of those before.
+    /// Shows the tags instead of the present ones.
     /// @param list not kept; the tags have to live until the next call, or that of clearTagList()
-    /// @param flat all entries on one level, as an order without groups wants it
+    /// @param flat all entries on one level, for an order without groups
     void showTagList(QList<NaviTag*>* list, bool flat);
-    /// Gives all items their look again.
+    /// Sets the colours and formats of all items again.
     void repaintColors();
 
     QSize sizeHint() const override;
@@ -81,11 +82,11 @@ private:
 
     static NaviTag* tagOf(const QTreeWidgetItem* item);
     QTreeWidgetItem* makeItem(NaviTag* tag) const;
-    /// Makes the items of all tags, not yet in the tree, so that the tree takes them in one go.
+    /// Creates the items of all tags without a tree, so that they can be added to it in one step.
     QList<QTreeWidgetItem*> makeItems(const QList<NaviTag*>& tags, bool flat, QList<QTreeWidgetItem*>* open,
                                       QTreeWidgetItem** current) const;
     void setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const;
-    /// Gives the items of a bookmark their look again.
+    /// Sets the colours and formats of the items of a bookmark again.
     void repaintBookmark(const QString& lineRef);
     void reportContent(const QList<NaviTag*>* list, bool flat);
 
@@ -95,8 +96,8 @@ private:
     QColor m_bookmarkColor;
     QTextCharFormat m_formats[SrcNaviConfig::fontContextCount];
     QStringList m_bookmarks; ///< line references
-    int m_scrollPos = 0;     ///< where the tree stood when it was emptied
-    QStringList m_shownContent; ///< what was reported last
+    int m_scrollPos = 0;     ///< scroll position of the tree when it was emptied
+    QStringList m_shownContent; ///< content that was reported last
     bool m_shownFlat = false;
     int m_shownOrder = 0;    ///< index in the combo box when the tree was filled
 };

@@ -24,7 +24,7 @@ const sFontContext_t fontContexts[SrcNaviConfig::fontContextCount] = {
     {"sep", Qt::darkYellow}, {"grpBegin", Qt::darkYellow},
 };
 
-/// A weight of 0 is stored as that of a normal font.
+/// A weight of 0 is stored as the weight of a normal font.
 int storedWeight(const QTextCharFormat& format)
 {
     return format.fontWeight() == 0 ? int(QFont::Normal) : format.fontWeight();

@@ -28,8 +28,8 @@ public:
 
     SrcNaviConfig();
 
-    /// Reads all keys from the application's settings. A missing key, or one with a value that makes no sense, leaves the field
-    /// as it is.
+    /// Reads all keys from the application's settings. A missing key, or one with an invalid value, leaves the field as
+    /// it is.
     void rdSrcNaviConfig(ModCfgAppHookIf* cfg);
     void wrSrcNaviConfig(ModCfgAppHookIf* cfg) const;
 

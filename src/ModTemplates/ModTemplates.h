@@ -12,7 +12,7 @@ namespace nsModTemplates {
 /// Fills the insertion menu from template files.
 ///
 /// A template file is a text: free text, one or more lines "menuItem = path/of/the/entry", a line "template =", and
-/// behind it what is inserted.
+/// after it the text that is inserted.
 class ModTemplates : public QObject, public ModPluginIf, public ModMsgPluginIf, public ModEditorPluginIf
 {
     Q_OBJECT

@@ -73,7 +73,7 @@ void AsmCase::readSource(const QString& name)
         lines.removeLast();
     for (int i = 0; i < lines.size(); ++i) {
         const QString line = QString::fromLatin1(lines.at(i).constData(), lines.at(i).size());
-        // An expectation starts with its word, behind a semicolon that stands anywhere in the line.
+        // An expectation starts with its word, after a semicolon anywhere in the line.
         static const QRegularExpression start(";\\s*(@?[a-z-]+):");
         int pos = 0;
         while (true) {

@@ -66,7 +66,7 @@ private:
     const AsmCase& m_case;
     QDir m_dir;
     QStringList m_differences;
-    int m_infosFrom = 0; ///< where the log of the run begins, behind what opening the project has shown
+    int m_infosFrom = 0; ///< where the log of the run begins, after the messages of opening the project
     FakeMsgHook m_msg;
     FakeSrcNaviHook m_navi;
     nsModPrj::ModPrj m_prj;

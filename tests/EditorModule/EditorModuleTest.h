@@ -137,7 +137,7 @@ protected:
         return nullptr;
     }
     bool enabled(const QString& text) { return action(ModActionHookIf::eActionClassFile, text)->isEnabled(); }
-    /// The page of the centre changes, as the window tells it.
+    /// The page of the centre changes, as the window reports it.
     void focus(QWidget* widget)
     {
         gui.setCurrentWidget(widget);

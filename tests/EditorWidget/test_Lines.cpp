@@ -82,7 +82,7 @@ TEST_F(Lines, DeindentOfSeveralLines)
 {
     const QString before = "\tone\n two\nthree\n\tfour";
     editor->setText(before);
-    select(2, 17); // up to behind the tab of the last line
+    select(2, 17); // up to the position after the tab of the last line
     editor->deindent();
     EXPECT_EQ(text(), QString("one\ntwo\nthree\nfour"));
     EXPECT_EQ(anchor(), 2);
@@ -222,7 +222,7 @@ TEST_F(Lines, MoveLeavesALineAtWhoseStartTheSelectionEnds)
     select(4, 8);
     editor->moveLineUp();
     EXPECT_EQ(text(), QString("two\none\nthree"));
-    // Back again; the end of the selection stands behind the text then and is cut.
+    // Back again; the end of the selection is then after the end of the text and is limited to it.
     editor->setText("one\ntwo");
     select(0, 4);
     editor->moveLineDown();

@@ -31,7 +31,7 @@ private:
 
 struct ArgsCase
 {
-    const char* words; ///< behind the program's name, separated by blanks; "''" is an empty word
+    const char* words; ///< after the program's name, separated by blanks; "''" is an empty word
     const char* prjFile;
     const char* scriptFile;
     QStringList errors;

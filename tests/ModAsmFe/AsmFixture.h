@@ -24,7 +24,7 @@ public:
     QByteArray read(const QString& name) const;
     /// Opens the project; its file exists.
     void open();
-    /// Makes these texts the sources of the project, without a word to the assembler.
+    /// Makes these texts the sources of the project, without notifying the assembler.
     void setSources(const QList<QByteArray>& texts);
     /// Opens the project if none is open, takes the text as its only source and assembles it.
     /// @return the program was assembled

@@ -8,12 +8,12 @@ QString brokenRule(const AsmFixture& f)
         return "groups are closed that are not open";
     auto& asmFe = const_cast<nsModAsmFe::ModAsmFe&>(f.asmFe);
     QStringList errors = f.errors();
-    // Code that no device takes is told as a warning.
+    // Code that no device takes is reported as a warning.
     if (!asmFe.isAssembled() && (!errors.isEmpty() || f.warnings().contains("warnIODevUnmappedInstructions")))
         return QString();
     if (!asmFe.isAssembled())
         return "fails without an error";
-    // A label without a name, and a number that has no value, are told as errors and do not stop the run.
+    // A label without a name, and a number that has no value, are reported as errors and do not stop the run.
     errors.removeAll("errLblIsEmpty");
     errors.removeAll("errExpectArgument");
     // The argument of a define has no meaning, but the define stands. Where anything else may not have an argument, the run ends.

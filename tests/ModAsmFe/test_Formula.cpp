@@ -117,7 +117,7 @@ TEST(Formula, signs)
     expectValue("~ -1", 0);
     expectValue("1 + + + 2", 3);
     expectValue("1 ++ 2", 3);
-    // A sign before a parenthesis is lost, and a minus behind one is a sign, whose term then is multiplied.
+    // A sign before a parenthesis is lost, and a minus after one is a sign, whose term is then multiplied.
     expectValue("-(3)", 3);
     expectValue("(2) - 3", -6);
     expectValue("(2) -3", -6);
@@ -212,7 +212,7 @@ TEST(Formula, parentheses)
     expectResult("((1)", AsmFeFormula::resultMissingClose);
     expectResult("1)", AsmFeFormula::resultMissingOpen);
     expectResult("(1))", AsmFeFormula::resultMissingOpen);
-    // Nothing between parentheses fails without a word.
+    // An empty pair of parentheses fails without a message.
     expectResult("()", AsmFeFormula::resultFailed);
     expectResult("(", AsmFeFormula::resultFailed);
     expectResult("1 + ()", AsmFeFormula::resultFailed);

@@ -143,7 +143,7 @@ private:
         m_tokens = product;
     }
 
-    /// From behind an opening parenthesis to behind its closing one.
+    /// From the position after an opening parenthesis to the one after its closing one.
     qint64 segment()
     {
         Tokens part;
@@ -163,7 +163,7 @@ private:
         }
     }
 
-    /// What follows behind a parenthesis that closed the whole text.
+    /// What follows a parenthesis that closed the whole text.
     void rest()
     {
         while (m_pos < m_tokens.size()) {

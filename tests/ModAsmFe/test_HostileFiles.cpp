@@ -137,7 +137,7 @@ TEST_P(HostileOutput, goodFile)
 {
     EXPECT_EQ(write(f.path("out")), QStringList());
     EXPECT_FALSE(f.read("out").isEmpty());
-    // A longer file of before leaves nothing behind.
+    // Nothing is left of a longer file that was there before.
     const QByteArray text = f.read("out");
     f.write("out", QByteArray(100000, 'x'));
     EXPECT_EQ(write(f.path("out")), QStringList());

@@ -127,7 +127,7 @@ TEST(HostileNumbers, pages)
             return "not assembled: " + f.msg.errors().join(" / ").left(300);
         return f.asmFe.opcodeList()->count() == 1025 ? QString() : QString("instructions are missing");
     }, 20, 700);
-    // A shared word at address 0 is mirrored behind the end of the memory, too.
+    // A shared word at address 0 is also mirrored to the address after the end of the memory.
     expectGoodEnd([=] { return refusedRun({paged(1024, 16, "LOMEM")}); }, 10, 100);
     // Pages that a directive names are asked for, one message each.
     expectGoodEnd([] {

@@ -285,7 +285,7 @@ TEST_F(IODevViewer, tipsOfTheCells)
     EXPECT_EQ(tipOf(16), QString("Address: 0x10, Value 0x1"));
     EXPECT_EQ(tipOf(18), QString("Address: 0x12, Value 0xff"));
     EXPECT_EQ(tipOf(99), QString("Address: 0x63, Init value: 0xa5"));
-    // Beside the cells: in the addresses, and behind the last cell of the last row.
+    // Beside the cells: in the addresses, and after the last cell of the last row.
     EXPECT_EQ(tipAt(QPoint(1, 1)), QString());
     EXPECT_NE(tipOf(5), QString());
     EXPECT_EQ(tipAt(item()->cellRect(99).center() + QPoint(2 * item()->rowHeight(), 0)), QString());

@@ -216,12 +216,12 @@ TEST(LineHndlr, randomLines)
             line += alphabet.at(int(random() % unsigned(alphabet.size())));
         const Tags tags = tagsOf(line);
         EXPECT_EQ(tags, NaiveSplitter(line).tags()) << line.toStdString();
-        // Nothing but white space behind the second argument gets lost.
+        // Nothing but white space after the second argument gets lost.
         const QString merged = tags.join("");
-        const int behindArg1 = tags.mid(0, 10).join("").size();
-        EXPECT_TRUE(line.startsWith(merged.left(behindArg1)));
+        const int afterArg1 = tags.mid(0, 10).join("").size();
+        EXPECT_TRUE(line.startsWith(merged.left(afterArg1)));
         EXPECT_TRUE(line.endsWith(tags.at(11)));
-        EXPECT_TRUE(line.mid(behindArg1, line.size() - behindArg1 - tags.at(11).size()).trimmed().isEmpty());
+        EXPECT_TRUE(line.mid(afterArg1, line.size() - afterArg1 - tags.at(11).size()).trimmed().isEmpty());
     }
 }
 

@@ -1,4 +1,5 @@
-// The assembler cases with random damage, through the real processors: nothing crashes, hangs, or fails without a word.
+// The assembler cases with random damage, through the real processors: nothing crashes, hangs, or fails without a
+// message.
 
 #include "ChildProcess.h"
 #include "HostileRun.h"
@@ -152,7 +153,7 @@ QString runMutants(const QString& processorName, int count, unsigned int seed)
     f.prj.registerPlugin(static_cast<ModPrjPluginIf*>(&processor));
     f.prj.tree.set("ModProcessor/processor", processorName);
     f.open();
-    // The file of a mutant that crashes stays behind.
+    // The file of a mutant that crashes is kept.
     QDir().mkpath(NALVO_BINARY_DIR "/asm-mutants");
     // Processors run beside each other: each has files of its own.
     const QString path =

@@ -112,7 +112,7 @@ TEST_P(PipelineFailure, stopsTheRun)
     f.asmFe.targetHex.outputFile = f.path("out.hex");
     EXPECT_FALSE(f.run(stage.source != nullptr ? stage.source : " LOAD s0, 1\n", ModAsmFe::eEventButton1));
     EXPECT_FALSE(f.asmFe.runSucceeded());
-    // Groups open and close in pairs: only this one and the outer one close as failures, and no group opens behind it.
+    // Groups open and close in pairs: only this one and the outer one close as failures, and no group opens after it.
     QStringList failed;
     for (const FakeMsgHook::Entry& entry : f.msg.log) {
         if (entry.kind == FakeMsgHook::kindGroupClose && !entry.success)
@@ -163,7 +163,7 @@ TEST(PipelineOrder, failureWhileWriting)
     f.asmFe.targetMem.outputFile = f.path("out.mem");
     f.run(program, ModAsmFe::eEventButton2);
     EXPECT_FALSE(f.asmFe.runSucceeded());
-    // The program was assembled, and whoever waits for it has been told so before.
+    // The program was assembled, and the back end was notified of that before.
     EXPECT_TRUE(f.calls.contains("be.setAssembled 1"));
     EXPECT_FALSE(f.calls.contains("be.setAssembled 0"));
     EXPECT_EQ(f.msg.errors(), QStringList("Can not open output file: " + f.path("missing/out.hex")));
@@ -182,7 +182,7 @@ TEST(PipelineOrder, withoutABackEnd)
     expected.removeAll("msg infoSetProcDef");
     EXPECT_EQ(f.calls, expected + QStringList({"msg errNoAsmBe", "close failed"}));
     EXPECT_EQ(f.errors(), QStringList("errNoAsmBe"));
-    // What is wrong with the sources is told besides.
+    // The errors in the sources are reported in addition.
     f.run("#EQU x, x\n");
     EXPECT_EQ(f.errors(), QStringList({"errEquClosedLoop", "errNoAsmBe"}));
 }

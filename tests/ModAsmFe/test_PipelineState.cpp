@@ -1,4 +1,4 @@
-// The run from outside: what starts it, which programs and actions follow it, and what it leaves behind.
+// The run from outside: what starts it, which programs and actions follow it, and the state after it.
 
 #include "AsmFixture.h"
 

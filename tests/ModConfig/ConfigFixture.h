@@ -168,7 +168,7 @@ private:
     QStringList* m_log;
 };
 
-/// The module between fakes, with an "App" page that is always enabled behind a "Prj" page that needs a project.
+/// The module between fakes, with a "Prj" page that needs a project, followed by an "App" page that is always enabled.
 class ConfigFixture : public ::testing::Test
 {
 protected:

@@ -23,7 +23,7 @@ static inline void initResources()
     Q_INIT_RESOURCE(nalvo);
 }
 
-/// Owns pages to search in, and records what it is told: "next", or "next*" with changed parameters.
+/// Owns pages to search in, and records the calls that it gets: "next", or "next*" with changed parameters.
 struct FindClient : public ModFindReplacePluginIf
 {
     QString findInit() override

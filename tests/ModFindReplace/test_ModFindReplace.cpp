@@ -1,4 +1,4 @@
-// The module: which actions are on, when the bar is shown, and who is told what.
+// The module: which actions are on, when the bar is shown, and which client is called.
 
 #include "FindReplaceFixture.h"
 

@@ -19,7 +19,7 @@
 #include <memory>
 #include <utility>
 
-/// A client that records what it is told, in one list for all clients of a test.
+/// A client that records the calls that it gets, in one list for all clients of a test.
 struct GuiClient : public ModGuiPluginIf
 {
     GuiClient(const QString& clientName, QStringList* clientLog)

@@ -11,7 +11,7 @@
 #include <QCoreApplication>
 #include <QTreeWidget>
 
-/// The message service behind fake servers, through its set-up.
+/// The message service with fake servers, after its set-up.
 class MsgTest : public ::testing::Test
 {
 protected:

@@ -39,7 +39,7 @@ TEST(NaviTagList, keepsTheOrderOfTheDocument)
 TEST(NaviTagList, sortsByTitlesInLowerCase)
 {
     NaviTagList list;
-    // In lower case "_" stands before all letters, in upper case behind them.
+    // In lower case "_" comes before all letters, in upper case after them.
     for (const char* title : {"beta", "Alpha", "_x", "Zeta", "gamma", "ALPHa2"})
         list.addTag(makeTag(title));
     EXPECT_EQ(titles(list.tagListAsc()), QStringList({"_x", "Alpha", "ALPHa2", "beta", "gamma", "Zeta"}));

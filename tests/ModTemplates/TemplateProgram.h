@@ -20,7 +20,7 @@ struct TemplateFile
     /// All template files that are shipped, in sorted order.
     static QStringList all();
 
-    /// A whole source around what is inserted, as the free text tells.
+    /// A complete source around the inserted text, as the free text describes.
     QString source() const;
 
     QString path;

@@ -1,4 +1,4 @@
-// The templates that are shipped: each assembles for each processor that it names, without a complaint.
+// The templates that are shipped: each assembles for each processor that it names, without errors and warnings.
 
 #include "TemplateProgram.h"
 

@@ -167,7 +167,7 @@ protected:
         return false;
     }
 
-    /// The steps that the empty page tells, "menu > entry" each, are there and can be done.
+    /// The steps that the empty page lists, "menu > entry" each, exist and can be done.
     void expectStepsExist(int count) const;
     void generateProject();
     void writeProgram();

@@ -141,7 +141,7 @@ TEST_F(MainWindowFixture, CloseWritesTheSettingsOnce)
     EXPECT_TRUE(QFile::exists(settingsFile()));
     EXPECT_EQ(readSetting("ModGui/width"), QString("1000"));
     EXPECT_EQ(readSetting("ModGui/height"), QString("700"));
-    // Another close event behind the exit phases is accepted and does nothing more.
+    // Another close event after the exit phases is accepted and does nothing more.
     EXPECT_TRUE(QFile::remove(settingsFile()));
     QCloseEvent again;
     again.ignore();

@@ -17,7 +17,7 @@ protected:
         return keys;
     }
 
-    /// The places in front of the errors of a run, without the text behind.
+    /// The positions at the start of the errors of a run, without the texts.
     QStringList errorPlaces(const QString& project, const AsmToolSetup& setup) const
     {
         QStringList places;

@@ -202,7 +202,7 @@ TEST_F(AsmToolOptions, WerrorFailsOnAWarningButWritesTheFiles)
                                         "1 file written"}));
     }
     EXPECT_EQ(read("out.hex"), hexText());
-    // A run must not fail without a word.
+    // A run must not fail without a message.
     const AsmToolResult quiet = run({"-qW", "p.nalvo"});
     EXPECT_EQ(quiet.status, 1);
     EXPECT_EQ(quiet.errLines(), QStringList(warning));

@@ -46,7 +46,7 @@ TEST_F(SimToolTrace, PicoBlaze3)
                          "S 05 B0\n"        //
                          "I 005 30007\n"    // 30000, target 007
                          "I 007 01100\n"    // 01000, s1 at bit 8, s0 at bit 4
-                         "I 008 2A000\n"    // back behind the call
+                         "I 008 2A000\n"    // back after the call
                          "I 006 34000\n"    // target 000
                          "I 000 3C001\n")); // the 13th
 }
@@ -113,7 +113,7 @@ TEST_F(SimToolTrace, AnInstructionThatFailsIsNotInIt)
                                                          "I 003 2C020\n"
                                                          "W 20 01\n"
                                                          "I 004 34001\n"));
-    // The interrupt was entered all the same, and so it is told.
+    // The interrupt was entered nevertheless, so the trace has it.
     writeProgram("INT ENABLE\n LOAD s0, 1\n#ORG ADDR, 0x3FF\n RDPRT s0, 1\n");
     EXPECT_EQ(trace({"--interrupt-at", "2"}, 3), QByteArray("I 000 3C001\nINT\n"));
 }

@@ -93,7 +93,7 @@ QByteArray bitsOf(int value)
     return QByteArray::number(value, 2).rightJustified(8, '0');
 }
 
-/// What stands behind the head.
+/// The text after the header.
 QByteArray body(const QByteArray& text)
 {
     return text.mid(text.indexOf("#0\n"));

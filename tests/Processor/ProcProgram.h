@@ -17,7 +17,7 @@ struct sProgramLine
 class ProcProgram
 {
 public:
-    /// Lines before and behind the instructions, so that the targets of relative jumps exist.
+    /// Lines before and after the instructions, so that the targets of relative jumps exist.
     static const int margin = 2048;
 
     explicit ProcProgram(const sInstrSet& set);
@@ -29,7 +29,7 @@ public:
     /// Adds an instruction with every value of its operands.
     void addAll(const sEncoding& encoding);
 
-    /// The source as far as it is: the margin behind it is put there.
+    /// The source so far; the lines after the instructions are appended.
     QStringList source() const;
     /// Settings of a project that has room for all of it.
     QHash<QString, int> settings() const;

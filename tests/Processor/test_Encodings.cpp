@@ -109,7 +109,7 @@ TEST_P(Encodings, mnemonicsThatTheProcessorLacks)
         if (own.contains(mnemonic))
             continue;
         lacking.append(mnemonic);
-        // Whatever stands behind the word, and in whatever case it is written.
+        // Whatever follows the word, and in whatever case it is written.
         lines << mnemonic << mnemonic + ' ' + set().regName(1) << mnemonic.toLower() + ' ' + set().regName(1) + ", 5"
               << mnemonic + " Z";
     }

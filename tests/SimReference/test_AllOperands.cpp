@@ -63,7 +63,7 @@ Build buildOf(Family family)
 /// The instruction with all values of registers 4 and 9.
 void allPairs(const Case& which, const Instruction& instruction)
 {
-    // There is something behind it, so that it leads somewhere.
+    // Another instruction follows, so that the program can continue.
     SideBySide both(which.family, inOnePage({instruction, {"NOP", {}, {}}}), buildOf(which.family));
     ASSERT_EQ(both.problem(), "");
     for (int first = 0; first < 256; first += stride) {

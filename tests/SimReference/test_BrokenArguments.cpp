@@ -124,7 +124,7 @@ TEST(BrokenInstructions, RangeWithoutAName)
     EXPECT_EQ(bench.sim->programCounter(), opcode);
 }
 
-/// The Mico8 would know how to compare with carry, if it could be told to.
+/// The simulator of the Mico8 could compare with carry, but no instruction of it does.
 TEST(BrokenInstructions, CompcOfMico8)
 {
     for (int zero : {0, 1}) {

@@ -221,7 +221,7 @@ TEST(HandMadeMore, HandlerChangesNoFlagsButByRet)
         EXPECT_EQ(core.interrupt(), nsProc::eIntService);
         bench.sim->simOpcode();
         const bool isReti = QString(back) != "RET";
-        // A plain return takes the interrupted instruction for a call, and goes on behind it.
+        // A plain return takes the interrupted instruction for a call, and continues after it.
         EXPECT_EQ(bench.sim->programCounter()->pageAddr, isReti ? 1 : 2);
         EXPECT_EQ(core.carryBit(), isReti ? 1 : 0);
         EXPECT_EQ(core.zeroBit(), isReti ? 0 : 1);

@@ -62,7 +62,7 @@ protected:
             const std::string difference = both.step();
             ASSERT_TRUE(difference.empty()) << "step " << i << ":" << difference;
             note(both.outcome(), isInterrupted ? nullptr : &instruction);
-            // What could not be done is left behind.
+            // An instruction that could not be executed is skipped.
             if (both.model().pc == position)
                 both.goTo((position + 1) % machine.program.size());
         }

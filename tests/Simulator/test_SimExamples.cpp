@@ -170,7 +170,8 @@ TEST_F(SimExamples, KeypadLockOnMico8)
     EXPECT_EQ(written(5, 1), QList<int>({0x14}));
     EXPECT_EQ(written(6, 2), QList<int>({0x00, 0x01}));
 
-    // The title comes from the memory at the ports 20 to 29, with a zero behind. From "LOAD r1" to behind the call:
+    // The title comes from the memory at the ports 20 to 29, followed by a zero. From "LOAD r1" to the instruction
+    // after the call:
     //   LOAD, CALL print; 10 characters of RDPRT, COMP, JUMP, CALL, send (13), ADD, JUMP: 19; RDPRT, COMP, JUMP, RET
     //   2 + 190 + 4 = 196 instructions
     toggleBreakpoint("main.psm", "LOAD    r1, TEXT_TITLE");

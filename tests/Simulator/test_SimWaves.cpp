@@ -217,7 +217,7 @@ TEST_F(SimWaves, TimeIsUpToDateAfterAHiddenRun)
     trigger(Action::eActionNextInstruction);
     QCoreApplication::processEvents();
     ASSERT_EQ(moment(), "Now 2 clocks");
-    // The user looks at something else in the bottom dock, while the program goes on without a word to the waves.
+    // The user looks at something else in the bottom dock, while the program runs without updates of the waves.
     auto* gui = module<ModGuiHookIf>();
     gui->setCurrentWidget(messageView());
     ASSERT_FALSE(viewer->isVisible());

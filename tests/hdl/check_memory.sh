@@ -1,7 +1,7 @@
 #!/bin/sh
 # Proves one generated memory: compiles it with the RAM models, reads it back and compares it word for word.
 #   check_memory.sh FILE ENTITY SHAPE HEX WORK_DIR
-# FILE ends in .vhd or .v; SHAPE is depth x width, such as 1024x18, with "rw" behind it for a memory with a write port;
+# FILE ends in .vhd or .v; SHAPE is depth x width, such as 1024x18, followed by "rw" for a memory with a write port;
 # HEX is the hex file of the same run. WORK_DIR is emptied first. Needs ghdl for VHDL and iverilog for Verilog.
 set -u
 if [ $# -ne 5 ]; then

@@ -9,7 +9,7 @@
 
 #include <memory>
 
-/// The real application settings in a folder of the test, one run of the program after the other.
+/// The real application settings in a folder of the test, for several starts of the program in a row.
 ///
 /// CMakeLists.txt of such a test names ModCfgApp under MODULES and ModMsg under FACES.
 class AppCfgOnDisk

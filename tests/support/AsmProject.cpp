@@ -29,7 +29,7 @@ AsmProject::AsmProject()
 {
     settings["PrjInfo/title"] = "Test";
     settings["AsmFe/behavior/charset"] = "2";
-    // Without these, every run warns of kinds of files that no device has.
+    // Without these, every run warns about kinds of files that no device has.
     for (const char* kind : {"vhdl", "verilog", "hex", "mem"}) {
         for (const char* event : {"But1", "But2", "Save"})
             settings[target + kind + "/writeFileEvent" + event] = "0";

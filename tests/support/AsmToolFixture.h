@@ -32,7 +32,7 @@ struct AsmToolResult
     QList<QJsonObject> objects() const;
 };
 
-/// What surrounds a run.
+/// The environment of a run.
 struct AsmToolSetup
 {
     QString folder;          ///< working folder; empty: that of the project
@@ -82,7 +82,7 @@ protected:
     /// Three instructions at the addresses 0, 1 and 0x3FF.
     static QByteArray goodSource();
     static QByteArray hexText();
-    /// A template that shows all words of the program, as an output is in error without.
+    /// A template that uses all words of the program, as a run with an incomplete template fails.
     static QByteArray vhdlTemplate(const QByteArray& head = QByteArray());
 
     /// The setup of a usual run; a test changes it and hands it to run().

@@ -155,7 +155,8 @@ public:
         }
         return result;
     }
-    /// Everything as one line each, such as "error: text" behind two blanks a group; for messages of failed tests.
+    /// Everything as one line each, such as "error: text", indented by two blanks a group; for messages of failed
+    /// tests.
     QString dump() const
     {
         static const char* const grades[] = {"info", "warning", "error"};

@@ -38,7 +38,7 @@ public:
             plugin->srcFileContentChanged();
     }
 
-    /// Sets the list and tells the clients.
+    /// Sets the list and notifies the clients.
     void setFiles(const QStringList& list)
     {
         srcFiles = list;

@@ -97,7 +97,7 @@ protected:
         return result;
     }
 
-    /// Lets the window come to rest, checks that all its texts can be read, and writes its picture into the folder of
+    /// Lets the window settle, checks that all its texts can be read, and writes its picture into the folder of
     /// screenshots of the build.
     /// @return path of the picture
     QString screenshot(const QString& name) const

@@ -9,8 +9,8 @@
 
 /// Answers modal dialogs that come one after the other, each with a function of its own: waits for them without sleeping.
 ///
-/// A dialog that its function leaves open is rejected, and so is one more than there are functions, so that a test can fail
-/// but not hang.
+/// A dialog that its function leaves open is rejected, and so is each dialog without a function, so that a test can
+/// fail but not hang.
 class ModalAnswers : public QObject
 {
 public:

@@ -37,7 +37,7 @@ protected:
     }
     ~PageFixture() override { area.setParent(nullptr); }
 
-    /// Shows the page; whoever has made it goes on to own it.
+    /// Shows the page; the caller keeps the ownership.
     void show(QWidget* page)
     {
         area.setWidget(page);
@@ -45,7 +45,7 @@ protected:
         pages.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&pages));
     }
-    /// The field behind the label with this text, null if there is none.
+    /// The field of the label with this text, null if there is none.
     template <class Field>
     static Field* field(const QWidget* page, const QString& label)
     {
@@ -82,7 +82,7 @@ protected:
             QTest::keyClick(box, Qt::Key_Down);
         ASSERT_EQ(box->currentText(), text);
     }
-    /// Every control that takes the focus says what it is for.
+    /// Checks that every control that takes the focus has a tool tip.
     static void expectToolTips(const QWidget* page)
     {
         for (const QWidget* control : page->findChildren<QWidget*>()) {
@@ -104,7 +104,7 @@ protected:
     {
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
-        // Layouts within layouts come to rest one after the other.
+        // Nested layouts settle one after the other.
         for (int i = 0; i < 10; ++i)
             QCoreApplication::processEvents();
         EXPECT_TRUE(expectReadable(&pages).save(dir + QLatin1Char('/') + name + QStringLiteral(".png")));

@@ -1,4 +1,4 @@
-// main() of every test program: no display, no settings of the person who runs it, no locale surprises.
+// main() of every test program: needs no display, does not use the settings of the user, and sets the locale.
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// The platform without a screen reports at every window what it does not do; nobody wants to read that beside a failure.
+/// The platform without a screen prints a warning for every window, which would hide the output of failures.
 void printMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     if (message.startsWith(QLatin1String("This plugin does not support ")))

@@ -15,7 +15,8 @@ namespace nsBatch {
 
 namespace {
 
-/// A file is written aside and renamed. A device or a pipe must be written directly, as it would be lost.
+/// A regular file is written to a temporary file and renamed. A device or a pipe must be written directly: renaming
+/// would replace it.
 bool isReplaceable(const QString& file)
 {
     const QFileInfo info(file);
@@ -81,7 +82,7 @@ QString OutputFile::open(const QString& name)
 
 bool OutputFile::write(const char* text, qint64 size)
 {
-    // A device that takes a part does not say why. It does so when it is given the rest.
+    // A device that accepts only a part reports no reason. It reports one when the rest is written.
     while (size > 0) {
         const qint64 taken = m_device->write(text, size);
         if (taken <= 0)

@@ -17,7 +17,7 @@ namespace nsBatch {
 
 /// The file that a name leads to, existing or not.
 QString targetOf(const QString& name);
-/// Would writing to both lose one of them? Devices take any number of writers.
+/// Would one of them overwrite the other? Devices can be written any number of times.
 bool isSameTarget(const QString& name, const QString& other);
 
 /// The files that a run must not lose: project, sources, and what the project writes.

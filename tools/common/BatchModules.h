@@ -9,8 +9,8 @@
 
 namespace nsBatch {
 
-/// The modules that a run without a window needs. They find one another as in the window; whoever asks for a module
-/// that is not here gets none and does without it.
+/// The modules that a run without a window needs. They find one another as in the window; the hook of a module that is
+/// not in the list is null.
 ///
 /// They live until the process ends: taking a large program apart piece by piece would only cost time.
 struct BatchModules
@@ -25,7 +25,7 @@ struct BatchModules
     BatchModules(const BatchModules&) = delete;
     BatchModules& operator=(const BatchModules&) = delete;
 
-    /// The one that was made. Nobody needs it, but memory that something points to is no leak to the tools that look for those.
+    /// The one that was made. Not used, but keeps the memory reachable for leak checkers.
     inline static BatchModules* volatile instance = nullptr;
 
     BatchMsg msg;

@@ -77,7 +77,7 @@ void BatchMsg::closeMessageGroup(bool)
 
 bool BatchMsg::isShown(eMsgType_t type, const QString& key) const
 {
-    // A warning that makes the run fail is never hidden.
+    // A warning that makes the run fail is always printed.
     const bool warningIsShown = !m_style.quiet || isFatal(key);
     return type == eMsgError || (type == eMsgWarning && warningIsShown) || (type == eMsgInfo && m_style.verbose);
 }

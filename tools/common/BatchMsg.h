@@ -12,7 +12,7 @@ namespace nsBatch {
 struct BatchMsgStyle
 {
     bool json = false;    ///< one object a line on standard output, instead of text on standard error
-    bool werror = false;  ///< warnings make the run fail, but for those of `harmless`
+    bool werror = false;  ///< warnings make the run fail, except for those of `harmless`
     QStringList harmless; ///< keys of warnings that never make the run fail
     bool quiet = false;   ///< errors alone
     bool verbose = false; ///< info messages and groups too
@@ -26,7 +26,7 @@ public:
 
     int errors() const { return m_errors; }
     int warnings() const { return m_warnings; }
-    /// Those of the warnings that make the run fail.
+    /// Number of warnings that make the run fail.
     int fatalWarnings() const { return m_fatalWarnings; }
 
     // ModMsgHookIf

@@ -14,7 +14,7 @@ struct BatchOptions
     {
         parseRun,   ///< go on with the options
         parseEnd,   ///< help or version was shown
-        parseWrong, ///< the command line is wrong, which was told
+        parseWrong, ///< the command line is wrong, which was reported
     };
 
     QString project;
@@ -23,7 +23,7 @@ protected:
     /// Reads the arguments into the parser, and shows help, version or what is wrong with them.
     /// @return parseRun: the caller goes on with what the parser has
     static eParse_t parseArguments(QCommandLineParser* parser, const QStringList& arguments);
-    /// @return false, after this was told, without exactly one project
+    /// @return false, after a reported error, unless there is exactly one project
     bool readProject(const QCommandLineParser& parser);
 };
 

@@ -9,7 +9,7 @@ namespace nsBatch {
 
 namespace {
 
-QByteArray program;  ///< in front of complaints
+QByteArray program;  ///< at the start of error messages
 int stdoutError = 0; ///< why the first text for standard output was lost
 
 void noteStdout(bool success)
@@ -62,15 +62,15 @@ void printLine(std::FILE* stream, const QByteArray& line)
     print(stream, line + '\n');
 }
 
-void printComplaint(const QString& text)
+void printError(const QString& text)
 {
     printLine(stderr, program + ": " + oneLine(text).toLocal8Bit());
 }
 
 bool wrongUsage(const QString& text)
 {
-    printComplaint(text);
-    printComplaint("try " + QString::fromLatin1(program) + " --help");
+    printError(text);
+    printError("try " + QString::fromLatin1(program) + " --help");
     return false;
 }
 

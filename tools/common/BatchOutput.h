@@ -7,19 +7,19 @@
 
 namespace nsBatch {
 
-/// The name in front of what the program says of itself; before anything is printed.
+/// Sets the name at the start of the program's own messages; to be called before anything is printed.
 void setProgramName(const QByteArray& name);
 /// Prints in one piece, so that the lines of several runs on one terminal do not mix.
 void print(std::FILE* stream, const QByteArray& text);
-/// The same with a line end behind.
+/// The same, followed by a line end.
 void printLine(std::FILE* stream, const QByteArray& line);
 /// Prints a message of the program itself on standard error, with its name in front.
-void printComplaint(const QString& text);
+void printError(const QString& text);
 /// Prints what is wrong with the command line, and where to find help.
 /// @return false
 bool wrongUsage(const QString& text);
-/// Hands over what waits for standard output.
-/// @return why anything that was printed there so far was lost, empty if nothing was
+/// Flushes standard output.
+/// @return why output was lost so far; empty if none was
 QString stdoutFailure();
 
 /// The text as one line for a terminal: line ends become blanks, other control characters show as \xNN.

@@ -18,13 +18,13 @@ namespace {
 const qint64 firstEpoch = -62135596800; ///< 0001-01-01 00:00:00
 const qint64 lastEpoch = 253402300799;  ///< 9999-12-31 23:59:59
 
-/// Opens what is closed of the standard streams, the wrong way round: reading and writing go on to fail.
+/// Opens the standard streams that are closed, in the wrong direction: reading and writing still fail.
 void occupyStandardStreams()
 {
     for (int fd = STDIN_FILENO; fd <= STDERR_FILENO; ++fd) {
         if (fcntl(fd, F_GETFD) >= 0)
             continue;
-        // The lowest free number is the one that is missing.
+        // open() returns the lowest free number, which is the missing one.
         if (open("/dev/null", fd == STDIN_FILENO ? O_WRONLY : O_RDONLY) != fd)
             return;
     }
@@ -32,13 +32,13 @@ void occupyStandardStreams()
 
 /// Makes the process safe to run in any surroundings: before anything else in main().
 ///
-/// - A standard stream that is closed stays unusable, instead of being taken by the first file that is opened.
-/// - A reader of the messages that goes away early does not end the run halfway through its output files.
+/// - A standard stream that is closed stays unusable; otherwise the first opened file would get its number.
+/// - If the reader of the messages ends early, the run still completes its output files.
 void setupProcess()
 {
     occupyStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
-    // What the libraries have to say about the environment is no message of a run.
+    // Messages of the libraries about the environment are suppressed.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
@@ -48,7 +48,7 @@ int runProgram(const char* program, int argc, char** argv, int (*run)(const QStr
 {
     setupProcess();
     setProgramName(program);
-    // The application takes the program's name alone: it has options of its own, which are none of ours.
+    // The application object gets only the program's name, so that it does not interpret options of its own.
     QByteArray name(program);
     char* names[] = {name.data(), nullptr};
     int count = 1;
@@ -69,8 +69,8 @@ bool checkSourceDateEpoch()
     const qint64 epoch = text.toLongLong(&ok);
     if (ok && epoch >= firstEpoch && epoch <= lastEpoch)
         return true;
-    printComplaint(QCoreApplication::translate("nsBatch", "SOURCE_DATE_EPOCH is no time in seconds since 1970: %1")
-                       .arg(QString::fromLocal8Bit(text)));
+    printError(QCoreApplication::translate("nsBatch", "SOURCE_DATE_EPOCH is no time in seconds since 1970: %1")
+                   .arg(QString::fromLocal8Bit(text)));
     return false;
 }
 

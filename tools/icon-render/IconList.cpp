@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Larger pictures than this are a slip of the pen in the list.
+/// A larger size is regarded as a typing error in the list.
 constexpr int maxSide = 4096;
 
 /// Reads "24" or "480x300"; an invalid size if the text is neither.

@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Elements that Qt's SVG renderer leaves out without a word, or that make the result depend on the machine's fonts.
+/// Elements that Qt's SVG renderer silently ignores, or that make the result depend on the fonts of the machine.
 bool isUnsupportedElement(const QString& name)
 {
     static const QSet<QString> names = {

@@ -84,7 +84,7 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
     event = events.value(eventName);
     style.json = formats.value(formatName);
     style.werror = parser.isSet("werror");
-    // Each kind of output whose event is set warns where no device writes it, and nothing is wrong with that.
+    // A kind of output whose event is set causes this warning if no device writes it, which is not an error.
     style.harmless = QStringList("warnIODevNoFileToWrite");
     style.quiet = parser.isSet("q");
     style.verbose = parser.isSet("v");

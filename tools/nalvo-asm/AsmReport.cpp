@@ -21,7 +21,7 @@ using namespace nsModAsmFe;
 
 namespace {
 
-/// The instructions in the order of the memory. Shared code comes where it stands, once.
+/// The instructions in the order of the memory. Shared code is listed once, at its own address.
 std::vector<const Opcode*> opcodesByAddr(ModAsmFe* asmFe)
 {
     std::vector<const Opcode*> opcodes;

@@ -60,10 +60,10 @@ void showSummary(const BatchMsg& msg, const BatchMsgStyle& style, bool success, 
         parts.last() += msg.warnings() == 1 ? tr(" (counts as an error)") : tr(" (count as errors)");
     parts << (instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(instructions));
     parts << (files.size() == 1 ? tr("1 file written") : tr("%1 files written").arg(files.size()));
-    printComplaint(parts.join(", "));
+    printError(parts.join(", "));
 }
 
-/// Writes the reports that the options ask for, and takes care that no file of the run is lost to one.
+/// Writes the reports that the options ask for, and refuses to overwrite a file of the run.
 class Reports
 {
 public:
@@ -122,15 +122,15 @@ int run(const AsmOptions& options)
     return success ? exitAssembled : exitNotAssembled;
 }
 
-/// The exit status, worse if not everything came out.
+/// The exit status; a failure if standard output could not be written.
 int finish(const AsmOptions& options, int status)
 {
     const QString failure = stdoutFailure();
     if (failure.isEmpty())
         return status;
-    // A report at standard output has told so itself.
+    // For a report on standard output, the failure has been reported already.
     if (options.listingFile != "-" && options.symbolsFile != "-")
-        printComplaint(tr("Can not write standard output: %1").arg(failure));
+        printError(tr("Can not write standard output: %1").arg(failure));
     return status == exitAssembled ? exitNotAssembled : status;
 }
 

@@ -22,7 +22,7 @@ using nsProc::ProcSimCoreData;
 
 namespace {
 
-/// A scratchpad may be declared far larger than programs use it: zeros at the end of what is beyond are left out.
+/// A scratchpad may be declared far larger than programs use it: beyond this, trailing zeros are left out.
 const int scrpdShown = 65536;
 
 /// The name that a table has for a number.

@@ -33,7 +33,7 @@ struct SimEnd
     QString text; ///< for people
 };
 
-/// The word that stands for a reason in the dump.
+/// The name of a reason in the dump.
 const char* reasonName(SimEnd::eReason_t reason);
 
 /// The state of the simulator as JSON.

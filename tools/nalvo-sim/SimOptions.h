@@ -26,7 +26,7 @@ struct SimOptions : nsBatch::BatchOptions
     /// The files that are written, without standard output.
     QStringList outputFiles() const;
 
-    qint64 instructions = unbounded; ///< the run ends when so many are executed
+    qint64 instructions = unbounded; ///< the run ends after this many instructions
     qint64 clocks = unbounded;       ///< the run ends when the count is reached
     QString start;                   ///< label; empty: as the project starts
     QString until;                   ///< label; empty: none

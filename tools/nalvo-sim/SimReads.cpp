@@ -43,7 +43,7 @@ SimReads::~SimReads()
 QString SimReads::open(const QString& name)
 {
     m_name = name;
-    // Whether somebody writes to a pipe is only waited for when a value is needed.
+    // A pipe is opened without blocking; the program waits for a writer only when a value is needed.
     m_fd = name == "-" ? STDIN_FILENO
                        : ::open(QFile::encodeName(name).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     struct stat info = {};

@@ -7,8 +7,8 @@
 
 namespace nsNalvoSim {
 
-/// A source of values for the reads of the program: a text with one hexadecimal byte a line. Blank lines and what
-/// stands behind `;` or `#` do not count.
+/// A source of values for the reads of the program: a text with one hexadecimal byte a line. Blank lines and the text
+/// after `;` or `#` are ignored.
 ///
 /// The text is read as far as values are needed, a piece at a time, so that it may be endless.
 class SimReads
@@ -18,7 +18,7 @@ public:
     {
         resultValue,
         resultEnd,     ///< there is no further value
-        resultFailed,  ///< a line that is no value, or the file can not be read: failure() tells
+        resultFailed,  ///< a line is not a value, or the file can not be read: see failure()
         resultStopped, ///< the user wants the run to end
     };
 
@@ -32,13 +32,13 @@ public:
     QString open(const QString& name);
     /// @param value 0 to 255
     eResult_t next(int* value);
-    /// Will next() have to ask a terminal or another program, so that it may have to wait?
+    /// May next() have to wait for a terminal or another program?
     bool mayWait() const { return !m_isRegular && m_pos == m_size; }
 
     /// As a user knows it.
     QString shownName() const;
     qint64 count() const { return m_count; }
-    /// Place and reason.
+    /// Position and reason of the failure.
     const QString& failure() const { return m_failure; }
 
 private:
@@ -46,7 +46,7 @@ private:
     struct sLine_t
     {
         QByteArray word;
-        bool ended = false; ///< a blank stood behind the word
+        bool ended = false; ///< there was a blank after the word
         bool isComment = false;
     };
 

@@ -71,7 +71,7 @@ int SimRun::run()
         return exitWrongUsage;
     if (!assemble()) {
         if (!m_options.quiet)
-            printComplaint(tr("not assembled"));
+            printError(tr("not assembled"));
         return exitNotAssembled;
     }
     if (!findLabels() || !openReads() || !openOutputs(project))
@@ -81,7 +81,7 @@ int SimRun::run()
         return exitWrongUsage;
     if (started)
         execute();
-    // An input that makes no sense leaves no outputs behind.
+    // After an invalid input no output files are written.
     const bool complete = m_end.reason != SimEnd::endFile && writeOutputs();
     showSummary();
     return complete ? exitStatus() : exitWrongUsage;
@@ -90,7 +90,7 @@ int SimRun::run()
 bool SimRun::assemble()
 {
     m_modules.asmFe.assemble(nsModAsmFe::ModAsmFe::eEventNone);
-    // As in the window: an error that does not keep the program from being assembled does not keep it from running.
+    // As in the window: after errors, a program that was assembled nevertheless can run.
     if (!m_modules.asmFe.isAssembled())
         return false;
     m_shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
@@ -115,15 +115,15 @@ bool SimRun::findLabels()
 
 bool SimRun::openReads()
 {
-    const auto told = [](const QString& name, const QString& failure) {
+    const auto checkOpened = [](const QString& name, const QString& failure) {
         if (!failure.isEmpty())
-            printComplaint(tr("Can not read %1: %2").arg(name == "-" ? tr("standard input") : name, failure));
+            printError(tr("Can not read %1: %2").arg(name == "-" ? tr("standard input") : name, failure));
         return failure.isEmpty();
     };
-    if (!m_options.readsFile.isEmpty() && !told(m_options.readsFile, m_watch.openReads(m_options.readsFile)))
+    if (!m_options.readsFile.isEmpty() && !checkOpened(m_options.readsFile, m_watch.openReads(m_options.readsFile)))
         return false;
     for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (!told(it.value(), m_watch.openPortReads(it.key(), it.value())))
+        if (!checkOpened(it.value(), m_watch.openPortReads(it.key(), it.value())))
             return false;
     }
     return true;
@@ -134,7 +134,7 @@ bool SimRun::openOutputs(const QString& project)
     const ProjectFiles taken(project, &m_modules.asmFe);
     for (const QString& name : m_options.outputFiles()) {
         if (taken.contains(name)) {
-            printComplaint(tr("File of the project would be overwritten: %1").arg(name));
+            printError(tr("File of the project would be overwritten: %1").arg(name));
             return false;
         }
     }
@@ -146,7 +146,7 @@ bool SimRun::openOutput(OutputFile* file, const QString& name)
 {
     const QString failure = name.isEmpty() ? QString() : file->open(name);
     if (!failure.isEmpty())
-        printComplaint(tr("Can not write %1: %2").arg(shownOutput(name), failure));
+        printError(tr("Can not write %1: %2").arg(shownOutput(name), failure));
     return failure.isEmpty();
 }
 
@@ -220,7 +220,7 @@ bool SimRun::isBoundReached()
 
 void SimRun::raiseInterrupt()
 {
-    // A second call would take a pending interrupt back.
+    // A second call would withdraw a pending interrupt.
     if (m_sim->core()->interrupt() == nsProc::eIntEnabled)
         m_sim->simInt();
     const std::vector<qint64>& list = m_options.interruptAt;
@@ -249,7 +249,8 @@ bool SimRun::step()
         setPlace(opcode);
         const QString key = m_sim->takeLastMsg();
         if (key.isEmpty() || key == "internal") {
-            // Behind the last instruction there is only a general complaint. What it means is told when one goes on.
+            // At the end of the program the simulator reports nothing or a general error. Executing once more reports
+            // the actual error.
             m_sim->simOpcode();
             endByFailure(opcode);
         } else {
@@ -274,7 +275,7 @@ void SimRun::endByFailure(const Opcode* opcode)
     }
     const QString key = m_sim->takeLastMsg();
     if (key == "errIODevRd" && opcode != nullptr)
-        tellUnreadPort(opcode);
+        reportUnreadPort(opcode);
     endByMessage(key);
 }
 
@@ -300,7 +301,7 @@ void SimRun::endByReads(const Opcode* opcode)
         return;
     }
     if (m_watch.readResult() == SimReads::resultFailed) {
-        printComplaint(source->failure());
+        printError(source->failure());
         setEnd(SimEnd::endFile, tr("values for the reads can not be read"));
         return;
     }
@@ -317,8 +318,8 @@ void SimRun::endByReads(const Opcode* opcode)
     setEnd(SimEnd::endReads, tr("no value to read") + m_place, key);
 }
 
-/// The simulator does not say which port it can not read.
-void SimRun::tellUnreadPort(const Opcode* opcode)
+/// Reports which port can not be read, as the message of the simulator does not name it.
+void SimRun::reportUnreadPort(const Opcode* opcode)
 {
     const nsModAsmFe::Arg* arg = opcode->arg1;
     const nsProc::ProcSimCoreData& core = *m_sim->core();
@@ -352,7 +353,7 @@ bool SimRun::finishOutput(OutputFile* file, bool written)
     const QString failure = written ? file->commit() : file->failure();
     if (written && failure.isEmpty())
         return true;
-    printComplaint(tr("Can not write %1: %2").arg(shownOutput(file->name()), failure));
+    printError(tr("Can not write %1: %2").arg(shownOutput(file->name()), failure));
     return false;
 }
 
@@ -364,7 +365,7 @@ void SimRun::showSummary() const
     QStringList parts = {m_end.text};
     parts << (m_instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(m_instructions));
     parts << (clocks == 1 ? tr("1 clock") : tr("%1 clocks").arg(clocks));
-    printComplaint(parts.join(", "));
+    printError(parts.join(", "));
 }
 
 int SimRun::exitStatus() const

@@ -26,11 +26,11 @@ public:
     explicit SimRun(const SimOptions& options);
     ~SimRun();
 
-    /// @return exit status; what went wrong was told
+    /// @return exit status; failures have been reported
     int run();
 
 private:
-    // Each of these tells what is wrong.
+    // Each of these reports its errors.
     bool assemble();
     bool findLabels();
     bool openReads();
@@ -47,7 +47,7 @@ private:
     void endByFailure(const nsModAsmFe::Opcode* opcode);
     void endByMessage(const QString& key);
     void endByReads(const nsModAsmFe::Opcode* opcode);
-    void tellUnreadPort(const nsModAsmFe::Opcode* opcode);
+    void reportUnreadPort(const nsModAsmFe::Opcode* opcode);
     /// Notes the instruction that ended the run. @param opcode null for none
     void setPlace(const nsModAsmFe::Opcode* opcode);
     void setEnd(SimEnd::eReason_t reason, const QString& text, const QString& key = QString());

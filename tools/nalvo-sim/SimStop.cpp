@@ -12,7 +12,7 @@ namespace nsNalvoSim {
 namespace {
 
 volatile std::sig_atomic_t stopRequested = 0;
-/// A signal that comes just before a wait must end that, too: it leaves a byte here.
+/// The signal handler writes a byte here, so that a signal just before poll() also ends the waiting.
 int stopPipe[2] = {-1, -1};
 
 void handleStop(int)
@@ -49,7 +49,7 @@ bool waitForInput(int fd)
 {
     pollfd waits[] = {{fd, POLLIN, 0}, {stopPipe[0], POLLIN, 0}};
     while (!isStopRequested()) {
-        // What can not be polled can be read without waiting. A negative descriptor is passed over.
+        // A file that can not be polled can be read without waiting. poll() ignores a negative descriptor.
         if (poll(waits, 2, -1) < 0 && errno != EINTR)
             return true;
         if (waits[0].revents != 0)

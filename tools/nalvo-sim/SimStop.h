@@ -2,7 +2,8 @@
 
 namespace nsNalvoSim {
 
-/// From here on, an interrupt signal asks the run to end, instead of killing the process. A second one kills.
+/// From here on, an interrupt signal asks the run to end, instead of killing the process. A second signal kills the
+/// process.
 ///
 /// A process that was started with the signal ignored, as shells start background jobs, keeps ignoring it.
 void catchStopSignal();

@@ -11,7 +11,7 @@ namespace nsNalvoSim {
 /// The trace of a run: one event a line, numbers in upper-case hexadecimal.
 ///
 /// `I aaa wwwww` an executed instruction: address in its range, word; `R pp vv` and `W pp vv` port and value; `S aa vv`
-/// scratchpad address and value written; `INT` interrupt entry. What an instruction does stands behind it.
+/// scratchpad address and value written; `INT` interrupt entry. The effects of an instruction follow it.
 class SimTrace
 {
 public:
@@ -30,16 +30,16 @@ public:
     void scrpd(int addr, int value) { line('S', addr, 2, value, 2); }
     /// The last instruction was not executed after all.
     void takeBack() { m_used = m_mark; }
-    /// Writes what waits; to be called between instructions.
+    /// Writes the buffered text when there is enough of it; to be called between instructions.
     void writePiece()
     {
         if (m_used >= pieceSize)
             flush();
     }
-    /// Writes everything, the instruction in progress aside.
+    /// Writes all buffered text, except that of the instruction in progress.
     void flushExecuted() { flush(m_mark); }
     void flush() { flush(m_used); }
-    /// Something was lost.
+    /// A part of the trace could not be written.
     bool hasFailed() const { return m_failed; }
 
 private:

@@ -52,7 +52,7 @@ bool SimWatch::portSource(int addr, int* value, bool* handled)
     m_readResult = SimReads::resultEnd;
     if (source == nullptr)
         return false;
-    // Whoever answers may want to see first what the program has done.
+    // The user or program that provides the value may want to see the trace first.
     if (m_trace.isOn() && source->mayWait())
         m_trace.flushExecuted();
     m_readResult = source->next(value);

@@ -18,7 +18,7 @@ struct ProcSimClock;
 
 namespace nsNalvoSim {
 
-/// Stands between the simulator and the files of a run: supplies what the program reads, keeps trace and waves.
+/// Connects the simulator with the files of a run: supplies the values that the program reads, records trace and waves.
 class SimWatch : public nsProc::ProcSimObserver
 {
 public:
@@ -26,7 +26,7 @@ public:
     /// @return why that failed, or an empty text
     QString openReads(const QString& file);
     QString openPortReads(int port, const QString& file);
-    /// Keeps waves from here on.
+    /// Records waves from now on.
     /// @param clock must outlive the watching
     /// @param asmFe the program, which has names for the ports; must outlive the watching
     void keepWaves(const nsProc::ProcSimClock* clock, ModAsmFeHookIf* asmFe)
@@ -41,9 +41,9 @@ public:
     void begin() { m_pending = nullptr; }
     /// To be called after an instruction that had no effect.
     void takeBack();
-    /// The instruction that was begun last; null if begin() was not followed by one.
+    /// The instruction that was started last; null if there was none since begin().
     const nsModAsmFe::Opcode* opcode() const { return m_pending; }
-    /// How the last read of a source ended.
+    /// Result of the last read of a source.
     SimReads::eResult_t readResult() const { return m_readResult; }
     /// The port of that read.
     int readPort() const { return m_readPort; }

@@ -13,13 +13,13 @@ namespace {
 using namespace nsBatch;
 using namespace nsNalvoSim;
 
-/// The exit status, worse if help or version were lost.
+/// The exit status; a failure if help or version could not be printed.
 int finish()
 {
     const QString failure = stdoutFailure();
     if (failure.isEmpty())
         return exitReached;
-    printComplaint(QCoreApplication::translate("nalvo-sim", "Can not write standard output: %1").arg(failure));
+    printError(QCoreApplication::translate("nalvo-sim", "Can not write standard output: %1").arg(failure));
     return exitWrongUsage;
 }
 

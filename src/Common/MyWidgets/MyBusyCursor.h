@@ -2,10 +2,10 @@
 
 #include <QElapsedTimer>
 
-/// Shows the busy cursor while long work goes on in the GUI's thread, as long as the object lives.
+/// Shows the busy cursor during long work in the GUI thread, until the object is deleted.
 ///
-/// Nothing can come in while the work goes on, no timer either: so the work itself says now and then, by goesOn(), that it has not
-/// ended yet. Work that ends soon changes no cursor. In a program without a display nothing happens.
+/// No event is handled during the work, not even a timer, so the work must call goesOn() from time to time. Short work
+/// does not change the cursor. In a program without a display nothing happens.
 ///
 ///     MyBusyCursor busy;
 ///     for (const Line& line : lines) {
@@ -15,17 +15,17 @@
 class MyBusyCursor
 {
 public:
-    /// What a user takes for immediate, in milliseconds.
+    /// Duration that a user perceives as immediate, in milliseconds.
     static const int usualDelay = 300;
 
-    /// @param delay time from now on that the work may take without a sign, in milliseconds
+    /// @param delay time after which the busy cursor is shown, in milliseconds
     explicit MyBusyCursor(int delay = usualDelay);
-    /// Gives back the cursor that was there before.
+    /// Restores the cursor.
     ~MyBusyCursor();
     MyBusyCursor(const MyBusyCursor&) = delete;
     MyBusyCursor& operator=(const MyBusyCursor&) = delete;
 
-    /// The work goes on. Cheap enough for each of many small steps.
+    /// To be called during the work; fast enough for each of many small steps.
     void goesOn();
     bool isShown() const { return m_shown; }
 

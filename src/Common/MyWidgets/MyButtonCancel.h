@@ -2,7 +2,7 @@
 
 #include <QPushButton>
 
-/// The button that leaves without an effect.
+/// The button that cancels without any change.
 class MyButtonCancel : public QPushButton
 {
     Q_OBJECT

@@ -61,7 +61,7 @@ void MyColorSelector::paintEvent(QPaintEvent*)
         painter.drawRect(frame);
         return;
     }
-    // The white line keeps the frame apart from a colour like its own.
+    // The white line separates the frame from a similar colour inside.
     painter.setPen(focusColor);
     painter.drawRect(frame);
     painter.drawRect(frame.adjusted(1, 1, -1, -1));
@@ -99,7 +99,7 @@ void MyColorSelector::leaveEvent(QEvent* event)
 
 void MyColorSelector::selectColor()
 {
-    // The page of this field can vanish while the dialog is open, and the dialog with it.
+    // The page of this field can be deleted while the dialog is open, and the dialog with it.
     const QPointer<MyColorSelector> self(this);
     const QPointer<QColorDialog> dialog(new QColorDialog(m_color, this));
     dialog->setWindowTitle(tr("Select color"));

@@ -108,7 +108,7 @@ void MyFileSelect::takeSelection(const QString& path)
 
 void MyFileSelect::selectFile()
 {
-    // The page of this field can vanish while the dialog is open, and the dialog with it.
+    // The page of this field can be deleted while the dialog is open, and the dialog with it.
     const QPointer<QFileDialog> dialog(new QFileDialog(this, m_title));
     dialog->setNameFilters(m_filters);
     dialog->setDefaultSuffix(m_suffix);

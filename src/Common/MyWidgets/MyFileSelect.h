@@ -49,7 +49,7 @@ protected:
     virtual bool isUsable(const QString& path, QString* problem) const = 0;
     /// Makes the file dialog one for opening or saving.
     virtual void setupDialog(QFileDialog* dialog) const = 0;
-    /// Called for each new text, behind fileValid().
+    /// Called for each new text, after fileValid().
     virtual void fileChecked() {}
 
 protected slots:

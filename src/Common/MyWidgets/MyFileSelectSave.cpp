@@ -14,7 +14,7 @@ MyFileSelectSave::MyFileSelectSave(QWidget* parent)
 
 MyFileSelectSave::~MyFileSelectSave()
 {
-    // A field that has the focus ends its edit when it goes, which is too late to ask what it holds.
+    // A field with the focus emits editingFinished() while it is deleted, when its text can no longer be read.
     pathEdit()->disconnect(this);
 }
 

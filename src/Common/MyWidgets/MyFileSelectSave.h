@@ -15,7 +15,7 @@ public:
     bool isValid() const;
 
 signals:
-    /// Comes behind each fileValid().
+    /// Emitted after each fileValid().
     void fileValidChanged();
     /// The user has left the field or pressed Return, and the field holds a usable path.
     void saveFile();

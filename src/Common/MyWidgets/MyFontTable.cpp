@@ -134,7 +134,7 @@ void MyFontTable::getFontColor(const QModelIndex& index)
     if (index.column() != columnContext)
         return;
     const int row = index.row();
-    // The page can vanish while the dialog is open, and the dialog with it.
+    // The page can be deleted while the dialog is open, and the dialog with it.
     const QPointer<MyFontTable> self(this);
     const QPointer<QColorDialog> dialog(new QColorDialog(m_formats.at(row).foreground().color(), this));
     dialog->setWindowTitle(tr("Select color"));

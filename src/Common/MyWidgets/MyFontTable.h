@@ -28,7 +28,7 @@ public:
 
     /// One row a name. The formats start empty.
     void setContexts(const QStringList& names);
-    /// The format of a row; what the table has no column for comes back as it was put in.
+    /// The format of a row; properties without a column in the table are kept unchanged.
     void setFormat(int row, const QTextCharFormat& format);
     QTextCharFormat format(int row) const { return m_formats.value(row); }
     /// The font family that the names are written in.

@@ -32,7 +32,7 @@ MyNoticeBar::MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent)
     m_label->setObjectName(QStringLiteral("noticeBarText"));
     m_label->setTextFormat(Qt::PlainText);
     m_label->setWordWrap(true);
-    // A long word must not make the bar wider than its place.
+    // A long word must not make the bar wider than the available space.
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_close->setObjectName(QStringLiteral("noticeBarClose"));
     m_close->setIcon(QIcon(QStringLiteral(":/ModFindReplace/img/widget/closeWidget.png")));
@@ -58,7 +58,7 @@ void MyNoticeBar::setGrade(eGrade_t grade)
 {
     m_grade = grade;
     m_icon->setPixmap(QIcon(QString::fromLatin1(gradeIcons[grade])).pixmap(iconSize, iconSize));
-    // The style sheet gives each grade its ground.
+    // The style sheet gives each grade its background colour.
     setProperty("grade", QString::fromLatin1(gradeNames[grade]));
     style()->unpolish(this);
     style()->polish(this);
@@ -84,7 +84,7 @@ QPushButton* MyNoticeBar::addButton(const QString& text, const QString& toolTip)
     button->setToolTip(toolTip);
     button->setAutoDefault(false);
     m_buttons->addWidget(button);
-    // The keyboard goes from left to right.
+    // The Tab key moves from left to right.
     setTabOrder(button, m_close);
     updateGeometry();
     return button;
@@ -110,7 +110,7 @@ bool MyNoticeBar::focusNextPrevChild(bool next)
 {
     if (QFrame::focusNextPrevChild(next))
         return true;
-    // An editor keeps the Tab key for its text: the key goes round through the bars that stand in it.
+    // An editor uses the Tab key for its text, so in its bars the key cycles through the controls of the bars.
     QList<QWidget*> all;
     for (const MyNoticeBar* bar : parentWidget()->findChildren<MyNoticeBar*>(QString(), Qt::FindDirectChildrenOnly)) {
         if (!bar->isHidden())
@@ -157,7 +157,7 @@ void MyNoticeBar::closeByUser()
 
 void MyNoticeBar::dismiss()
 {
-    // The keyboard goes back to what the bar stands in.
+    // Returns the focus to the widget that contains the bar.
     QWidget* home = parentWidget();
     while (home != nullptr && home->focusPolicy() == Qt::NoFocus)
         home = home->parentWidget();

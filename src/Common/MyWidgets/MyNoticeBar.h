@@ -6,11 +6,11 @@ class QHBoxLayout;
 class QLabel;
 class QPushButton;
 
-/// A calm strip that reports a state and offers what can be done about it, without a dialog: icon, text, buttons and a
-/// button that closes it.
+/// A strip that reports a state and offers actions for it without opening a dialog: icon, text, buttons and a button
+/// that closes it.
 ///
-/// The bar goes on standing until it is closed or deleted; it never takes the focus on its own. Keys that nobody in the
-/// bar wants end here, so that they do not become text of an editor that the bar stands in.
+/// The bar stays until it is closed or deleted; it never takes the focus on its own. The bar accepts keys that none of
+/// its controls handles, so that they are not typed into an editor that contains the bar.
 class MyNoticeBar : public QFrame
 {
     Q_OBJECT
@@ -31,14 +31,14 @@ public:
     QString text() const;
     void setText(const QString& text);
 
-    /// Appends a button. The bar owns it and stays when it is clicked: whoever connects it decides.
+    /// Appends a button. The bar owns it. A click does not close the bar: that is up to the connected slot.
     /// @param text may hold a mnemonic
     QPushButton* addButton(const QString& text, const QString& toolTip);
     /// The first button that can take the focus; the one that closes the bar if there is no other.
     QWidget* firstControl() const;
 
-    /// Ends the bar as if it had been closed, without the signal: hidden at once, deleted later. The focus goes back to
-    /// what the bar stands in.
+    /// Ends the bar as if it had been closed, without the signal: hidden at once, deleted later. The focus returns to
+    /// the widget that contains the bar.
     void dismiss();
 
 signals:

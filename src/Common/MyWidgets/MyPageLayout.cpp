@@ -64,7 +64,7 @@ MyFieldTitle* MyPageLayout::addField(const QString& title, QWidget* field, const
         field->setToolTip(toolTip);
     label->setToolTip(toolTip.isEmpty() ? field->toolTip() : toolTip);
     const bool wide = unit.isEmpty() && (field->sizePolicy().horizontalPolicy() & QSizePolicy::ExpandFlag) != 0;
-    // Beside something high, the label stands with its first line.
+    // Beside a field of several lines, the label is aligned with the first line.
     const bool high = (field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
     m_grid->addWidget(label, m_row, columnTitle, high ? Qt::AlignTop : Qt::AlignVCenter);
     if (wide)

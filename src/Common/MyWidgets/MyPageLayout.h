@@ -26,9 +26,10 @@ public:
 
     /// A heading; what is added next stands below it.
     MySectionTitle* addSection(const QString& title);
-    /// A field behind its label, which takes the field's mnemonic. Fields that want to grow take the width of the page.
+    /// A label and its field; the label's mnemonic leads to the field. Fields that want to grow take the width of the
+    /// page.
     /// @param toolTip for label and field; empty leaves the field's own
-    /// @param unit text behind the field, such as "pixels"
+    /// @param unit text after the field, such as "pixels"
     MyFieldTitle* addField(const QString& title, QWidget* field, const QString& toolTip = QString(),
                            const QString& unit = QString());
     /// A widget or layout that stands in the column of the fields, such as a check box with a text of its own.
@@ -40,10 +41,10 @@ public:
     /// The same with all the height that is left, for a list or a text.
     void addFill(QWidget* widget);
     void addFill(QLayout* row);
-    /// A quiet text of explanation, wrapped.
+    /// An explanation in an unobtrusive style, wrapped.
     QLabel* addHint(const QString& text);
 
-    /// Below the page's title: what keeps the user from changing something here. An empty text hides it.
+    /// Below the page's title: why the user cannot change settings here. An empty text hides it.
     void setNote(const QString& note);
     QString note() const;
     /// Enables what stands on the page. Fields that the page has disabled stay disabled.

@@ -69,7 +69,7 @@ void MyPathEdit::updateToolTip()
 
 void MyPathEdit::showEnd()
 {
-    // While the user types, the cursor is his.
+    // While the user edits, the cursor must not be moved.
     if (!hasFocus())
         end(false);
 }
@@ -77,7 +77,7 @@ void MyPathEdit::showEnd()
 void MyPathEdit::focusOutEvent(QFocusEvent* event)
 {
     QLineEdit::focusOutEvent(event);
-    // A context menu comes back to the selection.
+    // After a context menu the selection must still be there.
     if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
         end(false);
 }

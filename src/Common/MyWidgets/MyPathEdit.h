@@ -4,7 +4,7 @@
 
 /// A line edit for one path.
 ///
-/// A path says most at its end, so without the focus the end is what shows; the tool tip has the whole path. A file
+/// The end of a path matters most, so a field without the focus shows the end; the tool tip has the whole path. A file
 /// that is dropped takes the place of the text.
 class MyPathEdit : public QLineEdit
 {

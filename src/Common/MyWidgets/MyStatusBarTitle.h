@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-/// A label of the status bar: what the value behind it is.
+/// A label of the status bar: names the value after it.
 class MyStatusBarTitle : public QLabel
 {
     Q_OBJECT

@@ -37,7 +37,7 @@ void MyWheelGuard::guard(QWidget* widget)
 bool MyWheelGuard::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::ChildPolished) {
-        // Only now the child is what its class makes of it.
+        // Only now the constructor of the child's class has run.
         if (auto* child = qobject_cast<QWidget*>(static_cast<QChildEvent*>(event)->child())) {
             guard(child);
             for (QWidget* widget : child->findChildren<QWidget*>())

@@ -4,8 +4,8 @@
 
 class QWidget;
 
-/// Keeps the wheel from changing combo boxes and spin boxes that pass under the pointer while a page is scrolled: without
-/// the focus they leave the wheel to the page.
+/// Prevents the wheel from changing combo boxes and spin boxes that pass under the pointer while a page is scrolled:
+/// without the focus they pass the event to the page.
 class MyWheelGuard : public QObject
 {
     Q_OBJECT

@@ -12,11 +12,11 @@
 namespace {
 
 const int gap = 8;
-const int foldContext = 100; ///< equal lines that stay beside a difference where others are folded away
+const int foldContext = 100; ///< equal lines shown before and after a difference when others are folded
 const int startWidth = 1100;
 const int startHeight = 700;
 
-/// The rows of both sides while they are put together.
+/// Builds the rows of both sides.
 class Rows
 {
 public:
@@ -130,7 +130,7 @@ void TextCompareDialog::connectSides()
         connect(second, &QScrollBar::valueChanged, first, &QScrollBar::setValue);
     };
     join(m_left->verticalScrollBar(), m_right->verticalScrollBar());
-    // Lines differ in length: a side that can not go as far must not hold the other one back.
+    // The sides can differ in width: one that cannot scroll as far must not limit the other one.
     const auto follow = [](QScrollBar* leader, QScrollBar* follower) {
         connect(leader, &QScrollBar::valueChanged, follower, [follower](int value) {
             if (value <= follower->maximum())
@@ -153,7 +153,7 @@ void TextCompareDialog::addNavigation()
     for (QAbstractButton* button : m_buttons->buttons())
         qobject_cast<QPushButton*>(button)->setAutoDefault(false);
     m_buttons->button(QDialogButtonBox::Close)->setToolTip(tr("Closes the comparison and changes nothing (Esc)"));
-    // Beside the mnemonics of the buttons, for the hand that stays at the arrows.
+    // In addition to the mnemonics of the buttons, next to the arrow keys.
     new QShortcut(QKeySequence(QStringLiteral("Alt+Up")), this, SLOT(goToPrevious()));
     new QShortcut(QKeySequence(QStringLiteral("Alt+Down")), this, SLOT(goToNext()));
     connect(m_previous, &QPushButton::clicked, this, &TextCompareDialog::goToPrevious);

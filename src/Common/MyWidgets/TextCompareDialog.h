@@ -9,7 +9,7 @@ class QLabel;
 class QPushButton;
 class TextCompareSide;
 
-/// Two texts side by side, with their differences marked, in step while they scroll.
+/// Two texts side by side, with their differences marked; they scroll together.
 ///
 /// For reading: text can be selected and copied, and nothing is changed. Further buttons of the caller end the dialog
 /// with a result of their own. Of very long texts the equal lines far from a difference are folded away, and no more

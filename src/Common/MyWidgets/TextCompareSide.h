@@ -3,8 +3,8 @@
 #include <QPlainTextEdit>
 #include <QVector>
 
-/// One of the two texts of a comparison: for reading, with line numbers, with its differing lines on a ground of their
-/// own.
+/// One of the two texts of a comparison: for reading, with line numbers, with its differing lines on a coloured
+/// background.
 ///
 /// Both sides have the same number of rows. Where the other side has a line that this one does not have, a row is empty
 /// and has no number.

@@ -154,7 +154,8 @@ void AsmFeConfigPage::updateHint()
 void AsmFeConfigPage::setConfig(const AsmFeConfig* config, const QString& prjDir)
 {
     m_prjDir = prjDir;
-    // A name that this machine does not know stays selectable, so that the page does not change it by itself.
+    // A character set that this machine does not support stays selectable, so that the page does not change the setting
+    // by itself.
     if (m_defaultCharset->findData(config->defaultCharset) < 0 && !config->defaultCharset.isEmpty())
         m_defaultCharset->addItem(config->defaultCharset, config->defaultCharset);
     select(m_defaultCharset, config->defaultCharset);

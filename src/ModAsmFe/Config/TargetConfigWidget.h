@@ -13,7 +13,8 @@ class QLineEdit;
 
 namespace nsModAsmFe {
 
-/// What the settings of all kinds of output files have in common: on or off, the file, and a line that tells what is missing.
+/// What the settings of all kinds of output files have in common: on or off, the file, and a line that names what is
+/// missing.
 ///
 /// The fields of an output that is off can not be used.
 class TargetConfigWidget : public QWidget

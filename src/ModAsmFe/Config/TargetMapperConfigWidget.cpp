@@ -11,7 +11,7 @@ namespace nsModAsmFe {
 
 namespace {
 
-/// Grey, but in use.
+/// Shown in grey, but enabled.
 void setPale(QWidget* widget, bool pale)
 {
     auto* effect = qobject_cast<QGraphicsOpacityEffect*>(widget->graphicsEffect());
@@ -78,7 +78,7 @@ void TargetMapperConfigWidget::setOutputsEnabled(bool vhdl, bool verilog, bool h
     updateHint();
 }
 
-/// The hint speaks of events that are set.
+/// Shows the hint while an event of an output that is off is set.
 void TargetMapperConfigWidget::updateHint()
 {
     bool anyWarns = false;

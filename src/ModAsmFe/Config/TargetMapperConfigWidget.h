@@ -12,8 +12,8 @@ namespace nsModAsmFe {
 
 /// On which events which kind of output file is written: a grid of check boxes.
 ///
-/// The events of an output that is off are grey, as they only make the run warn. They can be changed all the same: a device that the
-/// sources declare has a file of its own, and the events hold for that one, too.
+/// The events of an output that is off are grey, as they only cause a warning. They can still be changed, as they also
+/// apply to the files of devices that the sources declare.
 class TargetMapperConfigWidget : public QWidget
 {
     Q_OBJECT

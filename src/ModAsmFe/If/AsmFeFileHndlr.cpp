@@ -39,7 +39,8 @@ QString AsmFeFileHndlr::relSrcFilePath(int fileNo) const
 
 QString AsmFeFileHndlr::convToRelPath(QString path) const
 {
-    // A path that is relative already, as relSrcFilePath() gives it, must not be taken against the working folder.
+    // A path that is relative already, such as one of relSrcFilePath(), must not be resolved against the working
+    // folder.
     if (m_prjDir.isEmpty() || !QDir::isAbsolutePath(path))
         return path;
     return QFileInfo(m_prjDir).dir().relativeFilePath(path);

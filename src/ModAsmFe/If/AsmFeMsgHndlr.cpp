@@ -8,7 +8,7 @@ namespace nsModAsmFe {
 
 namespace {
 
-/// Fills %1 to %3 in one go, so that a percent sign inside an argument stays what it is.
+/// Fills %1 to %3 in one go, so that a percent sign inside an argument is not taken for a place.
 QString filled(const QString& text, const QString& arg1, const QString& arg2, const QString& arg3)
 {
     const QString* const args[] = {&arg1, &arg2, &arg3};

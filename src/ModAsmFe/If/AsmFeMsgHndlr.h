@@ -12,7 +12,7 @@ namespace nsModAsmFe {
 
 class AsmFeFileHndlr;
 
-/// The one place where assembler messages get their words, their help link and their link into the sources.
+/// Gives all assembler messages their text, their help link and their link into the sources.
 class AsmFeMsgHndlr : public QObject, public ModMsgPluginIf
 {
     Q_OBJECT

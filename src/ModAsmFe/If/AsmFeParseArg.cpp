@@ -40,7 +40,7 @@ bool someOf(const QString& text, int from, Test test)
     return from < text.size() && allOf(text, from, test);
 }
 
-int behindSigns(const QString& text)
+int afterSigns(const QString& text)
 {
     int pos = 0;
     while (pos < text.size() && (text.at(pos) == '+' || text.at(pos) == '-'))
@@ -65,7 +65,7 @@ AsmFeParseArg::AsmFeParseArg(AsmFeMsgHndlr* msgHndlr, QObject* parent) : QObject
 
 bool AsmFeParseArg::isNumeric(const QString& text)
 {
-    const int pos = behindSigns(text);
+    const int pos = afterSigns(text);
     if (pos == text.size())
         return false;
     if (isDec(text.at(pos))) {
@@ -80,12 +80,12 @@ bool AsmFeParseArg::isNumeric(const QString& text)
 
 int AsmFeParseArg::toNumeric(const QString& text) const
 {
-    const int pos = behindSigns(text);
+    const int pos = afterSigns(text);
     if (hasPrefix(text, pos, 'x', 'X') && allOf(text, pos + 2, isHex))
         return text.toInt(nullptr, 16);
     if (allOf(text, pos, isDec))
         return text.toInt(nullptr, 10);
-    // The first character goes, whatever it is: a sign before the mark is lost and the mark stays, which gives 0.
+    // The first character is removed even if it is a sign: then the backslash remains in the text, and the result is 0.
     if (pos < text.size() && text.at(pos) == '\\' && allOf(text, pos + 1, isDec))
         return text.mid(1).toInt(nullptr, 8);
     if (isBinaryMark(text, pos) && allOf(text, pos + 1, isBin))
@@ -123,10 +123,10 @@ bool AsmFeParseArg::extractRangeFromNumeric(const QString& range, unsigned int* 
         QString highText = range.left(colon);
         while (!highText.isEmpty() && highText.at(highText.size() - 1).isSpace())
             highText.chop(1);
-        int behind = colon + 1;
-        while (behind < range.size() && range.at(behind).isSpace())
-            ++behind;
-        const QString lowText = range.mid(behind);
+        int after = colon + 1;
+        while (after < range.size() && range.at(after).isSpace())
+            ++after;
+        const QString lowText = range.mid(after);
         if (!isNumeric(highText) || !isNumeric(lowText))
             return false;
         high = toNumeric(highText);

@@ -18,8 +18,8 @@ class SetList;
 
 /// The assembled program and the assembler's settings. Served by nsModAsmFe::ModAsmFe.
 ///
-/// The lists belong to the server. Their elements live until the next run starts: nobody keeps a pointer to one over a run, and
-/// nobody reads them while isAssembled() is false.
+/// The lists belong to the server. Their elements live until the next run starts: clients must not keep a pointer to
+/// one beyond that, and must not read them while isAssembled() is false.
 class ModAsmFeHookIf
 {
 public:

@@ -10,7 +10,7 @@
 
 namespace nsModAsmFe {
 
-/// One kind of block: the token that stands for it, without its index and closing brace, and who delivers it.
+/// One kind of block: its token, without index and closing brace, and the function that returns the block.
 struct TargetFileWriteHdl::sBlock_t
 {
     const char* prefix;
@@ -67,7 +67,7 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
         return fail(errTargetNoOutputFile, hdl.language, dev->devName);
     if (!checkSize(dev))
         return false;
-    // The template is read before the output is touched; and an output that is the template would destroy it.
+    // Reads the template before it opens the output, and refuses an output file that is the template.
     QByteArray text;
     if (!fillTemplate(hdl, *metaTags, &text))
         return fail(errTargetOpenTemplate, hdl.templateFile);

@@ -10,8 +10,9 @@ struct MetaTags;
 
 /// Fills an HDL template with a device's contents. VHDL and Verilog differ in nothing but words and in the fields of the device.
 ///
-/// A template starts behind the line with "{BEGIN TEMPLATE}". Its text passes through byte for byte, but for placeholders: each
-/// line can have one of each kind of block, and one text about the project. The template must reach every cell of the device.
+/// A template starts after the line with "{BEGIN TEMPLATE}". Its text is copied byte for byte, except for placeholders:
+/// each line can have one of each kind of block, and one text about the project. The template must use every cell of
+/// the device.
 class TargetFileWriteHdl : public TargetMapper
 {
     Q_OBJECT
@@ -34,8 +35,8 @@ protected:
 
     virtual sTarget_t target(const IODev* dev) const = 0;
 
-    // One block of 256 bits as 64 hexadecimal digits, the highest address first. The index counts blocks. Both languages take the
-    // same digits; the names come from the first of them.
+    // One block of 256 bits as 64 hexadecimal digits, the highest address first. The index counts blocks. Both
+    // languages use the same digits; the functions are named after VHDL.
     QByteArray getVhdlInit(qint64 index);   ///< bits 15:0 of 16 words
     QByteArray getVhdlInitP(qint64 index);  ///< bits 17:16 of 128 words
     QByteArray getVhdlInitL(qint64 index);  ///< bits 7:0 of 32 words
@@ -45,7 +46,7 @@ protected:
 
     /// A cell's value, which marks the cell as written to the file; the initial value outside of the device.
     unsigned int getOpcode(int addr);
-    /// The template is larger than the device; said once a file.
+    /// Warns that the template is larger than the device, once a file.
     void signWarningStuffingMemory();
 
 private:

@@ -12,7 +12,8 @@ namespace nsModAsmFe {
 
 namespace {
 
-/// Opens a file for writing. A pipe takes text only while somebody reads it: without a reader, writing would never end.
+/// Opens a file for writing. A pipe is opened only if another process reads it: without a reader, writing would block
+/// forever.
 bool openOutput(QFile* output)
 {
     const QByteArray path = QFile::encodeName(output->fileName());
@@ -57,7 +58,7 @@ bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, eMsg
     if (!openOutput(&output))
         return fail(openError, file);
     output.resize(0);
-    // A full disk may show itself as late as at closing.
+    // A full disk may be reported as late as when the file is closed.
     const bool written = output.write(bytes) == bytes.size() && output.flush();
     output.close();
     return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, output.errorString());

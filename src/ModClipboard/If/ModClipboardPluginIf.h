@@ -2,7 +2,7 @@
 
 #include "ModClipboardHookIf.h"
 
-/// A client with pages that know the clipboard.
+/// A client with pages that support the clipboard.
 class ModClipboardPluginIf
 {
 public:

@@ -4,7 +4,7 @@ namespace nsModConfig {
 
 class ModConfigPagePluginIf;
 
-/// What a settings page can ask of the dialog that it stands in.
+/// What a settings page can request from its dialog.
 class ModConfigPageHookIf
 {
 public:

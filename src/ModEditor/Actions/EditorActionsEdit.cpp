@@ -38,7 +38,7 @@ QAction* EditorActionsEdit::add(eAction_t action, const QString& text, const QSt
     entry->setStatusTip(toolTip);
     entry->setData(int(action));
     entry->setShortcuts(keys);
-    // Elsewhere these keys are those of fields and lists.
+    // In other widgets these keys have other functions.
     entry->setShortcutContext(Qt::WidgetWithChildrenShortcut);
     return entry;
 }
@@ -74,7 +74,7 @@ QList<QAction*> EditorActionsEdit::toolBarActions() const
 
 void EditorActionsEdit::handleAction(QAction* action)
 {
-    // A separator stands for nothing.
+    // A separator has no function.
     if (action->data().isValid())
         emit triggered(eAction_t(action->data().toInt()));
 }

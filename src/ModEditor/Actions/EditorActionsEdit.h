@@ -8,7 +8,8 @@ namespace nsModEditor {
 
 /// What can be done with the text of the current document, in menu and tool bar.
 ///
-/// The keys belong to the widgets that carry the actions, and to their children: the menu alone makes none of them work.
+/// The shortcuts work in the widgets that have the actions, and in their children; an action that is only in the menu
+/// has no working shortcut.
 class EditorActionsEdit : public QActionGroup
 {
     Q_OBJECT

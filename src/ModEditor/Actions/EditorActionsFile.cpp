@@ -72,7 +72,7 @@ QList<QAction*> EditorActionsFile::toolBarActions() const
 
 void EditorActionsFile::handleAction(QAction* action)
 {
-    // A separator stands for nothing.
+    // A separator has no function.
     if (action->data().isValid())
         emit triggered(eAction_t(action->data().toInt()));
 }

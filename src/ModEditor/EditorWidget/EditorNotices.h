@@ -22,7 +22,7 @@ public:
     bool focusFirst();
 
 signals:
-    /// A bar has come, gone or changed.
+    /// A bar was added, removed or changed.
     void changed();
 
 protected:

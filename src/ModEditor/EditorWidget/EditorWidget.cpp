@@ -34,7 +34,7 @@ QString leadingBlanks(const QString& text)
     return text.left(length);
 }
 
-/// A letter with Alt is a key for the window and no text. With Ctrl as well it is the right Alt key of some keyboards.
+/// A letter with Alt is a shortcut of the window and not text. Ctrl with Alt is the right Alt key of some keyboards.
 bool isTextWithAlt(const QKeyEvent* event)
 {
     const QString text = event->text();
@@ -42,7 +42,7 @@ bool isTextWithAlt(const QKeyEvent* event)
            text.at(0).isPrint();
 }
 
-/// The files of this machine that are dragged; empty where it is anything else.
+/// The dragged local files; empty if anything else is dragged.
 QStringList draggedFiles(const QMimeData* data)
 {
     QStringList paths;
@@ -54,7 +54,7 @@ QStringList draggedFiles(const QMimeData* data)
     return paths;
 }
 
-/// Takes the drag of files. They are read and stay where they are, whatever was proposed.
+/// Takes the drag of files. The files are opened and not moved, whatever action was proposed.
 void acceptAsCopy(QDropEvent* event)
 {
     event->setDropAction(Qt::CopyAction);
@@ -81,7 +81,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     connect(m_textDocument, SIGNAL(undoAvailable(bool)), this, SLOT(setActionChanged()));
     connect(m_textDocument, SIGNAL(redoAvailable(bool)), this, SLOT(setActionChanged()));
     connect(m_textDocument, SIGNAL(contentsChanged()), this, SLOT(setModified()));
-    // Undo keys reach the text edit without undo() of this class.
+    // The keys for undo call the text edit directly, not undo() of this class.
     connect(m_textDocument, SIGNAL(modificationChanged(bool)), this, SLOT(setModified()));
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(setMemPageAddrInvalid(int)));
     initLeftMargin();
@@ -94,7 +94,7 @@ EditorWidget::~EditorWidget()
     // The shared dialog may have this document for its parent.
     if (m_tipManager != nullptr && m_tipManager->parent() == this)
         m_tipManager->setParent(nullptr);
-    // What the base class does at its end is no matter for the slots.
+    // The slots must not be called while the base class is being destroyed.
     m_textDocument->disconnect(this);
     disconnect(this);
 }
@@ -172,7 +172,7 @@ void EditorWidget::setText(const QString& text)
     m_textDocument->clearUndoRedoStacks();
     m_textDocument->setModified(false);
     moveCursor(QTextCursor::Start);
-    // The flag stays on its number, as the marks do.
+    // The flag keeps its line number, like the marks.
     const QTextBlock flagged = m_textDocument->findBlockByNumber(flaggedLine);
     m_lineHighlightEn = m_lineHighlightEn && flagged.isValid();
     if (m_lineHighlightEn)
@@ -180,7 +180,7 @@ void EditorWidget::setText(const QString& text)
     setHighlightLinesToEditor();
     setUpdatesEnabled(true);
     m_settingText = false;
-    m_modifiedTold = false;
+    m_reportedModified = false;
     emit modifiedChanged(this);
 }
 
@@ -203,9 +203,9 @@ void EditorWidget::clearModified()
 
 void EditorWidget::setModified()
 {
-    if (m_settingText || m_modifiedTold == isModified())
+    if (m_settingText || m_reportedModified == isModified())
         return;
-    m_modifiedTold = isModified();
+    m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
 
@@ -227,14 +227,14 @@ bool EditorWidget::isRedoAvailable() const
 void EditorWidget::undo()
 {
     QPlainTextEdit::undo();
-    m_modifiedTold = isModified();
+    m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
 
 void EditorWidget::redo()
 {
     QPlainTextEdit::redo();
-    m_modifiedTold = isModified();
+    m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
 
@@ -364,7 +364,7 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
         QPlainTextEdit::wheelEvent(event);
         return;
     }
-    // From the size that is shown, so that turns against a bound do not add up.
+    // Starts at the displayed size, so that turning the wheel at a limit has no delayed effect.
     m_zoom = m_fontSize + (delta > 0 ? 1 : -1) - m_baseFontSize;
     applyFont(font());
     event->accept();
@@ -386,7 +386,7 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         insertAutoReturnIndent(event);
         break;
     case Qt::Key_Insert:
-        // With a modifier it is a key of the clipboard.
+        // With a modifier, Insert is a clipboard key.
         if (modifiers & ~Qt::KeypadModifier) {
             QPlainTextEdit::keyPressEvent(event);
             break;
@@ -408,8 +408,8 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
     }
 }
 
-/// The text edit's own way with a key. With Shift it would separate lines by a character that the file has as a line,
-/// while for the document, its line numbers and marks it is none.
+/// Passes a key to the text edit. With Shift it would insert a line separator: in the file this character ends a line,
+/// but in the document, its line numbers and marks it does not.
 void EditorWidget::insertLineBreak(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::InsertLineSeparator)) {
@@ -428,7 +428,7 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
     const QString blanks = leadingBlanks(before.block().text().left(before.positionInBlock()));
     insertLineBreak(event);
     QTextCursor cursor = textCursor();
-    // With some modifiers the key breaks no line.
+    // With some modifiers the key inserts no line break.
     if (!m_autoReturnIndentEn || blanks.isEmpty() || !cursor.atBlockStart())
         return;
     cursor.joinPreviousEditBlock();

@@ -72,24 +72,26 @@ public:
     /// Inserts at the cursor, in place of the selection if there is one.
     void insertText(const QString& text);
     /// What is to be printed, in the font of the settings.
-    /// @param name what the pages call the document
-    /// @param selectionOnly the selected text and no other, if there is some
+    /// @param name name of the document on the pages
+    /// @param selectionOnly print the selected text only, if there is some
     sPrintJob printJob(const QString& name, bool selectionOnly) const;
     /// Brings the formats of all lines up to date with the rules.
     void rehighlight();
 
     // ---- File (EditorWidgetFile.cpp)
-    /// How the text will stand in its file. Another format than that on the disk is a modification.
+    /// The format in which the text will be written. If it differs from the format of the file, the document is
+    /// modified.
     const DocumentFormat& format() const { return m_format; }
     void setFormat(const DocumentFormat& format);
     /// The format that the file has now.
     void setFormatOnDisk(const DocumentFormat& format);
     /// For a document that can not be shown as it is: the text can be read and copied, and no command changes it.
     void setLocked(bool locked);
-    /// Takes over a text that was changed elsewhere, as one step to undo of the part that differs: the cursor stays in its
-    /// text, the view on its lines, marks on their numbers.
+    /// Takes over a text that was changed elsewhere, as one step to undo of the part that differs: the cursor keeps its
+    /// text, the view its lines, marks their numbers.
     void changeText(const QString& text);
-    /// Shows a bar at the upper edge, below those that stand there. The document owns it; F6 leads there and back.
+    /// Shows a bar at the upper edge, below the present ones. The document owns it; F6 moves the focus to the bars and
+    /// back.
     void addNotice(MyNoticeBar* bar);
 
     // ---- Look and behaviour (EditorWidget.cpp)
@@ -97,7 +99,7 @@ public:
     void setFont(const QFont& font);
     /// Points, from EditorConfig::minFontSize to EditorConfig::maxFontSize; the wheel with Ctrl changes it.
     int fontSize() const { return m_fontSize; }
-    /// Back to the size of the font that was set.
+    /// Resets the zoom.
     void resetZoom();
     /// @param indent width of a tab in characters
     void setTabIndent(int indent);
@@ -130,7 +132,7 @@ public:
     // ---- Places (EditorWidgetPlaces.cpp)
     void setCursorToLine(int line);
     /// Selects the text where the document has it exactly once; goes to the line otherwise. A name with a colon is a
-    /// label: it is found at the start of a line, of several the one nearest to the line.
+    /// label: it is found at the start of a line; if there are several, the one nearest to the line.
     void setCursorToLine(const QString& text, int line);
     int cursorLine() const;
     /// Position in characters from the start of the document.
@@ -138,7 +140,7 @@ public:
     void setCursorPos(int pos);
     /// Flags the line and goes to it. A document has no more than one flagged line.
     void setLineHighlighted(int line);
-    /// Flags a line without a move to it: cursor and view stay.
+    /// Flags a line without going to it: cursor and view stay.
     void markLine(int line);
     void clearLineHighlighted();
     /// @return whether the text was found; it is selected then
@@ -159,7 +161,7 @@ public:
     void clearSimBreakpoints();
     /// Moves the simulator's start mark of all documents to the line; a second call for the line clears it.
     void setSimStartPointer(int line);
-    /// @return false without a mark; *line is left alone then
+    /// @return false without a mark; *line is then unchanged
     bool simStartPointer(int* line) const;
     void clearSimStartPointer();
     QList<int> bookmarks() const { return m_bookmarks.lines(); }
@@ -173,7 +175,7 @@ public:
     void setMemPageAddrBase(int base);
     /// @param addr the largest address that the column has room for
     void setMemPageMaxAddr(int addr);
-    /// Takes the document's addresses from the map. Not owned: whoever deletes it sets another one, or null, before.
+    /// Takes the document's addresses from the map. Not owned: before it is deleted, another one or null must be set.
     void setMemPageAddrMap(EditorMemPageAddrMap* map);
     void setLeftMarginBgColor(const QColor& color);
     void setLeftMarginFgColor(const QColor& color);
@@ -194,7 +196,7 @@ public:
 public slots:
     void undo();
     void redo();
-    /// The text has changed: tells others when this changes whether there is something to save.
+    /// The text has changed: emits modifiedChanged() if isModified() has changed.
     void setModified();
 
 signals:
@@ -263,7 +265,7 @@ private:
     void addMarginMenuEntries(QMenu* menu, int line);
     void runLeftMarginContextMenu(int line, const QPoint& globalPos);
 
-    const int m_marginSpace = 2; ///< air in all formulas of the margin, in pixels
+    const int m_marginSpace = 2; ///< space between the columns of the margin, in pixels
 
     QTextDocument* m_textDocument;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
@@ -280,12 +282,12 @@ private:
     int m_tabIndent = 4;
     int m_baseFontSize = 0; ///< points, of the font that was set
     int m_zoom = 0;         ///< points that the user has added
-    int m_fontSize = 0;     ///< points, what comes of both
+    int m_fontSize = 0;     ///< points, the sum of both
     bool m_autoReturnIndentEn = false;
     bool m_textCompletionEn = false;
     int m_textCompleterPrefixLength = 3;
 
-    bool m_modifiedTold = false; ///< what others know of isModified()
+    bool m_reportedModified = false; ///< value of isModified() that was reported last
     bool m_settingText = false;
 
     QTextEdit::ExtraSelection m_highlightSelection;
@@ -294,7 +296,7 @@ private:
     bool m_lineHighlightEn = false;
     bool m_selectionHighlightEn = false;
     QString m_markedText;       ///< what is marked wherever it occurs, empty for nothing
-    QTimer* m_rehighlightTimer; ///< marks of a selection in the lines of a large document that are not on the screen
+    QTimer* m_rehighlightTimer; ///< delays marks of a selection in invisible lines of a large document
 
     bool m_lineNumberEn = true;
     bool m_memPageAddrEn = false;

@@ -1,4 +1,4 @@
-// The document and its file: format, a text that was changed outside, what is reported at the upper edge.
+// The document and its file: format, a text that was changed outside, bars at the upper edge.
 
 #include "EditorWidget.h"
 
@@ -14,7 +14,7 @@ namespace nsModEditor {
 
 namespace {
 
-/// The part of a text that another text has in place of it, as positions in characters.
+/// The range in which two texts differ, as positions in characters.
 struct sChange_t
 {
     int begin = 0;
@@ -73,7 +73,7 @@ void EditorWidget::changeText(const QString& text)
     const QTextBlock top = firstVisibleBlock();
     const int topBegin = top.position();
     const int topLine = top.blockNumber();
-    // What lies behind the change moves with its text, what lies in it stays on line and column.
+    // A position after the change moves with its text, a position in it keeps line and column.
     const auto placeOf = [this](int at) {
         const QTextBlock block = m_textDocument->findBlock(at);
         return QPoint(at - block.position(), block.blockNumber());
@@ -123,7 +123,7 @@ void EditorWidget::addNotice(MyNoticeBar* bar)
     layoutNotices();
 }
 
-/// The keyboard goes from the text to the bars, and back again.
+/// Moves the focus from the text to the bars, and back.
 void EditorWidget::switchToNotices()
 {
     if (m_notices->isAncestorOf(QApplication::focusWidget()) || !m_notices->focusFirst())

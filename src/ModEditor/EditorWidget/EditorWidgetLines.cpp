@@ -140,7 +140,7 @@ QTextBlock EditorWidget::firstSelectedBlock() const
     return m_textDocument->findBlock(textCursor().selectionStart());
 }
 
-/// A line whose start is the end of the selection is not touched by it.
+/// A line at whose start the selection ends does not belong to it.
 QTextBlock EditorWidget::lastSelectedBlock() const
 {
     const QTextCursor cursor = textCursor();
@@ -170,7 +170,8 @@ void EditorWidget::moveLineDown()
     ensureCursorVisible();
 }
 
-/// Moves the first line behind the others, or with up false the last one before them. The selection goes with its text.
+/// Moves the first line after the others or, if up is false, the last one before them. The selection moves with its
+/// text.
 void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up)
 {
     const QTextCursor selection = textCursor();

@@ -86,7 +86,8 @@ void EditorWidget::updateLeftMarginWidth()
 
 void EditorWidget::updateLeftMargin(const QRect& rect, int)
 {
-    // After a scroll this is all. Moved pixels would blur where a pixel of the screen is no whole part of one of ours.
+    // After a scroll, the whole margin is painted: moving its pixels would blur them at a fractional scale of the
+    // screen.
     m_leftMargin->update(0, rect.y(), m_leftMargin->width(), rect.height());
     if (rect.contains(viewport()->rect()))
         updateLeftMarginWidth();
@@ -181,7 +182,7 @@ void EditorWidget::leftMarginPaintEvent(QPaintEvent* event)
     QPainter painter(m_leftMargin);
     const QRect area = event->rect();
     painter.fillRect(area, m_leftMarginBgColor);
-    // Filled and not drawn, so that the lines are sharp at any scale of the screen.
+    // Filled rectangles instead of lines, which stay sharp at any scale of the screen.
     if (m_memPageAddrEn)
         painter.fillRect(QRect(symbolMarginWidth(), area.top(), 1, area.height()), m_leftMarginFgColor);
     if (m_lineNumberEn)
@@ -191,7 +192,7 @@ void EditorWidget::leftMarginPaintEvent(QPaintEvent* event)
     QTextBlock block = firstVisibleBlock();
     qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
     const int symbolHeight = qRound(blockBoundingRect(block).height());
-    // The list runs along with the lines. An entry that lies before them hides all behind it.
+    // List and lines are read in parallel. An entry that is out of order hides the entries after it.
     const EditorMemPageAddrMap::sItem_t* entry = m_memPageAddrEn ? m_memPageAddrList : nullptr;
     for (; block.isValid() && top <= area.bottom(); block = block.next()) {
         const qreal bottom = top + blockBoundingRect(block).height();

@@ -13,8 +13,8 @@ namespace nsModEditor {
 
 namespace {
 
-/// Lines from which on what is not on the screen is marked a little later, so that a selection can grow without a
-/// delay.
+/// In documents with this many lines, lines that are not visible are marked after a delay, so that extending a
+/// selection stays fast.
 const int manyLines = 2000;
 const int rehighlightDelay = 100; ///< milliseconds
 
@@ -55,7 +55,7 @@ void EditorWidget::setCursorToLine(int line)
     QTextCursor cursor = textCursor();
     line = qBound(0, line, blockCount());
     const int current = cursor.blockNumber();
-    // Upwards by what is a line on the screen, so that wrapped lines count for more than one.
+    // Upwards it moves by lines on the screen, so a wrapped line counts as more than one.
     if (line >= current)
         cursor.movePosition(QTextCursor::NextBlock, QTextCursor::MoveAnchor, line - current);
     else
@@ -75,7 +75,7 @@ void EditorWidget::setCursorToLine(const QString& text, int line)
         centerCursor();
         return;
     }
-    // From the start, so that only whole lines count.
+    // From the start, the cursor moves downwards only, where a wrapped line counts as one.
     moveCursor(QTextCursor::Start);
     setCursorToLine(line);
 }
@@ -119,7 +119,7 @@ void EditorWidget::setCursorPos(int pos)
 
 void EditorWidget::setLineHighlighted(int line)
 {
-    // By the number of the line: rows of wrapped lines above it do not count.
+    // Uses the number of the line, so that the rows of wrapped lines above it do not count.
     const QTextBlock block = m_textDocument->findBlockByNumber(qBound(0, line, blockCount() - 1));
     setCursorPos(block.position());
     m_highlightSelection.cursor = QTextCursor(block);
@@ -258,7 +258,7 @@ bool EditorWidget::replaceAll(const QString& text, const QString& replacement, b
     QTextCursor step(m_textDocument);
     QTextCursor last;
     step.beginEditBlock();
-    // The search goes on behind what was inserted, so that a replacement which holds the text ends, too.
+    // The search continues after the inserted text, so that it also ends if the replacement contains the searched text.
     for (QTextCursor hit = m_textDocument->find(text, 0, flags); !hit.isNull();
          hit = m_textDocument->find(text, hit, flags)) {
         hit.insertText(replacement);

@@ -5,7 +5,7 @@
 
 namespace nsModEditor {
 
-/// Marked lines of a document: in the order in which they were set, and with a quick answer for one line.
+/// Marked lines of a document: in the order in which they were set, with a fast look-up of one line.
 ///
 /// The marks are plain numbers, counted from 0: they stay where they are when the text moves.
 class LineMarks

@@ -15,7 +15,7 @@ namespace nsModEditor {
 
 namespace {
 
-const int leastRows = 3; ///< that a page has room for, however small it is
+const int leastRows = 3; ///< rows of a page, however small it is
 
 QString tr(const char* text)
 {
@@ -34,7 +34,7 @@ PrintedPages::PrintedPages(const sPrintJob& job, QPaintDevice* device, const QRe
     const int lastLine = m_job.document->findBlock(m_job.end).blockNumber() + 1;
     const qreal digit = metrics.horizontalAdvance('9');
     m_numberWidth = QString::number(lastLine).size() * digit;
-    // Head and foot take a row each, and one more keeps them apart from the text.
+    // Header and footer take one row each, and another one as distance to the text.
     m_textArea = m_area.adjusted(m_numberWidth + 2 * digit, 2 * m_rowHeight, 0, -2 * m_rowHeight);
     m_textArea.setWidth(qMax(m_textArea.width(), digit));
     m_textArea.setHeight(qMax(m_textArea.height(), leastRows * m_rowHeight));
@@ -78,7 +78,7 @@ QVector<PrintedPages::sStart> PrintedPages::walk(int first, int last, const RowV
     qreal top = m_textArea.top();
     QTextBlock block = m_job.document->findBlockByNumber(starts.first().block);
     for (; block.isValid() && block.position() <= m_job.end; block = block.next()) {
-        // A line at whose start the stretch ends is no part of it.
+        // A line at whose start the range ends does not belong to it.
         if (block.position() == m_job.end && m_job.start < m_job.end && block.length() > 1)
             break;
         QTextLayout layout(QString(), m_job.font, m_device);
@@ -130,7 +130,7 @@ void PrintedPages::paintHeadAndFoot(QPainter* painter, int page) const
     const QString time = headTime();
     const QRectF head(m_area.left(), m_area.top(), m_area.width(), m_rowHeight);
     const qreal nameWidth = head.width() - metrics.horizontalAdvance(time + "  ");
-    // The end of a path says more than its start.
+    // The end of a path is more significant than its start.
     painter->drawText(head, Qt::AlignLeft | Qt::AlignTop,
                       metrics.elidedText(headName(), Qt::ElideLeft, qMax<qreal>(nameWidth, 0)));
     painter->drawText(head, Qt::AlignRight | Qt::AlignTop, time);

@@ -29,12 +29,12 @@ struct sPrintJob
     int end = 0;        ///< the position after the last one
 };
 
-/// A document, or a stretch of it, on pages: lines with their numbers in the document, too long ones in several rows,
-/// below a head with file name and date and above a foot with the number of the page.
+/// A document, or a part of it, on pages: lines with their numbers in the document, long ones in several rows, with a
+/// header of file name and date and a footer with the page number.
 class PrintedPages
 {
 public:
-    /// A row of text on a page, for whoever looks at what is printed.
+    /// A row of text on a page, for inspection of the printed pages.
     struct sRow
     {
         int page = 0;   ///< counted from 0
@@ -44,7 +44,7 @@ public:
     };
 
     /// @param device what the pages are painted on; it gives the resolution
-    /// @param area what can be painted on of a page, in pixels of the device
+    /// @param area printable area of a page, in pixels of the device
     PrintedPages(const sPrintJob& job, QPaintDevice* device, const QRectF& area);
 
     int count() const { return m_starts.size(); }
@@ -60,7 +60,7 @@ public:
     static bool print(const sPrintJob& job, QPrinter* printer);
 
 private:
-    /// Hears of each row: page, height on it, number of the line or 0, the line's layout and the row's index in that.
+    /// Called for each row: page, height on it, number of the line or 0, the line's layout and the row's index in that.
     using RowVisitor = std::function<void(int page, qreal top, int number, const QTextLayout& layout, int index)>;
 
     /// Where a page begins.

@@ -45,7 +45,8 @@ void EditorSyntaxHighlighter::setSelection(const QString& text)
     if (text.isEmpty())
         return;
     const QString pattern = "\\b" + text + "\\b";
-    // All of a large document may be selected; what spans lines is found to match nothing without compiling it.
+    // All of a large document may be selected; a selection over several lines that cannot match is detected without
+    // compiling it.
     if (HighlightPattern(pattern, Qt::CaseSensitive).neverMatches() ||
         (text.size() > longSelection && text.contains(QChar::ParagraphSeparator)))
         return;
@@ -91,17 +92,17 @@ void EditorSyntaxHighlighter::rehighlight()
         from = from < 0 ? block.position() : from;
         to = block.position() + block.length();
     }
-    // One change for all, so that the lines are laid out only when they are shown.
+    // Reports one change for all lines, so that they are laid out only when they are shown.
     if (from >= 0)
         text->markContentsDirty(from, to - from);
 }
 
-/// @return the formats of the line have changed, and its layout is to be told
+/// @return the formats of the line have changed, and its layout must be updated
 bool EditorSyntaxHighlighter::updateBlock(QTextBlock block)
 {
     QTextLayout* layout = block.layout();
     if (!layout->preeditAreaText().isEmpty()) {
-        // The text of an input method stands within the line and shifts the formats.
+        // Preedit text of an input method is part of the line and shifts the formats.
         rehighlightBlock(block);
         return false;
     }

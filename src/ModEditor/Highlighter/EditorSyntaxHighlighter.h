@@ -15,7 +15,7 @@ namespace nsModEditor {
 class EditorSyntaxHighlighterConfig;
 class HighlightPattern;
 
-/// Paints one document by the shared list of rules, and over it what is selected in its editor.
+/// Formats one document by the shared list of rules, and marks the selected text wherever it occurs.
 ///
 /// Without a configuration, or after its end, the text is plain. A change of the rules repaints the document by itself.
 class EditorSyntaxHighlighter : public QSyntaxHighlighter
@@ -35,7 +35,7 @@ public:
 
     /// Called for each line that changes; formats the line.
     void highlightBlock(const QString& text) override;
-    /// Lays the marks of the selection over the formats of the line.
+    /// Adds the marks of the selection to the formats of the line.
     void highlightSelection(const QString& text);
 
 public slots:

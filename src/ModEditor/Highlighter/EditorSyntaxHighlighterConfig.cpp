@@ -53,7 +53,7 @@ void EditorSyntaxHighlighterConfig::addKeywords(const QStringList& words, const 
         addKeyword(word, format);
 }
 
-/// The list is built rule by rule; the documents follow when it is complete.
+/// The list is built rule by rule; the documents are formatted once it is complete.
 void EditorSyntaxHighlighterConfig::announceChange()
 {
     if (m_changeAnnounced)

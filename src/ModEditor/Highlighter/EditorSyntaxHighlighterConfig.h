@@ -13,7 +13,7 @@ namespace nsModEditor {
 
 class HighlightMatcher;
 
-/// The rules by which all documents are painted: an ordered list of expressions, each with its format.
+/// The rules by which all documents are formatted: an ordered list of expressions, each with its format.
 ///
 /// A later rule wins over an earlier one on the characters that both match.
 class EditorSyntaxHighlighterConfig : public QObject
@@ -42,7 +42,7 @@ public:
     void setSelectionFormat(const QTextCharFormat& format) { m_selectionFormat = format; }
     const QTextCharFormat& selectionFormat() const { return m_selectionFormat; }
 
-    /// What the rules say about lines of text; it remembers what it has worked out until the list changes. Never null.
+    /// Applies the rules to lines of text; caches its results until the list changes. Never null.
     HighlightMatcher* matcher() const { return m_matcher.get(); }
 
 signals:

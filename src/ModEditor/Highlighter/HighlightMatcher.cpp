@@ -8,7 +8,7 @@ namespace {
 
 /// Size of a store of known lines, in characters.
 const int knownLimit = 8 << 20;
-/// What a line takes beside its characters.
+/// Memory of a cached line in addition to its characters.
 const int knownLineSize = 64;
 
 } // namespace
@@ -101,7 +101,8 @@ HighlightSpans HighlightMatcher::match(const QString& text)
         if (m_rules.at(rule).mayMatch(text, facts))
             run(rule);
     }
-    // Letters beyond ASCII may stand for ASCII letters of a word here, which the look-up does not know.
+    // Letters beyond ASCII may match ASCII letters of a word if the case is ignored, which the look-up does not
+    // support.
     if (facts.foldsToAscii) {
         for (const int rule : qAsConst(m_foldingRules))
             run(rule);
@@ -139,10 +140,10 @@ void HighlightMatcher::matchWordsAt(int start, int end, WordSearch* search)
             QStringView(text).mid(start, length).compare(words.text, words.cs) != 0)
             continue;
         if (!words.single) {
-            const int behind = start + length;
-            if ((behind < text.size() && isWordCharacter(text.at(behind))) || search->ends.value(words.rule) > start)
+            const int after = start + length;
+            if ((after < text.size() && isWordCharacter(text.at(after))) || search->ends.value(words.rule) > start)
                 continue;
-            search->ends.insert(words.rule, behind);
+            search->ends.insert(words.rule, after);
         }
         paint(words.rule, start, length);
     }

@@ -9,10 +9,11 @@
 
 namespace nsModEditor {
 
-/// Says how the rules format a line, exactly as if every rule ran over it in the order of the list, without doing so.
+/// Computes how the rules format a line. The result is the same as if every rule were applied to the line in the order
+/// of the list.
 ///
-/// Rules for whole words, most of the list, are found by one look-up a word of the line. Others run only on lines that
-/// hold what the expression demands. What a line has got is remembered by its text.
+/// Rules for whole words, most of the list, are found by one look-up a word of the line. Other rules are applied only
+/// to lines that contain what the expression needs. The result is cached by the text of the line.
 class HighlightMatcher
 {
 public:
@@ -24,7 +25,7 @@ public:
     /// The formatted parts of a line, ascending; neighbours differ in their formats. Parts with the default format are
     /// left out.
     HighlightSpans spans(const QString& text);
-    /// Lays marked ranges over spans: each gets the format at its start with the background of the selection.
+    /// Combines spans with marked ranges: each range gets the format at its start with the background of the selection.
     /// @param marks ascending, without overlap; their formats do not count
     HighlightSpans withMarks(const QString& text, const HighlightSpans& spans, const HighlightSpans& marks);
 
@@ -48,7 +49,7 @@ private:
     {
         const QString& text;
         const bool caseSensitiveOnly;
-        QHash<int, int> ends; ///< behind the last match of rules of several words, whose matches could overlap
+        QHash<int, int> ends; ///< end of the last match of rules of several words, whose matches could overlap
     };
 
     int formatIndex(const QTextCharFormat& format);
@@ -69,7 +70,7 @@ private:
 
     QVector<int> m_top; ///< scratch: last rule of each character, -1 for none
 
-    /// Lines that have been worked out; a full store becomes the old one, from which lines in use come back.
+    /// Cached lines; a full cache becomes the old one, from which lines that are still used are taken over.
     QHash<QString, HighlightSpans> m_known;
     QHash<QString, HighlightSpans> m_knownBefore;
     int m_knownSize = 0;

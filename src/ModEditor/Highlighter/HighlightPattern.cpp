@@ -16,7 +16,7 @@ bool isAsciiWord(QChar character)
     return isAscii(character.unicode()) && isWordCharacter(character);
 }
 
-/// The text of `\b` text `\b` if it stands for itself.
+/// The text between `\b` and `\b` if it has no special characters.
 QString wholeWordsOf(const QString& pattern)
 {
     const QString boundary = QStringLiteral("\\b");
@@ -30,7 +30,7 @@ QString wholeWordsOf(const QString& pattern)
     return isAsciiWord(text.at(0)) && isAsciiWord(text.at(text.size() - 1)) ? text : QString();
 }
 
-/// Walks through an expression and notes what its branches demand of a text.
+/// Parses an expression and collects what a text must contain to match each branch.
 class Analysis
 {
 public:
@@ -85,7 +85,7 @@ private:
         }
     }
 
-    /// An element of which nothing is known.
+    /// An element that the analysis does not understand.
     bool something()
     {
         bool needed = true;
@@ -101,7 +101,7 @@ private:
         // Numbers of characters and references to what has matched have a length of their own.
         if (character == QLatin1Char('x') || character.isDigit())
             return false;
-        // A word boundary does not part its neighbours.
+        // A word boundary does not end a run of literal characters.
         if (character == QLatin1Char('b') && !at('*') && !at('+') && !at('?') && !at('{'))
             return true;
         return character.isLetter() ? something() : literal(character);
@@ -182,7 +182,7 @@ private:
         while (m_pos < m_pattern.size()) {
             const QChar character = m_pattern.at(m_pos++);
             if (character == QLatin1Char('[') || character == QLatin1Char('\\')) {
-                // Parentheses inside a set are no groups; such an expression runs as it is.
+                // Parentheses inside a set are no groups; such an expression is not analysed.
                 if (character == QLatin1Char('['))
                     return false;
                 ++m_pos;

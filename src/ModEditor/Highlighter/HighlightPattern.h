@@ -29,10 +29,9 @@ struct LineFacts
     bool foldsToAscii = false;
 };
 
-/// An expression, with what a line must hold so that it can match at all.
+/// An expression, with the conditions that a line must meet so that it can match.
 ///
-/// What is found out is true of every match; where the expression is beyond the analysis, nothing is demanded of a
-/// line.
+/// The conditions hold for every match; an expression that the analysis does not support has no conditions.
 class HighlightPattern
 {
 public:
@@ -40,8 +39,8 @@ public:
     /// Without an expression to run: to look at a pattern before it is compiled.
     HighlightPattern(const QString& pattern, Qt::CaseSensitivity cs);
 
-    /// The expression is `\b` + text + `\b` where the text stands for itself and begins and ends with an ASCII letter,
-    /// digit or underscore; else an empty text.
+    /// The expression is `\b` + text + `\b` where the text has no special characters and begins and ends with an ASCII
+    /// letter, digit or underscore; else an empty text.
     const QString& wholeWords() const { return m_wholeWords; }
     /// @return no line of a document can match
     bool neverMatches() const;
@@ -62,7 +61,7 @@ public:
         }
     }
 
-    /// What one branch of the expression demands.
+    /// What a text must contain to match one branch of the expression.
     struct Demand
     {
         AsciiSet all;            ///< each of these characters
@@ -77,7 +76,7 @@ private:
     QRegExp m_regExp;
     Qt::CaseSensitivity m_cs = Qt::CaseSensitive;
     QString m_wholeWords;
-    QVector<Demand> m_branches; ///< of which one is enough; none if nothing is known
+    QVector<Demand> m_branches; ///< one of them must be met; empty if nothing is known
 };
 
 /// A character as the expressions see it at a word boundary.

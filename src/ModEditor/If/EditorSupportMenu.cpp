@@ -15,7 +15,7 @@ QStringList components(const QString& path)
     return path.split('/', Qt::SkipEmptyParts);
 }
 
-/// What a template file inserts: all behind the line of its mark.
+/// The text that a template file inserts: all lines after the line "template =".
 bool templateText(const QString& path, QString* text)
 {
     QFile file(path);

@@ -23,7 +23,7 @@ public:
     void removeEntry(QString path);
     void setEntrySortEn(QString path, bool enabled);
     void setEnabled(bool enabled);
-    /// Runs the menu at the position, with a separator and this menu behind its own entries, if there is anything to insert.
+    /// Runs the menu at the position; a separator and this menu follow its own entries, if there is anything to insert.
     void showMenu(QMenu* menu, const QPoint& pos);
     /// Adds this menu to another one, if there is anything to insert.
     void addSupportMenu(QMenu* menu);

@@ -33,7 +33,7 @@ EditorSupportMenuNode* EditorSupportMenuNode::child(const QString& childName) co
     return m_childOf.value(childName, nullptr);
 }
 
-/// What stands for the node in the menu above it; null for a node below a leaf.
+/// The action of the node in its parent menu; null for a node below a leaf.
 QAction* EditorSupportMenuNode::menuEntry() const
 {
     return menu != nullptr ? menu->menuAction() : action;
@@ -42,7 +42,7 @@ QAction* EditorSupportMenuNode::menuEntry() const
 EditorSupportMenuNode* EditorSupportMenuNode::addChild(const QString& childName, bool inner)
 {
     auto* added = new EditorSupportMenuNode(childName);
-    // What hangs below a leaf has no menu to stand in. A sub menu reports through the menu that it belongs to.
+    // A node below a leaf has no parent menu. A sub menu emits its signals through its parent menu.
     if (menu != nullptr && inner) {
         added->menu = new QMenu(childName, menu);
     } else if (menu != nullptr) {
@@ -91,7 +91,7 @@ void EditorSupportMenuNode::removeNode(QStringList path)
 
 void EditorSupportMenuNode::setSortEn(QStringList path, bool enabled)
 {
-    // Only a sub menu has something to sort, so a missing node becomes one and not a leaf.
+    // Only a sub menu can be sorted, so a missing node is created as a sub menu.
     EditorSupportMenuNode* at = this;
     for (const QString& component : path) {
         EditorSupportMenuNode* next = at->child(component);

@@ -66,8 +66,8 @@ public:
     virtual void closeOtherFiles() = 0;
     virtual void closeFile() = 0;
     virtual void printFile() = 0;
-    /// Moves the cursor to the text where the file has it exactly once, else to the line number. A name with a colon is a
-    /// label: of the lines that begin with it the nearest one is meant.
+    /// Moves the cursor to the text where the file has it exactly once, else to the line number. A name with a colon is
+    /// a label: the nearest of the lines that begin with it is used.
     virtual void setCursorToLine(QString path, QString lineRef, int line) = 0;
     virtual void setCursorToLine(QString path, int line) = 0;
     /// @param url scheme "file", the line as fragment
@@ -96,9 +96,10 @@ public:
     virtual void setTextCompletionList(QStringList& words) = 0;
     /// The insertion menu; owned by the server.
     virtual nsModEditor::EditorSupportMenu* supportMenu() = 0;
-    /// The same flag as by setLineHighlighted(), without a move to it: page, cursor, view and focus stay. A file that is not open
-    /// gets none.
+    /// Sets the same flag as setLineHighlighted() without going to the line: page, cursor, view and focus stay. Has no
+    /// effect on a file that is not open.
     virtual void markLine(QString path, int line) = 0;
-    /// Differs from what it was when simBreakpoints() may do so. Cheap enough to be asked before each simulated instruction.
+    /// Changes whenever the result of simBreakpoints() may have changed. Fast enough to be called before each simulated
+    /// instruction.
     virtual int simBreakpointsRevision() = 0;
 };

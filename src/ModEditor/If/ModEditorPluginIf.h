@@ -32,7 +32,7 @@ public:
     ModEditorHookIf* modEditorHook = nullptr;
 };
 
-/// A running simulator; the editor tells simulators by the list that they are in.
+/// A running simulator; a type of its own, so that the editor can tell simulators from other clients.
 class ModEditorPluginIfSimulator
 {
 public:

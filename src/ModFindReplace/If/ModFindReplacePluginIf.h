@@ -6,7 +6,7 @@ class ModFindReplaceHookIf;
 
 /// A client with widgets in which the user can search.
 ///
-/// `configChanged` tells that the user has changed the text or an option since the last operation: the parameters must
+/// `configChanged` is true if the user has changed the text or an option since the last operation: the parameters must
 /// be read from the hook again.
 class ModFindReplacePluginIf
 {

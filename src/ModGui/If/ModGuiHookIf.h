@@ -38,14 +38,14 @@ public:
 
     /// The application's name, followed by " - " and the text if there is one.
     virtual void setWindowTitle(QString text) = 0;
-    /// Puts the widget into the area and makes it current. The plug-in is told of close requests and of the focus.
+    /// Puts the widget into the area and makes it current. The plug-in gets close requests and changes of the focus.
     /// @param name text of the tab; areas without tabs ignore it
     virtual void addWidget(ModGuiPluginIf* plugin, eLocation_t location, QWidget* widget, QString name) = 0;
     /// Takes the widget out of its area, without a parent, and forgets its owner.
     virtual void removeWidget(QWidget* widget) = 0;
     /// Brings the widget to the front of its area and shows the area.
     virtual void setCurrentWidget(QWidget* widget) = 0;
-    /// Tab text, location eLocationTabs only. Equal texts are told apart by a number.
+    /// Tab text, location eLocationTabs only. Equal texts get a number appended.
     virtual void setWidgetName(QWidget* widget, QString name) = 0;
     virtual void setWidgetIcon(QWidget* widget, QIcon icon) = 0;
     virtual QWidget* currentWidget(eLocation_t location) = 0;

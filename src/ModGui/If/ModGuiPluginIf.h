@@ -8,7 +8,7 @@ class ModGuiPluginIf
 public:
     virtual ~ModGuiPluginIf() = default;
 
-    /// The user asks to close one of the client's widgets; who agrees calls ModGuiHookIf::removeWidget().
+    /// The user asks to close one of the client's widgets; to agree, call ModGuiHookIf::removeWidget().
     virtual void removeWidgetRequest(QWidget* widget) = 0;
     /// The current widget of an area has changed.
     /// @param plugin owner of the widget, may be null

@@ -11,7 +11,7 @@ namespace {
 const int showTime = 2500; ///< milliseconds
 const QColor messageColor(0x17, 0x30, 0x49);
 
-/// By way of an icon the picture comes in the resolution of the screen.
+/// QIcon selects the picture in the resolution of the screen.
 QPixmap splashPixmap()
 {
     const QString path = QStringLiteral(":/SplashScreen/img/splashScreen.png");
@@ -33,7 +33,7 @@ void SplashScreen::show(int x, int y, int width, int height)
 {
     move(x + (width - this->width()) / 2, y + (height - this->height()) / 2);
     QSplashScreen::show();
-    // Before the events: one of them could be the end of the program.
+    // Started before events are handled, as one of them could end the program.
     QTimer::singleShot(showTime, this, &SplashScreen::splashScreenStop);
     QCoreApplication::processEvents();
 }

@@ -12,8 +12,8 @@ class SplashScreen : public QSplashScreen
 public:
     SplashScreen();
 
-    /// Shows the picture in the middle of the rectangle, in pixels of the screen, spins the events once, and starts the
-    /// time until it goes away.
+    /// Shows the picture in the middle of the rectangle, in pixels of the screen, handles events once, and starts the
+    /// time after which the picture is closed.
     void show(int x, int y, int width, int height);
 
 private slots:

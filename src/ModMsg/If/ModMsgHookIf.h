@@ -11,8 +11,8 @@ class ModMsgPluginIfUrlHndlr;
 
 /// The one channel through which the program reports to its user. Served by nsModMsg::ModMsg.
 ///
-/// Messages can be nested in groups. A group shows the worst message inside it, and folds away when nothing went wrong.
-/// Usable from modInit() of the modules behind the server on.
+/// Messages can be nested in groups. A group shows the worst grade of its messages, and is folded if it has neither
+/// warning nor error. Usable from modInit() of the modules that follow the server in the module list.
 class ModMsgHookIf
 {
 public:
@@ -39,7 +39,7 @@ public:
     /// Opens a group inside the current one; further messages go into it.
     /// @param hlpDoc help link of the group, may be empty
     virtual void openMessageGroup(QString text, QUrl hlpDoc = QUrl()) = 0;
-    /// Ends the innermost group with the line "Done" (success) or "Failure". A surplus call does no harm.
+    /// Ends the innermost group with the line "Done" (success) or "Failure". Without an open group it does nothing.
     virtual void closeMessageGroup(bool success) = 0;
     /// @param hlpDoc help link, may be empty
     /// @param srcFile source link, may be empty

@@ -4,15 +4,15 @@
 
 namespace nsModMsg {
 
-/// Holds a message group open for one action of the user, so that what the action reports is still on the screen when it
-/// has ended: many actions let the assembler run on their way, which empties the message view unless a group is open.
+/// Keeps a message group open during one action of the user, so that its messages are still on the screen when it has
+/// ended: many actions start a run of the assembler, which clears the message view unless a group is open.
 class MsgGroup
 {
 public:
-    /// What becomes of the messages of earlier actions.
+    /// What happens to the messages of earlier actions.
     enum eEarlier_t
     {
-        eClearEarlier, ///< the view is emptied first, unless this action is part of another one that holds a group
+        eClearEarlier, ///< the view is cleared first, unless this action is part of another one that has a group open
         eKeepEarlier
     };
 
@@ -36,7 +36,7 @@ public:
     MsgGroup(const MsgGroup&) = delete;
     MsgGroup& operator=(const MsgGroup&) = delete;
 
-    /// Takes over how the action has ended; the last call counts. @return success
+    /// Stores the result of the action; the last call counts. @return success
     bool end(bool success)
     {
         m_success = success;

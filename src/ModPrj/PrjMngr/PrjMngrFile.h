@@ -6,7 +6,7 @@ class MyFileSelect;
 
 namespace nsModPrj {
 
-/// What the file dialogs for projects and the fields beside them share.
+/// What the file dialogs and path fields for projects share.
 class PrjMngrFile
 {
 public:

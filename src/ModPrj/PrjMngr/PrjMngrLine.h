@@ -4,7 +4,7 @@
 
 namespace nsModPrj {
 
-/// One line of plain text that takes the width it gets; its end is left out where it does not fit.
+/// One line of plain text that takes the width it gets; its end is elided if it does not fit.
 class PrjMngrLine : public QLabel
 {
     Q_OBJECT

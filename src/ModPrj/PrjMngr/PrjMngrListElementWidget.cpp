@@ -26,7 +26,7 @@ PrjMngrLine* makeLine(const char* name, QWidget* parent)
     return line;
 }
 
-/// A tool tip for a text out of a project file, which must not be taken for rich text.
+/// A tool tip for a text of a project file, which must not be interpreted as rich text.
 QString toolTipOf(const QString& text)
 {
     return QStringLiteral("<p>%1</p>").arg(text.left(maxToolTipLength).toHtmlEscaped());

@@ -9,7 +9,7 @@ namespace nsModPrj {
 
 class PrjMngrLine;
 
-/// One project of the collection: what it says of itself, its file, and what can be done with it.
+/// One project of the collection: title, version, comment, file, and buttons for what can be done with it.
 class PrjMngrListElementWidget : public QFrame
 {
     Q_OBJECT

@@ -92,7 +92,7 @@ void PrjMngrListWidget::removeElement(QWidget* element)
     PrjMngrListElementWidget* removed = m_elements.takeAt(index);
     m_layout->removeWidget(removed);
     removed->hide();
-    // The click on its own button led here.
+    // Deleted later, as the call comes from its own button.
     removed->deleteLater();
     updateHint();
 }

@@ -20,7 +20,7 @@ class PrjMngrListWidget : public QWidget
 public:
     explicit PrjMngrListWidget(QWidget* parent = nullptr);
 
-    /// Appends a project whose file could be read. One that is listed already is shown anew at its place.
+    /// Appends a project whose file could be read. One that is listed already is updated in its place.
     void addValid(const QString& prjFile, const QString& title, const QString& version, const QString& comment);
     /// The paths of all listed projects, from top to bottom.
     QStringList prjCollection() const;
@@ -36,7 +36,7 @@ private:
     void updateHint();
 
     QScrollArea* m_area;
-    QLabel* m_hint; ///< stands in the place of an empty list
+    QLabel* m_hint; ///< shown instead of an empty list
     QVBoxLayout* m_layout = nullptr;
     QList<PrjMngrListElementWidget*> m_elements; ///< from top to bottom
 };

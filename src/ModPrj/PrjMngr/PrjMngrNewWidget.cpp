@@ -46,7 +46,7 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     auto* titleTitle = new MyFieldTitle(tr("Project title:"), this);
     titleTitle->setBuddy(m_title);
 
-    // One below the other: beside each other the buttons would be wider than the page in a small window.
+    // One below the other: side by side the buttons would be wider than the page in a small window.
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(gap);
     buttons->addWidget(m_open);
@@ -121,7 +121,7 @@ void PrjMngrNewWidget::hndlReturn()
     else if (!m_titleValid)
         m_title->setFocus();
     else if (QFileInfo::exists(PrjMngrFile::fullPath(m_file->file())))
-        m_open->setFocus(); // a key alone does not replace a file
+        m_open->setFocus(); // so that pressing a key does not replace a file
     else
         requestOpen();
 }

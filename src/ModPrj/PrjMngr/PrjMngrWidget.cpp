@@ -39,7 +39,7 @@ PrjMngrWidget::PrjMngrWidget(QWidget* parent)
     m_tabs->setTabToolTip(0, tr("Make a new project"));
     m_tabs->setTabToolTip(1, tr("Open a project of the collection, or any other"));
 
-    // The page is there at each start and must not make the window larger than its user left it: it scrolls.
+    // The page is shown at each start and must not enlarge the window, so it scrolls.
     auto* area = new QScrollArea(this);
     auto* content = new QWidget(area);
     content->setObjectName(QStringLiteral("prjMngrContent"));

@@ -11,7 +11,8 @@ class PrjMngrListWidget;
 class PrjMngrNewWidget;
 class PrjMngrOpenWidget;
 
-/// The page of the project manager: a tab for new projects, one for existing ones. It decides nothing itself.
+/// The page of the project manager: a tab for new projects, one for existing ones. It only emits signals for what the
+/// user wants.
 class PrjMngrWidget : public QWidget
 {
     Q_OBJECT
@@ -23,7 +24,7 @@ public:
     PrjMngrOpenWidget* openWidget() const { return m_open; }
     PrjMngrListWidget* listWidget() const { return m_list; }
 
-    /// Brings a tab to the front and its first field under the keys.
+    /// Brings a tab to the front and gives its first field the focus.
     void setCurrentTab(int index);
     /// While the settings dialog is open the tabs are locked.
     void setTabsEnabled(bool enabled);
@@ -43,7 +44,7 @@ private:
     PrjMngrNewWidget* m_new;
     PrjMngrOpenWidget* m_open;
     PrjMngrListWidget* m_list;
-    QBoxLayout* m_buttons = nullptr; ///< beside each other, or in a narrow page one below the other
+    QBoxLayout* m_buttons = nullptr; ///< side by side, or in a narrow page one below the other
 };
 
 } // namespace nsModPrj

@@ -6,7 +6,7 @@ class QWidget;
 
 namespace nsModProcessor {
 
-/// What a processor's settings widget can ask of the page that it stands in.
+/// What a processor's settings widget can request from its page.
 class ProcConfigHookIf
 {
 public:

@@ -16,8 +16,9 @@ class ProcConfigPluginIf;
 
 /// A processor: one object that all other modules see only through their own plug-in interfaces.
 ///
-/// Attaching calls modInit(), registers the object everywhere and calls modInitIntermod(); detaching calls modExitIntermod(),
-/// unregisters it everywhere and calls modExit(). The object outlives this and keeps its settings.
+/// Attaching calls modInit(), registers the object everywhere and calls modInitIntermod(); detaching calls
+/// modExitIntermod(), unregisters it everywhere and calls modExit(). The object exists before and after, and keeps its
+/// settings.
 class ProcPluginIf : public ModMsgPluginIf,
                      public ModGuiPluginIf,
                      public ModEditorPluginIf,

@@ -8,7 +8,7 @@ namespace nsProc {
 
 class ProcSimIOPluginIf;
 
-/// What a simulated IO device can ask of the list that it stands in.
+/// What a simulated IO device can request from its list.
 class ProcSimIOHookIf
 {
 public:

@@ -19,6 +19,6 @@ public:
     virtual bool chkProjectMembership(QString path) = 0;
     /// A copy of the list: absolute paths, in project order.
     virtual QStringList files() = 0;
-    /// A source was written: tells all clients.
+    /// A source was written: notifies all clients.
     virtual void setFileContentChanged() = 0;
 };

@@ -8,7 +8,7 @@ class ModSourcesPluginIf
 public:
     virtual ~ModSourcesPluginIf() = default;
 
-    /// Sources were added, removed or put in another order.
+    /// Sources were added, removed or reordered.
     virtual void srcFileListChanged() = 0;
     /// A source was saved.
     virtual void srcFileContentChanged() = 0;

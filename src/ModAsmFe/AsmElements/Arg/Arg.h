@@ -29,7 +29,7 @@ public:
         label,
     };
 
-    /// Takes over another argument's value and name; the own text as written stays.
+    /// Takes over another argument's value and name, but keeps its own text as written.
     void takeValue(const Arg& other)
     {
         const QString own = dispName;
@@ -42,7 +42,7 @@ public:
     QString name;                  ///< the working text: attributes, ranges, parentheses and prefix are taken off step by step
     QString strValue;              ///< text of a string without quotes and escapes; name of a register
     QByteArray barrValue;          ///< the string in its character set
-    Opcode* labelOpcode = nullptr; ///< for a label the first instruction at or behind it; not owned
+    Opcode* labelOpcode = nullptr; ///< for a label the first instruction at or after it; not owned
     int iValue = 0;                ///< value of a numeric, number of a register or a bank
     eArgType_t type = unset;
     bool isValid = true;

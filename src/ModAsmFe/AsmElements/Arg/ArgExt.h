@@ -12,7 +12,7 @@ public:
     /// Bits of `parentheses`.
     enum eParentheses_t { parenthesesNone = 0, parenthesesOpen = 1, parenthesesClose = 2, parenthesesBoth = 3 };
 
-    QString attr;      ///< text behind the last `'`, empty if none
+    QString attr;      ///< text after the last `'`, empty if none
     QString attrUpper; ///< the same in upper case
     QString range;     ///< text between `[` and `]`, empty if none
     // A program can have millions of arguments: these are kept small.

@@ -38,9 +38,10 @@ public:
     /// All names in list order, with namespace and "::" where there is one.
     QStringList nameList() const;
 
-    /// The table that shows the list to the user, made on the first call. Whoever takes it into a window owns it from then on.
+    /// The table that shows the list to the user, created by the first call. A window that it is added to owns it from
+    /// then on.
     EquListView* listView();
-    /// Fills the table, if it was ever asked for.
+    /// Fills the table, if it has been created.
     void showToListView();
 
 private:

@@ -6,7 +6,7 @@ namespace nsModAsmFe {
 
 void EquListModel::setRows(QVector<sRow_t> rows)
 {
-    // The usual change: the same constants, some with other values.
+    // Usually the constants are the same, and some have other values.
     if (rows.size() == m_rows.size() && !rows.isEmpty()) {
         m_rows.swap(rows);
         emit dataChanged(index(0, 0), index(m_rows.size() - 1, columnCount_ - 1));
@@ -40,7 +40,7 @@ QVariant EquListModel::data(const QModelIndex& index, int role) const
         return QVariant();
     const sRow_t& row = m_rows.at(index.row());
     if (index.column() == columnName) {
-        // Long names are cut short in a narrow dock.
+        // Long names are elided in a narrow dock.
         return role == Qt::DisplayRole || role == Qt::ToolTipRole ? qualifiedName(row.nameSpace, row.name) : QVariant();
     }
     switch (role) {

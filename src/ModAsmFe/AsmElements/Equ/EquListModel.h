@@ -7,7 +7,8 @@
 
 namespace nsModAsmFe {
 
-/// The lines of the table of constants: a name with its namespace and a value, each made into text when it is looked at.
+/// The lines of the table of constants: a name with its namespace and a value, each converted to text when it is
+/// displayed.
 class EquListModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -30,7 +31,7 @@ public:
     using QAbstractTableModel::QAbstractTableModel;
 
     const QVector<sRow_t>& rows() const { return m_rows; }
-    /// Replaces all lines. A view keeps place and selection only where no line has come or gone.
+    /// Replaces all lines. A view keeps scroll position and selection only if no line was added or removed.
     void setRows(QVector<sRow_t> rows);
     void appendRow(const sRow_t& row);
 

@@ -72,7 +72,7 @@ void EquListView::endFill()
     m_filling = false;
     QVector<EquListModel::sRow_t> rows;
     rows.swap(m_gathered);
-    // Nobody is disturbed by a run that changed no constant: neither place and selection here, nor the panel in front.
+    // A run that changed no constant leaves scroll position, selection and the front panel as they are.
     if (rows == m_model->rows())
         return;
     const int place = m_tree->verticalScrollBar()->value();

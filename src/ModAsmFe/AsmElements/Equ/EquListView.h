@@ -20,14 +20,14 @@ public:
     void addItem(QString name, QString nameSpace, int value);
     void clear();
 
-    /// Between these two, addItem() only gathers: a table of ten thousand lines is shown in one go.
+    /// Between these two, addItem() only collects: a table of ten thousand lines is then shown in one step.
     void beginFill();
     void endFill();
 
     QSize sizeHint() const override;
 
 signals:
-    /// The table has new lines. A panel that says so comes to the front: a filling with the lines that are there already says nothing.
+    /// The table has new lines, which brings its panel to the front. Not emitted when the lines are the same as before.
     void contentChanged(QWidget* widget);
 
 private:

@@ -38,7 +38,7 @@ public:
     /// Null without arrays or out of bounds. Owned by the device.
     const sMetaInfo_t* metaInfo(int addr) const;
 
-    /// Makes the arrays of `memSize` cells, all with `initValue`, and starts counting anew.
+    /// Creates the arrays of `memSize` cells, all with `initValue`, and resets the counts.
     void initDevice();
     void delArrays();
 

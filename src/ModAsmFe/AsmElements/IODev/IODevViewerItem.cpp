@@ -164,7 +164,7 @@ void IODevViewerItem::setHovered(int addr)
         update(cellRect(before));
     if (addr >= 0)
         update(cellRect(addr));
-    // A hand where a double click leads somewhere.
+    // A hand cursor over cells whose source a double click opens.
     SrcReference* srcRef = nullptr;
     if (addr >= 0 && !m_dev->isInitValue(addr) && m_dev->srcRef(addr, &srcRef) && srcRef != nullptr)
         setCursor(Qt::PointingHandCursor);
@@ -182,8 +182,8 @@ void IODevViewerItem::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() != Qt::LeftButton)
         return;
-    // The editor may ask its user on the way to the line, and a run that starts then deletes this widget: not while it handles an
-    // event of the mouse.
+    // Opening the line may show a question and start a run, which deletes this widget: so it is done after this mouse
+    // event has been handled.
     const QPoint pos = event->pos();
     QTimer::singleShot(0, this, [this, pos] { emitSrcRefRequest(pos); });
 }

@@ -11,14 +11,14 @@ class IODev;
 
 /// The memory map of one IO device: a strip of cells in rows, the address of each row at its left.
 ///
-/// The widget asks the device only for the cells that it paints or that the pointer is over; a device of millions of words costs
-/// what is visible of it. The device must live as long as the widget shows it.
+/// The widget asks the device only for the cells that it paints or that the pointer is over; the cost depends on what
+/// is visible, not on the size of the device. The device must live as long as the widget shows it.
 class IODevViewerItem : public QWidget
 {
     Q_OBJECT
 
 public:
-    /// What a cell holds, and so its colour.
+    /// Kind of a cell, which decides its colour.
     enum eCellKind_t { eInitValue, ePageValue, eSharedValue };
 
     struct sConfig_t
@@ -88,7 +88,7 @@ private:
     int m_gutter = 0; ///< width of the addresses, pixels
     int m_cell = 0;   ///< edge of a cell, pixels
     int m_pitch = 0;  ///< from cell to cell
-    int m_group = 0;  ///< additional gap behind each eight cells
+    int m_group = 0;  ///< additional gap after each eight cells
     int m_hovered = -1;
 };
 

@@ -16,7 +16,7 @@ namespace nsModAsmFe {
 namespace {
 
 const int margin = 8;
-/// Tallest content, in pixels: widgets end at 2^24, and the headings of many devices need their place, too.
+/// Largest height of the maps in pixels: a widget has at most 2^24, and the headings of many devices need space, too.
 const qint64 maxMapHeight = 12000000;
 
 } // namespace
@@ -63,7 +63,7 @@ QWidget* IODevViewerList::setupLegend()
     auto* legend = new QWidget(this);
     legend->setObjectName("ioDevViewerLegend");
     legend->setAttribute(Qt::WA_StyledBackground);
-    // It does not keep the panel from being narrow.
+    // The legend must not limit how narrow the panel can be.
     legend->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_legendLayout = new QGridLayout(legend);
     QGridLayout* layout = m_legendLayout;
@@ -117,7 +117,7 @@ void IODevViewerList::resizeEvent(QResizeEvent* event)
 QString IODevViewerList::setupDevSummary(const IODev* dev)
 {
     const QString row = QStringLiteral("<tr><td>%1</td><td style=\"padding-left:12px\">%2</td></tr>");
-    // Values that a directive sets are no instructions.
+    // Values set by directives do not count as instructions.
     const int instructions = dev->instMem ? dev->valueCnt : 0;
     return QStringLiteral("<table cellspacing=\"0\" cellpadding=\"0\">") +
            row.arg(tr("Size:"), QString::number(dev->memSize)) +
@@ -138,7 +138,7 @@ void IODevViewerList::addElement(IODev* dev)
     sViewerElements_t element;
     element.nameTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Device name")), "ioDevNameTitle");
     element.name = addLabel(QString(), "ioDevName");
-    // The name comes from a source: it is never markup.
+    // The name comes from a source and must not be interpreted as markup.
     element.name->setTextFormat(Qt::PlainText);
     element.name->setToolTip(QStringLiteral("<qt>%1</qt>").arg(dev->devName.toHtmlEscaped()));
     element.summaryTitle = addLabel(QStringLiteral("<b>%1</b>").arg(tr("Device summary")), "ioDevSummaryTitle");
@@ -187,7 +187,7 @@ void IODevViewerList::clear()
 
 void IODevViewerList::dropElements()
 {
-    // At once: the devices go right after this.
+    // Deleted at once, as the devices are deleted right after this.
     for (QObject* child : QObjectList(m_content->children()))
         delete child;
     m_more = nullptr;
@@ -205,7 +205,7 @@ void IODevViewerList::build()
         m_more = addLabel(tr("%1 further devices are not shown.").arg(devices.size() - maxShownDevices), "ioDevMore");
     m_legend->setVisible(!m_elements.isEmpty());
     m_note->setVisible(m_elements.isEmpty());
-    // The place that these two leave is the place of the maps.
+    // Legend and note determine the space that is left for the maps.
     layout()->activate();
     layoutElements();
     for (QObject* child : m_content->children())
@@ -213,8 +213,8 @@ void IODevViewerList::build()
     m_scroll->verticalScrollBar()->setValue(m_scrolled);
 }
 
-/// Columns that all maps have, so that equal addresses stand below each other. More than fit if the maps would else be too tall:
-/// then there is a horizontal scroll bar.
+/// Columns that all maps have, so that equal addresses stand below each other. If the maps would become too tall, more
+/// columns than fit are used, with a horizontal scroll bar.
 int IODevViewerList::columnsThatFit(int width) const
 {
     int columns = m_elements.first().item->columnsForWidth(width);

@@ -17,8 +17,8 @@ class IODevList;
 
 /// The view "IO device map viewer": what each IO device of the program holds, as of the last run.
 ///
-/// The view reads the devices where they are. Who owns them calls clear() before they go. Nothing is built while nobody sees the
-/// view.
+/// The view reads the devices where they are. Their owner calls clear() before it deletes them. Nothing is built while
+/// the view is hidden.
 class IODevViewerList : public QWidget
 {
     Q_OBJECT
@@ -52,8 +52,8 @@ public:
 signals:
     /// A double click on a cell. @param srcRef where its value stands; belongs to the device
     void srcRefRequest(SrcReference* srcRef);
-    /// The view shows other devices than the last time. A panel that says so comes to the front, so other contents of the same
-    /// devices, as each edit of a program makes them, are no reason.
+    /// The view shows other devices than before, which brings its panel to the front. Not emitted when only the
+    /// contents of the devices have changed, as they do with each edit of a program.
     void contentChanged(QWidget* widget);
 
 protected:

@@ -8,7 +8,7 @@ namespace nsModAsmFe {
 
 class Opcode;
 
-/// One range of the instruction memory, or a piece of it where a source opens the range more than once.
+/// One range of the instruction memory, or a piece of it if the sources open the range more than once.
 class MemRange
 {
 public:

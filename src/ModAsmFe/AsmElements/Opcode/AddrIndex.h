@@ -9,8 +9,8 @@ namespace nsModAsmFe {
 
 /// Finds the first element of a list by an address, without a walk over the list.
 ///
-/// Addresses of a program are dense, so they index an array; where they are spread too widely for that, a sorted table serves.
-/// Negative addresses are not found.
+/// Addresses of a program are dense, so they index an array; if they are spread too widely for that, a sorted table is
+/// used. Negative addresses are not found.
 class AddrIndex
 {
 public:

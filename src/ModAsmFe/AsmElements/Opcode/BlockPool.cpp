@@ -12,7 +12,7 @@ BlockPool::BlockPool(size_t objectSize, size_t alignment) : m_objectSize(objectS
 
 BlockPool::~BlockPool()
 {
-    // Objects that outlive the pool, as globals could, keep their memory.
+    // Objects that outlive the pool, such as globals, keep their memory.
     if (m_count == 0)
         releaseBlocks();
 }

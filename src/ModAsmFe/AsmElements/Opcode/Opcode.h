@@ -11,8 +11,9 @@ namespace nsModAsmFe {
 
 /// One source line with an instruction.
 ///
-/// Its fields fill up within one run and never go back: text after parsing, types after the instruction check, `instWord` after
-/// the back end's first stage. Whoever writes `memRange`, `pageAddr` or `memAddr` tells the list by addressesChanged().
+/// The fields are filled in one after the other within one run: text by parsing, types by the instruction check,
+/// `instWord` by the back end's first stage. After writing `memRange`, `pageAddr` or `memAddr`, call addressesChanged()
+/// of the list.
 class alignas(64) Opcode final
 {
 public:
@@ -20,7 +21,8 @@ public:
     Opcode(const Opcode&) = delete;
     Opcode& operator=(const Opcode&) = delete;
 
-    // Instructions come by the million and are walked often: they lie in blocks, and what every walk reads stands first.
+    // There can be millions of instructions, and they are iterated often: they are allocated in blocks, and the fields
+    // that every iteration reads come first.
     static void* operator new(size_t size);
     static void operator delete(void* memory);
 

@@ -75,7 +75,7 @@ template <class Below>
 Opcode* OpcodeList::firstNotBelow(Below below) const
 {
     const auto end = m_opcodes.end();
-    // A list that was filled out of order, as only tests do it, is walked.
+    // A list that was filled out of order, which only tests do, is searched linearly.
     const auto it = m_ascending ? std::partition_point(m_opcodes.begin(), end, below)
                                 : std::find_if_not(m_opcodes.begin(), end, below);
     return it == end ? nullptr : *it;
@@ -98,7 +98,7 @@ Opcode* OpcodeList::firstOf(Hits hits) const
     return it == m_opcodes.end() ? nullptr : *it;
 }
 
-// The indexes know mapped instructions only; whoever asks for an unmapped one has to wait for a walk.
+// The indexes contain mapped instructions only; an unmapped one is found by a linear search.
 
 Opcode* OpcodeList::opcodeOfAddr(int pageAddr, int memRange) const
 {

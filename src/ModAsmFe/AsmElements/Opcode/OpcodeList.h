@@ -18,14 +18,14 @@ public:
     OpcodeList(const OpcodeList&) = delete;
     OpcodeList& operator=(const OpcodeList&) = delete;
 
-    /// Deletes all elements. Who watches the list hears of it before.
+    /// Deletes all elements. Notifies the watches of the list before.
     void clear();
     /// Takes the ownership and links the element to the last one.
     void append(Opcode* opcode);
     /// Null if the list is empty.
     Opcode* first() const;
     int count() const { return int(m_opcodes.size()); }
-    /// Walks all elements in order; faster than the chain.
+    /// Iterates over all elements in order; faster than following the `next` pointers.
     std::vector<Opcode*>::const_iterator begin() const { return m_opcodes.begin(); }
     std::vector<Opcode*>::const_iterator end() const { return m_opcodes.end(); }
     /// Dumps the list to standard output.
@@ -33,7 +33,7 @@ public:
 
     /// First opcode whose `absLineNo` is not below the argument; null if there is none.
     Opcode* nextOfLineIndex(int absLineNo) const;
-    /// First opcode of the file at this line or behind it, or the first opcode of any later file.
+    /// First opcode of the file at or after this line, or the first opcode of any later file.
     Opcode* nextOfSrcRef(int fileNo, int lineNo) const;
     /// First opcode with this address in this range.
     Opcode* opcodeOfAddr(int pageAddr, int memRange) const;
@@ -42,7 +42,7 @@ public:
     /// First opcode with this absolute address.
     Opcode* opcodeOfMemAddr(int memAddr) const;
 
-    /// Must be called by whoever has written addresses or ranges of elements: the look-ups by address depend on them.
+    /// Must be called after addresses or ranges of elements were written: the look-ups by address depend on them.
     void addressesChanged();
 
 private:

@@ -6,9 +6,10 @@ namespace nsModAsmFe {
 
 class OpcodeList;
 
-/// Tells its owner when the instructions of a list are about to be deleted, so that nobody keeps a pointer to one.
+/// Calls a function when the instructions of a list are about to be deleted, so that its owner can drop pointers to
+/// them.
 ///
-/// Either side may go first.
+/// List and watch may be deleted in any order.
 class OpcodeListWatch
 {
 public:
@@ -21,7 +22,7 @@ public:
     OpcodeListWatch(const OpcodeListWatch&) = delete;
     OpcodeListWatch& operator=(const OpcodeListWatch&) = delete;
 
-    /// Watches this list, and no other any more.
+    /// Watches this list instead of the one before.
     /// @param list null for none; not owned
     void watch(OpcodeList* list);
 

@@ -23,7 +23,7 @@ public:
     Set* next = nullptr;
     bool used = false; ///< set by the consumer of the parameter
     QString nameSpace; ///< part before the last "::", case as written
-    QString name;      ///< part behind it, case as written
+    QString name;      ///< part after it, case as written
     QString nameSpaceUpper;
     QString nameUpper;
     int valueType = valueUnset;

@@ -25,7 +25,7 @@ struct ProcCoreConfig;
 /// The assembler back end that all processors share: from typed instructions to machine words.
 ///
 /// A processor gives its instruction set as a table, its limits and its `#SET` parameters; the stages, the checks of arguments
-/// and the catalogue of messages stand here once.
+/// and the catalogue of messages are common to all.
 class ProcAsmBe : public QObject, public ModMsgPluginIf, public ModAsmFePluginIfInterMod
 {
     Q_OBJECT
@@ -42,7 +42,8 @@ public:
     /// Define for the sources, and namespace of the processor's `#SET` parameters.
     virtual QString processorDefine() const = 0;
 
-    /// Takes the `#SET` parameters, writes the machine words, and checks that code stands where the processor starts.
+    /// Takes the `#SET` parameters, writes the machine words, and checks that there is an instruction where the
+    /// processor starts.
     /// @param config the settings of this run; parameters of the sources change them. Not owned, kept until the next run.
     /// @return false after at least one reported error
     bool assembleStage1(ProcCoreConfig* config);
@@ -58,7 +59,7 @@ protected:
     /// Largest accepted scratchpad address at the start of a run: the last byte of the scratchpad.
     virtual int startScrpdMax() const;
     /// One `#SET` of the processor's namespace.
-    /// @param known false leaves the parameter to the usage check
+    /// @param known false: the usage check will report the parameter
     virtual bool setConfigFromDirective(nsModAsmFe::Set* set, bool* known);
     /// Checks of the settings after the directives.
     virtual bool checkConfigStage1() = 0;

@@ -162,7 +162,7 @@ bool ProcAsmBe::assembleConstantPort(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-/// The distance of a jump in 12 bits. One that does not fit is cut, as the assembler goes on after it.
+/// The distance of a jump in 12 bits. A distance that does not fit is reported and cut, so that the run can continue.
 int ProcAsmBe::assembleArg_labelOffsAddr(int from, int to)
 {
     const int offset = to - from;
@@ -201,7 +201,7 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
         return refuse(opcode, target);
     const int addr = target->labelOpcode->pageAddr;
     const int mask = (1 << m_layout.addrBits) - 1;
-    // The higher bits of an address have no place in the word, and the core does not know of them.
+    // The word has no room for the higher bits of an address, so the core ignores them.
     if (!m_layout.relativeFlow && (addr & ~mask) != 0)
         signMsg(warnFlowAddrTruncated, &opcode->srcRef, QString::number(addr), addr & mask);
     opcode->instWord = instr.words[always ? wordAlways : word] +

@@ -4,14 +4,15 @@
 
 namespace nsProc {
 
-/// What processors have to set. A processor gives the defaults, and leaves alone what it does not have.
+/// The settings of processors. Each processor provides its defaults, and does not use the settings that it does not
+/// have.
 struct ProcCoreConfig
 {
     int pageSize = 1024;        ///< words of an instruction memory page; also the limit of an interrupt vector
     int pageCount = 1;          ///< set by the assembler at each run
     bool sharedMemHi = true;    ///< set by the assembler at each run
     int intVectorAddr = 1023;   ///< address within a page where an interrupt enters
-    bool spare = false;         ///< copied along; nothing reads it
+    bool spare = false;         ///< copied, but not used
     int scrpdSize = 64;         ///< bytes of the scratchpad
     QString scrpdIODev;         ///< IO device with the scratchpad's initial contents; empty if none
     double clkFreq = 80000000;  ///< Hz

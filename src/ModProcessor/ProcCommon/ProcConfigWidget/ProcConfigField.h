@@ -27,12 +27,12 @@ struct sProcConfigField
     ePage_t page;
     eKind_t kind;
     const char* title; ///< label in front of the control
-    const char* unit;  ///< text behind it; empty if there is none
+    const char* unit;  ///< text after it; empty if there is none
     const char* toolTip;
     int ProcCoreConfig::*value; ///< the setting; null for the clock frequency
     double min;                 ///< in the unit that is shown, as the two below; a choice has none
     double max;
-    double start;              ///< what the control shows until settings are put in
+    double start;              ///< what the control shows until setConfig() is called
     QVector<int> choices = {}; ///< of a choice, in the order of the list
 };
 

@@ -121,7 +121,7 @@ void ProcConfigWidget::config(ProcCoreConfig* config) const
         if (field.kind == sProcConfigField::eFrequency) {
             config->clkFreq = qRound64(static_cast<ProcNumberBox*>(m_controls.at(i))->value() * hzPerMHz);
         } else if (field.kind == sProcConfigField::eChoice) {
-            // Nothing is selected where the project came with a value that is not in the list: it stays as it is.
+            // Nothing is selected if the value of the project is not in the list: then it stays unchanged.
             const QVariant data = static_cast<QComboBox*>(m_controls.at(i))->currentData();
             if (data.isValid())
                 config->*field.value = data.toInt();

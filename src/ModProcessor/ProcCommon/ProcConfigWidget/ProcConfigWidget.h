@@ -14,7 +14,7 @@ namespace nsProc {
 
 /// The settings widget that all processors share: tabs for the core and its instruction memory, filled from a table.
 ///
-/// It holds no copy of the settings: its controls are all that it has.
+/// It has no copy of the settings: the values are only in its controls.
 class ProcConfigWidget : public QWidget, public nsModProcessor::ProcConfigPluginIf
 {
     Q_OBJECT
@@ -22,7 +22,7 @@ class ProcConfigWidget : public QWidget, public nsModProcessor::ProcConfigPlugin
 public:
     /// Fills the controls.
     void setConfig(const ProcCoreConfig* config);
-    /// Takes the values of the controls; leaves alone what no control stands for.
+    /// Takes the values of the controls; does not change settings without a control.
     void config(ProcCoreConfig* config) const;
 
     // ProcConfigPluginIf

@@ -4,7 +4,7 @@
 
 namespace nsProc {
 
-/// A spin box for numbers that an int does not hold. It shows only those decimals that say something.
+/// A spin box for numbers that do not fit into an int. It omits trailing zeros of the decimals.
 class ProcNumberBox : public QDoubleSpinBox
 {
     Q_OBJECT

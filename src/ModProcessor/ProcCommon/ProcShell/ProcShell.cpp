@@ -15,8 +15,8 @@ namespace {
 
 const double maxFrequency = 10e9; ///< Hz, as on the settings page
 
-/// The frequency in Hz that a project holds as text. What is no number counts as 0, and so does "nan" or "inf", which
-/// nobody could write back as whole Hz.
+/// The frequency in Hz, which a project stores as text. A text that is not a number gives 0, and so do "nan" and "inf",
+/// which can not be stored as whole Hz.
 double frequencyOf(const QString& text)
 {
     const double frequency = text.toDouble();
@@ -31,13 +31,14 @@ ProcShell::~ProcShell() = default;
 
 void ProcShell::modInit()
 {
-    // A run that was in progress at the detachment has kept its simulator until here. It belongs to what was open then.
+    // A run that was in progress when the processor was detached has kept its simulator until now. It belongs to the
+    // project that was open then.
     removeSim();
     if (m_asmBe == nullptr) {
         m_asmBe = createAsmBe();
         m_asmBe->setParent(this);
     }
-    // A batch program has no use for actions, and could not make them.
+    // A batch program does not need actions and can not create them.
     if (m_actions == nullptr && qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr) {
         m_actions = createActionsSim();
         m_actions->setParent(this);
@@ -76,7 +77,7 @@ void ProcShell::modExit()
 {
     delete m_asmBe;
     m_asmBe = nullptr;
-    // One of the actions may be what has led here.
+    // Deleted later, as the call may come from one of the actions.
     if (m_actions != nullptr)
         m_actions->deleteLater();
     m_actions = nullptr;

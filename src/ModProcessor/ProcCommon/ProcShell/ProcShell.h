@@ -17,13 +17,14 @@ class ProcConfigWidget;
 class ProcAsmBe;
 class ProcSim;
 
-/// The shell that all processors share: the one object that the rest of the program knows of a processor.
+/// The shell that all processors share: the interface of a processor to the rest of the program.
 ///
-/// It owns the back end and the actions while the processor is attached, the simulator while that is enabled, and carries the
-/// processor's settings, which outlive attachment.
+/// It owns the back end and the actions while the processor is attached, the simulator while that is enabled, and the
+/// processor's settings, which are kept when it is detached.
 ///
 /// A simulator's command handles the user's events while it runs. So each operation here can be called in the middle of another
-/// one, and the simulator can be disabled while one of its commands is on the stack: it then lives until that has ended.
+/// one, and the simulator can be disabled while one of its commands is on the stack: it is then deleted when that
+/// command has ended.
 class ProcShell : public QObject, public nsModProcessor::ProcPluginIf
 {
     Q_OBJECT
@@ -39,7 +40,8 @@ public:
     const ProcCoreConfig* runConfig() const { return m_config; }
     /// A new simulator of this processor, which belongs to the caller. No hook of it is set.
     virtual ProcSim* createSim() = 0;
-    /// The services may be gone from now on: nothing calls them any more. The hooks stay, they are the services' own.
+    /// The services may be deleted from now on: nothing calls them any more. The hook members are not changed, as only
+    /// the services set them.
     void dropServices();
 
     // ProcPluginIf
@@ -96,7 +98,7 @@ protected:
     /// @param config the settings of the present run, a base of the derived class; not owned
     explicit ProcShell(ProcCoreConfig* config, QObject* parent = nullptr);
 
-    /// Takes the user's settings, for the next run on.
+    /// Sets the user's settings, which take effect with the next run.
     void setSettings(const ProcCoreConfig& settings);
     /// A new back end; the shell takes the ownership.
     virtual ProcAsmBe* createAsmBe() = 0;
@@ -108,8 +110,8 @@ protected:
     virtual ProcCoreConfig defaultConfig() const = 0;
     /// A new settings widget; the shell takes the ownership.
     virtual ProcConfigWidget* createConfigWidget() = 0;
-    /// A number of the settings in the project. Out of its range it is taken as the nearest number in it; what the
-    /// assembler checks with a message of its own has a range that leaves this to it.
+    /// A number of the settings in the project. A number out of its range is replaced by the nearest one in it. The
+    /// range is wide enough for numbers that the assembler itself checks and reports.
     struct sCfgNumber
     {
         QString key;
@@ -130,13 +132,14 @@ private:
     void setActionsEnabled(bool enabled);
     void setActionsEnabled(std::initializer_list<ProcActionsSim::eAction_t> actions, bool enabled);
 
-    /// The user's settings, as the project stores them. Each run starts from them: what a source sets holds for that run alone.
+    /// The user's settings, as the project stores them. Each run starts from them: what a source sets applies to that
+    /// run only.
     ProcCoreConfig m_settings;
     ProcConfigWidget* m_configWidget = nullptr; ///< null while the settings dialog is closed
     ProcCoreConfig* m_config;
     ProcAsmBe* m_asmBe = nullptr;
     QPointer<ProcActionsSim> m_actions;
-    std::shared_ptr<ProcSim> m_sim; ///< shared with those commands of it that are on the stack
+    std::shared_ptr<ProcSim> m_sim; ///< shared with its commands that are in progress
     bool m_attached = false;
     bool m_servicesGone = false;
 };

@@ -12,7 +12,7 @@ nsModProcessor::ProcConfigPluginIf* ProcShell::configWidget()
         m_configWidget = createConfigWidget();
         connect(m_configWidget, &QObject::destroyed, this, [this] { m_configWidget = nullptr; });
         connect(this, &QObject::destroyed, m_configWidget, &QObject::deleteLater);
-        // The user can turn to this processor on the page: he then sees what it has, not empty fields.
+        // The user can select this processor on the page, which must then show its settings.
         m_configWidget->setConfig(&m_settings);
     }
     return m_configWidget;
@@ -29,7 +29,7 @@ void ProcShell::configWidgetFetchConfig()
     if (m_configWidget == nullptr)
         return;
     m_configWidget->config(&m_settings);
-    // The simulator works with these without a further run of the assembler.
+    // The simulator uses the new settings without another run of the assembler.
     m_configWidget->config(m_config);
 }
 

@@ -66,7 +66,7 @@ bool ProcShell::simEnable()
 {
     if (modAsmFeHook == nullptr || modMsgHook == nullptr)
         return false;
-    // A command of the simulator may end it while its set-up still runs.
+    // The simulator may be disabled while its set-up is still in progress.
     const std::shared_ptr<ProcSim> sim(createSim());
     m_sim = sim;
     modAsmFeHook->registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(sim.get()));
@@ -104,7 +104,7 @@ void ProcShell::removeSim()
     setActionsEnabled(false);
     setActionsEnabled({Action::eActionEnable}, true);
     sim->simExit();
-    // By the simulator's own hooks: it may have stayed when the processor was detached.
+    // Uses the simulator's own hooks, as the processor may have been detached already.
     if (sim->modAsmFeHook != nullptr)
         sim->modAsmFeHook->unregisterPlugin(static_cast<ModAsmFePluginIfInterMod*>(sim.get()));
     if (sim->modMsgHook != nullptr)
@@ -147,7 +147,7 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
     showStop(action, false);
     if (m_sim != sim)
         return;
-    // A processor that was detached meanwhile could only stop its simulator.
+    // If the processor was detached during the command, its simulator is removed now.
     if (!m_attached)
         removeSim();
     else
@@ -208,7 +208,7 @@ void ProcShell::setPcFromCursor()
 
 void ProcShell::takeProgramCounter()
 {
-    // As with the cursor: there is an instruction to go on with again.
+    // As with the cursor: there is a next instruction again.
     if (sender() == m_sim.get())
         setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,
                            Action::eActionToEndOfCall, Action::eActionToCursor},

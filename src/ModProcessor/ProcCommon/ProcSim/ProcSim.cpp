@@ -89,7 +89,7 @@ void ProcSim::createWidgets()
     m_widgets->io = new ProcSimIO(m_ports);
     m_widgets->statusBar = new ProcSimStatusBar(m_clock, m_config.clkFreq);
     m_widgets->lastBottom = m_widgets->callStack.data();
-    // The waves must see that time goes back before it has passed its old place again.
+    // The waves must be updated at once: later, the clock count may have reached its old value again.
     connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);
     connect(m_widgets->io, &ProcSimIO::wavesRequested, this, &ProcSim::showWaveViewer);
     connect(m_widgets->core, &ProcSimCore::pcTyped, this, &ProcSim::setPcFromAddr);
@@ -154,7 +154,7 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
-    // The user is about to edit: what he has before him stays.
+    // The user is editing: the view must not move.
     showHighlight(false);
     return true;
 }
@@ -223,7 +223,7 @@ bool ProcSim::initIODevices()
 
 bool ProcSim::initIODevice(IODev* dev)
 {
-    // The values are a copy of the caller's: the device has no use for a change of them.
+    // A copy, as initValue() takes a pointer to values that are not const.
     std::vector<unsigned int> values = dev->values;
     if (dev->devName == m_config.scrpdIODev) {
         m_core->initScrpd(values.data(), std::min(dev->memSize, int(values.size())));

@@ -40,7 +40,7 @@ struct ProcSimClock;
 struct ProcSimWidgets;
 struct sCallStackItem_t;
 
-/// What makes one simulated processor differ from another, beside its instructions.
+/// The differences between simulated processors, except for their instructions.
 struct sProcSimTraits_t
 {
     const char* helpPage;         ///< host of the help links, such as "XPBlze3SimMessages"
@@ -54,14 +54,14 @@ struct sProcSimTraits_t
     QStringList fixedSettings;         ///< what may not change during a simulation, in the order of the checks
 };
 
-/// The simulator that all processors share: it executes the instructions that the assembler has left.
+/// The simulator that all processors share: it executes the instructions of the last assembler run.
 ///
-/// An object of a derived class exists while the user has the simulator enabled. Its state are registers, flags, call stack, ports and
-/// clock count, which live in objects of their own; the widgets in the docks show these and write what the user types into them.
-/// Where there is no main window, there are no widgets, and the simulator works all the same.
+/// An object of a derived class exists while the simulator is enabled. Its state is registers, flags, call stack, ports
+/// and clock count, which are kept in objects of their own; the widgets in the docks show these and change them when
+/// the user types. Without a main window there are no widgets; the simulator needs none.
 ///
 /// The commands that run more than one instruction are loops that handle the user's events after each of them. So anything can be
-/// called while a loop is active, and the instructions can go away: the simulator forgets them when the assembler deletes them.
+/// called while a loop is active, and the instructions can be deleted: the simulator then drops its pointers to them.
 class ProcSim : public QObject,
                 public ModMsgPluginIf,
                 public ModGuiPluginIf,
@@ -82,9 +82,9 @@ public:
     /// Takes over a new assembler result; state and devices stay. Ends a run.
     /// @return stepping is possible; false after a reported error
     bool simReload(const ProcCoreConfig* config);
-    /// Takes the widgets from the main window and deletes them. What of a command is still on the stack ends.
+    /// Takes the widgets from the main window and deletes them. A command that is still in progress ends.
     void simExit();
-    /// The services may be gone from now on: nothing calls them any more.
+    /// The services may be deleted from now on: nothing calls them any more.
     void dropServices() { m_servicesGone = true; }
 
     // Commands. Those that execute return at once while one of them is in progress.
@@ -97,13 +97,13 @@ public:
     void simStop() { m_running = 0; }
     bool isRunning() const { return m_running == 1; }
     void simNextInstruction();
-    /// One instruction; a call together with what it calls.
+    /// One instruction; a call runs until it has returned.
     void simNextLine();
     void simToEndOfCall();
     void simToCursor();
     /// @return the program counter stands on the instruction at the cursor or the first one below
     bool setPcFromCursor();
-    /// Goes to the instruction at an address of the page that the program is in, or was in last. Not during a run.
+    /// Sets the program counter to an address of the page that the program is in, or was in last. Not during a run.
     /// @return false after a report, with the program counter where it was
     bool setPcFromAddr(int addr);
     /// Sets or takes back a pending interrupt, if interrupts are enabled.
@@ -114,11 +114,11 @@ public:
     void clearBreakpoints();
 
     /// Executes one instruction, or enters the interrupt and executes the one at the vector.
-    /// @return false after a reported message; the program counter then stands where it stood
+    /// @return false after a reported message; the program counter is then unchanged
     bool simOpcode();
 
-    /// @param opcode null after the end of the program: reported
-    /// @return false after a reported error; the program counter has the value all the same
+    /// @param opcode null if there is no instruction after the last one, which is reported
+    /// @return false after a reported error; the program counter is set nevertheless
     bool setProgramCounter(nsModAsmFe::Opcode* opcode);
     /// The next instruction; null if there is none.
     nsModAsmFe::Opcode* programCounter() const { return m_pc; }
@@ -154,7 +154,7 @@ public:
     const QString& lastInternalError() const { return m_lastText; }
 
     // ModGuiPluginIf
-    /// The widgets only go with the simulator.
+    /// Does nothing: the widgets are removed together with the simulator.
     void removeWidgetRequest(QWidget* widget) override;
     void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
 
@@ -165,7 +165,7 @@ public slots:
     void updateWidgets();
 
 signals:
-    /// The user has typed an address, and the program counter stands there.
+    /// The user has typed an address, and the program counter was set to it.
     void programCounterTyped();
 
 protected:
@@ -173,7 +173,7 @@ protected:
 
     explicit ProcSim(const sProcSimTraits_t& traits, QObject* parent = nullptr);
 
-    // What a processor has to say.
+    // To be provided by a processor.
     /// The widget that shows core(); made in simInit().
     virtual ProcSimCore* createCoreWidget(const std::shared_ptr<ProcSimCoreData>& data, int pcMax) = 0;
     virtual int regCount() const { return 16; }
@@ -183,7 +183,7 @@ protected:
 
     /// Enters the instructions that all processors have.
     void setCommonHandlers();
-    /// Enters these, and what every PicoBlaze has beside them.
+    /// Enters these, and the further instructions that every PicoBlaze has.
     void setPicoBlazeHandlers();
     /// Enters an instruction of the processor.
     template <class Sim>
@@ -194,7 +194,7 @@ protected:
 
     const ProcCoreConfig& config() const { return m_config; }
 
-    // Arguments (ProcSimArgs.cpp): each reports what it can not read.
+    // Arguments: each function reports what it can not read.
     bool getValueNum(const nsModAsmFe::Arg* arg, int* value);
     bool getValueLabel(const nsModAsmFe::Arg* arg, nsModAsmFe::Opcode** target, QString* name);
     bool getValueReg(const nsModAsmFe::Arg* arg, int* value);
@@ -206,7 +206,7 @@ protected:
     void setZeroBitFromResult(int result);
     static bool isZeroResult(int result);
 
-    // Call stack. The position of an item is that of the program counter.
+    // Call stack. An item stores the position of the program counter.
     bool pushToCallstack(const QString& label);
     bool pullFromCallstack(bool restoreFlags);
 
@@ -218,7 +218,7 @@ protected:
     bool finish();
     void addClocks();
 
-    // Instructions (ProcSimInstr.cpp), each on the arguments of the program counter.
+    // Instructions: each uses the arguments of the instruction at the program counter.
     bool simOpcode_unsupported();
     bool simOpcode_load();
     bool simOpcode_add(bool withCarry);
@@ -253,20 +253,20 @@ protected:
     bool finishLogic(int result);
     bool finishSum(int result, bool withCarry);
     bool returnFromCall();
-    /// What the shift or rotation at the program counter makes of a value: 9 bits, cut by whoever stores it.
+    /// The result of the shift or rotation at the program counter: up to 9 bits, which the caller reduces to 8.
     bool shifted(int* value, int* carry);
 
     nsModAsmFe::Opcode* m_pc = nullptr; ///< not owned; null after the instructions were deleted
 
 private:
-    // Life and widgets (ProcSim.cpp).
+    // Life and widgets.
     bool initIODevices();
     bool initIODevice(nsModAsmFe::IODev* dev);
     void createWidgets();
     void addWidgets();
     void dropWidget(QWidget* widget);
     void forgetOpcodes();
-    /// The first of the settings that may not change during a simulation and has; empty if none.
+    /// The first setting that has changed although it may not change during a simulation; empty if there is none.
     QString changedSetting(const ProcCoreConfig& config) const;
     /// Brings the widgets up to date, and shows the line of the next instruction.
     /// @param isFollowed the editor goes to the line; else it is only marked
@@ -275,7 +275,7 @@ private:
     void showRunning(bool running);
     bool hasEditor() const { return modEditorHook != nullptr && !m_servicesGone; }
 
-    // Commands (ProcSimRun.cpp).
+    // Commands.
     template <class Ends>
     void runLoop(Ends ends);
     void startRun();
@@ -290,6 +290,8 @@ private:
     bool takeTypedPc();
     /// The instruction at an address of a page or of the shared range.
     bool opcodeOfPage(int addr, int memRange, nsModAsmFe::Opcode** result) const;
+
+    // Steps that several instructions share.
     bool readPort(const nsModAsmFe::Arg* arg, int addr, int* value);
     bool readReg(const nsModAsmFe::Arg* arg, int* value);
     bool flowTarget(bool* taken, nsModAsmFe::Opcode** target, QString* name);
@@ -309,7 +311,7 @@ private:
     ProcSimObserver* m_observer = nullptr;
     ProcSimWaveData* m_waves = nullptr; ///< of the wave viewer
     nsModAsmFe::OpcodeListWatch m_watch;
-    int m_breakpointsRevision = 0; ///< the editor's, as the instructions have them
+    int m_breakpointsRevision = 0; ///< the editor's, breakpoints that the instructions have
     bool m_breakpointsTaken = false;
     bool m_servicesGone = false;
 

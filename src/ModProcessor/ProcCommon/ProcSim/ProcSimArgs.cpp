@@ -1,4 +1,4 @@
-// Arguments and results of instructions: what they read, where it goes, what is shown when that fails.
+// Arguments and results of instructions: reading, storing, and the messages when that fails.
 
 #include "ProcSim.h"
 
@@ -98,7 +98,7 @@ bool ProcSim::getValueDoubleRefReg(const Opcode* opcode, Opcode** target, QStrin
     const int addr = (high << 8) + low;
     const Opcode* before = m_pc;
     if (!getOpcodeOfAddr(addr, target)) {
-        // Where the question for the page was overtaken by other events, there is nothing to tell.
+        // If the program counter has changed while the user was asked for the page, there is nothing to report.
         if (m_pc == before)
             signInternalError(tr("No instruction at address: %1").arg(addr));
         return false;
@@ -221,7 +221,7 @@ void ProcSim::signMsg(eSimMsg_t type, const QString& arg, int value)
         return;
     }
     m_lastMsg = QString::fromLatin1(msg->key);
-    // What a changed widget brings to the front must not cover the message.
+    // Updates the widgets first, as one of them may come to the front and would cover the message.
     updateWidgets();
     if (modMsgHook == nullptr)
         return;

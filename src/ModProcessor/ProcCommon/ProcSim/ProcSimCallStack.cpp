@@ -49,7 +49,7 @@ void ProcSimCallStack::setup()
     setEditTriggers(QAbstractItemView::NoEditTriggers);
     header()->setDefaultAlignment(Qt::AlignCenter);
     header()->setSectionsMovable(false);
-    // The columns follow their contents. The last one would be cut if it took no more than the rest.
+    // The columns follow their contents, including the last one, which would else be cut off.
     header()->setStretchLastSection(false);
     for (int column = 0; column < columnCount; ++column)
         header()->setSectionResizeMode(column, QHeaderView::ResizeToContents);

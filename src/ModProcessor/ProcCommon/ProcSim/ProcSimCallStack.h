@@ -31,7 +31,7 @@ public:
     void clear();
     /// @param base 8, 10 or 16
     void setBase(int base);
-    /// Shows what has changed in the data, and asks for the front if something has.
+    /// Shows what has changed in the data, and emits contentChanged() if something has.
     void refresh();
 
 signals:

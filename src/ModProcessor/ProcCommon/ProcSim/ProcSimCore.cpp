@@ -70,7 +70,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     , m_regs(regs)
 {
     setObjectName(QStringLiteral("procSimCore"));
-    // The order of the focus is that in which the fields come here.
+    // The tab order is the order in which the fields get this parent.
     m_regs->setParent(this);
     m_scrpd = new ProcSimScrpd(m_data, this);
     m_pc->setRange(0, std::max(pcMax, 0));
@@ -111,7 +111,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     layout->addWidget(hLine());
     layout->addWidget(m_scrpd, 1);
 
-    // A click toggles what the program has by now, which may be more than the last picture of a run shows.
+    // A click toggles the present value, which may be newer than the displayed one during a run.
     connect(m_carry, &ProcSimEdtBit::aboutToToggle, this, [this] { m_carry->setValue(m_data->carryBit()); });
     connect(m_zero, &ProcSimEdtBit::aboutToToggle, this, [this] { m_zero->setValue(m_data->zeroBit()); });
     connect(m_interrupt, &ProcSimEdtInterrupt::aboutToToggle, this, [this] { m_interrupt->setValue(m_data->interrupt()); });
@@ -131,7 +131,7 @@ void ProcSimCore::addHwbld()
     m_hwbld->setToolTip(tr("Value that the instruction HWBUILD reads"));
     m_head->addWidget(title(tr("HWBuild:"), m_hwbld, m_hwbld->toolTip()), 1, 0);
     m_head->addWidget(m_hwbld, 1, 1, Qt::AlignLeft);
-    // An empty field is no value: the instruction says so.
+    // An empty field means that there is no value: the instruction then reports an error.
     connect(m_hwbld, &ProcSimEdtNumeric::edited, this,
             [this](int value) { m_data->setHwbld(m_hwbld->text().isEmpty() ? -1 : value); });
     connect(m_hwbld, &ProcSimEdtNumeric::valueChanged, this, [this](int value) { m_data->setHwbld(value); });

@@ -21,8 +21,8 @@ class ProcSimScrpd;
 
 /// The dock of a simulated core: program counter, flags, interrupt, registers and scratchpad, all to be edited.
 ///
-/// It shows a ProcSimCoreData, and what the user types goes there at once. An address for the program counter is reported when it is
-/// complete: it decides on an instruction, which the data does not know.
+/// It shows a ProcSimCoreData, and each keystroke of the user changes it at once. An address for the program counter is
+/// reported by a signal when it is complete, as the data does not know the instructions.
 class ProcSimCore : public QWidget
 {
     Q_OBJECT
@@ -33,15 +33,15 @@ public:
     const std::shared_ptr<ProcSimCoreData>& data() const { return m_data; }
     /// @param base 8, 10 or 16
     void setBase(int base);
-    /// During a run, no address can be typed for the program counter: it would not stand still.
+    /// During a run the field of the program counter is read-only, as its value changes all the time.
     void setRunning(bool running);
     /// An address that the user has typed for the program counter and not ended with Return; it is reported no more after this.
     /// @return false, with nothing changed, if there is none
     bool takeTypedPc(int* addr);
-    /// Shows what has changed in the data, and asks for the front if a flag was set.
+    /// Shows what has changed in the data, and emits contentChanged() if the program has changed a flag.
     void refresh();
 
-    // The state, with the display following at once.
+    // Access to the state; the display is updated at once.
     void setCarryBit(int value);
     int carryBit() const;
     void setZeroBit(int value);
@@ -61,7 +61,7 @@ public:
     void clear();
 
 signals:
-    /// Something happened that the user wants to see. @param widget this
+    /// A value was changed that the user wants to see. @param widget this
     void contentChanged(QWidget* widget);
     /// The user has typed an address for the program counter, which the display shows until the next refresh().
     void pcTyped(int addr);

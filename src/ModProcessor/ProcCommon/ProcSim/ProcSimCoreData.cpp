@@ -6,7 +6,7 @@ namespace nsProc {
 
 namespace {
 
-/// Takes a text, at no cost when it is the very text that is there already.
+/// Assigns a text unless it shares its data with the present one.
 void take(QString* target, const QString& text)
 {
     if (target->constData() != text.constData())

@@ -9,12 +9,14 @@
 
 namespace nsProc {
 
-/// The state of a simulated processor core: registers, flags, scratchpad, interrupt state and what is shown of the program counter.
+/// The state of a simulated processor core: registers, flags, scratchpad, interrupt state and the displayed program
+/// counter.
 ///
-/// This is the one place where these values live. The widgets show it and write what the user types into it, the simulator reads
-/// and writes it once an instruction. Nothing here knows of a widget, so that a run needs none.
+/// These values are stored nowhere else. The widgets show them and change them when the user types, the simulator reads
+/// and writes them with each instruction. Uses no widgets, so a run needs none.
 ///
-/// A value that the program has set is highlighted until clearHighlighted(), which costs the same however many there are.
+/// A value that the program has set is highlighted until clearHighlighted(), whose cost does not depend on the number
+/// of highlights.
 class ProcSimCoreData
 {
 public:
@@ -96,7 +98,7 @@ public:
     /// Registers of all banks, flags and scratchpad to 0, aliases empty, highlights off, interrupt disabled. The bank stays selected.
     void clear();
 
-    /// @return true once after the program has changed a flag: what shows the core is then brought to the front
+    /// @return true once after the program has changed a flag: the widget of the core is then brought to the front
     bool takeContentChanged();
 
 private:

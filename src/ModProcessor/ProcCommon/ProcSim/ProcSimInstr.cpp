@@ -289,7 +289,7 @@ bool ProcSim::simOpcode_ret()
 
 bool ProcSim::returnFromCall()
 {
-    // The item stands at the call: the program goes on behind it.
+    // The item holds the position of the call: the program continues after it.
     if (pullFromCallstack(false))
         return finish();
     addClocks();
@@ -299,7 +299,7 @@ bool ProcSim::returnFromCall()
 bool ProcSim::simOpcode_retI()
 {
     m_core->setInterrupt(m_pc->arg0->type == Arg::enable ? eIntEnabled : eIntDisabled);
-    // The item stands at the interrupted instruction, which is executed next.
+    // The item holds the position of the interrupted instruction, which is executed next.
     pullFromCallstack(true);
     addClocks();
     return true;

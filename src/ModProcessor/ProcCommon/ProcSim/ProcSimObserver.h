@@ -17,7 +17,7 @@ public:
     /// The processor has entered the interrupt; the instruction at the vector follows.
     virtual void interruptEntered() {}
     /// The program reads a port that no device answers.
-    /// @param handled set to true: the result decides, instead of a new register that the user fills in
+    /// @param handled set to true: the return value is used, and no register is added for the user to fill in
     /// @return a value was supplied, 0 to 255; false stops the program before the instruction
     virtual bool portSource(int /*addr*/, int* /*value*/, bool* /*handled*/) { return false; }
     /// @param value 0 to 255

@@ -10,7 +10,7 @@ namespace nsProc {
 
 namespace {
 
-const int aliasWidth = 40; ///< pixels; a longer name shows its end, and all of it as a tool tip
+const int aliasWidth = 40; ///< pixels; of a longer name the end is shown, and the whole name as tool tip
 
 } // namespace
 

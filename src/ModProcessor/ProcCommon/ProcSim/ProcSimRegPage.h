@@ -39,7 +39,7 @@ private:
         QString shownAlias;
     };
 
-    /// What the register is called beside its name; empty if that is the name itself.
+    /// The alias of the register; empty if it equals the name.
     static QString secondName(const sRow_t& row);
     static void showAlias(const sRow_t& row);
 

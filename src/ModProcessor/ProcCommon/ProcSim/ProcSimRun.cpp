@@ -1,4 +1,4 @@
-// Commands: single instructions, runs and where they end, breakpoints, the interrupt.
+// Commands: single instructions, runs, breakpoints, the interrupt.
 
 #include "ProcSim.h"
 
@@ -45,7 +45,7 @@ bool ProcSim::simOpcode()
 bool ProcSim::enterInterrupt()
 {
     m_core->setInterrupt(eIntService);
-    // Without room to come back, the interrupt is lost; the program can go on where it is.
+    // If the call stack is full, the interrupt is lost; the program can continue at the present instruction.
     if (!pushToCallstack(QStringLiteral("ISR"))) {
         signMsg(errCallStackOverflow);
         return false;
@@ -162,7 +162,7 @@ void ProcSim::simToCursor()
     if (!getOpcodeOfCursor(&target) || target == m_pc)
         return;
     startRun();
-    // The loop ends when the instructions go away, so the target is never compared after that.
+    // The loop ends when the instructions are deleted, so a deleted target is never compared.
     runLoop([this, target] { return m_pc == target; });
 }
 
@@ -304,7 +304,7 @@ bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
 {
     const OpcodeList* opcodes = modAsmFeHook->opcodeList();
     *result = opcodes->opcodeOfAddr(addr, memRange);
-    // What is not in the page may be in the range that all pages share.
+    // If the page has no instruction at the address, it may be in the range that all pages share.
     if (*result == nullptr)
         *result = opcodes->opcodeOfAddr(addr, 0);
     return *result != nullptr;
@@ -312,7 +312,7 @@ bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
 
 bool ProcSim::resolvePage(int* memRange)
 {
-    // Without a user to ask, the page is the one that the program was in last.
+    // Without a main window the user can not be asked: the page that was executed last is used.
     if (modGuiHook == nullptr) {
         *memRange = m_lastPage;
         return true;
@@ -322,14 +322,14 @@ bool ProcSim::resolvePage(int* memRange)
     const int deleted = m_deletions;
     ProcSimResolvePageDialog dialog(m_config.pageCount, QApplication::activeWindow());
     dialog.exec();
-    // The row is taken as the range as it is: the first row stands for the shared range.
+    // The row is the number of the range: the first row is the shared range.
     *memRange = dialog.selectedRow();
     return m_pc == before && m_pc != nullptr && m_deletions == deleted;
 }
 
 void ProcSim::syncBreakpoints()
 {
-    // Asked once an instruction: no more than two numbers are compared.
+    // Called before each instruction, so only two numbers are compared.
     if (modEditorHook != nullptr && modEditorHook->simBreakpointsChanged() &&
         (!m_breakpointsTaken || modEditorHook->simBreakpointsRevision() != m_breakpointsRevision))
         setBreakpoints();

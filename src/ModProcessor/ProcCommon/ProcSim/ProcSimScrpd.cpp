@@ -125,7 +125,7 @@ void ProcSimScrpd::showBlocks()
         return;
     const int last = (m_count - 1) / blockCells;
     const int top = verticalScrollBar()->value();
-    // The tabulator has a field to go to beyond what is in sight.
+    // One block more at each end, so that the Tab key finds a field beyond the visible ones.
     const int from = std::max(top / m_blockHeight - 1, 0);
     const int to = std::min((top + viewport()->height()) / m_blockHeight + 1, last);
     for (int index = from; index <= to; ++index)
@@ -135,7 +135,7 @@ void ProcSimScrpd::showBlocks()
         const bool isFocused = each->isAncestorOf(focusWidget()) && focusWidget()->hasFocus();
         if (index < firstBlocks || (index >= from && index <= to) || isFocused)
             continue;
-        // It may be what has led here, by a key in one of its fields.
+        // Deleted later, as the call may come from one of its fields.
         m_blocks.remove(index);
         each->hide();
         each->deleteLater();
@@ -210,7 +210,7 @@ void ProcSimScrpd::scrollToHighlighted()
         return;
     m_isScrollDue = false;
     const ProcSimScrpdBlock* holder = block(m_highlighted / blockCells);
-    // Asked for the widget itself, the area would bring the cursor of the field into view.
+    // ensureWidgetVisible() would show the cursor of the field instead of the field.
     const QRect cell = holder->cell(m_highlighted)->geometry().translated(holder->pos());
     const QSize room = viewport()->size() / 2;
     ensureVisible(cell.center().x(), cell.center().y(), std::min(scrollMargin + cell.width() / 2, room.width()),
@@ -232,14 +232,14 @@ void ProcSimScrpd::showEvent(QShowEvent* event)
 {
     QScrollArea::showEvent(event);
     arrange();
-    // Where nothing was laid out yet, there was nowhere to scroll to.
+    // Before the first layout it was not possible to scroll.
     scrollToHighlighted();
 }
 
 bool ProcSimScrpd::event(QEvent* event)
 {
     const bool result = QScrollArea::event(event);
-    // Both change the height of a row.
+    // Both events change the height of a row.
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
         arrange();
     return result;

@@ -14,9 +14,9 @@ class ProcSimScrpdBlock;
 
 /// The cells of the scratchpad, each with its address.
 ///
-/// A scratchpad can be far larger than a window can have fields. So there are fields only for the first addresses, which most
-/// programs use, for what is in sight, for the block beside it, and where the focus is. The others are made when they come into
-/// sight.
+/// A scratchpad can be far larger than a window can have fields. So there are fields only for the first addresses,
+/// which most programs use, for the visible addresses and the blocks next to them, and where the focus is. The others
+/// are created when they become visible.
 class ProcSimScrpd : public QScrollArea
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ public:
     /// Shows what has changed in the data.
     void refresh();
 
-    /// A few rows: it takes what room there is.
+    /// A few rows; the widget grows with the available space.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 
@@ -54,11 +54,11 @@ private:
     /// Gives each block its place.
     void arrange();
     void place(ProcSimScrpdBlock* block);
-    /// Makes the blocks that come into sight, and drops those that no one sees any more.
+    /// Creates the blocks that have become visible, and deletes those that are hidden now.
     void showBlocks();
     /// The block with a number, made if it does not exist.
     ProcSimScrpdBlock* block(int index);
-    /// Puts a new block between its neighbours in the order of the focus.
+    /// Inserts a new block between its neighbours in the tab order.
     void chainFocus(int index);
     void scrollToHighlighted();
     bool isShown(int addr) const { return addr >= 0 && addr < m_count; }

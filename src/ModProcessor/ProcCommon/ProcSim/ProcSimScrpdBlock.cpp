@@ -17,7 +17,7 @@ ProcSimScrpdBlock::ProcSimScrpdBlock(std::shared_ptr<ProcSimCoreData> data, int 
     , m_first(first)
 {
     const QFont font = monospaceFont();
-    // Room for any base, so that nothing moves when the base changes.
+    // Wide enough for any base, so that nothing moves when the base changes.
     const QString widest(QString::number(std::max(m_data->scrpdSize() - 1, 0), 8).size(), QLatin1Char('0'));
     for (int addr = first; addr < first + count; ++addr) {
         if (addr % narrowRow == 0) {

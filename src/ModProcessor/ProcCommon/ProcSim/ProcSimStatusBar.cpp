@@ -38,7 +38,7 @@ QString readableTime(double seconds)
         const char* name;
     } units[] = {{1e-9, "ns"}, {1e-6, "us"}, {1e-3, "ms"}};
     for (const auto& unit : units) {
-        // What would be rounded to a thousand of one unit is one of the next.
+        // A value that would be rounded to 1000 of a unit is shown as 1 of the next unit.
         if (seconds > 0 && seconds < 999.95 * unit.length)
             return QString::number(seconds / unit.length, 'g', 4) + ' ' + QLatin1String(unit.name);
     }
@@ -57,7 +57,7 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(2, 0, 2, 0);
     layout->setSpacing(3);
-    // What follows a number must not move while it grows.
+    // The widgets after a number must not move while it grows.
     const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
     m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -104,7 +104,7 @@ void ProcSimStatusBar::updateValues()
 {
     m_shown = m_clock->clocks;
     m_clocks->setText(QString::number(m_shown));
-    // No clock takes no time, also where a clock takes for ever.
+    // 0 clocks take no time, even if the time of one clock is infinite.
     m_time->setText(QStringLiteral("%1").arg(m_shown == 0 ? 0.0 : double(m_shown) * m_timeFactor));
     m_time->setToolTip(m_clkFreq > 0 ? readableTime(double(m_shown) / m_clkFreq) : tr("No clock frequency is set."));
 }

@@ -10,7 +10,7 @@ namespace nsProc {
 
 struct ProcSimClock;
 
-/// The status bar of a simulation: number format, clock count and the time that it means.
+/// The status bar of a simulation: number format, clock count and the time of these clocks.
 class ProcSimStatusBar : public QWidget
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public slots:
     void clear();
 
 signals:
-    /// The count has been set to 0: time starts anew.
+    /// The count has been set to 0.
     void cleared();
 
 private:

@@ -10,8 +10,8 @@
 
 namespace nsProc {
 
-/// The widgets of a simulator. Each belongs to the simulator, also while it stands in the main window; a window that goes takes
-/// them with it.
+/// The widgets of a simulator. Each belongs to the simulator, also while it is in the main window; if the window is
+/// deleted, it deletes them.
 struct ProcSimWidgets
 {
     QPointer<ProcSimCore> core;

@@ -14,7 +14,7 @@ struct sAction_t
     const char* toolTip; ///< null: as the text
     const char* icon;
     const char* keys; ///< null for none
-    bool separatorBehind;
+    bool separatorAfter;
 };
 
 #define NALVO_TR(text) QT_TRANSLATE_NOOP("nsProc::ProcActionsSim", text)
@@ -59,7 +59,7 @@ ProcActionsSim::ProcActionsSim(QObject* parent)
         entry->setData(int(row.action));
         if (row.keys != nullptr)
             entry->setShortcut(QKeySequence(QLatin1String(row.keys)));
-        if (row.separatorBehind)
+        if (row.separatorAfter)
             addSeparator();
     }
     connect(this, SIGNAL(triggered(QAction*)), this, SLOT(handleAction(QAction*)));

@@ -31,7 +31,7 @@ public:
     void setEnabled(bool enabled);
     void setEnabled(eAction_t action, bool enabled);
     bool isEnabled(eAction_t action) const;
-    /// While what the action has begun is in progress, it shows a stop sign: used again, it stops that.
+    /// While its command is in progress, the action shows a stop sign; triggering it again stops the command.
     void setStopping(eAction_t action, bool stopping);
     /// All actions and separators in the order of the screen. Owned by the group.
     QList<QAction*> menuActions() const { return actions(); }

@@ -4,7 +4,7 @@
 
 namespace nsProc {
 
-/// One bit of a byte, as a truth value.
+/// One bit of a byte, as a boolean.
 class ProcSimEdt8Bit : public QWidget
 {
     Q_OBJECT
@@ -14,7 +14,7 @@ public:
 
     void setValue(bool value) { m_bit->setValue(value); }
     bool value() const { return m_bit->value() != 0; }
-    /// As a click of the user.
+    /// Toggles the bit like a click of the user.
     void toggleBit();
     void setHighlightEn(bool enabled) { m_bit->setHighlightEn(enabled); }
 

@@ -19,7 +19,7 @@ public:
     bool isHighlighted() const { return m_highlighted; }
 
 signals:
-    /// The user is about to toggle the bit: the last moment to show the bit as it is by now.
+    /// The user is about to toggle the bit: a slot can set the present value before.
     void aboutToToggle();
     /// The user has toggled the bit.
     void valueChanged();

@@ -21,7 +21,7 @@ public:
     void setHighlightEn(bool enabled);
 
 signals:
-    /// The user is about to toggle a bit: the last moment to show the value as it is by now.
+    /// The user is about to toggle a bit: a slot can set the present value before.
     void aboutToToggle();
     /// The user has toggled a bit.
     void valueChanged(int value);

@@ -29,7 +29,7 @@ ProcSimEdtFifo::ProcSimEdtFifo(ProcSimIOFifo* device, QWidget* parent)
     setLineWrapMode(QPlainTextEdit::NoWrap);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setTabChangesFocus(true);
-    // The program writes here, too: an undo would take back what it wrote.
+    // The program writes here, too: an undo would revert what it wrote.
     setUndoRedoEnabled(false);
     setFixedHeight(fontMetrics().lineSpacing() * visibleLines + 2 * int(document()->documentMargin()) +
                    2 * frameWidth());
@@ -72,7 +72,7 @@ void ProcSimEdtFifo::takeEdit(int position, int removed, int added)
     }
     m_shown += grown;
     m_device->replaceLines(line, texts.size() - grown, texts);
-    // The pointer is shown when the edit is over: the text must not be touched while it tells of its change.
+    // The pointer is shown later: the document must not be modified in a slot for contentsChange().
     QMetaObject::invokeMethod(this, &ProcSimEdtFifo::showPointer, Qt::QueuedConnection);
 }
 
@@ -86,7 +86,7 @@ void ProcSimEdtFifo::refresh()
     int first = 0;
     int last = -1;
     const bool changed = lines().takeChanged(&first, &last);
-    // Where the pointer has no line, the end of the list is what can be shown.
+    // If there is no line at the pointer, the end of the list is shown.
     const int pointer = qMin(lines().pointer(), lines().count() - 1);
     const bool inText = pointer >= m_first && pointer < m_first + qMax(m_shown, windowLines);
     if (!inText || lines().dropped() != m_dropped)
@@ -100,7 +100,7 @@ void ProcSimEdtFifo::fill()
 {
     m_dropped = lines().dropped();
     const int count = lines().count();
-    // Half of the text is behind the pointer, so that a list that grows does not need to be filled each time.
+    // Half of the text is after the pointer, so that a growing list does not need to be filled each time.
     m_first = count <= windowLines ? 0 : qBound(0, lines().pointer() - windowLines / 2, count - windowLines / 2);
     const int last = qMin(count, m_first + windowLines) - 1;
     QStringList texts;
@@ -135,7 +135,7 @@ void ProcSimEdtFifo::updateLines(int first, int last)
 
 void ProcSimEdtFifo::setBlocks(int first, int last, const QStringList& texts)
 {
-    // Lines that already say the same stay, with the cursor in them.
+    // Lines with the same text are not replaced, which keeps the cursor in them.
     QTextBlock block = document()->findBlockByNumber(first);
     int from = 0;
     while (from < texts.size() && block.isValid() && first + from <= last && block.text() == texts.at(from)) {
@@ -162,7 +162,7 @@ void ProcSimEdtFifo::showPointer()
 {
     const int pointer = lines().pointer() - m_first;
     const QTextBlock block = document()->findBlockByNumber(pointer);
-    // A mark goes with the text of its line when lines are edited; the pointer does not.
+    // When lines are edited, a mark moves with the text of its line; the pointer keeps its line number.
     QList<QTextEdit::ExtraSelection> marks = extraSelections();
     const int marked = marks.isEmpty() ? -1 : marks.first().cursor.blockNumber();
     if (pointer == m_pointer && marked == (block.isValid() ? pointer : -1))
@@ -178,7 +178,7 @@ void ProcSimEdtFifo::showPointer()
     }
     setExtraSelections(marks);
     m_margin->update();
-    // Whoever types has the view where he needs it.
+    // While the user types, the view is not scrolled.
     if (hasFocus())
         return;
     QScrollBar* bar = verticalScrollBar();
@@ -214,7 +214,7 @@ void ProcSimEdtFifo::paintMargin()
 
 void ProcSimEdtFifo::keyPressEvent(QKeyEvent* event)
 {
-    // With Shift, a text breaks the line inside of one paragraph. Here, a line is a value.
+    // With Shift, the text edit would break the line inside of one paragraph. Here, each line is a value.
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         QKeyEvent plain(event->type(), Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
         QPlainTextEdit::keyPressEvent(&plain);

@@ -9,7 +9,7 @@ class ProcSimIOFifo;
 
 /// The list of a FIFO as text, one value a line. The margin and a coloured line show the read and write pointer.
 ///
-/// Of a long list, only the lines around the pointer are in the text: a program fills a list much faster than a text.
+/// Of a long list, only the lines around the pointer are in the text, as a text is much slower to fill than the list.
 class ProcSimEdtFifo : public QPlainTextEdit
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ public:
     /// @param device not owned, must outlive its use by refresh() and by the user
     explicit ProcSimEdtFifo(ProcSimIOFifo* device, QWidget* parent = nullptr);
 
-    /// Takes over what has changed in the list.
+    /// Shows the changes of the list.
     void refresh();
     /// Line of the list that is the first in the text.
     int firstLine() const { return m_first; }
@@ -34,7 +34,7 @@ protected:
 
 private:
     void takeEdit(int position, int removed, int added);
-    /// The text is of another state of the list: an edit in it has no place there.
+    /// The list has changed since the text was filled: an edit of the text can not be applied to it.
     bool isStale(int line, int count) const;
     void fill();
     void updateLines(int first, int last);

@@ -30,7 +30,7 @@ ProcSimEdtInterrupt::ProcSimEdtInterrupt(QWidget* parent)
     setObjectName(QStringLiteral("procSimEdtInterrupt"));
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
-    // Room for the frame of the focus.
+    // Space for the focus frame.
     setMargin(2);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     showState();
@@ -53,7 +53,7 @@ QColor ProcSimEdtInterrupt::color(eInt_t state)
 
 QSize ProcSimEdtInterrupt::sizeHint() const
 {
-    // The widest of the letters, so that nothing moves.
+    // Room for the widest letter, so that nothing moves.
     return QLabel::sizeHint() + QSize(gap + fontMetrics().horizontalAdvance(QLatin1Char('D')) + 2, 0);
 }
 

@@ -6,7 +6,8 @@
 
 namespace nsProc {
 
-/// The state of the interrupt logic as a coloured square and a letter. A click asks for an interrupt, or takes that back.
+/// The state of the interrupt logic as a coloured square and a letter. A click requests an interrupt, or withdraws the
+/// request.
 class ProcSimEdtInterrupt : public QLabel
 {
     Q_OBJECT
@@ -20,12 +21,12 @@ public:
     eInt_t value() const { return m_state; }
     static QColor color(eInt_t state);
 
-    /// The square and a letter beside it: a state is not told by its colour alone.
+    /// The square and a letter beside it, so that the state is not shown by colour only.
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
 signals:
-    /// The user is about to toggle the state: the last moment to show the state as it is by now.
+    /// The user is about to toggle the state: a slot can set the present state before.
     void aboutToToggle();
     /// The user has toggled between enabled and pending.
     void valueChanged();

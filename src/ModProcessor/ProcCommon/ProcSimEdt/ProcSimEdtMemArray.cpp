@@ -47,14 +47,15 @@ public:
         if (!ProcSimIODevice::number(index.data(Qt::EditRole).toString(), base, &value))
             return;
         auto* field = static_cast<ProcSimEdtNumeric*>(editor);
-        // An empty field is one in which the user is about to type.
+        // The user has cleared the field to type a new value.
         if (!field->text().isEmpty() || field->value() != 0 || !field->isModified())
             field->setValue(qMin(value, ProcSimIODevice::maxValue));
     }
 
     void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override
     {
-        // Each key press counted already. What the program has written since must not be taken back by the end of the edit.
+        // Each key press has been applied already. The end of the edit must not overwrite what the program has written
+        // since.
         Q_UNUSED(editor)
         Q_UNUSED(model)
         Q_UNUSED(index)

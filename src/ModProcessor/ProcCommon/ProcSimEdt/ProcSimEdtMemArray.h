@@ -7,7 +7,7 @@ namespace nsProc {
 class ProcSimIOMem;
 class ProcSimMemModel;
 
-/// The words of a memory, to be seen and edited. What is typed in a cell counts at each key press.
+/// The words of a memory, to be seen and edited. Each key press in a cell takes effect at once.
 class ProcSimEdtMemArray : public QTableView
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ public:
     /// @param device not owned, must outlive its use by refresh() and by the user
     explicit ProcSimEdtMemArray(ProcSimIOMem* device, QWidget* parent = nullptr);
 
-    /// Takes over what has changed, and scrolls to the row that was touched.
+    /// Shows what has changed, and scrolls to the row that was accessed last.
     void refresh();
 
 private:

@@ -23,7 +23,7 @@ public:
     {
     }
 
-    /// An empty field is no acceptable text, and without this its edit would not end.
+    /// An empty field is not acceptable; without fixup() it would not emit editingFinished().
     void fixup(QString& input) const override
     {
         if (input.isEmpty())
@@ -65,7 +65,7 @@ void ProcSimEdtNumeric::setBase(int base)
     if (known == m_base && !text().isEmpty())
         return;
     m_base = known;
-    // The old text may be nothing in the new base: it goes before the check changes.
+    // The old text may be invalid in the new base, so it is cleared before the validator changes.
     m_isShowing = true;
     clear();
     m_isShowing = false;
@@ -80,7 +80,7 @@ bool ProcSimEdtNumeric::setValue(int value)
 {
     if (value < m_min || value > m_max)
         return false;
-    // What the user is typing stays as he typed it, as long as it says the same.
+    // The text that the user is typing is not changed as long as it has the same value.
     if (value == m_value)
         return true;
     m_value = value;
@@ -146,7 +146,7 @@ void ProcSimEdtNumeric::showValue()
 
 void ProcSimEdtNumeric::updateWidth()
 {
-    // Room for any base, so that nothing moves when the base changes. Octal has the most digits.
+    // Wide enough for any base, so that nothing moves when the base changes. Octal has the most digits.
     const int digits = QString::number(m_max, 8).size();
     setFixedWidth(fontMetrics().horizontalAdvance(QString(digits, '8')) + 16);
 }

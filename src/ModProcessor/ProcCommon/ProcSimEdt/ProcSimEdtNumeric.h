@@ -20,7 +20,7 @@ public:
     /// @param base 8, 10 or 16
     void setBase(int base);
     int base() const { return m_base; }
-    /// Shows a value that does not come from the user. Costs next to nothing when it is the present one.
+    /// Shows a value that does not come from the user. Fast if the value has not changed.
     /// @return false, with nothing changed, outside of the range
     bool setValue(int value);
     int value() const { return m_value; }

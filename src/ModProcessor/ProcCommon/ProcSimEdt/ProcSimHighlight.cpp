@@ -16,7 +16,7 @@ const char* const noteProperty = "highlightNote";
 
 void showHighlight(QWidget* widget, bool highlighted)
 {
-    // The style sheet decides on all colours, so it has to look at the widget again.
+    // The style sheet defines the colours, so the style is applied to the widget again.
     widget->setProperty("highlighted", highlighted);
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);

@@ -25,7 +25,7 @@ void ProcSimMemModel::refresh()
         endResetModel();
         return;
     }
-    // A program can have written anywhere since the last call. Only what is visible is painted again.
+    // A program can have written to any word since the last call. Only the visible ones are painted again.
     if (m_rows > 0)
         emit dataChanged(index(0, 0), index(m_rows - 1, 0));
     const int touched = m_device->touchedRow();
@@ -94,7 +94,7 @@ QVariant ProcSimMemModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::DisplayRole)
         return ProcSimIODevice::text(static_cast<unsigned int>(section), m_base);
     if (role == Qt::DecorationRole) {
-        // Rows without the mark keep its place free, so that no header moves.
+        // Rows without the mark have an empty pixmap of the same size, so that no header moves.
         QPixmap mark(5, 5);
         mark.fill(section == m_touchedRow ? QColor(Qt::red) : QColor(Qt::transparent));
         return mark;

@@ -15,7 +15,7 @@ public:
     /// @param device not owned
     ProcSimMemModel(ProcSimIOMem* device, QObject* parent);
 
-    /// Tells the view of what has changed.
+    /// Emits the signals for what has changed.
     void refresh();
     int base() const { return m_base; }
 

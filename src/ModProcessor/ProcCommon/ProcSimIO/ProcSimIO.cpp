@@ -181,7 +181,7 @@ void ProcSimIO::showNew()
 {
     if (m_views.isEmpty())
         return;
-    // The column has its new height when the layout has run.
+    // The column has its new height only after the layout was activated.
     m_column->layout()->activate();
     QTimer::singleShot(0, m_views.last(), [this, view = m_views.last()] { m_scroll->ensureWidgetVisible(view, 0, 8); });
 }

@@ -31,7 +31,7 @@ public:
     explicit ProcSimIO(std::shared_ptr<ProcSimPorts> ports, QWidget* parent = nullptr);
     ~ProcSimIO() override;
 
-    // As ProcSimPorts; what has changed is shown at once.
+    // Like the operations of ProcSimPorts; changes are shown at once.
     ProcSimIOPluginIf* addIOPlugin(eDevType_t type, eDirection_t direction, int initValue);
     void removeIOPlugin(ProcSimIOPluginIf* plugin);
     void removeIOPlugins();
@@ -44,7 +44,7 @@ public:
 
     /// Adds the kind of device that the user has selected, for both directions.
     void addIOPluginFromMenu();
-    /// Shows what has changed since the last call. Cheap when nothing has.
+    /// Shows what has changed since the last call. Fast if there is no change.
     void refresh();
 
     void deviceAdded(ProcSimIOPluginIf* device) override;

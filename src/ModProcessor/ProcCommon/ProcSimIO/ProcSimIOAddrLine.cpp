@@ -24,7 +24,7 @@ ProcSimIOAddrLine::ProcSimIOAddrLine(QWidget* parent)
     m_addr->setRange(0, ProcSimIODevice::maxPortAddr);
     m_nameLabel->setObjectName(QStringLiteral("procSimIOName"));
     m_nameLabel->setToolTip(tr("Address substitute"));
-    // A long name is cut, it must not widen the dock.
+    // A long name is cut, so that it does not widen the dock.
     m_nameLabel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_nameLabel->setTextFormat(Qt::PlainText);
 
@@ -64,14 +64,14 @@ void ProcSimIOAddrLine::showNone()
 {
     m_isNone = true;
     m_addr->setPlaceholderText(tr("none"));
-    // An empty text is no edit to 0.
+    // Clearing the text must not count as an edit to address 0.
     const QSignalBlocker silence(m_addr);
     m_addr->clear();
 }
 
 void ProcSimIOAddrLine::takeEdit(int addr)
 {
-    // A field that the user only passes through fills itself with a number.
+    // A field that the user leaves without typing shows a number, which does not count as an address.
     if (m_isNone && !m_addr->isModified())
         return;
     m_isNone = false;

@@ -17,8 +17,8 @@ public:
     explicit ProcSimIOAddrLine(QWidget* parent = nullptr);
 
     void setBase(int base);
-    /// @param addr 0 to ProcSimIODevice::maxAddr; one that no processor asks for widens the field. ProcSimIODevice::noAddr empties it
-    /// until the user types an address
+    /// @param addr 0 to ProcSimIODevice::maxAddr; an address beyond the range of the processors widens the field.
+    /// ProcSimIODevice::noAddr empties it until the user types an address
     void setAddr(int addr);
     /// Reads the field. @return false if it is empty
     bool addr(int* addr) const;

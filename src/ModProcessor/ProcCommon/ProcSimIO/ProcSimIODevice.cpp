@@ -9,7 +9,7 @@ ProcSimIODevice::~ProcSimIODevice()
     if (m_view == nullptr)
         return;
     m_view->forgetDevice();
-    // A view whose close button has been clicked is still needed by the event that closes it.
+    // A view whose close button was clicked still handles that event, so it is deleted later.
     if (m_view->isClosing())
         m_view->deleteLater();
     else

@@ -11,8 +11,8 @@ class ProcSimIODeviceView;
 
 /// What all devices at ports have in common: address, name, direction, base, marks and the view.
 ///
-/// A device is plain data: it needs no application object, and an access costs no more than the access. Its view is
-/// made on demand and looks at the device when it is told to refresh; what the user types there arrives here at once.
+/// A device is plain data: it needs no application object, and accesses do not update the view. The view is created on
+/// demand and reads the device in refresh(); what the user types there changes the device at once.
 class ProcSimIODevice : public ProcSimIOPluginIf
 {
 public:
@@ -26,14 +26,14 @@ public:
     ProcSimIODevice(const ProcSimIODevice&) = delete;
     ProcSimIODevice& operator=(const ProcSimIODevice&) = delete;
 
-    /// The view, made by the first call. The device deletes it, unless the view's parent has done so before.
+    /// The view, made by the first call. The device deletes it, unless the parent of the view has deleted it before.
     QWidget* ioDevWidget() override;
 
     void setName(QString name) override;
     void setBase(int base) override;
     void setDirection(eDirection_t direction) override;
     bool chkDirection(eDirection_t direction) override;
-    /// With an address that is out of range the device answers nowhere.
+    /// With an address that is out of range the device does not answer at any port.
     void setBaseAddr(int addr, QString name) override;
     bool chkAddr(int addr) override { return m_addr != noAddr && addr == m_addr; }
     void setHighlightEn(bool enabled) override;

@@ -42,7 +42,7 @@ ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, const QColor& 
     layout->setSpacing(0);
     layout->addWidget(new ProcSimIOTypeIdentifier(color, type, this));
     layout->addLayout(m_body, 1);
-    // The button to close is reached last in its card's first line, not in between.
+    // In the tab order, the close button is the last one of the first line.
     setTabOrder(m_addrLine->addrEdit(), m_direction);
 
     connect(close, &QToolButton::clicked, this, &ProcSimIODeviceView::closeDevice);
@@ -64,7 +64,7 @@ ProcSimIODeviceView::~ProcSimIODeviceView()
 void ProcSimIODeviceView::forgetDevice()
 {
     m_device = nullptr;
-    // A field that loses the focus with its card reports the end of its edit, to nobody.
+    // Fields that lose the focus because the card is closed must not report the end of their edit.
     const QList<QObject*> parts = findChildren<QObject*>();
     for (QObject* part : parts)
         part->blockSignals(true);

@@ -12,7 +12,7 @@ class ProcSimEdtDirection;
 class ProcSimIOAddrLine;
 class ProcSimIODevice;
 
-/// The card of one device in the column of ports: a strip that tells the kind, the address line with the close button,
+/// The card of one device in the column of ports: a strip that shows the kind, the address line with the close button,
 /// the direction, and below what the kind of device shows. Belongs to its device.
 class ProcSimIODeviceView : public QFrame
 {
@@ -23,9 +23,9 @@ public:
     ProcSimIODeviceView(ProcSimIODevice* device, const QColor& color, const QString& type);
     ~ProcSimIODeviceView() override;
 
-    /// Shows what has changed in the device since the last call; costs next to nothing if that is nothing.
+    /// Shows what has changed in the device since the last call; fast if nothing has changed.
     void refresh();
-    /// The device ends: nothing that the user still does here has a meaning.
+    /// The device is being deleted: input of the user is ignored from now on.
     void forgetDevice();
     /// The user has clicked the close button.
     bool isClosing() const { return m_closing; }

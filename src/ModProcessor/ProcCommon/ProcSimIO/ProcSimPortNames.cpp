@@ -34,7 +34,7 @@ QString ProcSimPortNames::nameOf(ModAsmFeHookIf* hook, int addr, bool isWrite)
         const Arg* arg = opcode->arg1;
         if (opcode->opcode != access || arg->type != Arg::numeric || arg->iValue != addr)
             continue;
-        // What is written there may also be a number or an expression.
+        // The argument may also be a number or an expression.
         if (const Equ* equ = constantOf(hook, arg->dispName, opcode->nameSpace))
             return nsModAsmFe::qualifiedName(equ->nameSpace, equ->name);
     }

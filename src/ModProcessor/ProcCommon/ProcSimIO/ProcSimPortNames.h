@@ -10,8 +10,8 @@ namespace nsProc {
 class ProcSimPortNames
 {
 public:
-    /// The constant by which the program addresses a port, with its namespace; of several the first one in source
-    /// order.
+    /// The constant by which the program addresses a port, with its namespace; if there are several, the first one in
+    /// source order.
     /// @param hook null for none
     /// @param isWrite the name in the instructions that write the port, else in those that read it
     /// @return empty without such a name, and without an assembled program

@@ -62,7 +62,7 @@ ProcSimIOPluginIf* ProcSimPorts::find(int addr, eDirection_t direction) const
 
 bool ProcSimPorts::chkIOPluginToRd(int addr, const QString& name)
 {
-    // A device for both directions answers the question for reading, too.
+    // This also finds a device for both directions.
     if (find(addr, ProcSimIOPluginIf::eDirectionRd) != nullptr)
         return true;
     addIOPlugin(eDevReg, ProcSimIOPluginIf::eDirectionRd, 0)->setBaseAddr(addr, name);

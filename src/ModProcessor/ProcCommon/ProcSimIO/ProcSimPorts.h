@@ -7,7 +7,7 @@
 
 namespace nsProc {
 
-/// Hears of devices that come and go, to show them.
+/// Is notified of added and removed devices, to show them.
 class ProcSimPortsListener
 {
 public:
@@ -21,7 +21,7 @@ public:
 /// The ports of a simulated processor: the devices that stand at them, in the order in which they were added. Owns the devices.
 ///
 /// The first device that answers at an address in the asked direction serves an access. Where there is none, one is added: a
-/// register that the user fills in for a read, a FIFO that collects the values for a write. Nothing here knows of a widget.
+/// register that the user fills in for a read, a FIFO that collects the values for a write. Uses no widgets.
 class ProcSimPorts : public ProcSimIOHookIf
 {
 public:
@@ -55,13 +55,13 @@ public:
 
     void clear();
     void clearHighlighted();
-    /// The same at the start of each instruction, at no cost if nothing was touched since.
+    /// The same for the start of each instruction; fast if no device was accessed since.
     void clearTouched();
     /// @param base 8, 10 or 16
     void setBase(int base);
     int base() const { return m_base; }
 
-    /// @return true once after a write that has changed a device: what shows the ports is then brought to the front
+    /// @return true once after a write that has changed a device: the widget of the ports is then brought to the front
     bool takeContentChanged();
 
 private:

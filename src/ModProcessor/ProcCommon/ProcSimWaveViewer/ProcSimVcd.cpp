@@ -16,7 +16,7 @@ namespace nsProc {
 namespace {
 
 constexpr int pieceSize = 1 << 16;
-/// Times stay below this, so that other programs' signed 64-bit counters hold them.
+/// Times stay below this, so that they fit into signed 64-bit counters of other programs.
 constexpr long double timeMax = 4.6e18L;
 
 /// The unit of time of a file.
@@ -64,7 +64,7 @@ QByteArray wireName(const ProcSimWaveData::sAddrChannel_t& channel)
     return name;
 }
 
-/// One writing of a file.
+/// Writes one file.
 class Writer
 {
 public:
@@ -132,7 +132,7 @@ private:
         append(QByteArray(bits) + wireCode(channel) + '\n');
     }
 
-    /// The values that all wires have at time 0. From here on, `next` tells the index of each channel's next value.
+    /// The values that all wires have at time 0. On return, `next` holds the index of each channel's next value.
     void writeStart(std::vector<size_t>* next)
     {
         append("#0\n$dumpvars\n");
@@ -149,8 +149,8 @@ private:
         append("$end\n");
     }
 
-    /// The values of all channels in the order of time. Of several at the same time, which a clock above 1 THz makes
-    /// possible, the last one stands.
+    /// The values of all channels in the order of time. If a channel has several values at the same time, which is
+    /// possible above 1 THz, the last one is written.
     void writeChanges()
     {
         const auto& channels = m_data.channels();
@@ -179,7 +179,7 @@ private:
             ++index;
             push(entry.second);
         }
-        // The waves last until now.
+        // The waves end at the present time.
         const qint64 end = roundedTime(m_data.clock());
         if (end > time)
             append('#' + QByteArray::number(end) + '\n');

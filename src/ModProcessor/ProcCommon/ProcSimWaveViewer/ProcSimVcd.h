@@ -10,9 +10,9 @@ class ProcSimWaveData;
 
 /// Writes what a wave viewer holds as a value change dump (IEEE 1364), which programs that show waves open.
 ///
-/// Each watched port is a wire of 8 bits, of unknown value until the first one that is held. The name tells address and
-/// access: `port_2A_rd`, with the channel's name behind it if it has one. A clock is 1e12 / clkFreq picoseconds, each
-/// time rounded by itself so that the error does not grow; without a clock rate, a clock is a nanosecond. The date is
+/// Each watched port is a wire of 8 bits, of unknown value until the first stored one. The name consists of address and
+/// access: `port_2A_rd`, and the channel's name if it has one. A clock is 1e12 / clkFreq picoseconds, each time is
+/// rounded separately, so that errors do not add up; without a clock rate, a clock is a nanosecond. The date is
 /// SOURCE_DATE_EPOCH, if that is set.
 class ProcSimVcd
 {

@@ -10,7 +10,7 @@ ProcSimWaveColumns::ProcSimWaveColumns(const ProcSimWaveData::sAddrChannel_t& ch
                                        int width)
 {
     const auto& values = channel.values;
-    // Half the channel is as good a place as any to start the search from, unless the view starts before it.
+    // The search starts in the middle of the channel, or at its first value if the view starts before the middle.
     const qint64 start = time.boundary(0);
     const size_t middle = values.size() / 2;
     const bool late = !values.empty() && values[middle].clock < start;
@@ -19,7 +19,7 @@ ProcSimWaveColumns::ProcSimWaveColumns(const ProcSimWaveData::sAddrChannel_t& ch
         before = values[index - 1].value;
     int x = 0;
     while (index < values.size()) {
-        // On to the column of the next value.
+        // Continues with the column of the next value.
         const double place = time.xAt(double(values[index].clock));
         if (place >= width)
             return;

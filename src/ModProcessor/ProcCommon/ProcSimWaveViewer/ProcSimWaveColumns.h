@@ -13,12 +13,12 @@ class ProcSimWaveTime;
 /// However many values there are, this holds at most one entry a column, and finding them costs little more than that.
 struct ProcSimWaveColumns
 {
-    /// A column of pixels in which values passed.
+    /// A column of pixels with values.
     struct sColumn_t
     {
         int x;
         size_t first;                  ///< index of the first value
-        size_t end;                    ///< index behind the last value
+        size_t end;                    ///< index after the last value
         int value;                     ///< the last value
         ProcSimWaveData::sBits_t bits; ///< of these values
     };

@@ -68,8 +68,8 @@ void ProcSimWaveData::addValue(int addr, eAccessType_t access, int value, qint64
     ++m_changes;
 }
 
-/// The channel with the most values gives up the older half. Its memory shrinks too, so that no more than about twice
-/// the limit is ever held.
+/// Deletes the older half of the channel with the most values. Releases its memory too, so that there is never room for
+/// more than about twice the limit.
 void ProcSimWaveData::makeRoom()
 {
     const auto longest =

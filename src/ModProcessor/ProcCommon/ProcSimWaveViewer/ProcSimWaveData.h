@@ -10,9 +10,8 @@ namespace nsProc {
 
 /// The values that have passed through the watched ports of a simulated processor, by time.
 ///
-/// Time is the clock count. It only goes forward: when it goes back, since the user has cleared the count, all values
-/// are forgotten and time starts anew. Nothing here knows of a widget, so that it can be fed at the full speed of the
-/// simulator.
+/// Time is the clock count. It only goes forward: when it goes back, because the user has cleared the count, all values
+/// are deleted and time restarts. Uses no widgets, so that values can be added at the full speed of the simulator.
 class ProcSimWaveData
 {
 public:
@@ -34,8 +33,8 @@ public:
         int value; ///< 0 to 255
     };
 
-    /// Which bits are set in any and which in all of a number of values. This is what a bit wave shows of values that
-    /// stand closer than pixels.
+    /// Which bits are set in any and which in all of a number of values. A bit wave shows this where several values
+    /// share a pixel.
     struct sBits_t
     {
         quint8 any = 0;
@@ -63,7 +62,7 @@ public:
         QString name;
         std::vector<sValue_t> values; ///< in the order of time
         std::vector<sBits_t> blocks;  ///< the bits of each blockSize values, the last block may be a part
-        bool dropped = false;         ///< the oldest values were given up for room
+        bool dropped = false;         ///< the oldest values were deleted to limit the memory
     };
 
     /// One row of the display: a channel's number, or one of its bits.
@@ -81,8 +80,8 @@ public:
 
     static constexpr size_t blockSize = 64;
 
-    /// @param limit values that all channels together keep: beyond that, the longest one gives up its older half; 0 for
-    /// no limit
+    /// @param limit values that all channels together keep: beyond that, the older half of the longest one is deleted;
+    /// 0 for no limit
     explicit ProcSimWaveData(size_t limit = size_t(1) << 22)
         : m_limit(limit)
     {
@@ -100,21 +99,21 @@ public:
     void removeChannel(const sAddrChannel_t* channel);
     /// Appends to the channel of the address and access, if there is one.
     /// @param value 0 to 255
-    /// @param clock clock count; below that of the value before, time starts anew
+    /// @param clock clock count; below that of the value before, time restarts
     void addValue(int addr, eAccessType_t access, int value, qint64 clock);
     /// Forgets the values, keeps the channels. Time starts at 0.
     void clearValues();
     void clearValues(sAddrChannel_t* channel);
     void clear();
 
-    /// Time goes on without a value. Below the present time, it starts anew.
+    /// Time goes on without a value. Below the present time, it restarts.
     void setClock(qint64 clock);
     /// The present time: clock count of the last value or of setClock().
     qint64 clock() const { return m_clock; }
     /// Counts changes of values and channels, for whoever shows the waves.
     unsigned changes() const { return m_changes; }
 
-    /// The bits of the values `first` up to, but not including, `end`. Costs little however many they are.
+    /// The bits of the values `first` up to, but not including, `end`. Fast even for many values.
     static sBits_t bits(const sAddrChannel_t& channel, size_t first, size_t end);
     /// Index of the first value at or after a time, the number of values if there is none.
     /// @param from index from which on to look: the search is quick if the value is near

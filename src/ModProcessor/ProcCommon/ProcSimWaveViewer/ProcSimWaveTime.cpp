@@ -8,7 +8,7 @@ namespace nsProc {
 
 namespace {
 
-/// The smallest of 1, 2, 5, 10, ... that is not below.
+/// The smallest of 1, 2, 5, 10, ... that is not less than the argument.
 double roundStep(double step)
 {
     const double decade = std::pow(10.0, std::floor(std::log10(step)));
@@ -29,7 +29,7 @@ qint64 ProcSimWaveTime::boundary(int x) const
 QVector<ProcSimWaveTime::sTick_t> ProcSimWaveTime::ticks(int width, int distance) const
 {
     QVector<sTick_t> result;
-    // Whole clocks at least; of seconds, a picosecond at least.
+    // At least one clock, or at least one picosecond.
     const double perUnit = m_seconds ? 1 / m_clkFreq : 1;
     const double step = roundStep(qMax(distance / m_pxPerClock * perUnit, m_seconds ? 1e-12 : 1.0));
     double count = std::floor(qMax(m_first, 0.0) * perUnit / step);
@@ -43,7 +43,7 @@ QVector<ProcSimWaveTime::sTick_t> ProcSimWaveTime::ticks(int width, int distance
     }
 }
 
-/// @param step distance of the moments that are shown, which tells the unit and the decimals
+/// @param step distance of the shown times, which determines the unit and the decimals
 QString ProcSimWaveTime::secondsText(double seconds, double step) const
 {
     if (seconds == 0)
@@ -55,7 +55,7 @@ QString ProcSimWaveTime::secondsText(double seconds, double step) const
     };
     static const sUnit_t units[] = {{1, "s"}, {1e-3, "ms"}, {1e-6, "us"}, {1e-9, "ns"}};
     const sUnit_t* unit = units;
-    // The largest unit in which the moment has an integer part, as long as three decimals tell the step.
+    // The largest unit in which the time has an integer part, as long as three decimals suffice for the step.
     while (unit != std::end(units) - 1 && (seconds < unit->size * (1 - 1e-9) || step < unit->size * 0.999e-3))
         ++unit;
     const int decimals = qBound(0, int(std::ceil(-std::log10(step / unit->size) - 1e-9)), 3);
@@ -87,7 +87,7 @@ QString ProcSimWaveTime::longText(qint64 clock) const
     return QStringLiteral("%1 (%2)").arg(clocksText(clock), secondsText(double(clock) / m_clkFreq, exactStep()));
 }
 
-/// Tells the moments of single clocks apart.
+/// A step with which the texts of adjacent clocks differ.
 double ProcSimWaveTime::exactStep() const
 {
     return roundStep(0.5 / m_clkFreq);

@@ -5,7 +5,7 @@
 
 namespace nsProc {
 
-/// What stands between clocks and pixels: the visible range of simulated time, and the texts of its axis.
+/// Converts between clocks and pixels: the visible range of simulated time, and the texts of its axis.
 ///
 /// Pixel x shows the clocks from boundary(x) up to, but not including, boundary(x + 1). Where a clock is wider than a
 /// pixel, it starts at the pixel whose range contains it.
@@ -40,11 +40,11 @@ public:
 
     /// Round times, at least `distance` pixels apart.
     QVector<sTick_t> ticks(int width, int distance) const;
-    /// A moment, as exact as it is meaningful: "120" or "2.4 us".
+    /// A time without superfluous decimals: "120" or "2.4 us".
     QString text(qint64 clock) const;
-    /// A moment with its unit: "120 clocks" or "2.4 us".
+    /// A time with its unit: "120 clocks" or "2.4 us".
     QString unitText(qint64 clock) const;
-    /// A moment in both units, where both are known: "120 clocks (2.4 us)".
+    /// A time in both units, if both are known: "120 clocks (2.4 us)".
     QString longText(qint64 clock) const;
 
 private:

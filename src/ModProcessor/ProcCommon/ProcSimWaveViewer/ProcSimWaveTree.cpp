@@ -40,7 +40,7 @@ ProcSimWaveTree::ProcSimWaveTree(ProcSimWavesWidget* waves, QWidget* parent)
     setIndentation(16);
     setUniformRowHeights(true);
     setSelectionMode(SingleSelection);
-    // The rows beside it have no room below the last pixel either.
+    // The waves beside it have no horizontal scroll bar either, so the heights are equal.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollMode(ScrollPerPixel);
     connect(this, &QTreeWidget::itemExpanded, this, &ProcSimWaveTree::itemExpanded);
@@ -75,7 +75,7 @@ QString ProcSimWaveTree::placeText(const sAddrChannel_t* channel, int base)
 
 QString ProcSimWaveTree::channelText(const sAddrChannel_t* channel, int base)
 {
-    // One port is often read and written by the same name.
+    // A port is often read and written under the same name, so the access is shown, too.
     return channel->name.isEmpty() ? placeText(channel, base) : accessText(channel, channel->name);
 }
 

@@ -13,7 +13,8 @@ class ProcSimWavesWidget;
 /// The names of the waves: one row a watched port, with a row for each of its bits below it, and the values beside
 /// them.
 ///
-/// It tells the widget that draws the waves which rows are visible, and where, so that both always show the same.
+/// It passes the visible rows and their positions to the widget that draws the waves, so that both always show the
+/// same.
 class ProcSimWaveTree : public QTreeWidget
 {
     Q_OBJECT
@@ -36,10 +37,10 @@ public:
     /// Shows the values at a time.
     /// @param clock -1 for the present values
     void showValues(qint64 clock);
-    /// The row of a channel's number becomes the present one.
+    /// Makes the row of a channel's number the current one.
     void selectChannel(const sAddrChannel_t* channel);
     void selectWave(const sWave_t* wave);
-    /// Null if no row is the present one.
+    /// Null if no row is current.
     sWave_t* currentWave() const;
     /// What a channel is called: its access with its name, "Write LEDS", or else with its address, "Read 2A".
     static QString channelText(const sAddrChannel_t* channel, int base);
@@ -51,7 +52,7 @@ public slots:
     void itemExpanded(QTreeWidgetItem* item);
 
 signals:
-    /// The user wants the channel with all of its rows gone.
+    /// The user wants to remove the channel with all of its rows.
     void removeRequested(nsProc::ProcSimWaveData::sAddrChannel_t* channel);
 
 protected:

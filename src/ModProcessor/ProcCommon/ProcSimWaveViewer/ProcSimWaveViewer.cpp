@@ -70,7 +70,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
 
 ProcSimWaveViewer::~ProcSimWaveViewer()
 {
-    // The rows go before what they show.
+    // The rows are deleted before the data that they show.
     m_tree->clear();
 }
 
@@ -124,7 +124,7 @@ QWidget* ProcSimWaveViewer::makeTools()
     m_toolLayout->setStretchFactor(m_portTools, 1);
     addPortTools();
     addViewTools();
-    // The width of the dock decides whether the groups stand in one line; they do not decide about the dock.
+    // The width of the dock decides whether the groups are in one line; the groups must not limit that width.
     tools->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     return tools;
 }
@@ -280,7 +280,7 @@ void ProcSimWaveViewer::setPortNames(NameOf nameOf, AddrOf addrOf)
 void ProcSimWaveViewer::updatePortNames()
 {
     for (const auto& channel : m_data.channels()) {
-        // A name that still holds may be the user's choice among several.
+        // A name that is still valid is kept, as the user may have chosen it among several.
         if (m_addrOf && !channel->name.isEmpty() && m_addrOf(channel->name) == channel->addr)
             continue;
         channel->name = m_nameOf ? m_nameOf(channel->addr, channel->access) : QString();
@@ -489,7 +489,7 @@ QString ProcSimWaveViewer::saveVcd(const QString& path) const
 
 void ProcSimWaveViewer::save()
 {
-    // The dialog handles events: the simulator may end meanwhile, and this with it.
+    // The dialog handles events: the simulator may be deleted while it is open, and this viewer with it.
     const QPointer<ProcSimWaveViewer> self(this);
     QFileDialog dialog(QApplication::activeWindow(), tr("Save waves"), m_lastPath);
     dialog.setObjectName(QStringLiteral("procSimWaveSaveDialog"));

@@ -22,8 +22,9 @@ class ProcSimWaveTree;
 
 /// Shows the values that pass through watched ports of a simulated processor against time.
 ///
-/// The simulator feeds data() at its full speed and calls setClock() and refresh() now and then. As long as no port is
-/// watched there is nothing to feed. Channels are added and removed here, not in data(), since the rows refer to them.
+/// The simulator adds values to data() at its full speed and calls setClock() and refresh() from time to time. As long
+/// as no port is watched, no values need to be added. Channels are added and removed here, not in data(), since the
+/// rows refer to them.
 class ProcSimWaveViewer : public QWidget
 {
     Q_OBJECT
@@ -50,25 +51,25 @@ public:
     void updatePortNames();
     /// @param base 8, 10 or 16
     void setBase(int base);
-    /// Forgets the values of all channels and keeps the channels. Time starts anew.
+    /// Deletes the values of all channels and keeps the channels. Time restarts.
     void clearValues();
     void clearAddrChannelValues(sAddrChannel_t* channel);
     /// A value has passed through a port; it is kept if the port is watched. For many values, use data().
     /// @param name what the program calls the port: a channel without a name is called so from now on; may be empty
     /// @param value 0 to 255
-    /// @param clock clock count; below the present time, time starts anew
+    /// @param clock clock count; below the present time, time restarts
     void addValue(int addr, eAccessType_t access, const QString& name, int value, qint64 clock);
     /// Watches a port from now on.
     /// @param addr 0 to 255
     /// @param initValue value at the present time, below 0 if it is unknown
     /// @param name what the port is called; if empty, what the program calls it, and without that its address
-    /// @return false if the port is watched already: its row becomes the present one
+    /// @return false if the port is watched already: its row becomes the current one
     bool addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name);
     /// The port is not watched any longer; the channel with its values is deleted.
     void removeAddrChannel(sAddrChannel_t* channel);
     /// The present time in clocks: the waves extend to it. Shown by the next refresh().
     void setClock(qint64 clock);
-    /// Shows what is new. Costs nearly nothing if nothing is.
+    /// Shows what has changed. Fast if nothing has.
     void refresh();
 
     /// Writes what is held as a value change dump, see ProcSimVcd.

@@ -10,7 +10,7 @@ namespace nsProc {
 namespace {
 
 const QColor colGround(0x10, 0x22, 0x34);
-const QColor colBehindEnd(0x0b, 0x19, 0x27);
+const QColor colAfterEnd(0x0b, 0x19, 0x27);
 const QColor colCurrent(0x1b, 0x36, 0x52);
 const QColor colLine(0x1c, 0x34, 0x4b);
 const QColor colAxis(0x17, 0x30, 0x49);
@@ -30,7 +30,7 @@ QColor waveColor()
 
 constexpr int valueUnknown = -1;
 constexpr int valueDense = -2;
-/// A value that is held for fewer pixels looks like others of its kind: a block.
+/// Values that are shorter than this many pixels are drawn together as a block.
 constexpr int segmentMin = 4;
 constexpr int textDistance = 5;
 
@@ -93,7 +93,7 @@ void ProcSimWavesWidget::paintGround(QPainter* painter)
     }
     const int last = endColumn();
     if (last < width())
-        painter->fillRect(last, m_axisHeight, width() - last, height(), colBehindEnd);
+        painter->fillRect(last, m_axisHeight, width() - last, height(), colAfterEnd);
     painter->setPen(colLine);
     for (const sWave_t* wave : m_waves)
         painter->drawLine(0, wave->top + wave->height - 1, width(), wave->top + wave->height - 1);
@@ -134,7 +134,7 @@ void ProcSimWavesWidget::paintMarks(QPainter* painter)
     painter->setBrush(Qt::NoBrush);
 }
 
-/// The rows of a channel and of its bits share them.
+/// The columns are shared by the rows of a channel and of its bits.
 const ProcSimWaveColumns& ProcSimWavesWidget::columns(const sAddrChannel_t* channel)
 {
     for (const auto& known : m_columns) {
@@ -153,7 +153,7 @@ QVector<ProcSimWavesWidget::sSegment_t> ProcSimWavesWidget::segments(const ProcS
     const auto append = [&result](int x0, int x1, int value) {
         if (x1 <= x0)
             return;
-        // What starts before the left edge may be longer than it looks.
+        // A value that starts before the left edge may be longer than its visible part.
         if (x0 >= 0 && x1 - x0 < segmentMin && value != valueUnknown)
             value = valueDense;
         if (value == valueDense && !result.isEmpty() && result.last().value == valueDense)
@@ -167,8 +167,8 @@ QVector<ProcSimWavesWidget::sSegment_t> ProcSimWavesWidget::segments(const ProcS
     int lastX = start - textWidth;
     for (const ProcSimWaveColumns::sColumn_t& column : columns.columns) {
         const bool repeats = column.bits.isUniform() && column.bits.any == value;
-        // The same value time and again, such as that of a port that is polled, is one value as long as there is no
-        // room to write each.
+        // Repeated equal values, such as those of a port that is polled, are drawn as one value if there is no room for
+        // the text of each.
         const bool joins = repeats && (column.x - lastX < textWidth || column.end - column.first > 1);
         lastX = column.x;
         if (joins)
@@ -207,7 +207,7 @@ void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, c
             painter->fillRect(segment.x0, top, segment.x1 - segment.x0, bottom - top + 1, colDense);
             lines << QLine(segment.x0, top, segment.x1 - 1, top) << QLine(segment.x0, bottom, segment.x1 - 1, bottom);
         } else {
-            // A value is a tube with pointed ends.
+            // A value is drawn as a band with pointed ends.
             const int x0 = segment.x0;
             const int x1 = segment.x1;
             lines << QLine(x0 + 2, top, x1 - 2, top) << QLine(x0 + 2, bottom, x1 - 2, bottom);
@@ -222,7 +222,7 @@ void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, c
         if (segment.value < 0)
             continue;
         const int x = qMax(segment.x0, 0) + textDistance;
-        // Nothing follows the last value: its text may reach behind the present time.
+        // Nothing follows the last value: its text may extend beyond the present time.
         const bool isLast = &segment == &segments.last();
         if (x + m_textWidth + textDistance - 1 <= segment.x1 || (isLast && x + m_textWidth < width()))
             painter->drawText(x, baseLine, m_valueTexts.at(segment.value));

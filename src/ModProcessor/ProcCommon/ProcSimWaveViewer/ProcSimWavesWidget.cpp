@@ -18,7 +18,7 @@ namespace {
 
 constexpr double scaleMax = 64; ///< pixels a clock
 constexpr double scaleAtStart = 8;
-constexpr int endMargin = 32; ///< pixels behind the present time, so that the last value can be read
+constexpr int endMargin = 32; ///< pixels after the present time, so that the last value can be read
 constexpr double barRange = 1e9;
 
 } // namespace
@@ -116,7 +116,7 @@ double ProcSimWavesWidget::end() const
     return double(m_data->clock()) + 1;
 }
 
-/// When the values that are held begin.
+/// Time of the first stored value.
 double ProcSimWavesWidget::begin() const
 {
     qint64 first = -1;
@@ -130,7 +130,7 @@ double ProcSimWavesWidget::begin() const
 double ProcSimWavesWidget::maxFirst() const
 {
     const double first = end() - qMax(1, width() - endMargin) / m_time.pxPerClock();
-    // Less than a pixel is what rounding leaves.
+    // Less than a pixel is a rounding error.
     return first * m_time.pxPerClock() < 0.5 ? 0 : first;
 }
 
@@ -146,7 +146,7 @@ int ProcSimWavesWidget::endColumn() const
 
 void ProcSimWavesWidget::refresh()
 {
-    // Time can have started anew.
+    // Time may have restarted.
     if (m_marker > m_data->clock())
         setMarker(-1);
     if (m_fit)
@@ -159,7 +159,7 @@ void ProcSimWavesWidget::setFirst(double clock)
     const double last = maxFirst();
     const double scale = m_time.pxPerClock();
     m_follow = clock >= last - 1 / scale;
-    // On whole pixels, so that what is drawn moves but does not flicker.
+    // Rounded to whole pixels, so that the picture does not flicker while it moves.
     m_time.setFirst(qMax(0.0, std::round(qMin(clock, last) * scale) / scale));
     updateScrollBar();
     update();
@@ -212,7 +212,7 @@ void ProcSimWavesWidget::setScrollBar(QScrollBar* bar)
     updateScrollBar();
 }
 
-/// The bar counts in pixels, as long as its integers hold them.
+/// The bar counts in pixels, as long as they fit into its integers.
 void ProcSimWavesWidget::updateScrollBar()
 {
     if (m_scrollBar == nullptr)
@@ -367,18 +367,18 @@ bool ProcSimWavesWidget::event(QEvent* event)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
     const QString text = toolTipAt(help->pos());
-    // Where there is no value, the widget's own tool tip tells what can be done.
+    // If there is no value, the widget's own tool tip with the usage is shown.
     if (text.isEmpty())
         return QWidget::event(event);
     QToolTip::showText(help->globalPos(), text, this);
     return true;
 }
 
-/// The value under the pointer, and since when it is there.
+/// The value under the pointer, and the time since which the port has it.
 QString ProcSimWavesWidget::toolTipAt(const QPoint& pos) const
 {
     const sWave_t* wave = waveAt(pos.y());
-    // Of the values in a column of pixels the last one is meant.
+    // If a column of pixels has several values, the last one is used.
     const qint64 clock = m_time.boundary(pos.x() + 1) - 1;
     if (wave == nullptr || clock < 0 || double(clock) >= end())
         return {};

@@ -18,8 +18,8 @@ namespace nsProc {
 ///
 /// It starts at a scale at which single values are readable, and follows the end of time until the user scrolls back;
 /// at the end it follows again. Ctrl with the wheel zooms at the pointer, Shift with the wheel scrolls, and so does
-/// dragging. A click sets a marker, a click on the marker takes it away. Painting costs the same however many values
-/// there are.
+/// dragging. A click sets a marker, a click on the marker takes it away. The cost of painting does not depend on the
+/// number of values.
 class ProcSimWavesWidget : public QWidget
 {
     Q_OBJECT
@@ -32,10 +32,10 @@ public:
     /// @param clkFreq Hz; 0 or below for unknown
     ProcSimWavesWidget(const ProcSimWaveData* data, double clkFreq, QWidget* parent = nullptr);
 
-    /// The rows to draw, at their places; not owned. Whoever deletes one sets the others before that.
+    /// The rows to draw, at their places; not owned. Before a row is deleted, the remaining ones must be set.
     void setWaves(const QList<sWave_t*>& waves);
     const QList<sWave_t*>& waves() const { return m_waves; }
-    /// The row that is marked as the present one, null for none.
+    /// The row that is marked as the current one, null for none.
     void setCurrentWave(const sWave_t* wave);
     /// Height of the axis: rows are visible below it. Pixels.
     void setAxisHeight(int height);
@@ -76,7 +76,7 @@ public slots:
 
 signals:
     void markerChanged(qint64 clock);
-    /// The moment under the pointer, -1 for none.
+    /// The time under the pointer, -1 for none.
     void pointed(qint64 clock);
     /// The rows are to be scrolled: the wheel was turned over the waves.
     void rowsWheeled(QWheelEvent* event);
@@ -109,7 +109,7 @@ private:
     /// Moves the view; at the end it follows from now on.
     void setFirst(double clock);
     void zoom(double factor, double x);
-    /// Where the buttons zoom: the marker if it is in view, the end if that is followed, else the middle.
+    /// The fixed point of the zoom buttons: the marker if it is in view, the end if that is followed, else the middle.
     double zoomPlace() const;
     void updateScrollBar();
     void scrolled(int value);
@@ -125,7 +125,7 @@ private:
     sWave_t* waveAt(int y) const;
     QString toolTipAt(const QPoint& pos) const;
     void setPointer(int x);
-    /// The column behind the present time.
+    /// The column after the present time.
     int endColumn() const;
 
     const ProcSimWaveData* m_data;
@@ -144,7 +144,7 @@ private:
     QPoint m_pressed;
     double m_pressedFirst = 0;
     bool m_dragging = false;
-    std::vector<std::pair<const sAddrChannel_t*, ProcSimWaveColumns>> m_columns; ///< of the picture that is being drawn
+    std::vector<std::pair<const sAddrChannel_t*, ProcSimWaveColumns>> m_columns; ///< while a picture is being drawn
 };
 
 } // namespace nsProc

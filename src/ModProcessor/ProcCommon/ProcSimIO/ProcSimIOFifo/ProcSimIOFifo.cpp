@@ -30,7 +30,7 @@ void ProcSimIOFifo::initValue(unsigned int* values, int count)
 
 void ProcSimIOFifo::setLastValue(int value, eAccess_t access)
 {
-    // As a field with a range: what does not fit is not shown.
+    // Like a field with a range: a value that does not fit is not shown.
     if (value >= 0 && value <= maxValue)
         m_lastValue = value;
     m_lastAccess = access;

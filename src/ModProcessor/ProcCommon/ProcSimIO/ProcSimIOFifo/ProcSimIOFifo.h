@@ -22,7 +22,7 @@ public:
 
     void setBase(int base) override;
     void initValue(unsigned int* values, int count) override;
-    /// The address stays: what is at the port is the list.
+    /// Keeps the address: the device has one list for its port.
     void setValue(int addr, QString name, int value) override;
     bool value(int addr, QString name, int* value) override;
     void setMemSize(int size) override { Q_UNUSED(size) }

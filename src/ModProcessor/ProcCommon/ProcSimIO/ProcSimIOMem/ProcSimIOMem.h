@@ -31,7 +31,7 @@ public:
     bool chkAddr(int addr) override;
     /// Does nothing if there are more values than words.
     void initValue(unsigned int* values, int count) override;
-    /// Dropped where there is no word.
+    /// Ignored if there is no word at the address.
     void setValue(int addr, QString name, int value) override;
     bool value(int addr, QString name, int* value) override;
     /// @param size limited to 0 to maxSize
@@ -39,9 +39,9 @@ public:
     /// @param size decimal, limited to 1 to maxUserSize. @return false if that is no number
     bool setMemSizeFromGui(const QString& size);
     void clearHighlighted() override;
-    /// The words stay.
+    /// Keeps the words.
     void clear() override;
-    /// As long as the cell is the one that was written last.
+    /// True only for the cell that was written last.
     bool holds(int addr, int value) const override
     {
         return m_lastAccess == eAccessWr && m_lastAddr == addr && m_lastValue == value &&

@@ -88,7 +88,7 @@ void ProcSimIOMemView::addArray()
 void ProcSimIOMemView::takeSize()
 {
     m_mem->setMemSizeFromGui(m_size->text());
-    m_shownSize = -1; // what was typed can differ from what holds
+    m_shownSize = -1; // the text can differ from the size that is used
     refresh();
 }
 
@@ -100,7 +100,7 @@ void ProcSimIOMemView::showLastAccess()
         int value;
     } fields[] = {{m_lastAddr, m_mem->lastAddr()}, {m_lastValue, m_mem->lastValue()}};
     for (const auto& [field, value] : fields) {
-        // The base also brings an empty field back to showing a number.
+        // Setting the base also makes an empty field show its number again.
         if (field->base() != m_mem->base() || field->text().isEmpty())
             field->setBase(m_mem->base());
         if (value < 0)

@@ -25,7 +25,7 @@ ProcSimIORegView::ProcSimIORegView(ProcSimIOReg8Bit* device)
     line->addWidget(m_bits);
     body()->addLayout(line);
     connect(m_value, &ProcSimEdtNumeric::edited, this, &ProcSimIORegView::updateValue);
-    // The seven other bits are those that the program has written by now, not those of the last picture.
+    // The seven other bits are taken from the present value, which may be newer than the displayed one.
     connect(m_bits, &ProcSimEdtBitField::aboutToToggle, this, [this] { m_bits->setValue(m_reg->regValue()); });
     connect(m_bits, &ProcSimEdtBitField::valueChanged, this, &ProcSimIORegView::updateValue);
 }
