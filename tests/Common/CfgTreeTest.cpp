@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 
 namespace {
 
@@ -305,25 +304,20 @@ TEST(CfgTree, EncodingOfValuesIsNone)
 
 TEST(CfgTree, LongListsAndDeepPathsAreFine)
 {
-    QElapsedTimer clock;
-    clock.start();
-    {
-        CfgTree tree;
-        QStringList list;
-        for (int i = 0; i < 100000; ++i)
-            list.append(str("file:%1").arg(i));
-        tree.setValue(str("l"), list);
-        EXPECT_EQ(tree.value(str("l"), QStringList()), list);
+    CfgTree tree;
+    QStringList list;
+    for (int i = 0; i < 100000; ++i)
+        list.append(str("file:%1").arg(i));
+    tree.setValue(str("l"), list);
+    EXPECT_EQ(tree.value(str("l"), QStringList()), list);
 
-        QStringList path;
-        for (int i = 0; i < 1000000; ++i)
-            path.append(str("a"));
-        tree.addNode(path)->setValue(str("deep"));
-        EXPECT_EQ(tree.getNode(path)->value(), str("deep"));
-        tree.removeNode(str("a"));
-        tree.addNode(path);
-    }
-    EXPECT_LT(clock.elapsed(), 60000);
+    QStringList path;
+    for (int i = 0; i < 1000000; ++i)
+        path.append(str("a"));
+    tree.addNode(path)->setValue(str("deep"));
+    EXPECT_EQ(tree.getNode(path)->value(), str("deep"));
+    tree.removeNode(str("a"));
+    tree.addNode(path);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "SafeFile.h"
 
+#include "DiesAt.h"
 #include "FullDisk.h"
 #include "OrdinaryUser.h"
 #include "RecoveryStore.h"
@@ -88,21 +89,7 @@ protected:
     /// @return false: it came to its end
     bool dieAt(int step, const char* file, const QByteArray& bytes) const
     {
-        const pid_t child = fork();
-        EXPECT_GE(child, 0);
-        if (child == 0) {
-            int count = 0;
-            SafeFile::setWatch([&count, step](SafeFile::eStep_t) {
-                if (count++ == step)
-                    kill(getpid(), SIGKILL);
-                return 0;
-            });
-            _exit(SafeFile::replace(path(file), bytes, nullptr) ? 0 : 1);
-        }
-        int status = 0;
-        EXPECT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-        return WIFSIGNALED(status);
+        return diesAt(step, [&] { return SafeFile::replace(path(file), bytes, nullptr); });
     }
 
     QTemporaryDir dir;

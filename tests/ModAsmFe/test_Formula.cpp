@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 
 using namespace nsModAsmFe;
 
@@ -273,8 +272,6 @@ TEST(Formula, deepNesting)
 TEST(Formula, manyTerms)
 {
     const int count = 1000000;
-    QElapsedTimer timer;
-    timer.start();
     int value = 0;
     EXPECT_EQ(evaluate(QString("1+").repeated(count - 1) + "1", &value), AsmFeFormula::resultOk);
     EXPECT_EQ(value, count);
@@ -283,7 +280,6 @@ TEST(Formula, manyTerms)
     EXPECT_EQ(value, count / 4);
     EXPECT_EQ(evaluate("1" + QString(count, '-') + "1", &value), AsmFeFormula::resultOk);
     EXPECT_EQ(evaluate(QString(count, '+') + "1", &value), AsmFeFormula::resultSyntax);
-    EXPECT_LT(timer.elapsed(), 30000);
 }
 
 } // namespace

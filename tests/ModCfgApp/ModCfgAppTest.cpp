@@ -1,7 +1,7 @@
 #include "ModCfgApp.h"
+#include "DiesAt.h"
 #include "FakeHooks.h"
 #include "FullDisk.h"
-#include "SafeFile.h"
 
 #include <gtest/gtest.h>
 
@@ -351,24 +351,13 @@ TEST_F(ModCfgAppTest, Clients)
 /// @return false: it came to its end, as the save has fewer steps
 bool saveAndDie(int number, int step)
 {
-    const pid_t child = fork();
-    EXPECT_GE(child, 0);
-    if (child == 0) {
-        int count = 0;
-        SafeFile::setWatch([&count, step](SafeFile::eStep_t) {
-            if (count++ == step)
-                kill(getpid(), SIGKILL);
-            return 0;
-        });
+    return diesAt(step, [number] {
         ModCfgApp cfg;
         for (int k = 0; k < 200; ++k)
             cfg.setValue(str("g%1/key").arg(k), QString::number(number).rightJustified(200, QLatin1Char('0')));
         cfg.saveAppConfig();
-        _exit(0);
-    }
-    int status = 0;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    return WIFSIGNALED(status);
+        return true;
+    });
 }
 
 TEST_F(ModCfgAppTest, KilledWhileSavingTheFileIsWhole)

@@ -169,7 +169,7 @@ TEST_F(GuiTest, SplashScreenStandsInTheMiddleOfTheWindowForAMoment)
     EXPECT_TRUE(splash->isVisible());
     EXPECT_FALSE(splash->pixmap().isNull());
     EXPECT_LE((splash->pos() + splash->rect().center() - QRect(100, 50, 1000, 700).center()).manhattanLength(), 2);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 10000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return splash.isNull(); }, 120000));
     EXPECT_GE(clock.elapsed(), 2300);
 }
 

@@ -1,14 +1,11 @@
 #include "ModPrj.h"
+#include "DiesAt.h"
 #include "PrjTestSupport.h"
-#include "SafeFile.h"
 
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
 
-#include <csignal>
-#include <sys/wait.h>
-#include <unistd.h>
 
 using nsModPrj::ModPrj;
 
@@ -27,23 +24,11 @@ void fill(CfgTree* tree, int number)
 /// @return false: it came to its end, as the save has fewer steps
 bool saveAndDie(const QString& file, int number, int step)
 {
-    const pid_t child = fork();
-    EXPECT_GE(child, 0);
-    if (child == 0) {
-        int count = 0;
-        SafeFile::setWatch([&count, step](SafeFile::eStep_t) {
-            if (count++ == step)
-                kill(getpid(), SIGKILL);
-            return 0;
-        });
+    return diesAt(step, [&] {
         ModPrj prj;
         fill(&prj, number);
-        _exit(prj.savePrjFile(&prj, file) ? 0 : 1);
-    }
-    int status = 0;
-    EXPECT_EQ(waitpid(child, &status, 0), child);
-    EXPECT_TRUE(WIFSIGNALED(status) || WEXITSTATUS(status) == 0);
-    return WIFSIGNALED(status);
+        return prj.savePrjFile(&prj, file);
+    });
 }
 
 TEST(ModPrjKilled, LeavesAWholeFile)

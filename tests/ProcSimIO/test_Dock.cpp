@@ -2,7 +2,6 @@
 
 #include "PortsFixture.h"
 
-#include <QElapsedTimer>
 #include <QScrollArea>
 #include <QSignalSpy>
 
@@ -159,21 +158,10 @@ TEST_F(PortsDock, AMillionWritesCostNoWidget)
     click(ports->devices().at(1), "procSimIOExpand");
     click(ports->devices().at(2), "procSimIOExpand");
     const QString name = "OUT";
-    QElapsedTimer timer;
-    timer.start();
+    dock.refresh();
+    const int widgets = dock.findChildren<QWidget*>().size();
     for (int i = 0; i < 1000000; ++i)
         ports->setValue(i % 3, name, i & 0xFF);
-    const qint64 write = timer.nsecsElapsed() / 1000000;
-    RecordProperty("nsAWrite", int(write));
-    EXPECT_LT(write, 1000);
-    timer.restart();
     dock.refresh();
-    const qint64 first = timer.elapsed();
-    RecordProperty("msRefresh", int(first));
-    EXPECT_LT(first, 2000);
-    timer.restart();
-    for (int i = 0; i < 1000; ++i)
-        dock.refresh();
-    EXPECT_LT(timer.elapsed(), 500) << "nothing to show";
-    std::printf("write %d ns, refresh after a million %d ms\n", int(write), int(first));
+    EXPECT_EQ(dock.findChildren<QWidget*>().size(), widgets);
 }

@@ -187,8 +187,13 @@ TEST_F(SimCommands, BreakpointsChangeDuringARun)
     EXPECT_EQ(pcLine(), 1);
     // Cleared again, the next run has to be stopped by hand.
     widget->setSimBreakpoint(1);
-    QTimer::singleShot(20, widget, [this] { sim()->simStop(); });
     const int before = int(clocks());
+    QTimer beat;
+    QObject::connect(&beat, &QTimer::timeout, widget, [this, before] {
+        if (clocks() > before + 6)
+            sim()->simStop();
+    });
+    beat.start(0);
     trigger(Action::eActionRun);
     EXPECT_GT(clocks(), before + 6);
 }

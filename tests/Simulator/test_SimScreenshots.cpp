@@ -40,8 +40,14 @@ TEST_P(SimScreenshots, RunningSimulation)
     ASSERT_NE(sim()->waveViewer(), nullptr);
     for (int addr = 1; addr < 5; ++addr)
         sim()->waveViewer()->addAddrChannel(addr, nsProc::ProcSimWaveData::eAccessWr, -1, QString());
-    QTimer::singleShot(40, window.get(), [this] { sim()->simStop(); });
+    QTimer beat;
+    QObject::connect(&beat, &QTimer::timeout, window.get(), [this] {
+        if (clocks() > 20000)
+            sim()->simStop();
+    });
+    beat.start(0);
     trigger(Action::eActionRun);
+    beat.stop();
     for (int i = 0; i < 30 && sim()->callStack()->count() < 2; ++i)
         trigger(Action::eActionNextInstruction);
     if (auto* fit = sim()->waveViewer()->findChild<QAbstractButton*>("procSimWaveZoomFit"))
