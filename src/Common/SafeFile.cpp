@@ -267,7 +267,8 @@ bool SafeFile::writeInPlace()
     const QByteArray old = reader.readAll();
     if (reader.error() != QFileDevice::NoError || old.size() != reader.size())
         return fail(EIO);
-    const int target = ::open(QFile::encodeName(m_target).constData(), O_WRONLY | O_CLOEXEC);
+    // Also for reading, which reserving space needs on a file system that does not support it.
+    const int target = ::open(QFile::encodeName(m_target).constData(), O_RDWR | O_CLOEXEC);
     if (target < 0)
         return fail(errno);
     RecoveryStore store;

@@ -218,8 +218,10 @@ void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& tit
         gone.clear();
         added = now;
     }
-    for (const QString& name : qAsConst(gone))
+    for (const QString& name : qAsConst(gone)) {
+        goesOn();
         menu->removeEntry(title + '/' + name);
+    }
     for (const QString& name : qAsConst(added)) {
         goesOn();
         menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);

@@ -53,6 +53,10 @@ DocumentOnDisk::eState_t DocumentOnDisk::state(const QString& path, QByteArray* 
         return eStateChanged;
     }
     const QByteArray content = file.readAll();
+    if (file.error() != QFileDevice::NoError || content.size() < file.size()) {
+        *bytes = QByteArray();
+        return eStateChanged;
+    }
     if (m_known && hashOf(content) == m_hash)
         return eStateSame;
     // Empty content must differ from no content (null).

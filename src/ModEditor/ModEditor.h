@@ -247,9 +247,12 @@ private:
         QPointer<MyNoticeBar> notice;     ///< others have changed or removed the file
         QPointer<MyNoticeBar> lockNotice; ///< the file can not be shown as it is
         QByteArray reported;              ///< what the notice was about, closed or not
+        bool isGivenUp = false;           ///< the user has agreed to lose the text `givenUp`
+        QString givenUp;
     };
     /// Shows what was read. @param asEdit as a step to undo
     void setContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit);
+    bool keepReplacedText(EditorWidget* widget);
     /// After an open or a reload.
     void showContent(EditorWidget* widget, const QByteArray& bytes);
     void setNewPath(EditorWidget* widget, const QString& path);

@@ -5,6 +5,7 @@
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
 #include "EditorWidget.h"
+#include "MyNoticeBar.h"
 
 #include "ModClipboardHookIf.h"
 #include "ModFindReplaceHookIf.h"
@@ -264,6 +265,9 @@ void ModEditor::findExit()
 {
     if (modGuiHook != nullptr)
         modGuiHook->clearStatusBarText();
+    // The search bar was in front of it.
+    if (modGuiHook != nullptr && m_recoveryNotice != nullptr)
+        modGuiHook->setCurrentWidget(m_recoveryNotice.data());
 }
 
 void ModEditor::setFindParameter()

@@ -209,11 +209,23 @@ ModEditor::eConflict_t ModEditor::compareWithFile(EditorWidget* widget, const QB
     return m_editorWidgets.contains(widget) ? eConflict_t(answer) : eConflictCancel;
 }
 
+/// Puts the changed text of a document aside before that of its file replaces it. Undo does not bring it back where the document
+/// is being closed, or where the file can only be read.
+bool ModEditor::keepReplacedText(EditorWidget* widget)
+{
+    if (!widget->isModified() || m_recovery == nullptr)
+        return true;
+    if (!keepText(widget, false))
+        return false;
+    m_recovery->release(widget);
+    return true;
+}
+
 /// Takes over what the file holds now.
 bool ModEditor::takeFile(EditorWidget* widget)
 {
     QByteArray bytes;
-    if (!readFile(widget->filePath(), &bytes))
+    if (!readFile(widget->filePath(), &bytes) || !keepReplacedText(widget))
         return false;
     setContent(widget, bytes, true);
     return true;
@@ -264,6 +276,11 @@ void ModEditor::checkDisk(EditorWidget* widget)
         return;
     }
     if (state == DocumentOnDisk::eStateChanged && !widget->isModified() && !other.isNull()) {
+        QString text;
+        // A file that was destroyed takes the steps to undo with it: the good text is kept.
+        if (DocumentFormat::decode(other, &text).obstacle() != DocumentFormat::eObstacleNone && !widget->isReadOnly() &&
+            m_recovery != nullptr && keepText(widget, false))
+            m_recovery->release(widget);
         setContent(widget, other, true);
         return;
     }

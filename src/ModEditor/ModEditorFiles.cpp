@@ -36,6 +36,11 @@ bool ModEditor::readFile(const QString& path, QByteArray* bytes)
         return false;
     }
     *bytes = file.readAll();
+    // A document that is the beginning of its file only would be saved as the whole.
+    if (file.error() != QFileDevice::NoError || bytes->size() < file.size()) {
+        showError(tr("Can not open file: ") + path);
+        return false;
+    }
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "ModEditor.h"
 
+#include "DocumentFormat.h"
 #include "EditorRecovery.h"
 #include "EditorWidget.h"
 #include "RecoverDialog.h"
@@ -26,11 +27,18 @@ namespace {
 
 const int resultRestore = 2;
 
-/// A kept document is UTF-8; a file that was being written in place may be anything.
-QString textOf(const QByteArray& bytes)
+/// The text of a file: its bytes have line ends and a mark of their own.
+QString textOfFile(const QByteArray& bytes)
 {
-    const QString text = QString::fromUtf8(bytes);
-    return text.toUtf8() == bytes ? text : QString::fromLatin1(bytes);
+    QString text;
+    DocumentFormat::decode(bytes, &text);
+    return text;
+}
+
+/// What was kept of a document is its text in UTF-8; what was kept of a file that was being written in place are its bytes.
+QString textOf(const RecoveryStore::Entry& entry, const QByteArray& bytes)
+{
+    return entry.kind == RecoveryStore::eKindReplaced ? textOfFile(bytes) : QString::fromUtf8(bytes);
 }
 
 } // namespace
@@ -90,13 +98,26 @@ void ModEditor::settleFiles(bool isNew)
 /// room in neither and the user gives it up. The document may be gone.
 void ModEditor::settleFile(EditorWidget* widget, bool isNew)
 {
-    if (!widget->isModified() || (m_recovery != nullptr && m_recovery->isKept(widget)))
+    const sDisk_t disk = m_disk.value(widget);
+    if ((m_recovery != nullptr && m_recovery->isKept(widget)) || (disk.isGivenUp && disk.givenUp == widget->text()))
         return;
+    if (!widget->isModified()) {
+        // The text of a file that was removed by others exists only here.
+        if (disk.onDisk.isKnown() && !widget->isReadOnly() && !QFileInfo::exists(widget->filePath()))
+            keepText(widget, isNew);
+        return;
+    }
     const bool isSaved = askForSave(widget->filePath()) && m_editorWidgets.contains(widget) && saveFile(widget);
     while (!isSaved && m_editorWidgets.contains(widget) && !keepText(widget, isNew)) {
         if (ask(tr("Text can not be kept"), tr("Neither the file nor a copy of the text can be written:"),
-                widget->filePath(), {tr("Do you want to give the text up?")}))
+                widget->filePath(), {tr("Do you want to give the text up?")})) {
+            // Whoever closes the project or ends the program passes here more than once.
+            if (m_editorWidgets.contains(widget)) {
+                m_disk[widget].isGivenUp = true;
+                m_disk[widget].givenUp = widget->text();
+            }
             return;
+        }
         if (m_editorWidgets.contains(widget) && saveFileAs(widget))
             return;
     }
@@ -168,7 +189,9 @@ void ModEditor::offerRecovery()
                                                       tr("Shows the texts that were kept, to compare and restore them"));
     connect(button, &QPushButton::clicked, this, [this] {
         showRecoverDialog();
-        closeRecoveryNotice();
+        // Without a project nothing could be restored yet: the offer stands.
+        if ((modPrjHook != nullptr && modPrjHook->isValid()) || m_recovery->store()->entries().isEmpty())
+            closeRecoveryNotice();
         focusCurrentWidget();
     });
     connect(m_recoveryNotice, &MyNoticeBar::closed, this, [this, entries] {
@@ -213,9 +236,11 @@ void ModEditor::showRecoverDialog()
         dialog.fill();
     });
     dialog.exec();
-    // Who has seen the list need not be told of it again.
-    for (const RecoveryStore::Entry& entry : m_recovery->store()->entries())
-        m_recovery->store()->setSeen(entry.id);
+    // A user who has seen the list, and could restore from it, need not be told of it again.
+    if (dialog.isRestoreEnabled()) {
+        for (const RecoveryStore::Entry& entry : m_recovery->store()->entries())
+            m_recovery->store()->setSeen(entry.id);
+    }
     focusCurrentWidget();
 }
 
@@ -241,13 +266,13 @@ bool ModEditor::restoreText(const QString& id)
     const bool exists = QFileInfo::exists(entry.path);
     if (widget == nullptr)
         widget = exists ? openFileWidget(entry.path) : newEditorWidget(entry.path);
-    // Beside a file that can not be opened, the text has no name.
-    if (widget == nullptr)
+    // Beside a file that can not be opened, or not be edited, the text has no name.
+    if (widget == nullptr || widget->isReadOnly())
         widget = newEditorWidget(QString());
     else if (modGuiHook != nullptr)
         modGuiHook->setCurrentWidget(widget);
     widget->selectAll();
-    widget->insertText(textOf(bytes));
+    widget->insertText(textOf(entry, bytes));
     widget->setCursorPos(0);
     widget->document()->setModified(true);
     m_recovery->take(id, widget);
@@ -269,9 +294,9 @@ bool ModEditor::compareText(const QString& id, bool canRestore)
     if (widget != nullptr)
         present = widget->text();
     else if (QFileInfo(entry.path).isFile() && file.size() <= maxFileSize && file.open(QIODevice::ReadOnly))
-        present = textOf(file.readAll());
+        present = textOfFile(file.readAll());
     TextCompareDialog dialog(QApplication::activeWindow());
-    dialog.setTexts(tr("Kept on %1").arg(RecoverDialog::timeText(entry)), textOf(bytes),
+    dialog.setTexts(tr("Kept on %1").arg(RecoverDialog::timeText(entry)), textOf(entry, bytes),
                     widget != nullptr ? tr("In the editor") : tr("In the file"), present);
     if (canRestore)
         dialog.addButton(tr("Restore"), tr("Opens the document with the kept text; its file is left alone until it is saved"),

@@ -43,7 +43,7 @@ const int rightWidth = 300;  ///< starting width of the area to the right of the
 
 ModGui::ModGui(QMainWindow* window)
     : QObject(window)
-    , m_window(window)
+    , m_windowObject(window)
 {
     setupCenter();
     setupDocks();
@@ -58,6 +58,11 @@ ModGui::~ModGui()
     qDeleteAll(m_widgets);
 }
 
+QMainWindow* ModGui::window() const
+{
+    return qobject_cast<QMainWindow*>(m_windowObject.data());
+}
+
 template <class Area>
 void ModGui::setArea(eLocation_t location, Area* area)
 {
@@ -67,7 +72,7 @@ void ModGui::setArea(eLocation_t location, Area* area)
 
 void ModGui::setupCenter()
 {
-    auto* center = new QWidget(m_window);
+    auto* center = new QWidget(window());
     auto* layout = new QVBoxLayout(center);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -88,7 +93,7 @@ void ModGui::setupCenter()
 
     auto* below = new WidgetAreaStacked(center);
     layout->addWidget(below);
-    m_window->setCentralWidget(center);
+    window()->setCentralWidget(center);
 
     setArea(eLocationTabs, tabbed);
     setArea(eLocationCenterRight, right);
@@ -101,7 +106,7 @@ void ModGui::setupCenter()
 
 void ModGui::setupDocks()
 {
-    m_dockShares = new DockShares(m_window);
+    m_dockShares = new DockShares(window());
     const struct
     {
         eLocation_t location;
@@ -114,9 +119,9 @@ void ModGui::setupDocks()
         {eLocationDockRight, Qt::RightDockWidgetArea, QT_TR_NOOP("Dock widget right"), "dockRight"},
     };
     for (const auto& entry : docks) {
-        auto* dock = new WidgetAreaDock(tr(entry.title), m_window);
+        auto* dock = new WidgetAreaDock(tr(entry.title), window());
         dock->setObjectName(QLatin1String(entry.objectName));
-        m_window->addDockWidget(entry.side, dock);
+        window()->addDockWidget(entry.side, dock);
         setArea(entry.location, dock);
         connect(dock, &WidgetAreaDock::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
         m_dockShares->add(dock);
@@ -126,7 +131,7 @@ void ModGui::setupDocks()
 
 void ModGui::setupStatusBar()
 {
-    m_statusBar = m_window->statusBar();
+    m_statusBar = window()->statusBar();
     for (eLocation_t location : {eLocationStatusFirst, eLocationStatusSecond, eLocationStatusThird}) {
         auto* frame = new StatusFrame;
         m_statusBar->addPermanentWidget(frame);
@@ -138,10 +143,10 @@ void ModGui::setupStyle()
 {
     QFile file(QStringLiteral(":/styles/styles/stylesheet.css"));
     if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        m_window->setStyleSheet(QString::fromUtf8(file.readAll()));
+        window()->setStyleSheet(QString::fromUtf8(file.readAll()));
     else
         qDebug("Can not open style sheet");
-    m_window->setWindowIcon(QIcon(QStringLiteral(":/ModGui/img/appIcon.png")));
+    window()->setWindowIcon(QIcon(QStringLiteral(":/ModGui/img/appIcon.png")));
 }
 
 WidgetArea* ModGui::area(int location) const
@@ -198,10 +203,10 @@ void ModGui::unregisterPlugin(ModGuiPluginIf* plugin)
 
 void ModGui::setWindowTitle(QString text)
 {
-    if (m_window == nullptr)
+    if (window() == nullptr)
         return;
     const QString name = QCoreApplication::applicationName();
-    m_window->setWindowTitle(text.isEmpty() ? name : name + QStringLiteral(" - ") + text);
+    window()->setWindowTitle(text.isEmpty() ? name : name + QStringLiteral(" - ") + text);
     m_tabbed->setOpenText(text);
 }
 
@@ -261,7 +266,7 @@ void ModGui::removeWidget(QWidget* widget)
 
 bool ModGui::holdsFocus(const QWidget* widget) const
 {
-    const QWidget* focus = m_window != nullptr ? m_window->focusWidget() : nullptr;
+    const QWidget* focus = window() != nullptr ? window()->focusWidget() : nullptr;
     return focus != nullptr && widget != nullptr && (focus == widget || widget->isAncestorOf(focus));
 }
 
@@ -289,8 +294,8 @@ void ModGui::focusPage()
 /// Called after a change of page. A field in a dock keeps the focus, as steps of the simulator change pages.
 void ModGui::focusNewPage()
 {
-    const QWidget* focus = m_window != nullptr ? m_window->focusWidget() : nullptr;
-    const bool elsewhere = focus != nullptr && focus->isVisible() && focus->isEnabled() && focus != m_window &&
+    const QWidget* focus = window() != nullptr ? window()->focusWidget() : nullptr;
+    const bool elsewhere = focus != nullptr && focus->isVisible() && focus->isEnabled() && focus != window() &&
                            !m_tabbed->isAncestorOf(focus) && focus != m_tabbed;
     if (!elsewhere)
         focusPage();
@@ -439,12 +444,12 @@ void ModGui::modRun()
 /// Restores tool bars and docks as the user has left them.
 void ModGui::restoreState()
 {
-    if (modCfgAppHook == nullptr || m_window == nullptr)
+    if (modCfgAppHook == nullptr || window() == nullptr)
         return;
     const QStringList state = modCfgAppHook->value(keyState, QStringList());
     for (const QString& entry : state) {
         if (entry.startsWith(entryBars))
-            m_window->restoreState(QByteArray::fromBase64(entry.mid(entryBars.size()).toLatin1()), stateVersion);
+            window()->restoreState(QByteArray::fromBase64(entry.mid(entryBars.size()).toLatin1()), stateVersion);
     }
     // The visibility of docks is not restored: it depends on whether they have pages now.
     for (WidgetAreaDock* dock : qAsConst(m_docks)) {
@@ -472,9 +477,9 @@ QList<QAction*> ModGui::toolBarActions(ModActionHookIf::eActionClass_t actionCla
 
 void ModGui::handleActions(GuiActions::eAction_t action)
 {
-    if (action != GuiActions::eActionSetDefaultWindowSize || m_window == nullptr)
+    if (action != GuiActions::eActionSetDefaultWindowSize || window() == nullptr)
         return;
-    m_window->resize(pictureWindow);
+    window()->resize(pictureWindow);
     if (auto* dock = static_cast<WidgetAreaDock*>(m_areas[eLocationDockBottom].widget.data()))
         dock->setHeight(pictureDockHeight);
     m_dockShares->record();
@@ -482,20 +487,20 @@ void ModGui::handleActions(GuiActions::eAction_t action)
 
 void ModGui::rdAppCfg()
 {
-    if (modCfgAppHook == nullptr || m_window == nullptr)
+    if (modCfgAppHook == nullptr || window() == nullptr)
         return;
-    const QRect first = WindowPlace::first(m_window);
+    const QRect first = WindowPlace::first(window());
     const QSize size(modCfgAppHook->value(keyWidth, first.width()), modCfgAppHook->value(keyHeight, first.height()));
     const auto place = [this](const QString& key, int dflt) {
         return qBound(-WindowPlace::farthest, modCfgAppHook->value(key, dflt), WindowPlace::farthest);
     };
     const QPoint position(place(keyX, first.x()), place(keyY, first.y()));
     const QRect geometry = WindowPlace::reachable(
-        QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), m_window);
-    m_window->setGeometry(geometry);
-    m_window->setIconSize(windowIconSize);
+        QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), window());
+    window()->setGeometry(geometry);
+    window()->setIconSize(windowIconSize);
     if (modCfgAppHook->value(keyState, QStringList()).contains(entryMaximized))
-        m_window->setWindowState(m_window->windowState() | Qt::WindowMaximized);
+        window()->setWindowState(window()->windowState() | Qt::WindowMaximized);
 
     delete m_splashScreen;
     m_splashScreen = new SplashScreen;
@@ -504,14 +509,14 @@ void ModGui::rdAppCfg()
 
 void ModGui::wrAppCfg()
 {
-    if (modCfgAppHook == nullptr || m_window == nullptr)
+    if (modCfgAppHook == nullptr || window() == nullptr)
         return;
-    const bool maximized = m_window->isMaximized();
-    const QRect geometry = maximized ? m_window->normalGeometry() : m_window->geometry();
+    const bool maximized = window()->isMaximized();
+    const QRect geometry = maximized ? window()->normalGeometry() : window()->geometry();
     QStringList state = m_dockShares->shares();
     if (maximized)
         state.append(entryMaximized);
-    state.append(entryBars + QString::fromLatin1(m_window->saveState(stateVersion).toBase64()));
+    state.append(entryBars + QString::fromLatin1(window()->saveState(stateVersion).toBase64()));
     modCfgAppHook->setValue(keyState, state);
     modCfgAppHook->setValue(keyWidth, geometry.width());
     modCfgAppHook->setValue(keyHeight, geometry.height());

@@ -116,7 +116,10 @@ private:
     void forgetWidget(QWidget* widget);
     void showStoredStatusText(QWidget* widget);
 
-    QPointer<QMainWindow> m_window;
+    /// The main window; null while it is being destroyed, when its children still report.
+    QMainWindow* window() const;
+
+    QPointer<QObject> m_windowObject;
     QPointer<QStatusBar> m_statusBar; ///< of the window; it can go before the pages do
     WidgetAreaTabbed* m_tabbed = nullptr; ///< owned by the window
     sArea_t m_areas[areaCount]; ///< by location; the first stays empty

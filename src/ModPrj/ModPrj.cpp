@@ -9,7 +9,9 @@
 #include "ModMsgHookIf.h"
 #include "ModScriptHookIf.h"
 
+#include <QApplication>
 #include <QFileInfo>
+#include <QMessageBox>
 
 namespace nsModPrj {
 
@@ -171,7 +173,9 @@ bool ModPrj::closePrj()
     m_closing = true;
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjAboutToClose(); });
     if (modGuiHook != nullptr) {
-        group.end(saveOpenPrj());
+        // At the end of the program, nobody can read the messages any more.
+        while (!group.end(saveOpenPrj()) && m_exiting && askToTryAgain()) {
+        }
         modGuiHook->setWindowTitle(QString());
     }
     m_path.clear();
@@ -375,12 +379,27 @@ bool ModPrj::modExitRequest()
     return true;
 }
 
+/// Neither Enter nor Esc loses the changes of the project.
+bool ModPrj::askToTryAgain()
+{
+    QMessageBox box(QMessageBox::Warning, tr("Project can not be saved"),
+                    QLatin1String("<p>") + tr("The project file can not be written:") + QLatin1String("</p><p><b>") +
+                        m_path.toHtmlEscaped() + QLatin1String("</b><p><p>") +
+                        tr("Without the file, the changes of the project are lost.") + QLatin1String("</p>"),
+                    QMessageBox::Retry | QMessageBox::Discard, QApplication::activeWindow());
+    box.setDefaultButton(QMessageBox::Retry);
+    box.setEscapeButton(QMessageBox::Retry);
+    return box.exec() == QMessageBox::Retry && isValid();
+}
+
 void ModPrj::modExitIntermod() {}
 
 void ModPrj::modExit()
 {
     if (isValid()) {
+        m_exiting = true;
         closePrj();
+        m_exiting = false;
         prjMngrSetup();
         prjMngrSetMode(eModeOpen);
     }

@@ -162,6 +162,8 @@ private:
     bool openPrjInGroup(const QString& file);
     /// savePrjCfg() with its result.
     bool saveOpenPrj();
+    /// After a failed save at the end of the program.
+    bool askToTryAgain();
     void setWindowTitle();
     void updateCloseAction();
     void info(const QString& text);
@@ -171,6 +173,7 @@ private:
     QString m_path;      ///< absolute path of the project file; empty: no project is open
     int m_openCount = 0; ///< number of projects opened so far, to detect that another project was opened
     bool m_saving = false;
+    bool m_exiting = false; ///< the program ends
     bool m_closing = false;
     PrjActions* m_actions = nullptr;   ///< null in a program without menus
     QPointer<PrjConfigPage> m_page;    ///< while the configuration dialog is open

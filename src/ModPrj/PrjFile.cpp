@@ -271,10 +271,10 @@ bool isOverlongTag(const QByteArray& text, int* pos)
 /// would take hours for a tag with very many of them.
 bool hasOverlongTag(const QByteArray& text)
 {
-    // In an encoding with two bytes a character, bytes may look like a comment without being one.
-    const bool isWide = text.contains('\0');
+    // In the value of an entity, or between the shifts of some encodings, text may look like a comment without being one.
+    const bool misleads = text.contains('\x1b') || text.contains("<!DOCTYPE");
     for (int pos = text.indexOf('<'); pos >= 0; pos = text.indexOf('<', pos)) {
-        const int next = isWide ? pos : skipText(text, pos);
+        const int next = misleads ? pos : skipText(text, pos);
         if (next != pos)
             pos = next;
         else if (isOverlongTag(text, &pos))
@@ -326,7 +326,8 @@ QByteArray PrjFile::format(CfgTree* tree, QStringList* dropped)
 bool PrjFile::parse(CfgTree* tree, const QByteArray& text)
 {
     const QByteArray content = withoutLeadingSpace(text);
-    return !hasOverlongTag(content) && Parser(tree->getNode(QStringList()), content).run();
+    // A project file is UTF-8, which has no NUL; encodings of wide characters would hide tags from the check.
+    return !content.contains('\0') && !hasOverlongTag(content) && Parser(tree->getNode(QStringList()), content).run();
 }
 
 bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)

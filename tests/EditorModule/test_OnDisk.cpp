@@ -430,7 +430,7 @@ TEST_F(OnDisk, anUnmodifiedDocumentFollowsItsFile)
     lines.first().prepend('X');
     lines.insert(10, "new 1\nnew 2");
     write("a.psm", lines.join('\n').toUtf8());
-    QTRY_COMPARE_WITH_TIMEOUT(widget->blockCount(), 302, generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget->blockCount() == 302; }, generous));
     EXPECT_EQ(widget->text(), lines.join('\n'));
     EXPECT_FALSE(widget->isModified());
     EXPECT_FALSE(hasNotice(widget));
@@ -451,10 +451,10 @@ TEST_F(OnDisk, aFileThatIsReplacedIsFollowedAgainAndAgain)
     EditorWidget* widget = open("a.psm", "one\n");
     for (const char* text : {"two\n", "three\n", "four\n"}) {
         replace("a.psm", text);
-        QTRY_COMPARE_WITH_TIMEOUT(widget->text(), QString(text), generous);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return widget->text() == QString(text); }, generous));
     }
     write("a.psm", "in place\n");
-    QTRY_COMPARE_WITH_TIMEOUT(widget->text(), QString("in place\n"), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget->text() == QString("in place\n"); }, generous));
 }
 
 TEST_F(OnDisk, aModifiedDocumentGetsANoticeAndKeepsItsText)
@@ -462,7 +462,7 @@ TEST_F(OnDisk, aModifiedDocumentGetsANoticeAndKeepsItsText)
     EditorWidget* widget = open("a.psm", "NOP\n");
     type(widget, "X");
     write("a.psm", "theirs\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     EXPECT_EQ(widget->text(), "XNOP\n");
     press(widget, "Keep mine");
     EXPECT_FALSE(hasNotice(widget));
@@ -477,7 +477,7 @@ TEST_F(OnDisk, theNoticeTakesTheFile)
     EditorWidget* widget = open("a.psm", "NOP\n");
     type(widget, "X");
     write("a.psm", "theirs\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     press(widget, "Take the file");
     EXPECT_FALSE(hasNotice(widget));
     EXPECT_EQ(widget->text(), "theirs\n");
@@ -489,7 +489,7 @@ TEST_F(OnDisk, aClosedNoticeLeavesTheQuestionForTheSave)
     EditorWidget* widget = open("a.psm", "NOP\n");
     type(widget, "X");
     write("a.psm", "theirs\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     QTest::keyClick(notice(widget), Qt::Key_Escape);
     EXPECT_FALSE(hasNotice(widget));
     ModalHelper helper([](QDialog* dialog) { dialog->reject(); });
@@ -502,7 +502,7 @@ TEST_F(OnDisk, aVanishedFileIsReportedAndCanBeSavedAgain)
 {
     EditorWidget* widget = open("a.psm", "NOP\n");
     QFile::remove(path("a.psm"));
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     EXPECT_EQ(widget->text(), "NOP\n");
     press(widget, "Save again");
     EXPECT_FALSE(hasNotice(widget));
@@ -514,13 +514,13 @@ TEST_F(OnDisk, theNoticeGoesWhenTheFileIsAsItWas)
     EditorWidget* widget = open("a.psm", "NOP\n");
     type(widget, "X");
     write("a.psm", "theirs\n");
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     write("a.psm", "NOP\n");
-    QTRY_VERIFY_WITH_TIMEOUT(!hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !hasNotice(widget); }, generous));
     QFile::remove(path("a.psm"));
-    QTRY_VERIFY_WITH_TIMEOUT(hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return hasNotice(widget); }, generous));
     write("a.psm", "NOP\n");
-    QTRY_VERIFY_WITH_TIMEOUT(!hasNotice(widget), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !hasNotice(widget); }, generous));
     EXPECT_EQ(widget->text(), "XNOP\n");
 }
 
@@ -532,7 +532,7 @@ TEST_F(OnDisk, twoDocumentsOfOneFileDoNotOverwriteEachOther)
     ASSERT_NE(first, second);
     type(second, "X");
     EXPECT_TRUE(editor.saveFile());
-    QTRY_COMPARE_WITH_TIMEOUT(first->text(), QString("XNOP\n"), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first->text() == QString("XNOP\n"); }, generous));
     EXPECT_FALSE(first->isModified());
 }
 
@@ -545,7 +545,7 @@ TEST_F(OnDisk, aDocumentThatIsSavedKeepsItsUndoSteps)
     EXPECT_TRUE(editor.saveFile());
     // What the watch reports of the save itself has arrived when it reports something later.
     write("b.psm", "theirs\n");
-    QTRY_COMPARE_WITH_TIMEOUT(other->text(), QString("theirs\n"), generous);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other->text() == QString("theirs\n"); }, generous));
     EXPECT_FALSE(hasNotice(widget));
     EXPECT_FALSE(widget->isModified());
     widget->undo();

@@ -106,7 +106,7 @@ TEST_F(Recovery, theTimerDoesIt)
     type(open("a.psm", "NOP"), "X");
     editor.recovery()->setDelay(1);
     QSignalSpy looks(editor.recovery(), &EditorRecovery::looking);
-    QTRY_VERIFY_WITH_TIMEOUT(!looks.isEmpty(), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !looks.isEmpty(); }, 60000));
     editor.recovery()->waitForDone();
     EXPECT_EQ(onDisk(), kept("a.psm", "XNOP"));
 }
@@ -340,6 +340,83 @@ TEST_F(Recovery, comparingShowsTheKeptTextBesideTheFile)
     EXPECT_EQ(differences, 1);
     ASSERT_NE(document("a.psm"), nullptr);
     EXPECT_EQ(document("a.psm")->text(), "XNOP\n");
+}
+
+TEST_F(Recovery, aTextIsNotRestoredIntoAFileThatCanNotBeEdited)
+{
+    write("a.psm", "NOP\n");
+    killed([this](ModEditor* other) {
+        EXPECT_TRUE(other->openFile(path("a.psm")));
+        type(other->editorWidgets().first(), "X");
+    });
+    write("a.psm", QByteArray(8, '\0'));
+    ModalAnswers answers({[](QDialog* dialog) { press(dialog, "recoverRestore"); }});
+    recoverAction()->trigger();
+    EXPECT_EQ(answers.seen(), 1);
+    ASSERT_FALSE(editor.editorWidgets().isEmpty());
+    EditorWidget* widget = editor.editorWidgets().last();
+    EXPECT_TRUE(widget->filePath().isEmpty());
+    EXPECT_EQ(widget->text(), "XNOP\n");
+    look();
+    EXPECT_TRUE(onDisk().values().contains("XNOP\n"));
+    EXPECT_EQ(read("a.psm"), QByteArray(8, '\0'));
+}
+
+TEST_F(Recovery, takingAFileThatCanNotBeShownKeepsTheText)
+{
+    EditorWidget* widget = open("a.psm", "NOP\n");
+    type(widget, "X");
+    write("a.psm", QByteArray("\xff\xfeN\0O\0", 6));
+    ModalAnswers answers({[](QDialog* dialog) {
+        for (QAbstractButton* button : dialog->findChildren<QAbstractButton*>()) {
+            if (button->text() == "Take the file")
+                button->click();
+        }
+    }});
+    EXPECT_TRUE(editor.saveFile());
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_TRUE(widget->isReadOnly());
+    look();
+    EXPECT_EQ(onDisk(), kept("a.psm", "XNOP\n"));
+}
+
+TEST_F(Recovery, theTextOfAFileThatWasRemovedOutsideIsKeptWhenItCloses)
+{
+    open("a.psm", "NOP\n");
+    QFile::remove(path("a.psm"));
+    editor.closeFile();
+    EXPECT_EQ(document("a.psm"), nullptr);
+    look();
+    EXPECT_EQ(onDisk(), kept("a.psm", "NOP\n"));
+}
+
+TEST_F(Recovery, aKeptTextDiffersFromAFileWithOtherLineEndsByItsChangesAlone)
+{
+    write("a.psm", "\xEF\xBB\xBFNOP\r\nRET\r\n");
+    killed([this](ModEditor* other) {
+        EXPECT_TRUE(other->openFile(path("a.psm")));
+        type(other->editorWidgets().first(), "X");
+    });
+    int differences = -1;
+    bool isPressed = false;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        QWidget* modal = QApplication::activeModalWidget();
+        if (auto* compare = qobject_cast<TextCompareDialog*>(modal)) {
+            differences = compare->differenceCount();
+            EXPECT_EQ(compare->findChildren<TextCompareSide*>().size(), 2);
+            compare->done(0);
+        } else if (auto* dialog = qobject_cast<nsModEditor::RecoverDialog*>(modal)) {
+            if (!isPressed)
+                pressSoon(dialog, "recoverCompare");
+            else if (differences >= 0)
+                dialog->reject();
+            isPressed = true;
+        }
+    });
+    timer.start(1);
+    recoverAction()->trigger();
+    EXPECT_EQ(differences, 1);
 }
 
 TEST_F(Recovery, aTextWithoutAFileComesBackWithoutOne)

@@ -61,7 +61,7 @@ protected:
         editor->show();
         editor->activateWindow();
         editor->setFocus();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(editor.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(editor.get(), 60000));
     }
 
     static void connectAll(nsModEditor::EditorWidget* widget)

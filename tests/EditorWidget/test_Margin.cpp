@@ -250,7 +250,7 @@ TEST_F(Margin, TheMarginIsPaintedAnewOnAScroll)
     editor->leftMargin()->installEventFilter(&counter);
     editor->verticalScrollBar()->setValue(4);
     const QRegion all = editor->leftMargin()->rect();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.painted == all; }, 2000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.painted == all; }, 60000));
 }
 
 TEST_F(Margin, WrappedLinesAreOneLine)

@@ -105,7 +105,7 @@ TEST_F(Screenshot, EverythingAtOnce)
     }
     page.resize(x - 8, 360);
     page.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&page, 60000));
     valid->setLineHighlighted(9);
     valid->find("start", false, true, false, EditorWidget::eFindOriginStart);
     EXPECT_TRUE(map->valid);

@@ -205,7 +205,7 @@ protected:
         config->openDialog();
         dialog()->resize(700, 400);
         dialog()->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(dialog(), 60000));
     }
     QWidget* dialog() const { return gui.widgetNamed("Configuration"); }
     QListWidget* list() const { return dialog()->findChild<QListWidget*>(); }

@@ -213,7 +213,7 @@ TEST_F(MsgTest, NewestMessageIsInSightAndColumnsFitWhenControlReturns)
     const auto isSeen = [this](int row) {
         return viewer->viewport()->rect().contains(viewer->visualItemRect(viewer->topLevelItem(row)).center());
     };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(299); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(299); }, 60000));
     EXPECT_GE(viewer->columnWidth(0), viewer->fontMetrics().horizontalAdvance("message number 299"));
     EXPECT_EQ(viewer->header()->sectionResizeMode(0), QHeaderView::ResizeToContents);
     EXPECT_EQ(viewer->header()->sectionResizeMode(1), QHeaderView::ResizeToContents);
@@ -223,7 +223,7 @@ TEST_F(MsgTest, NewestMessageIsInSightAndColumnsFitWhenControlReturns)
     QCoreApplication::processEvents();
     EXPECT_EQ(viewer->verticalScrollBar()->value(), 0);
     hook->showInfoMessage("newest");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(300); }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isSeen(300); }, 60000));
 }
 
 TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
@@ -240,7 +240,7 @@ TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
     hook->closeMessageGroup(true);
     const QTreeWidgetItem* outer = viewer->topLevelItem(100);
     EXPECT_TRUE(
-        QTest::qWaitFor([&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }));
+        QTest::qWaitFor([&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }, 60000));
     EXPECT_FALSE(outer->isExpanded());
 }
 

@@ -51,7 +51,7 @@ protected:
         page->resize(500, 300);
         page->show();
         page->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(page.data()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(page.data(), 60000));
     }
     void closePage(bool accepted)
     {

@@ -108,7 +108,7 @@ protected:
         widget.resize(320, 480);
         widget.show();
         widget.activateWindow();
-        if (!QTest::qWaitForWindowActive(&widget))
+        if (!QTest::qWaitForWindowActive(&widget, 60000))
             ADD_FAILURE() << "the panel has no focus";
     }
 

@@ -1,6 +1,7 @@
 // The navigator in the real window, filled by the real assembler.
 
 #include "FakeEditorHook.h"
+#include "ExampleFolder.h"
 #include "FakeMsgHook.h"
 #include "NaviFixture.h"
 #include "Settle.h"
@@ -13,7 +14,6 @@
 #include "ModSources.h"
 #include "ModSrcNavi.h"
 
-#include <QDirIterator>
 #include <QMainWindow>
 #include <QTemporaryDir>
 #include <QTreeWidget>
@@ -240,14 +240,7 @@ TEST_F(WithAssembler, movesBetweenTheRealDocks)
 
 TEST_F(WithAssembler, picturesOfTheExample)
 {
-    const QString example = QStringLiteral(NALVO_SOURCE_DIR "/examples/uart_monitor");
-    QDirIterator it(example, QDir::Files, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString from = it.next();
-        const QString to = path(QDir(example).relativeFilePath(from));
-        QDir().mkpath(QFileInfo(to).path());
-        ASSERT_TRUE(QFile::copy(from, to));
-    }
+    copyFolder(NALVO_SOURCE_DIR "/examples/uart_monitor", folder.path());
     picture("navigator-empty");
     ASSERT_TRUE(prj->openPrj(path("uart_monitor.nalvo")));
     asmFe->assemble(nsModAsmFe::ModAsmFe::eEventNone);

@@ -17,7 +17,7 @@ protected:
     {
         selector.setColor(QColor(10, 20, 30));
         selector.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&selector));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&selector, 60000));
     }
 
     QPoint middle() const { return selector.rect().center(); }
@@ -123,7 +123,7 @@ TEST(ColorSelectorLife, theFieldMayGoWhileItsDialogIsOpen)
     auto* page = new QWidget;
     auto* selector = new MyColorSelector(page);
     page->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(page));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(page, 60000));
     int seen = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {

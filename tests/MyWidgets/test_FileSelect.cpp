@@ -33,7 +33,7 @@ protected:
         page.resize(300, 100);
         page.show();
         page.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&page));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&page, 60000));
         open->setFocus();
     }
 
@@ -297,7 +297,7 @@ TEST(FileSelectLife, theFieldMayGoWhileItsDialogIsOpen)
     auto* page = new QWidget;
     auto* open = new MyFileSelectOpen(page);
     page->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(page));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(page, 60000));
     int seen = 0;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {

@@ -97,7 +97,7 @@ protected:
     {
         page.resize(600, 400);
         page.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&page));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&page, 60000));
     }
     static int leftOf(QWidget* widget) { return widget->mapTo(widget->window(), QPoint()).x(); }
     static int topOf(QWidget* widget) { return widget->mapTo(widget->window(), QPoint()).y(); }

@@ -91,12 +91,12 @@ TEST_F(NoticeBar, escapeAndTheCloseButtonEndIt)
     EXPECT_EQ(closed.count(), 1);
     EXPECT_FALSE(bar->isVisible());
     EXPECT_TRUE(edit.hasFocus());
-    QTRY_VERIFY_WITH_TIMEOUT(bar.isNull(), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return bar.isNull(); }, 60000));
 
     QPointer<MyNoticeBar> other(new MyNoticeBar(MyNoticeBar::eGradeInfo, "text", &edit));
     other->show();
     QTest::mouseClick(other->findChild<QPushButton*>("noticeBarClose"), Qt::LeftButton);
-    QTRY_VERIFY_WITH_TIMEOUT(other.isNull(), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return other.isNull(); }, 60000));
 }
 
 TEST_F(NoticeBar, aLongTextWrapsAndDoesNotWidenTheBar)

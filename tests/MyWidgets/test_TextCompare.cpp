@@ -1,5 +1,6 @@
 // Two texts side by side.
 
+#include "Readable.h"
 #include "ModalHelper.h"
 #include "QtPrinters.h"
 #include "TextCompareDialog.h"
@@ -7,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
@@ -33,7 +35,7 @@ protected:
         dialog.setTexts("Mine", left, "Other", right);
         dialog.show();
         dialog.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog, 60000));
     }
     QPushButton* button(const QString& name) { return dialog.findChild<QPushButton*>(name); }
     QString state() { return dialog.findChild<QLabel*>("textCompareState")->text(); }
@@ -132,7 +134,8 @@ TEST_F(TextCompare, pictureForAPerson)
 {
     show("; counter\nstart:\n  LOAD s0, 1\n  ADD s0, 1\n  JUMP start\n",
          "; counter\nstart:\n  LOAD s0, 2\n  ADD s0, 1\n  OUTPUT s0, 7\n  OUTPUT s0, 8\n  JUMP start\n");
-    EXPECT_TRUE(dialog.grab().save("textCompareDialog.png"));
+    QDir().mkpath(NALVO_BINARY_DIR "/screenshots");
+    EXPECT_TRUE(expectReadable(&dialog).save(NALVO_BINARY_DIR "/screenshots/textCompareDialog.png"));
 }
 
 } // namespace

@@ -255,16 +255,16 @@ TEST_F(EditorInWindow, aFileThatChangesOutsideIsFollowedOrReported)
     const QByteArray before = content(source("main.psm"));
     widget->setFocus();
     writeFile("uart_monitor/src/main.psm", "; outside\n" + before);
-    QTRY_VERIFY_WITH_TIMEOUT(widget->text().startsWith("; outside\n"), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget->text().startsWith("; outside\n"); }, 60000));
     EXPECT_TRUE(widget->hasFocus());
     QTest::keyClicks(widget, "; mine ");
     writeFile("uart_monitor/src/main.psm", "; again\n" + before);
-    QTRY_VERIFY_WITH_TIMEOUT(widget->findChild<QWidget*>("noticeBar") != nullptr, 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget->findChild<QWidget*>("noticeBar") != nullptr; }, 60000));
     auto* bar = widget->findChild<QWidget*>("noticeBar");
     EXPECT_TRUE(widget->hasFocus());
     EXPECT_TRUE(widget->text().contains("; mine "));
     // The bar stands above the text, and the margin beside the text.
-    QTRY_VERIFY_WITH_TIMEOUT(widget->viewport()->geometry().top() >= bar->height(), 60000);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return widget->viewport()->geometry().top() >= bar->height(); }, 60000));
     EXPECT_EQ(widget->leftMargin()->geometry().top(), widget->viewport()->geometry().top());
     screenshot("document_changed_outside");
     QTest::keyClick(widget, Qt::Key_F6);

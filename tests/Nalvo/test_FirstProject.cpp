@@ -248,7 +248,7 @@ void FirstProject::writeProgram()
     EXPECT_EQ(answers.seen(), 2);
     // A window manager would do this when a dialog closes.
     window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
     EXPECT_EQ(content(projectDir() + "/main.psm"), programText);
     screenshot("first-2-written");
 }

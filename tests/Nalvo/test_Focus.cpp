@@ -30,7 +30,7 @@ protected:
         makeWindow();
         EXPECT_TRUE(module<nsModPrj::ModPrj>()->openPrj(projectDir() + "/uart_monitor/uart_monitor.nalvo"));
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
     }
     ~Focus() override
     {
@@ -180,7 +180,7 @@ TEST_F(Focus, isInADocumentThatIsOpenedFromTheMenu)
     ASSERT_EQ(qobject_cast<EditorWidget*>(page())->filePath(), path);
     // Here no window manager gives the window its place back after the dialog.
     window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
     EXPECT_TRUE(isInPage()) << where();
 }
 

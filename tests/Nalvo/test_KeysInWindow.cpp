@@ -41,7 +41,7 @@ protected:
         makeWindow();
         EXPECT_TRUE(module<nsModPrj::ModPrj>()->openPrj(projectDir() + "/keys.nalvo"));
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
     }
     ~KeysInWindow() override
     {
@@ -104,7 +104,7 @@ protected:
             QTest::keyClick(window->menuBar(), Qt::Key_Escape);
         // The platform of the tests gives a window no activity back when a menu closes.
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
         EXPECT_EQ(window->focusWidget(), focus);
         return title;
     }

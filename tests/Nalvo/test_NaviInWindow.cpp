@@ -34,7 +34,7 @@ protected:
         makeWindow();
         EXPECT_TRUE(module<nsModPrj::ModPrj>()->openPrj(writeFile("navi.nalvo", project)));
         window->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get()));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
         EXPECT_TRUE(editor()->openFile(projectDir() + "/main.psm"));
         document = editor()->editorWidgets().first();
         action("Save all")->trigger();

@@ -134,6 +134,27 @@ TEST_F(NothingLost, theQuestionAtTheEndComesWhileTheWindowIsWhole)
     EXPECT_EQ(content(path("a.psm")), "; a\n");
 }
 
+TEST_F(NothingLost, aProjectThatCanNotBeSavedAtTheEndIsTriedAgain)
+{
+    openProject();
+    prj()->setValue("ModX/key", QString("new"));
+    QFile::rename(path("p.nalvo"), path("aside"));
+    ASSERT_TRUE(QDir().mkpath(path("p.nalvo")));
+    ModalAnswers answers({[&](QDialog* dialog) {
+                              EXPECT_EQ(dialog->windowTitle(), "Project can not be saved");
+                              EXPECT_TRUE(window->isVisible());
+                              QTest::keyClick(dialog, Qt::Key_Escape);
+                          },
+                          [&](QDialog* dialog) {
+                              EXPECT_EQ(dialog->windowTitle(), "Project can not be saved");
+                              EXPECT_TRUE(QDir().rmdir(path("p.nalvo")));
+                              QTest::keyClick(dialog, Qt::Key_Return);
+                          }});
+    EXPECT_TRUE(closeWindow());
+    EXPECT_EQ(answers.seen(), 2);
+    EXPECT_TRUE(content(path("p.nalvo")).contains("<key>new</key>"));
+}
+
 TEST_F(NothingLost, aClosedNoticeDoesNotComeAgain)
 {
     openProject();

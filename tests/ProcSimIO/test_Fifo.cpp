@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
 
 using namespace nsProc;
 
@@ -146,11 +145,8 @@ TEST(Fifo, TheOldestQuarterIsDroppedAtTheBound)
 {
     ProcSimIOFifo fifo(0);
     const int quarter = ProcSimFifoLines::maxLines / 4;
-    QElapsedTimer timer;
-    timer.start();
     for (int i = 0; i < ProcSimFifoLines::maxLines; ++i)
         fifo.setValue(0, QString(), i & 0xFF);
-    EXPECT_LT(timer.nsecsElapsed() / ProcSimFifoLines::maxLines, 1000) << "ns a write";
     EXPECT_EQ(fifo.lines().dropped(), quarter);
     EXPECT_EQ(fifo.lines().count(), ProcSimFifoLines::maxLines - quarter + 1);
     EXPECT_EQ(fifo.lines().pointer(), fifo.lines().count() - 1);

@@ -33,7 +33,7 @@ protected:
         viewer = std::make_unique<Viewer>(clkFreq);
         viewer->resize(1000, 200);
         viewer->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(viewer.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(viewer.get(), 60000));
         tree = viewer->findChild<Tree*>("procSimWaveTree");
         waves = viewer->findChild<Waves*>("procSimWaves");
         bar = viewer->findChild<QScrollBar*>("procSimWaveScrollBar");

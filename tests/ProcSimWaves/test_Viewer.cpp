@@ -393,7 +393,7 @@ TEST_F(WavesViewer, HiddenViewerCatchesUp)
     viewer->addValue(1, wr, {}, 5, 1000);
     viewer->refresh();
     viewer->show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(viewer.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(viewer.get(), 60000));
     EXPECT_EQ(valueText(0), "05");
     EXPECT_GT(waves->time().first(), 0);
     EXPECT_TRUE(waves->isFollowing());

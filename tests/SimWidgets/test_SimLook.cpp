@@ -16,6 +16,8 @@
 #include "ProcSimScrpd.h"
 #include "ProcSimStatusBar.h"
 
+#include "Readable.h"
+
 #include <gtest/gtest.h>
 
 #include <QApplication>
@@ -99,7 +101,7 @@ protected:
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
         QDir().mkpath(dir);
         const QString path = dir + "/simWidgets-" + name + ".png";
-        EXPECT_TRUE(widget->grab().save(path)) << qPrintable(path);
+        EXPECT_TRUE(expectReadable(widget).save(path)) << qPrintable(path);
     }
 
     static int redPixels(QWidget* widget)

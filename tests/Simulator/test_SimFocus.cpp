@@ -18,7 +18,7 @@ TEST_F(SimFocus, isInTheDocumentWhenTheSimulatorHasGone)
 {
     ASSERT_TRUE(start("XPBlze3", {"LOAD s0, 1", "LOAD s1, 2", "LOAD s2, 3"}));
     window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
     QWidget* page = document();
     ASSERT_NE(page, nullptr);
     auto* gui = module<ModGuiHookIf>();

@@ -43,7 +43,7 @@ protected:
         area.setWidget(page);
         pages.show();
         pages.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowExposed(&pages));
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&pages, 60000));
     }
     /// The field of the label with this text, null if there is none.
     template <class Field>

@@ -66,8 +66,14 @@ void EditorWidget::setCursorToLine(int line)
 
 void EditorWidget::setCursorToLine(const QString& text, int line)
 {
-    if (isLabel(text) && goToLabel(text, line))
+    if (isLabel(text)) {
+        // A label that is gone is not sought in the names and comments that contain it.
+        if (!goToLabel(text, line)) {
+            moveCursor(QTextCursor::Start);
+            setCursorToLine(line);
+        }
         return;
+    }
     const QTextCursor hit = m_textDocument->find(text, 0);
     const bool isUnique = !hit.isNull() && m_textDocument->find(text, hit).isNull();
     if (isUnique) {
@@ -80,12 +86,19 @@ void EditorWidget::setCursorToLine(const QString& text, int line)
     setCursorToLine(line);
 }
 
-/// @return false if no line begins with the label
+/// @return false if no line begins with the label, blanks aside
 bool EditorWidget::goToLabel(const QString& label, int line)
 {
     QTextBlock nearest;
+    const auto indentOf = [](const QTextBlock& block) {
+        const QString text = block.text();
+        int indent = 0;
+        while (indent < text.size() && text.at(indent).isSpace())
+            ++indent;
+        return indent;
+    };
     for (QTextBlock block = m_textDocument->begin(); block.isValid(); block = block.next()) {
-        if (!block.text().startsWith(label))
+        if (block.text().midRef(indentOf(block), label.size()) != label)
             continue;
         if (!nearest.isValid() || qAbs(block.blockNumber() - line) < qAbs(nearest.blockNumber() - line))
             nearest = block;
@@ -93,7 +106,8 @@ bool EditorWidget::goToLabel(const QString& label, int line)
     if (!nearest.isValid())
         return false;
     QTextCursor cursor(nearest);
-    cursor.setPosition(nearest.position() + label.length(), QTextCursor::KeepAnchor);
+    cursor.setPosition(nearest.position() + indentOf(nearest));
+    cursor.setPosition(cursor.position() + label.length(), QTextCursor::KeepAnchor);
     setTextCursor(cursor);
     centerCursor();
     return true;

@@ -1,5 +1,7 @@
 #include "PrintedPages.h"
 
+#include <QFile>
+#include <QFileInfo>
 #include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QLocale>
@@ -79,7 +81,7 @@ QVector<PrintedPages::sStart> PrintedPages::walk(int first, int last, const RowV
     QTextBlock block = m_job.document->findBlockByNumber(starts.first().block);
     for (; block.isValid() && block.position() <= m_job.end; block = block.next()) {
         // A line at whose start the range ends does not belong to it.
-        if (block.position() == m_job.end && m_job.start < m_job.end && block.length() > 1)
+        if (block.position() == m_job.end && m_job.start < m_job.end && (block.length() > 1 || block.next().isValid()))
             break;
         QTextLayout layout(QString(), m_job.font, m_device);
         layOut(&layout, block);
@@ -158,6 +160,19 @@ void PrintedPages::paint(QPainter* painter, int page) const
     });
 }
 
+namespace {
+
+/// Neither painter nor printer reports that the end of a PDF file could not be written.
+bool isComplete(const QPrinter& printer)
+{
+    QFile file(printer.outputFileName());
+    if (printer.outputFormat() != QPrinter::PdfFormat || !QFileInfo(file).isFile())
+        return true;
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - 16)) && file.readAll().contains("%%EOF");
+}
+
+} // namespace
+
 bool PrintedPages::print(const sPrintJob& job, QPrinter* printer)
 {
     QPainter painter;
@@ -177,7 +192,7 @@ bool PrintedPages::print(const sPrintJob& job, QPrinter* printer)
             return false;
         pages.paint(&painter, isReverse ? last - step : first + step);
     }
-    return painter.end();
+    return painter.end() && isComplete(*printer);
 }
 
 } // namespace nsModEditor

@@ -34,8 +34,11 @@ QString ProcSimPortNames::nameOf(ModAsmFeHookIf* hook, int addr, bool isWrite)
         const Arg* arg = opcode->arg1;
         if (opcode->opcode != access || arg->type != Arg::numeric || arg->iValue != addr)
             continue;
+        QString name = arg->dispName.trimmed();
+        if (name.startsWith('(') && name.endsWith(')'))
+            name = name.mid(1, name.size() - 2).trimmed();
         // The argument may also be a number or an expression.
-        if (const Equ* equ = constantOf(hook, arg->dispName, opcode->nameSpace))
+        if (const Equ* equ = constantOf(hook, name, opcode->nameSpace))
             return nsModAsmFe::qualifiedName(equ->nameSpace, equ->name);
     }
     return QString();
