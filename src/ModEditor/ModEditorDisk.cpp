@@ -209,8 +209,8 @@ ModEditor::eConflict_t ModEditor::compareWithFile(EditorWidget* widget, const QB
     return m_editorWidgets.contains(widget) ? eConflict_t(answer) : eConflictCancel;
 }
 
-/// Puts the changed text of a document aside before that of its file replaces it. Undo does not bring it back where the document
-/// is being closed, or where the file can only be read.
+/// Puts the changed text of a document aside before that of its file replaces it. Undo does not bring it back where the
+/// document is being closed, or where the file can only be read.
 bool ModEditor::keepReplacedText(EditorWidget* widget)
 {
     if (!widget->isModified() || m_recovery == nullptr)

@@ -35,7 +35,7 @@ QString textOfFile(const QByteArray& bytes)
     return text;
 }
 
-/// What was kept of a document is its text in UTF-8; what was kept of a file that was being written in place are its bytes.
+/// What was kept of a document is its text in UTF-8; of a file that was being written in place, its bytes were kept.
 QString textOf(const RecoveryStore::Entry& entry, const QByteArray& bytes)
 {
     return entry.kind == RecoveryStore::eKindReplaced ? textOfFile(bytes) : QString::fromUtf8(bytes);

@@ -271,7 +271,7 @@ bool isOverlongTag(const QByteArray& text, int* pos)
 /// would take hours for a tag with very many of them.
 bool hasOverlongTag(const QByteArray& text)
 {
-    // In the value of an entity, or between the shifts of some encodings, text may look like a comment without being one.
+    // In the value of an entity, or between the shifts of some encodings, text may look like a comment.
     const bool misleads = text.contains('\x1b') || text.contains("<!DOCTYPE");
     for (int pos = text.indexOf('<'); pos >= 0; pos = text.indexOf('<', pos)) {
         const int next = misleads ? pos : skipText(text, pos);

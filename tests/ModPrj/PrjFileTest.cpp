@@ -416,9 +416,10 @@ TEST(PrjFile, AttributesThatExplode)
     expectEnd("<project><a" + many + "/></project>");
     expectEnd("<project><!-- ' --><a" + many + "/></project>");
     expectEnd("<project" + many + "/>");
-    // What looks like a comment hides no tag: in the value of an entity, in an encoding with shifts or of wide characters.
+    // What looks like a comment hides no tag: in the value of an entity, in an encoding with shifts or wide characters.
     expectEnd("<!DOCTYPE project [<!ENTITY e \"<!-- ><!--\">]><project><a" + many + "/></project>");
-    expectEnd("<?xml version=\"1.0\" encoding=\"ISO-2022-JP\"?><project><v>\x1b$B<!--\x1b(B</v><a" + many + "/></project>");
+    expectEnd("<?xml version=\"1.0\" encoding=\"ISO-2022-JP\"?><project><v>\x1b$B<!--\x1b(B</v><a" + many +
+              "/></project>");
     expectEnd(std::string("<project>\0</project>", 20));
     expectEnd("<project><!-- <a --><![CDATA[ ' ]]><a" + many + "/></project>");
 

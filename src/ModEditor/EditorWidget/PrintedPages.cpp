@@ -168,7 +168,8 @@ bool isComplete(const QPrinter& printer)
     QFile file(printer.outputFileName());
     if (printer.outputFormat() != QPrinter::PdfFormat || !QFileInfo(file).isFile())
         return true;
-    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - 16)) && file.readAll().contains("%%EOF");
+    return file.open(QIODevice::ReadOnly) && file.seek(qMax<qint64>(0, file.size() - 16)) &&
+           file.readAll().contains("%%EOF");
 }
 
 } // namespace

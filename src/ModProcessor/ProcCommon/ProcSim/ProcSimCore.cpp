@@ -74,8 +74,8 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     m_regs->setParent(this);
     m_scrpd = new ProcSimScrpd(m_data, this);
     m_pc->setRange(0, std::max(pcMax, 0));
-    m_pc->setToolTip(tr("Address of the next instruction. Another one that is typed in takes effect with Return, or when the "
-                        "field is left."));
+    m_pc->setToolTip(tr("Address of the next instruction. Another one that is typed in takes effect with Return, or "
+                        "when the field is left."));
     m_carry->setToolTip(tr("Carry flag, toggled with a click"));
     m_zero->setToolTip(tr("Zero flag, toggled with a click"));
 
