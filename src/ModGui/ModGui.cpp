@@ -390,6 +390,9 @@ void ModGui::showStoredStatusText(QWidget* widget)
 
 void ModGui::currentWidgetChanged(QWidget*, QWidget* widget)
 {
+    // A window that is destroyed without its exit phases takes the clients along.
+    if (window() == nullptr)
+        return;
     const sWidgetData_t* data = m_widgets.value(widget);
     ModGuiPluginIf* owner = data != nullptr ? data->plugin : nullptr;
     showStoredStatusText(widget);
