@@ -16,8 +16,6 @@ QString brokenRule(const AsmFixture& f)
     // A label without a name, and a number that has no value, are reported as errors and do not stop the run.
     errors.removeAll("errLblIsEmpty");
     errors.removeAll("errExpectArgument");
-    // The argument of a define has no meaning, but the define stands. Where anything else may not have an argument, the run ends.
-    errors.removeAll("errUnsupportedArgument");
     if (!errors.isEmpty())
         return "assembled with errors: " + f.msg.errors().join(" / ").left(1000);
     for (const nsModAsmFe::Opcode* opcode : *asmFe.opcodeList()) {
