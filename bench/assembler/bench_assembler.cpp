@@ -3,8 +3,8 @@
 //
 // Usage: bench_assembler NALVO_ASM NASM SCRATCH_FOLDER
 //
-// A source has a comment on every line, a label on every eighth line, and one line in a hundred defines a constant. The best of
-// several runs counts: the machines are noisy, and noise only adds.
+// A source has a comment on every line, a label on every eighth line, and one line in a hundred defines a constant. The
+// best of several runs counts: the machines are noisy, and noise only adds.
 
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -181,7 +181,6 @@ void writeNasm(const std::string& path, int lines)
     }
 }
 
-
 void writeProject(const std::string& folder, int pageSize, bool allOutputs)
 {
     std::ofstream out(folder + "/bench.nalvo");
@@ -194,8 +193,9 @@ void writeProject(const std::string& folder, int pageSize, bool allOutputs)
         << "</pageSize>\n        </memMap>\n    </XPBlze3>\n"
         << "    <AsmFe>\n        <behavior>\n            <set>2</set>\n        </behavior>\n        <target>\n";
     const auto target = [&](const char* kind, const char* en, const char* more) {
-        out << "            <" << kind << ">\n                <en>" << en << "</en>\n                <writeFileEventBut1>"
-            << en << "</writeFileEventBut1>\n                <outputFile>out." << kind << "</outputFile>\n"
+        out << "            <" << kind << ">\n                <en>" << en
+            << "</en>\n                <writeFileEventBut1>" << en
+            << "</writeFileEventBut1>\n                <outputFile>out." << kind << "</outputFile>\n"
             << more << "            </" << kind << ">\n";
     };
     const char* const hdl = "                <entityName>rom</entityName>\n"

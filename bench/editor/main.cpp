@@ -1,7 +1,7 @@
 // A document of 20,000 lines in its editor: what each key and each command costs until all is painted.
 
-#include "EditorSyntaxHighlighterConfig.h"
 #include "EditorMemPageAddrMap.h"
+#include "EditorSyntaxHighlighterConfig.h"
 #include "EditorWidget.h"
 
 #include <QApplication>

@@ -1,7 +1,9 @@
-// How long the window takes to follow a run with 10,000 labels and 10,000 EQUs: insertion menu, completer list and navigator.
+// How long the window takes to follow a run with 10,000 labels and 10,000 EQUs: insertion menu, completer list and
+// navigator.
 //
-// The program is run twice on its source: the second run also has the menu entries and tags of the first one to replace. Prints
-// the times of the slower one. The real assembler calls; only the time that it spends in these three services counts.
+// The program is run twice on its source: the second run also has the menu entries and tags of the first one to
+// replace. Prints the times of the slower one. The real assembler calls; only the time that it spends in these three
+// services counts.
 
 #include "CfgTree.h"
 #include "EditorSupportMenu.h"

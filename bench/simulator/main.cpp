@@ -38,16 +38,16 @@ const int roundTime = 400; ///< milliseconds
 /// A mixed program in an endless loop: arithmetic, logic, shifts, calls, branches, scratchpad.
 QStringList mixedProgram()
 {
-    return {"start: LOAD s0, 0",     "loop: ADD s0, 1",   "ADDC s1, 0",     "XOR s2, s0",   "SR0 s2",        "WRMEM s2, 5",
-            "RDMEM s3, 5",           "COMP s3, 100",      "JUMP C, less",   "SUB s3, 100",  "less: CALL proc", "ROL s4",
-            "TEST s4, 1",            "JUMP NZ, loop",     "OR s4, 1",       "AND s5, s4",   "JUMP loop",      "proc: LOAD s6, s3",
-            "SUBC s6, s1",           "RET"};
+    return {"start: LOAD s0, 0", "loop: ADD s0, 1", "ADDC s1, 0",        "XOR s2, s0",    "SR0 s2",
+            "WRMEM s2, 5",       "RDMEM s3, 5",     "COMP s3, 100",      "JUMP C, less",  "SUB s3, 100",
+            "less: CALL proc",   "ROL s4",          "TEST s4, 1",        "JUMP NZ, loop", "OR s4, 1",
+            "AND s5, s4",        "JUMP loop",       "proc: LOAD s6, s3", "SUBC s6, s1",   "RET"};
 }
 
 /// Ten instructions, one of which writes a port.
 QStringList writingProgram()
 {
-    return {"loop: ADD s0, 1", "ADDC s1, 0", "XOR s2, s0", "SR0 s2",    "LOAD s3, s2",
+    return {"loop: ADD s0, 1", "ADDC s1, 0", "XOR s2, s0", "SR0 s2",      "LOAD s3, s2",
             "ADD s3, s0",      "ROL s4",     "OR s4, s3",  "WRPRT s0, 7", "JUMP loop"};
 }
 
@@ -88,10 +88,10 @@ public:
         for (int i = 0; i < 120; ++i)
             lines.append("NOP");
         write(name + ".psm", lines.join('\n') + '\n');
-        const QString project = write(name + ".nalvo",
-                                      "<project version=\"3\"><sources><srcFiles>" + name +
-                                          ".psm</srcFiles></sources><ModProcessor><processor>Xilinx PicoBlaze 3"
-                                          "</processor></ModProcessor></project>");
+        const QString project =
+            write(name + ".nalvo", "<project version=\"3\"><sources><srcFiles>" + name +
+                                       ".psm</srcFiles></sources><ModProcessor><processor>Xilinx PicoBlaze 3"
+                                       "</processor></ModProcessor></project>");
         if (!module<nsModPrj::ModPrj>()->openPrj(project))
             qFatal("can not open the project");
         auto* asmFe = module<nsModAsmFe::ModAsmFe>();

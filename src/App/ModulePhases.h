@@ -24,12 +24,7 @@ public:
     bool stop();
 
 private:
-    enum class eState_t
-    {
-        created,
-        running,
-        stopped
-    };
+    enum class eState_t { created, running, stopped };
 
     template <class Phase>
     void run(Phase phase) const;

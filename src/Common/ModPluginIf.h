@@ -4,9 +4,10 @@
 
 /// What every module is to the main window: one object that is driven through seven phases.
 ///
-/// Each phase runs for all modules, in the order of the module list, before the next phase starts. A module finds the others in
-/// modRegisterPlugins() alone, by a cast to the plug-in interfaces that it serves; it never holds a pointer to another module's
-/// class. No phase can fail: a module that cannot do its job reports through ModMsgHookIf and carries on.
+/// Each phase runs for all modules, in the order of the module list, before the next phase starts. A module finds the
+/// others in modRegisterPlugins() alone, by a cast to the plug-in interfaces that it serves; it never holds a pointer
+/// to another module's class. No phase can fail: a module that cannot do its job reports through ModMsgHookIf and
+/// carries on.
 class ModPluginIf
 {
 public:

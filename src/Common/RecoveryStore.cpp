@@ -59,7 +59,10 @@ QString instanceOf(const QString& id)
 
 } // namespace
 
-RecoveryStore::RecoveryStore(const QString& folder) : m_folder(folder) {}
+RecoveryStore::RecoveryStore(const QString& folder)
+    : m_folder(folder)
+{
+}
 
 RecoveryStore::~RecoveryStore()
 {
@@ -261,7 +264,8 @@ void RecoveryStore::removeLeftovers(const QDateTime& now)
         if (!isAlive(info.completeBaseName()))
             QFile::remove(info.filePath());
     }
-    for (const QFileInfo& info : QDir(m_folder).entryInfoList({QStringLiteral(".nalvo-*")}, QDir::Files | QDir::Hidden)) {
+    for (const QFileInfo& info :
+         QDir(m_folder).entryInfoList({QStringLiteral(".nalvo-*")}, QDir::Files | QDir::Hidden)) {
         if (info.lastModified().addDays(1) < now)
             QFile::remove(info.filePath());
     }

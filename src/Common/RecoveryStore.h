@@ -18,8 +18,7 @@ class RecoveryStore
     Q_DECLARE_TR_FUNCTIONS(RecoveryStore)
 
 public:
-    enum eKind_t
-    {
+    enum eKind_t {
         eKindUnsaved,  ///< changes of an open document
         eKindDropped,  ///< text of a document that was closed without being saved
         eKindReplaced, ///< old content of a file that is being written in place
@@ -29,19 +28,19 @@ public:
     {
         QString id; ///< given by put()
         eKind_t kind = eKindUnsaved;
-        QString path;       ///< file of the document, absolute; empty: it has none yet
-        QString project;    ///< project file that was open, absolute; may be empty
-        QDateTime time;     ///< UTC; set by put()
-        bool isNew = true;  ///< the user has not been informed of it
-        qint64 size = 0;    ///< bytes on the disk
+        QString path;      ///< file of the document, absolute; empty: it has none yet
+        QString project;   ///< project file that was open, absolute; may be empty
+        QDateTime time;    ///< UTC; set by put()
+        bool isNew = true; ///< the user has not been informed of it
+        qint64 size = 0;   ///< bytes on the disk
     };
 
     /// What was open when the program ended without closing its project.
     struct Session
     {
-        QString project;    ///< project file, absolute; empty: there is no session
-        QStringList files;  ///< absolute paths in the order of the pages
-        QString lastFile;   ///< absolute path of the current document, may be empty
+        QString project;   ///< project file, absolute; empty: there is no session
+        QStringList files; ///< absolute paths in the order of the pages
+        QString lastFile;  ///< absolute path of the current document, may be empty
         int lastCursorPos = 0;
     };
 
@@ -79,7 +78,8 @@ public:
     bool read(const QString& id, Entry* entry, QByteArray* text) const;
     /// File that holds the entry, after a header of two lines.
     QString fileOf(const QString& id) const;
-    /// Removes entries that are too old, and the oldest ones while all of them together are too large. The newest one stays.
+    /// Removes entries that are too old, and the oldest ones while all of them together are too large. The newest one
+    /// stays.
     void prune(const QDateTime& now);
 
     /// Keeps the session of this instance; one without a project ends it.

@@ -104,7 +104,10 @@ bool forbidsNewFiles(int error)
 
 } // namespace
 
-SafeFile::SafeFile(const QString& path) : m_target(withoutLinks(path)) {}
+SafeFile::SafeFile(const QString& path)
+    : m_target(withoutLinks(path))
+{
+}
 
 SafeFile::~SafeFile()
 {
@@ -226,7 +229,8 @@ bool SafeFile::takeAttributes()
     if (::stat(name.constData(), &old) != 0 || ::fstat(m_fd, &now) != 0)
         return false;
     return run(eStepAttributes, [&] {
-               if ((old.st_uid != now.st_uid || old.st_gid != now.st_gid) && ::fchown(m_fd, old.st_uid, old.st_gid) != 0)
+               if ((old.st_uid != now.st_uid || old.st_gid != now.st_gid) &&
+                   ::fchown(m_fd, old.st_uid, old.st_gid) != 0)
                    return -1;
                if (::fchmod(m_fd, old.st_mode & 07777) != 0)
                    return -1;

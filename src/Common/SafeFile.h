@@ -11,11 +11,11 @@
 
 /// Replaces the whole content of a user's file. All documents, projects, settings and waves are written by this class.
 ///
-/// What is written goes into a file beside the target, which commit() puts in its place. Until then, and after any failure,
-/// the target holds its old content byte for byte; if the process is killed, it holds the old or the new one. Links
-/// stay links, rights and owner are kept. Where renaming would break that (a file with several names, an owner that can
-/// not be kept, a folder that takes no new file), commit() writes into the target itself, after its old content is safe
-/// in the RecoveryStore; when that fails the old content is put back.
+/// What is written goes into a file beside the target, which commit() puts in its place. Until then, and after any
+/// failure, the target holds its old content byte for byte; if the process is killed, it holds the old or the new one.
+/// Links stay links, rights and owner are kept. Where renaming would break that (a file with several names, an owner
+/// that can not be kept, a folder that takes no new file), commit() writes into the target itself, after its old
+/// content is safe in the RecoveryStore; when that fails the old content is put back.
 ///
 /// Sequential, write only. A failure of write() is remembered: commit() then fails with its reason.
 class SafeFile : public QIODevice
@@ -25,8 +25,7 @@ class SafeFile : public QIODevice
 public:
     /// The steps of writing, in their order. Each of them can fail, and before each of them the program
     /// can be killed.
-    enum eStep_t
-    {
+    enum eStep_t {
         eStepCreate,     ///< the file beside the target
         eStepWrite,      ///< a part of the content
         eStepSync,       ///< the content on the disk
@@ -51,8 +50,8 @@ public:
     bool open(OpenMode mode) override { return mode == WriteOnly && open(); }
     bool isSequential() const override { return true; }
     /// Replaces the target by what was written, and closes this device. After success the content is on the disk.
-    /// @return false: the target is as it was, and errorString() says why. If even putting the old content back failed, the
-    /// text names the file that holds it.
+    /// @return false: the target is as it was, and errorString() says why. If even putting the old content back failed,
+    /// the text names the file that holds it.
     bool commit();
     /// Drops what was written.
     void close() override;

@@ -58,7 +58,7 @@ private:
     void refreshToolBar(eActionClass_t actionClass, QToolBar* toolBar);
 
     QPointer<QMainWindow> m_mainWindow;
-    MenuKeys* m_menuKeys = nullptr; ///< owned by the window
+    MenuKeys* m_menuKeys = nullptr;          ///< owned by the window
     PluginList<ModActionPluginIf> m_plugins; ///< their order is the order of the groups in each menu
     QMap<eActionClass_t, QPointer<QMenu>> m_menus;
     QMap<eActionClass_t, QPointer<QToolBar>> m_toolBars;

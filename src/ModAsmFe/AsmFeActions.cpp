@@ -5,10 +5,12 @@
 
 namespace nsModAsmFe {
 
-AsmFeActions::AsmFeActions(QObject* parent) : QActionGroup(parent)
+AsmFeActions::AsmFeActions(QObject* parent)
+    : QActionGroup(parent)
 {
     setExclusive(false);
-    add(eActionAssemble, tr("Run assembler"), tr("Run assembler and write the output files of the save event"), "assemble");
+    add(eActionAssemble, tr("Run assembler"), tr("Run assembler and write the output files of the save event"),
+        "assemble");
     add(eActionButton1, tr("Write output files button 1"), tr("Write output files button 1"), "assemble1");
     add(eActionButton2, tr("Write output files button 2"), tr("Write output files button 2"), "assemble2");
     connect(this, SIGNAL(triggered(QAction*)), this, SLOT(handleAction(QAction*)));

@@ -43,7 +43,8 @@ int elementTypeOf(QChar c)
     }
 }
 
-/// Arithmetic wraps at 32 bits, as the hardware of the tool's users expects it; unsigned numbers do so without undefined behaviour.
+/// Arithmetic wraps at 32 bits, as the hardware of the tool's users expects it; unsigned numbers do so without
+/// undefined behaviour.
 int wrapped(unsigned int value)
 {
     return static_cast<int>(value);
@@ -331,13 +332,12 @@ AsmFeFormula::eResult_t AsmFeFormula::formulaClc(unsigned int* value)
 
 bool AsmFeFormula::formulaClcSegment(Element* open, Element* close)
 {
-    const bool done = formulaClcExprInv(open, close) && formulaClcBinary(open, close, elementMul, elementDiv) &&
-                      formulaClcBinary(open, close, elementMod, elementMod) &&
-                      formulaClcBinary(open, close, elementAdd, elementSub) &&
-                      formulaClcShift(open, close, elementLess) && formulaClcShift(open, close, elementGreater) &&
-                      formulaClcBinary(open, close, elementAnd, elementAnd) &&
-                      formulaClcBinary(open, close, elementOr, elementOr) &&
-                      formulaClcBinary(open, close, elementXor, elementXor);
+    const bool done =
+        formulaClcExprInv(open, close) && formulaClcBinary(open, close, elementMul, elementDiv) &&
+        formulaClcBinary(open, close, elementMod, elementMod) &&
+        formulaClcBinary(open, close, elementAdd, elementSub) && formulaClcShift(open, close, elementLess) &&
+        formulaClcShift(open, close, elementGreater) && formulaClcBinary(open, close, elementAnd, elementAnd) &&
+        formulaClcBinary(open, close, elementOr, elementOr) && formulaClcBinary(open, close, elementXor, elementXor);
     // One term must be left over.
     if (!done || !isTerm(open->next) || open->next->next != close)
         return false;

@@ -110,8 +110,8 @@ QString AsmFeLineHndlr::mergeLine() const
 
 void AsmFeLineHndlr::printTags() const
 {
-    static const char* const names[eTagCount] = {"Spacer", "Label",  "Spacer", "Instruction", "Spacer", "Arg0",
-                                                 "Spacer", "Sep",    "Spacer", "Arg1",        "Spacer", "Comment"};
+    static const char* const names[eTagCount] = {"Spacer", "Label", "Spacer", "Instruction", "Spacer", "Arg0",
+                                                 "Spacer", "Sep",   "Spacer", "Arg1",        "Spacer", "Comment"};
     for (int i = 0; i < eTagCount; ++i)
         std::printf("Tag %2d: %s %s\n", i, names[i], qPrintable(tag(eTag_t(i))));
 }

@@ -6,7 +6,8 @@
 namespace nsModAsmFe {
 
 /// Cuts a source line into twelve tags, without understanding them:
-/// `[white space] [label:] [white space] word [white space] arg0 [white space] [,] [white space] arg1 [white space] [; comment]`.
+/// `[white space] [label:] [white space] word [white space] arg0 [white space] [,] [white space] arg1 [white space] [;
+/// comment]`.
 class AsmFeLineHndlr
 {
 public:
@@ -32,10 +33,7 @@ public:
 
     QString tag(eTag_t tag) const { return tagView(tag).toString(); }
     /// The same without a copy; valid until the next line is split.
-    QStringView tagView(eTag_t tag) const
-    {
-        return QStringView(m_line).mid(m_tags[tag].start, m_tags[tag].length);
-    }
+    QStringView tagView(eTag_t tag) const { return QStringView(m_line).mid(m_tags[tag].start, m_tags[tag].length); }
     bool isEmpty(eTag_t tag) const { return m_tags[tag].length == 0; }
     QString line() const { return m_line; }
     /// All tags in their order. White space after Arg1 is lost.

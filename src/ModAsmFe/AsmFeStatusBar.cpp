@@ -7,7 +7,9 @@
 
 namespace nsModAsmFe {
 
-AsmFeStatusBar::AsmFeStatusBar(QWidget* parent) : QWidget(parent), m_name(new QLabel(this))
+AsmFeStatusBar::AsmFeStatusBar(QWidget* parent)
+    : QWidget(parent)
+    , m_name(new QLabel(this))
 {
     auto* title = new MyStatusBarTitle(tr("Processor:"), this);
     m_name->setObjectName("asmFeStatusBarProcessor");

@@ -24,7 +24,11 @@ QString lineText(const char* bytes, int length)
 
 } // namespace
 
-LineReader::LineReader(QIODevice* device, int maxLineLength) : m_device(device), m_maxLineLength(maxLineLength) {}
+LineReader::LineReader(QIODevice* device, int maxLineLength)
+    : m_device(device)
+    , m_maxLineLength(maxLineLength)
+{
+}
 
 bool LineReader::fill()
 {

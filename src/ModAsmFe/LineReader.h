@@ -9,8 +9,8 @@ namespace nsModAsmFe {
 
 /// Reads a text line by line, in large pieces and with a bounded line length.
 ///
-/// Every byte becomes the character of the same number, whatever the text's encoding is; a byte order mark of UTF-8 at the start is
-/// skipped. CR LF counts as one line end, and a line ends for its reader at the first NUL byte.
+/// Every byte becomes the character of the same number, whatever the text's encoding is; a byte order mark of UTF-8 at
+/// the start is skipped. CR LF counts as one line end, and a line ends for its reader at the first NUL byte.
 class LineReader
 {
 public:

@@ -94,7 +94,8 @@ public:
 
     /// Runs the assembler on the open project, from the sources on the disk to the files of the event.
     void assemble(eAssembleEvent_t event);
-    /// Whether a saved source or a changed list of sources starts a run; on by default. A batch program starts its run itself.
+    /// Whether a saved source or a changed list of sources starts a run; on by default. A batch program starts its run
+    /// itself.
     void setAssembleOnChange(bool enabled) { m_assembleOnChange = enabled; }
     /// Output files that the last run has written, absolute, in order.
     QStringList writtenFiles() const { return m_writtenFiles; }
@@ -357,7 +358,8 @@ private:
     bool mapIODevToFileHex();
     bool mapIODevToFileMem();
     template <class Write>
-    bool mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file, Write write);
+    bool mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file,
+                         Write write);
     bool checkTargetFile(const QString& file);
 
     // Insertion menu and highlighting (ModAsmFeMenus.cpp)
@@ -392,9 +394,9 @@ private:
 
     bool m_assembleOnChange = true;
     bool m_assembled = false;
-    bool m_running = false; ///< a run must not be started from within a run
+    bool m_running = false;         ///< a run must not be started from within a run
     MyBusyCursor* m_busy = nullptr; ///< of the run in progress; not owned
-    bool m_abandoned = false; ///< project or back end were removed during the run
+    bool m_abandoned = false;       ///< project or back end were removed during the run
     bool m_runSucceeded = false;
     QStringList m_writtenFiles;
     QStringList m_menuLabels; ///< names in the insertion menu
@@ -405,7 +407,7 @@ private:
     bool m_ifMatched = false;
     bool m_ifSkip = false;
     bool m_lastLineEnded = true; ///< the last line of the file has a line end
-    QStringList m_defines; ///< upper case
+    QStringList m_defines;       ///< upper case
     QSet<QString> m_defineSet;
     QString m_nameSpace;
     StringPool m_pool;

@@ -154,8 +154,8 @@ bool ModAsmFe::formula(const SrcReference* srcRef, const QString& nameSpace, con
 }
 
 /// Evaluates an expression and reports what is wrong with its form.
-bool ModAsmFe::evaluateFormula(const SrcReference* srcRef, const QString& text, const AsmFeFormula::TermValue& termValue,
-                               unsigned int* value)
+bool ModAsmFe::evaluateFormula(const SrcReference* srcRef, const QString& text,
+                               const AsmFeFormula::TermValue& termValue, unsigned int* value)
 {
     switch (AsmFeFormula().evaluate(text, termValue, value)) {
     case AsmFeFormula::resultOk:
@@ -194,8 +194,8 @@ Equ* ModAsmFe::equOfTerm(const QString& nameSpace, const QString& term) const
     return m_equList.find(termNameSpace, name);
 }
 
-/// Takes the value of an `#EQU` that has been checked for a term. What is wrong with the constant is reported at the constant; that
-/// the term has no value is reported here.
+/// Takes the value of an `#EQU` that has been checked for a term. What is wrong with the constant is reported at the
+/// constant; that the term has no value is reported here.
 /// @param equ null if the term names none
 bool ModAsmFe::equTermValue(const SrcReference* srcRef, const QString& term, Equ* equ, int* value)
 {

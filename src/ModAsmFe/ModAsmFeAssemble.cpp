@@ -20,7 +20,8 @@ namespace nsModAsmFe {
 
 namespace {
 
-/// The moment that outputs are stamped with. Reproducible builds set it by the environment, in seconds since 1970, as UTC.
+/// The moment that outputs are stamped with. Reproducible builds set it by the environment, in seconds since 1970, as
+/// UTC.
 QDateTime stampTime()
 {
     bool ok = false;

@@ -44,12 +44,10 @@ bool ModAsmFe::parseLineConditional(SrcReference* srcRef, const QString& word, b
 
 bool ModAsmFe::parseLineDirective(SrcReference* srcRef, const QString& word, bool* isDirective)
 {
-    static const sDirective_t directives[] = {{"#DEFINE", &ModAsmFe::parseLineDirectiveDef},
-                                              {"#EQU", &ModAsmFe::parseLineDirectiveEqu},
-                                              {"#NAMESPACE", &ModAsmFe::parseLineDirectiveNs},
-                                              {"#ENDNAMESPACE", &ModAsmFe::parseLineDirectiveEndNs},
-                                              {"#SET", &ModAsmFe::parseLineDirectiveSet},
-                                              {"#ORG", &ModAsmFe::parseLineDirectiveOrg}};
+    static const sDirective_t directives[] = {
+        {"#DEFINE", &ModAsmFe::parseLineDirectiveDef},   {"#EQU", &ModAsmFe::parseLineDirectiveEqu},
+        {"#NAMESPACE", &ModAsmFe::parseLineDirectiveNs}, {"#ENDNAMESPACE", &ModAsmFe::parseLineDirectiveEndNs},
+        {"#SET", &ModAsmFe::parseLineDirectiveSet},      {"#ORG", &ModAsmFe::parseLineDirectiveOrg}};
     return parseLineByWord(srcRef, word, directives, 6, isDirective);
 }
 

@@ -9,12 +9,15 @@ namespace nsModAsmFe {
 /// One `#EQU` of the path that starts at the requested one.
 struct ModAsmFe::sEquStep_t
 {
-    explicit sEquStep_t(Equ* e) : equ(e) {}
+    explicit sEquStep_t(Equ* e)
+        : equ(e)
+    {
+    }
 
     Equ* equ;
     Equ* target = nullptr; ///< the `#EQU` whose value this one waits for
     bool isFormula = false;
-    QStringList terms; ///< of an expression
+    QStringList terms;       ///< of an expression
     std::vector<int> values; ///< of its terms, as far as they are known
 };
 

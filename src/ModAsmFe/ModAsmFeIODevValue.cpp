@@ -75,8 +75,7 @@ bool ModAsmFe::setupIODevAttrValueNumeric(IODev* dev, Set* set, const QString& i
         m_msgHndlr->signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(addr));
     if (dev->setValue(addr, static_cast<unsigned int>(m_parseArg->toNumeric(item)), &set->srcRef, false))
         return true;
-    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(addr),
-                        QString::number(dev->memSize));
+    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(addr), QString::number(dev->memSize));
     return false;
 }
 
@@ -222,8 +221,7 @@ bool ModAsmFe::mapInstWord(IODev* dev, Set* set, const sInstMemSpan_t& span, int
     const unsigned int word = (static_cast<unsigned int>(opcode->instWord) >> span.low) & span.mask;
     if (dev->setValue(int(cell), word, &opcode->srcRef, opcode->memRange == 0))
         return true;
-    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell),
-                        QString::number(dev->memSize));
+    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell), QString::number(dev->memSize));
     return false;
 }
 

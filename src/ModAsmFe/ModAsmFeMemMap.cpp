@@ -95,8 +95,8 @@ bool ModAsmFe::mapOpcodeToMemSetConfig()
     // A memory of less than nothing has no room for any instruction either.
     m_pageSize = qMax(m_pageSize, 0);
     if (qint64(m_pageSize) * m_pageCount > maxMemWords) {
-        m_msgHndlr->signMsg(errMMInstMemTooLarge, last != nullptr ? &last->srcRef : nullptr, QString::number(m_pageCount),
-                            QString::number(m_pageSize), QString::number(maxMemWords));
+        m_msgHndlr->signMsg(errMMInstMemTooLarge, last != nullptr ? &last->srcRef : nullptr,
+                            QString::number(m_pageCount), QString::number(m_pageSize), QString::number(maxMemWords));
         return false;
     }
     return true;
@@ -287,8 +287,8 @@ bool ModAsmFe::placeOpcode(Opcode* opcode, int range, int* free, int limit)
 bool ModAsmFe::mapOpcodeToMemSetAddressesUpwards(int range, int start, int* limit)
 {
     int free = start;
-    const bool success = m_memRangeList.forEachOpcode(
-        range, [&](Opcode* opcode) { return placeOpcode(opcode, range, &free, *limit); });
+    const bool success =
+        m_memRangeList.forEachOpcode(range, [&](Opcode* opcode) { return placeOpcode(opcode, range, &free, *limit); });
     *limit = free;
     return success;
 }

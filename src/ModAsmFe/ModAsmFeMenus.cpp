@@ -59,8 +59,8 @@ const QList<sInstructionGroup_t>& instructionGroups()
 }
 
 const char* const navigatorCommands[] = {
-    "; \\navConst \"Your title\"",    "; \\navSep \"Your title\"", "; \\navGrpBegin \"Your title\"",
-    "; \\navGrpEnd", "; \\navHw \"Your title\"",
+    "; \\navConst \"Your title\"", "; \\navSep \"Your title\"", "; \\navGrpBegin \"Your title\"", "; \\navGrpEnd",
+    "; \\navHw \"Your title\"",
 };
 
 /// A rule for a fixed expression.
@@ -84,9 +84,9 @@ const sRule_t organizationRules[] = {
 };
 
 const char* const attributeExpressions[] = {
-    "\\b[24]+BE\\b", "\\bLEN\\b",  "\\bINSTMEM\\b", "\\bIODev\\b",      "\\bhiMem\\b", "\\bloMem\\b", "\\bvhdl\\b",
-    "\\bverilog\\b", "\\bhex\\b",  "\\bsim\\b",     "\\bmem\\b",        "\\bfifo\\b",  "\\breg\\b",   "\\bappend\\b",
-    "\\accessMode\\b", "\\btrue\\b", "\\bfalse\\b",   "\\brd\\b",         "\\bwr\\b",    "\\brdWr\\b",
+    "\\b[24]+BE\\b",   "\\bLEN\\b",  "\\bINSTMEM\\b", "\\bIODev\\b", "\\bhiMem\\b", "\\bloMem\\b", "\\bvhdl\\b",
+    "\\bverilog\\b",   "\\bhex\\b",  "\\bsim\\b",     "\\bmem\\b",   "\\bfifo\\b",  "\\breg\\b",   "\\bappend\\b",
+    "\\accessMode\\b", "\\btrue\\b", "\\bfalse\\b",   "\\brd\\b",    "\\bwr\\b",    "\\brdWr\\b",
 };
 
 const char* const directiveExpressions[] = {
@@ -135,7 +135,10 @@ const sRule_t lastRules[] = {
 class RuleList
 {
 public:
-    explicit RuleList(ModEditorHookIf* editor) : m_editor(editor) {}
+    explicit RuleList(ModEditorHookIf* editor)
+        : m_editor(editor)
+    {
+    }
 
     void add(ModEditorHookIf::eHighlightRule_t rule, const QString& expression, Qt::CaseSensitivity cs)
     {
@@ -256,7 +259,8 @@ void ModAsmFe::setHighlighter()
     rules.addExpressions(ModEditorHookIf::eHighlightRuleAttr, attributeExpressions);
     for (const IODev* dev : m_ioDevList.devices()) {
         if (!dev->devName.isEmpty())
-            rules.add(ModEditorHookIf::eHighlightRuleAttr, QString("::\\b%1\\b").arg(dev->devName), Qt::CaseInsensitive);
+            rules.add(ModEditorHookIf::eHighlightRuleAttr, QString("::\\b%1\\b").arg(dev->devName),
+                      Qt::CaseInsensitive);
     }
     rules.add(ModEditorHookIf::eHighlightRuleAttr, "\\b\\S+\\b::", Qt::CaseInsensitive);
     rules.add(ModEditorHookIf::eHighlightRuleAttr, "::", Qt::CaseInsensitive);

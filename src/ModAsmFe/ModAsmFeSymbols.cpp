@@ -11,11 +11,11 @@ namespace nsModAsmFe {
 
 void ModAsmFe::setupKeywordLists()
 {
-    m_instructionWords = QStringList({"RET",  "RETI", "ADDC",   "SUBC",  "INT",   "COMP",  "COMPC", "ADD",
-                                      "AND",  "CALL", "HWBUILD", "JUMP", "LOAD",  "NOP",   "OR",    "ROL",
-                                      "ROLC", "ROR",  "RORC",   "SL0",   "SL1",   "SLX",   "SR0",   "SR1",
-                                      "SRX",  "SUB",  "TEST",   "TESTC", "XOR",   "WRMEM", "WRPRT", "RDMEM",
-                                      "RDPRT", "STAR", "regBank", "LOADRET", "SET", "CLR"});
+    m_instructionWords =
+        QStringList({"RET",     "RETI",  "ADDC",  "SUBC", "INT",     "COMP",    "COMPC", "ADD",   "AND",  "CALL",
+                     "HWBUILD", "JUMP",  "LOAD",  "NOP",  "OR",      "ROL",     "ROLC",  "ROR",   "RORC", "SL0",
+                     "SL1",     "SLX",   "SR0",   "SR1",  "SRX",     "SUB",     "TEST",  "TESTC", "XOR",  "WRMEM",
+                     "WRPRT",   "RDMEM", "RDPRT", "STAR", "regBank", "LOADRET", "SET",   "CLR"});
     m_argumentWords = QStringList({"ENABLE", "DISABLE", "C", "NC", "Z", "NZ"});
     m_instructionWordSet = QSet<QString>(m_instructionWords.cbegin(), m_instructionWords.cend());
     m_argumentWordSet = QSet<QString>(m_argumentWords.cbegin(), m_argumentWords.cend());

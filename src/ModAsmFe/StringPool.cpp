@@ -11,7 +11,12 @@ const int longestAsciiWord = 32;
 
 } // namespace
 
-StringPool::StringPool() : m_slots(initialSlots), m_seed(uint(qGlobalQHashSeed())), m_empty("") {}
+StringPool::StringPool()
+    : m_slots(initialSlots)
+    , m_seed(uint(qGlobalQHashSeed()))
+    , m_empty("")
+{
+}
 
 const QString& StringPool::intern(QStringView text)
 {

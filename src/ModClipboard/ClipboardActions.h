@@ -14,12 +14,7 @@ class ClipboardActions : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionCut = 0,
-        eActionCopy = 1,
-        eActionPaste = 2
-    };
+    enum eAction_t { eActionCut = 0, eActionCopy = 1, eActionPaste = 2 };
 
     explicit ClipboardActions(QObject* parent);
 

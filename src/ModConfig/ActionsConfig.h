@@ -13,10 +13,7 @@ class ActionsConfig : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionConfigure = 0
-    };
+    enum eAction_t { eActionConfigure = 0 };
     Q_ENUM(eAction_t)
 
     explicit ActionsConfig(QObject* parent = nullptr);

@@ -92,13 +92,7 @@ private slots:
     void changeDlgPage(QListWidgetItem* next, QListWidgetItem* prev);
 
 private:
-    enum class eState_t
-    {
-        closed,
-        opening,
-        open,
-        closing
-    };
+    enum class eState_t { closed, opening, open, closing };
 
     /// The page of an entry of the list.
     struct sConfigItem_t

@@ -13,23 +13,15 @@ namespace nsModEditor {
 class DocumentFormat
 {
 public:
-    enum eEncoding_t
-    {
+    enum eEncoding_t {
         eEncodingUtf8 = 0,
         eEncodingLatin1 = 1 ///< every byte is a character
     };
 
-    enum eLineEnd_t
-    {
-        eLineEndLf = 0,
-        eLineEndCrLf = 1,
-        eLineEndCr = 2,
-        eLineEndMixed = 3
-    };
+    enum eLineEnd_t { eLineEndLf = 0, eLineEndCrLf = 1, eLineEndCr = 2, eLineEndMixed = 3 };
 
     /// Why a text can not be edited without a loss.
-    enum eObstacle_t
-    {
+    enum eObstacle_t {
         eObstacleNone = 0,
         eObstacleNul = 1,
         eObstacleUtf16 = 2,

@@ -10,8 +10,7 @@ namespace nsModEditor {
 class DocumentOnDisk
 {
 public:
-    enum eState_t
-    {
+    enum eState_t {
         eStateSame = 0,
         eStateChanged = 1,
         eStateGone = 2,

@@ -133,7 +133,8 @@ void wrAppCfgFontFormat(ModCfgAppHookIf* cfg, const QString& context, const QTex
 
 } // namespace
 
-EditorConfig::EditorConfig() : stdFont(getNominalFont())
+EditorConfig::EditorConfig()
+    : stdFont(getNominalFont())
 {
     for (int i = 0; i < fontContextCount; ++i) {
         fontFormats[i].setForeground(QColor(fontContexts[i].color));

@@ -31,9 +31,9 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 0, 8, 0);
     layout->setSpacing(8);
-    m_fontSize = addPair(tr("Font size:"),
-                         tr("Font size of the document, changed with Ctrl and the wheel; Ctrl+0 resets it"),
-                         "editorStatusBarFontSize");
+    m_fontSize =
+        addPair(tr("Font size:"), tr("Font size of the document, changed with Ctrl and the wheel; Ctrl+0 resets it"),
+                "editorStatusBarFontSize");
     layout->addSpacing(8);
     m_mode = addPair(tr("Mode:"), tr("What typing does to the text behind the cursor, changed with the Insert key"),
                      "editorStatusBarMode");

@@ -23,7 +23,11 @@
 
 namespace nsModEditor {
 
-ModEditor::ModEditor(QObject* parent) : QObject(parent), m_textCompletionList(new QStringListModel(this)) {}
+ModEditor::ModEditor(QObject* parent)
+    : QObject(parent)
+    , m_textCompletionList(new QStringListModel(this))
+{
+}
 
 ModEditor::~ModEditor()
 {

@@ -88,7 +88,8 @@ public:
     void modInit() override;
     void modInitIntermod() override;
     void modRun() override;
-    /// Asks for the changed documents while the window is whole; afterwards each text is in its file or in the recovery store.
+    /// Asks for the changed documents while the window is whole; afterwards each text is in its file or in the recovery
+    /// store.
     bool modExitRequest() override;
     void modExitIntermod() override;
     void modExit() override;
@@ -234,12 +235,7 @@ private:
     bool ask(const QString& title, const QString& first, const QString& path, const QStringList& closing);
     // Files that others change (ModEditorDisk.cpp)
     /// The user's choice if a file and its document have both changed.
-    enum eConflict_t
-    {
-        eConflictCancel = 0,
-        eConflictKeepMine = 1,
-        eConflictTakeFile = 2
-    };
+    enum eConflict_t { eConflictCancel = 0, eConflictKeepMine = 1, eConflictTakeFile = 2 };
     /// What is known of the file of a document.
     struct sDisk_t
     {
@@ -325,14 +321,14 @@ private:
     EditorRecovery* m_recovery = nullptr;
     QAction* m_recoverAction = nullptr; ///< enabled at any time, unlike those of the documents
     QAction* m_recoverSeparator = nullptr;
-    QPointer<MyNoticeBar> m_recoveryNotice; ///< after a start that found texts, until its user closes it
-    QString m_lastPath; ///< folder that the next dialog for saving starts in
+    QPointer<MyNoticeBar> m_recoveryNotice;           ///< after a start that found texts, until its user closes it
+    QString m_lastPath;                               ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
-    bool m_errorShown = false; ///< the present action of the user has reported an error
+    bool m_errorShown = false;       ///< the present action of the user has reported an error
 };
 
 } // namespace nsModEditor

@@ -141,9 +141,9 @@ void ModEditor::setActionState(EditorWidget* current)
     }
     if (!m_editorWidgets.contains(current))
         return;
-    for (const auto action : {EditorActionsFile::eActionSave, EditorActionsFile::eActionSaveAs,
-                              EditorActionsFile::eActionReload, EditorActionsFile::eActionPrint,
-                              EditorActionsFile::eActionClose})
+    for (const auto action :
+         {EditorActionsFile::eActionSave, EditorActionsFile::eActionSaveAs, EditorActionsFile::eActionReload,
+          EditorActionsFile::eActionPrint, EditorActionsFile::eActionClose})
         m_actionsFile->setEnabled(action, true);
     m_actionsFile->setEnabled(EditorActionsFile::eActionCloseOthers, m_editorWidgets.size() > 1);
     for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)

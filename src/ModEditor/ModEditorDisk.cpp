@@ -296,8 +296,7 @@ void ModEditor::checkDisk(EditorWidget* widget)
 
 void ModEditor::showGoneNotice(EditorWidget* widget)
 {
-    auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning,
-                                tr("The file is gone from the disk."));
+    auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning, tr("The file is gone from the disk."));
     connect(bar->addButton(tr("Save again"), tr("Writes the text into a file of the same name")), &QPushButton::clicked,
             widget, [this, widget] { writeAgain(widget); });
     m_disk[widget].notice = bar;
@@ -306,8 +305,7 @@ void ModEditor::showGoneNotice(EditorWidget* widget)
 
 void ModEditor::showChangedNotice(EditorWidget* widget)
 {
-    auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning,
-                                tr("File and document have both changed."));
+    auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning, tr("File and document have both changed."));
     connect(bar->addButton(tr("Compare..."), tr("Shows both texts side by side")), &QPushButton::clicked, widget,
             [this, widget] { compareByNotice(widget); });
     connect(bar->addButton(tr("Take the file"), tr("Takes the text of the file; Undo brings yours back")),

@@ -132,7 +132,8 @@ bool ModEditor::openFile(QString path)
 
 void ModEditor::openFilesByDialog()
 {
-    QFileDialog dialog(nullptr, tr("Open file"), modPrjHook != nullptr ? modPrjHook->prjDir().absolutePath() : QString());
+    QFileDialog dialog(nullptr, tr("Open file"),
+                       modPrjHook != nullptr ? modPrjHook->prjDir().absolutePath() : QString());
     setupDialog(&dialog);
     dialog.setFileMode(QFileDialog::ExistingFiles);
     if (dialog.exec() != QDialog::Accepted)
@@ -196,8 +197,8 @@ void ModEditor::saveAllFiles()
         // While the dialog for an untitled document is open, the user can close pages.
         const QList<EditorWidget*> widgets = m_editorWidgets;
         for (EditorWidget* widget : widgets) {
-            // A file that the user has not touched here is left to whoever may have changed or removed it, and a page that
-            // nobody has typed into needs no name.
+            // A file that the user has not touched here is left to whoever may have changed or removed it, and a page
+            // that nobody has typed into needs no name.
             if (m_editorWidgets.contains(widget) && !isUntouched(widget) &&
                 (widget->isModified() || !m_disk.value(widget).onDisk.isKnown()))
                 saveFile(widget);

@@ -94,8 +94,8 @@ void ModEditor::settleFiles(bool isNew)
     }
 }
 
-/// Asks whether a changed document is to be saved. Afterwards its text is in its file or in the recovery store, unless there is
-/// room in neither and the user gives it up. The document may be gone.
+/// Asks whether a changed document is to be saved. Afterwards its text is in its file or in the recovery store, unless
+/// there is room in neither and the user gives it up. The document may be gone.
 void ModEditor::settleFile(EditorWidget* widget, bool isNew)
 {
     const sDisk_t disk = m_disk.value(widget);
@@ -178,15 +178,16 @@ void ModEditor::offerRecovery()
     if (m_recovery == nullptr || modGuiHook == nullptr)
         return;
     const QList<RecoveryStore::Entry> entries = m_recovery->store()->entries();
-    const auto count = std::count_if(entries.cbegin(), entries.cend(),
-                                     [](const RecoveryStore::Entry& entry) { return entry.isNew; });
+    const auto count =
+        std::count_if(entries.cbegin(), entries.cend(), [](const RecoveryStore::Entry& entry) { return entry.isNew; });
     if (count == 0)
         return;
-    const QString text = count == 1 ? tr("A text was not saved when the program ended. It has been kept.")
-                                    : tr("%1 texts were not saved when the program ended. They have been kept.").arg(count);
+    const QString text = count == 1
+                             ? tr("A text was not saved when the program ended. It has been kept.")
+                             : tr("%1 texts were not saved when the program ended. They have been kept.").arg(count);
     m_recoveryNotice = new MyNoticeBar(MyNoticeBar::eGradeWarning, text);
-    QPushButton* button = m_recoveryNotice->addButton(tr("Compare and restore..."),
-                                                      tr("Shows the texts that were kept, to compare and restore them"));
+    QPushButton* button = m_recoveryNotice->addButton(
+        tr("Compare and restore..."), tr("Shows the texts that were kept, to compare and restore them"));
     connect(button, &QPushButton::clicked, this, [this] {
         showRecoverDialog();
         // Without a project nothing could be restored yet: the offer stands.
@@ -253,7 +254,8 @@ EditorWidget* ModEditor::documentOf(const QString& path) const
     return nullptr;
 }
 
-/// The text comes into the document of its file, as a change that can be undone; the file is as it was until it is saved.
+/// The text comes into the document of its file, as a change that can be undone; the file is as it was until it is
+/// saved.
 bool ModEditor::restoreText(const QString& id)
 {
     RecoveryStore::Entry entry;
@@ -299,7 +301,8 @@ bool ModEditor::compareText(const QString& id, bool canRestore)
     dialog.setTexts(tr("Kept on %1").arg(RecoverDialog::timeText(entry)), textOf(entry, bytes),
                     widget != nullptr ? tr("In the editor") : tr("In the file"), present);
     if (canRestore)
-        dialog.addButton(tr("Restore"), tr("Opens the document with the kept text; its file is left alone until it is saved"),
+        dialog.addButton(tr("Restore"),
+                         tr("Opens the document with the kept text; its file is left alone until it is saved"),
                          resultRestore);
     return dialog.exec() == resultRestore;
 }

@@ -14,13 +14,7 @@ class FindReplaceActions : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionFind = 0,
-        eActionFindNext = 1,
-        eActionFindPrev = 2,
-        eActionReplace = 3
-    };
+    enum eAction_t { eActionFind = 0, eActionFindNext = 1, eActionFindPrev = 2, eActionReplace = 3 };
 
     explicit FindReplaceActions(QObject* parent);
 

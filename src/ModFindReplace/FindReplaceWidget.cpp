@@ -18,19 +18,10 @@ const QString iconClose = QStringLiteral(":/ModFindReplace/img/widget/closeWidge
 const QString iconExpand = QStringLiteral(":/ModFindReplace/img/widget/expand.png");
 const QString iconCollapse = QStringLiteral(":/ModFindReplace/img/widget/collapse.png");
 
-constexpr int gap = 8;          ///< the grid of the interface
+constexpr int gap = 8;           ///< the grid of the interface
 constexpr int smallestEdit = 96; ///< width of the text fields in a narrow window
 
-enum eColumn_t
-{
-    columnClose,
-    columnToggle,
-    columnLabel,
-    columnEdit,
-    columnButtons,
-    columnOptions,
-    columnCount
-};
+enum eColumn_t { columnClose, columnToggle, columnLabel, columnEdit, columnButtons, columnOptions, columnCount };
 
 } // namespace
 
@@ -103,8 +94,8 @@ void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
     auto* buttons = new QHBoxLayout(m_replaceButtons);
     buttons->setContentsMargins(0, 0, 0, 0);
     buttons->setSpacing(gap);
-    m_replaceButton = addButton(buttons, "buttonReplace", tr("&Replace"),
-                                tr("Replace the selected hit and find the next one"));
+    m_replaceButton =
+        addButton(buttons, "buttonReplace", tr("&Replace"), tr("Replace the selected hit and find the next one"));
     m_replaceAllButton = addButton(buttons, "buttonReplaceAll", tr("Replace &all"), tr("Replace all hits"));
     buttons->addStretch();
 
@@ -171,8 +162,9 @@ void FindReplaceWidget::resizeEvent(QResizeEvent* event)
 
 void FindReplaceWidget::setupTabOrder()
 {
-    const QList<QWidget*> order = {m_close,         m_find,             m_replace,       m_nextButton, m_prevButton,
-                                   m_replaceButton, m_replaceAllButton, m_caseSensitive, m_wholeWords, m_toggle};
+    const QList<QWidget*> order = {m_close,      m_find,          m_replace,          m_nextButton,
+                                   m_prevButton, m_replaceButton, m_replaceAllButton, m_caseSensitive,
+                                   m_wholeWords, m_toggle};
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }

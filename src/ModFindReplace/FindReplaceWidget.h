@@ -18,11 +18,7 @@ class FindReplaceWidget : public QWidget
     Q_OBJECT
 
 public:
-    enum eMode_t
-    {
-        eModeFind = 0,
-        eModeReplace = 1
-    };
+    enum eMode_t { eModeFind = 0, eModeReplace = 1 };
 
     explicit FindReplaceWidget(QWidget* parent = nullptr);
 

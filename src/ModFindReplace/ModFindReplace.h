@@ -86,7 +86,7 @@ private:
     /// Returns the flag and clears it.
     bool takeConfigChanged();
 
-    QHash<QWidget*, sWidgetParameter_t> m_widgets; ///< the keys are compared, never followed
+    QHash<QWidget*, sWidgetParameter_t> m_widgets;    ///< the keys are compared, never followed
     ModFindReplacePluginIf* m_activePlugin = nullptr; ///< the client that the bar serves; it has a widget in the list
     const ModFindReplacePluginIf* m_informedPlugin = nullptr; ///< has read the parameters last; only compared
     bool m_configChanged = false;

@@ -10,9 +10,9 @@ class QMainWindow;
 
 namespace nsModGui {
 
-/// Keeps the docks' shares of the window: they grow and shrink with it, and come back with the extent that the user gave
-/// them. Without this class the layout gives all additional space to the centre, and forgets the extent of a hidden
-/// dock.
+/// Keeps the docks' shares of the window: they grow and shrink with it, and come back with the extent that the user
+/// gave them. Without this class the layout gives all additional space to the centre, and forgets the extent of a
+/// hidden dock.
 class DockShares : public QObject
 {
     Q_OBJECT

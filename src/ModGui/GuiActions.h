@@ -13,10 +13,7 @@ class GuiActions : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionSetDefaultWindowSize = 0
-    };
+    enum eAction_t { eActionSetDefaultWindowSize = 0 };
 
     explicit GuiActions(QObject* parent);
 

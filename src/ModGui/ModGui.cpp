@@ -32,7 +32,7 @@ const QString keyState = QStringLiteral("ModGui/state");
 const QString entryMaximized = QStringLiteral("maximized");
 const QString entryBars = QStringLiteral("bars="); ///< tool bars and docks, as the window writes them, in base 64
 
-const int stateVersion = 1; ///< of the bars
+const int stateVersion = 1;           ///< of the bars
 const QSize pictureWindow(1280, 750); ///< window size for pictures of the program
 const int pictureDockHeight = 200;    ///< height of the bottom dock in these
 const QSize windowIconSize(22, 22);

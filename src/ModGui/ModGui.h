@@ -120,9 +120,9 @@ private:
     QMainWindow* window() const;
 
     QPointer<QObject> m_windowObject;
-    QPointer<QStatusBar> m_statusBar; ///< of the window; it can go before the pages do
+    QPointer<QStatusBar> m_statusBar;     ///< of the window; it can go before the pages do
     WidgetAreaTabbed* m_tabbed = nullptr; ///< owned by the window
-    sArea_t m_areas[areaCount]; ///< by location; the first stays empty
+    sArea_t m_areas[areaCount];           ///< by location; the first stays empty
     PluginList<ModGuiPluginIf> m_plugins;
     QHash<QWidget*, sWidgetData_t*> m_widgets;
     QList<QWidget*> m_centerWidgets; ///< widgets of the tabs, the most recently current one last

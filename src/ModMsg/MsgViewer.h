@@ -20,13 +20,7 @@ class MsgViewer : public QTreeWidget
     Q_OBJECT
 
 public:
-    enum eColumn_t
-    {
-        eColumnMessage = 0,
-        eColumnHelpLink = 1,
-        eColumnSourceLink = 2,
-        eColumnCount = 3
-    };
+    enum eColumn_t { eColumnMessage = 0, eColumnHelpLink = 1, eColumnSourceLink = 2, eColumnCount = 3 };
 
     /// Role under which a link column keeps its QUrl.
     static constexpr int urlRole = Qt::UserRole;

@@ -57,11 +57,7 @@ public:
     bool closePrj();
 
     /// The tabs of the project manager.
-    enum eMode_t
-    {
-        eModeNew = 0,
-        eModeOpen = 1
-    };
+    enum eMode_t { eModeNew = 0, eModeOpen = 1 };
     /// Shows the page of the project manager; does nothing without a main window.
     void prjMngrSetup();
     /// Removes the page; what has changed on it is lost.

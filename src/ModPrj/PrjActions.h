@@ -11,12 +11,7 @@ class PrjActions : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionNew = 0,
-        eActionOpen = 1,
-        eActionClose = 2
-    };
+    enum eAction_t { eActionNew = 0, eActionOpen = 1, eActionClose = 2 };
     Q_ENUM(eAction_t)
 
     explicit PrjActions(QObject* parent = nullptr);

@@ -35,7 +35,11 @@ void unregisterAt(Hook* hook, ProcPluginIf* processor)
 
 } // namespace
 
-ModProcessor::ModProcessor(QObject* parent) : QObject(parent), m_list(std::make_unique<ProcList>()) {}
+ModProcessor::ModProcessor(QObject* parent)
+    : QObject(parent)
+    , m_list(std::make_unique<ProcList>())
+{
+}
 
 ModProcessor::~ModProcessor()
 {

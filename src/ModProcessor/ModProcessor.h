@@ -84,7 +84,7 @@ private:
 
     std::unique_ptr<ProcList> m_list;
     std::unique_ptr<ProcConfigPage> m_configPage; ///< null while the settings dialog is closed; deleted before the list
-    ProcPluginIf* m_current = nullptr; ///< not owned
+    ProcPluginIf* m_current = nullptr;            ///< not owned
 };
 
 } // namespace nsModProcessor

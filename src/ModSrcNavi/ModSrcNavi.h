@@ -93,7 +93,7 @@ private:
 
     PluginList<ModSrcNaviPluginIf> m_plugins;
     NaviTagList m_tagList;
-    QPointer<NaviWidget> m_naviWidget; ///< the window may take it along when it goes
+    QPointer<NaviWidget> m_naviWidget;        ///< the window may take it along when it goes
     QPointer<SrcNaviConfigPage> m_configPage; ///< null while the settings dialog is closed
 };
 

@@ -95,11 +95,11 @@ private:
     QString m_lastLineRef; ///< of the tag last clicked
     QColor m_bookmarkColor;
     QTextCharFormat m_formats[SrcNaviConfig::fontContextCount];
-    QStringList m_bookmarks; ///< line references
-    int m_scrollPos = 0;     ///< scroll position of the tree when it was emptied
+    QStringList m_bookmarks;    ///< line references
+    int m_scrollPos = 0;        ///< scroll position of the tree when it was emptied
     QStringList m_shownContent; ///< content that was reported last
     bool m_shownFlat = false;
-    int m_shownOrder = 0;    ///< index in the combo box when the tree was filled
+    int m_shownOrder = 0; ///< index in the combo box when the tree was filled
 };
 
 } // namespace nsModSrcNavi

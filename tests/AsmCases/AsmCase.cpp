@@ -13,7 +13,8 @@ const QHash<QString, QString> processors = {{"none", ""},
                                             {"LMico8v3x", "Lattice Mico8 v3.x"}};
 const QStringList events = {"none", "button1", "button2", "save"};
 const QStringList lineFacts = {"word", "addr", "mem", "range", "value", "type", "used"};
-const QStringList runFacts = {"count", "cell", "device", "no-device", "group", "no-group", "define", "no-info", "no-define"};
+const QStringList runFacts = {"count",    "cell",   "device",  "no-device", "group",
+                              "no-group", "define", "no-info", "no-define"};
 
 } // namespace
 
@@ -26,7 +27,8 @@ QString ExpectedMsg::describe() const
 QStringList AsmCase::scan(const QString& folder)
 {
     QStringList cases;
-    const QFileInfoList entries = QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
+    const QFileInfoList entries =
+        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name);
     for (const QFileInfo& entry : entries) {
         if (entry.isFile() && entry.suffix() == "psm")
             cases.append(entry.filePath());
@@ -39,7 +41,9 @@ QStringList AsmCase::scan(const QString& folder)
     return cases;
 }
 
-AsmCase::AsmCase(const QString& casePath) : path(casePath), isFolder(QFileInfo(casePath).isDir())
+AsmCase::AsmCase(const QString& casePath)
+    : path(casePath)
+    , isFolder(QFileInfo(casePath).isDir())
 {
     if (isFolder) {
         const QDir dir(path);
@@ -82,7 +86,8 @@ void AsmCase::readSource(const QString& name)
                 break;
             const QRegularExpressionMatch next = start.match(line, match.capturedEnd());
             const int end = next.hasMatch() ? next.capturedStart() : line.size();
-            readComment(name, i, lines.size(), line.mid(match.capturedStart(1), end - match.capturedStart(1)).section(" ; ", 0, 0).trimmed());
+            readComment(name, i, lines.size(),
+                        line.mid(match.capturedStart(1), end - match.capturedStart(1)).section(" ; ", 0, 0).trimmed());
             pos = match.capturedEnd();
         }
     }

@@ -53,8 +53,8 @@ public:
 
     QList<ExpectedMsg> messages;
     QList<ExpectedMsg> infos;
-    QList<ExpectedFact> facts;                      ///< of lines
-    QList<QPair<QString, QString>> wholeFacts;      ///< of the whole run: name and value
+    QList<ExpectedFact> facts;                 ///< of lines
+    QList<QPair<QString, QString>> wholeFacts; ///< of the whole run: name and value
     bool hasExpectation = false;
 
 private:

@@ -46,7 +46,8 @@ QString firstDifference(const QByteArray& expected, const QByteArray& actual)
 
 } // namespace
 
-AsmRun::AsmRun(const AsmCase& asmCase) : m_case(asmCase)
+AsmRun::AsmRun(const AsmCase& asmCase)
+    : m_case(asmCase)
 {
     prepareFolder();
     writeProject();

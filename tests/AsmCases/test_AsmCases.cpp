@@ -50,11 +50,22 @@ TEST_P(AsmCases, matches)
 
 INSTANTIATE_TEST_SUITE_P(data, AsmCases, ::testing::ValuesIn(allCases()), caseName);
 
-/// Messages that no stage can show, as the catalogue holds them for other uses, or as an earlier check makes them impossible.
+/// Messages that no stage can show, as the catalogue holds them for other uses, or as an earlier check makes them
+/// impossible.
 const QSet<QString> unreachable = {
-    "warnNothingTodo", "errSetMissingEndNsBeforeNs", "errExprEmptyParentheses", "warnIODevNoType",
-    "warnMMapIODevOverwriteValues", "errIODevUnsupportedDstFileType", "errIODevUnsupportedDirection", "errIODevDuplicate",
-    "errIODevExpectDevList", "errMMEmptyDevList", "errMMDevDuplicate", "errMMDevNotDefinedAsIODev", "errMMapIODevNotDefined",
+    "warnNothingTodo",
+    "errSetMissingEndNsBeforeNs",
+    "errExprEmptyParentheses",
+    "warnIODevNoType",
+    "warnMMapIODevOverwriteValues",
+    "errIODevUnsupportedDstFileType",
+    "errIODevUnsupportedDirection",
+    "errIODevDuplicate",
+    "errIODevExpectDevList",
+    "errMMEmptyDevList",
+    "errMMDevDuplicate",
+    "errMMDevNotDefinedAsIODev",
+    "errMMapIODevNotDefined",
     "errMMapIODevIvldDevCnt",
     // The name was looked up before, so it is there.
     "errEquUnresolvedLabel",
@@ -106,11 +117,11 @@ TEST(AsmCaseCount, thereAreEnoughCases)
     }
     // About as many as there are: a folder that is no longer found, or a scan that ends early, must show.
     EXPECT_GE(cases.size(), 1430u);
-    for (const char* topic : {"directive", "expr", "iodev", "lmico8", "mapping", "numeric", "output", "parse", "pipeline",
-                              "string", "symbol", "xpblze3", "xpblze6"}) {
+    for (const char* topic : {"directive", "expr", "iodev", "lmico8", "mapping", "numeric", "output", "parse",
+                              "pipeline", "string", "symbol", "xpblze3", "xpblze6"}) {
         const QString folder = dataFolder + '/' + QLatin1String(topic) + '/';
-        EXPECT_GE(std::count_if(cases.begin(), cases.end(), [&](const QString& path) { return path.startsWith(folder); }),
-                  30)
+        EXPECT_GE(
+            std::count_if(cases.begin(), cases.end(), [&](const QString& path) { return path.startsWith(folder); }), 30)
             << topic;
     }
     EXPECT_GE(errors * 3, int(cases.size()));

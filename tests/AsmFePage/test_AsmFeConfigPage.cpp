@@ -35,7 +35,10 @@ protected:
             result.append(box->itemText(i) + '=' + box->itemData(i).toString());
         return result;
     }
-    QCheckBox* enable(const char* target) const { return page.findChild<QWidget*>(target)->findChild<QCheckBox*>("targetEnable"); }
+    QCheckBox* enable(const char* target) const
+    {
+        return page.findChild<QWidget*>(target)->findChild<QCheckBox*>("targetEnable");
+    }
     MyFileSelectSave* outputFile(const char* target) const
     {
         return page.findChild<QWidget*>(target)->findChild<MyFileSelectSave*>("targetOutputFile");
@@ -63,13 +66,33 @@ TEST_F(AsmFePage, SaysWhatItIs)
 TEST_F(AsmFePage, TextsAndChoices)
 {
     const QStringList shown = labels(&page);
-    for (const char* text :
-         {"Assembler configuration", "Assembler behavior", "Character set", "Output file configuration",
-          "Default character set:", "Default charset behavior:", "Equations overwrite behavior:",
-          "Settings overwrite behavior:", "Check interrupt vector behavior:", "File write events", "Events:", "Button 1",
-          "Button 2", "After saving", "Write VHDL files:", "Write verilog files:", "Write hex files:", "Write mem files:",
-          "Hex output file", "Mem output file", "VHDL output file", "Verilog output file", "Enable:", "Output file:",
-          "Gap stuffing enable:", "Entity name:", "Template file:"})
+    for (const char* text : {"Assembler configuration",
+                             "Assembler behavior",
+                             "Character set",
+                             "Output file configuration",
+                             "Default character set:",
+                             "Default charset behavior:",
+                             "Equations overwrite behavior:",
+                             "Settings overwrite behavior:",
+                             "Check interrupt vector behavior:",
+                             "File write events",
+                             "Events:",
+                             "Button 1",
+                             "Button 2",
+                             "After saving",
+                             "Write VHDL files:",
+                             "Write verilog files:",
+                             "Write hex files:",
+                             "Write mem files:",
+                             "Hex output file",
+                             "Mem output file",
+                             "VHDL output file",
+                             "Verilog output file",
+                             "Enable:",
+                             "Output file:",
+                             "Gap stuffing enable:",
+                             "Entity name:",
+                             "Template file:"})
         EXPECT_TRUE(shown.contains(text)) << text;
     EXPECT_EQ(entries("behaviorCharset"), QStringList({"Don't use default charset=0", "Warn by using default charset=1",
                                                        "Use default charset without warning=2"}));
@@ -196,7 +219,8 @@ TEST_F(AsmFePage, SaysThatNothingIsWrittenUntilSomethingIs)
 {
     EXPECT_TRUE(outputHint());
     area.ensureWidgetVisible(enable("targetHex"));
-    QTest::mouseClick(enable("targetHex"), Qt::LeftButton, Qt::NoModifier, QPoint(8, enable("targetHex")->height() / 2));
+    QTest::mouseClick(enable("targetHex"), Qt::LeftButton, Qt::NoModifier,
+                      QPoint(8, enable("targetHex")->height() / 2));
     ASSERT_TRUE(enable("targetHex")->isChecked());
     EXPECT_FALSE(outputHint());
     EXPECT_EQ(hint("targetHex"), "No output file is given: nothing will be written.");

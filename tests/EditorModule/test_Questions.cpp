@@ -38,7 +38,8 @@ TEST_F(Questions, closingAModifiedDocumentAsksAndYesSaves)
     editor.closeFile();
     EXPECT_EQ(helper.seen(), 1);
     EXPECT_EQ(title, "File was modified");
-    EXPECT_EQ(text, "<p>The file was changed.</p><p><b>a.psm</b><p><p>Do you want to save the file before closing?</p>");
+    EXPECT_EQ(text,
+              "<p>The file was changed.</p><p><b>a.psm</b><p><p>Do you want to save the file before closing?</p>");
     EXPECT_EQ(read("a.psm"), "XNOP");
     EXPECT_TRUE(editor.editorWidgets().isEmpty());
 }
@@ -84,8 +85,9 @@ TEST_F(Questions, reloadOfAModifiedDocumentAsks)
     }
     ModalHelper helper([&](QDialog* dialog) {
         auto* box = qobject_cast<QMessageBox*>(dialog);
-        EXPECT_EQ(box->text(), "<p>The file was changed:</p><p><b>a.psm</b><p>"
-                               "<p>If you continue to reload all changes will be lost.</p><p>Do you want to continue?</p>");
+        EXPECT_EQ(box->text(),
+                  "<p>The file was changed:</p><p><b>a.psm</b><p>"
+                  "<p>If you continue to reload all changes will be lost.</p><p>Do you want to continue?</p>");
         box->button(QMessageBox::Yes)->click();
     });
     editor.reloadFile();

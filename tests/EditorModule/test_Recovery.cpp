@@ -289,12 +289,12 @@ TEST_F(Recovery, aTextIsComparedAndRestored)
         type(other->editorWidgets().first(), "X");
     });
     ModalAnswers answers({[&](QDialog* dialog) {
-                              auto* list = dialog->findChild<QTreeWidget*>("recoverList");
-                              ASSERT_EQ(list->topLevelItemCount(), 1);
-                              EXPECT_EQ(list->topLevelItem(0)->text(0), "a.psm");
-                              press(dialog, "recoverRestore");
-                              EXPECT_EQ(list->topLevelItemCount(), 0);
-                          }});
+        auto* list = dialog->findChild<QTreeWidget*>("recoverList");
+        ASSERT_EQ(list->topLevelItemCount(), 1);
+        EXPECT_EQ(list->topLevelItem(0)->text(0), "a.psm");
+        press(dialog, "recoverRestore");
+        EXPECT_EQ(list->topLevelItemCount(), 0);
+    }});
     recoverAction()->trigger();
     EXPECT_EQ(answers.seen(), 1);
     EditorWidget* widget = document("a.psm");

@@ -48,7 +48,8 @@ TEST_F(State, aDocumentTurnsItsActionsOn)
 {
     EditorWidget* a = open("a.psm");
     focus(a);
-    for (const char* text : {"Save all", "Save", "Save as...", "Reload all", "Reload", "Print...", "Close", "Close all"})
+    for (const char* text :
+         {"Save all", "Save", "Save as...", "Reload all", "Reload", "Print...", "Close", "Close all"})
         EXPECT_TRUE(enabled(text)) << text;
     EXPECT_FALSE(enabled("Close all other documents"));
     open("b.psm");
@@ -97,7 +98,7 @@ TEST_F(State, settingsRoundTripEveryKey)
     const QStringList keys = cfg.tree.values.keys();
     EXPECT_EQ(keys.size(), 17 + 3 * EditorConfig::fontContextCount);
     for (const char* key : {"ModEditor/tabIndent", "ModEditor/memPageAddrEn", "ModEditor/stdFont",
-                               "ModEditor/font/cmd/weight", "ModEditor/font/keyWords/color", "ModEditor/font/doc/italic"})
+                            "ModEditor/font/cmd/weight", "ModEditor/font/keyWords/color", "ModEditor/font/doc/italic"})
         EXPECT_TRUE(keys.contains(key)) << key;
     editor.tabIndent = 8;
     editor.memPageAddrEn = 1;
@@ -264,7 +265,8 @@ int inkOfAddress(EditorWidget* widget)
     const QImage image = widget->leftMargin()->grab().toImage();
     const QColor ground = image.pixelColor(1, image.height() - 1);
     int ink = 0;
-    for (int x = widget->symbolMarginWidth() + 1; x < widget->symbolMarginWidth() + widget->memPageAddrMarginWidth(); ++x) {
+    for (int x = widget->symbolMarginWidth() + 1; x < widget->symbolMarginWidth() + widget->memPageAddrMarginWidth();
+         ++x) {
         for (int y = 0; y < widget->fontMetrics().height(); ++y)
             ink += image.pixelColor(x, y) != ground ? 1 : 0;
     }
@@ -365,8 +367,7 @@ TEST_F(State, theSettingsReachTheDocuments)
         EXPECT_EQ(widget->lineWrapMode(), on ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
         EXPECT_EQ(widget->lineNumberMarginWidth() > 0, on);
         EXPECT_EQ(widget->findChild<QCompleter*>()->maxVisibleItems(), on ? 7 : 8);
-        EXPECT_EQ(widget->tabStopDistance(),
-                  QFontMetricsF(widget->font()).horizontalAdvance(QString(on ? 3 : 5, 'x')));
+        EXPECT_EQ(widget->tabStopDistance(), QFontMetricsF(widget->font()).horizontalAdvance(QString(on ? 3 : 5, 'x')));
         widget->setTextCursor(word);
         EXPECT_EQ(marks(), on ? 2 : 0);
         widget->moveCursor(QTextCursor::EndOfBlock);

@@ -1,4 +1,5 @@
-// Large documents: they open, are highlighted once, and take every command. What that costs is measured by bench/editor.
+// Large documents: they open, are highlighted once, and take every command. What that costs is measured by
+// bench/editor.
 
 #include "EditorFixture.h"
 

@@ -71,7 +71,8 @@ TEST_F(Print, longLinesGoOnInTheNextRow)
     // Each row stands in its place.
     for (const PrintedPages::sRow& row : printed.rows()) {
         EXPECT_GT(ink(page, row.rect), 10) << qPrintable(row.text);
-        EXPECT_EQ(ink(page, QRectF(area.left(), row.rect.top(), row.rect.left() - area.left() - 8, row.rect.height())) > 0,
+        EXPECT_EQ(ink(page, QRectF(area.left(), row.rect.top(), row.rect.left() - area.left() - 8, row.rect.height())) >
+                      0,
                   row.number != 0);
     }
 }

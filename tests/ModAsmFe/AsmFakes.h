@@ -29,7 +29,10 @@
 class LoggingMsgHook : public FakeMsgHook
 {
 public:
-    explicit LoggingMsgHook(QStringList* log) : calls(log) {}
+    explicit LoggingMsgHook(QStringList* log)
+        : calls(log)
+    {
+    }
 
     using FakeMsgHook::registerPlugin;
     using FakeMsgHook::unregisterPlugin;
@@ -74,7 +77,10 @@ public:
 class LoggingNaviHook : public ModSrcNaviHookIf
 {
 public:
-    explicit LoggingNaviHook(QStringList* log) : calls(log) {}
+    explicit LoggingNaviHook(QStringList* log)
+        : calls(log)
+    {
+    }
     ~LoggingNaviHook() override { qDeleteAll(tags); }
 
     void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
@@ -96,7 +102,10 @@ public:
 class LoggingSyscallHook : public ModSyscallHookIf
 {
 public:
-    explicit LoggingSyscallHook(QStringList* log) : calls(log) {}
+    explicit LoggingSyscallHook(QStringList* log)
+        : calls(log)
+    {
+    }
 
     void registerPlugin(ModSyscallPluginIf* plugin) override { plugin->modSyscallHook = this; }
     void unregisterPlugin(ModSyscallPluginIf* plugin) override { plugin->modSyscallHook = nullptr; }
@@ -117,7 +126,10 @@ public:
 class LoggingEditorHook : public ModEditorHookIf
 {
 public:
-    explicit LoggingEditorHook(QStringList* log) : calls(log) {}
+    explicit LoggingEditorHook(QStringList* log)
+        : calls(log)
+    {
+    }
 
     void registerPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = this; }
     void unregisterPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = nullptr; }
@@ -141,7 +153,10 @@ public:
     void closeFile() override {}
     void printFile() override {}
     void setCursorToLine(QString, QString, int) override {}
-    void setCursorToLine(QString path, int line) override { places.append(path.section('/', -1) + ':' + QString::number(line)); }
+    void setCursorToLine(QString path, int line) override
+    {
+        places.append(path.section('/', -1) + ':' + QString::number(line));
+    }
     void setCursorToLine(QUrl) override {}
     bool cursorLine(QString*, int*) override { return false; }
     void clearLineHighlited() override {}
@@ -152,10 +167,7 @@ public:
         calls->append("editor.clearHighlighter");
         rules.clear();
     }
-    void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override
-    {
-        rules.append({rule, regExp});
-    }
+    void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override { rules.append({rule, regExp}); }
     void setTabIndent(int indent) override { calls->append(QString("editor.setTabIndent %1").arg(indent)); }
     void setMemPageAddrMap(nsModEditor::EditorMemPageAddrMap* newMap) override
     {
@@ -183,7 +195,7 @@ public:
     QStringList places; ///< where the cursor was sent: "file:line", counted from 0
     QList<QPair<int, QRegExp>> rules;
     nsModEditor::EditorSupportMenu menu;
-    bool withMenu = true; ///< knob: is there an insertion menu
+    bool withMenu = true;        ///< knob: is there an insertion menu
     std::function<void()> onMap; ///< knob: what happens when the map is handed over
 };
 
@@ -191,7 +203,8 @@ public:
 class FakeBackend : public ModAsmFePluginIfBackend
 {
 public:
-    explicit FakeBackend(QStringList* log) : calls(log)
+    explicit FakeBackend(QStringList* log)
+        : calls(log)
     {
         for (int i = 0; i < 16; ++i)
             regs.insert("s" + QString::number(i, 16).toUpper(), i);
@@ -233,7 +246,7 @@ public:
     bool stage1 = true; ///< knobs: the answers
     bool stage2 = true;
     int pageSize = 16;
-    int firstWord = 0x100; ///< the word of an instruction is its address in the page, counted from here
+    int firstWord = 0x100;     ///< the word of an instruction is its address in the page, counted from here
     bool wasAssembled = false; ///< what the hook said during stage 1
     std::function<void()> onStage1;
     std::function<void(bool)> onAssembled;

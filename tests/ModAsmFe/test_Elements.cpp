@@ -74,19 +74,20 @@ TEST(Elements, numbersOfKindsAreFixed)
 
 TEST(Elements, namesOfArgumentKinds)
 {
-    const char* const names[] = {"unset",    "empty",  "numeric", "string UTF-16", "string encoded",
-                                 "reg",      "regRef", "regBank", "flagZ",         "flagNZ",
-                                 "flagC",    "flagNC", "enable",  "disable",       "label"};
+    const char* const names[] = {"unset", "empty",  "numeric", "string UTF-16", "string encoded",
+                                 "reg",   "regRef", "regBank", "flagZ",         "flagNZ",
+                                 "flagC", "flagNC", "enable",  "disable",       "label"};
     for (int type = 0; type < 15; ++type)
         EXPECT_STREQ(argTypeName(Arg::eArgType_t(type)), names[type]);
 }
 
 TEST(Elements, mnemonics)
 {
-    const char* const words[] = {"ADD",   "ADDC", "AND",   "CALL",  "CLR",   "COMP",  "COMPC", "INT",   "HWBUILD", "JUMP",
-                                 "LOAD",  "LOADRET", "NOP", "OR",   "RDMEM", "RDPRT", "REGBANK", "RET", "RETI",    "ROL",
-                                 "ROLC",  "ROR",  "RORC",  "SET",   "SL0",   "SL1",   "SLX",   "SR0",   "SR1",     "SRX",
-                                 "STAR",  "WRMEM", "WRPRT", "SUB",  "SUBC",  "TEST",  "TESTC", "XOR"};
+    const char* const words[] = {"ADD",     "ADDC", "AND",  "CALL",    "CLR",   "COMP", "COMPC", "INT",
+                                 "HWBUILD", "JUMP", "LOAD", "LOADRET", "NOP",   "OR",   "RDMEM", "RDPRT",
+                                 "REGBANK", "RET",  "RETI", "ROL",     "ROLC",  "ROR",  "RORC",  "SET",
+                                 "SL0",     "SL1",  "SLX",  "SR0",     "SR1",   "SRX",  "STAR",  "WRMEM",
+                                 "WRPRT",   "SUB",  "SUBC", "TEST",    "TESTC", "XOR"};
     int number = 0;
     for (const char* word : words)
         EXPECT_EQ(int(opcodeOfMnemonic(QString::fromLatin1(word))), ++number) << word;

@@ -1,5 +1,5 @@
-// Which messages constants get that depend on one another, and in which order: fixed examples, and random programs against a
-// second resolver that recurses as the rules are written.
+// Which messages constants get that depend on one another, and in which order: fixed examples, and random programs
+// against a second resolver that recurses as the rules are written.
 
 #include "AsmFixture.h"
 
@@ -23,7 +23,8 @@ QStringList shown(const AsmFixture& f)
     QStringList result;
     for (const FakeMsgHook::Entry& entry : f.msg.messages()) {
         if (entry.type != ModMsgHookIf::eMsgInfo)
-            result.append(entry.key() + (entry.srcFile.isEmpty() ? QString() : ' ' + QString::number(entry.line() + 1)));
+            result.append(entry.key() +
+                          (entry.srcFile.isEmpty() ? QString() : ' ' + QString::number(entry.line() + 1)));
     }
     return result;
 }
@@ -42,8 +43,9 @@ TEST(EquMessages, termThatIsALoop)
               QStringList({"errEquClosedLoop 2", "errExprNonNumericTerm 1", "errEquClosedLoop 2"}));
     EXPECT_EQ(shownFor("#EQU aa, aa\n#EQU dd, aa + 1\n"),
               QStringList({"errEquClosedLoop 1", "errEquClosedLoop 1", "errExprNonNumericTerm 2"}));
-    EXPECT_EQ(shownFor("#EQU dd, aa + 1\n#EQU aa, bb\n#EQU bb, aa\n"),
-              QStringList({"errEquClosedLoop 3", "errExprNonNumericTerm 1", "errEquClosedLoop 3", "errEquClosedLoop 2"}));
+    EXPECT_EQ(
+        shownFor("#EQU dd, aa + 1\n#EQU aa, bb\n#EQU bb, aa\n"),
+        QStringList({"errEquClosedLoop 3", "errExprNonNumericTerm 1", "errEquClosedLoop 3", "errEquClosedLoop 2"}));
 }
 
 TEST(EquMessages, termFailsBeforeItsUser)
@@ -88,7 +90,17 @@ TEST(EquMessages, aFailureFailsTheRunWhoeverHasAskedForIt)
 }
 
 /// What a constant of a random program is.
-enum Kind { kindNumber, kindReg, kindRegWithAttr, kindNowhere, kindEmpty, kindAlias, kindSum, kindQuotient, kindBroken };
+enum Kind {
+    kindNumber,
+    kindReg,
+    kindRegWithAttr,
+    kindNowhere,
+    kindEmpty,
+    kindAlias,
+    kindSum,
+    kindQuotient,
+    kindBroken
+};
 
 struct Constant
 {
@@ -132,7 +144,11 @@ QByteArray textOf(const Constant& constant)
 class NaiveResolver
 {
 public:
-    explicit NaiveResolver(const std::vector<Constant>& constants) : m_constants(constants), m_states(constants.size()) {}
+    explicit NaiveResolver(const std::vector<Constant>& constants)
+        : m_constants(constants)
+        , m_states(constants.size())
+    {
+    }
 
     QStringList resolveAll()
     {

@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-
 using namespace nsModAsmFe;
 
 namespace {
@@ -190,15 +189,16 @@ TEST(Formula, undefinedDivisions)
 
 TEST(Formula, operatorsWithoutOperands)
 {
-    for (const char* text : {"1 +", "1 -", "1 *", "* 1", "/ 1", "1 * / 2", "1 <", "1 < 2", "1 <<", "<< 1", "1 <<< 2",
-                             "1 <> 2", "1 >< 2", "1 > 2", "~", "1 ~ 2", "~ ~ 1", "1 & & 2", "+", "+ 1", "1 (+) 2", "& 1",
-                             "1 |", "1 ^ ^ 2", "% 3", "1 % % 2", "1 * + 2"})
+    for (const char* text : {"1 +",  "1 -",     "1 *",     "* 1",    "/ 1",   "1 * / 2", "1 <",   "1 < 2",   "1 <<",
+                             "<< 1", "1 <<< 2", "1 <> 2",  "1 >< 2", "1 > 2", "~",       "1 ~ 2", "~ ~ 1",   "1 & & 2",
+                             "+",    "+ 1",     "1 (+) 2", "& 1",    "1 |",   "1 ^ ^ 2", "% 3",   "1 % % 2", "1 * + 2"})
         expectResult(text, AsmFeFormula::resultSyntax);
 }
 
 TEST(Formula, aMinusAloneIsAnError)
 {
-    for (const char* text : {"-", "--", "---", "1 -", "1 * -", "(-)", "1 + (-)", "1 - -", "( - )", "(2) -", "-)", "2(3) - "})
+    for (const char* text :
+         {"-", "--", "---", "1 -", "1 * -", "(-)", "1 + (-)", "1 - -", "( - )", "(2) -", "-)", "2(3) - "})
         expectResult(text, AsmFeFormula::resultSyntax);
     expectResult("-()", AsmFeFormula::resultFailed);
 }
@@ -246,9 +246,11 @@ TEST(Formula, aFailedOneLeavesNothingBehind)
 
 TEST(Formula, whatIsAnExpression)
 {
-    for (const char* text : {"1+2", "-1", "a*b", "a/b", "1<<2", "1>>2", "~a", "a&b", "a^b", "a|b", "a%b", "a-b", "\"-\""})
+    for (const char* text :
+         {"1+2", "-1", "a*b", "a/b", "1<<2", "1>>2", "~a", "a&b", "a^b", "a|b", "a%b", "a-b", "\"-\""})
         EXPECT_TRUE(AsmFeFormula::isFormula(QString::fromLatin1(text))) << text;
-    for (const char* text : {"", "1", "(1)", "a<b", "a>b", "a<>b", "< <", "<", ">", "a::b", "\\17", "s0", "\"A\"", "<>"})
+    for (const char* text :
+         {"", "1", "(1)", "a<b", "a>b", "a<>b", "< <", "<", ">", "a::b", "\\17", "s0", "\"A\"", "<>"})
         EXPECT_FALSE(AsmFeFormula::isFormula(QString::fromLatin1(text))) << text;
 }
 

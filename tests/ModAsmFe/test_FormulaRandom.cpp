@@ -261,15 +261,17 @@ QString pick(Random* random, const QStringList& from)
 
 QString number(Random* random)
 {
-    static const QStringList numbers = {"0", "1", "2", "3", "7", "31", "255", "0x10", "\\17", "b101", "65536",
-                                        "2147483647", "0x7FFFFFFF", "123456789", "99999999999"};
+    static const QStringList numbers = {"0",     "1",          "2",          "3",         "7",
+                                        "31",    "255",        "0x10",       "\\17",      "b101",
+                                        "65536", "2147483647", "0x7FFFFFFF", "123456789", "99999999999"};
     return pick(random, numbers);
 }
 
 /// An expression that is well formed, for the most part.
 QString expression(Random* random, int depth)
 {
-    static const QStringList operators = {" + ", " - ", " * ", "/", " % ", " << ", " >> ", "&", "|", "^", "-", "--", "- -"};
+    static const QStringList operators = {" + ", " - ", " * ", "/", " % ", " << ", " >> ",
+                                          "&",   "|",   "^",   "-", "--",  "- -"};
     QString text;
     const int terms = 1 + int((*random)() % 4);
     for (int i = 0; i < terms; ++i) {
@@ -288,8 +290,8 @@ QString expression(Random* random, int depth)
 /// Tokens without any sense.
 QString soup(Random* random)
 {
-    static const QStringList tokens = {"+", "-", "*", "/", " %", "%", "<<", ">>", "<", ">", "&", "|", "^", "~", "(", ")",
-                                       " ", "1", "2", "15", "x", "-", "(", ")", "3", " 4"};
+    static const QStringList tokens = {"+", "-", "*", "/", " %", "%", "<<", ">>", "<", ">", "&", "|", "^",
+                                       "~", "(", ")", " ", "1",  "2", "15", "x",  "-", "(", ")", "3", " 4"};
     QString text;
     const int count = int((*random)() % 9);
     for (int i = 0; i < count; ++i)

@@ -48,9 +48,10 @@ TEST(HostileSourceFiles, thatAreNone)
     makeFifo(f.path("fifo"));
     QFile::link("loop", f.path("loop"));
     QFile::link("nowhere", f.path("dangling"));
-    for (const QString& file : {QString("/dev/zero"), QString("/dev/null"), f.path("fifo"), f.path("loop"), f.path("dangling"),
-                                QDir::tempPath(), f.path("missing"), QString("relative.psm"), QString(""), QString("\n"),
-                                QString("/proc/self/mem"), f.path(QString(300, 'x')), QString(5000, '/')}) {
+    for (const QString& file :
+         {QString("/dev/zero"), QString("/dev/null"), f.path("fifo"), f.path("loop"), f.path("dangling"),
+          QDir::tempPath(), f.path("missing"), QString("relative.psm"), QString(""), QString("\n"),
+          QString("/proc/self/mem"), f.path(QString(300, 'x')), QString(5000, '/')}) {
         SCOPED_TRACE(file.left(100).toStdString());
         expectGoodEnd([&] { return runWithSource(file); }, 10, 100);
     }
@@ -183,10 +184,13 @@ TEST_P(HostileOutput, aPipeThatNobodyReads)
     f.be.pageSize = 65536;
     if (GetParam().hdl)
         f.write("template", "{begin template}\n" + QByteArray("{INIT_00}\n").repeated(5000));
-    expectGoodEnd([this] {
-        const QStringList errors = write(f.path("pipe"));
-        return errors == QStringList(GetParam().openError + f.path("pipe")) ? QString() : "unexpected: " + errors.join(" / ");
-    }, 10, 100);
+    expectGoodEnd(
+        [this] {
+            const QStringList errors = write(f.path("pipe"));
+            return errors == QStringList(GetParam().openError + f.path("pipe")) ? QString()
+                                                                                : "unexpected: " + errors.join(" / ");
+        },
+        10, 100);
 }
 
 TEST_P(HostileOutput, aPipeThatIsRead)
@@ -212,7 +216,8 @@ TEST_P(HostileOutput, filesOfTheProjectAreNotOverwritten)
     QDir(f.path("")).mkdir("sub");
     const QByteArray project = f.read("test.nalvo");
     for (const char* name : {"src0.psm", "test.nalvo", "link", "sub/../src0.psm", "./test.nalvo"}) {
-        EXPECT_EQ(write(f.path(name)), QStringList("Output file would overwrite a file of the project: " + f.path(name)));
+        EXPECT_EQ(write(f.path(name)),
+                  QStringList("Output file would overwrite a file of the project: " + f.path(name)));
         EXPECT_EQ(f.read("src0.psm"), program);
         EXPECT_EQ(f.read("test.nalvo"), project);
     }
@@ -251,15 +256,18 @@ TEST_P(HostileOutput, unusableTemplates)
     if (!GetParam().hdl)
         return;
     makeFifo(f.path("pipe"));
-    for (const QString& file : {f.path("missing"), QDir::tempPath(), f.path("pipe"), QString("/dev/zero"), QString("/proc/self/mem")}) {
+    for (const QString& file :
+         {f.path("missing"), QDir::tempPath(), f.path("pipe"), QString("/dev/zero"), QString("/proc/self/mem")}) {
         templateFile = file;
         f.write("out", "old contents");
-        expectGoodEnd([&] {
-            const QStringList errors = write(f.path("out"));
-            if (errors != QStringList("Can not open template file: " + file))
-                return "unexpected: " + errors.join(" / ");
-            return f.read("out") == "old contents" ? QString() : QString("the output is gone");
-        }, 10, 100);
+        expectGoodEnd(
+            [&] {
+                const QStringList errors = write(f.path("out"));
+                if (errors != QStringList("Can not open template file: " + file))
+                    return "unexpected: " + errors.join(" / ");
+                return f.read("out") == "old contents" ? QString() : QString("the output is gone");
+            },
+            10, 100);
     }
 }
 
@@ -276,10 +284,12 @@ TEST_P(HostileOutput, oddTemplates)
     };
     for (const QByteArray& text : texts) {
         f.write("template", text);
-        expectGoodEnd([&] {
-            const QStringList errors = write(f.path("out"));
-            return errors.isEmpty() ? QString() : "unexpected: " + errors.join(" / ").left(500);
-        }, 10, 300);
+        expectGoodEnd(
+            [&] {
+                const QStringList errors = write(f.path("out"));
+                return errors.isEmpty() ? QString() : "unexpected: " + errors.join(" / ").left(500);
+            },
+            10, 300);
     }
     f.write("template", "");
     EXPECT_EQ(write(f.path("empty")), QStringList("Opcode at address 0 was not written to file!"));

@@ -16,8 +16,7 @@ QByteArray randomBytes(unsigned int seed, int count, const QByteArray& alphabet)
     std::mt19937 random(seed);
     QByteArray bytes(count, 0);
     for (int i = 0; i < count; ++i) {
-        bytes[i] = alphabet.isEmpty() ? char(random() & 0xff)
-                                      : alphabet.at(int(random() % unsigned(alphabet.size())));
+        bytes[i] = alphabet.isEmpty() ? char(random() & 0xff) : alphabet.at(int(random() % unsigned(alphabet.size())));
     }
     return bytes;
 }
@@ -47,19 +46,52 @@ TEST(HostileSources, garbageOfTheLanguage)
 
 TEST(HostileSources, wordsInRandomOrder)
 {
-    const QList<QByteArray> words = {"#EQU",  "#SET", "#ORG",    "#IFDEF", "#ELSE", "#ENDIF", "#NAMESPACE", "#ENDNAMESPACE",
-                                     "LOAD",  "JUMP", "s0",      "x",      "y:",    "0x10",   "\"A\"",      "ADDR",
-                                     "a::",   "TRUE", "INSTMEM", "[7:0]",  "'2BE",  "(s1)",   ",",          ",",
-                                     "\n",    "\n",   "\n",      "\n",     ";",     "+",      "MEMRANGE",   "PAGE0",
-                                     "IODEV::d::SIZE", "IODEV::d::EN", "IODEV::d::VALUE", "#DEFINE"};
+    const QList<QByteArray> words = {"#EQU",
+                                     "#SET",
+                                     "#ORG",
+                                     "#IFDEF",
+                                     "#ELSE",
+                                     "#ENDIF",
+                                     "#NAMESPACE",
+                                     "#ENDNAMESPACE",
+                                     "LOAD",
+                                     "JUMP",
+                                     "s0",
+                                     "x",
+                                     "y:",
+                                     "0x10",
+                                     "\"A\"",
+                                     "ADDR",
+                                     "a::",
+                                     "TRUE",
+                                     "INSTMEM",
+                                     "[7:0]",
+                                     "'2BE",
+                                     "(s1)",
+                                     ",",
+                                     ",",
+                                     "\n",
+                                     "\n",
+                                     "\n",
+                                     "\n",
+                                     ";",
+                                     "+",
+                                     "MEMRANGE",
+                                     "PAGE0",
+                                     "IODEV::d::SIZE",
+                                     "IODEV::d::EN",
+                                     "IODEV::d::VALUE",
+                                     "#DEFINE"};
     for (unsigned int seed = 1; seed <= 4; ++seed) {
-        expectGoodEnd([&] {
-            std::mt19937 random(seed);
-            QByteArray text;
-            while (text.size() < scaled(oneMb))
-                text += words.at(int(random() % unsigned(words.size()))) + ' ';
-            return refusedRun({text});
-        }, 20, 500);
+        expectGoodEnd(
+            [&] {
+                std::mt19937 random(seed);
+                QByteArray text;
+                while (text.size() < scaled(oneMb))
+                    text += words.at(int(random() % unsigned(words.size()))) + ' ';
+                return refusedRun({text});
+            },
+            20, 500);
     }
 }
 
@@ -91,9 +123,10 @@ const Line lines[] = {
     {"instMem", "#SET IODEV::d::VALUE, INSTMEM[", "]\n#SET IODEV::d::SIZE, 4\n#SET IODEV::d::EN, TRUE\n LOAD s0, 1"},
 };
 
-const char* const fillers[] = {"a",  "\"", "(",  ")",   "1+", ":",  "'",    "[",  "]",  ",",  "-",    "\\", "|",
-                               "a ", "0",  "::", "()",  "1 ", "~",  "1<<", "%",  " %", "\t", "\\nav", "1,", "0x1:",
-                               "\"a\"", "s0", "append:", "\xe4", "(1)+", "--", "PAGE", "][", "\xff\xfe", "\\navSep "};
+const char* const fillers[] = {"a",  "\"",      "(",    ")",    "1+", ":",     "'",  "[",        "]",
+                               ",",  "-",       "\\",   "|",    "a ", "0",     "::", "()",       "1 ",
+                               "~",  "1<<",     "%",    " %",   "\t", "\\nav", "1,", "0x1:",     "\"a\"",
+                               "s0", "append:", "\xe4", "(1)+", "--", "PAGE",  "][", "\xff\xfe", "\\navSep "};
 
 class HostileLine : public ::testing::TestWithParam<Line>
 {
@@ -105,9 +138,9 @@ TEST_P(HostileLine, ofAnyContent)
     const Line line = GetParam();
     for (const char* filler : fillers) {
         SCOPED_TRACE(filler);
-        expectGoodEnd([&] {
-            return hostileRun({line.before + repeated(filler, scaled(oneMb / 4)) + line.after + "\n"});
-        }, 10, 250);
+        expectGoodEnd(
+            [&] { return hostileRun({line.before + repeated(filler, scaled(oneMb / 4)) + line.after + "\n"}); }, 10,
+            250);
     }
 }
 
@@ -129,13 +162,15 @@ TEST(HostileSources, hugeLines)
 TEST(HostileSources, lineWithoutEnd)
 {
     // Beyond the bound of a line nothing is kept.
-    expectGoodEnd([] {
-        AsmFixture f;
-        f.run(" LOAD s0, 1\n" + QByteArray(20 * oneMb, 'x') + "\n LOAD s0, 1\n");
-        if (f.errors() != QStringList("errSyntax") || f.msg.messages(ModMsgHookIf::eMsgError).first().line() != 1)
-            return "unexpected: " + f.msg.errors().join(" / ").left(500);
-        return brokenRule(f);
-    }, 20, 400);
+    expectGoodEnd(
+        [] {
+            AsmFixture f;
+            f.run(" LOAD s0, 1\n" + QByteArray(20 * oneMb, 'x') + "\n LOAD s0, 1\n");
+            if (f.errors() != QStringList("errSyntax") || f.msg.messages(ModMsgHookIf::eMsgError).first().line() != 1)
+                return "unexpected: " + f.msg.errors().join(" / ").left(500);
+            return brokenRule(f);
+        },
+        20, 400);
 }
 
 TEST(HostileSources, nulBytes)
@@ -170,13 +205,15 @@ TEST(HostileSources, manyLines)
 
 TEST(HostileSources, manyFiles)
 {
-    expectGoodEnd([] {
-        QList<QByteArray> sources;
-        for (int i = 0; i < 2000; ++i)
-            sources.append(i % 4 == 0 ? QByteArray() : QByteArray(" ;x\n"));
-        sources.append(" LOAD s0, 1");
-        return hostileRun(sources);
-    }, 20, 200);
+    expectGoodEnd(
+        [] {
+            QList<QByteArray> sources;
+            for (int i = 0; i < 2000; ++i)
+                sources.append(i % 4 == 0 ? QByteArray() : QByteArray(" ;x\n"));
+            sources.append(" LOAD s0, 1");
+            return hostileRun(sources);
+        },
+        20, 200);
 }
 
 TEST(HostileSources, sameFileTwice)

@@ -59,7 +59,8 @@ void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt::MouseB
 class IODevViewer : public ::testing::Test
 {
 protected:
-    IODevViewer() : view(openedView(&f))
+    IODevViewer()
+        : view(openedView(&f))
     {
         f.be.pageSize = 1024;
         qRegisterMetaType<SrcReference*>("SrcReference*");
@@ -174,8 +175,9 @@ TEST_F(IODevViewer, isEmptyAfterAFailedWrite)
 {
     EXPECT_TRUE(f.run(plainSource));
     EXPECT_EQ(count(), 1);
-    EXPECT_FALSE(f.run(ramSource + "#SET IODEV::ram::HEXEN, TRUE\n#SET IODEV::ram::HEXTARGETFILE, \"no/such/folder/x.hex\"\n",
-                       ModAsmFe::eEventButton1));
+    EXPECT_FALSE(
+        f.run(ramSource + "#SET IODEV::ram::HEXEN, TRUE\n#SET IODEV::ram::HEXTARGETFILE, \"no/such/folder/x.hex\"\n",
+              ModAsmFe::eEventButton1));
     EXPECT_EQ(count(), 0);
 }
 
@@ -305,7 +307,7 @@ TEST_F(IODevViewer, doubleClickOnACellThatNothingWroteDoesNothing)
 {
     EXPECT_TRUE(f.run(ramSource));
     QSignalSpy requests(view, &IODevViewerList::srcRefRequest);
-    doubleClick(0);     // the source says the init value
+    doubleClick(0); // the source says the init value
     doubleClick(20);
     doubleClick(500, 1); // nobody says anything
     QTest::mouseDClick(item(), Qt::LeftButton, Qt::NoModifier, QPoint(1, 1));
@@ -455,7 +457,8 @@ TEST_F(IODevViewer, aThousandDevices)
 
 TEST_F(IODevViewer, aDeviceOfOneWord)
 {
-    EXPECT_TRUE(f.run("#SET IODEV::one::EN, TRUE\n#SET IODEV::one::SIZE, 1\n#SET IODEV::one::VALUE, 9\n" + plainSource));
+    EXPECT_TRUE(
+        f.run("#SET IODEV::one::EN, TRUE\n#SET IODEV::one::SIZE, 1\n#SET IODEV::one::VALUE, 9\n" + plainSource));
     EXPECT_EQ(tipOf(0), QString("Address: 0x0, Value 0x9"));
     EXPECT_EQ(item()->cellAt(item()->cellRect(1).center()), -1);
 }

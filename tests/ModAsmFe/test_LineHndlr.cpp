@@ -36,12 +36,16 @@ Tags tagsOf(const QString& line)
 class NaiveSplitter
 {
 public:
-    explicit NaiveSplitter(const QString& line) : m_line(line) {}
+    explicit NaiveSplitter(const QString& line)
+        : m_line(line)
+    {
+    }
 
     Tags tags()
     {
         Tags tags;
-        tags << spacer() << label() << spacer() << quoted(",; ") << spacer() << quoted(",; ") << spacer() << one(',') << spacer();
+        tags << spacer() << label() << spacer() << quoted(",; ") << spacer() << quoted(",; ") << spacer() << one(',')
+             << spacer();
         QString arg1 = quoted(";");
         while (!arg1.isEmpty() && arg1.at(arg1.size() - 1).isSpace())
             arg1.chop(1);

@@ -25,10 +25,7 @@ protected:
         files.setFiles({"/home/me/prj/main.psm", "/home/me/prj/lib/50% of it #1.psm", "/opt/shared/io.psm"});
     }
 
-    FakeMsgHook::Entry last() const
-    {
-        return msg.messages().isEmpty() ? FakeMsgHook::Entry() : msg.messages().last();
-    }
+    FakeMsgHook::Entry last() const { return msg.messages().isEmpty() ? FakeMsgHook::Entry() : msg.messages().last(); }
 
     AsmFeFileHndlr files;
     AsmFeMsgHndlr hndlr{&files};

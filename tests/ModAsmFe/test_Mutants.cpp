@@ -41,7 +41,11 @@ QList<QByteArray> allSources()
 class Mutator
 {
 public:
-    Mutator(const QList<QByteArray>& sources, unsigned int seed) : m_sources(sources), m_random(seed) {}
+    Mutator(const QList<QByteArray>& sources, unsigned int seed)
+        : m_sources(sources)
+        , m_random(seed)
+    {
+    }
 
     QByteArray mutant()
     {
@@ -62,13 +66,75 @@ private:
 
     void damage()
     {
-        static const QList<QByteArray> words = {
-            "0", "-1", "255", "256", "0x3FF", "0x400", "2147483647", "4294967296", "b101", "\\17", "0d1", "s0", "sF", "r31",
-            "(s0)", "(s0", "s1)", "Z", "NC", "ENABLE", "\"A\"", "\"AB\"[1]", "\"\"", "'2BE", "'LEN", "'", "[7:0]", "[", "]",
-            "~1", "1 % 0", "5%3", "1 << 40", "()", "::x", "a::", "+", ",", ",,", ";", ":", "\"", "\\", "(", ")", "|",
-            "#EQU x, ", "#SET INSTMEM::PAGECOUNT, 2\n", "#SET INSTMEM::PAGESIZE, 4\n", "#ORG ADDR, 3\n",
-            "#ORG MEMRANGE, SHARED\n", "#ORG MEMRANGE, PAGE1\n", "#NAMESPACE n\n", "#ENDNAMESPACE\n", "#IFDEF x\n", "#ENDIF\n",
-            "JUMP ", "CALL ", "LOAD ", "RET", "RETI ", "INT ", "WRPRT ", "\n", " ", "\t", "INSTMEM", "append:", "TRUE"};
+        static const QList<QByteArray> words = {"0",
+                                                "-1",
+                                                "255",
+                                                "256",
+                                                "0x3FF",
+                                                "0x400",
+                                                "2147483647",
+                                                "4294967296",
+                                                "b101",
+                                                "\\17",
+                                                "0d1",
+                                                "s0",
+                                                "sF",
+                                                "r31",
+                                                "(s0)",
+                                                "(s0",
+                                                "s1)",
+                                                "Z",
+                                                "NC",
+                                                "ENABLE",
+                                                "\"A\"",
+                                                "\"AB\"[1]",
+                                                "\"\"",
+                                                "'2BE",
+                                                "'LEN",
+                                                "'",
+                                                "[7:0]",
+                                                "[",
+                                                "]",
+                                                "~1",
+                                                "1 % 0",
+                                                "5%3",
+                                                "1 << 40",
+                                                "()",
+                                                "::x",
+                                                "a::",
+                                                "+",
+                                                ",",
+                                                ",,",
+                                                ";",
+                                                ":",
+                                                "\"",
+                                                "\\",
+                                                "(",
+                                                ")",
+                                                "|",
+                                                "#EQU x, ",
+                                                "#SET INSTMEM::PAGECOUNT, 2\n",
+                                                "#SET INSTMEM::PAGESIZE, 4\n",
+                                                "#ORG ADDR, 3\n",
+                                                "#ORG MEMRANGE, SHARED\n",
+                                                "#ORG MEMRANGE, PAGE1\n",
+                                                "#NAMESPACE n\n",
+                                                "#ENDNAMESPACE\n",
+                                                "#IFDEF x\n",
+                                                "#ENDIF\n",
+                                                "JUMP ",
+                                                "CALL ",
+                                                "LOAD ",
+                                                "RET",
+                                                "RETI ",
+                                                "INT ",
+                                                "WRPRT ",
+                                                "\n",
+                                                " ",
+                                                "\t",
+                                                "INSTMEM",
+                                                "append:",
+                                                "TRUE"};
         switch (number(9)) {
         case 0:
             m_text.insert(number(m_text.size() + 1), char(m_random() & 0xff));
@@ -172,8 +238,9 @@ QString runMutants(const QString& processorName, int count, unsigned int seed)
     // The file of a mutant that crashes is kept.
     QDir().mkpath(NALVO_BINARY_DIR "/asm-mutants");
     // Processors run beside each other: each has files of its own.
-    const QString path =
-        QString(NALVO_BINARY_DIR "/asm-mutants/%1-%2.psm").arg(QString(processorName).remove(QRegExp("[^A-Za-z0-9]"))).arg(seed);
+    const QString path = QString(NALVO_BINARY_DIR "/asm-mutants/%1-%2.psm")
+                             .arg(QString(processorName).remove(QRegExp("[^A-Za-z0-9]")))
+                             .arg(seed);
     f.sources.srcFiles = QStringList(path);
     Mutator mutator(sources, seed);
     int assembled = 0;

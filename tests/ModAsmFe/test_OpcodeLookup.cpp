@@ -51,9 +51,11 @@ void fill(OpcodeList* list, const Places& places)
 void compare(const OpcodeList& list, int a, int b)
 {
     EXPECT_EQ(list.nextOfLineIndex(a), walk(list, [=](const Opcode* o) { return o->srcRef.absLineNo >= a; })) << a;
-    EXPECT_EQ(list.nextOfSrcRef(a, b), walk(list, [=](const Opcode* o) {
-                  return o->srcRef.fileNo > a || (o->srcRef.fileNo == a && o->srcRef.lineNo >= b);
-              })) << a << ' ' << b;
+    EXPECT_EQ(
+        list.nextOfSrcRef(a, b),
+        walk(list,
+             [=](const Opcode* o) { return o->srcRef.fileNo > a || (o->srcRef.fileNo == a && o->srcRef.lineNo >= b); }))
+        << a << ' ' << b;
     EXPECT_EQ(list.opcodeOfAddr(a, b),
               walk(list, [=](const Opcode* o) { return o->pageAddr == a && o->memRange == b; }))
         << a << ' ' << b;
@@ -66,7 +68,13 @@ void compareAll(const Places& places, Random* random)
 {
     OpcodeList list;
     fill(&list, places);
-    std::vector<int> keys = {-1, 0, 1, 2, 1024, std::numeric_limits<int>::max(), std::numeric_limits<int>::min(),
+    std::vector<int> keys = {-1,
+                             0,
+                             1,
+                             2,
+                             1024,
+                             std::numeric_limits<int>::max(),
+                             std::numeric_limits<int>::min(),
                              std::numeric_limits<int>::max() - 1};
     for (const Place& place : places) {
         for (const int key : {place.srcRef.absLineNo, place.srcRef.lineNo, place.srcRef.fileNo, place.pageAddr,

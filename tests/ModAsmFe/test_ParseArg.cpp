@@ -25,7 +25,7 @@ namespace reference {
 bool isNumeric(const QString& text)
 {
     static const QList<QRegExp> forms = {
-        QRegExp("^[+-]*0[xX]{1}[0-9a-fA-F]+$"), QRegExp("^[+-]*[0-9]+$"),        QRegExp("^[+-]*0[dD]{1}[0-9]+$"),
+        QRegExp("^[+-]*0[xX]{1}[0-9a-fA-F]+$"), QRegExp("^[+-]*[0-9]+$"),         QRegExp("^[+-]*0[dD]{1}[0-9]+$"),
         QRegExp("^[+-]*\\\\[0-7]+$"),           QRegExp("^[+-]*0[oO]{1}[0-9]+$"), QRegExp("^[+-]*[bB]{1}[0-9]+$"),
     };
     for (const QRegExp& form : forms) {
@@ -160,15 +160,23 @@ TEST_F(ParseArgTest, knownValues)
         bool numeric;
         int value;
     } rows[] = {
-        {"0x10", true, 16},        {"0X10", true, 16},       {"010", true, 10},          {"\\10", true, 8},
-        {"b101", true, 5},         {"B101", true, 5},        {"0d12", true, 0},          {"0o17", true, 0},
-        {"b102", true, 0},         {"-b101", true, 0},       {"-\\17", true, 0},         {"--5", true, 0},
-        {"0xFFFFFFFF", true, 0},   {"0x7FFFFFFF", true, 2147483647},                     {"2147483648", true, 0},
-        {"-2147483648", true, -2147483647 - 1},              {"-5", true, -5},           {"+5", true, 5},
-        {"", false, 0},            {"-", false, 0},          {"0x", false, 0},           {"\\8", false, 0},
-        {"b", false, 0},           {"\\", false, 0},         {"0", true, 0},             {"-0x10", true, -16},
-        {"1 ", false, 0},          {" 1", false, 0},         {"1\n", false, 0},          {"x10", false, 0},
-        {"0b11", false, 0},        {"1.5", false, 0},        {"\\", false, 0},
+        {"0x10", true, 16},      {"0X10", true, 16},
+        {"010", true, 10},       {"\\10", true, 8},
+        {"b101", true, 5},       {"B101", true, 5},
+        {"0d12", true, 0},       {"0o17", true, 0},
+        {"b102", true, 0},       {"-b101", true, 0},
+        {"-\\17", true, 0},      {"--5", true, 0},
+        {"0xFFFFFFFF", true, 0}, {"0x7FFFFFFF", true, 2147483647},
+        {"2147483648", true, 0}, {"-2147483648", true, -2147483647 - 1},
+        {"-5", true, -5},        {"+5", true, 5},
+        {"", false, 0},          {"-", false, 0},
+        {"0x", false, 0},        {"\\8", false, 0},
+        {"b", false, 0},         {"\\", false, 0},
+        {"0", true, 0},          {"-0x10", true, -16},
+        {"1 ", false, 0},        {" 1", false, 0},
+        {"1\n", false, 0},       {"x10", false, 0},
+        {"0b11", false, 0},      {"1.5", false, 0},
+        {"\\", false, 0},
     };
     for (const auto& row : rows) {
         const QString text = QString::fromLatin1(row.text);
@@ -234,11 +242,22 @@ TEST_F(ParseArgTest, ranges)
         const char* range;
         unsigned int result;
     } rows[] = {
-        {0xff, "3:0", 15}, {0xf0, "7:4", 15}, {0x80, "7", 1}, {0x1, "0", 1}, {0x12345678, "31:0", 0x12345678},
+        {0xff, "3:0", 15},
+        {0xf0, "7:4", 15},
+        {0x80, "7", 1},
+        {0x1, "0", 1},
+        {0x12345678, "31:0", 0x12345678},
         // The shift is arithmetic, and counts modulo 32.
-        {0x80000000u, "31:31", 0xffffffffu}, {0x5a, "7 : 4", 5}, {0x5a, "0x7:\\4", 5}, {0x5a, "b111:b100", 5},
+        {0x80000000u, "31:31", 0xffffffffu},
+        {0x5a, "7 : 4", 5},
+        {0x5a, "0x7:\\4", 5},
+        {0x5a, "b111:b100", 5},
         // Nothing forbids the wrong way round, nor what is no bit.
-        {0xff, "0:7", 0}, {0xff, "-1:0", 1}, {0xf0, "2147483647:4", 15}, {0xff, "7:32", 0xff}, {0xff, "99999999999", 1},
+        {0xff, "0:7", 0},
+        {0xff, "-1:0", 1},
+        {0xf0, "2147483647:4", 15},
+        {0xff, "7:32", 0xff},
+        {0xff, "99999999999", 1},
     };
     for (const auto& row : rows) {
         unsigned int value = row.value;

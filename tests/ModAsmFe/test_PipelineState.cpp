@@ -69,10 +69,9 @@ TEST(PipelineEvents, nothingToWriteStillRunsPrograms)
 {
     AsmFixture f;
     f.open();
-    for (TargetConfig* config : {static_cast<TargetConfig*>(&f.asmFe.targetVhdl),
-                                 static_cast<TargetConfig*>(&f.asmFe.targetVerilog),
-                                 static_cast<TargetConfig*>(&f.asmFe.targetHex),
-                                 static_cast<TargetConfig*>(&f.asmFe.targetMem)})
+    for (TargetConfig* config :
+         {static_cast<TargetConfig*>(&f.asmFe.targetVhdl), static_cast<TargetConfig*>(&f.asmFe.targetVerilog),
+          static_cast<TargetConfig*>(&f.asmFe.targetHex), static_cast<TargetConfig*>(&f.asmFe.targetMem)})
         setEvents(config, false, true, true);
     EXPECT_TRUE(f.run(program, ModAsmFe::eEventButton1));
     EXPECT_TRUE(f.msg.infos().contains("Nothing todo for event"));

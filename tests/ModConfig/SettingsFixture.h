@@ -99,9 +99,10 @@ protected:
         QDir().mkpath(QFileInfo(path).path());
         for (const char* source : {"/a.psm", "/b.psm"})
             writeFile(QFileInfo(name).path() + source, "; nothing\n");
-        return writeFile(name, "<project version=\"3\"><PrjInfo><title>T</title><version>1</version><comment>C</comment>"
-                               "</PrjInfo><sources><srcFiles>a.psm:b.psm</srcFiles></sources><ModProcessor><processor>" +
-                                   processor + "</processor></ModProcessor>" + rest + "</project>");
+        return writeFile(name,
+                         "<project version=\"3\"><PrjInfo><title>T</title><version>1</version><comment>C</comment>"
+                         "</PrjInfo><sources><srcFiles>a.psm:b.psm</srcFiles></sources><ModProcessor><processor>" +
+                             processor + "</processor></ModProcessor>" + rest + "</project>");
     }
     static QByteArray content(const QString& path)
     {

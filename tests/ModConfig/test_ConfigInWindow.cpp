@@ -14,14 +14,14 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSpinBox>
-#include <QWheelEvent>
-#include <qtestspontaneevent.h>
-#include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QWheelEvent>
+#include <qtestspontaneevent.h>
 
 namespace {
 

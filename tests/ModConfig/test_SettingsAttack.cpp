@@ -230,9 +230,8 @@ TEST_F(SettingsAttack, RubbishInTheProjectFile)
 {
     start();
     for (const char* value : {"nan", "-inf", "1e300", "-1", "99999999999999999999", "abc", ""}) {
-        const std::pair<const char*, const char*> processors[] = {{"Xilinx PicoBlaze 3", "XPBlze3"},
-                                                                  {"Xilinx PicoBlaze 6", "XPBlze6"},
-                                                                  {"Lattice Mico8 v3.x", "LMico8v3x"}};
+        const std::pair<const char*, const char*> processors[] = {
+            {"Xilinx PicoBlaze 3", "XPBlze3"}, {"Xilinx PicoBlaze 6", "XPBlze6"}, {"Lattice Mico8 v3.x", "LMico8v3x"}};
         for (const auto& processor : processors) {
             const QString path = makePrj("p.nalvo", processor.first, rubbishSections(processor.second, value));
             ASSERT_TRUE(prj()->open(path));

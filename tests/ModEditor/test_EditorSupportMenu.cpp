@@ -26,8 +26,8 @@ QStringList entries(const QMenu* menu)
 QStringList chosen(EditorSupportMenu* menu, const QStringList& path)
 {
     QStringList texts;
-    const auto connection = QObject::connect(menu, &EditorSupportMenu::insertText,
-                                             [&](const QString& text) { texts.append(text); });
+    const auto connection =
+        QObject::connect(menu, &EditorSupportMenu::insertText, [&](const QString& text) { texts.append(text); });
     menu->node(path)->action->trigger();
     QObject::disconnect(connection);
     return texts;
@@ -140,7 +140,8 @@ TEST(EditorSupportMenu, tenThousandEntriesAreInOrder)
 {
     EditorSupportMenu menu;
     for (int i = 0; i < 10000; ++i)
-        menu.setEntry(QString("Label/l%1").arg((i * 7919) % 10000, 5, 10, QChar('0')), "x", EditorSupportMenu::typeText);
+        menu.setEntry(QString("Label/l%1").arg((i * 7919) % 10000, 5, 10, QChar('0')), "x",
+                      EditorSupportMenu::typeText);
     const QStringList texts = entries(menu.node({"Label"})->menu);
     ASSERT_EQ(texts.size(), 10000);
     EXPECT_TRUE(std::is_sorted(texts.begin(), texts.end()));

@@ -231,9 +231,9 @@ TEST_F(Bar, tabGoesThroughTheFieldsFirst)
 {
     bar()->setMode(Widget::eModeReplace);
     QTest::keyClicks(find(), "a");
-    const QStringList expected = {"editFind",      "editReplace",      "buttonNext",         "buttonPrevious",
-                                  "buttonReplace", "buttonReplaceAll", "checkCaseSensitive", "checkWholeWords",
-                                  "buttonToggleMode"};
+    const QStringList expected = {"editFind",           "editReplace",     "buttonNext",
+                                  "buttonPrevious",     "buttonReplace",   "buttonReplaceAll",
+                                  "checkCaseSensitive", "checkWholeWords", "buttonToggleMode"};
     EXPECT_EQ(tabOrder(find()), expected);
     find()->setFocus();
     QTest::keyClick(find(), Qt::Key_Backtab);

@@ -239,8 +239,8 @@ TEST_F(MsgTest, NewestMessageOfAFoldedGroupShowsAsTheLineOfTheGroup)
     hook->closeMessageGroup(true);
     hook->closeMessageGroup(true);
     const QTreeWidgetItem* outer = viewer->topLevelItem(100);
-    EXPECT_TRUE(
-        QTest::qWaitFor([&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }, 60000));
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return viewer->viewport()->rect().contains(viewer->visualItemRect(outer).center()); }, 60000));
     EXPECT_FALSE(outer->isExpanded());
 }
 

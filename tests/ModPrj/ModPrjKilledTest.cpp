@@ -1,11 +1,10 @@
-#include "ModPrj.h"
 #include "DiesAt.h"
+#include "ModPrj.h"
 #include "PrjTestSupport.h"
 
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
-
 
 using nsModPrj::ModPrj;
 

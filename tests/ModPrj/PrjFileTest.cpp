@@ -405,7 +405,7 @@ TEST(PrjFile, EntitiesThatExplode)
     expectEnd(text + "]><project><a>&e11;</a></project>");
     expectEnd("<!DOCTYPE project [<!ENTITY e \"&e;\">]><project><a>&e;</a></project>");
     expectEnd("<!DOCTYPE project [<!ENTITY e \"" + repeated("0123456789", 1000) + "\">]><project><a>" +
-                       repeated("&e;", 100000) + "</a></project>");
+              repeated("&e;", 100000) + "</a></project>");
 }
 
 TEST(PrjFile, AttributesThatExplode)
@@ -426,8 +426,7 @@ TEST(PrjFile, AttributesThatExplode)
     std::string list;
     for (int i = 0; i < 1000; ++i)
         list += "a" + std::to_string(i) + " CDATA \"\"";
-    expectEnd("<!DOCTYPE project [<!ATTLIST k " + list + ">]><project>" + repeated("<k/>", 1000000) +
-                       "</project>");
+    expectEnd("<!DOCTYPE project [<!ATTLIST k " + list + ">]><project>" + repeated("<k/>", 1000000) + "</project>");
     std::string entity;
     for (int i = 0; i < 5000; ++i)
         entity += "<!ENTITY e" + std::to_string(i) + " \"x\">";

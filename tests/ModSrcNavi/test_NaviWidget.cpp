@@ -41,7 +41,8 @@ TEST_F(NaviFixture, standsInItsRows)
 TEST_F(NaviFixture, tabWalksThroughTheControlsInTheirOrder)
 {
     hand.sortBox->setFocus();
-    for (QWidget* next : QList<QWidget*>{hand.button("Set"), hand.button("Clear"), hand.button("Clear all"), hand.tree}) {
+    for (QWidget* next :
+         QList<QWidget*>{hand.button("Set"), hand.button("Clear"), hand.button("Clear all"), hand.tree}) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         EXPECT_EQ(QApplication::focusWidget(), next);
     }

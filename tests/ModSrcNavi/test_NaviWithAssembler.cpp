@@ -1,7 +1,7 @@
 // The navigator in the real window, filled by the real assembler.
 
-#include "FakeEditorHook.h"
 #include "ExampleFolder.h"
+#include "FakeEditorHook.h"
 #include "FakeMsgHook.h"
 #include "NaviFixture.h"
 #include "Settle.h"

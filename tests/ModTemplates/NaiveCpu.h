@@ -14,8 +14,8 @@ class OpcodeList;
 
 /// The plainest possible machine for assembled programs, to see whether the templates compute what they say.
 ///
-/// It knows what the templates use, and stops at anything else. Flags are those of the hardware that the program is for:
-/// on a Mico8 the logic instructions leave the carry alone.
+/// It knows what the templates use, and stops at anything else. Flags are those of the hardware that the program is
+/// for: on a Mico8 the logic instructions leave the carry alone.
 class NaiveCpu
 {
 public:

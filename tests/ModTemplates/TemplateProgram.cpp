@@ -17,7 +17,8 @@ QString insertedText(const QString& path)
 {
     QString text;
     nsModEditor::EditorSupportMenu menu;
-    QObject::connect(&menu, &nsModEditor::EditorSupportMenu::insertText, [&text](const QString& part) { text += part; });
+    QObject::connect(&menu, &nsModEditor::EditorSupportMenu::insertText,
+                     [&text](const QString& part) { text += part; });
     menu.setEntry("entry", path, nsModEditor::EditorSupportMenu::typeFile);
     menu.node({"entry"})->action->trigger();
     return text;

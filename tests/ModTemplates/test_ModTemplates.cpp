@@ -66,7 +66,8 @@ protected:
 
 TEST_F(Templates, fileMakesOneEntryALineAndInsertsWhatFollowsItsMark)
 {
-    write("a.txt", "About.\nmenuItem = Group/First\nmenuItem=Group/Second\nmore text\ntemplate = dropped\n\tLOAD\n\nend");
+    write("a.txt",
+          "About.\nmenuItem = Group/First\nmenuItem=Group/Second\nmore text\ntemplate = dropped\n\tLOAD\n\nend");
     module.initTemplates(folder.path());
     EXPECT_EQ(entries(menu.menu), QStringList({"Group"}));
     EXPECT_EQ(entries(menu.node({"Group"})->menu), QStringList({"First", "Second"}));

@@ -73,7 +73,8 @@ TEST(TemplateFiles, haveTheFormAndAPlaceOfTheirOwnInTheMenu)
     for (const QString& path : TemplateFile::all()) {
         const TemplateFile file(path);
         EXPECT_FALSE(file.inserted.isEmpty()) << path.toStdString();
-        EXPECT_TRUE(QStringList({"program", "routines", "interrupt", "start"}).contains(file.kind)) << path.toStdString();
+        EXPECT_TRUE(QStringList({"program", "routines", "interrupt", "start"}).contains(file.kind))
+            << path.toStdString();
         EXPECT_EQ(file.routines.isEmpty(), file.kind != "routines") << path.toStdString();
         EXPECT_EQ(file.menuItems.size(), file.processors.size()) << path.toStdString();
         for (const QString& item : file.menuItems) {

@@ -1,8 +1,8 @@
 // Two texts side by side.
 
-#include "Readable.h"
 #include "ModalHelper.h"
 #include "QtPrinters.h"
+#include "Readable.h"
 #include "TextCompareDialog.h"
 #include "TextCompareSide.h"
 

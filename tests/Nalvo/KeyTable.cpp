@@ -174,8 +174,8 @@ const KeyTable& processorKeys(const QString& processor)
 bool isOfType(const sKey_t& key, const QString& value)
 {
     static const QMap<QString, QString> forms = {
-        {"int", "-?[0-9]+"},        {"bool", "[01]"},           {"color", "#[0-9a-f]{6}"},
-        {"font", "[^,]+(,[^,]*){9}"}, {"string", "[^\\n]*"},      {"list", "([^:]+(:[^:]+)*)?"},
+        {"int", "-?[0-9]+"},          {"bool", "[01]"},      {"color", "#[0-9a-f]{6}"},
+        {"font", "[^,]+(,[^,]*){9}"}, {"string", "[^\\n]*"}, {"list", "([^:]+(:[^:]+)*)?"},
         {"path", "([^/].*)?"},
     };
     const auto form = forms.constFind(key.type);

@@ -20,15 +20,16 @@ using KeyValues = QMap<QString, QString>;
 
 /// The keys of the application's settings.
 const KeyTable& settingsKeys();
-/// The keys of a project file that do not depend on the processor. The values stand here as they do in the elements, where "/" and
-/// some more characters are written as references.
+/// The keys of a project file that do not depend on the processor. The values stand here as they do in the elements,
+/// where "/" and some more characters are written as references.
 const KeyTable& projectKeys();
 /// The keys of the documents that are open in a project; they go together.
 const KeyTable& documentKeys();
 /// The keys of a processor's section. @param processor name as in the project; an unknown one has none
 const KeyTable& processorKeys(const QString& processor);
 
-/// A value of another type than the table says is no value: 1 for a bool, decimal digits for a number, "#rrggbb" for a colour.
+/// A value of another type than the table says is no value: 1 for a bool, decimal digits for a number, "#rrggbb" for a
+/// colour.
 bool isOfType(const sKey_t& key, const QString& value);
 
 /// The lines of a settings file as they stand there, without the marks that are the file's own.

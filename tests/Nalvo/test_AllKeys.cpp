@@ -1,4 +1,5 @@
-// Every key of the settings file and of the project file: that it is there, its form, its default, and its way there and back.
+// Every key of the settings file and of the project file: that it is there, its form, its default, and its way there
+// and back.
 
 #include "KeyTable.h"
 #include "MainWindowFixture.h"
@@ -31,8 +32,8 @@ KeyValues defaults(const KeyTable& keys)
     return result;
 }
 
-/// Which keys differ from their defaults in a round: those whose index has a bit set. So any two keys differ in some round, and
-/// one that reads or writes the place of another one is seen. The round after the last bit has all of them.
+/// Which keys differ from their defaults in a round: those whose index has a bit set. So any two keys differ in some
+/// round, and one that reads or writes the place of another one is seen. The round after the last bit has all of them.
 int roundsOf(const KeyTable& keys)
 {
     int rounds = 1;
@@ -77,8 +78,8 @@ protected:
         QFile file(path);
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     }
-    /// The settings in the file. The platform of the tests moves a window at the border of the screen inwards by the width of a
-    /// frame, which is taken back here.
+    /// The settings in the file. The platform of the tests moves a window at the border of the screen inwards by the
+    /// width of a frame, which is taken back here.
     KeyValues settings() const
     {
         KeyValues values = parseSettings(content(settingsFile()));
@@ -117,9 +118,7 @@ protected:
     }
 };
 
-class ProjectKeys
-    : public AllKeys
-    , public ::testing::WithParamInterface<const char*>
+class ProjectKeys : public AllKeys, public ::testing::WithParamInterface<const char*>
 {
 protected:
     KeyTable keys() const { return joined(projectKeys(), processorKeys(GetParam())); }

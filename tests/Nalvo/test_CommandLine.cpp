@@ -105,6 +105,7 @@ TEST_F(CommandLineTest, whatTheStartReportsOutlivesTheOpeningOfItsProject)
     writeSetting("PrjMngr/collection", gone);
     const QStringList report = run({"a.nalvo"});
     EXPECT_TRUE(report.contains("message: Assembling..."));
-    EXPECT_TRUE(report.contains(QString("message: Can not find project file %1. Removing it from project collection").arg(gone)))
+    EXPECT_TRUE(report.contains(
+        QString("message: Can not find project file %1. Removing it from project collection").arg(gone)))
         << qPrintable(report.join('\n'));
 }

@@ -1,4 +1,5 @@
-// Writing a program in the whole window: from the key press to the bytes of the output files, and the ways between the panels.
+// Writing a program in the whole window: from the key press to the bytes of the output files, and the ways between the
+// panels.
 
 #include "ExampleFolder.h"
 #include "MainWindowFixture.h"
@@ -175,7 +176,8 @@ TEST_F(EditorInWindow, insertionMenuOffersLabelsConstantsAndTemplates)
     QStringList top;
     for (const QAction* entry : menu->menu->actions())
         top.append(entry->text());
-    for (const char* name : {"Attributes", "Defines", "Directives", "Hardware", "Instructions", "Label", "Navigator commands"})
+    for (const char* name :
+         {"Attributes", "Defines", "Directives", "Hardware", "Instructions", "Label", "Navigator commands"})
         EXPECT_TRUE(top.contains(name)) << name;
     menu->node({"Instructions", "Arithmetic", "ADD"})->action->trigger();
     EXPECT_TRUE(current()->toPlainText().startsWith("ADD"));
@@ -238,7 +240,8 @@ TEST_F(EditorInWindow, closingTheWindowAsksForTheModifiedDocument)
 TEST_F(EditorInWindow, closingTheLastDocumentTurnsTheActionsOfDocumentsOff)
 {
     open("main.psm");
-    const QStringList names = {"Save all", "Reload all", "Close all", "Save", "Save as...", "Reload", "Print...", "Close"};
+    const QStringList names = {"Save all",   "Reload all", "Close all", "Save",
+                               "Save as...", "Reload",     "Print...",  "Close"};
     for (const QString& name : names)
         EXPECT_TRUE(action(name)->isEnabled()) << name.toStdString();
     while (!editor()->editorWidgets().isEmpty())

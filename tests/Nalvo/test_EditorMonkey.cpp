@@ -25,7 +25,8 @@ namespace {
 class EditorMonkey : public MainWindowFixture, public ::testing::WithParamInterface<unsigned int>
 {
 protected:
-    EditorMonkey() : m_random(GetParam())
+    EditorMonkey()
+        : m_random(GetParam())
     {
         copyFolder(NALVO_SOURCE_DIR "/examples/uart_monitor", projectDir() + "/uart_monitor");
         copyFolder(NALVO_SOURCE_DIR "/examples/two_pages", projectDir() + "/two_pages");
@@ -43,7 +44,10 @@ protected:
     {
         return qobject_cast<EditorWidget*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     }
-    QString project() { return projectDir() + (pick(2) == 0 ? "/uart_monitor/uart_monitor.nalvo" : "/two_pages/two_pages.nalvo"); }
+    QString project()
+    {
+        return projectDir() + (pick(2) == 0 ? "/uart_monitor/uart_monitor.nalvo" : "/two_pages/two_pages.nalvo");
+    }
     QString someFile()
     {
         const QString dir = projectDir() + (pick(3) == 0 ? "/two_pages/src" : "/uart_monitor/src");
@@ -103,7 +107,8 @@ protected:
     /// Any enabled action but those that leave the program's hands, and simulator runs, which nobody here ends.
     void triggerSomeAction()
     {
-        static const QStringList left = {"Print...", "Run...", "Next line", "Simulate to end of call", "Simulate to cursor"};
+        static const QStringList left = {"Print...", "Run...", "Next line", "Simulate to end of call",
+                                         "Simulate to cursor"};
         QList<QAction*> actions;
         for (QAction* action : window->findChildren<QAction*>()) {
             if (action->isEnabled() && action->menu() == nullptr && !left.contains(action->text()))
@@ -121,7 +126,8 @@ protected:
         widget->setFocus();
         static const char* const texts[] = {"LOAD s0, 1", "; \\navConst \"x\"", "label:", "#EQU a, a", "\"", "(", "x"};
         QTest::keyClicks(widget, texts[pick(7)]);
-        const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Tab, Qt::Key_Up, Qt::Key_Delete, Qt::Key_End};
+        const Qt::Key keys[] = {Qt::Key_Return, Qt::Key_Backspace, Qt::Key_Tab,
+                                Qt::Key_Up,     Qt::Key_Delete,    Qt::Key_End};
         QTest::keyClick(widget, keys[pick(6)], pick(3) == 0 ? Qt::ShiftModifier : Qt::NoModifier);
         if (pick(6) == 0)
             widget->selectAll();
@@ -201,8 +207,8 @@ TEST_P(EditorMonkey, survives)
 {
     for (int i = 0; i < 150; ++i)
         act();
-    // What stands is consistent: each page of the centre is a document, but for the configuration and the project manager, and
-    // each document has a page.
+    // What stands is consistent: each page of the centre is a document, but for the configuration and the project
+    // manager, and each document has a page.
     auto* gui = module<ModGuiHookIf>();
     for (EditorWidget* widget : editor()->editorWidgets())
         EXPECT_TRUE(gui->hasWidget(ModGuiHookIf::eLocationTabs, widget));

@@ -31,7 +31,10 @@ protected:
     }
 
     QString project() const { return projectDir() + "/uart_monitor/uart_monitor.nalvo"; }
-    QString output(const QString& suffix) const { return projectDir() + "/uart_monitor/output/uart_monitor_rom." + suffix; }
+    QString output(const QString& suffix) const
+    {
+        return projectDir() + "/uart_monitor/output/uart_monitor_rom." + suffix;
+    }
     bool open() { return module<nsModPrj::ModPrj>()->openPrj(project()); }
 
     /// The button of a tool bar that triggers the action with this text.
@@ -132,7 +135,8 @@ TEST_F(ExampleProject, mapsOfTheIODevicesLeadToTheSources)
         int line = -1;
         ASSERT_TRUE(editor->cursorLine(&file, &line));
         const QByteArray text = content(file).split('\n').value(line).simplified();
-        EXPECT_FALSE(text.isEmpty() || text.startsWith(';')) << qPrintable(file) << ':' << line << ' ' << text.constData();
+        EXPECT_FALSE(text.isEmpty() || text.startsWith(';'))
+            << qPrintable(file) << ':' << line << ' ' << text.constData();
         ASSERT_TRUE(prj->closePrj());
         EXPECT_EQ(window->findChild<nsModAsmFe::IODevViewerList*>(), nullptr);
     }

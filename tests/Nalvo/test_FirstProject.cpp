@@ -1,4 +1,5 @@
-// The first project of a new user, from an empty settings folder to the bytes of the output files, by mouse and keyboard alone.
+// The first project of a new user, from an empty settings folder to the bytes of the output files, by mouse and
+// keyboard alone.
 
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
@@ -27,15 +28,15 @@ using nsModEditor::EditorWidget;
 
 namespace {
 
-// The program counts on port 128. A number goes into the low byte, the register into bits 8 to 11, an address into the low
-// ten bits:
+// The program counts on port 128. A number goes into the low byte, the register into bits 8 to 11, an address into the
+// low ten bits:
 //   0  LOAD s0, 0       0x00000 + 0<<8 + 0x00   = 00000
 //   1  WRPRT s0, 128    0x2C000 + 0<<8 + 0x80   = 2C080
 //   2  ADD s0, 1        0x18000 + 0<<8 + 0x01   = 18001
 //   3  SL0 sA           0x20000 + 10<<8 + 0x06  = 20A06
 //   4  JUMP loop        0x34000 + 1             = 34001
 const char* const programLines[] = {"start:  LOAD s0, 0", "loop:   WRPRT s0, 128", "        ADD s0, 1",
-                                    "        SL0 sA",     "        JUMP loop"};
+                                    "        SL0 sA", "        JUMP loop"};
 const char* const programText = "start:  LOAD s0, 0\nloop:   WRPRT s0, 128\n        ADD s0, 1\n        SL0 sA\n"
                                 "        JUMP loop\n";
 const char* const programHex = "00000\n2C080\n18001\n20A06\n34001\n";

@@ -1,4 +1,5 @@
-// Where the keyboard is when an action of the user has ended: in the page of the centre, and after a jump in the source.
+// Where the keyboard is when an action of the user has ended: in the page of the centre, and after a jump in the
+// source.
 
 #include "ExampleFolder.h"
 #include "MainWindowFixture.h"
@@ -67,7 +68,8 @@ protected:
     std::string where() const
     {
         const QWidget* focus = QApplication::focusWidget();
-        return focus == nullptr ? "nowhere" : focus->metaObject()->className() + (' ' + focus->objectName().toStdString());
+        return focus == nullptr ? "nowhere"
+                                : focus->metaObject()->className() + (' ' + focus->objectName().toStdString());
     }
     static void clickItem(QTreeWidget* tree, QTreeWidgetItem* item, bool twice)
     {
@@ -151,8 +153,7 @@ TEST_F(Focus, isInTheSourceThatAMessageLeadsTo)
 TEST_F(Focus, isInTheSourceThatTheNavigatorLeadsTo)
 {
     open("main.psm");
-    const QList<QTreeWidgetItem*> items =
-        navigator()->findItems("Scratchpad", Qt::MatchExactly | Qt::MatchRecursive);
+    const QList<QTreeWidgetItem*> items = navigator()->findItems("Scratchpad", Qt::MatchExactly | Qt::MatchRecursive);
     ASSERT_FALSE(items.isEmpty());
     // The first time another page comes up, the second time it is in front already.
     for (int round = 0; round < 2; ++round) {

@@ -250,8 +250,7 @@ TEST_F(KeysInWindow, altTypesNothing)
     QTest::keyClick(document, 'Q', Qt::AltModifier | Qt::ShiftModifier);
     EXPECT_EQ(document->text(), mainText);
     // The right Alt key of some keyboards comes as both modifiers; it types.
-    QTest::sendKeyEvent(QTest::Click, document, Qt::Key_BraceLeft, QString("{"),
-                        Qt::AltModifier | Qt::ControlModifier);
+    QTest::sendKeyEvent(QTest::Click, document, Qt::Key_BraceLeft, QString("{"), Qt::AltModifier | Qt::ControlModifier);
     EXPECT_EQ(document->text(), QString("{") + mainText);
 }
 
@@ -371,7 +370,8 @@ TEST_F(KeysInWindow, actionsFollowThePageOfAProjectWithoutALastFile)
     for (const char* text : {"Save", "Reload", "Print...", "Close", "Indent", "Save all"})
         EXPECT_TRUE(action(text)->isEnabled()) << text;
     ASSERT_TRUE(module<nsModPrj::ModPrj>()->closePrj());
-    for (const char* text : {"Save", "Reload", "Print...", "Close", "Indent", "Save all", "New...", "Open...", "Undo..."})
+    for (const char* text :
+         {"Save", "Reload", "Print...", "Close", "Indent", "Save all", "New...", "Open...", "Undo..."})
         EXPECT_FALSE(action(text)->isEnabled()) << text;
 }
 

@@ -20,8 +20,9 @@ namespace {
 
 const char* const project = "<project version=\"3\"><sources><srcFiles>main.psm</srcFiles></sources>"
                             "<ModProcessor><processor>Xilinx PicoBlaze 3</processor></ModProcessor></project>";
-const char* const mainText = "JUMP start\nrestart: LOAD s0, 1\n; \\navSep\"Ports\"\nstart: ADD s0, 1\nJUMP start\nJUMP restart\n"
-                             "#NAMESPACE ns\nstart2: JUMP start2\n#ENDNAMESPACE\n";
+const char* const mainText =
+    "JUMP start\nrestart: LOAD s0, 1\n; \\navSep\"Ports\"\nstart: ADD s0, 1\nJUMP start\nJUMP restart\n"
+    "#NAMESPACE ns\nstart2: JUMP start2\n#ENDNAMESPACE\n";
 
 class NaviInWindow : public MainWindowFixture
 {
@@ -104,7 +105,8 @@ TEST_F(NaviInWindow, tagsAreFoundAgainAfterAnEdit)
         document->setCursorPos(0);
         jump(title);
         const QString text = QString(title).remove("ns::");
-        EXPECT_TRUE(cursorLine().startsWith(text == "Ports" ? "; \\navSep\"Ports\"" : text)) << qPrintable(cursorLine());
+        EXPECT_TRUE(cursorLine().startsWith(text == "Ports" ? "; \\navSep\"Ports\"" : text))
+            << qPrintable(cursorLine());
     }
 }
 

@@ -82,8 +82,7 @@ TEST_P(DisassemblerTest, masksAndFieldsCoverEachBitOnce)
 }
 
 /// Why a text is not what comes back for its word.
-enum eOverlap_t
-{
+enum eOverlap_t {
     overlapNone,      ///< it is
     overlapNop,       ///< NOP is a load of a register with itself
     overlapRotate,    ///< a rotate inside one register is one of two registers

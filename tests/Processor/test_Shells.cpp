@@ -401,7 +401,8 @@ TEST(ShellCatalogue, KeysInOrder)
                               "warnMissingInstrAtIntVectorAddr",
                               "errMissingInstrAtIntVectorAddr",
                               "warnMissingInstrAtIntVectorAddrAndPage",
-                              "errMissingInstrAtIntVectorAddrAndPage", "warnFlowAddrTruncated"};
+                              "errMissingInstrAtIntVectorAddrAndPage",
+                              "warnFlowAddrTruncated"};
     for (int i = 0; i < keys.size(); ++i) {
         ASSERT_NE(nsProc::asmMsg(i), nullptr);
         EXPECT_EQ(nsProc::asmMsg(i)->key, keys.at(i));

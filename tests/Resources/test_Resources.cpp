@@ -28,14 +28,16 @@ QString content(const QString& path)
 QSet<QString> namedPaths(const QString& text)
 {
     QSet<QString> paths;
-    QRegularExpressionMatchIterator it = QRegularExpression(R"re(:(/[A-Za-z0-9_/.-]+\.(?:png|css)))re").globalMatch(text);
+    QRegularExpressionMatchIterator it =
+        QRegularExpression(R"re(:(/[A-Za-z0-9_/.-]+\.(?:png|css)))re").globalMatch(text);
     while (it.hasNext())
         paths.insert(':' + it.next().captured(1));
     return paths;
 }
 
-const QStringList simulatorActions{"simEn",       "simRestart",     "simSetPc",    "simInt",  "simRun",  "simStop", "simNext",
-                                   "simNextLine", "simToEndOfCall", "simToCursor", "baseDec", "baseHex", "baseOct"};
+const QStringList simulatorActions{"simEn",   "simRestart", "simSetPc",    "simInt",         "simRun",
+                                   "simStop", "simNext",    "simNextLine", "simToEndOfCall", "simToCursor",
+                                   "baseDec", "baseHex",    "baseOct"};
 const QStringList deviceButtons{"devClose", "fifoExpand", "fifoCollapse"};
 const QStringList waveButtons{"waveAdd", "waveZoomIn", "waveZoomOut", "waveZoomFit", "waveSave"};
 
@@ -79,9 +81,9 @@ TEST_F(Resources, picturesNamedBySourcesExistInBothSizes)
 
 TEST_F(Resources, actionIconsThatSourcesComposeExist)
 {
-    for (const char* path : {"ModAsmFe/img/actions/assemble", "ModAsmFe/img/actions/assemble1",
-                             "ModAsmFe/img/actions/assemble2", "ModPrj/img/actions/project-new",
-                             "ModPrj/img/actions/project-open", "ModPrj/img/actions/project-close"})
+    for (const char* path :
+         {"ModAsmFe/img/actions/assemble", "ModAsmFe/img/actions/assemble1", "ModAsmFe/img/actions/assemble2",
+          "ModPrj/img/actions/project-new", "ModPrj/img/actions/project-open", "ModPrj/img/actions/project-close"})
         EXPECT_FALSE(QImage(QString(":/%1.png").arg(path)).isNull()) << path;
 }
 

@@ -9,20 +9,14 @@
 /// A second, naive model of the processors, for comparison with the simulator. It works bit by bit from the tables of
 /// meanings and knows nothing of the assembler's objects: a program is a list of instructions in words of its own.
 
-enum class Family
-{
-    PicoBlaze3,
-    PicoBlaze6,
-    Mico8
-};
+enum class Family { PicoBlaze3, PicoBlaze6, Mico8 };
 
 const char* nameOf(Family family);
 
 /// An operand as the program names it.
 struct Operand
 {
-    enum Kind
-    {
+    enum Kind {
         none,
         reg,
         inParentheses,
@@ -86,8 +80,7 @@ struct Build
 };
 
 /// What an instruction came to.
-enum class Outcome
-{
+enum class Outcome {
     done,
     ended,         ///< done, and there is no next instruction
     stackOverflow, ///< not done
@@ -103,13 +96,7 @@ const int outcomeCount = int(Outcome::noVector) + 1;
 /// All that an instruction can change.
 struct State
 {
-    enum Interrupt
-    {
-        enabled,
-        disabled,
-        pending,
-        inService
-    };
+    enum Interrupt { enabled, disabled, pending, inService };
 
     struct Call
     {

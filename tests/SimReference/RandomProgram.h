@@ -12,8 +12,7 @@ struct Machine
 };
 
 /// How the instructions of a random program lie in the instruction memory.
-enum class Layout
-{
+enum class Layout {
     fullPage,   ///< one page, each of its words
     gaps,       ///< one page with words that have no instruction, the interrupt vector of a PicoBlaze among them
     sharedHigh, ///< two pages; the upper words are shared

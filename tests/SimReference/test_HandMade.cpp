@@ -20,8 +20,8 @@ struct Row
     const char* processor;
     const char* program; ///< instructions separated by ;
     int steps;
-    int r0, r1;  ///< registers 0 and 1 before
-    int c, z;    ///< flags before
+    int r0, r1; ///< registers 0 and 1 before
+    int c, z;   ///< flags before
     int r0After, r1After;
     int cAfter, zAfter;
     int pcAfter; ///< address of the next instruction, -1 for none
@@ -136,7 +136,8 @@ TEST_P(HandMade, Row)
     EXPECT_EQ(bench.sim->takeLastMsg().toStdString(), row.key);
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows), [](const auto& tested) { return tested.param.name; });
+INSTANTIATE_TEST_SUITE_P(Rows, HandMade, ::testing::ValuesIn(rows),
+                         [](const auto& tested) { return tested.param.name; });
 
 TEST(HandMadeMore, StarWritesTheOtherBank)
 {
@@ -208,7 +209,8 @@ TEST(HandMadeMore, RetiRestoresTheFlagsOfTheInterruptedInstruction)
 TEST(HandMadeMore, HandlerChangesNoFlagsButByRet)
 {
     for (const char* back : {"RETI ENABLE", "RET"}) {
-        SimBench bench(b3, QString("INT ENABLE;NOP;NOP;handler: COMP s0, s0;%1;#ORG ADDR, 0x3FF;JUMP handler").arg(back));
+        SimBench bench(b3,
+                       QString("INT ENABLE;NOP;NOP;handler: COMP s0, s0;%1;#ORG ADDR, 0x3FF;JUMP handler").arg(back));
         ASSERT_TRUE(bench.started) << bench.run.summary();
         nsProc::ProcSimCoreData& core = *bench.sim->core();
         bench.sim->simOpcode();

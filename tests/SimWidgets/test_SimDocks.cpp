@@ -289,7 +289,11 @@ TEST(SimStatusBar, UnitFollowsTheFrequency)
         double frequency;
         const char* unit;
         const char* timeOfTen;
-    } rows[] = {{1000001, "ns", "9999.99"}, {1000000, "us", "10"}, {1001, "us", "9990.01"}, {1000, "ms", "10"}, {1, "ms", "10000"}};
+    } rows[] = {{1000001, "ns", "9999.99"},
+                {1000000, "us", "10"},
+                {1001, "us", "9990.01"},
+                {1000, "ms", "10"},
+                {1, "ms", "10000"}};
     for (const auto& row : rows) {
         ProcSimStatusBar bar(row.frequency);
         bar.addClkCntr(10);

@@ -127,7 +127,8 @@ TEST_F(SimScrpdCells, NoMoreFieldsThanASightNeedsHoweverFarTheUserScrolls)
         int inSight = 0;
         for (const ProcSimEdtNumeric* field : scrpd.findChildren<ProcSimEdtNumeric*>())
             inSight += int(isInSight(scrpd, field));
-        EXPECT_GE(inSight, 4 * (scrpd.viewport()->height() / (scrpd.findChild<ProcSimEdtNumeric*>()->height() + 6) - 1)) << step;
+        EXPECT_GE(inSight, 4 * (scrpd.viewport()->height() / (scrpd.findChild<ProcSimEdtNumeric*>()->height() + 6) - 1))
+            << step;
     }
 }
 
@@ -154,7 +155,9 @@ TEST_F(SimScrpdCells, TabulatorGoesThroughAllCells)
     ProcSimScrpd scrpd(1200);
     show(&scrpd);
     cell(scrpd, "000")->setFocus();
-    const auto focused = [] { return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->toolTip() : QString(); };
+    const auto focused = [] {
+        return QApplication::focusWidget() != nullptr ? QApplication::focusWidget()->toolTip() : QString();
+    };
     const auto name = [](int addr) { return "Address " + QString::number(addr, 16).toUpper().rightJustified(3, '0'); };
     for (int addr = 0; addr < 1199; ++addr) {
         ASSERT_EQ(focused(), name(addr));

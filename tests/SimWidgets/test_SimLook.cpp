@@ -1,4 +1,5 @@
-// How the widgets of a simulator look under the program's style sheet, what room they take, that they rest while nothing changes.
+// How the widgets of a simulator look under the program's style sheet, what room they take, that they rest while
+// nothing changes.
 
 #include "LMico8v3xSimCore.h"
 #include "LMico8v3xSimCoreReg.h"
@@ -51,8 +52,8 @@ public:
 
     bool eventFilter(QObject* /*object*/, QEvent* event) override
     {
-        m_count += event->type() == QEvent::Paint || event->type() == QEvent::StyleChange
-            || event->type() == QEvent::LayoutRequest || event->type() == QEvent::UpdateRequest;
+        m_count += event->type() == QEvent::Paint || event->type() == QEvent::StyleChange ||
+                   event->type() == QEvent::LayoutRequest || event->type() == QEvent::UpdateRequest;
         return false;
     }
     /// Work since the last call.
@@ -306,7 +307,8 @@ TEST_F(SimLook, ScratchpadHasEightCellsBesideEachOtherWhereTheyFit)
     const auto cells = scrpd->findChildren<ProcSimEdtNumeric*>();
     const auto top = [scrpd](QWidget* cell) { return cell->mapTo(scrpd, QPoint()).y(); };
     const auto inFirstRow = [&] {
-        return int(std::count_if(cells.begin(), cells.end(), [&](QWidget* cell) { return top(cell) == top(cells.first()); }));
+        return int(
+            std::count_if(cells.begin(), cells.end(), [&](QWidget* cell) { return top(cell) == top(cells.first()); }));
     };
     const auto addresses = [scrpd] {
         QStringList result;

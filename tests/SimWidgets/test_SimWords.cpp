@@ -1,4 +1,5 @@
-// What the widgets of a simulator say beside values and colours: tool tips, letters, names, and the room that texts have.
+// What the widgets of a simulator say beside values and colours: tool tips, letters, names, and the room that texts
+// have.
 
 #include "LMico8v3xSimCoreReg.h"
 #include "ProcSimCallStack.h"
@@ -118,7 +119,8 @@ TEST(SimWords, InterruptIsToldByALetterAndATipToo)
         EXPECT_TRUE(tipOver(&mark).startsWith("If interrupt is enabled click to change status."));
         // Without any colour, and beside the square, the states still differ.
         QImage grey = mark.grab().toImage();
-        grey = grey.copy(2 + 10, 0, grey.width() - 12, grey.height()).convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
+        grey = grey.copy(2 + 10, 0, grey.width() - 12, grey.height())
+                   .convertToFormat(QImage::Format_Mono, Qt::ThresholdDither);
         for (const QImage& other : qAsConst(letters))
             EXPECT_NE(grey, other) << row.tip;
         letters.append(grey);
@@ -132,8 +134,9 @@ TEST(SimWords, TimeHasATipThatPeopleRead)
         double frequency;
         qint64 clocks;
         const char* tip;
-    } rows[] = {{50000000, 3799440, "75.99 ms"}, {50000000, 1, "20 ns"},    {1000000, 999, "999 us"},    {1000000, 1000, "1 ms"},
-                {1000000, 999960, "1 s"},        {1000000, 12345678, "12.35 s"}, {1, 123456, "123456 s"}, {50000000, 0, "0 s"}};
+    } rows[] = {{50000000, 3799440, "75.99 ms"}, {50000000, 1, "20 ns"},   {1000000, 999, "999 us"},
+                {1000000, 1000, "1 ms"},         {1000000, 999960, "1 s"}, {1000000, 12345678, "12.35 s"},
+                {1, 123456, "123456 s"},         {50000000, 0, "0 s"}};
     for (const auto& row : rows) {
         ProcSimStatusBar bar(row.frequency);
         bar.addClkCntr(int(row.clocks));

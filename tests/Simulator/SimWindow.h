@@ -11,12 +11,12 @@
 #include "ModProcessor.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
+#include "ProcShell.h"
 #include "ProcSim.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimPorts.h"
-#include "ProcShell.h"
 
 #include <QAction>
 #include <QTextBlock>
@@ -62,11 +62,11 @@ protected:
     }
     static QByteArray projectText(const QString& processor, const QHash<QString, QString>& settings)
     {
-        const QHash<QString, QString> names = {{"XPBlze3", "Xilinx PicoBlaze 3"},
-                                               {"XPBlze6", "Xilinx PicoBlaze 6"},
-                                               {"LMico8v3x", "Lattice Mico8 v3.x"}};
-        QString text = "<project version=\"3\"><sources><srcFiles>main.psm</srcFiles></sources><ModProcessor><processor>" +
-                       names.value(processor) + "</processor></ModProcessor><" + processor + ">";
+        const QHash<QString, QString> names = {
+            {"XPBlze3", "Xilinx PicoBlaze 3"}, {"XPBlze6", "Xilinx PicoBlaze 6"}, {"LMico8v3x", "Lattice Mico8 v3.x"}};
+        QString text =
+            "<project version=\"3\"><sources><srcFiles>main.psm</srcFiles></sources><ModProcessor><processor>" +
+            names.value(processor) + "</processor></ModProcessor><" + processor + ">";
         for (auto it = settings.cbegin(); it != settings.cend(); ++it)
             text += '<' + it.key() + '>' + it.value() + "</" + it.key() + '>';
         text += "</" + processor + "><AsmFe><behavior><intVector>2</intVector></behavior></AsmFe></project>";
@@ -123,10 +123,7 @@ protected:
             module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     }
     /// Line of the next instruction, counted from 0; -1 without one.
-    int pcLine() const
-    {
-        return sim()->programCounter() != nullptr ? sim()->programCounter()->srcRef.lineNo : -1;
-    }
+    int pcLine() const { return sim()->programCounter() != nullptr ? sim()->programCounter()->srcRef.lineNo : -1; }
     int reg(int index) const { return sim()->core()->regValue(sim()->core()->bank(), index); }
     qint64 clocks() const { return sim()->clock()->clocks; }
     /// Messages that begin with the text.

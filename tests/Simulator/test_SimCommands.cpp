@@ -19,15 +19,15 @@ class SimCommands : public SimWindow
 };
 
 const QStringList callProgram = {
-    "    LOAD s0, 1",      // 0
-    "    CALL proc",        // 1
-    "    LOAD s1, 2",      // 2
-    "end:",                // 3
-    "    JUMP end",        // 4
-    "proc:",                // 5
-    "    ADD s0, 4",       // 6
-    "    ADD s0, 8",       // 7
-    "    RET",             // 8
+    "    LOAD s0, 1", // 0
+    "    CALL proc",  // 1
+    "    LOAD s1, 2", // 2
+    "end:",           // 3
+    "    JUMP end",   // 4
+    "proc:",          // 5
+    "    ADD s0, 4",  // 6
+    "    ADD s0, 8",  // 7
+    "    RET",        // 8
 };
 
 TEST_F(SimCommands, StepsOneInstruction)
@@ -248,7 +248,8 @@ TEST_F(SimCommands, StartMarkIsWhereTheSimulationStarts)
 
 TEST_F(SimCommands, ResetClearsTheStateButNotTheClock)
 {
-    ASSERT_TRUE(start("XPBlze3", {"LOAD s3, 7", "WRMEM s3, 5", "WRPRT s3, 9", "INT ENABLE", "SUB s4, 1", "CALL proc", "proc: NOP"}));
+    ASSERT_TRUE(start(
+        "XPBlze3", {"LOAD s3, 7", "WRMEM s3, 5", "WRPRT s3, 9", "INT ENABLE", "SUB s4, 1", "CALL proc", "proc: NOP"}));
     for (int i = 0; i < 6; ++i)
         sim()->simNextInstruction();
     ASSERT_EQ(sim()->callStack()->count(), 1);
@@ -268,18 +269,18 @@ TEST_F(SimCommands, ResetClearsTheStateButNotTheClock)
 }
 
 const QStringList interruptProgram = {
-    "    INT ENABLE",        // 0
-    "    LOAD s0, 0",        // 1
-    "    SUB s0, 1",         // 2: carry
-    "loop:",                 // 3
-    "    ADD s1, 1",         // 4
-    "    JUMP loop",         // 5
-    "#ORG ADDR, 0x300",      // 6
-    "isr:",                  // 7
-    "    ADD s2, 1",         // 8
-    "    RETI ENABLE",       // 9
-    "#ORG ADDR, 0x3FF",      // 10
-    "    JUMP isr",          // 11
+    "    INT ENABLE",   // 0
+    "    LOAD s0, 0",   // 1
+    "    SUB s0, 1",    // 2: carry
+    "loop:",            // 3
+    "    ADD s1, 1",    // 4
+    "    JUMP loop",    // 5
+    "#ORG ADDR, 0x300", // 6
+    "isr:",             // 7
+    "    ADD s2, 1",    // 8
+    "    RETI ENABLE",  // 9
+    "#ORG ADDR, 0x3FF", // 10
+    "    JUMP isr",     // 11
 };
 
 TEST_F(SimCommands, InterruptIsServedAndReturnedFrom)
@@ -414,7 +415,8 @@ TEST_F(SimCommands, ShorterProgramLosesTheProgramCounter)
     EXPECT_EQ(enabledActions(), "0 1 2 3 4 5 6 7 8 9 11");
 }
 
-class SimSettings : public SimWindow, public ::testing::WithParamInterface<std::tuple<const char*, const char*, const char*>>
+class SimSettings : public SimWindow,
+                    public ::testing::WithParamInterface<std::tuple<const char*, const char*, const char*>>
 {
 };
 
@@ -425,9 +427,11 @@ TEST_P(SimSettings, ChangedSettingStopsTheSimulationUntilItIsRestored)
     ASSERT_TRUE(start(processor, program));
     writeSource(QStringList(std::get<1>(GetParam())) + program);
     ASSERT_TRUE(assemble()) << messageTexts().join('\n').toStdString();
-    EXPECT_EQ(messages(QString("At least one processor settings was changed. Please restart simulator or restore the setting: ") +
-                       std::get<2>(GetParam())),
-              1)
+    EXPECT_EQ(
+        messages(
+            QString("At least one processor settings was changed. Please restart simulator or restore the setting: ") +
+            std::get<2>(GetParam())),
+        1)
         << messageTexts().join('\n').toStdString();
     EXPECT_EQ(enabledActions(), "0 6 7 8 9 11");
     writeSource(QStringList("; restored") + program);

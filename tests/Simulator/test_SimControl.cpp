@@ -3,15 +3,15 @@
 #include "SimWindow.h"
 
 #include "ModSources.h"
-#include "ProcSimEdtNumeric.h"
+#include "ProcList.h"
+#include "ProcPluginIf.h"
 #include "ProcSimCallStack.h"
 #include "ProcSimCore.h"
+#include "ProcSimEdtNumeric.h"
 #include "ProcSimIO.h"
 #include "ProcSimIOPluginIf.h"
 #include "ProcSimStatusBar.h"
 #include "ProcSimWaveViewer.h"
-#include "ProcList.h"
-#include "ProcPluginIf.h"
 
 #include <QLabel>
 #include <QTabWidget>
@@ -176,22 +176,25 @@ TEST_F(SimControl, ActionsStandAsTheyShould)
     ASSERT_TRUE(open("XPBlze3", endless));
     QStringList shown;
     for (QAction* entry : shell()->menuActions(ModActionHookIf::eActionClassSimulator))
-        shown.append(entry->isSeparator() ? "-" : QString::number(entry->data().toInt()) + ' ' + entry->text() + '/' + entry->toolTip());
-    EXPECT_EQ(shown.join('\n').toStdString(), "0 Enable/disable simulator/Enable/disable simulator\n"
-                                              "-\n"
-                                              "7 Reset/Reset simulator\n"
-                                              "8 Set program counter from text cursor/Set program counter from text cursor\n"
-                                              "6 Interrupt/Toggle interrupt\n"
-                                              "-\n"
-                                              "1 Run.../Run simulation\n"
-                                              "2 Next line/Simulate next line\n"
-                                              "3 Next instruction/Simulate next instruction\n"
-                                              "4 Simulate to end of call/Simulate to end of call\n"
-                                              "5 Simulate to cursor/Simulate to cursor\n"
-                                              "-\n"
-                                              "9 Dec/Set numeric base to decimal\n"
-                                              "10 Hex/set numeric base to hexadecimal\n"
-                                              "11 Oct/Set numeric base to octal");
+        shown.append(entry->isSeparator()
+                         ? "-"
+                         : QString::number(entry->data().toInt()) + ' ' + entry->text() + '/' + entry->toolTip());
+    EXPECT_EQ(shown.join('\n').toStdString(),
+              "0 Enable/disable simulator/Enable/disable simulator\n"
+              "-\n"
+              "7 Reset/Reset simulator\n"
+              "8 Set program counter from text cursor/Set program counter from text cursor\n"
+              "6 Interrupt/Toggle interrupt\n"
+              "-\n"
+              "1 Run.../Run simulation\n"
+              "2 Next line/Simulate next line\n"
+              "3 Next instruction/Simulate next instruction\n"
+              "4 Simulate to end of call/Simulate to end of call\n"
+              "5 Simulate to cursor/Simulate to cursor\n"
+              "-\n"
+              "9 Dec/Set numeric base to decimal\n"
+              "10 Hex/set numeric base to hexadecimal\n"
+              "11 Oct/Set numeric base to octal");
     EXPECT_EQ(shell()->toolBarActions(ModActionHookIf::eActionClassSimulator).size(), shown.size());
     EXPECT_TRUE(shell()->menuActions(ModActionHookIf::eActionClassEdit).isEmpty());
     for (QAction* entry : shell()->actionsSim()->actions())

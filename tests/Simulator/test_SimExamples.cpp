@@ -65,7 +65,8 @@ protected:
     {
         QFile file(asmFe()->fileHndlr()->absSrcFilePath(sim()->programCounter()->srcRef.fileNo));
         return file.open(QIODevice::ReadOnly)
-                   ? QString::fromLatin1(file.readAll().split('\n').value(sim()->programCounter()->srcRef.lineNo)).simplified()
+                   ? QString::fromLatin1(file.readAll().split('\n').value(sim()->programCounter()->srcRef.lineNo))
+                         .simplified()
                    : QString();
     }
 
@@ -97,7 +98,8 @@ TEST_F(SimExamples, UartMonitorOnPicoBlaze3)
     EXPECT_EQ(written(6, 1), QList<int>({0x03}));
     EXPECT_EQ(sim()->ports()->devices().size(), 5);
 
-    // INT ENABLE, CALL text::banner, CALL newline, LOAD CR, CALL uart::send: the read of the status finds no device. 5 more.
+    // INT ENABLE, CALL text::banner, CALL newline, LOAD CR, CALL uart::send: the read of the status finds no device. 5
+    // more.
     trigger(Action::eActionRun);
     EXPECT_EQ(messages("An IO device was added to read. Please type in your value."), 1);
     EXPECT_EQ(clocks(), 414 + 10);
@@ -113,13 +115,12 @@ TEST_F(SimExamples, UartMonitorOnPicoBlaze3)
 }
 
 // Up to "CALL settings::check" of main.psm:
-//   INT, REGBANK, LOAD, 3 WRMEM, WRPRT 1A, CALL text::banner                                              8 instructions
-//   uart::send: RDPRT, TEST, JUMP, WRPRT, RET                                                             5
-//   newline: LOAD, CALL, send, LOAD, JUMP, send                                                          14
-//   banner: CALL newline, newline, 2 LOAD, CALL print                                                    18
-//   print: 10 characters of CALL, LOADRET, COMP, RET, CALL, send, ADD, ADDC, JUMP (13); CALL, LOADRET, COMP, RET   134
-//   newline at the end                                                                                   14
-//   174 instructions of 2 clocks: 348. The last flags are those of TEST 0, 1: zero 1, parity 0.
+//   INT, REGBANK, LOAD, 3 WRMEM, WRPRT 1A, CALL text::banner                                              8
+//   instructions uart::send: RDPRT, TEST, JUMP, WRPRT, RET 5 newline: LOAD, CALL, send, LOAD, JUMP, send 14 banner:
+//   CALL newline, newline, 2 LOAD, CALL print                                                    18 print: 10
+//   characters of CALL, LOADRET, COMP, RET, CALL, send, ADD, ADDC, JUMP (13); CALL, LOADRET, COMP, RET   134 newline at
+//   the end                                                                                   14 174 instructions of 2
+//   clocks: 348. The last flags are those of TEST 0, 1: zero 1, parity 0.
 TEST_F(SimExamples, MotorControlOnPicoBlaze6)
 {
     ASSERT_TRUE(startExample("motor_control"));
@@ -139,7 +140,8 @@ TEST_F(SimExamples, MotorControlOnPicoBlaze6)
     EXPECT_EQ(written(2, 1), QList<int>({0x1A}));
 
     // Over the check: CALL, CALL add_up, 2 LOAD, 39 cells 40 .. 66 (hexadecimal, the last one not included: 38) of
-    // RDMEM, ADD, ADD, COMP, JUMP (5), RET, RDMEM, COMP, RET: 2 + 2 + 190 + 1 + 3 = 198 instructions, and the sum is right.
+    // RDMEM, ADD, ADD, COMP, JUMP (5), RET, RDMEM, COMP, RET: 2 + 2 + 190 + 1 + 3 = 198 instructions, and the sum is
+    // right.
     trigger(Action::eActionNextLine);
     EXPECT_EQ(pcText(), "CALL NZ, settings::lost");
     EXPECT_EQ(clocks(), 348 + 396);
@@ -148,11 +150,9 @@ TEST_F(SimExamples, MotorControlOnPicoBlaze6)
 }
 
 // Up to "CALL lock::clear" of main.psm:
-//   RDPRT of a request register that holds 0, TEST (zero 1), JUMP                                         3 instructions
-//   INT, LOAD, 2 WRPRT, 4 WRMEM                                                                           8
-//   CALL keypad::init, 5 LOAD, RET                                                                        7
-//   CALL uart::init, 4 LOAD, WRPRT FF, 3 times LOAD and WRPRT: 50,000,000 / 9600 - 1 = 5207 = 1457, 01, RET   13
-//   31 instructions of 2 clocks: 62.
+//   RDPRT of a request register that holds 0, TEST (zero 1), JUMP                                         3
+//   instructions INT, LOAD, 2 WRPRT, 4 WRMEM 8 CALL keypad::init, 5 LOAD, RET 7 CALL uart::init, 4 LOAD, WRPRT FF, 3
+//   times LOAD and WRPRT: 50,000,000 / 9600 - 1 = 5207 = 1457, 01, RET   13 31 instructions of 2 clocks: 62.
 TEST_F(SimExamples, KeypadLockOnMico8)
 {
     ASSERT_TRUE(startExample("keypad_lock"));

@@ -1,6 +1,7 @@
 // A user who simulates and does everything else in between, seeded: nothing may crash, hang or read what is gone.
 //
-// NALVO_MONKEY_SECONDS in the environment makes each of the seeds play that long instead of for a fixed number of actions.
+// NALVO_MONKEY_SECONDS in the environment makes each of the seeds play that long instead of for a fixed number of
+// actions.
 
 #include "ExampleFolder.h"
 #include "SimWindow.h"
@@ -93,7 +94,8 @@ protected:
         const int which = pick(12);
         QAction* entry = action(Action::eAction_t(which));
         // The monkey shall be at work with a simulator most of the time.
-        if (entry == nullptr || !entry->isEnabled() || (which == Action::eActionEnable && sim() != nullptr && pick(6) != 0))
+        if (entry == nullptr || !entry->isEnabled() ||
+            (which == Action::eActionEnable && sim() != nullptr && pick(6) != 0))
             return;
         entry->trigger();
     }
@@ -142,7 +144,8 @@ protected:
                 QTest::keyClick(text, Qt::Key_Delete);
             }
         } else {
-            QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier, QPoint(pick(control->width()), pick(control->height())));
+            QTest::mouseClick(control, Qt::LeftButton, Qt::NoModifier,
+                              QPoint(pick(control->width()), pick(control->height())));
             if (control != nullptr && pick(4) == 0)
                 QTest::keyClick(control, Qt::Key_Delete);
         }

@@ -11,7 +11,8 @@ namespace {
 class SimPages : public SimWindow
 {
 protected:
-    /// Steps over a computed jump out of the shared range and chooses the row in the question about the page. @return line, or -1
+    /// Steps over a computed jump out of the shared range and chooses the row in the question about the page. @return
+    /// line, or -1
     int jumpWithRow(int row)
     {
         ModalAnswers answers({[row](QDialog* dialog) {
@@ -29,9 +30,8 @@ protected:
 TEST_F(SimPages, theRowThatIsChosenIsThePageThatTheJumpGoesTo)
 {
     ASSERT_TRUE(start("XPBlze6", {"#SET INSTMEM::PAGESIZE, 1024", "#SET INSTMEM::PAGECOUNT, 2",
-                                  "#SET INSTMEM::SHAREDMEMLOCATION, HIMEM", "#ORG MEMRANGE, SHARED",
-                                  "JUMP (s0, s1)", "#ORG MEMRANGE, PAGE0", "LOAD s0, 1", "#ORG MEMRANGE, PAGE1",
-                                  "LOAD s1, 2"}))
+                                  "#SET INSTMEM::SHAREDMEMLOCATION, HIMEM", "#ORG MEMRANGE, SHARED", "JUMP (s0, s1)",
+                                  "#ORG MEMRANGE, PAGE0", "LOAD s0, 1", "#ORG MEMRANGE, PAGE1", "LOAD s1, 2"}))
         << messageTexts().join('\n').toStdString();
     document()->setCursorToLine(4);
     trigger(Action::eActionSetPc);

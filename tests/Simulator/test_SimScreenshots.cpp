@@ -34,8 +34,14 @@ TEST_P(SimScreenshots, RunningSimulation)
     // The status of a transmitter that has room.
     using nsProc::ProcSimIOPluginIf;
     using nsProc::ProcSimPorts;
-    sim()->ports()->addIOPlugin(ProcSimPorts::eDevReg, ProcSimIOPluginIf::eDirectionRd, 0)->setBaseAddr(0, "PORT_STATUS");
-    sim()->ports()->addIOPlugin(ProcSimPorts::eDevMem, ProcSimIOPluginIf::eDirectionRdWr, 0)->setBaseAddr(0x80, "buffer");
+    sim()
+        ->ports()
+        ->addIOPlugin(ProcSimPorts::eDevReg, ProcSimIOPluginIf::eDirectionRd, 0)
+        ->setBaseAddr(0, "PORT_STATUS");
+    sim()
+        ->ports()
+        ->addIOPlugin(ProcSimPorts::eDevMem, ProcSimIOPluginIf::eDirectionRdWr, 0)
+        ->setBaseAddr(0x80, "buffer");
     sim()->showWaveViewer();
     ASSERT_NE(sim()->waveViewer(), nullptr);
     for (int addr = 1; addr < 5; ++addr)
@@ -59,6 +65,7 @@ TEST_P(SimScreenshots, RunningSimulation)
     screenshot("sim-" + name + "-stack");
 }
 
-INSTANTIATE_TEST_SUITE_P(Examples, SimScreenshots, ::testing::Values("uart_monitor", "motor_control", "keypad_lock", "two_pages"));
+INSTANTIATE_TEST_SUITE_P(Examples, SimScreenshots,
+                         ::testing::Values("uart_monitor", "motor_control", "keypad_lock", "two_pages"));
 
 } // namespace

@@ -28,8 +28,8 @@ using nsProc::ProcSimIOPluginIf;
 using nsProc::ProcSimPorts;
 using Data = nsProc::ProcSimWaveData;
 
-/// The first widget of a class whose tool tip begins so that is shown below a parent, such as in the selected bank; null if there
-/// is none.
+/// The first widget of a class whose tool tip begins so that is shown below a parent, such as in the selected bank;
+/// null if there is none.
 template <class Widget>
 Widget* byToolTip(const QWidget* parent, const QString& toolTip)
 {

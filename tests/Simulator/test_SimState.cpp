@@ -3,7 +3,6 @@
 #include "SimWindow.h"
 
 #include "ModalHelper.h"
-#include "QtPrinters.h"
 #include "ProcSimCore.h"
 #include "ProcSimEdtInterrupt.h"
 #include "ProcSimEdtNumeric.h"
@@ -11,6 +10,7 @@
 #include "ProcSimIO.h"
 #include "ProcSimIOPluginIf.h"
 #include "ProcSimStatusBar.h"
+#include "QtPrinters.h"
 
 #include <QLabel>
 #include <QTimer>
@@ -80,8 +80,8 @@ TEST_F(SimState, ProjectThatIsOpenedDuringARunHasNoSimulator)
 
 TEST_F(SimState, InterruptWithAFullCallStackIsReportedOnceAndTheProgramGoesOn)
 {
-    ASSERT_TRUE(start("XPBlze3", {"INT ENABLE", "proc: COMP s0, 30", "JUMP Z, deep", "ADD s0, 1", "CALL proc", "deep: ADD s1, 1",
-                                  "ADD s1, 1", "end: JUMP end", "#ORG ADDR, 0x3FF", "RETI ENABLE"}));
+    ASSERT_TRUE(start("XPBlze3", {"INT ENABLE", "proc: COMP s0, 30", "JUMP Z, deep", "ADD s0, 1", "CALL proc",
+                                  "deep: ADD s1, 1", "ADD s1, 1", "end: JUMP end", "#ORG ADDR, 0x3FF", "RETI ENABLE"}));
     document()->setSimBreakpoint(5);
     trigger(Action::eActionRun);
     ASSERT_EQ(pcLine(), 5);
@@ -247,9 +247,9 @@ TEST_F(SimState, ProgramCounterIsNotTypedInDuringARunOrWithoutAProgram)
 
 TEST_F(SimState, TypedAddressIsOneOfThePageThatTheProgramIsIn)
 {
-    ASSERT_TRUE(start("XPBlze3", {"#SET INSTMEM::PAGECOUNT, 2", "#ORG MEMRANGE, SHARED",
-                                  "common: JUMP common", "#ORG MEMRANGE, PAGE0", "LOAD s0, 1", "LOAD s0, 2",
-                                  "#ORG MEMRANGE, PAGE1", "LOAD s0, 3", "LOAD s0, 4"}))
+    ASSERT_TRUE(start("XPBlze3", {"#SET INSTMEM::PAGECOUNT, 2", "#ORG MEMRANGE, SHARED", "common: JUMP common",
+                                  "#ORG MEMRANGE, PAGE0", "LOAD s0, 1", "LOAD s0, 2", "#ORG MEMRANGE, PAGE1",
+                                  "LOAD s0, 3", "LOAD s0, 4"}))
         << messageTexts().join('\n').toStdString();
     auto* pc = sim()->coreWidget()->findChild<nsProc::ProcSimEdtNumeric*>();
     const auto type = [pc](int addr) {

@@ -8,7 +8,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-/// Runs an action that saves a file in a process of its own, which is killed before the given step of the save, from 0 on.
+/// Runs an action that saves a file in a process of its own, which is killed before the given step of the save, from 0
+/// on.
 /// @param action returns whether it has succeeded, which it must where nothing kills it
 /// @return false: the action came to its end, as the save has fewer steps
 template <class Action>

@@ -14,13 +14,7 @@
 class FakeMsgHook : public ModMsgHookIf
 {
 public:
-    enum eKind_t
-    {
-        kindMessage,
-        kindGroupOpen,
-        kindGroupClose,
-        kindClear
-    };
+    enum eKind_t { kindMessage, kindGroupOpen, kindGroupClose, kindClear };
 
     struct Entry
     {

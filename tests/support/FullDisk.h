@@ -9,7 +9,8 @@
 class FullDisk
 {
 public:
-    explicit FullDisk(rlim_t bytes) : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
+    explicit FullDisk(rlim_t bytes)
+        : m_oldHandler(std::signal(SIGXFSZ, SIG_IGN))
     {
         EXPECT_EQ(getrlimit(RLIMIT_FSIZE, &m_old), 0);
         rlimit limit = m_old;

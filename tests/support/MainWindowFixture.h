@@ -18,7 +18,8 @@
 
 #include <memory>
 
-/// The whole main window with folders of its own for settings and data, for tests of modules in their real surroundings.
+/// The whole main window with folders of its own for settings and data, for tests of modules in their real
+/// surroundings.
 ///
 /// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a
 /// test:

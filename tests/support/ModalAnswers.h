@@ -7,7 +7,8 @@
 #include <functional>
 #include <vector>
 
-/// Answers modal dialogs that come one after the other, each with a function of its own: waits for them without sleeping.
+/// Answers modal dialogs that come one after the other, each with a function of its own: waits for them without
+/// sleeping.
 ///
 /// A dialog that its function leaves open is rejected, and so is each dialog without a function, so that a test can
 /// fail but not hang.

@@ -8,7 +8,8 @@
 class OrdinaryUser
 {
 public:
-    OrdinaryUser() : m_wasRoot(geteuid() == 0)
+    OrdinaryUser()
+        : m_wasRoot(geteuid() == 0)
     {
         if (m_wasRoot) {
             EXPECT_EQ(setresuid(65534, 65534, 0), 0);

@@ -99,7 +99,8 @@ protected:
             }
         }
     }
-    /// Checks that all texts of what is shown can be read, and writes its picture into the folder of screenshots of the build.
+    /// Checks that all texts of what is shown can be read, and writes its picture into the folder of screenshots of the
+    /// build.
     void screenshot(const QString& name)
     {
         const QString dir = QStringLiteral(NALVO_BINARY_DIR "/screenshots");

@@ -26,8 +26,8 @@ inline QString shownText(const QWidget* widget)
     return button != nullptr ? button->text() : QString();
 }
 
-/// Checks every text of the shown widget and its children: it has the room that it asks for, nothing outside of a scrolled area
-/// hides a part of it, and something is painted at its place.
+/// Checks every text of the shown widget and its children: it has the room that it asks for, nothing outside of a
+/// scrolled area hides a part of it, and something is painted at its place.
 /// @return the picture that was checked
 inline QPixmap expectReadable(QWidget* root)
 {
@@ -49,7 +49,8 @@ inline QPixmap expectReadable(QWidget* root)
             scrolls = qobject_cast<QAbstractScrollArea*>(parent->parentWidget()) != nullptr;
         if (scrolls && seen.size() != widget->size())
             continue;
-        EXPECT_TRUE(QRegion(widget->rect()).subtracted(widget->visibleRegion()).isEmpty()) << "hidden in part: " << qPrintable(text);
+        EXPECT_TRUE(QRegion(widget->rect()).subtracted(widget->visibleRegion()).isEmpty())
+            << "hidden in part: " << qPrintable(text);
         const int needed = Qt::mightBeRichText(text) ? widget->minimumSizeHint().width()
                                                      : widget->fontMetrics().size(Qt::TextShowMnemonic, text).width();
         // A line that takes any width shortens its text by itself, with an ellipsis.

@@ -32,9 +32,10 @@ bool BatchOptions::readProject(const QCommandLineParser& parser)
         project = projects.first();
         return true;
     }
-    return wrongUsage(projects.isEmpty() ? QCoreApplication::translate("nsBatch", "No project given.")
-                                         : QCoreApplication::translate("nsBatch", "More than one project given: %1")
-                                               .arg(projects.join(", ")));
+    return wrongUsage(
+        projects.isEmpty()
+            ? QCoreApplication::translate("nsBatch", "No project given.")
+            : QCoreApplication::translate("nsBatch", "More than one project given: %1").arg(projects.join(", ")));
 }
 
 } // namespace nsBatch

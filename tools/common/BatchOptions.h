@@ -10,8 +10,7 @@ namespace nsBatch {
 /// What the command lines of all batch programs have in common: a project, help and version.
 struct BatchOptions
 {
-    enum eParse_t
-    {
+    enum eParse_t {
         parseRun,   ///< go on with the options
         parseEnd,   ///< help or version was shown
         parseWrong, ///< the command line is wrong, which was reported

@@ -20,12 +20,7 @@ namespace {
 using namespace nsBatch;
 using namespace nsNalvoAsm;
 
-enum eExitStatus_t
-{
-    exitAssembled = 0,
-    exitNotAssembled = 1,
-    exitWrongUsage = 2
-};
+enum eExitStatus_t { exitAssembled = 0, exitNotAssembled = 1, exitWrongUsage = 2 };
 
 QString tr(const char* text)
 {
@@ -115,8 +110,7 @@ int run(const AsmOptions& options)
         reports.write(options.symbolsFile, symbolsText);
     }
     // A run that has reported an error counts as failed, even where the assembler could go on.
-    const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 &&
-                         modules.msg.fatalWarnings() == 0;
+    const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 && modules.msg.fatalWarnings() == 0;
     showSummary(modules.msg, options.style, success, modules.asmFe.opcodeList()->count(),
                 modules.asmFe.writtenFiles() + reports.written());
     return success ? exitAssembled : exitNotAssembled;

@@ -17,8 +17,7 @@ namespace nsNalvoSim {
 /// Why a run ended.
 struct SimEnd
 {
-    enum eReason_t
-    {
+    enum eReason_t {
         endInstructions, ///< bound
         endClocks,       ///< bound
         endLabel,

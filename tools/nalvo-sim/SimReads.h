@@ -14,8 +14,7 @@ namespace nsNalvoSim {
 class SimReads
 {
 public:
-    enum eResult_t
-    {
+    enum eResult_t {
         resultValue,
         resultEnd,     ///< there is no further value
         resultFailed,  ///< a line is not a value, or the file can not be read: see failure()

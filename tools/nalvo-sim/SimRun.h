@@ -10,14 +10,7 @@
 
 namespace nsNalvoSim {
 
-enum eExitStatus_t
-{
-    exitReached = 0,
-    exitNotAssembled = 1,
-    exitWrongUsage = 2,
-    exitStopped = 3,
-    exitSignal = 130
-};
+enum eExitStatus_t { exitReached = 0, exitNotAssembled = 1, exitWrongUsage = 2, exitStopped = 3, exitSignal = 130 };
 
 /// One run of a project, from its opening to the files that are left.
 class SimRun

@@ -17,7 +17,8 @@ MyBusyCursor::~MyBusyCursor()
 
 void MyBusyCursor::goesOn()
 {
-    if (m_shown || m_timer.elapsed() < m_delay || qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
+    if (m_shown || m_timer.elapsed() < m_delay ||
+        qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr)
         return;
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_shown = true;

@@ -16,13 +16,7 @@ class MyFontTable : public QTableView
     Q_OBJECT
 
 public:
-    enum eColumn_t
-    {
-        columnContext = 0,
-        columnBold = 1,
-        columnItalic = 2,
-        columnCount = 3
-    };
+    enum eColumn_t { columnContext = 0, columnBold = 1, columnItalic = 2, columnCount = 3 };
 
     explicit MyFontTable(QWidget* parent = nullptr);
 

@@ -16,12 +16,7 @@ class MyNoticeBar : public QFrame
     Q_OBJECT
 
 public:
-    enum eGrade_t
-    {
-        eGradeInfo = 0,
-        eGradeWarning = 1,
-        eGradeError = 2
-    };
+    enum eGrade_t { eGradeInfo = 0, eGradeWarning = 1, eGradeError = 2 };
 
     /// @param text plain text, wrapped where the bar is narrow
     MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent = nullptr);

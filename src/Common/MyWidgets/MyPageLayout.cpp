@@ -9,14 +9,7 @@
 
 namespace {
 
-enum eColumn_t
-{
-    columnTitle = 0,
-    columnField = 1,
-    columnUnit = 2,
-    columnSpace = 3,
-    columnCount = 4
-};
+enum eColumn_t { columnTitle = 0, columnField = 1, columnUnit = 2, columnSpace = 3, columnCount = 4 };
 
 const int pageMargin = 16;
 const int gap = 8;

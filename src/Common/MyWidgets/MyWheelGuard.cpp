@@ -8,7 +8,8 @@ namespace {
 
 bool isBox(const QObject* object)
 {
-    return qobject_cast<const QComboBox*>(object) != nullptr || qobject_cast<const QAbstractSpinBox*>(object) != nullptr;
+    return qobject_cast<const QComboBox*>(object) != nullptr ||
+           qobject_cast<const QAbstractSpinBox*>(object) != nullptr;
 }
 
 } // namespace

@@ -13,8 +13,7 @@ class TextCompareSide : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    enum eRow_t
-    {
+    enum eRow_t {
         eRowEqual = 0,
         eRowChanged = 1,
         eRowOnlyHere = 2,

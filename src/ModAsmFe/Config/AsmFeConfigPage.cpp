@@ -95,8 +95,9 @@ void AsmFeConfigPage::addBehavior()
     m_layout->addField(tr("Equations overwrite behavior:"), m_behaviorEqu, tr("What a second #EQU of a name does"));
     m_layout->addField(tr("Settings overwrite behavior:"), m_behaviorSet,
                        tr("What a #SET does that differs from the settings in this dialog"));
-    m_layout->addField(tr("Check interrupt vector behavior:"), m_behaviorIntVector,
-                       tr("What a run does when no instruction stands at the interrupt vector; not stored in the project"));
+    m_layout->addField(
+        tr("Check interrupt vector behavior:"), m_behaviorIntVector,
+        tr("What a run does when no instruction stands at the interrupt vector; not stored in the project"));
 }
 
 void AsmFeConfigPage::addCharset()
@@ -110,7 +111,8 @@ void AsmFeConfigPage::addCharset()
                 {tr("Use default charset without warning"), AsmFeConfig::charsetSilent}});
     m_layout->addSection(tr("Character set"));
     m_layout->addField(tr("Default character set:"), m_defaultCharset, tr("Character set of texts that name none"));
-    m_layout->addField(tr("Default charset behavior:"), m_behaviorCharset, tr("What a text does that names no character set"));
+    m_layout->addField(tr("Default charset behavior:"), m_behaviorCharset,
+                       tr("What a text does that names no character set"));
 }
 
 void AsmFeConfigPage::addOutputs()

@@ -55,9 +55,10 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     for (int event = 0; event < eventCount; ++event)
         m_layout->setColumnMinimumWidth(event + 1, 96);
     m_layout->setColumnStretch(eventCount + 1, 1);
-    m_hint = new QLabel(tr("Grey: this output is off. Its events only warn that no file is defined, unless a device of the "
-                           "sources has a file of this kind."),
-                        this);
+    m_hint =
+        new QLabel(tr("Grey: this output is off. Its events only warn that no file is defined, unless a device of the "
+                      "sources has a file of this kind."),
+                   this);
     m_hint->setObjectName(QStringLiteral("targetEventsHint"));
     m_hint->setWordWrap(true);
     m_layout->addWidget(m_hint, targetCount + 1, 0, 1, eventCount + 2);

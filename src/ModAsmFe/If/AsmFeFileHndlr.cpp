@@ -5,7 +5,10 @@
 
 namespace nsModAsmFe {
 
-AsmFeFileHndlr::AsmFeFileHndlr(QObject* parent) : QObject(parent) {}
+AsmFeFileHndlr::AsmFeFileHndlr(QObject* parent)
+    : QObject(parent)
+{
+}
 
 void AsmFeFileHndlr::setPrjDir(QString dir)
 {

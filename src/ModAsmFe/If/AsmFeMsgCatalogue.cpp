@@ -7,7 +7,10 @@ namespace nsModAsmFe {
 namespace {
 
 // The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text) {#key, QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)}
+#define NALVO_MSG(key, text)                                                                                           \
+    {                                                                                                                  \
+#key, QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)                                                     \
+    }
 
 /// Indexed by eMsgType_t.
 const sMsgText_t msgTexts[eMsgTypeCount] = {
@@ -88,9 +91,12 @@ const sMsgText_t msgTexts[eMsgTypeCount] = {
     NALVO_MSG(errIODevExpectDevList, "Expecting device list."),
     NALVO_MSG(errIODevAddrExceedsDevSize, "Address %1 exceeds IODev size of %2."),
     NALVO_MSG(errIODevExpectInstMemRange, "Expecting memory range."),
-    NALVO_MSG(errIODevRangeStartAddrOutsideOfInstMem, "Instruction memory address range start value %1 is outside of the instruction memory range 0 to %2."),
-    NALVO_MSG(errIODevRangeStopAddrOutsideOfInstMem, "Instruction memory address range stop value %1 is outside of the instruction memory range0 to %2."),
-    NALVO_MSG(errIODevInstMemRangeExceedsIODeviceRange, "Instruction memory range address of %1 exceeds IO device size of %2."),
+    NALVO_MSG(errIODevRangeStartAddrOutsideOfInstMem,
+              "Instruction memory address range start value %1 is outside of the instruction memory range 0 to %2."),
+    NALVO_MSG(errIODevRangeStopAddrOutsideOfInstMem,
+              "Instruction memory address range stop value %1 is outside of the instruction memory range0 to %2."),
+    NALVO_MSG(errIODevInstMemRangeExceedsIODeviceRange,
+              "Instruction memory range address of %1 exceeds IO device size of %2."),
     NALVO_MSG(errIODevUnsupportedBitRange, "Unsupported bit range: %1."),
     NALVO_MSG(errIODevMissingEntityName, "Missing %1 entity name for IO device %2."),
     NALVO_MSG(errIODevMissingTemplateFile, "Missing %1 template file for IO device %2."),

@@ -37,7 +37,11 @@ ModMsgHookIf::eMsgType_t grade(const char* key)
 
 } // namespace
 
-AsmFeMsgHndlr::AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent) : QObject(parent), m_fileHndlr(fileHndlr) {}
+AsmFeMsgHndlr::AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent)
+    : QObject(parent)
+    , m_fileHndlr(fileHndlr)
+{
+}
 
 void AsmFeMsgHndlr::signMsg(eMsgType_t type, const SrcReference* srcRef, QString arg1, QString arg2, QString arg3)
 {

@@ -33,8 +33,9 @@ public:
     void signInternalError(QString text);
     /// Shows a message of the catalogue, for those who report through a hook of their own.
     /// @param hook may be null: nothing is shown then
-    static void showMsg(ModMsgHookIf* hook, eMsgType_t type, const nsModMsg::MsgUrl& link, const QString& arg1 = QString(),
-                        const QString& arg2 = QString(), const QString& arg3 = QString());
+    static void showMsg(ModMsgHookIf* hook, eMsgType_t type, const nsModMsg::MsgUrl& link,
+                        const QString& arg1 = QString(), const QString& arg2 = QString(),
+                        const QString& arg3 = QString());
 
     /// The link to a position, with the relative path and the line as its display name.
     nsModMsg::MsgUrl srcUrl(const SrcReference& srcRef) const;

@@ -61,7 +61,11 @@ bool isBinaryMark(const QString& text, int pos)
 
 } // namespace
 
-AsmFeParseArg::AsmFeParseArg(AsmFeMsgHndlr* msgHndlr, QObject* parent) : QObject(parent), m_msgHndlr(msgHndlr) {}
+AsmFeParseArg::AsmFeParseArg(AsmFeMsgHndlr* msgHndlr, QObject* parent)
+    : QObject(parent)
+    , m_msgHndlr(msgHndlr)
+{
+}
 
 bool AsmFeParseArg::isNumeric(const QString& text)
 {

@@ -19,8 +19,8 @@ public:
     /// Does the text look like a number? Accepts more forms than toNumeric() can convert, as such texts are not valid
     /// names either.
     static bool isNumeric(const QString& text);
-    /// The value of a literal in 32 bits. A form without a conversion is reported and gives 0; a value that does not fit, or
-    /// more than one sign, gives 0 silently.
+    /// The value of a literal in 32 bits. A form without a conversion is reported and gives 0; a value that does not
+    /// fit, or more than one sign, gives 0 silently.
     int toNumeric(const QString& text) const;
     /// Cuts `ns::name` at the last "::" that has no white space before it.
     /// @return false, with nothing changed, if there is no such prefix

@@ -140,10 +140,10 @@ bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const sTarget_t& target, 
         const char* prefix;
         const QString& text;
     } tags[] = {
-        {"{ENTITYNAME", target.entityName},          {"{TIMESTAMP", metaTags.dateTime},
-        {"{PROJECTTITLE", metaTags.prjTitle},        {"{PROJECTCOMMENT", metaTags.prjComment},
-        {"{PROJECTVERSION", metaTags.prjVersion},    {"{PROJECTPATH", metaTags.prjPath},
-        {"{PROJECTFILENAME", metaTags.prjFileName},  {"{NAME", target.entityName},
+        {"{ENTITYNAME", target.entityName},         {"{TIMESTAMP", metaTags.dateTime},
+        {"{PROJECTTITLE", metaTags.prjTitle},       {"{PROJECTCOMMENT", metaTags.prjComment},
+        {"{PROJECTVERSION", metaTags.prjVersion},   {"{PROJECTPATH", metaTags.prjPath},
+        {"{PROJECTFILENAME", metaTags.prjFileName}, {"{NAME", target.entityName},
         {"{PSMNAME", metaTags.prjFileName},
     };
     for (const auto& tag : tags) {

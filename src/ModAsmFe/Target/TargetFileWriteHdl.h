@@ -8,7 +8,8 @@ namespace nsModAsmFe {
 
 struct MetaTags;
 
-/// Fills an HDL template with a device's contents. VHDL and Verilog differ in nothing but words and in the fields of the device.
+/// Fills an HDL template with a device's contents. VHDL and Verilog differ in nothing but words and in the fields of
+/// the device.
 ///
 /// A template starts after the line with "{BEGIN TEMPLATE}". Its text is copied byte for byte, except for placeholders:
 /// each line can have one of each kind of block, and one text about the project. The template must use every cell of

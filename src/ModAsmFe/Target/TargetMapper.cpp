@@ -29,7 +29,10 @@ bool openOutput(QFile* output)
 
 } // namespace
 
-TargetMapper::TargetMapper(QObject* parent) : QObject(parent) {}
+TargetMapper::TargetMapper(QObject* parent)
+    : QObject(parent)
+{
+}
 
 bool TargetMapper::fail(eMsgType_t type, const QString& arg1, const QString& arg2)
 {

@@ -12,8 +12,8 @@ namespace nsModAsmFe {
 
 class IODev;
 
-/// What all writers of output files have in common: their way to report, and the file itself. They report through the message
-/// service that they are registered with, and in silence without one.
+/// What all writers of output files have in common: their way to report, and the file itself. They report through the
+/// message service that they are registered with, and in silence without one.
 class TargetMapper : public QObject, public ModMsgPluginIf
 {
     Q_OBJECT

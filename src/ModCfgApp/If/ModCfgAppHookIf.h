@@ -9,7 +9,8 @@
 class ModCfgAppPluginIf;
 class ModCfgAppPluginIfInterMod;
 
-/// The per-user settings of the application, as strings under keys such as "ModGui/width". Served by nsModCfgApp::ModCfgApp.
+/// The per-user settings of the application, as strings under keys such as "ModGui/width". Served by
+/// nsModCfgApp::ModCfgApp.
 ///
 /// Every getter takes a key and the value to answer when the key does not exist; a getter never creates a key. The
 /// settings can be read in modInitIntermod() of the modules that follow the server in the module list; clients get them

@@ -6,8 +6,8 @@ namespace nsModConfig {
 class ModConfigPagePluginIf;
 }
 
-/// A client with pages in the settings dialog, called in this order: configPageCnt(), configPage(), configPageSetConfig(); on
-/// apply configPageCloseRequest(); configPageClose(); configPagesClosed().
+/// A client with pages in the settings dialog, called in this order: configPageCnt(), configPage(),
+/// configPageSetConfig(); on apply configPageCloseRequest(); configPageClose(); configPagesClosed().
 class ModConfigPluginIf
 {
 public:

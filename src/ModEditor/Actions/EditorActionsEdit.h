@@ -15,8 +15,7 @@ class EditorActionsEdit : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
+    enum eAction_t {
         eActionUndo = 0,
         eActionRedo = 1,
         eActionIndent = 2,

@@ -12,8 +12,7 @@ class EditorActionsFile : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
+    enum eAction_t {
         eActionNew = 0,
         eActionOpen = 1,
         eActionSaveAll = 2,

@@ -11,11 +11,7 @@ class EditorActionsSim : public QActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t
-    {
-        eActionClearBreakpoints = 0,
-        eActionClearStartPointer = 1
-    };
+    enum eAction_t { eActionClearBreakpoints = 0, eActionClearStartPointer = 1 };
 
     explicit EditorActionsSim(QObject* parent);
 

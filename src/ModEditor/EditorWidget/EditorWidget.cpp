@@ -442,7 +442,8 @@ void EditorWidget::resizeEvent(QResizeEvent* event)
     QPlainTextEdit::resizeEvent(event);
     layoutNotices();
     const QRect rect = contentsRect();
-    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(), rect.height() - m_noticeHeight);
+    m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(),
+                              rect.height() - m_noticeHeight);
 }
 
 void EditorWidget::contextMenuEvent(QContextMenuEvent* event)
@@ -453,6 +454,6 @@ void EditorWidget::contextMenuEvent(QContextMenuEvent* event)
     m_supportMenu->showMenu(menu, event->globalPos());
     // The document may have been closed meanwhile, and the menu with it.
     delete menu;
-    }
+}
 
 } // namespace nsModEditor

@@ -40,12 +40,7 @@ class EditorWidget : public QPlainTextEdit
 
 public:
     /// Where a search begins.
-    enum eFindOrigin_t
-    {
-        eFindOriginStart = 0,
-        eFindOriginCursor = 1,
-        eFindOriginEnd = 2
-    };
+    enum eFindOrigin_t { eFindOriginStart = 0, eFindOriginCursor = 1, eFindOriginEnd = 2 };
 
     explicit EditorWidget(QWidget* parent = nullptr);
     ~EditorWidget() override;

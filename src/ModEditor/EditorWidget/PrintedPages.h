@@ -21,12 +21,12 @@ namespace nsModEditor {
 struct sPrintJob
 {
     const QTextDocument* document = nullptr;
-    QString name;       ///< of the file, for the head of the pages
-    QDateTime time;     ///< for the head of the pages
-    QFont font;         ///< of the text, in points
-    int tabIndent = 4;  ///< characters
-    int start = 0;      ///< first position that is printed
-    int end = 0;        ///< the position after the last one
+    QString name;      ///< of the file, for the head of the pages
+    QDateTime time;    ///< for the head of the pages
+    QFont font;        ///< of the text, in points
+    int tabIndent = 4; ///< characters
+    int start = 0;     ///< first position that is printed
+    int end = 0;       ///< the position after the last one
 };
 
 /// A document, or a part of it, on pages: lines with their numbers in the document, long ones in several rows, with a
@@ -40,7 +40,7 @@ public:
         int page = 0;   ///< counted from 0
         int number = 0; ///< of the line, counted from 1; 0 for the further rows of a line
         QString text;
-        QRectF rect;    ///< what the text takes, in pixels of the device
+        QRectF rect; ///< what the text takes, in pixels of the device
     };
 
     /// @param device what the pages are painted on; it gives the resolution

@@ -4,7 +4,11 @@
 
 namespace nsModEditor {
 
-EditorMemPageAddrMap::EditorMemPageAddrMap(QStringList* files) : m_files(*files), m_fileMaps(files->size()) {}
+EditorMemPageAddrMap::EditorMemPageAddrMap(QStringList* files)
+    : m_files(*files)
+    , m_fileMaps(files->size())
+{
+}
 
 EditorMemPageAddrMap::~EditorMemPageAddrMap()
 {

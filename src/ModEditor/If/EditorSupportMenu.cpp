@@ -35,7 +35,8 @@ bool templateText(const QString& path, QString* text)
 
 } // namespace
 
-EditorSupportMenu::EditorSupportMenu(QObject* parent) : EditorSupportMenuNode(QString(), parent)
+EditorSupportMenu::EditorSupportMenu(QObject* parent)
+    : EditorSupportMenuNode(QString(), parent)
 {
     menu = new QMenu(tr("Insert..."));
     // Entries of sub menus report through the menu that they are shown from.

@@ -17,7 +17,9 @@ bool sortAsc(const EditorSupportMenuNode* a, const EditorSupportMenuNode* b)
 
 } // namespace
 
-EditorSupportMenuNode::EditorSupportMenuNode(const QString& nodeName, QObject* parent) : QObject(parent), name(nodeName)
+EditorSupportMenuNode::EditorSupportMenuNode(const QString& nodeName, QObject* parent)
+    : QObject(parent)
+    , name(nodeName)
 {
 }
 
@@ -51,8 +53,7 @@ EditorSupportMenuNode* EditorSupportMenuNode::addChild(const QString& childName,
     }
     if (sortEn && !m_sorted)
         sort();
-    const auto place =
-        sortEn ? std::upper_bound(children.begin(), children.end(), added, sortAsc) : children.end();
+    const auto place = sortEn ? std::upper_bound(children.begin(), children.end(), added, sortAsc) : children.end();
     EditorSupportMenuNode* before = place == children.end() ? nullptr : *place;
     m_sorted = m_sorted && (sortEn || children.isEmpty() || !sortAsc(added, children.last()));
     children.insert(place, added);

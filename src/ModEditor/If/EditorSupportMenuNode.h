@@ -38,8 +38,8 @@ public:
 
     eType_t type = typeMenu;
     QString name;
-    QString data;             ///< text to insert, or path of the template file
-    QMenu* menu = nullptr;    ///< sub menu of an inner node; owned
+    QString data;              ///< text to insert, or path of the template file
+    QMenu* menu = nullptr;     ///< sub menu of an inner node; owned
     QAction* action = nullptr; ///< entry of a leaf; owned
     bool sortEn = true;
     QList<EditorSupportMenuNode*> children; ///< owned

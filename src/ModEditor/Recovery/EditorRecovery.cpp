@@ -10,7 +10,8 @@ namespace {
 
 const int lookDelay = 3000; ///< milliseconds: what a kill can cost
 
-/// Characters of a text that is compared as a whole. Of a larger one, whose copy would be felt, the revision is compared.
+/// Characters of a text that is compared as a whole. Of a larger one, whose copy would be felt, the revision is
+/// compared.
 const int maxComparedLength = 4 * 1024 * 1024;
 
 bool isLarge(EditorWidget* widget)
@@ -20,7 +21,8 @@ bool isLarge(EditorWidget* widget)
 
 } // namespace
 
-EditorRecovery::EditorRecovery(QObject* parent) : QObject(parent)
+EditorRecovery::EditorRecovery(QObject* parent)
+    : QObject(parent)
 {
     m_pool.setMaxThreadCount(1);
     m_timer.setInterval(lookDelay);
@@ -69,7 +71,8 @@ void EditorRecovery::removeEntry(State* state)
     *state = State();
 }
 
-/// While a document keeps its text, so does its entry. A text edit whose undo step is still open counts no revisions, so the text itself decides as long as that is cheap.
+/// While a document keeps its text, so does its entry. A text edit whose undo step is still open counts no revisions,
+/// so the text itself decides as long as that is cheap.
 bool EditorRecovery::hasChanged(EditorWidget* widget, const State& state) const
 {
     if (!state.hasEntry || state.isStale)
@@ -113,7 +116,8 @@ void EditorRecovery::write(EditorWidget* widget, State* state, RecoveryStore::eK
         if (error != nullptr)
             *error = result.isEmpty() ? reason : QString();
         else
-            QMetaObject::invokeMethod(this, [this, reason, done = !result.isEmpty()] { report(done ? QString() : reason); });
+            QMetaObject::invokeMethod(this,
+                                      [this, reason, done = !result.isEmpty()] { report(done ? QString() : reason); });
     });
     if (kind == RecoveryStore::eKindDropped)
         prune();

@@ -14,10 +14,11 @@ namespace nsModEditor {
 
 class EditorWidget;
 
-/// Keeps the texts of changed documents in the RecoveryStore, some seconds behind what the user types, and what a close drops.
+/// Keeps the texts of changed documents in the RecoveryStore, some seconds behind what the user types, and what a close
+/// drops.
 ///
-/// The only part of the window that has a thread of its own: it writes there, one job after the other, and the jobs hold values
-/// only. All operations are called from the thread of the window.
+/// The only part of the window that has a thread of its own: it writes there, one job after the other, and the jobs
+/// hold values only. All operations are called from the thread of the window.
 class EditorRecovery : public QObject
 {
     Q_OBJECT

@@ -14,13 +14,7 @@ namespace nsModEditor {
 
 namespace {
 
-enum eColumn_t
-{
-    eColumnDocument,
-    eColumnTime,
-    eColumnReason,
-    eColumnFolder
-};
+enum eColumn_t { eColumnDocument, eColumnTime, eColumnReason, eColumnFolder };
 
 const int idRole = Qt::UserRole;
 const QSize startSize(760, 360);

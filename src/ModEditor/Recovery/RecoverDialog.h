@@ -10,8 +10,8 @@ class QTreeWidget;
 
 namespace nsModEditor {
 
-/// The texts that were kept, the newest first. What is done with one of them is left to whoever shows the dialog; only deleting is
-/// done here, after a question.
+/// The texts that were kept, the newest first. What is done with one of them is left to whoever shows the dialog; only
+/// deleting is done here, after a question.
 class RecoverDialog : public QDialog
 {
     Q_OBJECT

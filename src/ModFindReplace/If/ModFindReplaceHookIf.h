@@ -11,7 +11,8 @@ class ModFindReplaceHookIf
 public:
     virtual ~ModFindReplaceHookIf() = default;
 
-    /// Routes find and replace to the plug-in while the widget is current. Neither is owned; a known widget is replaced.
+    /// Routes find and replace to the plug-in while the widget is current. Neither is owned; a known widget is
+    /// replaced.
     /// @param features what the widget can do: bit 0 replace, bit 1 search for whole words
     virtual void registerPluginWidget(ModFindReplacePluginIf* plugin, QWidget* widget, int features) = 0;
     virtual void unregisterPluginWidget(QWidget* widget) = 0;

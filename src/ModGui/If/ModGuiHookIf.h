@@ -10,8 +10,8 @@ class QWidget;
 
 /// The nine areas of the main window, its title and its status bar. Served by nsModGui::ModGui.
 ///
-/// A module never places a widget itself: it names a location. Widgets stay in the ownership of the module that made them; null
-/// widgets and bad locations do nothing and answer null or false.
+/// A module never places a widget itself: it names a location. Widgets stay in the ownership of the module that made
+/// them; null widgets and bad locations do nothing and answer null or false.
 class ModGuiHookIf
 {
 public:

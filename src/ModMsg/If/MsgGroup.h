@@ -10,8 +10,7 @@ class MsgGroup
 {
 public:
     /// What happens to the messages of earlier actions.
-    enum eEarlier_t
-    {
+    enum eEarlier_t {
         eClearEarlier, ///< the view is cleared first, unless this action is part of another one that has a group open
         eKeepEarlier
     };

@@ -12,8 +12,8 @@ public:
     virtual void prjOpen() = 0;
     /// All clients have read their keys.
     virtual void prjOpened() = 0;
-    /// The project is going to be saved and closed, and is still all there: save what belongs to it, ask the user what has to be
-    /// asked.
+    /// The project is going to be saved and closed, and is still all there: save what belongs to it, ask the user what
+    /// has to be asked.
     virtual void prjAboutToClose() {}
     /// The project is about to be written: write your own keys.
     virtual void prjSave() = 0;

@@ -6,9 +6,9 @@ const sDecoder& mico8Decoder()
 {
     static const sDecoder decoder = {
         &mico8(),
-        5, // bits of a register
-        5, // of a port: what lies above belongs to the register
-        5, // of a scratchpad address, likewise
+        5,  // bits of a register
+        5,  // of a port: what lies above belongs to the register
+        5,  // of a scratchpad address, likewise
         12, // of a distance
         {
             {0x3E007, 0x00000, "SUB {r8}, {r3}"},

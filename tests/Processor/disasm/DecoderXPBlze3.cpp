@@ -1,14 +1,15 @@
 #include "Disassembler.h"
 
 // Bits that hold nothing, and that are 0 in canonical words: the lowest four of a register form, the upper two of
-// a scratchpad address, bits 4 to 7 of a shift, bits 10 and 11 of a jump without a condition, all below the condition of a RET.
+// a scratchpad address, bits 4 to 7 of a shift, bits 10 and 11 of a jump without a condition, all below the condition
+// of a RET.
 const sDecoder& picoBlaze3Decoder()
 {
     static const sDecoder decoder = {
         &picoBlaze3(),
-        4, // bits of a register
-        8, // of a port
-        6, // of a scratchpad address
+        4,  // bits of a register
+        8,  // of a port
+        6,  // of a scratchpad address
         10, // of a target
         {
             {0x3F000, 0x00000, "LOAD {r8}, {k0}"},

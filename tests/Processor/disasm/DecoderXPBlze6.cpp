@@ -6,9 +6,9 @@ const sDecoder& picoBlaze6Decoder()
 {
     static const sDecoder decoder = {
         &picoBlaze6(),
-        4, // bits of a register
-        8, // of a port
-        8, // of a scratchpad address
+        4,  // bits of a register
+        8,  // of a port
+        8,  // of a scratchpad address
         12, // of a target
         {
             {0x3F00F, 0x00000, "LOAD {r8}, {r4}"},

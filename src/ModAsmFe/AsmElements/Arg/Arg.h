@@ -37,11 +37,11 @@ public:
         dispName = own;
     }
 
-    QString nameSpace;             ///< namespace in which `name` is looked up
-    QString dispName;              ///< the text as written
-    QString name;                  ///< the working text: attributes, ranges, parentheses and prefix are taken off step by step
-    QString strValue;              ///< text of a string without quotes and escapes; name of a register
-    QByteArray barrValue;          ///< the string in its character set
+    QString nameSpace;    ///< namespace in which `name` is looked up
+    QString dispName;     ///< the text as written
+    QString name;         ///< the working text: attributes, ranges, parentheses and prefix are taken off step by step
+    QString strValue;     ///< text of a string without quotes and escapes; name of a register
+    QByteArray barrValue; ///< the string in its character set
     Opcode* labelOpcode = nullptr; ///< for a label the first instruction at or after it; not owned
     int iValue = 0;                ///< value of a numeric, number of a register or a bank
     eArgType_t type = unset;

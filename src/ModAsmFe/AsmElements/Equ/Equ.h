@@ -12,7 +12,11 @@ namespace nsModAsmFe {
 class Equ
 {
 public:
-    Equ() : arg(&m_arg), argExt(&m_argExt) {}
+    Equ()
+        : arg(&m_arg)
+        , argExt(&m_argExt)
+    {
+    }
     Equ(const Equ&) = delete;
     Equ& operator=(const Equ&) = delete;
 
@@ -21,9 +25,9 @@ public:
     Equ* prev = nullptr;
     bool used = false; ///< an argument, an expression or another `#EQU` refers to it
     QString nameSpace;
-    QString name;         ///< case as written
-    Arg* const arg;       ///< owned; the value, of type `unset` until it is checked
-    ArgExt* const argExt; ///< owned
+    QString name;          ///< case as written
+    Arg* const arg;        ///< owned; the value, of type `unset` until it is checked
+    ArgExt* const argExt;  ///< owned
     bool prepared = false; ///< parentheses and prefix have been taken off the value
 
 private:

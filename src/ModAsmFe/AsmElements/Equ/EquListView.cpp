@@ -28,8 +28,8 @@ EquListView::EquListView(QWidget* parent)
     numberFont.setPointSizeF(font().pointSizeF());
     m_model->setNumberFont(numberFont);
 
-    auto* note = new QLabel(
-        tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
+    auto* note =
+        new QLabel(tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
     note->setWordWrap(true);
     note->setMargin(8);
 

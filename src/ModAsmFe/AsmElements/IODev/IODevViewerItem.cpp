@@ -13,12 +13,14 @@ namespace nsModAsmFe {
 
 namespace {
 
-const int groupSize = 8;  // cells without a wider gap between them
+const int groupSize = 8; // cells without a wider gap between them
 const int maxColumns = 256;
 
 } // namespace
 
-IODevViewerItem::IODevViewerItem(IODev* dev, QWidget* parent) : QWidget(parent), m_dev(dev)
+IODevViewerItem::IODevViewerItem(IODev* dev, QWidget* parent)
+    : QWidget(parent)
+    , m_dev(dev)
 {
     setObjectName("ioDevViewerItem");
     setMouseTracking(true);
@@ -134,7 +136,8 @@ void IODevViewerItem::paintRow(QPainter* painter, int row) const
     QColor second = palette().color(QPalette::WindowText);
     second.setAlphaF(0.7);
     painter->setPen(second);
-    painter->drawText(QRect(0, row * m_pitch, m_gutter, m_cell), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip, address);
+    painter->drawText(QRect(0, row * m_pitch, m_gutter, m_cell), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
+                      address);
     for (int addr = first; addr < end; ++addr)
         painter->fillRect(cellRect(addr), m_config.color(kindOf(addr)));
 }

@@ -21,7 +21,8 @@ const qint64 maxMapHeight = 12000000;
 
 } // namespace
 
-IODevViewerList::IODevViewerList(QWidget* parent) : QWidget(parent)
+IODevViewerList::IODevViewerList(QWidget* parent)
+    : QWidget(parent)
 {
     setObjectName("ioDevViewerList");
     m_legend = setupLegend();
@@ -32,7 +33,8 @@ IODevViewerList::IODevViewerList(QWidget* parent) : QWidget(parent)
     m_content = new QWidget;
     m_content->setObjectName("ioDevViewerContent");
     m_scroll->setWidget(m_content);
-    m_note = new QLabel(tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
+    m_note =
+        new QLabel(tr("<strong>Note:</strong><p>This list will be updated after each run of the assembler.</p>"), this);
     m_note->setWordWrap(true);
     m_note->setMargin(margin);
 

@@ -87,7 +87,7 @@ private:
     QList<sViewerElements_t> m_elements;
     bool m_built = false;
     QStringList m_lastDevices; ///< names and sizes of the last content
-    int m_scrolled = 0; ///< position of the last content: the next run shows the same place
+    int m_scrolled = 0;        ///< position of the last content: the next run shows the same place
 };
 
 } // namespace nsModAsmFe

@@ -8,7 +8,11 @@ const size_t objectsPerBlock = 1024;
 
 } // namespace
 
-BlockPool::BlockPool(size_t objectSize, size_t alignment) : m_objectSize(objectSize), m_alignment(alignment) {}
+BlockPool::BlockPool(size_t objectSize, size_t alignment)
+    : m_objectSize(objectSize)
+    , m_alignment(alignment)
+{
+}
 
 BlockPool::~BlockPool()
 {

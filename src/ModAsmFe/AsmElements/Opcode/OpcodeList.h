@@ -59,7 +59,7 @@ private:
 
     std::vector<Opcode*> m_opcodes;
     std::vector<OpcodeListWatch*> m_watches; ///< not owned
-    bool m_ascending = true; ///< positions ascend, as they do in every run
+    bool m_ascending = true;                 ///< positions ascend, as they do in every run
 
     mutable bool m_indexed = false;
     mutable qint64 m_rangeStride = 0; ///< one more than the highest address: makes range and address one key

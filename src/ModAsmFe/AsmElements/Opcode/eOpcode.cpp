@@ -14,14 +14,14 @@ struct sOpcodeName_t
 
 /// Indexed by eOpcode_t.
 const sOpcodeName_t opcodeNames[ocCount] = {
-    {"", "undefined"},        {"ADD", "add"},     {"ADDC", "addc"},   {"AND", "and"},         {"CALL", "call"},
-    {"CLR", "clr"},           {"COMP", "comp"},   {"COMPC", "compC"}, {"INT", "int"},         {"HWBUILD", "hwbld"},
-    {"JUMP", "jump"},         {"LOAD", "load"},   {"LOADRET", "loadRet"}, {"NOP", "nop"},     {"OR", "or"},
-    {"RDMEM", "rdMem"},       {"RDPRT", "rdPrt"}, {"REGBANK", "regBank"}, {"RET", "ret"},     {"RETI", "reti"},
-    {"ROL", "rl"},            {"ROLC", "rlc"},    {"ROR", "rr"},      {"RORC", "rrc"},        {"SET", "set"},
-    {"SL0", "sl0"},           {"SL1", "sl1"},     {"SLX", "slX"},     {"SR0", "sr0"},         {"SR1", "sr1"},
-    {"SRX", "srX"},           {"STAR", "star"},   {"WRMEM", "wrMem"}, {"WRPRT", "wrPrt"},     {"SUB", "sub"},
-    {"SUBC", "subc"},         {"TEST", "test"},   {"TESTC", "testC"}, {"XOR", "xor"},
+    {"", "undefined"},  {"ADD", "add"},     {"ADDC", "addc"},       {"AND", "and"},     {"CALL", "call"},
+    {"CLR", "clr"},     {"COMP", "comp"},   {"COMPC", "compC"},     {"INT", "int"},     {"HWBUILD", "hwbld"},
+    {"JUMP", "jump"},   {"LOAD", "load"},   {"LOADRET", "loadRet"}, {"NOP", "nop"},     {"OR", "or"},
+    {"RDMEM", "rdMem"}, {"RDPRT", "rdPrt"}, {"REGBANK", "regBank"}, {"RET", "ret"},     {"RETI", "reti"},
+    {"ROL", "rl"},      {"ROLC", "rlc"},    {"ROR", "rr"},          {"RORC", "rrc"},    {"SET", "set"},
+    {"SL0", "sl0"},     {"SL1", "sl1"},     {"SLX", "slX"},         {"SR0", "sr0"},     {"SR1", "sr1"},
+    {"SRX", "srX"},     {"STAR", "star"},   {"WRMEM", "wrMem"},     {"WRPRT", "wrPrt"}, {"SUB", "sub"},
+    {"SUBC", "subc"},   {"TEST", "test"},   {"TESTC", "testC"},     {"XOR", "xor"},
 };
 
 } // namespace

@@ -27,7 +27,7 @@ public:
     QString nameSpaceUpper;
     QString nameUpper;
     int valueType = valueUnset;
-    QString value; ///< as written
+    QString value;  ///< as written
     int iValue = 0; ///< the value when it is numeric
 };
 

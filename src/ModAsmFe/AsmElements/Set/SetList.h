@@ -28,10 +28,7 @@ public:
         return find(nameSpace, nameUpper) != nullptr;
     }
     /// The first such parameter, or null.
-    Set* find(const QString& nameSpace, const QString& nameUpper) const
-    {
-        return m_byName.find(nameSpace, nameUpper);
-    }
+    Set* find(const QString& nameSpace, const QString& nameUpper) const { return m_byName.find(nameSpace, nameUpper); }
 
     /// All `VALUE` parameters of a namespace, in order.
     QVector<Set*> values(const QString& nameSpace) const { return m_values.value(nameSpace); }

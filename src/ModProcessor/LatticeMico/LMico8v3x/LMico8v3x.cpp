@@ -1,13 +1,14 @@
 #include "LMico8v3x.h"
 
-#include "LMico8v3xConfigWidget.h"
 #include "LMico8v3xAsmBe.h"
+#include "LMico8v3xConfigWidget.h"
 #include "LMico8v3xSim.h"
 #include "LMicoActionsSim.h"
 
 namespace nsLMico8v3x {
 
-LMico8v3x::LMico8v3x(QObject* parent) : ProcShell(this, parent)
+LMico8v3x::LMico8v3x(QObject* parent)
+    : ProcShell(this, parent)
 {
     setSettings(defaultConfig());
 }

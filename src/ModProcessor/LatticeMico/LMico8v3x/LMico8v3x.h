@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ProcShell.h"
 #include "LMico8v3xConfig.h"
+#include "ProcShell.h"
 
 namespace nsLMico8v3x {
 

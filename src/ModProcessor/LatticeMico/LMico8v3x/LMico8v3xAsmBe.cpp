@@ -11,8 +11,8 @@ namespace {
 using namespace nsModAsmFe;
 using namespace nsProc;
 
-/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC, or C and Z, or DISABLE,
-/// ENABLE.
+/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC, or C and Z, or
+/// DISABLE, ENABLE.
 const QVector<sInstr_t>& instrs()
 {
     static const QVector<sInstr_t> table = {
@@ -51,7 +51,8 @@ const int smallestScrpdSize = 32;
 
 } // namespace
 
-LMico8v3xAsmBe::LMico8v3xAsmBe(QObject* parent) : ProcAsmBe(&instrs(), layout, "LMico8v3xAsmBeMessages", parent)
+LMico8v3xAsmBe::LMico8v3xAsmBe(QObject* parent)
+    : ProcAsmBe(&instrs(), layout, "LMico8v3xAsmBeMessages", parent)
 {
     for (int number = 0; number < 32; ++number)
         m_regs.insert('r' + QString::number(number), number);

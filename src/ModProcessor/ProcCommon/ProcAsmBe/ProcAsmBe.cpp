@@ -19,7 +19,9 @@ using namespace nsModAsmFe;
 
 ProcAsmBe::ProcAsmBe(const QVector<sInstr_t>* instrs, const sInstrLayout_t& layout, const QString& helpPage,
                      QObject* parent)
-    : QObject(parent), m_layout(layout), m_helpPage(helpPage)
+    : QObject(parent)
+    , m_layout(layout)
+    , m_helpPage(helpPage)
 {
     for (const sInstr_t& instr : *instrs)
         m_instrOf[instr.opcode] = &instr;
@@ -175,9 +177,8 @@ void ProcAsmBe::signMsg(eAsmMsg_t type, const SrcReference* srcRef, const QStrin
         text = text.arg(arg);
     QUrl help("pageid://" + m_helpPage);
     help.setFragment(QString::fromLatin1(msg->key));
-    const nsModMsg::MsgUrl link = srcRef != nullptr && modAsmFeHook != nullptr
-                                      ? modAsmFeHook->msgHndlr()->srcUrl(*srcRef)
-                                      : nsModMsg::MsgUrl();
+    const nsModMsg::MsgUrl link =
+        srcRef != nullptr && modAsmFeHook != nullptr ? modAsmFeHook->msgHndlr()->srcUrl(*srcRef) : nsModMsg::MsgUrl();
     if (QLatin1String(msg->key).startsWith(QLatin1String("warn")))
         modMsgHook->showWarningMessage(text, help, link);
     else

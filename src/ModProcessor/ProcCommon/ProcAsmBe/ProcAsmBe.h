@@ -24,8 +24,8 @@ struct ProcCoreConfig;
 
 /// The assembler back end that all processors share: from typed instructions to machine words.
 ///
-/// A processor gives its instruction set as a table, its limits and its `#SET` parameters; the stages, the checks of arguments
-/// and the catalogue of messages are common to all.
+/// A processor gives its instruction set as a table, its limits and its `#SET` parameters; the stages, the checks of
+/// arguments and the catalogue of messages are common to all.
 class ProcAsmBe : public QObject, public ModMsgPluginIf, public ModAsmFePluginIfInterMod
 {
     Q_OBJECT
@@ -44,7 +44,8 @@ public:
 
     /// Takes the `#SET` parameters, writes the machine words, and checks that there is an instruction where the
     /// processor starts.
-    /// @param config the settings of this run; parameters of the sources change them. Not owned, kept until the next run.
+    /// @param config the settings of this run; parameters of the sources change them. Not owned, kept until the next
+    /// run.
     /// @return false after at least one reported error
     bool assembleStage1(ProcCoreConfig* config);
     /// Checks what depends on the IO devices.

@@ -7,7 +7,10 @@ namespace nsProc {
 namespace {
 
 // The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text) {#key, QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", text)}
+#define NALVO_MSG(key, text)                                                                                           \
+    {                                                                                                                  \
+#key, QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", text)                                                             \
+    }
 
 /// Indexed by eAsmMsg_t.
 const sAsmMsg_t asmMsgs[eAsmMsgCount] = {

@@ -8,16 +8,16 @@ namespace nsProc {
 /// have.
 struct ProcCoreConfig
 {
-    int pageSize = 1024;        ///< words of an instruction memory page; also the limit of an interrupt vector
-    int pageCount = 1;          ///< set by the assembler at each run
-    bool sharedMemHi = true;    ///< set by the assembler at each run
-    int intVectorAddr = 1023;   ///< address within a page where an interrupt enters
-    bool spare = false;         ///< copied, but not used
-    int scrpdSize = 64;         ///< bytes of the scratchpad
-    QString scrpdIODev;         ///< IO device with the scratchpad's initial contents; empty if none
-    double clkFreq = 80000000;  ///< Hz
-    int regCount = 16;          ///< registers, where the hardware can be built with more or less
-    int instrClkCnt = 2;        ///< clock cycles of an instruction
+    int pageSize = 1024;       ///< words of an instruction memory page; also the limit of an interrupt vector
+    int pageCount = 1;         ///< set by the assembler at each run
+    bool sharedMemHi = true;   ///< set by the assembler at each run
+    int intVectorAddr = 1023;  ///< address within a page where an interrupt enters
+    bool spare = false;        ///< copied, but not used
+    int scrpdSize = 64;        ///< bytes of the scratchpad
+    QString scrpdIODev;        ///< IO device with the scratchpad's initial contents; empty if none
+    double clkFreq = 80000000; ///< Hz
+    int regCount = 16;         ///< registers, where the hardware can be built with more or less
+    int instrClkCnt = 2;       ///< clock cycles of an instruction
 };
 
 } // namespace nsProc

@@ -42,14 +42,14 @@ struct sInstr_t
 /// How a processor's words are laid out, and its limits.
 struct sInstrLayout_t
 {
-    int dstShift;        ///< place of the first register
-    int srcShift;        ///< place of the second register
-    int addrShift;       ///< place of a port number or scratchpad address
-    int maxNumber;       ///< largest immediate
-    int maxPort;         ///< largest port number
-    int addrBits;        ///< width of an address in a jump; higher bits of it are not encoded
-    bool relativeFlow;   ///< jumps hold the distance to their target, in 12 bits
-    bool portIsNumber;   ///< a port number that is too large is reported as a number that is too large
+    int dstShift;      ///< place of the first register
+    int srcShift;      ///< place of the second register
+    int addrShift;     ///< place of a port number or scratchpad address
+    int maxNumber;     ///< largest immediate
+    int maxPort;       ///< largest port number
+    int addrBits;      ///< width of an address in a jump; higher bits of it are not encoded
+    bool relativeFlow; ///< jumps hold the distance to their target, in 12 bits
+    bool portIsNumber; ///< a port number that is too large is reported as a number that is too large
 };
 
 /// The number and the constant port of a write of a constant.

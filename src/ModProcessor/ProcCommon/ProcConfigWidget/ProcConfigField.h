@@ -10,18 +10,13 @@ namespace nsProc {
 /// One setting of a processor, as its settings widget shows it: a row of the widget's table.
 struct sProcConfigField
 {
-    enum eKind_t
-    {
+    enum eKind_t {
         eNumber,      ///< an integer; stepped by one
         eLargeNumber, ///< an integer beyond what an int holds; settings hold at most an int
         eChoice,      ///< one integer of a few
         eFrequency    ///< Hz, shown in MHz; always the clock frequency
     };
-    enum ePage_t
-    {
-        ePageCore,
-        ePageInstMem
-    };
+    enum ePage_t { ePageCore, ePageInstMem };
 
     const char* name; ///< object name of the control
     ePage_t page;

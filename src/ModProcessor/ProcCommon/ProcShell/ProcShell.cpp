@@ -25,7 +25,11 @@ double frequencyOf(const QString& text)
 
 } // namespace
 
-ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent) : QObject(parent), m_config(config) {}
+ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent)
+    : QObject(parent)
+    , m_config(config)
+{
+}
 
 ProcShell::~ProcShell() = default;
 

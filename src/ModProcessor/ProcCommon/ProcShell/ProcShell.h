@@ -22,9 +22,9 @@ class ProcSim;
 /// It owns the back end and the actions while the processor is attached, the simulator while that is enabled, and the
 /// processor's settings, which are kept when it is detached.
 ///
-/// A simulator's command handles the user's events while it runs. So each operation here can be called in the middle of another
-/// one, and the simulator can be disabled while one of its commands is on the stack: it is then deleted when that
-/// command has ended.
+/// A simulator's command handles the user's events while it runs. So each operation here can be called in the middle of
+/// another one, and the simulator can be disabled while one of its commands is on the stack: it is then deleted when
+/// that command has ended.
 class ProcShell : public QObject, public nsModProcessor::ProcPluginIf
 {
     Q_OBJECT

@@ -138,8 +138,8 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
         setActionsEnabled(true);
         return;
     }
-    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction, Action::eActionToEndOfCall,
-                       Action::eActionToCursor, Action::eActionSetPc},
+    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,
+                       Action::eActionToEndOfCall, Action::eActionToCursor, Action::eActionSetPc},
                       false);
     setActionsEnabled({action}, true);
     showStop(action, true);
@@ -201,8 +201,8 @@ void ProcShell::setPcFromCursor()
     if (sim == nullptr)
         return;
     const bool success = sim->setPcFromCursor();
-    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction, Action::eActionToEndOfCall,
-                       Action::eActionToCursor},
+    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,
+                       Action::eActionToEndOfCall, Action::eActionToCursor},
                       success);
 }
 
@@ -223,8 +223,8 @@ void ProcShell::simReload()
     const bool success = sim->simReload(m_config);
     if (m_sim != sim)
         return;
-    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction, Action::eActionToEndOfCall,
-                       Action::eActionToCursor},
+    setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,
+                       Action::eActionToEndOfCall, Action::eActionToCursor},
                       success);
     if (success)
         setActionsEnabled({Action::eActionSetPc}, true);

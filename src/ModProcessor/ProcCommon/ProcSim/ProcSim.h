@@ -43,12 +43,12 @@ struct sCallStackItem_t;
 /// The differences between simulated processors, except for their instructions.
 struct sProcSimTraits_t
 {
-    const char* helpPage;         ///< host of the help links, such as "XPBlze3SimMessages"
+    const char* helpPage; ///< host of the help links, such as "XPBlze3SimMessages"
     int bankCount = 1;
-    int callStackCapacity = 31;   ///< levels
-    bool clearsEachInstr = true;  ///< highlights end with each instruction; else only with each single step
-    bool logicClearsCarry = true; ///< `AND`, `OR`, `XOR` clear carry, and `TEST` sets it to the parity
-    bool chainsZero = false;      ///< `ADDC` and `SUBC` only keep a zero flag that was set before
+    int callStackCapacity = 31;        ///< levels
+    bool clearsEachInstr = true;       ///< highlights end with each instruction; else only with each single step
+    bool logicClearsCarry = true;      ///< `AND`, `OR`, `XOR` clear carry, and `TEST` sets it to the parity
+    bool chainsZero = false;           ///< `ADDC` and `SUBC` only keep a zero flag that was set before
     bool takesComputedTargets = false; ///< `JUMP` and `CALL` take a target from two registers
     bool takesPortConstants = false;   ///< `WRPRT` takes a constant
     QStringList fixedSettings;         ///< what may not change during a simulation, in the order of the checks
@@ -60,8 +60,9 @@ struct sProcSimTraits_t
 /// and clock count, which are kept in objects of their own; the widgets in the docks show these and change them when
 /// the user types. Without a main window there are no widgets; the simulator needs none.
 ///
-/// The commands that run more than one instruction are loops that handle the user's events after each of them. So anything can be
-/// called while a loop is active, and the instructions can be deleted: the simulator then drops its pointers to them.
+/// The commands that run more than one instruction are loops that handle the user's events after each of them. So
+/// anything can be called while a loop is active, and the instructions can be deleted: the simulator then drops its
+/// pointers to them.
 class ProcSim : public QObject,
                 public ModMsgPluginIf,
                 public ModGuiPluginIf,
@@ -122,7 +123,8 @@ public:
     bool setProgramCounter(nsModAsmFe::Opcode* opcode);
     /// The next instruction; null if there is none.
     nsModAsmFe::Opcode* programCounter() const { return m_pc; }
-    /// The instruction at an address of the page that the program counter stands in; the user is asked where that is not known.
+    /// The instruction at an address of the page that the program counter stands in; the user is asked where that is
+    /// not known.
     /// @return false, and null in the result, if there is none
     bool getOpcodeOfAddr(int addr, nsModAsmFe::Opcode** result);
     bool getOpcodeOfCursor(nsModAsmFe::Opcode** result);
@@ -148,7 +150,8 @@ public:
 
     /// @param observer null for none; not owned
     void setObserver(ProcSimObserver* observer) { m_observer = observer; }
-    /// The key of the last message that was shown, "internal" for an internal error, empty if none was since the last call.
+    /// The key of the last message that was shown, "internal" for an internal error, empty if none was since the last
+    /// call.
     QString takeLastMsg();
     /// Text of the last internal error.
     const QString& lastInternalError() const { return m_lastText; }

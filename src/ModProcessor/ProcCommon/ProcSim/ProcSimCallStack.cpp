@@ -90,8 +90,9 @@ bool ProcSimCallStack::isShown(int row) const
 
 void ProcSimCallStack::showRow(int row, const sCallStackItem_t& item)
 {
-    const QString texts[columnCount] = {QString::number(row, m_base).toUpper(), QString::number(item.pc, m_base).toUpper(),
-                                        QString::number(int(item.carry)), QString::number(int(item.zero)), item.label};
+    const QString texts[columnCount] = {QString::number(row, m_base).toUpper(),
+                                        QString::number(item.pc, m_base).toUpper(), QString::number(int(item.carry)),
+                                        QString::number(int(item.zero)), item.label};
     for (int column = 0; column < columnCount; ++column) {
         auto* cell = new QStandardItem(texts[column]);
         cell->setTextAlignment(Qt::AlignCenter);

@@ -9,7 +9,7 @@ namespace nsProc {
 /// A return point. It holds a line and no instruction, so that it outlives the instructions of an assembler run.
 struct sCallStackItem_t
 {
-    QString label;     ///< name of what was called
+    QString label; ///< name of what was called
     bool carry = false;
     bool zero = false;
     int pc = 0;        ///< address within the page
@@ -20,7 +20,10 @@ struct sCallStackItem_t
 class ProcSimCallStackData
 {
 public:
-    explicit ProcSimCallStackData(int capacity) : m_capacity(capacity) {}
+    explicit ProcSimCallStackData(int capacity)
+        : m_capacity(capacity)
+    {
+    }
 
     /// @return false, with nothing changed, when the stack is full
     bool add(const sCallStackItem_t& item)

@@ -22,7 +22,8 @@ namespace nsProc {
 
 namespace {
 
-/// Shows all registers where there is room, and lets them scroll where there is not: 32 of them are higher than a small screen.
+/// Shows all registers where there is room, and lets them scroll where there is not: 32 of them are higher than a small
+/// screen.
 class RegArea : public QScrollArea
 {
 public:
@@ -115,10 +116,12 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     // A click toggles the present value, which may be newer than the displayed one during a run.
     connect(m_carry, &ProcSimEdtBit::aboutToToggle, this, [this] { m_carry->setValue(m_data->carryBit()); });
     connect(m_zero, &ProcSimEdtBit::aboutToToggle, this, [this] { m_zero->setValue(m_data->zeroBit()); });
-    connect(m_interrupt, &ProcSimEdtInterrupt::aboutToToggle, this, [this] { m_interrupt->setValue(m_data->interrupt()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::aboutToToggle, this,
+            [this] { m_interrupt->setValue(m_data->interrupt()); });
     connect(m_carry, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editCarryBit(m_carry->value()); });
     connect(m_zero, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editZeroBit(m_zero->value()); });
-    connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this, [this] { m_data->setInterrupt(m_interrupt->value()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this,
+            [this] { m_data->setInterrupt(m_interrupt->value()); });
     connect(m_pc, &ProcSimEdtNumeric::valueChanged, this, &ProcSimCore::pcTyped);
     refresh();
 }

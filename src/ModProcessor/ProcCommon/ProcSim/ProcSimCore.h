@@ -35,7 +35,8 @@ public:
     void setBase(int base);
     /// During a run the field of the program counter is read-only, as its value changes all the time.
     void setRunning(bool running);
-    /// An address that the user has typed for the program counter and not ended with Return; it is reported no more after this.
+    /// An address that the user has typed for the program counter and not ended with Return; it is reported no more
+    /// after this.
     /// @return false, with nothing changed, if there is none
     bool takeTypedPc(int* addr);
     /// Shows what has changed in the data, and emits contentChanged() if the program has changed a flag.

@@ -95,7 +95,8 @@ public:
     const QString& pageName() const { return m_pageName; }
 
     void clearHighlighted() { ++m_step; }
-    /// Registers of all banks, flags and scratchpad to 0, aliases empty, highlights off, interrupt disabled. The bank stays selected.
+    /// Registers of all banks, flags and scratchpad to 0, aliases empty, highlights off, interrupt disabled. The bank
+    /// stays selected.
     void clear();
 
     /// @return true once after the program has changed a flag: the widget of the core is then brought to the front

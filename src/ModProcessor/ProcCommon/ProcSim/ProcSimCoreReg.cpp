@@ -11,7 +11,8 @@
 
 namespace nsProc {
 
-ProcSimCoreReg::ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std::function<QString(int)>& nameOf, QWidget* parent)
+ProcSimCoreReg::ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std::function<QString(int)>& nameOf,
+                               QWidget* parent)
     : QWidget(parent)
     , m_data(std::move(data))
     , m_stack(new QStackedWidget(this))

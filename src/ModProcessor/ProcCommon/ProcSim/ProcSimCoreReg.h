@@ -20,7 +20,8 @@ class ProcSimCoreReg : public QWidget
 
 public:
     /// @param nameOf name of the register with a number
-    ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std::function<QString(int)>& nameOf, QWidget* parent = nullptr);
+    ProcSimCoreReg(std::shared_ptr<ProcSimCoreData> data, const std::function<QString(int)>& nameOf,
+                   QWidget* parent = nullptr);
 
     /// The program sets a register of the selected bank.
     /// @return false, with nothing changed, for an index not below the number of registers

@@ -1,4 +1,5 @@
-// The instructions that processors share. Each works on the arguments of the program counter, and on success moves it on.
+// The instructions that processors share. Each works on the arguments of the program counter, and on success moves it
+// on.
 
 #include "ProcSim.h"
 
@@ -34,16 +35,26 @@ void ProcSim::setCommonHandlers()
 {
     using namespace nsModAsmFe;
     const std::pair<eOpcode_t, Handler> common[] = {
-        {ocLoad, &ProcSim::simOpcode_load},          {ocAdd, &ProcSim::simOpcode_addNoCarry},
-        {ocAddc, &ProcSim::simOpcode_addWithCarry},  {ocSub, &ProcSim::simOpcode_subNoCarry},
-        {ocSubc, &ProcSim::simOpcode_subWithCarry},  {ocAnd, &ProcSim::simOpcode_and},
-        {ocOr, &ProcSim::simOpcode_or},              {ocXor, &ProcSim::simOpcode_xor},
-        {ocComp, &ProcSim::simOpcode_compNoCarry},   {ocTest, &ProcSim::simOpcode_test},
-        {ocJump, &ProcSim::simOpcode_jump},          {ocCall, &ProcSim::simOpcode_call},
-        {ocRet, &ProcSim::simOpcode_ret},            {ocReti, &ProcSim::simOpcode_retI},
-        {ocInt, &ProcSim::simOpcode_int},            {ocNop, &ProcSim::simOpcode_nop},
-        {ocRdmem, &ProcSim::simOpcode_rdMem},        {ocWrmem, &ProcSim::simOpcode_wrMem},
-        {ocRdprt, &ProcSim::simOpcode_rdPrt},        {ocWrprt, &ProcSim::simOpcode_wrPrt},
+        {ocLoad, &ProcSim::simOpcode_load},
+        {ocAdd, &ProcSim::simOpcode_addNoCarry},
+        {ocAddc, &ProcSim::simOpcode_addWithCarry},
+        {ocSub, &ProcSim::simOpcode_subNoCarry},
+        {ocSubc, &ProcSim::simOpcode_subWithCarry},
+        {ocAnd, &ProcSim::simOpcode_and},
+        {ocOr, &ProcSim::simOpcode_or},
+        {ocXor, &ProcSim::simOpcode_xor},
+        {ocComp, &ProcSim::simOpcode_compNoCarry},
+        {ocTest, &ProcSim::simOpcode_test},
+        {ocJump, &ProcSim::simOpcode_jump},
+        {ocCall, &ProcSim::simOpcode_call},
+        {ocRet, &ProcSim::simOpcode_ret},
+        {ocReti, &ProcSim::simOpcode_retI},
+        {ocInt, &ProcSim::simOpcode_int},
+        {ocNop, &ProcSim::simOpcode_nop},
+        {ocRdmem, &ProcSim::simOpcode_rdMem},
+        {ocWrmem, &ProcSim::simOpcode_wrMem},
+        {ocRdprt, &ProcSim::simOpcode_rdPrt},
+        {ocWrprt, &ProcSim::simOpcode_wrPrt},
     };
     for (const auto& entry : common)
         m_handlers[entry.first] = entry.second;

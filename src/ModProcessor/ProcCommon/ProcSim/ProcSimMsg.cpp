@@ -7,15 +7,17 @@ namespace nsProc {
 namespace {
 
 // The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text) {#key, QT_TRANSLATE_NOOP("nsProc::ProcSim", text)}
+#define NALVO_MSG(key, text)                                                                                           \
+    {                                                                                                                  \
+#key, QT_TRANSLATE_NOOP("nsProc::ProcSim", text)                                                               \
+    }
 
 /// Indexed by eSimMsg_t.
 const sSimMsg_t simMsgs[eSimMsgCount] = {
     NALVO_MSG(errNoOpcodeToExec, "No command to execute!"),
     NALVO_MSG(errNoOpcodeAtIntVect, "No instruction at interrupt vector: %1"),
     NALVO_MSG(errNoOpcodeAssembled, "Need successfull assembled code for simulation."),
-    NALVO_MSG(warnCallStackInvalidDueToReload,
-              "Call stack may becomes invalid due to reloading sources to simulator!"),
+    NALVO_MSG(warnCallStackInvalidDueToReload, "Call stack may becomes invalid due to reloading sources to simulator!"),
     NALVO_MSG(errCallStackOverflow, "Call stack overflow!"),
     NALVO_MSG(errCallStackEmpty, "Call stack is empty! Nothing to return."),
     NALVO_MSG(errCallStackInvalidRetAddr, "Call stack contains an invalid return address."),

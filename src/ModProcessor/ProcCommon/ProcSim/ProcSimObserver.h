@@ -6,7 +6,8 @@ class Opcode;
 
 namespace nsProc {
 
-/// Sees what a simulated program does, as it does it, and can serve as the source of its port reads. Does nothing by default.
+/// Sees what a simulated program does, as it does it, and can serve as the source of its port reads. Does nothing by
+/// default.
 class ProcSimObserver
 {
 public:

@@ -14,8 +14,8 @@ const int aliasWidth = 40; ///< pixels; of a longer name the end is shown, and t
 
 } // namespace
 
-ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank, const std::function<QString(int)>& nameOf,
-                               QWidget* parent)
+ProcSimRegPage::ProcSimRegPage(std::shared_ptr<ProcSimCoreData> data, int bank,
+                               const std::function<QString(int)>& nameOf, QWidget* parent)
     : QWidget(parent)
     , m_data(std::move(data))
     , m_bank(bank)

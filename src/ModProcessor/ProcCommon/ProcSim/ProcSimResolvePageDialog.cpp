@@ -26,9 +26,10 @@ ProcSimResolvePageDialog::ProcSimResolvePageDialog(int pageCount, QWidget* paren
     buttons->addWidget(button);
     auto* layout = new QVBoxLayout(this);
     layout->setSpacing(8);
-    layout->addWidget(new QLabel(tr("Since you are using pages and the program counter <br/>points to an instruction within the "
-                                    "shared range, <br/>the simulator has no information about the current <br/>page selection."),
-                                 this));
+    layout->addWidget(
+        new QLabel(tr("Since you are using pages and the program counter <br/>points to an instruction within the "
+                      "shared range, <br/>the simulator has no information about the current <br/>page selection."),
+                   this));
     layout->addWidget(new QLabel(tr("Please select a page from list below."), this));
     layout->addWidget(m_list, 1);
     layout->addLayout(buttons);

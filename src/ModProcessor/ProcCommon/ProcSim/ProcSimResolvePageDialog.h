@@ -6,8 +6,8 @@ class QListWidget;
 
 namespace nsProc {
 
-/// Asks which page is meant while the program counter stands in the range that all pages share. It can not be refused: the row
-/// that is current at the end is taken.
+/// Asks which page is meant while the program counter stands in the range that all pages share. It can not be refused:
+/// the row that is current at the end is taken.
 class ProcSimResolvePageDialog : public QDialog
 {
     Q_OBJECT

@@ -16,9 +16,9 @@ namespace nsProc {
 namespace {
 
 const int blockCells = 32;
-const int firstBlocks = 8;     ///< always there: a program reaches 256 cells by a register
-const int scrollMargin = 50;   ///< pixels
-const int maxCells = 1 << 20;  ///< a widget has no more than 16,777,215 pixels, so the rows are counted
+const int firstBlocks = 8;    ///< always there: a program reaches 256 cells by a register
+const int scrollMargin = 50;  ///< pixels
+const int maxCells = 1 << 20; ///< a widget has no more than 16,777,215 pixels, so the rows are counted
 
 } // namespace
 
@@ -78,7 +78,8 @@ void ProcSimScrpd::chainFocus(int index)
     const auto here = m_blocks.constFind(index);
     if (here == m_blocks.constBegin())
         return;
-    // Blocks are made in the order in which the user comes to them; each cell is put after the one with the address before.
+    // Blocks are made in the order in which the user comes to them; each cell is put after the one with the address
+    // before.
     const ProcSimScrpdBlock* former = *std::prev(here);
     QWidget* before = former->cell(former->first() + former->count() - 1);
     for (int addr = (*here)->first(); addr < (*here)->first() + (*here)->count(); ++addr) {
@@ -98,9 +99,10 @@ void ProcSimScrpd::arrange()
     const int rowHeight = model->sizeHint().height() / rows;
     m_blockHeight = model->sizeHint().height();
     const int allRows = (m_count + m_cellsPerRow - 1) / m_cellsPerRow;
-    const int cellsHeight = m_count <= blockCells ? m_blockHeight
-                                                  : m_count / blockCells * m_blockHeight +
-                                                        (allRows - m_count / blockCells * blockCells / m_cellsPerRow) * rowHeight;
+    const int cellsHeight = m_count <= blockCells
+                                ? m_blockHeight
+                                : m_count / blockCells * m_blockHeight +
+                                      (allRows - m_count / blockCells * blockCells / m_cellsPerRow) * rowHeight;
     int height = cellsHeight;
     if (m_note != nullptr) {
         m_note->setGeometry(0, cellsHeight, viewport()->width(), m_note->heightForWidth(viewport()->width()));

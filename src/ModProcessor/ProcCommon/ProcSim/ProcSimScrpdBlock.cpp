@@ -59,7 +59,9 @@ void ProcSimScrpdBlock::arrange(int cellsPerRow)
 void ProcSimScrpdBlock::setBase(int base)
 {
     const int width = QString::number(std::max(m_data->scrpdSize() - 1, 0), base).size();
-    const auto text = [base, width](int addr) { return QString::number(addr, base).toUpper().rightJustified(width, '0'); };
+    const auto text = [base, width](int addr) {
+        return QString::number(addr, base).toUpper().rightJustified(width, '0');
+    };
     for (int index = 0; index < m_titles.size(); ++index)
         m_titles.at(index)->setText(text(m_first + index * narrowRow));
     for (int offset = 0; offset < m_cells.size(); ++offset) {

@@ -58,7 +58,8 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     layout->setContentsMargins(2, 0, 2, 0);
     layout->setSpacing(3);
     // The widgets after a number must not move while it grows.
-    const int stateWidth = std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
+    const int stateWidth =
+        std::max(fontMetrics().horizontalAdvance(tr("Running")), fontMetrics().horizontalAdvance(tr("Stopped")));
     m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setToolTip(tr("Whether the program is running"));

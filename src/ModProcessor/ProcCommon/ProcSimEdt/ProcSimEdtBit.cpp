@@ -32,7 +32,8 @@ void ProcSimEdtBit::setValue(int value)
 
 bool ProcSimEdtBit::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+    if (event->type() == QEvent::ToolTip && m_highlighted &&
+        showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
         return true;
     return QLabel::event(event);
 }

@@ -90,7 +90,8 @@ bool ProcSimEdtNumeric::setValue(int value)
 
 bool ProcSimEdtNumeric::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip && m_highlighted && showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
+    if (event->type() == QEvent::ToolTip && m_highlighted &&
+        showHighlightToolTip(this, static_cast<QHelpEvent*>(event)))
         return true;
     return QLineEdit::event(event);
 }

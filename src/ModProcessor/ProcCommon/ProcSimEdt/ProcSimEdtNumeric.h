@@ -4,7 +4,8 @@
 
 namespace nsProc {
 
-/// A field for a number with a range and a base. The value is the text: each key press counts at once, limited to the range.
+/// A field for a number with a range and a base. The value is the text: each key press counts at once, limited to the
+/// range.
 ///
 /// Text that is no number in the base counts as 0 until the edit has ended; then the text shows the value that counts.
 class ProcSimEdtNumeric : public QLineEdit

@@ -18,10 +18,11 @@ public:
     virtual void deviceRemoved(ProcSimIOPluginIf* device) = 0;
 };
 
-/// The ports of a simulated processor: the devices that stand at them, in the order in which they were added. Owns the devices.
+/// The ports of a simulated processor: the devices that stand at them, in the order in which they were added. Owns the
+/// devices.
 ///
-/// The first device that answers at an address in the asked direction serves an access. Where there is none, one is added: a
-/// register that the user fills in for a read, a FIFO that collects the values for a write. Uses no widgets.
+/// The first device that answers at an address in the asked direction serves an access. Where there is none, one is
+/// added: a register that the user fills in for a read, a FIFO that collects the values for a write. Uses no widgets.
 class ProcSimPorts : public ProcSimIOHookIf
 {
 public:

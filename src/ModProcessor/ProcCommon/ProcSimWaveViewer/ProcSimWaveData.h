@@ -15,16 +15,8 @@ namespace nsProc {
 class ProcSimWaveData
 {
 public:
-    enum eAccessType_t
-    {
-        eAccessRd = 0,
-        eAccessWr = 1
-    };
-    enum eWaveKind_t
-    {
-        eWaveNumeric = 0,
-        eWaveBit = 1
-    };
+    enum eAccessType_t { eAccessRd = 0, eAccessWr = 1 };
+    enum eWaveKind_t { eWaveNumeric = 0, eWaveBit = 1 };
 
     /// A value and the clock count at which it passed.
     struct sValue_t

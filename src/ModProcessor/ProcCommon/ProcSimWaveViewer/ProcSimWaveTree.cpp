@@ -11,11 +11,7 @@ namespace nsProc {
 
 namespace {
 
-enum eColumn_t
-{
-    eColumnName,
-    eColumnValue
-};
+enum eColumn_t { eColumnName, eColumnValue };
 
 constexpr int waveRole = Qt::UserRole;
 

@@ -1,13 +1,14 @@
 #include "XPBlze3.h"
 
-#include "XPBlze3ConfigWidget.h"
 #include "XPBlze3AsmBe.h"
+#include "XPBlze3ConfigWidget.h"
 #include "XPBlze3Sim.h"
 #include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze3 {
 
-XPBlze3::XPBlze3(QObject* parent) : ProcShell(this, parent)
+XPBlze3::XPBlze3(QObject* parent)
+    : ProcShell(this, parent)
 {
     setSettings(defaultConfig());
 }

@@ -7,7 +7,8 @@ namespace {
 using namespace nsModAsmFe;
 using namespace nsProc;
 
-/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC, or DISABLE, ENABLE.
+/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC, or DISABLE,
+/// ENABLE.
 const QVector<sInstr_t>& instrs()
 {
     static const QVector<sInstr_t> table = {
@@ -49,7 +50,8 @@ const sInstrLayout_t layout = {8, 4, 0, 255, 255, 10, false, false};
 
 } // namespace
 
-XPBlze3AsmBe::XPBlze3AsmBe(QObject* parent) : ProcAsmBe(&instrs(), layout, "XPBlze3AsmBeMessages", parent)
+XPBlze3AsmBe::XPBlze3AsmBe(QObject* parent)
+    : ProcAsmBe(&instrs(), layout, "XPBlze3AsmBeMessages", parent)
 {
     for (int number = 0; number < 16; ++number)
         m_regs.insert('s' + QString::number(number, 16).toUpper(), number);

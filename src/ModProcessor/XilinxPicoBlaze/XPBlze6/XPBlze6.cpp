@@ -1,13 +1,14 @@
 #include "XPBlze6.h"
 
-#include "XPBlze6ConfigWidget.h"
 #include "XPBlze6AsmBe.h"
+#include "XPBlze6ConfigWidget.h"
 #include "XPBlze6Sim.h"
 #include "XPBlzeActionsSim.h"
 
 namespace nsXPBlze6 {
 
-XPBlze6::XPBlze6(QObject* parent) : ProcShell(this, parent)
+XPBlze6::XPBlze6(QObject* parent)
+    : ProcShell(this, parent)
 {
     setSettings(defaultConfig());
 }

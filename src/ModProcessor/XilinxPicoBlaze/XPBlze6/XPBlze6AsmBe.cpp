@@ -11,8 +11,8 @@ namespace {
 using namespace nsModAsmFe;
 using namespace nsProc;
 
-/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC and computed target, or
-/// DISABLE, ENABLE.
+/// The instruction set. Words without their operands: number and register form, or always, Z, NZ, C, NC and computed
+/// target, or DISABLE, ENABLE.
 const QVector<sInstr_t>& instrs()
 {
     static const QVector<sInstr_t> table = {
@@ -60,7 +60,8 @@ const sInstrLayout_t layout = {8, 4, 0, 255, 255, 12, false, false};
 
 } // namespace
 
-XPBlze6AsmBe::XPBlze6AsmBe(QObject* parent) : ProcAsmBe(&instrs(), layout, "XPBlze6AsmBeMessages", parent)
+XPBlze6AsmBe::XPBlze6AsmBe(QObject* parent)
+    : ProcAsmBe(&instrs(), layout, "XPBlze6AsmBeMessages", parent)
 {
     for (int number = 0; number < 16; ++number)
         m_regs.insert('s' + QString::number(number, 16).toUpper(), number);

@@ -43,11 +43,7 @@ public:
 
 private:
     /// Marks in place of a number.
-    enum eMark_t
-    {
-        eMarkEmpty = -1,
-        eMarkText = -2
-    };
+    enum eMark_t { eMarkEmpty = -1, eMarkText = -2 };
 
     int lineOf(int index, const QString& text);
     void forget(int index);

@@ -10,12 +10,7 @@ class ProcSimIOFifo : public ProcSimIODevice
 {
 public:
     /// What the label beside the last value says.
-    enum eAccess_t
-    {
-        eAccessNone,
-        eAccessRd,
-        eAccessWr
-    };
+    enum eAccess_t { eAccessNone, eAccessRd, eAccessWr };
 
     /// @param initValue last value shown at first, 0 to 255
     explicit ProcSimIOFifo(int initValue);

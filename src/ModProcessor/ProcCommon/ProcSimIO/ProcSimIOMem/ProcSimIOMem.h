@@ -14,12 +14,7 @@ class ProcSimIOMem : public ProcSimIODevice
 {
 public:
     /// What the label beside the last access says.
-    enum eAccess_t
-    {
-        eAccessNone,
-        eAccessRd,
-        eAccessWr
-    };
+    enum eAccess_t { eAccessNone, eAccessRd, eAccessWr };
 
     static constexpr int defaultSize = 16;    ///< words of a new block
     static constexpr int maxUserSize = 65536; ///< words that a user can ask for
