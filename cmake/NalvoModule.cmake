@@ -1,5 +1,9 @@
 # The borders between modules, enforced by include paths.
 #
+#   nalvo_core(NAME NalvoXxx [USES NalvoYyy ...])
+#     A library of the ground floor: all sources of the current folder and its subfolders, on Qt Core and the libraries that are
+#     named. It is given no include path of Qt Gui, Qt Widgets or a module, so any such include does not compile.
+#
 #   nalvo_interface(NAME ModXxx [PUBLIC dir ...] [USES ModYyy ...])
 #     The face of a module: the library ModXxx_If with the include path ModXxx/If (and the further folders that are named, for
 #     value types that cross the border). It may hold sources of such value types. USES names the faces that its headers need.
@@ -17,6 +21,30 @@ set_target_properties(NalvoPch PROPERTIES AUTOMOC OFF)
 function(nalvo_setup_pch)
   target_link_libraries(NalvoPch PUBLIC NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
   target_precompile_headers(NalvoPch PRIVATE "${CMAKE_SOURCE_DIR}/cmake/pch.h")
+endfunction()
+
+# What the ground floor consists of, the highest library first.
+set(NALVO_CORES NalvoSim NalvoProc NalvoAsm NalvoBase)
+
+add_library(NalvoCorePch OBJECT "${CMAKE_SOURCE_DIR}/cmake/pch.cpp")
+set_target_properties(NalvoCorePch PROPERTIES AUTOMOC OFF)
+target_link_libraries(NalvoCorePch PUBLIC NalvoFlags Qt5::Core)
+target_precompile_headers(NalvoCorePch PRIVATE "${CMAKE_SOURCE_DIR}/cmake/pch_core.h")
+
+function(nalvo_core)
+  cmake_parse_arguments(ARG "" "NAME" "USES" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  set(dirs "")
+  foreach(source IN LISTS sources)
+    get_filename_component(dir "${source}" DIRECTORY)
+    list(APPEND dirs "${dir}")
+  endforeach()
+  list(REMOVE_DUPLICATES dirs)
+  add_library(${ARG_NAME} STATIC ${sources})
+  target_include_directories(${ARG_NAME} PUBLIC ${dirs})
+  target_link_libraries(${ARG_NAME} PUBLIC ${ARG_USES} Qt5::Core PRIVATE NalvoFlags)
+  target_precompile_headers(${ARG_NAME} REUSE_FROM NalvoCorePch)
+  nalvo_watch_headers(${ARG_NAME})
 endfunction()
 
 function(_nalvo_object_library target)
@@ -41,7 +69,7 @@ function(nalvo_watch_headers target)
 endfunction()
 
 function(nalvo_interface)
-  cmake_parse_arguments(ARG "" "NAME" "PUBLIC;USES" ${ARGN})
+  cmake_parse_arguments(ARG "" "NAME" "PUBLIC;USES;CORES" ${ARGN})
   set(dirs "${CMAKE_CURRENT_SOURCE_DIR}")
   foreach(dir IN LISTS ARG_PUBLIC)
     get_filename_component(dir "${CMAKE_CURRENT_SOURCE_DIR}/../${dir}" ABSOLUTE)
@@ -57,7 +85,7 @@ function(nalvo_interface)
     file(GLOB found CONFIGURE_DEPENDS "${dir}/*.cpp" "${dir}/*.h")
     list(APPEND sources ${found})
   endforeach()
-  set(deps Qt5::Core Qt5::Gui Qt5::Widgets Common_If)
+  set(deps Qt5::Core Qt5::Gui Qt5::Widgets Common_If ${ARG_CORES})
   foreach(use IN LISTS ARG_USES)
     list(APPEND deps ${use}_If)
   endforeach()
@@ -74,7 +102,7 @@ function(nalvo_interface)
 endfunction()
 
 function(nalvo_module)
-  cmake_parse_arguments(ARG "" "NAME" "USES;LIBS" ${ARGN})
+  cmake_parse_arguments(ARG "" "NAME" "USES;CORES;LIBS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
   # What belongs to the face is built with the face.
   # A module that serves no hook has no face.
@@ -96,7 +124,7 @@ function(nalvo_module)
   list(REMOVE_DUPLICATES own)
   target_include_directories(${ARG_NAME} PRIVATE ${own})
   set_target_properties(${ARG_NAME} PROPERTIES NALVO_OWN_DIRS "${own}")
-  target_link_libraries(${ARG_NAME} PRIVATE Common_If Qt5::Core Qt5::Gui Qt5::Widgets ${ARG_LIBS})
+  target_link_libraries(${ARG_NAME} PRIVATE Common_If ${ARG_CORES} Qt5::Core Qt5::Gui Qt5::Widgets ${ARG_LIBS})
   foreach(use IN LISTS ARG_USES)
     target_link_libraries(${ARG_NAME} PRIVATE ${use}_If)
   endforeach()
@@ -112,7 +140,7 @@ function(nalvo_library)
   endforeach()
   add_library(nalvo STATIC ${objects})
   set_target_properties(nalvo PROPERTIES LINKER_LANGUAGE CXX AUTOMOC OFF)
-  target_link_libraries(nalvo PUBLIC NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
+  target_link_libraries(nalvo PUBLIC ${NALVO_CORES} NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
 endfunction()
 
 # nalvo_use_module(TARGET MODULE ...): lets a program or a test see the inside of the named modules.

@@ -26,6 +26,8 @@ ModAsmFe::~ModAsmFe()
 {
     // If the window is deleted without the exit phases, the view still exists.
     clearIODevViewer();
+    if (m_equListView != nullptr && m_equListView->parent() == nullptr)
+        delete m_equListView;
     delete m_configPage;
 }
 
@@ -55,8 +57,9 @@ void ModAsmFe::modInitIntermod()
     }
     if (modGuiHook != nullptr) {
         m_statusBar = new AsmFeStatusBar;
+        m_equListView = new EquListView;
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
-        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equList.listView(), tr("EQU list"));
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
     setupSupportMenuBasic();
 }
@@ -65,9 +68,10 @@ void ModAsmFe::modExitIntermod()
 {
     if (modGuiHook != nullptr && m_statusBar != nullptr) {
         modGuiHook->removeWidget(m_statusBar);
-        modGuiHook->removeWidget(m_equList.listView());
+        modGuiHook->removeWidget(m_equListView);
     }
     removeIODevViewer();
+    delete m_equListView;
     delete m_statusBar;
     m_statusBar = nullptr;
     if (modMsgHook != nullptr) {

@@ -31,6 +31,7 @@
 #include <QHash>
 #include <QList>
 #include <QObject>
+#include <QPointer>
 #include <QSet>
 #include <QStringList>
 
@@ -50,6 +51,7 @@ class AsmFeFileHndlr;
 class AsmFeParseArg;
 class AsmFeConfigPage;
 class AsmFeStatusBar;
+class EquListView;
 class IODevViewerList;
 class Opcode;
 class TargetMapper;
@@ -172,6 +174,7 @@ private:
     void clearAll();
     void dropProgram();
     void clearIODevViewer();
+    void showEquList();
     void addIODevViewer();
     void removeIODevViewer();
     void runStages(eAssembleEvent_t event);
@@ -380,6 +383,7 @@ private:
     AsmFeParseArg* m_parseArg;
     QPointer<AsmFeConfigPage> m_configPage; ///< null while the settings dialog is closed
     AsmFeStatusBar* m_statusBar = nullptr;
+    QPointer<EquListView> m_equListView;     ///< null without a window
     QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window or an open project
 
     QStringList m_charsetNames; ///< upper case; filled on first use, as asking the platform for them takes its time

@@ -4,6 +4,7 @@
 
 #include "AsmFeFileHndlr.h"
 #include "EditorMemPageAddrMap.h"
+#include "EquListView.h"
 #include "IODevViewerList.h"
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
@@ -63,9 +64,15 @@ void ModAsmFe::dropProgram()
 {
     m_abandoned = false;
     clearAll();
-    m_equList.showToListView();
+    showEquList();
     m_assembled = false;
     m_runSucceeded = false;
+}
+
+void ModAsmFe::showEquList()
+{
+    if (m_equListView != nullptr)
+        m_equListView->showList(m_equList);
 }
 
 void ModAsmFe::clearIODevViewer()
@@ -142,7 +149,7 @@ void ModAsmFe::runStages(eAssembleEvent_t event)
     if (m_assembled)
         writeOutputs(event);
     goesOn();
-    m_equList.showToListView();
+    showEquList();
 }
 
 bool ModAsmFe::runFrontEndStages()

@@ -118,34 +118,19 @@ TEST(EquListViewTest, theSameLinesAgainDisturbNobody)
     EXPECT_EQ(lineCount(&view), 0);
 }
 
-TEST(EquListViewTest, listIsShownOnDemand)
+TEST(EquListViewTest, linesStayUntilTheListIsShownAgain)
 {
     EquList list;
     addEqu(&list, "", "before", 1);
-    // Nobody has asked for the view yet.
-    list.showToListView();
-    EquListView* view = list.listView();
-    EXPECT_EQ(view, list.listView());
-    EXPECT_EQ(lineCount(view), 0);
-    list.showToListView();
-    EXPECT_EQ(lineCount(view), 1);
+    EquListView view;
+    EXPECT_EQ(lineCount(&view), 0);
+    view.showList(list);
+    EXPECT_EQ(lineCount(&view), 1);
     list.clear();
     // The view stays as of the last run until it is filled again.
-    EXPECT_EQ(lineCount(view), 1);
-    list.showToListView();
-    EXPECT_EQ(lineCount(view), 0);
-}
-
-TEST(EquListViewTest, viewMayGoBeforeTheList)
-{
-    EquList list;
-    auto* window = new QWidget;
-    list.listView()->setParent(window);
-    addEqu(&list, "", "x", 1);
-    list.showToListView();
-    delete window;
-    list.showToListView();
-    EXPECT_EQ(lineCount(list.listView()), 0);
+    EXPECT_EQ(lineCount(&view), 1);
+    view.showList(list);
+    EXPECT_EQ(lineCount(&view), 0);
 }
 
 TEST(EquListViewTest, tenThousandLines)
@@ -153,12 +138,13 @@ TEST(EquListViewTest, tenThousandLines)
     EquList list;
     for (int i = 0; i < 10000; ++i)
         addEqu(&list, i % 2 == 0 ? "" : "ns", QString("name%1").arg(i), i);
-    EquListView* view = list.listView();
+    EquListView shown;
+    EquListView* view = &shown;
     view->resize(300, 400);
     view->show();
     QSignalSpy reset(treeOf(view)->model(), SIGNAL(modelReset()));
     for (int i = 0; i < 3; ++i)
-        list.showToListView();
+        view->showList(list);
     EXPECT_EQ(reset.count(), 1);
     ASSERT_EQ(lineCount(view), 10000);
     EXPECT_EQ(textAt(view, 9999, 0), QString("ns::name9999"));

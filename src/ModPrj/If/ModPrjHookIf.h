@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PrjSettings.h"
+
 #include <QColor>
 #include <QDir>
 #include <QFont>
@@ -12,10 +14,13 @@ class ModPrjPluginIfInterMod;
 /// The open project: its settings tree, its place on the disk and its title. Served by nsModPrj::ModPrj.
 ///
 /// Every getter takes a key such as "AsmFe/behavior/equ" and the value to answer when the key does not exist.
-class ModPrjHookIf
+class ModPrjHookIf : public PrjSettings
 {
 public:
-    virtual ~ModPrjHookIf() = default;
+    using PrjSettings::convToAbsPath;
+    using PrjSettings::convToRelPath;
+    using PrjSettings::setValue;
+    using PrjSettings::value;
 
     virtual void registerPlugin(ModPrjPluginIfInterMod* plugin) = 0;
     virtual void unregisterPlugin(ModPrjPluginIfInterMod* plugin) = 0;
@@ -29,12 +34,6 @@ public:
     /// Collects the settings of all clients and writes the project file.
     virtual void savePrjCfg() = 0;
 
-    virtual QString value(QString key, QString dflt) = 0;
-    virtual void setValue(QString key, QString value) = 0;
-    virtual int value(QString key, int dflt) = 0;
-    virtual void setValue(QString key, int value) = 0;
-    virtual QStringList value(QString key, QStringList dflt) = 0;
-    virtual void setValue(QString key, QStringList value) = 0;
     virtual QColor value(QString key, QColor dflt) = 0;
     virtual void setValue(QString key, QColor value) = 0;
     virtual QFont font(QString key, QFont dflt) = 0;
@@ -44,11 +43,7 @@ public:
     virtual QDir prjDir() = 0;
     /// File name without folder, a null string without a project.
     virtual QString prjFileName() = 0;
-    /// The path relative to the project's folder; the argument itself without a project.
-    virtual QString convToRelPath(QString path) = 0;
     virtual void convToRelPath(QString* path) = 0;
-    /// The path made absolute against the project's folder; the argument itself without a project.
-    virtual QString convToAbsPath(QString path) = 0;
     virtual void convToAbsPath(QString* path) = 0;
     virtual QString prjTitle() = 0;
     virtual QString prjVersion() = 0;

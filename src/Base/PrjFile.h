@@ -5,7 +5,7 @@
 #include <QString>
 #include <QStringList>
 
-class CfgTree;
+class CfgStore;
 
 namespace nsModPrj {
 
@@ -25,22 +25,22 @@ public:
 
     /// Reads a file and appends its nodes to those that the tree already has.
     /// @param error the message for the user, when the result is false; the tree then holds what came before the error
-    static bool read(CfgTree* tree, const QString& path, QString* error);
+    static bool read(CfgStore* tree, const QString& path, QString* error);
 
     /// Writes the tree through SafeFile: the file always holds the complete old or the complete new text.
     /// @param dropped keys of nodes that the format can not carry and that were left out, may be null
     /// @param error the message for the user, when the result is false; the old file is then untouched
     /// @param reason error text of the system, if there is one; may be null
-    static bool write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error,
+    static bool write(CfgStore* tree, const QString& path, QStringList* dropped, QString* error,
                       QString* reason = nullptr);
 
     /// The text of the file for a tree; empty when the tree has more than maxNodes.
     /// @param dropped as in write()
-    static QByteArray format(CfgTree* tree, QStringList* dropped);
+    static QByteArray format(CfgStore* tree, QStringList* dropped);
 
     /// Reads a text into the tree.
     /// @return false: the text is no well-formed XML, or it is beyond the limits above
-    static bool parse(CfgTree* tree, const QByteArray& text);
+    static bool parse(CfgStore* tree, const QByteArray& text);
 
     /// The escaping of values that the format adds to that of XML.
     static QString escape(QString value);

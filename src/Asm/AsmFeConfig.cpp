@@ -1,6 +1,6 @@
 #include "AsmFeConfig.h"
 
-#include "ModPrjHookIf.h"
+#include "PrjSettings.h"
 
 namespace nsModAsmFe {
 
@@ -10,7 +10,7 @@ namespace {
 
 struct Reader
 {
-    ModPrjHookIf* prj;
+    PrjSettings* prj;
 
     void item(const QString& key, QString& field) { field = prj->value(key, field); }
     /// One of several values: any other value leaves the field unchanged.
@@ -31,7 +31,7 @@ struct Reader
 
 struct Writer
 {
-    ModPrjHookIf* prj;
+    PrjSettings* prj;
 
     void item(const QString& key, const QString& field) { prj->setValue(key, field); }
     void choice(const QString& key, int field, int) { prj->setValue(key, field); }
@@ -78,12 +78,12 @@ void allItems(Access access, Config& config)
 
 } // namespace
 
-void AsmFeConfig::rdAsmFeConfig(ModPrjHookIf* prj)
+void AsmFeConfig::rdAsmFeConfig(PrjSettings* prj)
 {
     allItems(Reader{prj}, *this);
 }
 
-void AsmFeConfig::wrAsmFeConfig(ModPrjHookIf* prj) const
+void AsmFeConfig::wrAsmFeConfig(PrjSettings* prj) const
 {
     allItems(Writer{prj}, *this);
 }

@@ -8,6 +8,8 @@ class QTreeView;
 
 namespace nsModAsmFe {
 
+class EquList;
+
 /// The table of all `#EQU` names and their values, as of the last run.
 class EquListView : public QWidget
 {
@@ -18,6 +20,8 @@ public:
 
     /// Adds a line: the name with its namespace, the value in hexadecimal.
     void addItem(QString name, QString nameSpace, int value);
+    /// Shows the constants of a run in place of all lines.
+    void showList(const EquList& list);
     void clear();
 
     /// Between these two, addItem() only collects: a table of ten thousand lines is then shown in one step.

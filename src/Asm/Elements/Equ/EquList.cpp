@@ -1,7 +1,5 @@
 #include "EquList.h"
 
-#include "EquListView.h"
-
 #include <cstdio>
 
 namespace nsModAsmFe {
@@ -11,8 +9,6 @@ EquList::EquList() = default;
 EquList::~EquList()
 {
     clear();
-    if (m_listView != nullptr && m_listView->parent() == nullptr)
-        delete m_listView;
 }
 
 void EquList::clear()
@@ -45,23 +41,6 @@ QStringList EquList::nameList() const
     for (const Equ* equ = first(); equ != nullptr; equ = equ->next)
         names.append(qualifiedName(equ->nameSpace, equ->name));
     return names;
-}
-
-EquListView* EquList::listView()
-{
-    if (m_listView == nullptr)
-        m_listView = new EquListView;
-    return m_listView;
-}
-
-void EquList::showToListView()
-{
-    if (m_listView == nullptr)
-        return;
-    m_listView->beginFill();
-    for (const Equ* equ = first(); equ != nullptr; equ = equ->next)
-        m_listView->addItem(equ->name, equ->nameSpace, equ->arg->iValue);
-    m_listView->endFill();
 }
 
 } // namespace nsModAsmFe

@@ -4,13 +4,10 @@
 #include "Equ.h"
 #include "SymbolHash.h"
 
-#include <QPointer>
 #include <QSet>
 #include <QStringList>
 
 namespace nsModAsmFe {
-
-class EquListView;
 
 /// The `#EQU` directives of the program, in source order. Owns them.
 class EquList
@@ -38,17 +35,10 @@ public:
     /// All names in list order, with namespace and "::" where there is one.
     QStringList nameList() const;
 
-    /// The table that shows the list to the user, created by the first call. A window that it is added to owns it from
-    /// then on.
-    EquListView* listView();
-    /// Fills the table, if it has been created.
-    void showToListView();
-
 private:
     ElementChain<Equ> m_chain;
     SymbolHash<Equ> m_byName;
     QSet<QString> m_names;
-    QPointer<EquListView> m_listView;
 };
 
 } // namespace nsModAsmFe

@@ -1,6 +1,6 @@
 #include "PrjFile.h"
 
-#include "CfgTree.h"
+#include "CfgStore.h"
 #include "SafeFile.h"
 
 #include <QFile>
@@ -318,19 +318,19 @@ QString PrjFile::unescape(QString text)
     return text.replace(escapes[0].escaped, escapes[0].plain);
 }
 
-QByteArray PrjFile::format(CfgTree* tree, QStringList* dropped)
+QByteArray PrjFile::format(CfgStore* tree, QStringList* dropped)
 {
     return Formatter(dropped).run(tree->getNode(QStringList()));
 }
 
-bool PrjFile::parse(CfgTree* tree, const QByteArray& text)
+bool PrjFile::parse(CfgStore* tree, const QByteArray& text)
 {
     const QByteArray content = withoutLeadingSpace(text);
     // A project file is UTF-8, which has no NUL; encodings of wide characters would hide tags from the check.
     return !content.contains('\0') && !hasOverlongTag(content) && Parser(tree->getNode(QStringList()), content).run();
 }
 
-bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)
+bool PrjFile::read(CfgStore* tree, const QString& path, QString* error)
 {
     if (path.isEmpty())
         return fail(error, tr("No project file set."));
@@ -356,7 +356,7 @@ bool PrjFile::read(CfgTree* tree, const QString& path, QString* error)
     return true;
 }
 
-bool PrjFile::write(CfgTree* tree, const QString& path, QStringList* dropped, QString* error, QString* reason)
+bool PrjFile::write(CfgStore* tree, const QString& path, QStringList* dropped, QString* error, QString* reason)
 {
     const QFileInfo info(path);
     if (info.isDir())

@@ -1,5 +1,7 @@
 #include "EquListView.h"
 
+#include "EquList.h"
+
 #include <QHeaderView>
 #include <QLabel>
 #include <QScrollBar>
@@ -55,6 +57,14 @@ void EquListView::addItem(QString name, QString nameSpace, int value)
     }
     m_model->appendRow(row);
     emit contentChanged(this);
+}
+
+void EquListView::showList(const EquList& list)
+{
+    beginFill();
+    for (const Equ* equ = list.first(); equ != nullptr; equ = equ->next)
+        addItem(equ->name, equ->nameSpace, equ->arg->iValue);
+    endFill();
 }
 
 void EquListView::clear()

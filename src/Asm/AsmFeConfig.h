@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class ModPrjHookIf;
+class PrjSettings;
 
 namespace nsModAsmFe {
 
@@ -49,9 +49,9 @@ public:
     enum eIntVectorBehavior_t { intVectorError = 0, intVectorWarn = 1, intVectorSilent = 2 };
 
     /// Reads all keys from the project; a missing key leaves the field as it is.
-    void rdAsmFeConfig(ModPrjHookIf* prj);
+    void rdAsmFeConfig(PrjSettings* prj);
     /// Writes all keys into the project.
-    void wrAsmFeConfig(ModPrjHookIf* prj) const;
+    void wrAsmFeConfig(PrjSettings* prj) const;
 
     QString defaultCharset = QStringLiteral("UTF-8");
     int behaviorCharset = charsetWarn;
