@@ -12,8 +12,6 @@ class LMico8v3xAsmBe : public nsProc::ProcAsmBe
 public:
     explicit LMico8v3xAsmBe(QObject* parent = nullptr);
 
-    QString processorDefine() const override;
-
 protected:
     bool setConfigFromDirective(nsModAsmFe::Set* set, bool* known) override;
     bool checkConfigStage1() override;

@@ -1,6 +1,6 @@
 #include "ProcAsmBe.h"
 
-#include "ProcCoreConfig.h"
+#include "ProcTable.h"
 
 #include "AsmFeFileHndlr.h"
 #include "AsmFeMsgHndlr.h"
@@ -17,14 +17,20 @@ namespace nsProc {
 
 using namespace nsModAsmFe;
 
-ProcAsmBe::ProcAsmBe(const QVector<sInstr_t>* instrs, const sInstrLayout_t& layout, const QString& helpPage,
-                     QObject* parent)
+ProcAsmBe::ProcAsmBe(const ProcTable& table, QObject* parent)
     : QObject(parent)
-    , m_layout(layout)
-    , m_helpPage(helpPage)
+    , m_table(table)
+    , m_layout(table.layout)
 {
-    for (const sInstr_t& instr : *instrs)
-        m_instrOf[instr.opcode] = &instr;
+    for (int number = 0; number < table.regs.count; ++number)
+        m_regs.insert(table.regName(number), number);
+    for (const char* bank = table.banks; *bank != '\0'; ++bank)
+        m_banks.insert(QChar(*bank), int(bank - table.banks));
+}
+
+QString ProcAsmBe::processorDefine() const
+{
+    return QLatin1String(m_table.define);
 }
 
 bool ProcAsmBe::assembleStage1(ProcCoreConfig* config)
@@ -175,7 +181,7 @@ void ProcAsmBe::signMsg(eAsmMsg_t type, const SrcReference* srcRef, const QStrin
         text = text.arg(arg, QString::number(value));
     else if (text.contains("%1"))
         text = text.arg(arg);
-    QUrl help("pageid://" + m_helpPage);
+    QUrl help("pageid://" + QLatin1String(m_table.asmHelpPage));
     help.setFragment(QString::fromLatin1(msg->key));
     const nsModMsg::MsgUrl link =
         srcRef != nullptr && modAsmFeHook != nullptr ? modAsmFeHook->msgHndlr()->srcUrl(*srcRef) : nsModMsg::MsgUrl();

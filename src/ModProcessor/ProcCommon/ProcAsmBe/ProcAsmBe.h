@@ -8,7 +8,6 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
-#include <QVector>
 
 namespace nsModAsmFe {
 class Arg;
@@ -21,6 +20,7 @@ struct SrcReference;
 namespace nsProc {
 
 struct ProcCoreConfig;
+struct ProcTable;
 
 /// The assembler back end that all processors share: from typed instructions to machine words.
 ///
@@ -31,16 +31,15 @@ class ProcAsmBe : public QObject, public ModMsgPluginIf, public ModAsmFePluginIf
     Q_OBJECT
 
 public:
-    /// @param instrs the instruction set; not owned, must live as long as the back end
-    /// @param helpPage host of the help links, such as "XPBlze3AsmBeMessages"
-    ProcAsmBe(const QVector<sInstr_t>* instrs, const sInstrLayout_t& layout, const QString& helpPage, QObject* parent);
+    /// @param table not owned, must live as long as the back end
+    ProcAsmBe(const ProcTable& table, QObject* parent);
 
     /// Register names with their numbers. Owned.
     const QHash<QString, int>* regNames() const { return &m_regs; }
     /// Names of register banks with their numbers, null if the processor has none. Owned.
     const QHash<QString, int>* regBankNames() const { return m_banks.isEmpty() ? nullptr : &m_banks; }
     /// Define for the sources, and namespace of the processor's `#SET` parameters.
-    virtual QString processorDefine() const = 0;
+    QString processorDefine() const;
 
     /// Takes the `#SET` parameters, writes the machine words, and checks that there is an instruction where the
     /// processor starts.
@@ -113,10 +112,9 @@ private:
     int assembleArg_labelOffsAddr(int from, int to);
     bool checkNumber(const nsModAsmFe::Opcode* opcode, const nsModAsmFe::Arg* arg);
 
-    sInstrLayout_t m_layout;
-    QString m_helpPage;
-    const sInstr_t* m_instrOf[nsModAsmFe::ocCount] = {}; ///< the table by opcode
-    nsModAsmFe::OpcodeList* m_opcodes = nullptr;         ///< of the assembler, during a run; not owned
+    const ProcTable& m_table;
+    const sInstrLayout_t& m_layout;
+    nsModAsmFe::OpcodeList* m_opcodes = nullptr; ///< of the assembler, during a run; not owned
 };
 
 } // namespace nsProc

@@ -2,6 +2,8 @@
 
 #include "ProcAsmBe.h"
 
+#include "ProcTable.h"
+
 #include "AsmFeMsgHndlr.h"
 #include "ModAsmFeHookIf.h"
 #include "Opcode.h"
@@ -48,7 +50,7 @@ bool ProcAsmBe::assembleOpcodes()
 
 bool ProcAsmBe::assembleOpcode(Opcode* opcode)
 {
-    const sInstr_t* instr = opcode->opcode < ocCount ? m_instrOf[opcode->opcode] : nullptr;
+    const sInstr_t* instr = m_table.assembled(opcode->opcode);
     if (instr == nullptr) {
         modAsmFeHook->msgHndlr()->signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
         return false;
@@ -77,6 +79,9 @@ bool ProcAsmBe::assembleOpcode(Opcode* opcode)
         return assembleFlag(opcode, *instr);
     case formBank:
         return assembleBank(opcode, *instr);
+    case formUnsupported:
+    case formSimulated:
+        break;
     }
     return false;
 }
@@ -154,11 +159,11 @@ bool ProcAsmBe::assembleConstantPort(Opcode* opcode, const sInstr_t& instr)
         return false;
     if (port->type != Arg::numeric)
         return refuse(opcode, port);
-    if (exceeds(port, maxConstantPort)) {
-        signMsg(errExceededMaxPort, &opcode->srcRef, port->name, maxConstantPort);
+    if (exceeds(port, m_layout.maxConstantPort)) {
+        signMsg(errExceededMaxPort, &opcode->srcRef, port->name, m_layout.maxConstantPort);
         return false;
     }
-    opcode->instWord = instr.words[wordConstant] + (opcode->arg0->iValue << constantShift) + port->iValue;
+    opcode->instWord = instr.words[wordConstant] + (opcode->arg0->iValue << m_layout.constantShift) + port->iValue;
     return true;
 }
 
@@ -200,7 +205,7 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
     if (target->type != Arg::label)
         return refuse(opcode, target);
     const int addr = target->labelOpcode->pageAddr;
-    const int mask = (1 << m_layout.addrBits) - 1;
+    const int mask = (1 << m_layout.flowBits) - 1;
     // The word has no room for the higher bits of an address, so the core ignores them.
     if (!m_layout.relativeFlow && (addr & ~mask) != 0)
         signMsg(warnFlowAddrTruncated, &opcode->srcRef, QString::number(addr), addr & mask);

@@ -12,8 +12,6 @@ class XPBlze3AsmBe : public nsProc::ProcAsmBe
 public:
     explicit XPBlze3AsmBe(QObject* parent = nullptr);
 
-    QString processorDefine() const override;
-
 protected:
     bool checkConfigStage1() override;
 };

@@ -12,8 +12,6 @@ class XPBlze6AsmBe : public nsProc::ProcAsmBe
 public:
     explicit XPBlze6AsmBe(QObject* parent = nullptr);
 
-    QString processorDefine() const override;
-
 protected:
     bool setConfigFromDirective(nsModAsmFe::Set* set, bool* known) override;
     bool checkConfigStage1() override;
