@@ -1,9 +1,9 @@
 // The machine words: one function a form, each with the checks of its arguments in their order.
 
-#include "ProcAsmBe.h"
+#include "ProcAsmWords.h"
 
-#include "AsmFeMsgHndlr.h"
-#include "ModAsmFeHookIf.h"
+#include "ProcTable.h"
+
 #include "Opcode.h"
 #include "OpcodeList.h"
 
@@ -38,19 +38,27 @@ bool exceeds(const Arg* arg, int maximum)
 
 } // namespace
 
-bool ProcAsmBe::assembleOpcodes()
+ProcAsmWords::ProcAsmWords(const ProcTable& table, int scrpdSize, const ProcAsmReport& report)
+    : m_table(table)
+    , m_layout(table.layout)
+    , m_scrpdMax(scrpdSize - 1)
+    , m_report(report)
+{
+}
+
+bool ProcAsmWords::assembleOpcodes(const OpcodeList& opcodes)
 {
     bool success = true;
-    for (Opcode* opcode = m_opcodes->first(); opcode != nullptr; opcode = opcode->next)
+    for (Opcode* opcode : opcodes)
         success = assembleOpcode(opcode) && success;
     return success;
 }
 
-bool ProcAsmBe::assembleOpcode(Opcode* opcode)
+bool ProcAsmWords::assembleOpcode(Opcode* opcode)
 {
-    const sInstr_t* instr = opcode->opcode < ocCount ? m_instrOf[opcode->opcode] : nullptr;
+    const sInstr_t* instr = m_table.assembled(opcode->opcode);
     if (instr == nullptr) {
-        modAsmFeHook->msgHndlr()->signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
+        m_report.signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
         return false;
     }
     switch (instr->form) {
@@ -77,35 +85,38 @@ bool ProcAsmBe::assembleOpcode(Opcode* opcode)
         return assembleFlag(opcode, *instr);
     case formBank:
         return assembleBank(opcode, *instr);
+    case formUnsupported:
+    case formSimulated:
+        break;
     }
     return false;
 }
 
 /// Reports an argument that has no place in the instruction. @return false
-bool ProcAsmBe::refuse(const Opcode* opcode, const Arg* arg)
+bool ProcAsmWords::refuse(const Opcode* opcode, const Arg* arg)
 {
-    modAsmFeHook->msgHndlr()->signMsg(errUnsupportedArgument, &opcode->srcRef, arg->name);
+    m_report.signMsg(errUnsupportedArgument, &opcode->srcRef, arg->name);
     return false;
 }
 
 /// @return the number fits into an immediate; else an error is reported
-bool ProcAsmBe::checkNumber(const Opcode* opcode, const Arg* arg)
+bool ProcAsmWords::checkNumber(const Opcode* opcode, const Arg* arg)
 {
     if (!exceeds(arg, m_layout.maxNumber))
         return true;
-    signMsg(errExceededMaxNumeric, &opcode->srcRef, arg->name, m_layout.maxNumber);
+    m_report.signMsg(errExceededMaxNumeric, &opcode->srcRef, arg->name, m_layout.maxNumber);
     return false;
 }
 
-bool ProcAsmBe::assembleTwoOperand(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleTwoOperand(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
     if (arg0->type != Arg::reg)
         return refuse(opcode, arg0);
-    const int dst = assembleArg_regDst(arg0->strValue);
+    const int dst = assembleArg_regDst(arg0);
     if (arg1->type == Arg::reg) {
-        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1->strValue);
+        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1);
         return true;
     }
     if (arg1->type != Arg::numeric)
@@ -116,7 +127,7 @@ bool ProcAsmBe::assembleTwoOperand(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assemblePort(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
@@ -125,68 +136,78 @@ bool ProcAsmBe::assemblePort(Opcode* opcode, const sInstr_t& instr)
         return assembleConstantPort(opcode, instr);
     if (arg0->type != Arg::reg)
         return refuse(opcode, arg0);
-    const int dst = assembleArg_regDst(arg0->strValue);
+    const int dst = assembleArg_regDst(arg0);
     if (arg1->type == Arg::regRef) {
-        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1->strValue);
+        opcode->instWord = instr.words[wordRegister] + dst + assembleArg_regSrc(arg1);
         return true;
     }
     if (arg1->type == Arg::numeric) {
         const int maximum = isPort ? m_layout.maxPort : m_scrpdMax;
         if (exceeds(arg1, maximum)) {
             const eAsmMsg_t portMsg = m_layout.portIsNumber ? errExceededMaxNumeric : errExceededMaxPort;
-            signMsg(isPort ? portMsg : errExceededScrpdSize, &opcode->srcRef, arg1->name, maximum);
+            m_report.signMsg(isPort ? portMsg : errExceededScrpdSize, &opcode->srcRef, arg1->name, maximum);
             return false;
         }
         opcode->instWord = instr.words[wordNumber] + dst + (arg1->iValue << m_layout.addrShift);
         return true;
     }
     if (arg1->type == Arg::reg) {
-        signMsg(errUnenclosedRegister, &opcode->srcRef, arg1->name, 0);
+        m_report.signMsg(errUnenclosedRegister, &opcode->srcRef, arg1->name);
         return false;
     }
     return refuse(opcode, arg1);
 }
 
-bool ProcAsmBe::assembleConstantPort(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleConstantPort(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* port = opcode->arg1;
     if (!checkNumber(opcode, opcode->arg0))
         return false;
     if (port->type != Arg::numeric)
         return refuse(opcode, port);
-    if (exceeds(port, maxConstantPort)) {
-        signMsg(errExceededMaxPort, &opcode->srcRef, port->name, maxConstantPort);
+    if (exceeds(port, m_layout.maxConstantPort)) {
+        m_report.signMsg(errExceededMaxPort, &opcode->srcRef, port->name, m_layout.maxConstantPort);
         return false;
     }
-    opcode->instWord = instr.words[wordConstant] + (opcode->arg0->iValue << constantShift) + port->iValue;
+    opcode->instWord = instr.words[wordConstant] + (opcode->arg0->iValue << m_layout.constantShift) + port->iValue;
     return true;
 }
 
+/// Number of the register at its place in the word.
+int ProcAsmWords::assembleArg_regDst(const Arg* arg) const
+{
+    return arg->iValue << m_layout.dstShift;
+}
+
+int ProcAsmWords::assembleArg_regSrc(const Arg* arg) const
+{
+    return arg->iValue << m_layout.srcShift;
+}
+
 /// The distance of a jump in 12 bits. A distance that does not fit is reported and cut, so that the run can continue.
-int ProcAsmBe::assembleArg_labelOffsAddr(int from, int to)
+int ProcAsmWords::assembleArg_labelOffsAddr(int from, int to)
 {
     const int offset = to - from;
     if (offset > 2047)
-        modAsmFeHook->msgHndlr()->signInternalError(tr("Offset exceeds maximum of 2047"));
+        m_report.signOffset(QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", "Offset exceeds maximum of 2047"));
     if (offset < -2048)
-        modAsmFeHook->msgHndlr()->signInternalError(tr("Offset exceeds minimum of -2048"));
+        m_report.signOffset(QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", "Offset exceeds minimum of -2048"));
     return offset & 0xfff;
 }
 
-bool ProcAsmBe::assembleComputedFlow(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleComputedFlow(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg0->type == Arg::reg) {
-        signMsg(errUnenclosedRegisters, &opcode->srcRef, QString(), 0);
+        m_report.signMsg(errUnenclosedRegisters, &opcode->srcRef);
         return false;
     }
     if (opcode->arg1->type != Arg::regRef)
         return refuse(opcode, opcode->arg1);
-    opcode->instWord = instr.words[wordComputed] + assembleArg_regDst(opcode->arg0->strValue) +
-                       assembleArg_regSrc(opcode->arg1->strValue);
+    opcode->instWord = instr.words[wordComputed] + assembleArg_regDst(opcode->arg0) + assembleArg_regSrc(opcode->arg1);
     return true;
 }
 
-bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleFlow(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
@@ -200,16 +221,16 @@ bool ProcAsmBe::assembleFlow(Opcode* opcode, const sInstr_t& instr)
     if (target->type != Arg::label)
         return refuse(opcode, target);
     const int addr = target->labelOpcode->pageAddr;
-    const int mask = (1 << m_layout.addrBits) - 1;
+    const int mask = (1 << m_layout.flowBits) - 1;
     // The word has no room for the higher bits of an address, so the core ignores them.
     if (!m_layout.relativeFlow && (addr & ~mask) != 0)
-        signMsg(warnFlowAddrTruncated, &opcode->srcRef, QString::number(addr), addr & mask);
+        m_report.signMsg(warnFlowAddrTruncated, &opcode->srcRef, QString::number(addr), addr & mask);
     opcode->instWord = instr.words[always ? wordAlways : word] +
                        (m_layout.relativeFlow ? assembleArg_labelOffsAddr(opcode->pageAddr, addr) : addr & mask);
     return true;
 }
 
-bool ProcAsmBe::assembleReturn(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleReturn(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
@@ -220,7 +241,7 @@ bool ProcAsmBe::assembleReturn(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-bool ProcAsmBe::assembleSwitch(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleSwitch(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
@@ -230,7 +251,7 @@ bool ProcAsmBe::assembleSwitch(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-bool ProcAsmBe::assembleNone(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleNone(Opcode* opcode, const sInstr_t& instr)
 {
     for (const Arg* arg : {opcode->arg0, opcode->arg1}) {
         if (arg->type != Arg::empty)
@@ -240,17 +261,17 @@ bool ProcAsmBe::assembleNone(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-bool ProcAsmBe::assembleReg(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleReg(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg0->type != Arg::reg)
         return refuse(opcode, opcode->arg0);
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
-    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0->strValue);
+    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0);
     return true;
 }
 
-bool ProcAsmBe::assembleRegNumber(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleRegNumber(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg0->type != Arg::reg)
         return refuse(opcode, opcode->arg0);
@@ -258,11 +279,11 @@ bool ProcAsmBe::assembleRegNumber(Opcode* opcode, const sInstr_t& instr)
         return refuse(opcode, opcode->arg1);
     if (!checkNumber(opcode, opcode->arg1))
         return false;
-    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0->strValue) + opcode->arg1->iValue;
+    opcode->instWord = instr.words[0] + assembleArg_regDst(opcode->arg0) + opcode->arg1->iValue;
     return true;
 }
 
-bool ProcAsmBe::assembleRotate(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleRotate(Opcode* opcode, const sInstr_t& instr)
 {
     const Arg* arg0 = opcode->arg0;
     const Arg* arg1 = opcode->arg1;
@@ -272,16 +293,16 @@ bool ProcAsmBe::assembleRotate(Opcode* opcode, const sInstr_t& instr)
         return refuse(opcode, arg1);
     // With one register, it is source and destination.
     const Arg* source = arg1->type == Arg::reg ? arg1 : arg0;
-    opcode->instWord = instr.words[0] + assembleArg_regDst(arg0->strValue) + assembleArg_regSrc(source->strValue);
+    opcode->instWord = instr.words[0] + assembleArg_regDst(arg0) + assembleArg_regSrc(source);
     return true;
 }
 
-bool ProcAsmBe::assembleFlag(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleFlag(Opcode* opcode, const sInstr_t& instr)
 {
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
     if (opcode->arg0->type == Arg::empty) {
-        modAsmFeHook->msgHndlr()->signMsg(errMissingArgument, &opcode->srcRef);
+        m_report.signMsg(errMissingArgument, &opcode->srcRef);
         return false;
     }
     if (opcode->arg0->type != Arg::flagC && opcode->arg0->type != Arg::flagZ)
@@ -290,13 +311,13 @@ bool ProcAsmBe::assembleFlag(Opcode* opcode, const sInstr_t& instr)
     return true;
 }
 
-bool ProcAsmBe::assembleBank(Opcode* opcode, const sInstr_t& instr)
+bool ProcAsmWords::assembleBank(Opcode* opcode, const sInstr_t& instr)
 {
-    if (opcode->arg0->type != Arg::regBank || !m_banks.contains(opcode->arg0->strValue))
+    if (opcode->arg0->type != Arg::regBank)
         return refuse(opcode, opcode->arg0);
     if (opcode->arg1->type != Arg::empty)
         return refuse(opcode, opcode->arg1);
-    opcode->instWord = instr.words[0] + m_banks.value(opcode->arg0->strValue);
+    opcode->instWord = instr.words[0] + opcode->arg0->iValue;
     return true;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProcAsmBe.h"
+#include "ProcTables.h"
 
 namespace nsXPBlze3 {
 
@@ -10,12 +11,10 @@ class XPBlze3AsmBe : public nsProc::ProcAsmBe
     Q_OBJECT
 
 public:
-    explicit XPBlze3AsmBe(QObject* parent = nullptr);
-
-    QString processorDefine() const override;
-
-protected:
-    bool checkConfigStage1() override;
+    explicit XPBlze3AsmBe(QObject* parent = nullptr)
+        : ProcAsmBe(nsProc::xpBlze3Table(), parent)
+    {
+    }
 };
 
 } // namespace nsXPBlze3
