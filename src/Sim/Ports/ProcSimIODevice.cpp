@@ -1,29 +1,6 @@
 #include "ProcSimIODevice.h"
 
-#include "ProcSimIODeviceView.h"
-
 namespace nsProc {
-
-ProcSimIODevice::~ProcSimIODevice()
-{
-    if (m_view == nullptr)
-        return;
-    m_view->forgetDevice();
-    // A view whose close button was clicked still handles that event, so it is deleted later.
-    if (m_view->isClosing())
-        m_view->deleteLater();
-    else
-        delete m_view;
-}
-
-QWidget* ProcSimIODevice::ioDevWidget()
-{
-    if (m_view == nullptr) {
-        m_view = createView();
-        m_view->refresh();
-    }
-    return m_view;
-}
 
 void ProcSimIODevice::setName(QString name)
 {

@@ -32,9 +32,6 @@ public:
     bool isExpanded() const { return m_expanded; }
     void setExpanded(bool expanded);
 
-protected:
-    ProcSimIODeviceView* createView() override;
-
 private:
     void setLastValue(int value, eAccess_t access);
 

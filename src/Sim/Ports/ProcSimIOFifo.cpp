@@ -1,7 +1,5 @@
 #include "ProcSimIOFifo.h"
 
-#include "ProcSimIOFifoView.h"
-
 #include <QStringList>
 
 namespace nsProc {
@@ -9,11 +7,6 @@ namespace nsProc {
 ProcSimIOFifo::ProcSimIOFifo(int initValue)
 {
     setLastValue(initValue, eAccessNone);
-}
-
-ProcSimIODeviceView* ProcSimIOFifo::createView()
-{
-    return new ProcSimIOFifoView(this);
 }
 
 void ProcSimIOFifo::setBase(int base)

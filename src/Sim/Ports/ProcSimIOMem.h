@@ -60,9 +60,6 @@ public:
     bool isExpanded() const { return m_expanded; }
     void setExpanded(bool expanded);
 
-protected:
-    ProcSimIODeviceView* createView() override;
-
 private:
     void setLast(int addr, unsigned int value, eAccess_t access);
 

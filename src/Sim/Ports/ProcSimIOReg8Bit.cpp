@@ -1,13 +1,6 @@
 #include "ProcSimIOReg8Bit.h"
 
-#include "ProcSimIORegView.h"
-
 namespace nsProc {
-
-ProcSimIODeviceView* ProcSimIOReg8Bit::createView()
-{
-    return new ProcSimIORegView(this);
-}
 
 void ProcSimIOReg8Bit::initValue(unsigned int* values, int count)
 {

@@ -2,17 +2,14 @@
 
 #include "ProcSimIOPluginIf.h"
 
-#include <QPointer>
 #include <QString>
 
 namespace nsProc {
 
-class ProcSimIODeviceView;
-
-/// What all devices at ports have in common: address, name, direction, base, marks and the view.
+/// What all devices at ports have in common: address, name, direction, base and marks.
 ///
-/// A device is plain data: it needs no application object, and accesses do not update the view. The view is created on
-/// demand and reads the device in refresh(); what the user types there changes the device at once.
+/// A device is plain data: it needs no application object and knows no view. A view reads the device from time to time,
+/// see takeChanged(); what the user types there changes the device at once.
 class ProcSimIODevice : public ProcSimIOPluginIf
 {
 public:
@@ -22,12 +19,8 @@ public:
     static constexpr int maxPortAddr = 0xFF; ///< largest address that a processor can ask for
 
     ProcSimIODevice() = default;
-    ~ProcSimIODevice() override;
     ProcSimIODevice(const ProcSimIODevice&) = delete;
     ProcSimIODevice& operator=(const ProcSimIODevice&) = delete;
-
-    /// The view, made by the first call. The device deletes it, unless the parent of the view has deleted it before.
-    QWidget* ioDevWidget() override;
 
     void setName(QString name) override;
     void setBase(int base) override;
@@ -60,13 +53,10 @@ public:
     static bool number(const QString& text, int base, int* value);
 
 protected:
-    /// @return a new view without a parent
-    virtual ProcSimIODeviceView* createView() = 0;
     void setUsedName(const QString& name) { m_usedName = name; }
     void setChanged() { m_changed = true; }
 
 private:
-    QPointer<ProcSimIODeviceView> m_view;
     QString m_name;
     QString m_usedName;
     int m_addr = 0;

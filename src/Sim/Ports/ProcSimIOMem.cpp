@@ -1,7 +1,5 @@
 #include "ProcSimIOMem.h"
 
-#include "ProcSimIOMemView.h"
-
 #include <limits>
 
 namespace nsProc {
@@ -10,11 +8,6 @@ ProcSimIOMem::ProcSimIOMem(int initValue)
     : m_initValue(static_cast<unsigned int>(qMax(0, initValue)))
 {
     setMemSize(defaultSize);
-}
-
-ProcSimIODeviceView* ProcSimIOMem::createView()
-{
-    return new ProcSimIOMemView(this);
 }
 
 bool ProcSimIOMem::chkAddr(int addr)

@@ -2,8 +2,6 @@
 
 #include <QString>
 
-class QWidget;
-
 namespace nsProc {
 
 class ProcSimIOPluginIf;
@@ -26,7 +24,6 @@ public:
 
     virtual ~ProcSimIOPluginIf() = default;
 
-    virtual QWidget* ioDevWidget() = 0;
     /// Device name, shown in the address line.
     virtual void setName(QString name) = 0;
     /// @param base 8, 10 or 16

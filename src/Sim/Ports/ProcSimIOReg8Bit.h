@@ -20,9 +20,6 @@ public:
     /// Value and bit field in one; a value outside of 0 to 255 is refused.
     void updateValue(int value);
 
-protected:
-    ProcSimIODeviceView* createView() override;
-
 private:
     int m_value = 0;
 };

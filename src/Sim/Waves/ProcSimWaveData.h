@@ -16,7 +16,6 @@ class ProcSimWaveData
 {
 public:
     enum eAccessType_t { eAccessRd = 0, eAccessWr = 1 };
-    enum eWaveKind_t { eWaveNumeric = 0, eWaveBit = 1 };
 
     /// A value and the clock count at which it passed.
     struct sValue_t
@@ -55,19 +54,6 @@ public:
         std::vector<sValue_t> values; ///< in the order of time
         std::vector<sBits_t> blocks;  ///< the bits of each blockSize values, the last block may be a part
         bool dropped = false;         ///< the oldest values were deleted to limit the memory
-    };
-
-    /// One row of the display: a channel's number, or one of its bits.
-    struct sWave_t
-    {
-        int index = 0; ///< running number
-        int kind = eWaveNumeric;
-        int maximum = 255; ///< 255 for a number, 1 for a bit
-        int bit = 0;       ///< of a bit: 0 to 7
-        QString name;
-        sAddrChannel_t* channel = nullptr; ///< not owned
-        int top = 0;                       ///< place of the row on the screen, pixels
-        int height = 0;                    ///< pixels
     };
 
     static constexpr size_t blockSize = 64;

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+class CfgStore;
+
 namespace nsModPrj {
 
 /// Title, version and comment of a project.
@@ -11,9 +13,13 @@ public:
     /// Sets the defaults: title "Untitled" in the user's language, version "0.1", no comment.
     PrjConfig();
 
-    QString cfgTitle;   ///< key "PrjInfo/title"
-    QString cfgVersion; ///< key "PrjInfo/version"
-    QString cfgComment; ///< key "PrjInfo/comment"
+    /// Takes all three out of the tree; a missing one becomes a null string.
+    void rdPrjConfig(CfgStore* tree);
+    void wrPrjConfig(CfgStore* tree) const;
+
+    QString cfgTitle;
+    QString cfgVersion;
+    QString cfgComment;
 };
 
 } // namespace nsModPrj
