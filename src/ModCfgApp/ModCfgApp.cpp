@@ -32,6 +32,7 @@ QString settingsFile()
 
 ModCfgApp::ModCfgApp(QObject* parent)
     : CfgTree(parent)
+    , CfgLookAccess(this)
 {
     getNode(QStringList())->setName(rootName);
 }
@@ -167,46 +168,6 @@ void ModCfgApp::unregisterPlugin(ModCfgAppPluginIf* plugin)
 
 // --- settings ---
 
-QString ModCfgApp::value(QString key, QString dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModCfgApp::setValue(QString key, QString value)
-{
-    CfgTree::setValue(key, value);
-}
-
-int ModCfgApp::value(QString key, int dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModCfgApp::setValue(QString key, int value)
-{
-    CfgTree::setValue(key, value);
-}
-
-QStringList ModCfgApp::value(QString key, QStringList dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModCfgApp::setValue(QString key, QStringList value)
-{
-    CfgTree::setValue(key, value);
-}
-
-QColor ModCfgApp::value(QString key, QColor dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModCfgApp::setValue(QString key, QColor value)
-{
-    CfgTree::setValue(key, value);
-}
-
 QDate ModCfgApp::value(QString key, QDate dflt)
 {
     return CfgTree::value(key, dflt);
@@ -215,16 +176,6 @@ QDate ModCfgApp::value(QString key, QDate dflt)
 void ModCfgApp::setValue(QString key, QDate value)
 {
     CfgTree::setValue(key, value);
-}
-
-QFont ModCfgApp::font(QString key, QFont dflt)
-{
-    return CfgTree::font(key, dflt);
-}
-
-void ModCfgApp::setFont(QString key, QFont value)
-{
-    CfgTree::setFont(key, value);
 }
 
 // --- life cycle ---

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CfgLookAccess.h"
 #include "CfgTree.h"
 #include "ModCfgAppHookIf.h"
 #include "ModCfgAppPluginIf.h"
@@ -16,7 +17,10 @@ namespace nsModCfgApp {
 ///
 /// The file is replaced in one step, so it always holds the old or the new settings. A file that can not be written is
 /// reported; one that can not be read counts as missing.
-class ModCfgApp : public CfgTree, public ModCfgAppHookIf, public ModPluginIf, public ModMsgPluginIfInterMod
+class ModCfgApp : public CfgTree,
+                  public CfgLookAccess<ModCfgAppHookIf>,
+                  public ModPluginIf,
+                  public ModMsgPluginIfInterMod
 {
     Q_OBJECT
 
@@ -38,18 +42,12 @@ public:
     void unregisterPlugin(ModCfgAppPluginIf* plugin) override;
     /// A key with an empty value is not stored: its default returns at the next start.
     void saveAppConfig() override;
-    QString value(QString key, QString dflt) override;
-    void setValue(QString key, QString value) override;
-    int value(QString key, int dflt) override;
-    void setValue(QString key, int value) override;
-    QStringList value(QString key, QStringList dflt) override;
-    void setValue(QString key, QStringList value) override;
-    QColor value(QString key, QColor dflt) override;
-    void setValue(QString key, QColor value) override;
+    using CfgLookAccess::font;
+    using CfgLookAccess::setFont;
+    using CfgLookAccess::setValue;
+    using CfgLookAccess::value;
     QDate value(QString key, QDate dflt) override;
     void setValue(QString key, QDate value) override;
-    QFont font(QString key, QFont dflt) override;
-    void setFont(QString key, QFont value) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;

@@ -1,7 +1,6 @@
 #include "ModPrj.h"
 
 #include "PrjConfigPage.h"
-#include "PrjFile.h"
 #include "PrjMngrWidget.h"
 
 #include "ModActionHookIf.h"
@@ -15,16 +14,10 @@
 
 namespace nsModPrj {
 
-namespace {
-
-const QString keyTitle = QStringLiteral("PrjInfo/title");
-const QString keyVersion = QStringLiteral("PrjInfo/version");
-const QString keyComment = QStringLiteral("PrjInfo/comment");
-
-} // namespace
-
 ModPrj::ModPrj(QObject* parent)
     : CfgTree(parent)
+    , CfgLookAccess(this)
+    , m_project(this, this)
 {
 }
 
@@ -38,40 +31,22 @@ ModPrj::~ModPrj()
 
 bool ModPrj::readPrjFile(CfgTree* tree, QString file)
 {
-    QString message;
-    if (PrjFile::read(tree, file, &message))
-        return true;
-    error(message);
-    return false;
+    return Project::readFile(tree, file, modMsgHook);
 }
 
 bool ModPrj::savePrjFile(CfgTree* tree, QString file)
 {
-    QString message;
-    QString reason;
-    QStringList dropped;
-    const bool success = PrjFile::write(tree, file, &dropped, &message, &reason);
-    for (const QString& key : dropped)
-        warning(tr("Project setting can not be saved: ") + key);
-    if (!success)
-        error(message);
-    if (!reason.isEmpty())
-        info(tr("Reason: ") + reason);
-    return success;
+    return Project::writeFile(tree, file, modMsgHook);
 }
 
 void ModPrj::rdPrjInfo(CfgTree* tree, PrjConfig* config)
 {
-    config->cfgTitle = tree->value(keyTitle, QString());
-    config->cfgVersion = tree->value(keyVersion, QString());
-    config->cfgComment = tree->value(keyComment, QString());
+    config->rdPrjConfig(tree);
 }
 
 void ModPrj::wrPrjInfo(CfgTree* tree, const PrjConfig& config)
 {
-    tree->setValue(keyTitle, config.cfgTitle);
-    tree->setValue(keyVersion, config.cfgVersion);
-    tree->setValue(keyComment, config.cfgComment);
+    config.wrPrjConfig(tree);
 }
 
 // --- open, save, close ---
@@ -101,9 +76,7 @@ bool ModPrj::openPrjInGroup(const QString& file)
     const bool wasOpen = isValid();
     if (wasOpen)
         closePrj();
-    // A file with an error may have left a part in the tree.
-    CfgTree::clear();
-    if (!readPrjFile(this, file)) {
+    if (!m_project.open(file, modMsgHook)) {
         // Without a project the window shows the project manager.
         if (wasOpen) {
             prjMngrSetup();
@@ -111,11 +84,8 @@ bool ModPrj::openPrjInGroup(const QString& file)
         }
         return false;
     }
-    m_path = QFileInfo(file).absoluteFilePath();
     const int serial = ++m_openCount;
     const auto isOpen = [this, serial] { return isValid() && m_openCount == serial; };
-    info(tr("Open project: ") + file);
-    rdPrjInfo(this, this);
     // A client may close the project, or open another one; the clients after it then have nothing to read.
     m_plugins.forEach([&](ModPrjPluginIf* plugin) {
         if (isOpen())
@@ -134,7 +104,7 @@ bool ModPrj::openPrjInGroup(const QString& file)
     if (m_page)
         m_page->setConfig(*this);
     setWindowTitle();
-    info(tr("Open project: Done"));
+    Project::reportOpened(modMsgHook);
     return true;
 }
 
@@ -156,7 +126,7 @@ bool ModPrj::saveOpenPrj()
     info(tr("Saving project configuration"));
     wrPrjInfo(this, *this);
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjSave(); });
-    const bool saved = savePrjFile(this, m_path);
+    const bool saved = m_project.write(modMsgHook);
     m_saving = false;
     return saved;
 }
@@ -178,8 +148,7 @@ bool ModPrj::closePrj()
         }
         modGuiHook->setWindowTitle(QString());
     }
-    m_path.clear();
-    CfgTree::clear();
+    m_project.close();
     updateCloseAction();
     if (m_page)
         m_page->setDefaultConfig();
@@ -236,78 +205,26 @@ void ModPrj::unregisterPlugin(ModPrjPluginIf* plugin)
     plugin->modPrjHook = nullptr;
 }
 
-// --- settings ---
-
 bool ModPrj::isValid()
 {
-    return !m_path.isEmpty();
-}
-
-QString ModPrj::value(QString key, QString dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModPrj::setValue(QString key, QString value)
-{
-    CfgTree::setValue(key, value);
-}
-
-int ModPrj::value(QString key, int dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModPrj::setValue(QString key, int value)
-{
-    CfgTree::setValue(key, value);
-}
-
-QStringList ModPrj::value(QString key, QStringList dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModPrj::setValue(QString key, QStringList value)
-{
-    CfgTree::setValue(key, value);
-}
-
-QColor ModPrj::value(QString key, QColor dflt)
-{
-    return CfgTree::value(key, dflt);
-}
-
-void ModPrj::setValue(QString key, QColor value)
-{
-    CfgTree::setValue(key, value);
-}
-
-QFont ModPrj::font(QString key, QFont dflt)
-{
-    return CfgTree::font(key, dflt);
-}
-
-void ModPrj::setFont(QString key, QFont value)
-{
-    CfgTree::setFont(key, value);
+    return m_project.isOpen();
 }
 
 // --- place and name ---
 
 QDir ModPrj::prjDir()
 {
-    return isValid() ? QFileInfo(m_path).dir() : QDir(QLatin1String(""));
+    return m_project.dir();
 }
 
 QString ModPrj::prjFileName()
 {
-    return isValid() ? QFileInfo(m_path).fileName() : QString();
+    return m_project.fileName();
 }
 
 QString ModPrj::convToRelPath(QString path)
 {
-    return isValid() ? prjDir().relativeFilePath(path) : path;
+    return m_project.convToRelPath(path);
 }
 
 void ModPrj::convToRelPath(QString* path)
@@ -318,7 +235,7 @@ void ModPrj::convToRelPath(QString* path)
 
 QString ModPrj::convToAbsPath(QString path)
 {
-    return isValid() ? prjDir().absoluteFilePath(path) : path;
+    return m_project.convToAbsPath(path);
 }
 
 void ModPrj::convToAbsPath(QString* path)
@@ -384,7 +301,7 @@ bool ModPrj::askToTryAgain()
 {
     QMessageBox box(QMessageBox::Warning, tr("Project can not be saved"),
                     QLatin1String("<p>") + tr("The project file can not be written:") + QLatin1String("</p><p><b>") +
-                        m_path.toHtmlEscaped() + QLatin1String("</b><p><p>") +
+                        m_project.path().toHtmlEscaped() + QLatin1String("</b><p><p>") +
                         tr("Without the file, the changes of the project are lost.") + QLatin1String("</p>"),
                     QMessageBox::Retry | QMessageBox::Discard, QApplication::activeWindow());
     box.setDefaultButton(QMessageBox::Retry);
@@ -493,8 +410,8 @@ void ModPrj::setWindowTitle()
 {
     if (!isValid() || modGuiHook == nullptr)
         return;
-    modGuiHook->setWindowTitle(convToRelPath(m_path) + tr(" ( Title: ") + cfgTitle + tr(", Project version: ") +
-                               cfgVersion + QLatin1Char(')'));
+    modGuiHook->setWindowTitle(convToRelPath(m_project.path()) + tr(" ( Title: ") + cfgTitle +
+                               tr(", Project version: ") + cfgVersion + QLatin1Char(')'));
 }
 
 void ModPrj::updateCloseAction()

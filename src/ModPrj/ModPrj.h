@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CfgLookAccess.h"
 #include "CfgTree.h"
 #include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
@@ -15,6 +16,7 @@
 #include "PluginList.h"
 #include "PrjActions.h"
 #include "PrjConfig.h"
+#include "Project.h"
 
 #include <QPointer>
 
@@ -31,7 +33,7 @@ class PrjConfigPage;
 ///
 /// In a program without a main window (no ModGuiHookIf) only savePrjCfg() writes the project: closing drops it.
 class ModPrj : public CfgTree,
-               public ModPrjHookIf,
+               public CfgLookAccess<ModPrjHookIf>,
                public ModPluginIf,
                public ModCfgAppPluginIf,
                public ModMsgPluginIf,
@@ -95,16 +97,10 @@ public:
     void unregisterPlugin(ModPrjPluginIf* plugin) override;
     bool isValid() override;
     void savePrjCfg() override;
-    QString value(QString key, QString dflt) override;
-    void setValue(QString key, QString value) override;
-    int value(QString key, int dflt) override;
-    void setValue(QString key, int value) override;
-    QStringList value(QString key, QStringList dflt) override;
-    void setValue(QString key, QStringList value) override;
-    QColor value(QString key, QColor dflt) override;
-    void setValue(QString key, QColor value) override;
-    QFont font(QString key, QFont dflt) override;
-    void setFont(QString key, QFont value) override;
+    using CfgLookAccess::font;
+    using CfgLookAccess::setFont;
+    using CfgLookAccess::setValue;
+    using CfgLookAccess::value;
     QDir prjDir() override;
     QString prjFileName() override;
     QString convToRelPath(QString path) override;
@@ -166,7 +162,7 @@ private:
     void warning(const QString& text);
     void error(const QString& text);
 
-    QString m_path;      ///< absolute path of the project file; empty: no project is open
+    Project m_project;   ///< over this module's tree
     int m_openCount = 0; ///< number of projects opened so far, to detect that another project was opened
     bool m_saving = false;
     bool m_exiting = false; ///< the program ends

@@ -115,7 +115,7 @@ bool ModPrj::prjMngrAddToCollection(const QString& file)
 bool ModPrj::prjMngrGenerate(const QString& file, const QString& title)
 {
     // Closing writes the open project into its file, so it must happen before the new content is written.
-    if (isValid() && isSameFile(file, m_path))
+    if (isValid() && isSameFile(file, m_project.path()))
         closePrj();
     CfgTree tree;
     PrjConfig config;

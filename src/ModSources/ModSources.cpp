@@ -9,16 +9,9 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 #include <QMessageBox>
 
 namespace nsModSources {
-
-namespace {
-
-const QString keySrcFiles = QStringLiteral("sources/srcFiles");
-
-} // namespace
 
 ModSources::ModSources(QObject* parent)
     : QObject(parent)
@@ -116,26 +109,7 @@ bool ModSources::askToAdd(const QString& path)
 
 void ModSources::prjOpen()
 {
-    srcFiles.clear();
-    m_vanishedFiles.clear();
-    if (modPrjHook == nullptr)
-        return;
-    for (const QString& entry : modPrjHook->value(keySrcFiles, QStringList())) {
-        // The list has one spelling of each path, also outside of the project's folder.
-        const QString path = QDir::cleanPath(modPrjHook->convToAbsPath(entry));
-        const QFileInfo info(path);
-        if (!info.exists()) {
-            if (modMsgHook != nullptr)
-                modMsgHook->showErrorMessage(tr("File does not exist: ") + path);
-            m_vanishedFiles.append(path);
-            continue;
-        }
-        if (modMsgHook != nullptr && !info.isReadable())
-            modMsgHook->showWarningMessage(tr("No read access for file: ") + path);
-        if (modMsgHook != nullptr && !info.isWritable())
-            modMsgHook->showWarningMessage(tr("File is not writable: ") + path);
-        srcFiles.append(path);
-    }
+    rdSourcesConfig(modPrjHook, modMsgHook);
 }
 
 void ModSources::prjOpened()
@@ -145,28 +119,13 @@ void ModSources::prjOpened()
 
 void ModSources::prjSave()
 {
-    if (modPrjHook == nullptr)
-        return;
-    QStringList list;
-    for (const QString& path : srcFiles)
-        list.append(modPrjHook->convToRelPath(path));
-    modPrjHook->setValue(keySrcFiles, list);
-    reportVanishedFiles();
-}
-
-void ModSources::reportVanishedFiles()
-{
-    for (const QString& path : qAsConst(m_vanishedFiles)) {
-        if (modMsgHook != nullptr && !srcFiles.contains(path))
-            modMsgHook->showWarningMessage(tr("Removed from the project, as it did not exist: ") + path);
-    }
-    m_vanishedFiles.clear();
+    if (modPrjHook != nullptr)
+        wrSourcesConfig(modPrjHook, modMsgHook);
 }
 
 void ModSources::prjClose()
 {
-    srcFiles.clear();
-    m_vanishedFiles.clear();
+    clearSourcesConfig();
     if (m_page)
         m_page->setConfig(QStringList(), QDir());
 }

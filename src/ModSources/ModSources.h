@@ -71,11 +71,9 @@ protected:
 private:
     void setFilesListChanged();
     bool askToAdd(const QString& path);
-    void reportVanishedFiles();
 
     PluginList<ModSourcesPluginIf> m_plugins;
     QPointer<SourcesConfigPage> m_page; ///< while the configuration dialog is open
-    QStringList m_vanishedFiles;        ///< entries without a file: the next save drops and reports them
 };
 
 } // namespace nsModSources

@@ -6,18 +6,20 @@ namespace nsProc {
 
 /// The forms that an instruction can have, with the order of the checks of its arguments.
 enum eInstrForm_t {
-    formTwoOperand, ///< register and number, or two registers
-    formPort,       ///< register and port number, or register and register in parentheses; or number and constant port
-    formScrpd,      ///< register and scratchpad address, or register and register in parentheses
-    formFlow,       ///< label, or flag and label; or two registers in parentheses
-    formReturn,     ///< nothing, or a flag
-    formSwitch,     ///< DISABLE or ENABLE
-    formNone,       ///< no argument
-    formReg,        ///< one register
-    formRegNumber,  ///< register and number
-    formRotate,     ///< one register, or two of them
-    formFlag,       ///< C or Z
-    formBank,       ///< a register bank
+    formUnsupported, ///< the processor does not have the instruction
+    formSimulated,   ///< there is no word for the instruction, but the simulator executes it
+    formTwoOperand,  ///< register and number, or two registers
+    formPort,        ///< register and port number, or register and register in parentheses; or number and constant port
+    formScrpd,       ///< register and scratchpad address, or register and register in parentheses
+    formFlow,        ///< label, or flag and label; or two registers in parentheses
+    formReturn,      ///< nothing, or a flag
+    formSwitch,      ///< DISABLE or ENABLE
+    formNone,        ///< no argument
+    formReg,         ///< one register
+    formRegNumber,   ///< register and number
+    formRotate,      ///< one register, or two of them
+    formFlag,        ///< C or Z
+    formBank,        ///< a register bank
 };
 
 // Places in sInstr_t::words, by form. The others have one word, in the first place.
@@ -42,18 +44,22 @@ struct sInstr_t
 /// How a processor's words are laid out, and its limits.
 struct sInstrLayout_t
 {
-    int dstShift;      ///< place of the first register
-    int srcShift;      ///< place of the second register
-    int addrShift;     ///< place of a port number or scratchpad address
-    int maxNumber;     ///< largest immediate
-    int maxPort;       ///< largest port number
-    int addrBits;      ///< width of an address in a jump; higher bits of it are not encoded
-    bool relativeFlow; ///< jumps hold the distance to their target, in 12 bits
-    bool portIsNumber; ///< a port number that is too large is reported as a number that is too large
+    int dstShift = 0;          ///< place of the first register
+    int srcShift = 0;          ///< place of the second register
+    int regBits = 0;           ///< width of a register
+    int addrShift = 0;         ///< place of a port number or scratchpad address
+    int portBits = 0;          ///< width of a port number; higher bits of it lie over the first register
+    int scrpdBits = 0;         ///< width of a scratchpad address; likewise
+    int maxNumber = 0;         ///< largest immediate, which stands in the lowest bits
+    int maxPort = 0;           ///< largest port number
+    int flowBits = 0;          ///< width of an address in a jump; higher bits of it are not encoded
+    bool relativeFlow = false; ///< jumps hold the distance to their target
+    bool portIsNumber = false; ///< a port number that is too large is reported as a number that is too large
+    int constantShift = 4;     ///< place of the number in a write of a constant; its port stands in the lowest bits
+    int maxConstantPort = 15;  ///< largest port of such a write
 };
 
-/// The number and the constant port of a write of a constant.
-const int constantShift = 4;
-const int maxConstantPort = 15;
+/// Width of a machine word.
+const int instrWordBits = 18;
 
 } // namespace nsProc

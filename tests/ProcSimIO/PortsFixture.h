@@ -5,6 +5,7 @@
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIO.h"
+#include "ProcSimIODeviceView.h"
 #include "ProcSimIOFifo.h"
 #include "ProcSimIOMem.h"
 #include "ProcSimIOReg8Bit.h"
@@ -58,16 +59,16 @@ protected:
 
     /// A control of a card, by its object name.
     template <typename Widget>
-    static Widget* part(nsProc::ProcSimIOPluginIf* device, const char* name)
+    Widget* part(nsProc::ProcSimIOPluginIf* device, const char* name) const
     {
-        auto* widget = device->ioDevWidget()->findChild<Widget*>(name);
+        auto* widget = dock.viewOf(device)->findChild<Widget*>(name);
         EXPECT_NE(widget, nullptr) << name;
         return widget;
     }
     /// A number field of a card, by its tool tip.
-    static nsProc::ProcSimEdtNumeric* field(nsProc::ProcSimIOPluginIf* device, const char* toolTip)
+    nsProc::ProcSimEdtNumeric* field(nsProc::ProcSimIOPluginIf* device, const char* toolTip) const
     {
-        const auto fields = device->ioDevWidget()->findChildren<nsProc::ProcSimEdtNumeric*>();
+        const auto fields = dock.viewOf(device)->findChildren<nsProc::ProcSimEdtNumeric*>();
         for (auto* edit : fields) {
             if (edit->toolTip() == toolTip)
                 return edit;
@@ -81,7 +82,7 @@ protected:
         QTest::keyClick(field, Qt::Key_A, Qt::ControlModifier);
         QTest::keyClicks(field, text);
     }
-    static void click(nsProc::ProcSimIOPluginIf* device, const char* button)
+    void click(nsProc::ProcSimIOPluginIf* device, const char* button) const
     {
         QTest::mouseClick(part<QToolButton>(device, button), Qt::LeftButton);
     }

@@ -15,8 +15,8 @@ using namespace nsProc;
 class PortsCards : public PortsFixture
 {
 protected:
-    static ProcSimEdtFifo* list(ProcSimIOFifo* fifo) { return part<ProcSimEdtFifo>(fifo, "procSimEdtFifo"); }
-    static ProcSimEdtMemArray* array(ProcSimIOMem* mem) { return part<ProcSimEdtMemArray>(mem, "procSimEdtMemArray"); }
+    ProcSimEdtFifo* list(ProcSimIOFifo* fifo) const { return part<ProcSimEdtFifo>(fifo, "procSimEdtFifo"); }
+    ProcSimEdtMemArray* array(ProcSimIOMem* mem) const { return part<ProcSimEdtMemArray>(mem, "procSimEdtMemArray"); }
 };
 
 TEST_F(PortsCards, ARegisterThatTheReadAddedTakesWhatIsTyped)
@@ -40,7 +40,7 @@ TEST_F(PortsCards, ARegisterThatTheReadAddedTakesWhatIsTyped)
 TEST_F(PortsCards, BitsAndNumberKeepInStep)
 {
     auto* reg = addReg(1);
-    auto bits = reg->ioDevWidget()->findChildren<ProcSimEdtBit*>();
+    auto bits = dock.viewOf(reg)->findChildren<ProcSimEdtBit*>();
     ASSERT_EQ(bits.size(), 8);
     QTest::mouseClick(bits.first(), Qt::LeftButton);
     EXPECT_EQ(reg->regValue(), 0x80) << "the most significant bit stands at the left";

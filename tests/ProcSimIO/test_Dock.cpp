@@ -69,7 +69,7 @@ TEST_F(PortsDock, AClosedDeviceIsReplacedByTheNextAccess)
 {
     ports->setValue(9, "OUT", 1);
     dock.refresh();
-    QPointer<QWidget> view = ports->devices().first()->ioDevWidget();
+    QPointer<QWidget> view = dock.viewOf(ports->devices().first());
     auto* close = part<QToolButton>(ports->devices().first(), "procSimIOClose");
     EXPECT_EQ(close->toolTip(), "Close device");
     QTest::mouseClick(close, Qt::LeftButton);
@@ -121,13 +121,13 @@ TEST(PortsDockLife, DevicesOutliveTheDockAndShowUpInTheNext)
     {
         ProcSimIO dock(ports);
         dock.show();
-        view = ports->devices().first()->ioDevWidget();
+        view = dock.viewOf(ports->devices().first());
         EXPECT_TRUE(dock.isAncestorOf(view));
     }
     EXPECT_TRUE(view.isNull());
     ports->setValue(3, "OUT", 2);
     ProcSimIO dock(ports);
-    EXPECT_TRUE(dock.isAncestorOf(ports->devices().first()->ioDevWidget()));
+    EXPECT_TRUE(dock.isAncestorOf(dock.viewOf(ports->devices().first())));
     dock.removeIOPlugins();
     EXPECT_TRUE(ports->devices().isEmpty());
 }

@@ -20,7 +20,7 @@ protected:
             result << fifo->lines().text(line);
         return result;
     }
-    static ProcSimEdtFifo* list(ProcSimIOFifo* fifo) { return part<ProcSimEdtFifo>(fifo, "procSimEdtFifo"); }
+    ProcSimEdtFifo* list(ProcSimIOFifo* fifo) const { return part<ProcSimEdtFifo>(fifo, "procSimEdtFifo"); }
 };
 
 TEST_F(PortsLiveEdits, OneBitLeavesTheSevenOthersAsTheProgramHasThem)
@@ -29,7 +29,7 @@ TEST_F(PortsLiveEdits, OneBitLeavesTheSevenOthersAsTheProgramHasThem)
     ports->setValue(1, "P", 114);
     dock.refresh();
     ports->setValue(1, "P", 72);
-    const auto bits = reg->ioDevWidget()->findChildren<ProcSimEdtBit*>();
+    const auto bits = dock.viewOf(reg)->findChildren<ProcSimEdtBit*>();
     ASSERT_EQ(bits.size(), 8);
     QTest::mouseClick(bits.first(), Qt::LeftButton);
     EXPECT_EQ(reg->regValue(), 200);

@@ -37,10 +37,10 @@ TEST_F(WaveViewer, addAddrChannelMakesANumberAndEightBits)
     showAll();
     const auto shown = waves->waves();
     ASSERT_EQ(shown.size(), 9);
-    EXPECT_EQ(shown[0]->kind, Data::eWaveNumeric);
+    EXPECT_EQ(shown[0]->kind, nsProc::eWaveNumeric);
     EXPECT_EQ(shown[0]->maximum, 255);
     for (int bit = 7; bit >= 0; --bit) {
-        EXPECT_EQ(shown[8 - bit]->kind, Data::eWaveBit);
+        EXPECT_EQ(shown[8 - bit]->kind, nsProc::eWaveBit);
         EXPECT_EQ(shown[8 - bit]->maximum, 1);
         EXPECT_EQ(shown[8 - bit]->bit, bit);
         EXPECT_EQ(shown[8 - bit]->channel, viewer->data()->channel(0x10, wr));

@@ -9,6 +9,7 @@
 #include "ProcSimCore.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIO.h"
+#include "ProcSimIODeviceView.h"
 #include "ProcSimIOPluginIf.h"
 #include "ProcSimStatusBar.h"
 #include "ProcSimWaveViewer.h"
@@ -83,7 +84,7 @@ TEST_F(SimControl, ValueForANewPortIsTypedInAndRead)
     EXPECT_EQ(messages("An IO device was added to read. Please type in your value."), 1);
     EXPECT_EQ(pcLine(), 1);
     ASSERT_EQ(sim()->ports()->devices().size(), 1);
-    QWidget* card = sim()->ports()->devices().first()->ioDevWidget();
+    QWidget* card = sim()->ioWidget()->viewOf(sim()->ports()->devices().first());
     nsProc::ProcSimEdtNumeric* value = nullptr;
     bool isNamed = false;
     for (nsProc::ProcSimEdtNumeric* field : card->findChildren<nsProc::ProcSimEdtNumeric*>()) {

@@ -10,6 +10,7 @@
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIO.h"
+#include "ProcSimIODeviceView.h"
 #include "ProcSimIOFifo.h"
 #include "ProcSimIOPluginIf.h"
 #include "ProcSimIOReg8Bit.h"
@@ -78,7 +79,7 @@ protected:
             count += int(sim()->core()->scrpdHighlighted() == addr);
         return count;
     }
-    QWidget* card(int device) const { return sim()->ports()->devices().at(device)->ioDevWidget(); }
+    QWidget* card(int device) const { return sim()->ioWidget()->viewOf(sim()->ports()->devices().at(device)); }
     QString cardText(int device, const QString& toolTip) const
     {
         auto* found = byToolTip<ProcSimEdtNumeric>(card(device), toolTip);

@@ -1,6 +1,7 @@
 #include "ProcSimIO.h"
 
 #include "ProcSimIODeviceView.h"
+#include "ProcSimIOViewFactory.h"
 
 #include <QComboBox>
 #include <QEvent>
@@ -11,6 +12,8 @@
 #include <QScrollBar>
 #include <QTimer>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace nsProc {
 
@@ -119,12 +122,22 @@ void ProcSimIO::addColumn(QVBoxLayout* layout)
     layout->addWidget(m_scroll, 1);
 }
 
+ProcSimIODeviceView* ProcSimIO::viewOf(const ProcSimIOPluginIf* device) const
+{
+    for (const sCard_t& card : m_cards) {
+        if (card.device == device)
+            return card.view;
+    }
+    return nullptr;
+}
+
 void ProcSimIO::deviceAdded(ProcSimIOPluginIf* device)
 {
-    auto* view = qobject_cast<ProcSimIODeviceView*>(device->ioDevWidget());
+    ProcSimIODeviceView* view = ProcSimIOViewFactory::createView(device);
     if (view == nullptr)
         return;
-    m_views.append(view);
+    view->refresh();
+    m_cards.append({device, view});
     m_columnLayout->insertWidget(m_columnLayout->count() - 1, view);
     view->show();
     updateColumn();
@@ -132,17 +145,27 @@ void ProcSimIO::deviceAdded(ProcSimIOPluginIf* device)
 
 void ProcSimIO::deviceRemoved(ProcSimIOPluginIf* device)
 {
-    auto* view = qobject_cast<ProcSimIODeviceView*>(device->ioDevWidget());
-    m_views.removeAll(view);
+    ProcSimIODeviceView* view = viewOf(device);
+    m_cards.erase(
+        std::remove_if(m_cards.begin(), m_cards.end(), [device](const sCard_t& card) { return card.device == device; }),
+        m_cards.end());
     if (view != nullptr)
         m_columnLayout->removeWidget(view);
     updateColumn();
+    if (view == nullptr)
+        return;
+    view->forgetDevice();
+    // A card whose close button was clicked still handles that event, so it is deleted later.
+    if (view->isClosing())
+        view->deleteLater();
+    else
+        delete view;
 }
 
 void ProcSimIO::updateColumn()
 {
-    m_hint->setVisible(m_views.isEmpty());
-    m_removeAll->setEnabled(!m_views.isEmpty());
+    m_hint->setVisible(m_cards.isEmpty());
+    m_removeAll->setEnabled(!m_cards.isEmpty());
     // Wide enough for the widest card beside the scroll bar: the column never scrolls sideways.
     const int cardWidth = qMax(minCardWidth, m_column->minimumSizeHint().width());
     m_scroll->setMinimumWidth(cardWidth + m_scroll->verticalScrollBar()->sizeHint().width());
@@ -158,9 +181,9 @@ bool ProcSimIO::eventFilter(QObject* watched, QEvent* event)
 
 void ProcSimIO::refresh()
 {
-    for (const QPointer<ProcSimIODeviceView>& view : qAsConst(m_views)) {
-        if (view != nullptr)
-            view->refresh();
+    for (const sCard_t& card : qAsConst(m_cards)) {
+        if (card.view != nullptr)
+            card.view->refresh();
     }
     if (m_ports->takeContentChanged())
         emit contentChanged(this);
@@ -179,11 +202,13 @@ void ProcSimIO::addIOPluginFromMenu()
 
 void ProcSimIO::showNew()
 {
-    if (m_views.isEmpty())
+    if (m_cards.isEmpty())
         return;
     // The column has its new height only after the layout was activated.
     m_column->layout()->activate();
-    QTimer::singleShot(0, m_views.last(), [this, view = m_views.last()] { m_scroll->ensureWidgetVisible(view, 0, 8); });
+    ProcSimIODeviceView* view = m_cards.last().view;
+    if (view != nullptr)
+        QTimer::singleShot(0, view, [this, view] { m_scroll->ensureWidgetVisible(view, 0, 8); });
 }
 
 void ProcSimIO::removeIOPlugin(ProcSimIOPluginIf* plugin)

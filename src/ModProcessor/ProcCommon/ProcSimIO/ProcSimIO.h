@@ -47,6 +47,9 @@ public:
     /// Shows what has changed since the last call. Fast if there is no change.
     void refresh();
 
+    /// The card of a device; null if it has none.
+    ProcSimIODeviceView* viewOf(const ProcSimIOPluginIf* device) const;
+
     void deviceAdded(ProcSimIOPluginIf* device) override;
     void deviceRemoved(ProcSimIOPluginIf* device) override;
 
@@ -60,13 +63,20 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    /// A device and its card, which goes when one of the two goes.
+    struct sCard_t
+    {
+        const ProcSimIOPluginIf* device;
+        QPointer<ProcSimIODeviceView> view;
+    };
+
     void addTools(QVBoxLayout* layout);
     void addColumn(QVBoxLayout* layout);
     void updateColumn();
     void showNew();
 
     std::shared_ptr<ProcSimPorts> m_ports;
-    QVector<QPointer<ProcSimIODeviceView>> m_views;
+    QVector<sCard_t> m_cards; ///< in the order of the screen
     QComboBox* m_type = nullptr;
     QWidget* m_removeAll = nullptr;
     QScrollArea* m_scroll = nullptr;

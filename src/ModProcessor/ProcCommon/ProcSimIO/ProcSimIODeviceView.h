@@ -13,7 +13,7 @@ class ProcSimIOAddrLine;
 class ProcSimIODevice;
 
 /// The card of one device in the column of ports: a strip that shows the kind, the address line with the close button,
-/// the direction, and below what the kind of device shows. Belongs to its device.
+/// the direction, and below what the kind of device shows. Belongs to the column, which deletes it with its device.
 class ProcSimIODeviceView : public QFrame
 {
     Q_OBJECT

@@ -49,12 +49,12 @@ QSize ProcSimWaveTree::sizeHint() const
     return {180, 160};
 }
 
-ProcSimWaveTree::sWave_t* ProcSimWaveTree::waveOf(const QTreeWidgetItem* item)
+sWave_t* ProcSimWaveTree::waveOf(const QTreeWidgetItem* item)
 {
     return item == nullptr ? nullptr : static_cast<sWave_t*>(item->data(eColumnName, waveRole).value<void*>());
 }
 
-ProcSimWaveTree::sWave_t* ProcSimWaveTree::currentWave() const
+sWave_t* ProcSimWaveTree::currentWave() const
 {
     return waveOf(currentItem());
 }
@@ -85,8 +85,7 @@ void ProcSimWaveTree::addWave(sWave_t* wave)
     item->setTextAlignment(eColumnValue, Qt::AlignRight | Qt::AlignVCenter);
     m_items.insert(wave, item);
     QTreeWidgetItem* parent = nullptr;
-    for (int row = topLevelItemCount() - 1; wave->kind == ProcSimWaveData::eWaveBit && row >= 0 && parent == nullptr;
-         --row) {
+    for (int row = topLevelItemCount() - 1; wave->kind == eWaveBit && row >= 0 && parent == nullptr; --row) {
         if (waveOf(topLevelItem(row))->channel == wave->channel)
             parent = topLevelItem(row);
     }
@@ -101,7 +100,7 @@ void ProcSimWaveTree::setNames(QTreeWidgetItem* item)
 {
     sWave_t* wave = waveOf(item);
     const QString channel = channelText(wave->channel, m_base);
-    const bool isBit = wave->kind == ProcSimWaveData::eWaveBit;
+    const bool isBit = wave->kind == eWaveBit;
     const QString bit = QStringLiteral("[%1]").arg(wave->bit);
     wave->name = isBit ? channel + bit : channel;
     item->setText(eColumnName, isBit ? bit : channel);
@@ -150,11 +149,11 @@ void ProcSimWaveTree::showValues(qint64 clock)
         int value = values.empty() ? -1 : values.back().value;
         if (clock >= 0)
             value = ProcSimWavesWidget::valueAt(wave, clock);
-        else if (value >= 0 && wave->kind == ProcSimWaveData::eWaveBit)
+        else if (value >= 0 && wave->kind == eWaveBit)
             value = (value >> wave->bit) & 1;
         QString text;
         if (value >= 0)
-            text = wave->kind == ProcSimWaveData::eWaveBit ? QString::number(value) : m_waves->valueText(value);
+            text = wave->kind == eWaveBit ? QString::number(value) : m_waves->valueText(value);
         if (item->text(eColumnValue) != text)
             item->setText(eColumnValue, text);
     };

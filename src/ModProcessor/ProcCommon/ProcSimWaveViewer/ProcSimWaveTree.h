@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimWave.h"
 #include "ProcSimWaveData.h"
 
 #include <QHash>
@@ -20,7 +21,6 @@ class ProcSimWaveTree : public QTreeWidget
     Q_OBJECT
 
 public:
-    using sWave_t = ProcSimWaveData::sWave_t;
     using sAddrChannel_t = ProcSimWaveData::sAddrChannel_t;
 
     /// @param waves draws what is visible here; not owned, must outlive this

@@ -33,7 +33,13 @@ const int addrWidth = 112; ///< of the field for a port, pixels: a name of usual
 } // namespace
 
 ProcSimWaveViewer::ProcSimWaveViewer(double clkFreq, QWidget* parent)
+    : ProcSimWaveViewer(std::make_shared<ProcSimWaveData>(), clkFreq, parent)
+{
+}
+
+ProcSimWaveViewer::ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, double clkFreq, QWidget* parent)
     : QWidget(parent)
+    , m_data(std::move(data))
     , m_clkFreq(clkFreq)
 {
     setObjectName(QStringLiteral("procSimWaveViewer"));
@@ -207,7 +213,7 @@ QWidget* ProcSimWaveViewer::makePanes()
     splitter->setChildrenCollapsible(false);
     auto* left = new QWidget(splitter);
     auto* right = new QWidget(splitter);
-    m_wavesWidget = new ProcSimWavesWidget(&m_data, m_clkFreq, right);
+    m_wavesWidget = new ProcSimWavesWidget(m_data.get(), m_clkFreq, right);
     m_tree = new ProcSimWaveTree(m_wavesWidget, left);
     m_scrollBar = new QScrollBar(Qt::Horizontal, right);
     m_scrollBar->setObjectName(QStringLiteral("procSimWaveScrollBar"));
@@ -245,7 +251,7 @@ void ProcSimWaveViewer::setupOrder()
 
 void ProcSimWaveViewer::updateButtons()
 {
-    const bool some = !m_data.isEmpty();
+    const bool some = !m_data->isEmpty();
     for (QAbstractButton* button : {m_removeAll, m_zoomOut, m_zoomIn, m_fit, m_end, m_save})
         button->setEnabled(some);
 }
@@ -279,7 +285,7 @@ void ProcSimWaveViewer::setPortNames(NameOf nameOf, AddrOf addrOf)
 
 void ProcSimWaveViewer::updatePortNames()
 {
-    for (const auto& channel : m_data.channels()) {
+    for (const auto& channel : m_data->channels()) {
         // A name that is still valid is kept, as the user may have chosen it among several.
         if (m_addrOf && !channel->name.isEmpty() && m_addrOf(channel->name) == channel->addr)
             continue;
@@ -333,13 +339,13 @@ void ProcSimWaveViewer::showProblem(bool isProblem)
 
 void ProcSimWaveViewer::clearValues()
 {
-    m_data.clearValues();
+    m_data->clearValues();
     refresh();
 }
 
 void ProcSimWaveViewer::clearAddrChannelValues(sAddrChannel_t* channel)
 {
-    m_data.clearValues(channel);
+    m_data->clearValues(channel);
     refresh();
 }
 
@@ -359,28 +365,28 @@ void ProcSimWaveViewer::addWave(bool)
 
 void ProcSimWaveViewer::addValue(int addr, eAccessType_t access, const QString& name, int value, qint64 clock)
 {
-    sAddrChannel_t* channel = m_data.channel(addr, access);
+    sAddrChannel_t* channel = m_data->channel(addr, access);
     if (channel == nullptr)
         return;
     if (channel->name.isEmpty() && !name.isEmpty()) {
         channel->name = name;
         m_tree->setBase(m_base);
     }
-    m_data.addValue(addr, access, value, clock);
+    m_data->addValue(addr, access, value, clock);
 }
 
 bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initValue, const QString& name)
 {
     const bool isNamed = !name.isEmpty() || !m_nameOf;
-    sAddrChannel_t* channel = m_data.addChannel(addr, access, isNamed ? name : m_nameOf(addr, access));
+    sAddrChannel_t* channel = m_data->addChannel(addr, access, isNamed ? name : m_nameOf(addr, access));
     if (channel == nullptr) {
-        const sAddrChannel_t* present = m_data.channel(addr, access);
+        const sAddrChannel_t* present = m_data->channel(addr, access);
         m_tree->selectChannel(present);
         say(tr("\"%1\" is shown already.").arg(ProcSimWaveTree::channelText(present, m_base)));
         return false;
     }
     if (initValue >= 0)
-        m_data.addValue(addr, access, initValue, m_data.clock());
+        m_data->addValue(addr, access, initValue, m_data->clock());
     const auto add = [this, channel](int kind, int maximum, int bit) {
         m_waves.push_back(std::make_unique<sWave_t>());
         sWave_t* wave = m_waves.back().get();
@@ -391,9 +397,9 @@ bool ProcSimWaveViewer::addAddrChannel(int addr, eAccessType_t access, int initV
         wave->channel = channel;
         m_tree->addWave(wave);
     };
-    add(ProcSimWaveData::eWaveNumeric, 255, 0);
+    add(eWaveNumeric, 255, 0);
     for (int bit = 7; bit >= 0; --bit)
-        add(ProcSimWaveData::eWaveBit, 1, bit);
+        add(eWaveBit, 1, bit);
     m_tree->selectChannel(channel);
     say({});
     updateButtons();
@@ -407,8 +413,8 @@ void ProcSimWaveViewer::removeAddrChannel(sAddrChannel_t* channel)
     m_waves.erase(std::remove_if(m_waves.begin(), m_waves.end(),
                                  [channel](const auto& wave) { return wave->channel == channel; }),
                   m_waves.end());
-    m_data.removeChannel(channel);
-    if (m_data.isEmpty())
+    m_data->removeChannel(channel);
+    if (m_data->isEmpty())
         m_wavesWidget->clear();
     say({});
     updateButtons();
@@ -420,7 +426,7 @@ void ProcSimWaveViewer::clear(bool)
     m_tree->clear();
     m_wavesWidget->clear();
     m_waves.clear();
-    m_data.clear();
+    m_data->clear();
     say({});
     updateButtons();
     refresh();
@@ -428,16 +434,16 @@ void ProcSimWaveViewer::clear(bool)
 
 void ProcSimWaveViewer::setClock(qint64 clock)
 {
-    m_data.setClock(clock);
+    m_data->setClock(clock);
 }
 
 void ProcSimWaveViewer::refresh()
 {
-    const bool changed = m_data.changes() != m_shownChanges;
-    if (!changed && m_data.clock() == m_shownClock)
+    const bool changed = m_data->changes() != m_shownChanges;
+    if (!changed && m_data->clock() == m_shownClock)
         return;
-    m_shownChanges = m_data.changes();
-    m_shownClock = m_data.clock();
+    m_shownChanges = m_data->changes();
+    m_shownClock = m_data->clock();
     m_stale = !isVisible();
     if (!m_stale) {
         m_wavesWidget->refresh();
@@ -465,7 +471,7 @@ void ProcSimWaveViewer::showMoment(qint64 pointed)
 {
     const ProcSimWaveTime& time = m_wavesWidget->time();
     const qint64 marker = m_wavesWidget->marker();
-    if (m_data.isEmpty())
+    if (m_data->isEmpty())
         m_moment->clear();
     else if (pointed >= 0 && marker >= 0)
         m_moment->setText(tr("%1, %2%3 from marker")
@@ -476,13 +482,13 @@ void ProcSimWaveViewer::showMoment(qint64 pointed)
     else if (marker >= 0)
         m_moment->setText(tr("Marker at %1").arg(time.unitText(marker)));
     else
-        m_moment->setText(tr("Now %1").arg(time.unitText(m_data.clock())));
+        m_moment->setText(tr("Now %1").arg(time.unitText(m_data->clock())));
 }
 
 QString ProcSimWaveViewer::saveVcd(const QString& path) const
 {
     SafeFile file(path);
-    if (!file.open() || !ProcSimVcd::write(&file, m_data, m_clkFreq) || !file.commit())
+    if (!file.open() || !ProcSimVcd::write(&file, *m_data, m_clkFreq) || !file.commit())
         return file.errorString();
     return {};
 }

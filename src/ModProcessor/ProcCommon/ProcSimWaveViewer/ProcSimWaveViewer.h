@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimWave.h"
 #include "ProcSimWaveData.h"
 
 #include <QWidget>
@@ -32,14 +33,15 @@ class ProcSimWaveViewer : public QWidget
 public:
     using eAccessType_t = ProcSimWaveData::eAccessType_t;
     using sAddrChannel_t = ProcSimWaveData::sAddrChannel_t;
-    using sWave_t = ProcSimWaveData::sWave_t;
 
     /// @param clkFreq clock rate in Hz; 0 or below if it is unknown, then time is shown in clocks only
+    /// @param data what is shown; shared with the simulator
+    ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, double clkFreq, QWidget* parent = nullptr);
+    /// With data of its own.
     explicit ProcSimWaveViewer(double clkFreq, QWidget* parent = nullptr);
     ~ProcSimWaveViewer() override;
 
-    /// Owned by this object.
-    ProcSimWaveData* data() { return &m_data; }
+    ProcSimWaveData* data() { return m_data.get(); }
     /// What the program calls a port: empty without a name.
     using NameOf = std::function<QString(int addr, eAccessType_t access)>;
     /// The address that a constant of the program stands for: 0 to 255, -1 if it is none.
@@ -112,7 +114,7 @@ private:
     void refuseAddr();
     void showProblem(bool isProblem);
 
-    ProcSimWaveData m_data;
+    std::shared_ptr<ProcSimWaveData> m_data;
     double m_clkFreq;
     NameOf m_nameOf; ///< may be empty
     AddrOf m_addrOf; ///< may be empty

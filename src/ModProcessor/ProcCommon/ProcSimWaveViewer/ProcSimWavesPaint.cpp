@@ -34,12 +34,12 @@ constexpr int valueDense = -2;
 constexpr int segmentMin = 4;
 constexpr int textDistance = 5;
 
-int topOf(const ProcSimWaveData::sWave_t* wave)
+int topOf(const sWave_t* wave)
 {
     return wave->top + 4;
 }
 
-int bottomOf(const ProcSimWaveData::sWave_t* wave)
+int bottomOf(const sWave_t* wave)
 {
     return wave->top + wave->height - 5;
 }
@@ -61,7 +61,7 @@ void ProcSimWavesWidget::paintEvent(QPaintEvent*)
     }
     painter.setClipRect(0, m_axisHeight, width(), height() - m_axisHeight);
     for (sWave_t* wave : m_waves) {
-        if (wave->kind == ProcSimWaveData::eWaveBit)
+        if (wave->kind == eWaveBit)
             paintWaveBit(&painter, wave);
         else
             paintWaveNumeric(&painter, wave);

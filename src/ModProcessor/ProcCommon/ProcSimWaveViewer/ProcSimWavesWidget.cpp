@@ -108,7 +108,7 @@ int ProcSimWavesWidget::valueAt(const sWave_t* wave, qint64 clock)
     if (index == 0)
         return -1;
     const int value = wave->channel->values[index - 1].value;
-    return wave->kind == ProcSimWaveData::eWaveBit ? (value >> wave->bit) & 1 : value;
+    return wave->kind == eWaveBit ? (value >> wave->bit) & 1 : value;
 }
 
 double ProcSimWavesWidget::end() const
@@ -350,7 +350,7 @@ void ProcSimWavesWidget::keyPressEvent(QKeyEvent* event)
     }
 }
 
-ProcSimWavesWidget::sWave_t* ProcSimWavesWidget::waveAt(int y) const
+sWave_t* ProcSimWavesWidget::waveAt(int y) const
 {
     if (y < m_axisHeight)
         return nullptr;
@@ -387,7 +387,7 @@ QString ProcSimWavesWidget::toolTipAt(const QPoint& pos) const
     if (next == 0)
         return tr("%1: no value yet").arg(wave->name);
     const int value = valueAt(wave, clock);
-    const QString text = wave->kind == ProcSimWaveData::eWaveBit ? QString::number(value) : valueText(value);
+    const QString text = wave->kind == eWaveBit ? QString::number(value) : valueText(value);
     QString result = tr("%1: %2\nSince %3").arg(wave->name, text, m_time.longText(values[next - 1].clock));
     if (next < values.size())
         result += tr("\nUntil %1").arg(m_time.longText(values[next].clock));

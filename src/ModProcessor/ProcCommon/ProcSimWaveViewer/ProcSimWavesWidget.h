@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ProcSimWave.h"
 #include "ProcSimWaveColumns.h"
 #include "ProcSimWaveData.h"
 #include "ProcSimWaveTime.h"
@@ -25,7 +26,6 @@ class ProcSimWavesWidget : public QWidget
     Q_OBJECT
 
 public:
-    using sWave_t = ProcSimWaveData::sWave_t;
     using sAddrChannel_t = ProcSimWaveData::sAddrChannel_t;
 
     /// @param data not owned, must outlive this
@@ -81,7 +81,7 @@ signals:
     /// The rows are to be scrolled: the wheel was turned over the waves.
     void rowsWheeled(QWheelEvent* event);
     /// A row was clicked.
-    void waveClicked(nsProc::ProcSimWaveData::sWave_t* wave);
+    void waveClicked(nsProc::sWave_t* wave);
 
 protected:
     bool event(QEvent* event) override;
