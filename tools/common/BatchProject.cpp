@@ -37,6 +37,7 @@ bool BatchProject::open(const QString& file)
     }
     m_assembler.setBackend(m_processor.get());
     m_config.rdAsmFeConfig(&m_project);
+    m_assembler.charsets().setupDefaultCodec(m_config.defaultCharset);
     m_files.setPrjDir(m_project.path());
     nsModPrj::Project::reportOpened(&m_msg);
     return true;
