@@ -418,7 +418,7 @@ TEST_F(SimShown, PagesHaveTheirNames)
                                   "start: JUMP common", "#ORG MEMRANGE, PAGE1", "second: JUMP common",
                                   "#ORG MEMRANGE, SHARED", "common: NOP", "end: JUMP end"}))
         << messageTexts().join('\n').toStdString();
-    EXPECT_EQ(sim()->pageNames(), (QStringList{"SHARED", "PAGE0", "PAGE1"}));
+    EXPECT_EQ(sim()->engine()->pageNames(), (QStringList{"SHARED", "PAGE0", "PAGE1"}));
     EXPECT_TRUE(coreLabels().contains("PAGE0"));
     step();
     EXPECT_TRUE(coreLabels().contains("SHARED"));
