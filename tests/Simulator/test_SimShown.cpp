@@ -9,6 +9,7 @@
 #include "ProcSimEdtBit.h"
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
+#include "ProcSimEngine.h"
 #include "ProcSimIO.h"
 #include "ProcSimIODeviceView.h"
 #include "ProcSimIOFifo.h"
