@@ -1,6 +1,7 @@
 #include "ModEditor.h"
 
 #include "EditorConfigPage.h"
+#include "EditorKeys.h"
 #include "EditorMemPageAddrMap.h"
 #include "EditorRecovery.h"
 #include "EditorStatusBar.h"
@@ -191,7 +192,7 @@ void ModEditor::wrAppCfg()
 void ModEditor::prjOpen()
 {
     m_lastPath = modPrjHook->prjDir().absolutePath();
-    tabIndent = qBound(1, modPrjHook->value("ModEditor/tabIndent", tabIndent), maxTabIndent);
+    tabIndent = qBound(1, modPrjHook->value(editorKeys::tabIndent, tabIndent), maxTabIndent);
     // The only value on the page that is also a project setting.
     if (m_configPage != nullptr)
         m_configPage->setTabIndent(tabIndent);
@@ -200,20 +201,20 @@ void ModEditor::prjOpen()
     // The list of a program that was killed is newer than that of the project file.
     const RecoveryStore::Session session = takeSession();
     const bool isKilled = !session.project.isEmpty();
-    for (const QString& file : isKilled ? session.files : modPrjHook->value("ModEditor/openFiles", QStringList()))
+    for (const QString& file : isKilled ? session.files : modPrjHook->value(editorKeys::openFiles, QStringList()))
         openFileWidget(fileOf(file));
     configureEditorWidgets();
-    const QString lastFile = isKilled ? session.lastFile : modPrjHook->value("ModEditor/lastFile", QString());
+    const QString lastFile = isKilled ? session.lastFile : modPrjHook->value(editorKeys::lastFile, QString());
     EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
     if (last != nullptr)
-        last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value("ModEditor/lastCursorPos", 0));
+        last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value(editorKeys::lastCursorPos, 0));
     // Without a last file one of the pages is current, too.
     updateActionState();
 }
 
 void ModEditor::prjSave()
 {
-    modPrjHook->setValue("ModEditor/tabIndent", tabIndent);
+    modPrjHook->setValue(editorKeys::tabIndent, tabIndent);
     QStringList open;
     if (modGuiHook != nullptr) {
         for (QWidget* page : modGuiHook->centerWidgetList()) {
@@ -222,10 +223,10 @@ void ModEditor::prjSave()
                 open.append(convToRelPath(widget->filePath()));
         }
     }
-    modPrjHook->setValue("ModEditor/openFiles", open);
+    modPrjHook->setValue(editorKeys::openFiles, open);
     EditorWidget* current = currentEditorWidget();
-    modPrjHook->setValue("ModEditor/lastFile", current != nullptr ? convToRelPath(current->filePath()) : QString());
-    modPrjHook->setValue("ModEditor/lastCursorPos", current != nullptr ? current->cursorPos() : 0);
+    modPrjHook->setValue(editorKeys::lastFile, current != nullptr ? convToRelPath(current->filePath()) : QString());
+    modPrjHook->setValue(editorKeys::lastCursorPos, current != nullptr ? current->cursorPos() : 0);
 }
 
 void ModEditor::prjClose()

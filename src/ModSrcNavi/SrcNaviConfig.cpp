@@ -1,5 +1,6 @@
 #include "SrcNaviConfig.h"
 
+#include "CfgLookItems.h"
 #include "ModCfgAppHookIf.h"
 
 #include <QFont>
@@ -24,35 +25,14 @@ const sFontContext_t fontContexts[SrcNaviConfig::fontContextCount] = {
     {"sep", Qt::darkYellow}, {"grpBegin", Qt::darkYellow},
 };
 
-/// A weight of 0 is stored as the weight of a normal font.
-int storedWeight(const QTextCharFormat& format)
+template <class Items, class Config>
+void allItems(Items items, Config& config)
 {
-    return format.fontWeight() == 0 ? int(QFont::Normal) : format.fontWeight();
-}
-
-int valueInRange(ModCfgAppHookIf* cfg, const QString& key, int present, int last)
-{
-    const int value = cfg->value(key, present);
-    return value >= 0 && value <= last ? value : present;
-}
-
-void rdAppCfgFontFormat(ModCfgAppHookIf* cfg, const QString& context, QTextCharFormat* format)
-{
-    const QString key = keyFont + context;
-    const int weight = valueInRange(cfg, key + QStringLiteral("/weight"), storedWeight(*format), 99);
-    format->setFontWeight(weight == QFont::Normal ? 0 : weight);
-    format->setFontItalic(cfg->value(key + QStringLiteral("/italic"), int(format->fontItalic())) != 0);
-    const QColor color = cfg->value(key + QStringLiteral("/color"), format->foreground().color());
-    if (color.isValid())
-        format->setForeground(color);
-}
-
-void wrAppCfgFontFormat(ModCfgAppHookIf* cfg, const QString& context, const QTextCharFormat& format)
-{
-    const QString key = keyFont + context;
-    cfg->setValue(key + QStringLiteral("/weight"), storedWeight(format));
-    cfg->setValue(key + QStringLiteral("/italic"), int(format.fontItalic()));
-    cfg->setValue(key + QStringLiteral("/color"), format.foreground().color());
+    items.choice(keyLocation, config.naviWidgetLocation, SrcNaviConfig::locationRight);
+    items.choice(keySortMode, config.tagListSortMode, SrcNaviConfig::sortPlainDescent);
+    items.item(keyBookmarkColor, config.bookmarkSymbolColor);
+    for (int i = 0; i < SrcNaviConfig::fontContextCount; ++i)
+        items.item(keyFont + QLatin1String(fontContexts[i].key), config.fontFormats[i]);
 }
 
 } // namespace
@@ -67,22 +47,12 @@ SrcNaviConfig::SrcNaviConfig()
 
 void SrcNaviConfig::rdSrcNaviConfig(ModCfgAppHookIf* cfg)
 {
-    naviWidgetLocation = valueInRange(cfg, keyLocation, naviWidgetLocation, locationRight);
-    tagListSortMode = valueInRange(cfg, keySortMode, tagListSortMode, sortPlainDescent);
-    const QColor color = cfg->value(keyBookmarkColor, bookmarkSymbolColor);
-    if (color.isValid())
-        bookmarkSymbolColor = color;
-    for (int i = 0; i < fontContextCount; ++i)
-        rdAppCfgFontFormat(cfg, QString::fromLatin1(fontContexts[i].key), &fontFormats[i]);
+    allItems(CfgLookReader<ModCfgAppHookIf>(cfg), *this);
 }
 
 void SrcNaviConfig::wrSrcNaviConfig(ModCfgAppHookIf* cfg) const
 {
-    cfg->setValue(keyLocation, naviWidgetLocation);
-    cfg->setValue(keySortMode, tagListSortMode);
-    cfg->setValue(keyBookmarkColor, bookmarkSymbolColor);
-    for (int i = 0; i < fontContextCount; ++i)
-        wrAppCfgFontFormat(cfg, QString::fromLatin1(fontContexts[i].key), fontFormats[i]);
+    allItems(CfgLookWriter<ModCfgAppHookIf>(cfg), *this);
 }
 
 } // namespace nsModSrcNavi

@@ -2,18 +2,20 @@
 
 #include <QtGlobal>
 
+#include <iterator>
+
 namespace nsProc {
 
 namespace {
 
-// The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text)                                                                                           \
+// The context of the translation is the class that all back ends derive from.
+#define NALVO_MSG(type, text)                                                                                          \
     {                                                                                                                  \
-#key, QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", text)                                                             \
+        type, #type, QT_TRANSLATE_NOOP("nsProc::ProcAsmBe", text)                                                      \
     }
 
 /// Indexed by eAsmMsg_t.
-const sAsmMsg_t asmMsgs[eAsmMsgCount] = {
+constexpr sAsmMsg_t asmMsgs[] = {
     NALVO_MSG(errExceededMaxNumeric, "Value \"%1\"exceeds maximum of \"%2\"!"),
     NALVO_MSG(errExceededScrpdSize, "Address \"%1\"exceeds scratchpad size of \"%2\"!"),
     NALVO_MSG(errExceededMaxPort, "Address \"%1\"exceeds port range of \"%2\"!"),
@@ -34,6 +36,16 @@ const sAsmMsg_t asmMsgs[eAsmMsgCount] = {
     NALVO_MSG(warnFlowAddrTruncated,
               "Address %1 exceeds the address field of the instruction: the processor goes to address %2."),
 };
+
+constexpr bool isEachAtItsPlace()
+{
+    for (int i = 0; i < eAsmMsgCount; ++i) {
+        if (asmMsgs[i].type != i)
+            return false;
+    }
+    return true;
+}
+static_assert(std::size(asmMsgs) == eAsmMsgCount && isEachAtItsPlace(), "the rows are indexed by eAsmMsg_t");
 
 } // namespace
 

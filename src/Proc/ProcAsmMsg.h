@@ -28,6 +28,7 @@ enum eAsmMsg_t {
 /// One row of the catalogue.
 struct sAsmMsg_t
 {
+    eAsmMsg_t type;
     const char* key;  ///< also the anchor in the back end's help page
     const char* text; ///< with the places %1 and %2
 };

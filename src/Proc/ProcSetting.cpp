@@ -2,13 +2,15 @@
 
 #include "ProcCoreConfig.h"
 
+#include <iterator>
+
 namespace nsProc {
 
 namespace {
 
 using Config = ProcCoreConfig;
 
-constexpr sSettingField_t fields[settingCount] = {
+constexpr sSettingField_t fields[] = {
     {settingClkFreq, "clkFreq", "clkFreq", nullptr, false, errIvldClkFreq},
     {settingPageSize, "pageSize", "memMap/pageSize", &Config::pageSize, false, eAsmMsgCount},
     {settingScrpdSize, "scrpdSize", "scrpdSize", &Config::scrpdSize, true, errIvldScrpdSize},
@@ -26,7 +28,7 @@ constexpr bool isEachAtItsPlace()
     }
     return true;
 }
-static_assert(isEachAtItsPlace(), "the rows are indexed by eSetting_t");
+static_assert(std::size(fields) == settingCount && isEachAtItsPlace(), "the rows are indexed by eSetting_t");
 
 } // namespace
 

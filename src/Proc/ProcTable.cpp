@@ -7,6 +7,16 @@ QString ProcTable::regName(int number) const
     return QLatin1Char(regs.letter) + QString::number(number, regs.base).toUpper();
 }
 
+const sProcSetting_t* ProcTable::settingOfDirective(const QString& name) const
+{
+    for (int i = 0; i < settingsCount; ++i) {
+        const char* directive = settings[i].directive;
+        if (*directive != '\0' && name == QLatin1String(directive))
+            return &settings[i];
+    }
+    return nullptr;
+}
+
 ProcCoreConfig ProcTable::defaultConfig() const
 {
     ProcCoreConfig config;

@@ -98,6 +98,8 @@ struct ProcTable
         }
         return nullptr;
     }
+    /// Row of the setting with this `#SET` parameter, in upper case; null if there is none.
+    const sProcSetting_t* settingOfDirective(const QString& name) const;
     constexpr int bankCount() const
     {
         int count = 0;

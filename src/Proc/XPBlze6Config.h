@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ProcCoreConfig.h"
+#include "ProcTables.h"
 
 namespace nsXPBlze6 {
 
@@ -8,6 +8,10 @@ namespace nsXPBlze6 {
 /// bytes.
 struct XPBlze6Config : nsProc::ProcCoreConfig
 {
+    XPBlze6Config()
+        : ProcCoreConfig(nsProc::xpBlze6Table().defaultConfig())
+    {
+    }
 };
 
 } // namespace nsXPBlze6

@@ -2,27 +2,95 @@
 
 #include <QHash>
 
+#include <array>
+#include <iterator>
+
 namespace nsModAsmFe {
 
 namespace {
 
-struct sOpcodeName_t
+struct sOpcodeRow_t
 {
-    const char* mnemonic;
-    const char* name;
+    eOpcode_t opcode;
+    const char* word; ///< as lists of words show it; the mnemonic is the same in upper case
+    const char* name; ///< in debug output
 };
 
 /// Indexed by eOpcode_t.
-const sOpcodeName_t opcodeNames[ocCount] = {
-    {"", "undefined"},  {"ADD", "add"},     {"ADDC", "addc"},       {"AND", "and"},     {"CALL", "call"},
-    {"CLR", "clr"},     {"COMP", "comp"},   {"COMPC", "compC"},     {"INT", "int"},     {"HWBUILD", "hwbld"},
-    {"JUMP", "jump"},   {"LOAD", "load"},   {"LOADRET", "loadRet"}, {"NOP", "nop"},     {"OR", "or"},
-    {"RDMEM", "rdMem"}, {"RDPRT", "rdPrt"}, {"REGBANK", "regBank"}, {"RET", "ret"},     {"RETI", "reti"},
-    {"ROL", "rl"},      {"ROLC", "rlc"},    {"ROR", "rr"},          {"RORC", "rrc"},    {"SET", "set"},
-    {"SL0", "sl0"},     {"SL1", "sl1"},     {"SLX", "slX"},         {"SR0", "sr0"},     {"SR1", "sr1"},
-    {"SRX", "srX"},     {"STAR", "star"},   {"WRMEM", "wrMem"},     {"WRPRT", "wrPrt"}, {"SUB", "sub"},
-    {"SUBC", "subc"},   {"TEST", "test"},   {"TESTC", "testC"},     {"XOR", "xor"},
+constexpr sOpcodeRow_t rows[] = {
+    {ocUndefined, "", "undefined"},
+    {ocAdd, "ADD", "add"},
+    {ocAddc, "ADDC", "addc"},
+    {ocAnd, "AND", "and"},
+    {ocCall, "CALL", "call"},
+    {ocClr, "CLR", "clr"},
+    {ocComp, "COMP", "comp"},
+    {ocCompc, "COMPC", "compC"},
+    {ocInt, "INT", "int"},
+    {ocHwbuild, "HWBUILD", "hwbld"},
+    {ocJump, "JUMP", "jump"},
+    {ocLoad, "LOAD", "load"},
+    {ocLoadret, "LOADRET", "loadRet"},
+    {ocNop, "NOP", "nop"},
+    {ocOr, "OR", "or"},
+    {ocRdmem, "RDMEM", "rdMem"},
+    {ocRdprt, "RDPRT", "rdPrt"},
+    {ocRegbank, "regBank", "regBank"},
+    {ocRet, "RET", "ret"},
+    {ocReti, "RETI", "reti"},
+    {ocRol, "ROL", "rl"},
+    {ocRolc, "ROLC", "rlc"},
+    {ocRor, "ROR", "rr"},
+    {ocRorc, "RORC", "rrc"},
+    {ocSet, "SET", "set"},
+    {ocSl0, "SL0", "sl0"},
+    {ocSl1, "SL1", "sl1"},
+    {ocSlx, "SLX", "slX"},
+    {ocSr0, "SR0", "sr0"},
+    {ocSr1, "SR1", "sr1"},
+    {ocSrx, "SRX", "srX"},
+    {ocStar, "STAR", "star"},
+    {ocWrmem, "WRMEM", "wrMem"},
+    {ocWrprt, "WRPRT", "wrPrt"},
+    {ocSub, "SUB", "sub"},
+    {ocSubc, "SUBC", "subc"},
+    {ocTest, "TEST", "test"},
+    {ocTestc, "TESTC", "testC"},
+    {ocXor, "XOR", "xor"},
 };
+
+constexpr bool isEachAtItsPlace()
+{
+    for (int i = 0; i < ocCount; ++i) {
+        if (rows[i].opcode != i)
+            return false;
+    }
+    return true;
+}
+static_assert(std::size(rows) == ocCount && isEachAtItsPlace(), "the rows are indexed by eOpcode_t");
+
+struct sMnemonic_t
+{
+    char text[8] = {};
+};
+
+constexpr std::array<sMnemonic_t, ocCount> upperCaseWords()
+{
+    std::array<sMnemonic_t, ocCount> result = {};
+    for (size_t opcode = 0; opcode < ocCount; ++opcode) {
+        const char* word = rows[opcode].word;
+        for (int i = 0; word[i] != '\0'; ++i)
+            result[opcode].text[i] = word[i] >= 'a' && word[i] <= 'z' ? char(word[i] - 'a' + 'A') : word[i];
+    }
+    return result;
+}
+
+constexpr std::array<sMnemonic_t, ocCount> mnemonics = upperCaseWords();
+
+bool isOpcode(eOpcode_t opcode)
+{
+    return opcode >= ocUndefined && opcode < ocCount;
+}
 
 } // namespace
 
@@ -30,8 +98,8 @@ eOpcode_t opcodeOfMnemonic(const QString& mnemonic)
 {
     static const QHash<QString, eOpcode_t> opcodes = [] {
         QHash<QString, eOpcode_t> hash;
-        for (int i = ocAdd; i < ocCount; ++i)
-            hash.insert(QString::fromLatin1(opcodeNames[i].mnemonic), eOpcode_t(i));
+        for (int i = ocUndefined + 1; i < ocCount; ++i)
+            hash.insert(QString::fromLatin1(mnemonics[size_t(i)].text), eOpcode_t(i));
         return hash;
     }();
     return opcodes.value(mnemonic, ocUndefined);
@@ -39,12 +107,17 @@ eOpcode_t opcodeOfMnemonic(const QString& mnemonic)
 
 const char* mnemonicOfOpcode(eOpcode_t opcode)
 {
-    return opcode > ocUndefined && opcode < ocCount ? opcodeNames[opcode].mnemonic : "";
+    return isOpcode(opcode) ? mnemonics[opcode].text : "";
+}
+
+const char* wordOfOpcode(eOpcode_t opcode)
+{
+    return isOpcode(opcode) ? rows[opcode].word : "";
 }
 
 const char* opcodeName(eOpcode_t opcode)
 {
-    return opcode >= ocUndefined && opcode < ocCount ? opcodeNames[opcode].name : "undefined";
+    return isOpcode(opcode) ? rows[opcode].name : rows[ocUndefined].name;
 }
 
 } // namespace nsModAsmFe

@@ -52,6 +52,8 @@ enum eOpcode_t {
 eOpcode_t opcodeOfMnemonic(const QString& mnemonic);
 /// The mnemonic of an opcode in upper case, empty for ocUndefined.
 const char* mnemonicOfOpcode(eOpcode_t opcode);
+/// The mnemonic as lists of words show it, such as "regBank"; empty for ocUndefined.
+const char* wordOfOpcode(eOpcode_t opcode);
 /// The word that names the opcode in debug output, such as "rdMem".
 const char* opcodeName(eOpcode_t opcode);
 

@@ -8,14 +8,8 @@
 namespace nsLMico8v3x {
 
 LMico8v3x::LMico8v3x(QObject* parent)
-    : ProcShell(this, parent)
+    : ProcShell(nsProc::lMico8v3xTable(), this, parent)
 {
-    setSettings(defaultConfig());
-}
-
-QString LMico8v3x::processorName()
-{
-    return QStringLiteral("Lattice Mico8 v3.x");
 }
 
 nsProc::ProcAsmBe* LMico8v3x::createAsmBe()
@@ -33,28 +27,9 @@ nsProc::ProcActionsSim* LMico8v3x::createActionsSim()
     return new nsLMico::LMicoActionsSim;
 }
 
-QString LMico8v3x::cfgSection() const
-{
-    return QStringLiteral("LMico8v3x");
-}
-
-nsProc::ProcCoreConfig LMico8v3x::defaultConfig() const
-{
-    return LMico8v3xConfig();
-}
-
 nsProc::ProcConfigWidget* LMico8v3x::createConfigWidget()
 {
     return new LMico8v3xConfigWidget;
-}
-
-QList<nsProc::ProcShell::sCfgNumber> LMico8v3x::cfgNumbers(nsProc::ProcCoreConfig* settings) const
-{
-    return {{"scrpdSize", &settings->scrpdSize},
-            {"clkFreq", nullptr},
-            {"instrClkCnt", &settings->instrClkCnt, 0, LMico8v3xConfig::maxInstrClkCnt},
-            {"regCount", &settings->regCount, LMico8v3xConfig::minRegCount, LMico8v3xConfig::maxRegCount},
-            {"memMap/pageSize", &settings->pageSize}};
 }
 
 } // namespace nsLMico8v3x

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProcConfigWidget.h"
+#include "ProcTables.h"
 
 namespace nsLMico8v3x {
 
@@ -10,7 +11,10 @@ class LMico8v3xConfigWidget : public nsProc::ProcConfigWidget
     Q_OBJECT
 
 public:
-    explicit LMico8v3xConfigWidget(QWidget* parent = nullptr);
+    explicit LMico8v3xConfigWidget(QWidget* parent = nullptr)
+        : ProcConfigWidget(nsProc::lMico8v3xTable(), parent)
+    {
+    }
 };
 
 } // namespace nsLMico8v3x

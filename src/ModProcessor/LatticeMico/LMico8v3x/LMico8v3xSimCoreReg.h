@@ -2,6 +2,7 @@
 
 #include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
+#include "ProcTables.h"
 
 namespace nsLMico8v3x {
 
@@ -21,7 +22,7 @@ public:
     {
     }
 
-    static QString regName(int index) { return 'r' + QString::number(index); }
+    static QString regName(int index) { return nsProc::lMico8v3xTable().regName(index); }
 };
 
 } // namespace nsLMico8v3x

@@ -1,6 +1,7 @@
 #include "ProcConfigWidget.h"
 
 #include "ProcNumberBox.h"
+#include "ProcTable.h"
 
 #include "MyFieldTitle.h"
 
@@ -24,12 +25,9 @@ const int gap = 8;
 
 } // namespace
 
-ProcConfigWidget::ProcConfigWidget(const QVector<sProcConfigField>& fields, const ProcCoreConfig& defaults,
-                                   const QString& helpRef, QWidget* parent)
+ProcConfigWidget::ProcConfigWidget(const ProcTable& table, QWidget* parent)
     : QWidget(parent)
-    , m_fields(fields)
-    , m_defaults(defaults)
-    , m_helpRef(helpRef)
+    , m_table(table)
     , m_tabs(new QTabWidget(this))
 {
     m_tabs->setObjectName(QStringLiteral("procConfigTabs"));
@@ -37,8 +35,11 @@ ProcConfigWidget::ProcConfigWidget(const QVector<sProcConfigField>& fields, cons
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
     QGridLayout* grids[] = {addPage(tr("Processor core")), addPage(tr("Instruction memory"))};
-    for (const sProcConfigField& field : qAsConst(m_fields))
-        addField(grids[field.page], grids[field.page]->rowCount(), field);
+    for (int i = 0; i < table.settingsCount; ++i) {
+        const sProcSetting_t& setting = table.settings[i];
+        if (setting.control != sProcSetting_t::eControlNone)
+            addField(grids[setting.page], grids[setting.page]->rowCount(), setting);
+    }
     for (QGridLayout* grid : grids)
         grid->setRowStretch(grid->rowCount(), 1);
     connect(m_tabs, &QTabWidget::currentChanged, this, &ProcConfigWidget::tabChanged);
@@ -56,10 +57,10 @@ QGridLayout* ProcConfigWidget::addPage(const QString& title)
     return grid;
 }
 
-void ProcConfigWidget::addField(QGridLayout* grid, int row, const sProcConfigField& field)
+void ProcConfigWidget::addField(QGridLayout* grid, int row, const sProcSetting_t& field)
 {
     QWidget* control = createControl(field);
-    control->setObjectName(QLatin1String(field.name));
+    control->setObjectName(QLatin1String(settingField(field.setting).name));
     control->setToolTip(tr(field.toolTip));
     auto* title = new MyFieldTitle(tr(field.title), this);
     title->setToolTip(control->toolTip());
@@ -69,69 +70,74 @@ void ProcConfigWidget::addField(QGridLayout* grid, int row, const sProcConfigFie
     grid->addWidget(control, row, 1);
     if (*field.unit != '\0')
         grid->addWidget(new QLabel(tr(field.unit), this), row, 2);
-    m_controls.append(control);
+    m_fields.append({&field, control});
 }
 
-QWidget* ProcConfigWidget::createControl(const sProcConfigField& field)
+QWidget* ProcConfigWidget::createControl(const sProcSetting_t& field)
 {
-    if (field.kind == sProcConfigField::eChoice) {
+    if (field.control == sProcSetting_t::eControlChoice) {
         auto* box = new QComboBox(this);
         for (int choice : field.choices)
             box->addItem(QString::number(choice), choice);
         return box;
     }
-    if (field.kind == sProcConfigField::eNumber) {
+    if (field.control == sProcSetting_t::eControlNumber) {
         auto* box = new QSpinBox(this);
-        box->setRange(int(field.min), int(field.max));
-        box->setValue(int(field.start));
+        box->setRange(int(field.shownMin), int(field.shownMax));
+        box->setValue(int(field.shownStart));
         box->setAlignment(Qt::AlignRight);
         return box;
     }
-    auto* box = new ProcNumberBox(field.kind == sProcConfigField::eFrequency ? frequencyDecimals : 0, this);
-    box->setRange(field.min, field.max);
-    box->setValue(field.start);
+    auto* box = new ProcNumberBox(field.control == sProcSetting_t::eControlFrequency ? frequencyDecimals : 0, this);
+    box->setRange(field.shownMin, field.shownMax);
+    box->setValue(field.shownStart);
     box->setAlignment(Qt::AlignRight);
     return box;
 }
 
 void ProcConfigWidget::setConfig(const ProcCoreConfig* config)
 {
-    for (int i = 0; i < m_fields.size(); ++i) {
-        const sProcConfigField& field = m_fields.at(i);
-        if (field.kind == sProcConfigField::eFrequency) {
-            static_cast<ProcNumberBox*>(m_controls.at(i))->setValue(config->clkFreq / hzPerMHz);
+    for (const sField_t& field : m_fields) {
+        int ProcCoreConfig::*member = settingField(field.setting->setting).value;
+        if (field.setting->control == sProcSetting_t::eControlFrequency) {
+            static_cast<ProcNumberBox*>(field.control)->setValue(config->clkFreq / hzPerMHz);
             continue;
         }
-        const int value = config->*field.value;
-        if (field.kind == sProcConfigField::eChoice) {
-            auto* box = static_cast<QComboBox*>(m_controls.at(i));
+        const int value = config->*member;
+        if (field.setting->control == sProcSetting_t::eControlChoice) {
+            auto* box = static_cast<QComboBox*>(field.control);
             box->setCurrentIndex(box->findData(value));
-        } else if (field.kind == sProcConfigField::eNumber) {
-            static_cast<QSpinBox*>(m_controls.at(i))->setValue(value);
+        } else if (field.setting->control == sProcSetting_t::eControlNumber) {
+            static_cast<QSpinBox*>(field.control)->setValue(value);
         } else {
-            static_cast<ProcNumberBox*>(m_controls.at(i))->setValue(value);
+            static_cast<ProcNumberBox*>(field.control)->setValue(value);
         }
     }
 }
 
 void ProcConfigWidget::config(ProcCoreConfig* config) const
 {
-    for (int i = 0; i < m_fields.size(); ++i) {
-        const sProcConfigField& field = m_fields.at(i);
-        if (field.kind == sProcConfigField::eFrequency) {
-            config->clkFreq = qRound64(static_cast<ProcNumberBox*>(m_controls.at(i))->value() * hzPerMHz);
-        } else if (field.kind == sProcConfigField::eChoice) {
+    for (const sField_t& field : m_fields) {
+        int ProcCoreConfig::*member = settingField(field.setting->setting).value;
+        if (field.setting->control == sProcSetting_t::eControlFrequency) {
+            config->clkFreq = qRound64(static_cast<ProcNumberBox*>(field.control)->value() * hzPerMHz);
+        } else if (field.setting->control == sProcSetting_t::eControlChoice) {
             // Nothing is selected if the value of the project is not in the list: then it stays unchanged.
-            const QVariant data = static_cast<QComboBox*>(m_controls.at(i))->currentData();
+            const QVariant data = static_cast<QComboBox*>(field.control)->currentData();
             if (data.isValid())
-                config->*field.value = data.toInt();
-        } else if (field.kind == sProcConfigField::eNumber) {
-            config->*field.value = static_cast<QSpinBox*>(m_controls.at(i))->value();
+                config->*member = data.toInt();
+        } else if (field.setting->control == sProcSetting_t::eControlNumber) {
+            config->*member = static_cast<QSpinBox*>(field.control)->value();
         } else {
-            const double value = static_cast<ProcNumberBox*>(m_controls.at(i))->value();
-            config->*field.value = int(qMin<double>(value, std::numeric_limits<int>::max()));
+            const double value = static_cast<ProcNumberBox*>(field.control)->value();
+            config->*member = int(qMin<double>(value, std::numeric_limits<int>::max()));
         }
     }
+}
+
+QString ProcConfigWidget::widgetHelpRef()
+{
+    return "pageId://" + QLatin1String(m_table.cfgHelpPage);
 }
 
 void ProcConfigWidget::initWidget()
@@ -141,7 +147,8 @@ void ProcConfigWidget::initWidget()
 
 void ProcConfigWidget::setDefaultConfig()
 {
-    setConfig(&m_defaults);
+    const ProcCoreConfig defaults = m_table.defaultConfig();
+    setConfig(&defaults);
 }
 
 void ProcConfigWidget::tabChanged(int)

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "ProcConfigField.h"
 #include "ProcConfigPluginIf.h"
+#include "ProcCoreConfig.h"
 
-#include <QHash>
 #include <QVector>
 #include <QWidget>
 
@@ -12,7 +11,11 @@ class QTabWidget;
 
 namespace nsProc {
 
-/// The settings widget that all processors share: tabs for the core and its instruction memory, filled from a table.
+struct ProcTable;
+struct sProcSetting_t;
+
+/// The settings widget that all processors share: tabs for the core and its instruction memory, filled from the
+/// processor's table.
 ///
 /// It has no copy of the settings: the values are only in its controls.
 class ProcConfigWidget : public QWidget, public nsModProcessor::ProcConfigPluginIf
@@ -28,28 +31,29 @@ public:
     // ProcConfigPluginIf
     void initWidget() override;
     QWidget* widget() override { return this; }
-    QString widgetHelpRef() override { return m_helpRef; }
+    QString widgetHelpRef() override;
     void setDefaultConfig() override;
 
 protected:
-    /// @param fields in the order of the rows
-    /// @param defaults settings of a new processor
-    /// @param helpRef help page of the processor's settings
-    ProcConfigWidget(const QVector<sProcConfigField>& fields, const ProcCoreConfig& defaults, const QString& helpRef,
-                     QWidget* parent);
+    /// @param table must live as long as the widget
+    ProcConfigWidget(const ProcTable& table, QWidget* parent);
 
 private slots:
     void tabChanged(int index);
 
 private:
     QGridLayout* addPage(const QString& title);
-    void addField(QGridLayout* grid, int row, const sProcConfigField& field);
-    QWidget* createControl(const sProcConfigField& field);
+    void addField(QGridLayout* grid, int row, const sProcSetting_t& field);
+    QWidget* createControl(const sProcSetting_t& field);
 
-    QVector<sProcConfigField> m_fields;
-    QVector<QWidget*> m_controls; ///< one for each field
-    ProcCoreConfig m_defaults;
-    QString m_helpRef;
+    struct sField_t
+    {
+        const sProcSetting_t* setting;
+        QWidget* control;
+    };
+
+    const ProcTable& m_table;
+    QVector<sField_t> m_fields; ///< in the order of the rows
     QTabWidget* m_tabs = nullptr;
 };
 

@@ -11,23 +11,9 @@
 
 namespace nsProc {
 
-namespace {
-
-const double maxFrequency = 10e9; ///< Hz, as on the settings page
-
-/// The frequency in Hz, which a project stores as text. A text that is not a number gives 0, and so do "nan" and "inf",
-/// which can not be stored as whole Hz.
-double frequencyOf(const QString& text)
-{
-    const double frequency = text.toDouble();
-    return qIsFinite(frequency) ? qBound(0.0, frequency, maxFrequency) : 0;
-}
-
-} // namespace
-
-ProcShell::ProcShell(ProcCoreConfig* config, QObject* parent)
+ProcShell::ProcShell(const ProcTable& table, ProcCoreConfig* config, QObject* parent)
     : QObject(parent)
-    , m_config(config)
+    , m_processor(table, config)
 {
 }
 
@@ -97,44 +83,16 @@ bool ProcShell::configWidgetCloseRequest()
     return false;
 }
 
-QList<ProcShell::sCfgNumber> ProcShell::cfgNumbers(ProcCoreConfig* settings) const
-{
-    return {{"clkFreq", nullptr}, {"memMap/pageSize", &settings->pageSize}};
-}
-
 void ProcShell::rdCfg()
 {
-    if (modPrjHook == nullptr)
-        return;
-    m_settings = defaultConfig();
-    for (const auto& number : cfgNumbers(&m_settings)) {
-        const QString key = cfgSection() + '/' + number.key;
-        // A frequency is stored in whole Hz, and may be larger than an int.
-        if (number.value == nullptr)
-            m_settings.clkFreq = frequencyOf(modPrjHook->value(key, QString::number(m_settings.clkFreq, 'f', 0)));
-        else
-            *number.value = qBound(number.min, modPrjHook->value(key, *number.value), number.max);
-    }
-    setSettings(m_settings);
-}
-
-void ProcShell::setSettings(const ProcCoreConfig& settings)
-{
-    m_settings = settings;
-    *m_config = settings;
+    if (modPrjHook != nullptr)
+        m_processor.readSettings(modPrjHook);
 }
 
 void ProcShell::wrCfg()
 {
-    if (modPrjHook == nullptr)
-        return;
-    for (const auto& number : cfgNumbers(&m_settings)) {
-        const QString key = cfgSection() + '/' + number.key;
-        if (number.value == nullptr)
-            modPrjHook->setValue(key, QString::number(m_settings.clkFreq, 'f', 0));
-        else
-            modPrjHook->setValue(key, *number.value);
-    }
+    if (modPrjHook != nullptr)
+        m_processor.writeSettings(modPrjHook);
 }
 
 QString ProcShell::processorDefine()
@@ -156,9 +114,9 @@ bool ProcShell::assembleStage1()
 {
     if (modAsmFeHook == nullptr || m_asmBe == nullptr)
         return false;
-    *m_config = m_settings;
-    return modAsmFeHook->instMemConfig(&m_config->pageSize, &m_config->pageCount, &m_config->sharedMemHi) &&
-           m_asmBe->assembleStage1(m_config);
+    ProcCoreConfig* config = m_processor.startRun();
+    return modAsmFeHook->instMemConfig(&config->pageSize, &config->pageCount, &config->sharedMemHi) &&
+           m_asmBe->assembleStage1(config);
 }
 
 bool ProcShell::assembleStage2()
@@ -173,7 +131,7 @@ void ProcShell::setAssembled(bool)
 
 int ProcShell::beConfig()
 {
-    return m_settings.pageSize;
+    return m_processor.beConfig();
 }
 
 void ProcShell::removeWidgetRequest(QWidget*) {}

@@ -76,7 +76,7 @@ bool ProcShell::simEnable()
     if (modEditorHook != nullptr)
         modEditorHook->registerPlugin(static_cast<ModEditorPluginIfSimulator*>(sim.get()));
     connect(sim.get(), &ProcSim::programCounterTyped, this, &ProcShell::takeProgramCounter);
-    if (!sim->simInit(m_config))
+    if (!sim->simInit(m_processor.runConfig()))
         return false;
     setActionsEnabled(true);
     setBase(Action::eActionBaseHex, eBaseHex);
@@ -220,7 +220,7 @@ void ProcShell::simReload()
     const std::shared_ptr<ProcSim> sim = m_sim;
     if (sim == nullptr)
         return;
-    const bool success = sim->simReload(m_config);
+    const bool success = sim->simReload(m_processor.runConfig());
     if (m_sim != sim)
         return;
     setActionsEnabled({Action::eActionRun, Action::eActionNextLine, Action::eActionNextInstruction,

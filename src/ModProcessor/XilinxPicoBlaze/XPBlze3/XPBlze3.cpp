@@ -8,14 +8,8 @@
 namespace nsXPBlze3 {
 
 XPBlze3::XPBlze3(QObject* parent)
-    : ProcShell(this, parent)
+    : ProcShell(nsProc::xpBlze3Table(), this, parent)
 {
-    setSettings(defaultConfig());
-}
-
-QString XPBlze3::processorName()
-{
-    return QStringLiteral("Xilinx PicoBlaze 3");
 }
 
 nsProc::ProcAsmBe* XPBlze3::createAsmBe()
@@ -31,16 +25,6 @@ nsProc::ProcSim* XPBlze3::createSim()
 nsProc::ProcActionsSim* XPBlze3::createActionsSim()
 {
     return new nsXPBlze::XPBlzeActionsSim;
-}
-
-QString XPBlze3::cfgSection() const
-{
-    return QStringLiteral("XPBlze3");
-}
-
-nsProc::ProcCoreConfig XPBlze3::defaultConfig() const
-{
-    return XPBlze3Config();
 }
 
 nsProc::ProcConfigWidget* XPBlze3::createConfigWidget()

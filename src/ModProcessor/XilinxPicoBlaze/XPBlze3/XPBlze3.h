@@ -13,14 +13,11 @@ class XPBlze3 : public nsProc::ProcShell, public XPBlze3Config
 public:
     explicit XPBlze3(QObject* parent = nullptr);
 
-    QString processorName() override;
     nsProc::ProcSim* createSim() override;
 
 protected:
     nsProc::ProcAsmBe* createAsmBe() override;
     nsProc::ProcActionsSim* createActionsSim() override;
-    QString cfgSection() const override;
-    nsProc::ProcCoreConfig defaultConfig() const override;
     nsProc::ProcConfigWidget* createConfigWidget() override;
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProcConfigWidget.h"
+#include "ProcTables.h"
 
 namespace nsXPBlze3 {
 
@@ -10,7 +11,10 @@ class XPBlze3ConfigWidget : public nsProc::ProcConfigWidget
     Q_OBJECT
 
 public:
-    explicit XPBlze3ConfigWidget(QWidget* parent = nullptr);
+    explicit XPBlze3ConfigWidget(QWidget* parent = nullptr)
+        : ProcConfigWidget(nsProc::xpBlze3Table(), parent)
+    {
+    }
 };
 
 } // namespace nsXPBlze3

@@ -8,14 +8,8 @@
 namespace nsXPBlze6 {
 
 XPBlze6::XPBlze6(QObject* parent)
-    : ProcShell(this, parent)
+    : ProcShell(nsProc::xpBlze6Table(), this, parent)
 {
-    setSettings(defaultConfig());
-}
-
-QString XPBlze6::processorName()
-{
-    return QStringLiteral("Xilinx PicoBlaze 6");
 }
 
 nsProc::ProcAsmBe* XPBlze6::createAsmBe()
@@ -33,27 +27,9 @@ nsProc::ProcActionsSim* XPBlze6::createActionsSim()
     return new nsXPBlze::XPBlzeActionsSim;
 }
 
-QString XPBlze6::cfgSection() const
-{
-    return QStringLiteral("XPBlze6");
-}
-
-nsProc::ProcCoreConfig XPBlze6::defaultConfig() const
-{
-    return XPBlze6Config();
-}
-
 nsProc::ProcConfigWidget* XPBlze6::createConfigWidget()
 {
     return new XPBlze6ConfigWidget;
-}
-
-QList<nsProc::ProcShell::sCfgNumber> XPBlze6::cfgNumbers(nsProc::ProcCoreConfig* settings) const
-{
-    return {{"scrpdSize", &settings->scrpdSize},
-            {"intVectorAddr", &settings->intVectorAddr},
-            {"clkFreq", nullptr},
-            {"memMap/pageSize", &settings->pageSize}};
 }
 
 } // namespace nsXPBlze6

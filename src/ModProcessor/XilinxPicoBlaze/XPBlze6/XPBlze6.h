@@ -13,16 +13,12 @@ class XPBlze6 : public nsProc::ProcShell, public XPBlze6Config
 public:
     explicit XPBlze6(QObject* parent = nullptr);
 
-    QString processorName() override;
     nsProc::ProcSim* createSim() override;
 
 protected:
     nsProc::ProcAsmBe* createAsmBe() override;
     nsProc::ProcActionsSim* createActionsSim() override;
-    QString cfgSection() const override;
-    nsProc::ProcCoreConfig defaultConfig() const override;
     nsProc::ProcConfigWidget* createConfigWidget() override;
-    QList<sCfgNumber> cfgNumbers(nsProc::ProcCoreConfig* settings) const override;
 };
 
 } // namespace nsXPBlze6

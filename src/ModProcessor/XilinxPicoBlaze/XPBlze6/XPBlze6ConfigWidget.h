@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ProcConfigWidget.h"
+#include "ProcTables.h"
 
 namespace nsXPBlze6 {
 
@@ -10,7 +11,10 @@ class XPBlze6ConfigWidget : public nsProc::ProcConfigWidget
     Q_OBJECT
 
 public:
-    explicit XPBlze6ConfigWidget(QWidget* parent = nullptr);
+    explicit XPBlze6ConfigWidget(QWidget* parent = nullptr)
+        : ProcConfigWidget(nsProc::xpBlze6Table(), parent)
+    {
+    }
 };
 
 } // namespace nsXPBlze6

@@ -2,6 +2,7 @@
 
 #include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
+#include "ProcTables.h"
 
 namespace nsXPBlze6 {
 
@@ -21,7 +22,7 @@ public:
     {
     }
 
-    static QString regName(int index) { return 's' + QString::number(index, 16).toUpper(); }
+    static QString regName(int index) { return nsProc::xpBlze6Table().regName(index); }
 };
 
 } // namespace nsXPBlze6

@@ -1,0 +1,105 @@
+#include "Processor.h"
+
+#include "ProcTable.h"
+
+#include "PrjSettings.h"
+
+namespace nsProc {
+
+namespace {
+
+const double maxFrequency = 10e9; ///< Hz, as on the settings page
+
+/// The frequency in Hz, which a project stores as text. A text that is not a number gives 0, and so do "nan" and "inf",
+/// which can not be stored as whole Hz.
+double frequencyOf(const QString& text)
+{
+    const double frequency = text.toDouble();
+    return qIsFinite(frequency) ? qBound(0.0, frequency, maxFrequency) : 0;
+}
+
+QString textOf(double frequency)
+{
+    return QString::number(frequency, 'f', 0);
+}
+
+QString keyOf(const ProcTable& table, const sSettingField_t& field)
+{
+    return QLatin1String(table.cfgSection) + '/' + QLatin1String(field.key);
+}
+
+} // namespace
+
+Processor::Processor(const ProcTable& table, ProcCoreConfig* run)
+    : m_backEnd(table)
+    , m_settings(table.defaultConfig())
+    , m_ownRun(m_settings)
+    , m_run(run != nullptr ? run : &m_ownRun)
+{
+}
+
+void Processor::setSettings(const ProcCoreConfig& settings)
+{
+    m_settings = settings;
+    *m_run = settings;
+}
+
+ProcCoreConfig* Processor::startRun()
+{
+    *m_run = m_settings;
+    return m_run;
+}
+
+void Processor::readSettings(PrjSettings* project)
+{
+    ProcCoreConfig config = table().defaultConfig();
+    for (eSetting_t setting : table().storedSettings) {
+        const sSettingField_t& field = settingField(setting);
+        const sProcSetting_t& row = *table().setting(setting);
+        const QString key = keyOf(table(), field);
+        // A frequency is stored in whole Hz, and may be larger than an int.
+        if (field.value == nullptr)
+            config.clkFreq = frequencyOf(project->value(key, textOf(config.clkFreq)));
+        else
+            config.*field.value = qBound(row.storedMin, project->value(key, config.*field.value), row.storedMax);
+    }
+    setSettings(config);
+}
+
+void Processor::writeSettings(PrjSettings* project) const
+{
+    for (eSetting_t setting : table().storedSettings) {
+        const sSettingField_t& field = settingField(setting);
+        const QString key = keyOf(table(), field);
+        if (field.value == nullptr)
+            project->setValue(key, textOf(m_settings.clkFreq));
+        else
+            project->setValue(key, m_settings.*field.value);
+    }
+}
+
+QString Processor::processorName()
+{
+    return QLatin1String(table().name);
+}
+
+QString Processor::processorDefine()
+{
+    return QLatin1String(table().define);
+}
+
+bool Processor::assembleStage1(const nsModAsmFe::AsmBeProgram& program)
+{
+    ProcCoreConfig* config = startRun();
+    config->pageSize = program.pageSize;
+    config->pageCount = program.pageCount;
+    config->sharedMemHi = program.isSharedMemHigh;
+    return m_backEnd.assembleStage1(program, config);
+}
+
+bool Processor::assembleStage2(const nsModAsmFe::AsmBeProgram& program)
+{
+    return m_backEnd.assembleStage2(program, *m_run);
+}
+
+} // namespace nsProc
