@@ -17,8 +17,6 @@ namespace nsModProcessor {
 
 namespace {
 
-const char* const keyProcessor = "ModProcessor/processor";
-
 template <class Plugin, class Hook>
 void registerAt(Hook* hook, ProcPluginIf* processor)
 {
@@ -59,7 +57,7 @@ void ModProcessor::modInitIntermod()
 
 void ModProcessor::prjOpen()
 {
-    processor = modPrjHook->value(keyProcessor, QString());
+    processor = modPrjHook->value(nsProc::Processor::projectKey, QString());
     setupProcessorIf();
     if (m_current != nullptr)
         m_current->rdCfg();
@@ -67,7 +65,7 @@ void ModProcessor::prjOpen()
 
 void ModProcessor::prjSave()
 {
-    modPrjHook->setValue(keyProcessor, processor);
+    modPrjHook->setValue(nsProc::Processor::projectKey, processor);
     if (m_current != nullptr)
         m_current->wrCfg();
 }
