@@ -4,15 +4,20 @@
 #     A library of the ground floor: all sources of the current folder and its subfolders, on Qt Core and the libraries that are
 #     named. It is given no include path of Qt Gui, Qt Widgets or a module, so any such include does not compile.
 #
-#   nalvo_interface(NAME ModXxx [PUBLIC dir ...] [USES ModYyy ...])
-#     The face of a module: the library ModXxx_If with the include path ModXxx/If (and the further folders that are named, for
-#     value types that cross the border). It may hold sources of such value types. USES names the faces that its headers need.
+#   nalvo_interface(NAME ModXxx [USES ModYyy ...] [CORES NalvoYyy ...])
+#     The face of a module: the library ModXxx_If, which is the include path ModXxx/If and nothing else. It may hold sources of
+#     value types that cross the border. USES and CORES name what its own files need; who uses the face names these, too.
 #
-#   nalvo_module(NAME ModXxx [USES ModYyy ...] [LIBS Qt5::Svg ...])
-#     The module itself: an object library that sees its own folder, its own face, src/Common and the faces of the modules it
-#     names. Any other include does not compile.
+#   nalvo_module(NAME ModXxx [USES ModYyy ...] [CORES NalvoYyy ...] [LIBS Qt5::Svg ...])
+#     The module itself: an object library that sees its own folder, its own face, src/Common with NalvoBase, the faces of the
+#     modules under USES and the libraries of the ground floor under CORES. Any other include does not compile: nothing that
+#     one of these uses for itself is handed on.
+#
+# test_House compares USES and CORES with what the files include, and the table in ARCHITECTURE.md with USES.
 
 set_property(GLOBAL PROPERTY NALVO_OBJECT_LIBS "")
+
+add_custom_target(HeaderCheck)
 
 # One precompiled header for all: the Qt headers that nearly every file needs.
 add_library(NalvoPch OBJECT "${CMAKE_SOURCE_DIR}/cmake/pch.cpp")
@@ -25,6 +30,12 @@ endfunction()
 
 # What the ground floor consists of, the highest library first.
 set(NALVO_CORES NalvoSim NalvoProc NalvoAsm NalvoBase)
+
+# The modules of the program, in the order in which the window creates them. Faces without a module are found by their folders.
+set(NALVO_MODULES ModMsg ModPrj ModSources ModProcessor ModAsmFe ModEditor ModSrcNavi ModAction ModArgs ModCfgApp ModClipboard
+                  ModConfig ModFindReplace ModGui ModTemplates)
+file(GLOB NALVO_FACES CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/src/Mod*/If")
+list(TRANSFORM NALVO_FACES REPLACE "/If$" "")
 
 add_library(NalvoCorePch OBJECT "${CMAKE_SOURCE_DIR}/cmake/pch.cpp")
 set_target_properties(NalvoCorePch PROPERTIES AUTOMOC OFF)
@@ -42,9 +53,11 @@ function(nalvo_core)
   list(REMOVE_DUPLICATES dirs)
   add_library(${ARG_NAME} STATIC ${sources})
   target_include_directories(${ARG_NAME} PUBLIC ${dirs})
-  target_link_libraries(${ARG_NAME} PUBLIC ${ARG_USES} Qt5::Core PRIVATE NalvoFlags)
+  # Who links the library links those below it as well, but does not see them.
+  target_link_libraries(${ARG_NAME} PUBLIC Qt5::Core PRIVATE ${ARG_USES} NalvoFlags)
   target_precompile_headers(${ARG_NAME} REUSE_FROM NalvoCorePch)
   nalvo_watch_headers(${ARG_NAME})
+  nalvo_check_headers(NAME ${ARG_NAME} HEADERS ${sources} LIBS ${ARG_NAME} ${ARG_USES} NalvoFlags)
 endfunction()
 
 function(_nalvo_object_library target)
@@ -68,67 +81,69 @@ function(nalvo_watch_headers target)
   file(WRITE "${known}" "${sources}")
 endfunction()
 
-function(nalvo_interface)
-  cmake_parse_arguments(ARG "" "NAME" "PUBLIC;USES;CORES" ${ARGN})
-  set(dirs "${CMAKE_CURRENT_SOURCE_DIR}")
-  foreach(dir IN LISTS ARG_PUBLIC)
-    get_filename_component(dir "${CMAKE_CURRENT_SOURCE_DIR}/../${dir}" ABSOLUTE)
-    file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${dir}/*.h")
-    foreach(header IN LISTS headers)
-      get_filename_component(header_dir "${header}" DIRECTORY)
-      list(APPEND dirs "${header_dir}")
-    endforeach()
-  endforeach()
-  list(REMOVE_DUPLICATES dirs)
+# nalvo_check_headers(NAME name HEADERS file ... [DIRS dir ...] LIBS lib ...): each header is compiled alone, with what the folders
+# and libraries let it see, as a part of the target HeaderCheck. No precompiled header helps.
+function(nalvo_check_headers)
+  cmake_parse_arguments(ARG "" "NAME" "HEADERS;DIRS;LIBS" ${ARGN})
+  list(FILTER ARG_HEADERS INCLUDE REGEX "\\.h$")
+  if(NOT ARG_HEADERS OR NOT NALVO_TESTS OR NALVO_SANITIZE OR NALVO_COVERAGE)
+    return()
+  endif()
   set(sources "")
-  foreach(dir IN LISTS dirs)
-    file(GLOB found CONFIGURE_DEPENDS "${dir}/*.cpp" "${dir}/*.h")
-    list(APPEND sources ${found})
+  foreach(header IN LISTS ARG_HEADERS)
+    get_filename_component(name "${header}" NAME_WE)
+    set(source "${CMAKE_CURRENT_BINARY_DIR}/${ARG_NAME}_Headers/${name}.cpp")
+    file(CONFIGURE OUTPUT "${source}" CONTENT "#include \"${header}\"\n")
+    list(APPEND sources "${source}")
   endforeach()
-  set(deps Qt5::Core Qt5::Gui Qt5::Widgets Common_If ${ARG_CORES})
-  foreach(use IN LISTS ARG_USES)
-    list(APPEND deps ${use}_If)
-  endforeach()
-  set(cpp ${sources})
-  list(FILTER cpp INCLUDE REGEX "\\.cpp$")
+  add_library(${ARG_NAME}_Headers OBJECT ${sources})
+  set_target_properties(${ARG_NAME}_Headers PROPERTIES AUTOMOC OFF)
+  target_include_directories(${ARG_NAME}_Headers PRIVATE ${ARG_DIRS})
+  target_link_libraries(${ARG_NAME}_Headers PRIVATE ${ARG_LIBS})
+  # There is nothing to run, so nothing is optimized.
+  target_compile_options(${ARG_NAME}_Headers PRIVATE -O0)
+  add_dependencies(HeaderCheck ${ARG_NAME}_Headers)
+endfunction()
+
+function(nalvo_interface)
+  cmake_parse_arguments(ARG "" "NAME" "USES;CORES" ${ARGN})
   add_library(${ARG_NAME}_If INTERFACE)
-  target_include_directories(${ARG_NAME}_If INTERFACE ${dirs})
-  target_link_libraries(${ARG_NAME}_If INTERFACE ${deps})
+  target_include_directories(${ARG_NAME}_If INTERFACE "${CMAKE_CURRENT_SOURCE_DIR}")
+  file(GLOB cpp CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
+  file(GLOB headers CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  list(TRANSFORM ARG_USES APPEND _If)
+  set(seen ${ARG_NAME}_If Common_If ${ARG_USES} ${ARG_CORES} Qt5::Core Qt5::Gui Qt5::Widgets)
   if(cpp)
-    add_library(${ARG_NAME}_IfObj OBJECT ${sources})
-    target_link_libraries(${ARG_NAME}_IfObj PRIVATE ${ARG_NAME}_If)
+    add_library(${ARG_NAME}_IfObj OBJECT ${cpp} ${headers})
+    target_link_libraries(${ARG_NAME}_IfObj PRIVATE ${seen})
     _nalvo_object_library(${ARG_NAME}_IfObj)
   endif()
+  nalvo_check_headers(NAME ${ARG_NAME}_If HEADERS ${headers} LIBS ${seen} NalvoFlags)
 endfunction()
 
 function(nalvo_module)
   cmake_parse_arguments(ARG "" "NAME" "USES;CORES;LIBS" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp" "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
-  # What belongs to the face is built with the face.
-  # A module that serves no hook has no face.
-  set(face "")
+  # What belongs to the face is built with the face. A module that serves no hook has no face.
+  list(FILTER sources EXCLUDE REGEX "^${CMAKE_CURRENT_SOURCE_DIR}/If/")
   if(TARGET ${ARG_NAME}_If)
-    get_target_property(face ${ARG_NAME}_If INTERFACE_INCLUDE_DIRECTORIES)
     list(APPEND ARG_USES ${ARG_NAME})
   endif()
-  foreach(dir IN LISTS face)
-    list(FILTER sources EXCLUDE REGEX "^${dir}/")
-  endforeach()
   add_library(${ARG_NAME} OBJECT ${sources})
-  file(GLOB_RECURSE headers "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
   set(own "${CMAKE_CURRENT_SOURCE_DIR}")
-  foreach(header IN LISTS headers)
+  foreach(header IN LISTS sources)
     get_filename_component(dir "${header}" DIRECTORY)
     list(APPEND own "${dir}")
   endforeach()
   list(REMOVE_DUPLICATES own)
   target_include_directories(${ARG_NAME} PRIVATE ${own})
-  set_target_properties(${ARG_NAME} PROPERTIES NALVO_OWN_DIRS "${own}")
-  target_link_libraries(${ARG_NAME} PRIVATE Common_If ${ARG_CORES} Qt5::Core Qt5::Gui Qt5::Widgets ${ARG_LIBS})
-  foreach(use IN LISTS ARG_USES)
-    target_link_libraries(${ARG_NAME} PRIVATE ${use}_If)
-  endforeach()
+  list(TRANSFORM ARG_USES APPEND _If)
+  set(seen Common_If ${ARG_USES} ${ARG_CORES})
+  set_target_properties(${ARG_NAME} PROPERTIES NALVO_OWN_DIRS "${own}" NALVO_SEES "${seen}")
+  list(APPEND seen Qt5::Core Qt5::Gui Qt5::Widgets ${ARG_LIBS})
+  target_link_libraries(${ARG_NAME} PRIVATE ${seen})
   _nalvo_object_library(${ARG_NAME})
+  nalvo_check_headers(NAME ${ARG_NAME} HEADERS ${sources} DIRS ${own} LIBS ${seen} NalvoFlags)
 endfunction()
 
 # nalvo_library(): the library `nalvo` of all modules declared so far, for the programs and the tests.
@@ -143,7 +158,7 @@ function(nalvo_library)
   target_link_libraries(nalvo PUBLIC ${NALVO_CORES} NalvoFlags Qt5::Core Qt5::Gui Qt5::Widgets)
 endfunction()
 
-# nalvo_use_module(TARGET MODULE ...): lets a program or a test see the inside of the named modules.
+# nalvo_use_module(TARGET MODULE ...): lets a program or a test see the inside of the named modules, and what these see.
 function(nalvo_use_module target)
   foreach(module IN LISTS ARGN)
     if(TARGET ${module}_If)
@@ -151,9 +166,9 @@ function(nalvo_use_module target)
     endif()
     if(TARGET ${module})
       get_target_property(own ${module} NALVO_OWN_DIRS)
-      if(own)
-        target_include_directories(${target} PRIVATE ${own})
-      endif()
+      target_include_directories(${target} PRIVATE ${own})
+      get_target_property(seen ${module} NALVO_SEES)
+      target_link_libraries(${target} PRIVATE ${seen})
     endif()
   endforeach()
 endfunction()

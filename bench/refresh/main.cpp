@@ -6,10 +6,8 @@
 // services counts.
 
 #include "CfgTree.h"
-#include "EditorSupportMenu.h"
+#include "FakeEditorHook.h"
 #include "ModAsmFe.h"
-#include "ModEditorHookIf.h"
-#include "ModEditorPluginIf.h"
 #include "ModGui.h"
 #include "ModMsgHookIf.h"
 #include "ModMsgPluginIf.h"
@@ -22,7 +20,6 @@
 #include <QElapsedTimer>
 #include <QMainWindow>
 #include <QMenu>
-#include <QRegExp>
 #include <QStringListModel>
 #include <QTemporaryDir>
 #include <QTextStream>
@@ -53,45 +50,9 @@ private:
 };
 
 /// The editor as far as the assembler uses it after a run: with the real menu and the model that the completers share.
-class EditorHook : public ModEditorHookIf
+class EditorHook : public FakeEditorHook
 {
 public:
-    void registerPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfAssembler*) override {}
-    void unregisterPlugin(ModEditorPluginIfAssembler*) override {}
-    void registerPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfSimulator*) override {}
-    void unregisterPlugin(ModEditorPluginIfSimulator*) override {}
-    void newFile(QString) override {}
-    bool openFile(QString) override { return false; }
-    void reloadAllFiles() override {}
-    void reloadFile() override {}
-    bool selectFile(QString) override { return false; }
-    void saveAllFiles() override {}
-    bool saveFile() override { return false; }
-    bool saveFileAs() override { return false; }
-    bool saveFileAs(QString) override { return false; }
-    void closeAllFiles() override {}
-    void closeOtherFiles() override {}
-    void closeFile() override {}
-    void printFile() override {}
-    void setCursorToLine(QString, QString, int) override {}
-    void setCursorToLine(QString, int) override {}
-    void setCursorToLine(QUrl) override {}
-    bool cursorLine(QString*, int*) override { return false; }
-    void clearLineHighlited() override {}
-    void setLineHighlighted(QUrl) override {}
-    void setLineHighlighted(QString, int) override {}
-    void clearHighlighter() override {}
-    void configHighlighterAddRegExp(eHighlightRule_t, QRegExp) override {}
-    void setTabIndent(int) override {}
-    void setMemPageAddrMap(nsModEditor::EditorMemPageAddrMap*) override {}
-    QMap<QString, QList<int>> simBreakpoints() override { return {}; }
-    bool simBreakpointsChanged() override { return false; }
-    bool simStartPointer(QString*, int*) override { return false; }
-    void simEn(bool) override {}
     void setTextCompletionList(QStringList& words) override
     {
         completion.setStringList(words);

@@ -39,6 +39,8 @@ struct TargetVerilogConfig : TargetVhdlConfig
 class AsmFeConfig
 {
 public:
+    /// Why a run was started: which output files and external programs belong to it.
+    enum eAssembleEvent_t { eEventNone = 0, eEventButton1 = 1, eEventButton2 = 2, eEventSave = 3 };
     /// What happens to a string without a character set.
     enum eCharsetBehavior_t { charsetError = 0, charsetWarn = 1, charsetSilent = 2 };
     /// What happens to a second `#EQU` of a name.

@@ -88,6 +88,24 @@ void AsmFeMsgHndlr::signMsgGroup(eMsgGrp_t group, QString arg1)
         modMsgHook->openMessageGroup(filled(tr(text->text), arg1, QString(), QString()), helpUrl(text->key));
 }
 
+void AsmFeMsgHndlr::openGroup(const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->openMessageGroup(text);
+}
+
+void AsmFeMsgHndlr::closeGroup(bool success)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->closeMessageGroup(success);
+}
+
+void AsmFeMsgHndlr::clearMessages()
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->clearMessages();
+}
+
 void AsmFeMsgHndlr::signInternalError(QString text)
 {
     signMsg(errInternal, text);

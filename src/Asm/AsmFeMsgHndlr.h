@@ -29,6 +29,12 @@ public:
     void signMsg(eMsgType_t type, QString arg1 = QString(), QString arg2 = QString(), QString arg3 = QString());
     /// Opens a message group.
     void signMsgGroup(eMsgGrp_t group, QString arg1 = QString());
+    /// Opens a group that has a text of its own and no help.
+    void openGroup(const QString& text);
+    /// Closes the innermost group.
+    void closeGroup(bool success);
+    /// Empties the message view.
+    void clearMessages();
     /// An error that earlier checks should have made impossible.
     void signInternalError(QString text);
     /// Shows a message of the catalogue, for those who report through a hook of their own.

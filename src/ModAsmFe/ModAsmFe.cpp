@@ -2,7 +2,6 @@
 
 #include "AsmFeConfigPage.h"
 #include "AsmFeFileHndlr.h"
-#include "AsmFeParseArg.h"
 #include "AsmFeStatusBar.h"
 
 #include "EquListView.h"
@@ -17,9 +16,10 @@ ModAsmFe::ModAsmFe(QObject* parent)
     : QObject(parent)
     , m_fileHndlr(new AsmFeFileHndlr(this))
     , m_msgHndlr(new AsmFeMsgHndlr(m_fileHndlr, this))
-    , m_parseArg(new AsmFeParseArg(m_msgHndlr, this))
+    , m_assembler(*m_fileHndlr, *m_msgHndlr, *this)
+    , m_editorFeed(m_assembler, *this)
 {
-    setupKeywordLists();
+    m_assembler.setListener(this);
 }
 
 ModAsmFe::~ModAsmFe()
@@ -61,7 +61,7 @@ void ModAsmFe::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
-    setupSupportMenuBasic();
+    m_editorFeed.setupSupportMenuBasic(modEditorHook);
 }
 
 void ModAsmFe::modExitIntermod()
@@ -102,7 +102,7 @@ void ModAsmFe::removeIODevViewer()
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_ioDevViewer);
     // Deleted later, as the call may come from the view.
-    if (m_running)
+    if (m_assembler.isRunning())
         m_ioDevViewer->deleteLater();
     else
         delete m_ioDevViewer;
@@ -141,33 +141,34 @@ void ModAsmFe::unregisterPlugin(ModAsmFePluginIf* plugin)
 
 void ModAsmFe::registerPlugin(ModAsmFePluginIfBackend* plugin)
 {
-    if (plugin == nullptr || plugin == m_asmBe)
+    if (plugin == nullptr || plugin == m_backend.plugin())
         return;
-    if (m_asmBe != nullptr)
-        m_asmBe->modAsmFeHook = nullptr;
-    m_asmBe = plugin;
-    m_asmBe->modAsmFeHook = this;
+    if (m_backend.plugin() != nullptr)
+        m_backend.plugin()->modAsmFeHook = nullptr;
+    m_backend.setPlugin(plugin);
+    plugin->modAsmFeHook = this;
+    m_assembler.setBackend(&m_backend);
     applyBackendConfig();
 }
 
 void ModAsmFe::unregisterPlugin(ModAsmFePluginIfBackend* plugin)
 {
-    if (plugin == nullptr || plugin != m_asmBe)
+    if (plugin == nullptr || plugin != m_backend.plugin())
         return;
-    m_asmBe->modAsmFeHook = nullptr;
-    m_asmBe = nullptr;
-    m_assembled = false;
-    m_abandoned = m_running;
+    plugin->modAsmFeHook = nullptr;
+    m_backend.setPlugin(nullptr);
+    m_assembler.setBackend(nullptr);
     clearIODevViewer();
     applyBackendConfig();
 }
 
 bool ModAsmFe::instMemConfig(int* pageSize, int* pageCount, bool* sharedMemHi)
 {
-    *pageSize = m_pageSize;
-    *pageCount = m_pageCount;
-    *sharedMemHi = m_sharedMemHi;
-    return m_assembled;
+    const AsmMemGeometry& geometry = m_assembler.program().geometry;
+    *pageSize = geometry.pageSize;
+    *pageCount = geometry.pageCount;
+    *sharedMemHi = geometry.isSharedHigh;
+    return isAssembled();
 }
 
 void ModAsmFe::prjOpen()
@@ -198,11 +199,7 @@ void ModAsmFe::prjClose()
         m_statusBar->setProcessorName(QString());
     clearHighlighter();
     m_fileHndlr->setPrjDir(QString());
-    // A run in progress still uses its elements: assemble() drops them when the run has ended.
-    if (m_running)
-        m_abandoned = true;
-    else
-        dropProgram();
+    m_assembler.drop();
     removeIODevViewer();
 }
 
@@ -305,24 +302,17 @@ void ModAsmFe::showSrcReference(SrcReference* srcRef)
 
 void ModAsmFe::applyBaseConfig()
 {
-    setupDefaultCodec(defaultCharset);
-    setHighlighter();
+    m_assembler.charsets().setupDefaultCodec(defaultCharset);
+    m_editorFeed.setHighlighter(modEditorHook);
 }
 
 void ModAsmFe::applyBackendConfig()
 {
-    m_regTable.clear();
-    m_bankTable.clear();
-    if (m_asmBe != nullptr) {
-        if (const QHash<QString, int>* regs = m_asmBe->regNames())
-            m_regTable = *regs;
-        if (const QHash<QString, int>* banks = m_asmBe->regBankNames())
-            m_bankTable = *banks;
-    }
+    m_assembler.refreshProcessorNames();
     if (m_statusBar != nullptr)
-        m_statusBar->setProcessorName(m_asmBe != nullptr ? m_asmBe->processorName() : QString());
-    setupSupportMenuHardware();
-    setHighlighter();
+        m_statusBar->setProcessorName(m_assembler.backend() != nullptr ? m_backend.processorName() : QString());
+    m_editorFeed.setupSupportMenuHardware(modEditorHook);
+    m_editorFeed.setHighlighter(modEditorHook);
 }
 
 } // namespace nsModAsmFe

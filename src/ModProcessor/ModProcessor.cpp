@@ -57,7 +57,7 @@ void ModProcessor::modInitIntermod()
 
 void ModProcessor::prjOpen()
 {
-    processor = modPrjHook->value(nsProc::Processor::projectKey, QString());
+    rdProcConfig(modPrjHook);
     setupProcessorIf();
     if (m_current != nullptr)
         m_current->rdCfg();
@@ -65,7 +65,7 @@ void ModProcessor::prjOpen()
 
 void ModProcessor::prjSave()
 {
-    modPrjHook->setValue(nsProc::Processor::projectKey, processor);
+    wrProcConfig(modPrjHook);
     if (m_current != nullptr)
         m_current->wrCfg();
 }

@@ -1,5 +1,6 @@
 #include "Processor.h"
 
+#include "ProcConfig.h"
 #include "ProcTables.h"
 
 #include "PrjSettings.h"
@@ -40,7 +41,9 @@ Processor::Processor(const ProcTable& table, ProcCoreConfig* run)
 
 std::unique_ptr<Processor> Processor::ofProject(PrjSettings* project)
 {
-    const ProcTable* table = procTable(project->value(projectKey, QString()));
+    nsModProcessor::ProcConfig choice;
+    choice.rdProcConfig(project);
+    const ProcTable* table = procTable(choice.processor);
     if (table == nullptr)
         return nullptr;
     auto processor = std::make_unique<Processor>(*table);

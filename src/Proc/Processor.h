@@ -24,8 +24,6 @@ public:
     /// Not owned
     explicit Processor(const ProcTable& table, ProcCoreConfig* run = nullptr);
 
-    /// Key of the project's choice: the display name of a processor.
-    static constexpr const char* projectKey = "ModProcessor/processor";
     /// The processor that the project has chosen, with the project's settings; null if it has chosen none.
     static std::unique_ptr<Processor> ofProject(PrjSettings* project);
 

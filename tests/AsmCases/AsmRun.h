@@ -2,35 +2,15 @@
 
 #include "AsmCase.h"
 #include "FakeMsgHook.h"
+#include "FakeSrcNaviHook.h"
 
 #include "ModAsmFe.h"
 #include "ModPrj.h"
 #include "ModProcessor.h"
 #include "ModSources.h"
-#include "ModSrcNaviHookIf.h"
-#include "NaviTag.h"
 
 #include <QDir>
 #include <QStringList>
-
-/// Stands in for the source navigator: keeps the tags.
-class FakeSrcNaviHook : public ModSrcNaviHookIf
-{
-public:
-    ~FakeSrcNaviHook() override { clearTagList(); }
-    void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
-    void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
-    void clearTagList() override
-    {
-        qDeleteAll(tags);
-        tags.clear();
-    }
-    void addTag(nsModSrcNavi::NaviTag* tag) override { tags.append(tag); }
-    void showTagList() override { ++shown; }
-
-    QList<nsModSrcNavi::NaviTag*> tags;
-    int shown = 0;
-};
 
 /// One case, run through the real modules in a folder of its own, and compared with what it expects.
 class AsmRun

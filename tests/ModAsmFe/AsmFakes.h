@@ -1,24 +1,17 @@
 #pragma once
 
+#include "FakeEditorHook.h"
 #include "FakeMsgHook.h"
+#include "FakeSrcNaviHook.h"
 
-#include "EditorMemPageAddrMap.h"
-#include "EditorSupportMenu.h"
 #include "ModAsmFeHookIf.h"
 #include "ModAsmFePluginIf.h"
-#include "ModEditorHookIf.h"
-#include "ModEditorPluginIf.h"
-#include "ModSrcNaviHookIf.h"
-#include "ModSrcNaviPluginIf.h"
 #include "ModSyscallHookIf.h"
 #include "ModSyscallPluginIf.h"
-#include "NaviTag.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
 
-#include <QRegExp>
 #include <QSet>
-#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -74,28 +67,22 @@ public:
 };
 
 /// The navigator: keeps the tags.
-class LoggingNaviHook : public ModSrcNaviHookIf
+class LoggingNaviHook : public FakeSrcNaviHook
 {
 public:
     explicit LoggingNaviHook(QStringList* log)
         : calls(log)
     {
     }
-    ~LoggingNaviHook() override { qDeleteAll(tags); }
 
-    void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
-    void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
     void clearTagList() override
     {
         calls->append("navi.clear");
-        qDeleteAll(tags);
-        tags.clear();
+        FakeSrcNaviHook::clearTagList();
     }
-    void addTag(nsModSrcNavi::NaviTag* tag) override { tags.append(tag); }
     void showTagList() override { calls->append("navi.show"); }
 
     QStringList* calls;
-    QList<nsModSrcNavi::NaviTag*> tags;
 };
 
 /// External programs: the answer is a knob.
@@ -123,7 +110,7 @@ public:
 };
 
 /// The editor as the assembler sees it.
-class LoggingEditorHook : public ModEditorHookIf
+class LoggingEditorHook : public FakeEditorHook
 {
 public:
     explicit LoggingEditorHook(QStringList* log)
@@ -131,37 +118,12 @@ public:
     {
     }
 
-    void registerPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfAssembler*) override {}
-    void unregisterPlugin(ModEditorPluginIfAssembler*) override {}
-    void registerPlugin(ModEditorPluginIfInterMod*) override {}
-    void unregisterPlugin(ModEditorPluginIfInterMod*) override {}
-    void registerPlugin(ModEditorPluginIfSimulator*) override {}
-    void unregisterPlugin(ModEditorPluginIfSimulator*) override {}
-    void newFile(QString) override {}
-    bool openFile(QString) override { return false; }
-    void reloadAllFiles() override {}
-    void reloadFile() override {}
-    bool selectFile(QString) override { return false; }
     void saveAllFiles() override { calls->append("editor.saveAllFiles"); }
-    bool saveFile() override { return false; }
-    bool saveFileAs() override { return false; }
-    bool saveFileAs(QString) override { return false; }
-    void closeAllFiles() override {}
-    void closeOtherFiles() override {}
-    void closeFile() override {}
-    void printFile() override {}
-    void setCursorToLine(QString, QString, int) override {}
+    using FakeEditorHook::setCursorToLine;
     void setCursorToLine(QString path, int line) override
     {
         places.append(path.section('/', -1) + ':' + QString::number(line));
     }
-    void setCursorToLine(QUrl) override {}
-    bool cursorLine(QString*, int*) override { return false; }
-    void clearLineHighlited() override {}
-    void setLineHighlighted(QUrl) override {}
-    void setLineHighlighted(QString, int) override {}
     void clearHighlighter() override
     {
         calls->append("editor.clearHighlighter");
@@ -176,18 +138,12 @@ public:
         if (onMap)
             onMap();
     }
-    QMap<QString, QList<int>> simBreakpoints() override { return {}; }
-    bool simBreakpointsChanged() override { return false; }
-    bool simStartPointer(QString*, int*) override { return false; }
-    void simEn(bool) override {}
-    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList& words) override
     {
         calls->append("editor.setTextCompletionList");
         completion = words;
     }
     nsModEditor::EditorSupportMenu* supportMenu() override { return withMenu ? &menu : nullptr; }
-    int simBreakpointsRevision() override { return 0; }
 
     QStringList* calls;
     std::unique_ptr<nsModEditor::EditorMemPageAddrMap> map;

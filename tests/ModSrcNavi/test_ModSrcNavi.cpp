@@ -1,6 +1,6 @@
 // The module: its place in the window, its settings, its clients and the way to the editor.
 
-#include "FakeEditorHook.h"
+#include "CursorRecorder.h"
 #include "FakeHooks.h"
 #include "NaviFixture.h"
 
@@ -52,7 +52,7 @@ protected:
 
     FakeGuiHook gui;
     FakeCfgAppHook cfg;
-    FakeEditorHook editor;
+    CursorRecorder editor;
     FakePrjHook prj;
     ModSrcNavi navi;
     QWidget* panel = nullptr;

@@ -1,7 +1,7 @@
 // The navigator in the real window, filled by the real assembler.
 
+#include "CursorRecorder.h"
 #include "ExampleFolder.h"
-#include "FakeEditorHook.h"
 #include "FakeMsgHook.h"
 #include "NaviFixture.h"
 #include "Settle.h"
@@ -96,7 +96,7 @@ protected:
 
     QTemporaryDir folder;
     FakeMsgHook msg;
-    FakeEditorHook editor;
+    CursorRecorder editor;
     QMainWindow window;
     nsModPrj::ModPrj* prj;
     nsModSources::ModSources* sources;

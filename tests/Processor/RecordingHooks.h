@@ -1,16 +1,12 @@
 #pragma once
 
+#include "FakeEditorHook.h"
 #include "FakeHooks.h"
 
 #include "ModAsmFeHookIf.h"
 #include "ModAsmFePluginIf.h"
-#include "ModEditorHookIf.h"
-#include "ModEditorPluginIf.h"
 
-#include <QMap>
-#include <QRegExp>
 #include <QStringList>
-#include <QUrl>
 
 // Services that write into one common log who registers with them, as "+ModGuiPluginIf" and "-ModGuiPluginIf".
 
@@ -179,61 +175,26 @@ private:
     QStringList* m_log;
 };
 
-class RecordingEditorHook : public ModEditorHookIf
+class RecordingEditorHook : public FakeEditorHook
 {
 public:
     explicit RecordingEditorHook(QStringList* log)
         : m_log(log)
     {
     }
-    void registerPlugin(ModEditorPluginIf* plugin) override { enter("+ModEditorPluginIf", plugin, this); }
-    void unregisterPlugin(ModEditorPluginIf* plugin) override { enter("-ModEditorPluginIf", plugin, nullptr); }
-    void registerPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = nullptr; }
-    void newFile(QString) override {}
-    bool openFile(QString) override { return false; }
-    void reloadAllFiles() override {}
-    void reloadFile() override {}
-    bool selectFile(QString) override { return false; }
-    void saveAllFiles() override {}
-    bool saveFile() override { return false; }
-    bool saveFileAs() override { return false; }
-    bool saveFileAs(QString) override { return false; }
-    void closeAllFiles() override {}
-    void closeOtherFiles() override {}
-    void closeFile() override {}
-    void printFile() override {}
-    void setCursorToLine(QString, QString, int) override {}
-    void setCursorToLine(QString, int) override {}
-    void setCursorToLine(QUrl) override {}
-    bool cursorLine(QString*, int*) override { return false; }
-    void clearLineHighlited() override {}
-    void setLineHighlighted(QUrl) override {}
-    void setLineHighlighted(QString, int) override {}
-    void clearHighlighter() override {}
-    void configHighlighterAddRegExp(eHighlightRule_t, QRegExp) override {}
-    void setTabIndent(int) override {}
-    void setMemPageAddrMap(nsModEditor::EditorMemPageAddrMap*) override {}
-    QMap<QString, QList<int>> simBreakpoints() override { return {}; }
-    bool simBreakpointsChanged() override { return false; }
-    bool simStartPointer(QString*, int*) override { return false; }
-    void simEn(bool) override {}
-    void markLine(QString, int) override {}
-    void setTextCompletionList(QStringList&) override {}
-    nsModEditor::EditorSupportMenu* supportMenu() override { return nullptr; }
-    int simBreakpointsRevision() override { return 0; }
-
-private:
-    template <class Plugin>
-    void enter(const char* text, Plugin* plugin, ModEditorHookIf* hook)
+    using FakeEditorHook::registerPlugin;
+    using FakeEditorHook::unregisterPlugin;
+    void registerPlugin(ModEditorPluginIf* plugin) override
     {
-        m_log->append(text);
-        plugin->modEditorHook = hook;
+        m_log->append("+ModEditorPluginIf");
+        FakeEditorHook::registerPlugin(plugin);
+    }
+    void unregisterPlugin(ModEditorPluginIf* plugin) override
+    {
+        m_log->append("-ModEditorPluginIf");
+        FakeEditorHook::unregisterPlugin(plugin);
     }
 
+private:
     QStringList* m_log;
 };

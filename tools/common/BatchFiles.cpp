@@ -1,9 +1,7 @@
 #include "BatchFiles.h"
 
-#include "AsmFeFileHndlr.h"
 #include "IODev.h"
 #include "IODevList.h"
-#include "ModAsmFe.h"
 
 #include <QFileInfo>
 
@@ -39,10 +37,10 @@ bool isSameTarget(const QString& name, const QString& other)
     return target == targetOf(other) && !target.startsWith("/dev/");
 }
 
-ProjectFiles::ProjectFiles(const QString& project, nsModAsmFe::ModAsmFe* asmFe)
+ProjectFiles::ProjectFiles(const QString& project, const QStringList& sources, const nsModAsmFe::IODevList& devices)
 {
-    m_files << project << asmFe->fileHndlr()->files();
-    for (const nsModAsmFe::IODev* dev : asmFe->ioDevList()->devices())
+    m_files << project << sources;
+    for (const nsModAsmFe::IODev* dev : devices.devices())
         m_files << dev->vhdlTemplateFile << dev->vhdlTargetFile << dev->verilogTemplateFile << dev->verilogTargetFile
                 << dev->hexTargetFile << dev->memTargetFile;
 }

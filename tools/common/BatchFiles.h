@@ -10,7 +10,7 @@
 #include <memory>
 
 namespace nsModAsmFe {
-class ModAsmFe;
+class IODevList;
 }
 
 namespace nsBatch {
@@ -24,7 +24,9 @@ bool isSameTarget(const QString& name, const QString& other);
 class ProjectFiles
 {
 public:
-    ProjectFiles(const QString& project, nsModAsmFe::ModAsmFe* asmFe);
+    /// @param project path of its file
+    /// @param devices those of the assembled program
+    ProjectFiles(const QString& project, const QStringList& sources, const nsModAsmFe::IODevList& devices);
 
     /// Is this name one of the files, whatever path leads there?
     bool contains(const QString& file) const;

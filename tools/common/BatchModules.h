@@ -6,8 +6,34 @@
 #include "ModProcessor.h"
 #include "ModSources.h"
 #include "ModulePhases.h"
+#include "PluginList.h"
 
 namespace nsBatch {
+
+/// The message service as a module.
+class BatchMsgModule : public ModPluginIf
+{
+public:
+    explicit BatchMsgModule(BatchMsg* msg)
+        : m_msg(msg)
+    {
+    }
+
+    void modRegisterPlugins(QList<ModPluginIf*> modules) override
+    {
+        registerPluginsOf<ModMsgPluginIf>(modules, m_msg);
+        registerPluginsOf<ModMsgPluginIfInterMod>(modules, m_msg);
+    }
+    void modInit() override {}
+    void modInitIntermod() override {}
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override {}
+    void modExit() override {}
+
+private:
+    BatchMsg* m_msg;
+};
 
 /// The modules that a run without a window needs. They find one another as in the window; the hook of a module that is
 /// not in the list is null.
@@ -29,6 +55,7 @@ struct BatchModules
     inline static BatchModules* volatile instance = nullptr;
 
     BatchMsg msg;
+    BatchMsgModule msgModule{&msg};
     nsModPrj::ModPrj prj;
     nsModSources::ModSources sources;
     nsModAsmFe::ModAsmFe asmFe;
@@ -39,7 +66,7 @@ private:
     explicit BatchModules(const BatchMsgStyle& style)
         : msg(style)
     {
-        for (ModPluginIf* module : std::initializer_list<ModPluginIf*>{&msg, &prj, &sources, &processor, &asmFe})
+        for (ModPluginIf* module : std::initializer_list<ModPluginIf*>{&msgModule, &prj, &sources, &processor, &asmFe})
             phases.append(module);
         phases.start();
         // The run is started by the program, once, and not by the opening of the project.

@@ -46,20 +46,14 @@ void BatchMsg::unregisterPlugin(ModMsgPluginIfInterMod* plugin)
 
 void BatchMsg::registerPlugin(ModMsgPluginIf* plugin)
 {
-    if (m_plugins.add(plugin))
+    if (plugin != nullptr)
         plugin->modMsgHook = this;
 }
 
 void BatchMsg::unregisterPlugin(ModMsgPluginIf* plugin)
 {
-    if (m_plugins.remove(plugin))
+    if (plugin != nullptr)
         plugin->modMsgHook = nullptr;
-}
-
-void BatchMsg::modRegisterPlugins(QList<ModPluginIf*> modules)
-{
-    registerPluginsOf<ModMsgPluginIf>(modules, this);
-    registerPluginsOf<ModMsgPluginIfInterMod>(modules, this);
 }
 
 void BatchMsg::openMessageGroup(QString text, QUrl hlpDoc)

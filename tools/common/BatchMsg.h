@@ -1,8 +1,6 @@
 #pragma once
 
 #include "ModMsgHookIf.h"
-#include "ModPluginIf.h"
-#include "PluginList.h"
 
 #include <QStringList>
 
@@ -19,7 +17,7 @@ struct BatchMsgStyle
 };
 
 /// The message service of a program without a window: prints each message as it comes, and counts.
-class BatchMsg : public ModMsgHookIf, public ModPluginIf
+class BatchMsg : public ModMsgHookIf
 {
 public:
     explicit BatchMsg(const BatchMsgStyle& style);
@@ -45,15 +43,6 @@ public:
     void showWarningMessage(QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
     void showErrorMessage(QString text, QUrl hlpDoc, nsModMsg::MsgUrl srcFile) override;
 
-    // ModPluginIf
-    void modRegisterPlugins(QList<ModPluginIf*> modules) override;
-    void modInit() override {}
-    void modInitIntermod() override {}
-    void modRun() override {}
-    bool modExitRequest() override { return true; }
-    void modExitIntermod() override {}
-    void modExit() override {}
-
 private:
     bool isFatal(const QString& key) const { return m_style.werror && !m_style.harmless.contains(key); }
     bool isShown(eMsgType_t type, const QString& key) const;
@@ -61,7 +50,6 @@ private:
     void printJson(eMsgType_t type, const QString& text, const QString& key, const QString& file, int line);
 
     BatchMsgStyle m_style;
-    PluginList<ModMsgPluginIf> m_plugins;
     QStringList m_groups;
     int m_errors = 0;
     int m_warnings = 0;

@@ -9,7 +9,7 @@
 namespace nsNalvoAsm {
 
 using namespace nsBatch;
-using nsModAsmFe::ModAsmFe;
+using nsModAsmFe::AsmFeConfig;
 
 namespace {
 
@@ -70,10 +70,10 @@ AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
 
 bool AsmOptions::readChoices(const QCommandLineParser& parser)
 {
-    static const QHash<QString, ModAsmFe::eAssembleEvent_t> events = {{"none", ModAsmFe::eEventNone},
-                                                                      {"button1", ModAsmFe::eEventButton1},
-                                                                      {"button2", ModAsmFe::eEventButton2},
-                                                                      {"save", ModAsmFe::eEventSave}};
+    static const QHash<QString, AsmFeConfig::eAssembleEvent_t> events = {{"none", AsmFeConfig::eEventNone},
+                                                                         {"button1", AsmFeConfig::eEventButton1},
+                                                                         {"button2", AsmFeConfig::eEventButton2},
+                                                                         {"save", AsmFeConfig::eEventSave}};
     static const QHash<QString, bool> formats = {{"text", false}, {"json", true}};
     const QString eventName = parser.value("event");
     const QString formatName = parser.value("format");

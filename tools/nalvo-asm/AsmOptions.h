@@ -1,8 +1,8 @@
 #pragma once
 
+#include "AsmFeConfig.h"
 #include "BatchMsg.h"
 #include "BatchOptions.h"
-#include "ModAsmFe.h"
 
 #include <QString>
 #include <QStringList>
@@ -17,7 +17,7 @@ struct AsmOptions : nsBatch::BatchOptions
     /// Reads the arguments, and shows help, version or what is wrong with them.
     eParse_t parse(const QStringList& arguments);
 
-    nsModAsmFe::ModAsmFe::eAssembleEvent_t event = nsModAsmFe::ModAsmFe::eEventButton1;
+    nsModAsmFe::AsmFeConfig::eAssembleEvent_t event = nsModAsmFe::AsmFeConfig::eEventButton1;
     nsBatch::BatchMsgStyle style;
     QString listingFile; ///< empty: none; "-": standard output
     QString symbolsFile; ///< empty: none; "-": standard output

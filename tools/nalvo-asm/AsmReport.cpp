@@ -1,10 +1,11 @@
 #include "AsmReport.h"
 
 #include "AsmFeFileHndlr.h"
+#include "AsmLimits.h"
+#include "AsmProgram.h"
 #include "BatchFiles.h"
 #include "BatchOutput.h"
 #include "LineReader.h"
-#include "ModAsmFe.h"
 #include "Opcode.h"
 
 #include <QFile>
@@ -22,10 +23,10 @@ using namespace nsModAsmFe;
 namespace {
 
 /// The instructions in the order of the memory. Shared code is listed once, at its own address.
-std::vector<const Opcode*> opcodesByAddr(ModAsmFe* asmFe)
+std::vector<const Opcode*> opcodesByAddr(const AsmProgram& program)
 {
     std::vector<const Opcode*> opcodes;
-    for (const Opcode* opcode = asmFe->opcodeList()->first(); opcode != nullptr; opcode = opcode->next)
+    for (const Opcode* opcode = program.opcodes.first(); opcode != nullptr; opcode = opcode->next)
         opcodes.push_back(opcode);
     std::stable_sort(opcodes.begin(), opcodes.end(),
                      [](const Opcode* a, const Opcode* b) { return a->memAddr < b->memAddr; });
@@ -39,7 +40,7 @@ std::vector<QByteArray> sourceLines(const QString& file)
     QFile source(file);
     if (!source.open(QIODevice::ReadOnly))
         return lines;
-    LineReader reader(&source, ModAsmFe::maxLineLength);
+    LineReader reader(&source, AsmLimits::maxLineLength);
     QString line;
     while (reader.readLine(&line)) {
         if (line.endsWith('\n'))
@@ -54,9 +55,9 @@ QByteArray hex(int value, int digits)
     return QByteArray::number(value, 16).toUpper().rightJustified(digits, '0');
 }
 
-QString rangeName(const ModAsmFe* asmFe, int number)
+QString rangeName(const AsmProgram& program, int number)
 {
-    const MemRange* range = asmFe->memRangeList()->find(number);
+    const MemRange* range = program.memRanges.find(number);
     return range != nullptr ? range->name.toUpper() : QString();
 }
 
@@ -92,45 +93,44 @@ QString equKind(const Arg* arg)
 
 } // namespace
 
-QByteArray listingText(ModAsmFe* asmFe)
+QByteArray listingText(const AsmProgram& program, const AsmFeFileHndlr& files)
 {
     std::vector<std::vector<QByteArray>> sources;
-    QList<QByteArray> files;
-    for (const QString& file : asmFe->fileHndlr()->files()) {
+    QList<QByteArray> paths;
+    for (const QString& file : files.files()) {
         sources.push_back(sourceLines(file));
-        files.append(shownPath(file).toLocal8Bit());
+        paths.append(shownPath(file).toLocal8Bit());
     }
     QByteArray text;
-    for (const Opcode* opcode : opcodesByAddr(asmFe)) {
+    for (const Opcode* opcode : opcodesByAddr(program)) {
         const SrcReference& ref = opcode->srcRef;
         const std::vector<QByteArray>& lines = sources.at(size_t(ref.fileNo));
-        text += hex(opcode->memAddr, 4) + ' ' + rangeName(asmFe, opcode->memRange).toLocal8Bit() + ' ' +
-                hex(opcode->pageAddr, 3) + ' ' + hex(opcode->instWord, 5) + ' ' + files.at(ref.fileNo) + ':' +
+        text += hex(opcode->memAddr, 4) + ' ' + rangeName(program, opcode->memRange).toLocal8Bit() + ' ' +
+                hex(opcode->pageAddr, 3) + ' ' + hex(opcode->instWord, 5) + ' ' + paths.at(ref.fileNo) + ':' +
                 QByteArray::number(ref.lineNo + 1) + ' ' +
                 (size_t(ref.lineNo) < lines.size() ? lines[size_t(ref.lineNo)] : QByteArray()) + '\n';
     }
     return text;
 }
 
-QByteArray symbolsText(ModAsmFe* asmFe)
+QByteArray symbolsText(const AsmProgram& program, const AsmFeFileHndlr& files)
 {
-    const AsmFeFileHndlr* files = asmFe->fileHndlr();
-    const auto place = [files](QJsonObject* object, const SrcReference& ref) {
-        object->insert("file", shownPath(files->absSrcFilePath(ref.fileNo)));
+    const auto place = [&files](QJsonObject* object, const SrcReference& ref) {
+        object->insert("file", shownPath(files.absSrcFilePath(ref.fileNo)));
         object->insert("line", ref.lineNo + 1);
     };
     QJsonArray labels;
-    for (const Label* label = asmFe->labelList()->first(); label != nullptr; label = label->next) {
-        const Opcode* target = asmFe->opcodeList()->nextOfLineIndex(label->srcRef.absLineNo);
+    for (const Label* label = program.labels.first(); label != nullptr; label = label->next) {
+        const Opcode* target = program.opcodes.nextOfLineIndex(label->srcRef.absLineNo);
         const bool bound = target != nullptr && target->nameSpace == label->nameSpace;
         QJsonObject object{{"name", qualifiedName(label->nameSpace, label->name)},
                            {"address", bound ? QJsonValue(target->pageAddr) : QJsonValue()},
-                           {"page", bound ? QJsonValue(rangeName(asmFe, target->memRange)) : QJsonValue()}};
+                           {"page", bound ? QJsonValue(rangeName(program, target->memRange)) : QJsonValue()}};
         place(&object, label->srcRef);
         labels.append(object);
     }
     QJsonArray equs;
-    for (const Equ* equ = asmFe->equList()->first(); equ != nullptr; equ = equ->next) {
+    for (const Equ* equ = program.equs.first(); equ != nullptr; equ = equ->next) {
         QJsonObject object{{"name", qualifiedName(equ->nameSpace, equ->name)},
                            {"kind", equKind(equ->arg)},
                            {"value", equValue(equ->arg)},

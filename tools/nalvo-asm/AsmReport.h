@@ -4,16 +4,17 @@
 #include <QString>
 
 namespace nsModAsmFe {
-class ModAsmFe;
-}
+class AsmFeFileHndlr;
+struct AsmProgram;
+} // namespace nsModAsmFe
 
 namespace nsNalvoAsm {
 
 /// One line an instruction, in the order of the memory: memory address, range, address in the range, word, file and
 /// line, source.
-QByteArray listingText(nsModAsmFe::ModAsmFe* asmFe);
+QByteArray listingText(const nsModAsmFe::AsmProgram& program, const nsModAsmFe::AsmFeFileHndlr& files);
 /// All labels and constants as JSON.
-QByteArray symbolsText(nsModAsmFe::ModAsmFe* asmFe);
+QByteArray symbolsText(const nsModAsmFe::AsmProgram& program, const nsModAsmFe::AsmFeFileHndlr& files);
 /// Writes a report; "-" is standard output.
 /// @return why that failed, or an empty text
 QString writeReport(const QString& file, const QByteArray& text);

@@ -3,11 +3,9 @@
 #include "AsmOptions.h"
 #include "AsmReport.h"
 #include "BatchFiles.h"
-#include "BatchModules.h"
 #include "BatchOutput.h"
 #include "BatchProcess.h"
-
-#include "ModAsmFe.h"
+#include "BatchProject.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -62,24 +60,25 @@ void showSummary(const BatchMsg& msg, const BatchMsgStyle& style, bool success, 
 class Reports
 {
 public:
-    Reports(BatchModules* modules, const QString& project)
-        : m_modules(modules)
-        , m_taken(project, &modules->asmFe)
+    Reports(BatchProject& project, const QString& file)
+        : m_project(project)
+        , m_taken(file, project.sources().files(), project.assembler().program().ioDevs)
     {
     }
 
-    bool write(const QString& file, QByteArray (*text)(nsModAsmFe::ModAsmFe*))
+    bool write(const QString& file,
+               QByteArray (*text)(const nsModAsmFe::AsmProgram&, const nsModAsmFe::AsmFeFileHndlr&))
     {
         if (file.isEmpty())
             return true;
         if (m_taken.contains(file)) {
-            m_modules->msg.showErrorMessage(tr("File of the project would be overwritten: %1").arg(file), QUrl(), {});
+            m_project.msg().showErrorMessage(tr("File of the project would be overwritten: %1").arg(file), QUrl(), {});
             return false;
         }
-        const QString failure = writeReport(file, text(&m_modules->asmFe));
+        const QString failure = writeReport(file, text(m_project.assembler().program(), m_project.sources()));
         if (!failure.isEmpty()) {
             const QString name = file == "-" ? tr("standard output") : file;
-            m_modules->msg.showErrorMessage(tr("Can not write %1: %2").arg(name, failure), QUrl(), {});
+            m_project.msg().showErrorMessage(tr("Can not write %1: %2").arg(name, failure), QUrl(), {});
             return false;
         }
         if (file != "-")
@@ -90,29 +89,30 @@ public:
     QStringList written() const { return m_written; }
 
 private:
-    BatchModules* m_modules;
+    BatchProject& m_project;
     ProjectFiles m_taken;
     QStringList m_written;
 };
 
 int run(const AsmOptions& options)
 {
-    BatchModules& modules = BatchModules::create(options.style);
-    const QString project = options.project.isEmpty() ? QString() : QFileInfo(options.project).absoluteFilePath();
-    if (!modules.prj.openPrj(project)) {
-        showSummary(modules.msg, options.style, false, 0, {});
+    BatchProject& project = BatchProject::create(options.style);
+    const QString file = options.project.isEmpty() ? QString() : QFileInfo(options.project).absoluteFilePath();
+    if (!project.open(file)) {
+        showSummary(project.msg(), options.style, false, 0, {});
         return exitWrongUsage;
     }
-    modules.asmFe.assemble(options.event);
-    Reports reports(&modules, project);
-    if (modules.asmFe.isAssembled()) {
+    const nsModAsmFe::Assembler& assembler = project.assembler();
+    const bool assembled = project.assemble(options.event);
+    Reports reports(project, file);
+    if (assembler.isAssembled()) {
         reports.write(options.listingFile, listingText);
         reports.write(options.symbolsFile, symbolsText);
     }
     // A run that has reported an error counts as failed, even where the assembler could go on.
-    const bool success = modules.asmFe.runSucceeded() && modules.msg.errors() == 0 && modules.msg.fatalWarnings() == 0;
-    showSummary(modules.msg, options.style, success, modules.asmFe.opcodeList()->count(),
-                modules.asmFe.writtenFiles() + reports.written());
+    const bool success = assembled && project.msg().errors() == 0 && project.msg().fatalWarnings() == 0;
+    showSummary(project.msg(), options.style, success, assembler.program().opcodes.count(),
+                assembler.writtenFiles() + reports.written());
     return success ? exitAssembled : exitNotAssembled;
 }
 

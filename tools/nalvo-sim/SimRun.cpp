@@ -131,7 +131,7 @@ bool SimRun::openReads()
 
 bool SimRun::openOutputs(const QString& project)
 {
-    const ProjectFiles taken(project, &m_modules.asmFe);
+    const ProjectFiles taken(project, m_modules.asmFe.fileHndlr()->files(), *m_modules.asmFe.ioDevList());
     for (const QString& name : m_options.outputFiles()) {
         if (taken.contains(name)) {
             printError(tr("File of the project would be overwritten: %1").arg(name));

@@ -1,36 +1,46 @@
-// Memory mapping: ranges, pages and addresses of the instructions.
+#include "MemoryMapper.h"
 
-#include "ModAsmFe.h"
-
+#include "AsmFeConfig.h"
+#include "AsmFeMsgHndlr.h"
 #include "AsmFeParseArg.h"
+#include "AsmLimits.h"
+#include "AsmProgram.h"
 #include "Opcode.h"
 
 #include <QRegExp>
 
 namespace nsModAsmFe {
 
-namespace {
-
-const int maxPageCount = 1024;
-
-} // namespace
-
-bool ModAsmFe::mapOpcodeToMem()
+MemoryMapper::MemoryMapper(AsmProgram& program, const AsmFeConfig& config, const AsmFeParseArg& numbers,
+                           AsmFeMsgHndlr& messages)
+    : m_orgs(program.orgs)
+    , m_sets(program.sets)
+    , m_opcodes(program.opcodes)
+    , m_memRanges(program.memRanges)
+    , m_geometry(program.geometry)
+    , m_config(config)
+    , m_numbers(numbers)
+    , m_messages(messages)
 {
-    const bool mapped = mapOpcodeToMemSetConfig() && mapOpcodeToMemSetRanges() && mapOpcodeToMemSetAddresses() &&
-                        mapOpcodeToMemCheckForUnmappedOpcode() && mapOpcodeToMemCheckForInterPageReferencing();
-    m_opcodeList.addressesChanged();
+}
+
+bool MemoryMapper::mapOpcodeToMem(int pageSize)
+{
+    const bool mapped = mapOpcodeToMemSetConfig(pageSize) && mapOpcodeToMemSetRanges() &&
+                        mapOpcodeToMemSetAddresses() && mapOpcodeToMemCheckForUnmappedOpcode() &&
+                        mapOpcodeToMemCheckForInterPageReferencing();
+    m_opcodes.addressesChanged();
     return mapped;
 }
 
-bool ModAsmFe::mapOpcodeToMemCheckOrgDirectives()
+bool MemoryMapper::mapOpcodeToMemCheckOrgDirectives()
 {
     bool success = true;
     const auto refuse = [&](eMsgType_t type, const Org* org, const QString& text) {
-        m_msgHndlr->signMsg(type, &org->srcRef, text);
+        m_messages.signMsg(type, &org->srcRef, text);
         success = false;
     };
-    for (Org* org = m_orgList.first(); org != nullptr; org = org->next) {
+    for (Org* org = m_orgs.first(); org != nullptr; org = org->next) {
         if (AsmFeParseArg::isNumeric(org->name)) {
             org->value = org->name;
             org->name = QStringLiteral("ADDR");
@@ -42,7 +52,7 @@ bool ModAsmFe::mapOpcodeToMemCheckOrgDirectives()
                 continue;
             }
             org->type = Org::addr;
-            org->iValue = m_parseArg->toNumeric(org->value);
+            org->iValue = m_numbers.toNumeric(org->value);
         } else if (name == QLatin1String("MEMRANGE")) {
             QRegExp page("^PAGE([0-9]+)$");
             const QString value = org->value.toUpper();
@@ -52,7 +62,7 @@ bool ModAsmFe::mapOpcodeToMemCheckOrgDirectives()
                 // A number that is too large stands for a page that cannot exist.
                 bool ok = false;
                 const int number = page.cap(1).toInt(&ok);
-                org->iValue = ok && number < maxPageCount ? number + 1 : maxPageCount + 1;
+                org->iValue = ok && number < AsmLimits::maxPageCount ? number + 1 : AsmLimits::maxPageCount + 1;
             } else {
                 refuse(errOrgExpectMemRange, org, org->value);
                 continue;
@@ -65,25 +75,24 @@ bool ModAsmFe::mapOpcodeToMemCheckOrgDirectives()
     return success;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetConfig()
+bool MemoryMapper::mapOpcodeToMemSetConfig(int pageSize)
 {
-    m_pageSize = m_asmBe != nullptr ? m_asmBe->beConfig() : 0;
-    m_pageCount = 1;
-    m_sharedMemHi = true;
-    m_instMemMapped = false;
+    m_geometry.pageSize = pageSize;
+    m_geometry.pageCount = 1;
+    m_geometry.isSharedHigh = true;
     const Set* last = nullptr;
-    for (Set* set = m_setList.first(); set != nullptr; set = set->next) {
+    for (Set* set = m_sets.first(); set != nullptr; set = set->next) {
         if (set->nameSpaceUpper != QLatin1String("INSTMEM"))
             continue;
         if (set->nameUpper == QLatin1String("PAGESIZE")) {
-            if (!mapOpcodeToMemSetConfigNumber(set, &m_pageSize, "pageSize"))
+            if (!mapOpcodeToMemSetConfigNumber(set, &m_geometry.pageSize, "pageSize"))
                 return false;
             last = set;
         } else if (set->nameUpper == QLatin1String("PAGECOUNT")) {
-            if (!mapOpcodeToMemSetConfigNumber(set, &m_pageCount, "pageCount"))
+            if (!mapOpcodeToMemSetConfigNumber(set, &m_geometry.pageCount, "pageCount"))
                 return false;
-            if (m_pageCount < 1 || m_pageCount > maxPageCount) {
-                m_msgHndlr->signMsg(errMMIvldRangePage, &set->srcRef);
+            if (m_geometry.pageCount < 1 || m_geometry.pageCount > AsmLimits::maxPageCount) {
+                m_messages.signMsg(errMMIvldRangePage, &set->srcRef);
                 return false;
             }
             last = set;
@@ -93,68 +102,69 @@ bool ModAsmFe::mapOpcodeToMemSetConfig()
         }
     }
     // A memory of less than nothing has no room for any instruction either.
-    m_pageSize = qMax(m_pageSize, 0);
-    if (qint64(m_pageSize) * m_pageCount > maxMemWords) {
-        m_msgHndlr->signMsg(errMMInstMemTooLarge, last != nullptr ? &last->srcRef : nullptr,
-                            QString::number(m_pageCount), QString::number(m_pageSize), QString::number(maxMemWords));
+    m_geometry.pageSize = qMax(m_geometry.pageSize, 0);
+    if (qint64(m_geometry.pageSize) * m_geometry.pageCount > AsmLimits::maxMemWords) {
+        m_messages.signMsg(errMMInstMemTooLarge, last != nullptr ? &last->srcRef : nullptr,
+                           QString::number(m_geometry.pageCount), QString::number(m_geometry.pageSize),
+                           QString::number(AsmLimits::maxMemWords));
         return false;
     }
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetConfigNumber(Set* set, int* value, const char* name)
+bool MemoryMapper::mapOpcodeToMemSetConfigNumber(Set* set, int* value, const char* name)
 {
     set->used = true;
     if (set->valueType != Set::valueNumeric) {
-        m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, set->value);
+        m_messages.signMsg(errExpectNumeric, &set->srcRef, set->value);
         return false;
     }
-    if (behaviorSet == setError) {
-        m_msgHndlr->signMsg(errSetOverwriteGuiSettings, &set->srcRef);
+    if (m_config.behaviorSet == AsmFeConfig::setError) {
+        m_messages.signMsg(errSetOverwriteGuiSettings, &set->srcRef);
         return false;
     }
-    if (behaviorSet == setWarn && set->iValue != *value)
-        m_msgHndlr->signMsg(warnSetOverwriteGuiSettings, &set->srcRef, QString::fromLatin1(name));
+    if (m_config.behaviorSet == AsmFeConfig::setWarn && set->iValue != *value)
+        m_messages.signMsg(warnSetOverwriteGuiSettings, &set->srcRef, QString::fromLatin1(name));
     *value = set->iValue;
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetConfigSharedLocation(Set* set)
+bool MemoryMapper::mapOpcodeToMemSetConfigSharedLocation(Set* set)
 {
     set->used = true;
     const QString location = set->value.toUpper();
     if (location != QLatin1String("HIMEM") && location != QLatin1String("LOMEM")) {
-        m_msgHndlr->signMsg(errMMUnsupportedSharedLoc, &set->srcRef, set->value);
+        m_messages.signMsg(errMMUnsupportedSharedLoc, &set->srcRef, set->value);
         return false;
     }
     const bool high = location == QLatin1String("HIMEM");
-    if (behaviorSet == setError) {
-        m_msgHndlr->signMsg(errSetOverwriteGuiSettings, &set->srcRef);
+    if (m_config.behaviorSet == AsmFeConfig::setError) {
+        m_messages.signMsg(errSetOverwriteGuiSettings, &set->srcRef);
         return false;
     }
-    if (behaviorSet == setWarn && high != m_sharedMemHi)
-        m_msgHndlr->signMsg(warnSetOverwriteGuiSettings, &set->srcRef, "sharedMemLocation");
-    m_sharedMemHi = high;
+    if (m_config.behaviorSet == AsmFeConfig::setWarn && high != m_geometry.isSharedHigh)
+        m_messages.signMsg(warnSetOverwriteGuiSettings, &set->srcRef, "sharedMemLocation");
+    m_geometry.isSharedHigh = high;
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetRanges()
+bool MemoryMapper::mapOpcodeToMemSetRanges()
 {
-    m_memRangeList.clear();
+    m_memRanges.clear();
     if (!addMemRanges())
         return false;
     assignMemRanges();
     return true;
 }
 
-bool ModAsmFe::addMemRanges()
+bool MemoryMapper::addMemRanges()
 {
     bool success = true;
-    for (Org* org = m_orgList.first(); org != nullptr; org = org->next) {
+    for (Org* org = m_orgs.first(); org != nullptr; org = org->next) {
         if (org->type != Org::memrange)
             continue;
-        if (org->iValue > m_pageCount) {
-            m_msgHndlr->signMsg(errMMPageOutsidePageCount, &org->srcRef, org->value);
+        if (org->iValue > m_geometry.pageCount) {
+            m_messages.signMsg(errMMPageOutsidePageCount, &org->srcRef, org->value);
             success = false;
             continue;
         }
@@ -163,34 +173,34 @@ bool ModAsmFe::addMemRanges()
         range->name = org->value;
         range->number = org->iValue;
         range->srcRef = org->srcRef;
-        m_memRangeList.append(range);
+        m_memRanges.append(range);
     }
-    if (m_pageCount < 2) {
-        if (m_memRangeList.first() == nullptr) {
+    if (m_geometry.pageCount < 2) {
+        if (m_memRanges.first() == nullptr) {
             auto* range = new MemRange;
             range->name = QStringLiteral("PAGE0");
             range->number = 1;
-            m_memRangeList.append(range);
+            m_memRanges.append(range);
         }
         return success;
     }
-    if (!m_memRangeList.contains(0)) {
-        m_msgHndlr->signMsg(errMMMissingRangeShared);
+    if (!m_memRanges.contains(0)) {
+        m_messages.signMsg(errMMMissingRangeShared);
         success = false;
     }
-    for (int number = 1; number <= m_pageCount; ++number) {
-        if (!m_memRangeList.contains(number)) {
-            m_msgHndlr->signMsg(errMMMissingRangePage, QString::number(number - 1));
+    for (int number = 1; number <= m_geometry.pageCount; ++number) {
+        if (!m_memRanges.contains(number)) {
+            m_messages.signMsg(errMMMissingRangePage, QString::number(number - 1));
             success = false;
         }
     }
     return success;
 }
 
-void ModAsmFe::assignMemRanges()
+void MemoryMapper::assignMemRanges()
 {
-    Opcode* opcode = m_opcodeList.first();
-    for (MemRange* range = m_memRangeList.first(); range != nullptr; range = range->next) {
+    Opcode* opcode = m_opcodes.first();
+    for (MemRange* range = m_memRanges.first(); range != nullptr; range = range->next) {
         while (opcode != nullptr && opcode->srcRef.absLineNo < range->srcRef.absLineNo)
             opcode = opcode->next;
         range->firstOpcode = opcode;
@@ -203,22 +213,22 @@ void ModAsmFe::assignMemRanges()
     }
 }
 
-bool ModAsmFe::applyOrgAddresses()
+bool MemoryMapper::applyOrgAddresses()
 {
     bool success = true;
-    for (const Org* org = m_orgList.first(); org != nullptr; org = org->next) {
-        if (org->type == Org::addr && (org->iValue >= m_pageSize || org->iValue < 0)) {
-            m_msgHndlr->signMsg(errMMAddrOutsideMem, &org->srcRef, QString::number(org->iValue),
-                                QString::number(m_pageSize));
+    for (const Org* org = m_orgs.first(); org != nullptr; org = org->next) {
+        if (org->type == Org::addr && (org->iValue >= m_geometry.pageSize || org->iValue < 0)) {
+            m_messages.signMsg(errMMAddrOutsideMem, &org->srcRef, QString::number(org->iValue),
+                               QString::number(m_geometry.pageSize));
             success = false;
         }
     }
     if (!success)
         return false;
-    for (Org* org = m_orgList.first(); org != nullptr; org = org->next) {
+    for (Org* org = m_orgs.first(); org != nullptr; org = org->next) {
         if (org->type != Org::addr)
             continue;
-        if (Opcode* opcode = m_opcodeList.nextOfLineIndex(org->srcRef.absLineNo)) {
+        if (Opcode* opcode = m_opcodes.nextOfLineIndex(org->srcRef.absLineNo)) {
             opcode->pageAddr = org->iValue;
             org->used = true;
         }
@@ -226,13 +236,13 @@ bool ModAsmFe::applyOrgAddresses()
     return true;
 }
 
-bool ModAsmFe::mapSharedRange(int* pageStart, int* pageLimit)
+bool MemoryMapper::mapSharedRange(int* pageStart, int* pageLimit)
 {
-    if (!m_memRangeList.contains(0))
+    if (!m_memRanges.contains(0))
         return true;
     int start = 0;
-    int limit = m_pageSize;
-    if (m_sharedMemHi) {
+    int limit = m_geometry.pageSize;
+    if (m_geometry.isSharedHigh) {
         if (!mapOpcodeToMemSetAddressesDownwards(0, &start, limit))
             return false;
         *pageLimit = start;
@@ -241,38 +251,38 @@ bool ModAsmFe::mapSharedRange(int* pageStart, int* pageLimit)
             return false;
         *pageStart = limit;
     }
-    m_msgHndlr->signMsg(infoMMMappingRangeShared, QString::number(start), QString::number(limit - 1));
+    m_messages.signMsg(infoMMMappingRangeShared, QString::number(start), QString::number(limit - 1));
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetAddresses()
+bool MemoryMapper::mapOpcodeToMemSetAddresses()
 {
     if (!applyOrgAddresses())
         return false;
     int pageStart = 0;
-    int pageLimit = m_pageSize;
+    int pageLimit = m_geometry.pageSize;
     if (!mapSharedRange(&pageStart, &pageLimit))
         return false;
-    for (int number = 1; number <= m_pageCount; ++number) {
-        m_msgHndlr->signMsg(infoMMMappingRangePage, QString::number(number - 1), QString::number(pageStart),
-                            QString::number(pageLimit - 1));
+    for (int number = 1; number <= m_geometry.pageCount; ++number) {
+        m_messages.signMsg(infoMMMappingRangePage, QString::number(number - 1), QString::number(pageStart),
+                           QString::number(pageLimit - 1));
         int limit = pageLimit;
         if (!mapOpcodeToMemSetAddressesUpwards(number, pageStart, &limit))
             return false;
     }
-    for (Opcode* opcode : m_opcodeList)
+    for (Opcode* opcode : m_opcodes)
         opcode->memAddr =
-            opcode->memRange > 0 ? (opcode->memRange - 1) * m_pageSize + opcode->pageAddr : opcode->pageAddr;
+            opcode->memRange > 0 ? (opcode->memRange - 1) * m_geometry.pageSize + opcode->pageAddr : opcode->pageAddr;
     return true;
 }
 
 /// Gives an instruction the next free address, unless a directive has pinned it to one.
 /// @param free in: next free address; out: the address after the instruction
-bool ModAsmFe::placeOpcode(Opcode* opcode, int range, int* free, int limit)
+bool MemoryMapper::placeOpcode(Opcode* opcode, int range, int* free, int limit)
 {
     const int addr = opcode->pageAddr < 0 ? *free : opcode->pageAddr;
     if (addr < *free) {
-        m_msgHndlr->signMsg(errMMAddrConflictPrevCode, &opcode->srcRef);
+        m_messages.signMsg(errMMAddrConflictPrevCode, &opcode->srcRef);
         return false;
     }
     if (addr >= limit) {
@@ -284,22 +294,22 @@ bool ModAsmFe::placeOpcode(Opcode* opcode, int range, int* free, int limit)
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetAddressesUpwards(int range, int start, int* limit)
+bool MemoryMapper::mapOpcodeToMemSetAddressesUpwards(int range, int start, int* limit)
 {
     int free = start;
     const bool success =
-        m_memRangeList.forEachOpcode(range, [&](Opcode* opcode) { return placeOpcode(opcode, range, &free, *limit); });
+        m_memRanges.forEachOpcode(range, [&](Opcode* opcode) { return placeOpcode(opcode, range, &free, *limit); });
     *limit = free;
     return success;
 }
 
-bool ModAsmFe::mapOpcodeToMemSetAddressesDownwards(int range, int* start, int limit)
+bool MemoryMapper::mapOpcodeToMemSetAddressesDownwards(int range, int* start, int limit)
 {
     // After a pinned instruction addresses ascend; only the code before the first pin is placed from the top downwards.
     int free = *start;
     bool pinned = false;
     Opcode* last = nullptr;
-    const bool success = m_memRangeList.forEachOpcode(range, [&](Opcode* opcode) {
+    const bool success = m_memRanges.forEachOpcode(range, [&](Opcode* opcode) {
         last = opcode;
         pinned = pinned || opcode->pageAddr >= 0;
         return !pinned || placeOpcode(opcode, range, &free, limit);
@@ -319,32 +329,32 @@ bool ModAsmFe::mapOpcodeToMemSetAddressesDownwards(int range, int* start, int li
     return true;
 }
 
-void ModAsmFe::mapOpcodeToMemSignErrorOutOfMemoryRange(const SrcReference* srcRef, int range, int addr)
+void MemoryMapper::mapOpcodeToMemSignErrorOutOfMemoryRange(const SrcReference* srcRef, int range, int addr)
 {
-    m_msgHndlr->signMsg(errMMAddrOutsideMem, srcRef, QString::number(addr), memRangeName(range));
+    m_messages.signMsg(errMMAddrOutsideMem, srcRef, QString::number(addr), memRangeName(range));
 }
 
-QString ModAsmFe::memRangeName(int range) const
+QString MemoryMapper::memRangeName(int range) const
 {
-    const MemRange* memRange = m_memRangeList.find(range);
+    const MemRange* memRange = m_memRanges.find(range);
     return memRange != nullptr ? memRange->name : QString();
 }
 
-bool ModAsmFe::mapOpcodeToMemCheckForUnmappedOpcode()
+bool MemoryMapper::mapOpcodeToMemCheckForUnmappedOpcode()
 {
-    for (const Opcode* opcode : m_opcodeList) {
+    for (const Opcode* opcode : m_opcodes) {
         if (opcode->memRange < 0 || opcode->pageAddr < 0) {
-            m_msgHndlr->signMsg(errMMCodeOutsideRange, &opcode->srcRef);
+            m_messages.signMsg(errMMCodeOutsideRange, &opcode->srcRef);
             return false;
         }
     }
     return true;
 }
 
-bool ModAsmFe::mapOpcodeToMemCheckForInterPageReferencing()
+bool MemoryMapper::mapOpcodeToMemCheckForInterPageReferencing()
 {
     bool success = true;
-    for (const Opcode* opcode : m_opcodeList) {
+    for (const Opcode* opcode : m_opcodes) {
         // The instruction check has set the opcode and the types of the arguments.
         if (opcode->memRange <= 0 || (opcode->opcode != ocJump && opcode->opcode != ocCall))
             continue;
@@ -353,8 +363,8 @@ bool ModAsmFe::mapOpcodeToMemCheckForInterPageReferencing()
             continue;
         const int target = arg->labelOpcode->memRange;
         if (target > 0 && target != opcode->memRange) {
-            m_msgHndlr->signMsg(errMMPageCrossReference, &opcode->srcRef, memRangeName(opcode->memRange),
-                                memRangeName(target));
+            m_messages.signMsg(errMMPageCrossReference, &opcode->srcRef, memRangeName(opcode->memRange),
+                               memRangeName(target));
             success = false;
         }
     }

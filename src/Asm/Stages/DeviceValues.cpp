@@ -1,18 +1,20 @@
-// Contents of IO devices: lists of values, and pieces of the instruction memory.
+#include "DeviceValues.h"
 
-#include "ModAsmFe.h"
-
+#include "AsmFeMsgHndlr.h"
 #include "AsmFeParseArg.h"
+#include "AsmLimits.h"
+#include "AsmProgram.h"
 #include "Opcode.h"
 
 #include <QRegExp>
+#include <QStringList>
 
 #include <limits>
 
 namespace nsModAsmFe {
 
 /// Which words, and which bits of them, an item takes from the instruction memory.
-struct ModAsmFe::sInstMemSpan_t
+struct DeviceValues::sInstMemSpan_t
 {
     int start = 0;
     int stop = 0; ///< below `start` the words go into the device in descending order
@@ -23,17 +25,26 @@ struct ModAsmFe::sInstMemSpan_t
     bool contains(qint64 addr) const { return addr >= qMin(start, stop) && addr <= qMax(start, stop); }
 };
 
-bool ModAsmFe::setupIODevAttrValues(IODev* dev)
+DeviceValues::DeviceValues(AsmProgram& program, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+    : m_sets(program.sets)
+    , m_opcodes(program.opcodes)
+    , m_geometry(program.geometry)
+    , m_numbers(numbers)
+    , m_messages(messages)
+{
+}
+
+bool DeviceValues::setupIODevAttrValues(IODev* dev)
 {
     dev->initDevice();
-    for (Set* set : m_setList.values(dev->devName)) {
+    for (Set* set : m_sets.values(dev->devName)) {
         if (!setupIODevAttrValue(dev, set))
             return false;
     }
     return true;
 }
 
-bool ModAsmFe::setupIODevAttrValue(IODev* dev, Set* set)
+bool DeviceValues::setupIODevAttrValue(IODev* dev, Set* set)
 {
     QString list = set->value;
     list.remove(QRegExp("[\\s]*"));
@@ -43,10 +54,10 @@ bool ModAsmFe::setupIODevAttrValue(IODev* dev, Set* set)
     if (withAddr.exactMatch(list)) {
         const QString start = withAddr.cap(1);
         if (!AsmFeParseArg::isNumeric(start)) {
-            m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, start);
+            m_messages.signMsg(errExpectNumeric, &set->srcRef, start);
             return false;
         }
-        addr = m_parseArg->toNumeric(start);
+        addr = m_numbers.toNumeric(start);
         list = withAddr.cap(2);
     } else if (withAppend.exactMatch(list)) {
         addr = dev->appendAddr;
@@ -60,7 +71,7 @@ bool ModAsmFe::setupIODevAttrValue(IODev* dev, Set* set)
         else if (item.startsWith(QLatin1String("INSTMEM"), Qt::CaseInsensitive))
             success = setupIODevAttrValueInstMem(dev, set, item, &addr);
         else
-            m_msgHndlr->signMsg(errUnsupportedArgument, &set->srcRef, item);
+            m_messages.signMsg(errUnsupportedArgument, &set->srcRef, item);
         if (!success)
             return false;
         ++addr;
@@ -69,17 +80,17 @@ bool ModAsmFe::setupIODevAttrValue(IODev* dev, Set* set)
     return true;
 }
 
-bool ModAsmFe::setupIODevAttrValueNumeric(IODev* dev, Set* set, const QString& item, int addr)
+bool DeviceValues::setupIODevAttrValueNumeric(IODev* dev, Set* set, const QString& item, int addr)
 {
     if (!dev->isInitValue(addr))
-        m_msgHndlr->signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(addr));
-    if (dev->setValue(addr, static_cast<unsigned int>(m_parseArg->toNumeric(item)), &set->srcRef, false))
+        m_messages.signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(addr));
+    if (dev->setValue(addr, static_cast<unsigned int>(m_numbers.toNumeric(item)), &set->srcRef, false))
         return true;
-    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(addr), QString::number(dev->memSize));
+    m_messages.signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(addr), QString::number(dev->memSize));
     return false;
 }
 
-bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& item, int* addr)
+bool DeviceValues::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& item, int* addr)
 {
     m_instMemMapped = true;
     dev->instMem = true;
@@ -87,8 +98,8 @@ bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& i
     if (!parseInstMemItem(set, item, &span))
         return false;
     if (span.count() > dev->memSize) {
-        m_msgHndlr->signMsg(errIODevInstMemRangeExceedsIODeviceRange, &set->srcRef, QString::number(span.count()),
-                            QString::number(dev->memSize));
+        m_messages.signMsg(errIODevInstMemRangeExceedsIODeviceRange, &set->srcRef, QString::number(span.count()),
+                           QString::number(dev->memSize));
         return false;
     }
     if (!mapInstMem(dev, set, span, *addr))
@@ -98,11 +109,11 @@ bool ModAsmFe::setupIODevAttrValueInstMem(IODev* dev, Set* set, const QString& i
     return true;
 }
 
-bool ModAsmFe::parseInstMemItem(Set* set, const QString& item, sInstMemSpan_t* span)
+bool DeviceValues::parseInstMemItem(Set* set, const QString& item, sInstMemSpan_t* span)
 {
     QString text = item.toUpper();
     text.remove(QLatin1String("INSTMEM"));
-    const int total = m_pageSize * m_pageCount;
+    const int total = m_geometry.pageSize * m_geometry.pageCount;
     QRegExp rangeAndBits("\\[(\\S+)\\]\\[(\\S+)\\]");
     QRegExp rangeOnly("\\[(\\S+)\\]");
     if (text.isEmpty()) {
@@ -114,48 +125,48 @@ bool ModAsmFe::parseInstMemItem(Set* set, const QString& item, sInstMemSpan_t* s
         if (!parseInstMemRange(set, rangeOnly.cap(1), span))
             return false;
     } else {
-        m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+        m_messages.signMsg(errIODevExpectInstMemRange, &set->srcRef);
         return false;
     }
     return true;
 }
 
-bool ModAsmFe::parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t* span)
+bool DeviceValues::parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t* span)
 {
-    const qint64 total = qint64(m_pageSize) * m_pageCount;
+    const qint64 total = qint64(m_geometry.pageSize) * m_geometry.pageCount;
     qint64 start = 0;
     qint64 stop = 0;
     QRegExp page("PAGE([0-9])+");
     QRegExp pair("(\\S+):(\\S+)");
     if (range.startsWith(QLatin1String("PAGE"))) {
         if (!page.exactMatch(range)) {
-            m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+            m_messages.signMsg(errIODevExpectInstMemRange, &set->srcRef);
             return false;
         }
         bool ok = false;
         const qint64 number = range.mid(4).toLongLong(&ok);
-        start = (ok ? qMin<qint64>(number, maxMemWords) : maxMemWords) * m_pageSize;
-        stop = start + m_pageSize - 1;
+        start = (ok ? qMin<qint64>(number, AsmLimits::maxMemWords) : AsmLimits::maxMemWords) * m_geometry.pageSize;
+        stop = start + m_geometry.pageSize - 1;
     } else if (AsmFeParseArg::isNumeric(range)) {
-        start = stop = m_parseArg->toNumeric(range);
+        start = stop = m_numbers.toNumeric(range);
     } else if (pair.exactMatch(range)) {
         for (const QString& part : {pair.cap(1), pair.cap(2)}) {
             if (!AsmFeParseArg::isNumeric(part)) {
-                m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, part);
+                m_messages.signMsg(errExpectNumeric, &set->srcRef, part);
                 return false;
             }
         }
-        start = m_parseArg->toNumeric(pair.cap(1));
-        stop = m_parseArg->toNumeric(pair.cap(2));
+        start = m_numbers.toNumeric(pair.cap(1));
+        stop = m_numbers.toNumeric(pair.cap(2));
     } else {
-        m_msgHndlr->signMsg(errIODevExpectInstMemRange, &set->srcRef);
+        m_messages.signMsg(errIODevExpectInstMemRange, &set->srcRef);
         return false;
     }
     const auto outside = [total](qint64 addr) { return addr < 0 || addr >= total; };
     if (outside(start) || outside(stop)) {
-        m_msgHndlr->signMsg(outside(start) ? errIODevRangeStartAddrOutsideOfInstMem
-                                           : errIODevRangeStopAddrOutsideOfInstMem,
-                            &set->srcRef, QString::number(outside(start) ? start : stop), QString::number(total - 1));
+        m_messages.signMsg(outside(start) ? errIODevRangeStartAddrOutsideOfInstMem
+                                          : errIODevRangeStopAddrOutsideOfInstMem,
+                           &set->srcRef, QString::number(outside(start) ? start : stop), QString::number(total - 1));
         return false;
     }
     span->start = int(start);
@@ -163,23 +174,23 @@ bool ModAsmFe::parseInstMemRange(Set* set, const QString& range, sInstMemSpan_t*
     return true;
 }
 
-bool ModAsmFe::parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* span)
+bool DeviceValues::parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* span)
 {
     QRegExp pair("(\\S+):(\\S+)");
     if (!pair.exactMatch(bits)) {
-        m_msgHndlr->signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
+        m_messages.signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
         return false;
     }
     for (const QString& part : {pair.cap(1), pair.cap(2)}) {
         if (!AsmFeParseArg::isNumeric(part)) {
-            m_msgHndlr->signMsg(errExpectNumeric, &set->srcRef, part);
+            m_messages.signMsg(errExpectNumeric, &set->srcRef, part);
             return false;
         }
     }
-    const int high = m_parseArg->toNumeric(pair.cap(1));
-    const int low = m_parseArg->toNumeric(pair.cap(2));
+    const int high = m_numbers.toNumeric(pair.cap(1));
+    const int low = m_numbers.toNumeric(pair.cap(2));
     if (high < low || low < 0 || low > 31) {
-        m_msgHndlr->signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
+        m_messages.signMsg(errIODevUnsupportedBitRange, &set->srcRef, bits);
         return false;
     }
     span->low = low;
@@ -187,16 +198,16 @@ bool ModAsmFe::parseInstMemBits(Set* set, const QString& bits, sInstMemSpan_t* s
     return true;
 }
 
-bool ModAsmFe::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr)
+bool DeviceValues::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr)
 {
-    for (Opcode* opcode : m_opcodeList) {
+    for (Opcode* opcode : m_opcodes) {
         if (opcode->memRange != 0) {
             if (!mapInstWord(dev, set, span, addr, opcode, opcode->memAddr))
                 return false;
             continue;
         }
         const qint64 end = qMax(span.start, span.stop);
-        for (qint64 memAddr = opcode->memAddr; memAddr <= end; memAddr += m_pageSize) {
+        for (qint64 memAddr = opcode->memAddr; memAddr <= end; memAddr += m_geometry.pageSize) {
             if (!mapInstWord(dev, set, span, addr, opcode, memAddr))
                 return false;
         }
@@ -205,23 +216,24 @@ bool ModAsmFe::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, int 
 }
 
 /// Copies one word into the device, if it lies in the span.
-bool ModAsmFe::mapInstWord(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr, Opcode* opcode, qint64 memAddr)
+bool DeviceValues::mapInstWord(IODev* dev, Set* set, const sInstMemSpan_t& span, int addr, Opcode* opcode,
+                               qint64 memAddr)
 {
     if (!span.contains(memAddr))
         return true;
     opcode->mappedToIODev = true;
     const qint64 cell = addr + (span.stop >= span.start ? memAddr - span.start : span.start - memAddr);
-    if (cell > maxMemWords) {
-        m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell),
-                            QString::number(dev->memSize));
+    if (cell > AsmLimits::maxMemWords) {
+        m_messages.signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell),
+                           QString::number(dev->memSize));
         return false;
     }
     if (!dev->isInitValue(int(cell)))
-        m_msgHndlr->signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(cell));
+        m_messages.signMsg(warnIODevOverwriteValue, &set->srcRef, QString::number(cell));
     const unsigned int word = (static_cast<unsigned int>(opcode->instWord) >> span.low) & span.mask;
     if (dev->setValue(int(cell), word, &opcode->srcRef, opcode->memRange == 0))
         return true;
-    m_msgHndlr->signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell), QString::number(dev->memSize));
+    m_messages.signMsg(errIODevAddrExceedsDevSize, &set->srcRef, QString::number(cell), QString::number(dev->memSize));
     return false;
 }
 

@@ -5,18 +5,23 @@
 #include "ModEditorHookIf.h"
 #include "ModEditorPluginIf.h"
 
-/// Stands in for the editor: has an insertion menu, and nothing else.
+#include <QRegExp>
+#include <QUrl>
+
+/// Stands in for the editor: it has no documents, and an insertion menu if a test gives it one. What a test wants to
+/// see of it, a class derived from this one records.
 class FakeEditorHook : public ModEditorHookIf
 {
 public:
-    void registerPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIf* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfAssembler* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override { plugin->modEditorHook = nullptr; }
-    void registerPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = this; }
-    void unregisterPlugin(ModEditorPluginIfSimulator* plugin) override { plugin->modEditorHook = nullptr; }
+    void registerPlugin(ModEditorPluginIf* plugin) override { setHook(plugin, this); }
+    void unregisterPlugin(ModEditorPluginIf* plugin) override { setHook(plugin, nullptr); }
+    void registerPlugin(ModEditorPluginIfAssembler* plugin) override { setHook(plugin, this); }
+    void unregisterPlugin(ModEditorPluginIfAssembler* plugin) override { setHook(plugin, nullptr); }
+    void registerPlugin(ModEditorPluginIfInterMod* plugin) override { setHook(plugin, this); }
+    void unregisterPlugin(ModEditorPluginIfInterMod* plugin) override { setHook(plugin, nullptr); }
+    void registerPlugin(ModEditorPluginIfSimulator* plugin) override { setHook(plugin, this); }
+    void unregisterPlugin(ModEditorPluginIfSimulator* plugin) override { setHook(plugin, nullptr); }
+
     void newFile(QString) override {}
     bool openFile(QString) override { return false; }
     void reloadAllFiles() override {}
@@ -45,10 +50,18 @@ public:
     bool simBreakpointsChanged() override { return false; }
     bool simStartPointer(QString*, int*) override { return false; }
     void simEn(bool) override {}
-    void markLine(QString, int) override {}
     void setTextCompletionList(QStringList&) override {}
     nsModEditor::EditorSupportMenu* supportMenu() override { return menu; }
+    void markLine(QString, int) override {}
     int simBreakpointsRevision() override { return 0; }
 
     nsModEditor::EditorSupportMenu* menu = nullptr; ///< knob: what supportMenu() answers; not owned
+
+private:
+    template <class Plugin>
+    void setHook(Plugin* plugin, ModEditorHookIf* hook)
+    {
+        if (plugin != nullptr)
+            plugin->modEditorHook = hook;
+    }
 };

@@ -1,13 +1,20 @@
-// The values of constants: each `#EQU` is evaluated after those that it names, in the order in which it names them.
+#include "EquResolver.h"
 
-#include "ModAsmFe.h"
-
+#include "ArgumentChecker.h"
+#include "AsmFeFormula.h"
+#include "AsmFeMsgHndlr.h"
 #include "AsmFeParseArg.h"
+#include "AsmWords.h"
+#include "EquList.h"
+#include "FormulaResolver.h"
+#include "StringEncoder.h"
+
+#include <QStringList>
 
 namespace nsModAsmFe {
 
 /// One `#EQU` of the path that starts at the requested one.
-struct ModAsmFe::sEquStep_t
+struct EquResolver::sEquStep_t
 {
     explicit sEquStep_t(Equ* e)
         : equ(e)
@@ -21,12 +28,23 @@ struct ModAsmFe::sEquStep_t
     std::vector<int> values; ///< of its terms, as far as they are known
 };
 
-bool ModAsmFe::syntacticsCheckEquArguments()
+EquResolver::EquResolver(EquList& equs, const AsmWords& words, ArgumentChecker& arguments, FormulaResolver& formulas,
+                         StringEncoder& strings, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+    : m_equs(equs)
+    , m_words(words)
+    , m_arguments(arguments)
+    , m_formulas(formulas)
+    , m_strings(strings)
+    , m_numbers(numbers)
+    , m_messages(messages)
+{
+}
+
+bool EquResolver::syntacticsCheckEquArguments()
 {
     m_equFailed = false;
-    for (Equ* equ = m_equList.first(); equ != nullptr; equ = equ->next)
+    for (Equ* equ = m_equs.first(); equ != nullptr; equ = equ->next)
         syntacticsCheckEquArgument(equ);
-    m_equDeadEnds.clear();
     return !m_equFailed;
 }
 
@@ -35,7 +53,7 @@ bool ModAsmFe::syntacticsCheckEquArguments()
 /// Constants can depend on one another over thousands of steps, so the path is kept in a list and not on the machine's
 /// stack. An `#EQU` that fails may have a type nevertheless: then it counts as done from now on. One without a type is
 /// evaluated again at each request, and reports its error again.
-bool ModAsmFe::syntacticsCheckEquArgument(Equ* root)
+bool EquResolver::syntacticsCheckEquArgument(Equ* root)
 {
     if (root->arg->type != Arg::unset)
         return true;
@@ -62,7 +80,7 @@ bool ModAsmFe::syntacticsCheckEquArgument(Equ* root)
 
 /// Continues the evaluation of the last `#EQU` of the path.
 /// @param success the `#EQU` that it has waited for has a value now
-ModAsmFe::eEquResult_t ModAsmFe::checkEquStep(std::vector<sEquStep_t>* path, bool success)
+EquResolver::eEquResult_t EquResolver::checkEquStep(std::vector<sEquStep_t>* path, bool success)
 {
     sEquStep_t& step = path->back();
     const auto result = [](bool done) { return done ? equDone : equFailed; };
@@ -77,42 +95,42 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquStep(std::vector<sEquStep_t>* path, boo
     // A value that becomes empty when its parentheses are removed is refused below.
     if (arg->name.isEmpty() && !step.equ->prepared) {
         arg->type = Arg::empty;
-        m_msgHndlr->signMsg(errExpectArgument, srcRef);
+        m_messages.signMsg(errExpectArgument, srcRef);
         return equFailed;
     }
     prepareEqu(step.equ);
-    if (Equ* target = m_equList.find(arg->nameSpace, arg->name))
+    if (Equ* target = m_equs.find(arg->nameSpace, arg->name))
         return checkEquAlias(path, target);
     if (AsmFeParseArg::isNumeric(arg->name))
-        return result(syntacticsCheckArgNumeric(srcRef, arg, ext));
-    if (m_regTable.contains(arg->name))
-        return result(syntacticsCheckArgReg(srcRef, arg, ext));
-    if (m_bankTable.contains(arg->name))
-        return result(syntacticsCheckArgBankName(srcRef, arg, ext));
-    if (isString(arg->name))
-        return result(syntacticsCheckArgString(srcRef, arg, ext, true));
-    if (isFormula(arg->name)) {
+        return result(m_arguments.syntacticsCheckArgNumeric(srcRef, arg, ext));
+    if (m_words.regs().contains(arg->name))
+        return result(m_arguments.syntacticsCheckArgReg(srcRef, arg, ext));
+    if (m_words.banks().contains(arg->name))
+        return result(m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext));
+    if (StringEncoder::isString(arg->name))
+        return result(m_strings.syntacticsCheckArgString(srcRef, arg, ext, true));
+    if (AsmFeFormula::isFormula(arg->name)) {
         arg->type = Arg::numeric;
         step.isFormula = true;
         step.terms = AsmFeFormula().terms(arg->name);
         return checkEquFormula(&step);
     }
-    m_msgHndlr->signMsg(errUnsupportedArgument, srcRef, arg->name);
+    m_messages.signMsg(errUnsupportedArgument, srcRef, arg->name);
     return equFailed;
 }
 
 /// Takes parentheses and prefix off the value's text; doing so again changes nothing.
-void ModAsmFe::prepareEqu(Equ* equ)
+void EquResolver::prepareEqu(Equ* equ)
 {
     if (equ->prepared)
         return;
     equ->prepared = true;
-    syntacticsSetArgParentheses(equ->arg, equ->argExt);
-    syntacticsSetArgNameSpace(equ->arg, equ->nameSpace);
+    ArgumentChecker::syntacticsSetArgParentheses(equ->arg, equ->argExt);
+    ArgumentChecker::syntacticsSetArgNameSpace(equ->arg, equ->nameSpace);
 }
 
 /// The last `#EQU` of the path is another name for the target.
-ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Equ* target)
+EquResolver::eEquResult_t EquResolver::checkEquAlias(std::vector<sEquStep_t>* path, Equ* target)
 {
     sEquStep_t& step = path->back();
     // If a chain of names has failed before, its stored end is used: otherwise each of thousands of names would follow
@@ -120,7 +138,7 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Eq
     const sEquDeadEnd_t deadEnd = m_equDeadEnds.value(step.equ, {step.equ, target});
     step.target = deadEnd.target;
     if (m_equCheckStack.contains(step.target)) {
-        m_msgHndlr->signMsg(errEquClosedLoop, &deadEnd.last->srcRef);
+        m_messages.signMsg(errEquClosedLoop, &deadEnd.last->srcRef);
         if (deadEnd.last == step.equ)
             noteEquLoop(*path);
         return equFailed;
@@ -132,7 +150,7 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquAlias(std::vector<sEquStep_t>* path, Eq
 
 /// Takes over the value of the target as a whole.
 /// @param success the target has one
-bool ModAsmFe::takeEquAlias(const sEquStep_t& step, bool success)
+bool EquResolver::takeEquAlias(const sEquStep_t& step, bool success)
 {
     if (!success) {
         if (!m_equDeadEnds.contains(step.equ))
@@ -146,7 +164,7 @@ bool ModAsmFe::takeEquAlias(const sEquStep_t& step, bool success)
 
 /// The path ends in a name that it contains already. In a cycle that consists of names only, each member reports the
 /// cycle at its predecessor.
-void ModAsmFe::noteEquLoop(const std::vector<sEquStep_t>& path)
+void EquResolver::noteEquLoop(const std::vector<sEquStep_t>& path)
 {
     const Equ* target = path.back().target;
     size_t first = path.size() - 1;
@@ -162,7 +180,7 @@ void ModAsmFe::noteEquLoop(const std::vector<sEquStep_t>& path)
 
 /// Continues with the terms of an expression. The first term that is not a number ends it: later terms are not
 /// evaluated.
-ModAsmFe::eEquResult_t ModAsmFe::checkEquFormula(sEquStep_t* step)
+EquResolver::eEquResult_t EquResolver::checkEquFormula(sEquStep_t* step)
 {
     Arg* arg = step->equ->arg;
     const SrcReference* srcRef = &step->equ->srcRef;
@@ -170,18 +188,18 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquFormula(sEquStep_t* step)
         const QString& term = step->terms.at(int(step->values.size()));
         int value = 0;
         if (AsmFeParseArg::isNumeric(term)) {
-            value = m_parseArg->toNumeric(term);
+            value = m_numbers.toNumeric(term);
         } else {
-            Equ* target = equOfTerm(arg->nameSpace, term);
+            Equ* target = m_formulas.equOfTerm(arg->nameSpace, term);
             if (target != nullptr && m_equCheckStack.contains(target)) {
-                m_msgHndlr->signMsg(errEquClosedLoop, srcRef);
+                m_messages.signMsg(errEquClosedLoop, srcRef);
                 return equFailed;
             }
             const bool wasAsked = step->target == target;
             step->target = target;
             if (target != nullptr && target->arg->type == Arg::unset && !wasAsked)
                 return equWaits;
-            if (!equTermValue(srcRef, term, target, &value))
+            if (!m_formulas.equTermValue(srcRef, term, target, &value))
                 return equFailed;
         }
         step->values.push_back(value);
@@ -193,7 +211,7 @@ ModAsmFe::eEquResult_t ModAsmFe::checkEquFormula(sEquStep_t* step)
         *value = step->values.at(next++);
         return true;
     };
-    if (!evaluateFormula(srcRef, arg->name, nextValue, &result))
+    if (!m_formulas.evaluateFormula(srcRef, arg->name, nextValue, &result))
         return equFailed;
     arg->iValue = static_cast<int>(result);
     return equDone;

@@ -1,11 +1,16 @@
-// What the editor gets from the assembler: the insertion menu and the highlighting rules.
+#include "AsmEditorFeed.h"
 
-#include "ModAsmFe.h"
-
+#include "AsmRunListener.h"
+#include "Assembler.h"
+#include "EditorMemPageAddrMap.h"
 #include "EditorSupportMenu.h"
 #include "ModEditorHookIf.h"
+#include "Opcode.h"
 
 #include <QRegExp>
+#include <QSet>
+
+#include <memory>
 
 namespace nsModAsmFe {
 
@@ -37,26 +42,6 @@ const sMenuEntry_t directiveEntries[] = {
     {"Directives/Namespaces/#NAMESPACE, nsYourName", "#NAMESPACE,\t\tnsYourName"},
     {"Directives/Namespaces/#ENDNAMESPACE", "#ENDNAMESPACE"},
 };
-
-struct sInstructionGroup_t
-{
-    const char* name;
-    QStringList words;
-};
-
-const QList<sInstructionGroup_t>& instructionGroups()
-{
-    static const QList<sInstructionGroup_t> groups = {
-        {"Arithmetic", {"ADD", "ADDC", "SUB", "SUBC"}},
-        {"Data movement", {"LOAD", "LOADRET", "RDPRT", "WRPRT", "WRMEM", "RDMEM"}},
-        {"Interrupt", {"INT", "RETI"}},
-        {"Logic", {"AND", "OR", "XOR", "COMP", "COMPC", "TEST", "TESTC"}},
-        {"Program flow", {"JUMP", "CALL", "RET", "LOADRET", "NOP", "SET", "CLR"}},
-        {"Shift and rotate", {"ROL", "ROLC", "ROR", "RORC", "SL0", "SL1", "SLX", "SR0", "SR1", "SRX"}},
-        {"Special", {"STAR", "regBank", "HWBUILD"}},
-    };
-    return groups;
-}
 
 const char* const navigatorCommands[] = {
     "; \\navConst \"Your title\"", "; \\navSep \"Your title\"", "; \\navGrpBegin \"Your title\"", "; \\navGrpEnd",
@@ -168,9 +153,15 @@ private:
 
 } // namespace
 
-void ModAsmFe::setupSupportMenuBasic()
+AsmEditorFeed::AsmEditorFeed(Assembler& assembler, AsmRunListener& listener)
+    : m_assembler(assembler)
+    , m_listener(listener)
 {
-    EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
+}
+
+void AsmEditorFeed::setupSupportMenuBasic(ModEditorHookIf* editor)
+{
+    EditorSupportMenu* menu = editor != nullptr ? editor->supportMenu() : nullptr;
     if (menu == nullptr)
         return;
     const auto text = EditorSupportMenu::typeText;
@@ -178,35 +169,34 @@ void ModAsmFe::setupSupportMenuBasic()
     menu->setEntrySortEn("Directives", false);
     for (const sMenuEntry_t& entry : directiveEntries)
         menu->setEntry(entry.path, entry.text, text);
-    for (const sInstructionGroup_t& group : instructionGroups()) {
+    for (const AsmWords::sInstructionGroup_t& group : AsmWords::instructionGroups()) {
         for (const QString& word : group.words)
             menu->setEntry(QString("Instructions/%1/%2").arg(group.name, word), word, text);
     }
     for (const char* command : navigatorCommands)
         menu->setEntry(QString("Navigator commands/%1").arg(command), command, text);
-    for (const QString& charset : charsetNames())
+    for (const QString& charset : m_assembler.charsets().names())
         menu->setEntry("Attributes/Characer set/" + charset, charset, text);
     menu->setEntry("Attributes/Numerics/2 Byte Big Endian", "'2BE", text);
     menu->setEntry("Attributes/Numerics/4 Byte Big Endian", "'4BE", text);
 }
 
-void ModAsmFe::setupSupportMenuDynamics()
+void AsmEditorFeed::setupSupportMenuDynamics(ModEditorHookIf* editor, const QString& processorDefine)
 {
-    EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
+    EditorSupportMenu* menu = editor != nullptr ? editor->supportMenu() : nullptr;
     if (menu == nullptr)
         return;
-    setupSupportMenuNames(menu, "Label", m_labelList.nameList(), &m_menuLabels);
-    setupSupportMenuNames(menu, "Defines", m_equList.nameList(), &m_menuDefines);
-    if (m_asmBe != nullptr)
-        menu->setEntry(QString(codeGeneration).arg(m_asmBe->processorDefine()), m_asmBe->processorDefine(),
-                       EditorSupportMenu::typeText);
+    setupSupportMenuNames(menu, "Label", m_assembler.program().labels.nameList(), &m_menuLabels);
+    setupSupportMenuNames(menu, "Defines", m_assembler.program().equs.nameList(), &m_menuDefines);
+    if (!processorDefine.isEmpty())
+        menu->setEntry(QString(codeGeneration).arg(processorDefine), processorDefine, EditorSupportMenu::typeText);
 }
 
 /// Makes the names the entries of a sub menu.
 /// @param shown the names that the sub menu has. Most runs change few or none of them, and updating tens of thousands
 /// of entries is slow.
-void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
-                                     QStringList* shown)
+void AsmEditorFeed::setupSupportMenuNames(EditorSupportMenu* menu, const QString& title, const QStringList& names,
+                                          QStringList* shown)
 {
     if (names == *shown)
         return;
@@ -222,42 +212,45 @@ void ModAsmFe::setupSupportMenuNames(EditorSupportMenu* menu, const QString& tit
         added = now;
     }
     for (const QString& name : qAsConst(gone)) {
-        goesOn();
+        m_listener.runGoesOn();
         menu->removeEntry(title + '/' + name);
     }
     for (const QString& name : qAsConst(added)) {
-        goesOn();
+        m_listener.runGoesOn();
         menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
     }
     *shown = names;
 }
 
-void ModAsmFe::setupSupportMenuHardware()
+void AsmEditorFeed::setupSupportMenuHardware(ModEditorHookIf* editor)
 {
-    EditorSupportMenu* menu = modEditorHook != nullptr ? modEditorHook->supportMenu() : nullptr;
+    EditorSupportMenu* menu = editor != nullptr ? editor->supportMenu() : nullptr;
     if (menu == nullptr)
         return;
     menu->removeEntry("Hardware");
-    for (auto reg = m_regTable.cbegin(); reg != m_regTable.cend(); ++reg)
+    const QHash<QString, int>& regs = m_assembler.words().regs();
+    for (auto reg = regs.cbegin(); reg != regs.cend(); ++reg)
         menu->setEntry("Hardware/Register/" + reg.key(), reg.key(), EditorSupportMenu::typeText);
-    for (auto bank = m_bankTable.cbegin(); bank != m_bankTable.cend(); ++bank)
+    const QHash<QString, int>& banks = m_assembler.words().banks();
+    for (auto bank = banks.cbegin(); bank != banks.cend(); ++bank)
         menu->setEntry("Hardware/Pages/" + bank.key(), bank.key(), EditorSupportMenu::typeText);
 }
 
-void ModAsmFe::setHighlighter()
+void AsmEditorFeed::setHighlighter(ModEditorHookIf* editor)
 {
-    if (modEditorHook == nullptr)
+    if (editor == nullptr)
         return;
-    modEditorHook->clearHighlighter();
-    RuleList rules(modEditorHook);
-    rules.addWords(ModEditorHookIf::eHighlightRuleCmd, m_instructionWords, Qt::CaseInsensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleKeyWords, m_argumentWords, Qt::CaseInsensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleHw, m_regTable.keys(), Qt::CaseSensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleHw, m_bankTable.keys(), Qt::CaseSensitive);
+    editor->clearHighlighter();
+    RuleList rules(editor);
+    const AsmWords& words = m_assembler.words();
+    rules.addWords(ModEditorHookIf::eHighlightRuleCmd, words.instructionWords(), Qt::CaseInsensitive);
+    rules.addWords(ModEditorHookIf::eHighlightRuleKeyWords, words.argumentWords(), Qt::CaseInsensitive);
+    rules.addWords(ModEditorHookIf::eHighlightRuleHw, words.regs().keys(), Qt::CaseSensitive);
+    rules.addWords(ModEditorHookIf::eHighlightRuleHw, words.banks().keys(), Qt::CaseSensitive);
     rules.addRules(organizationRules);
-    rules.addWords(ModEditorHookIf::eHighlightRuleAttr, charsetNames(), Qt::CaseInsensitive);
+    rules.addWords(ModEditorHookIf::eHighlightRuleAttr, m_assembler.charsets().names(), Qt::CaseInsensitive);
     rules.addExpressions(ModEditorHookIf::eHighlightRuleAttr, attributeExpressions);
-    for (const IODev* dev : m_ioDevList.devices()) {
+    for (const IODev* dev : m_assembler.program().ioDevs.devices()) {
         if (!dev->devName.isEmpty())
             rules.add(ModEditorHookIf::eHighlightRuleAttr, QString("::\\b%1\\b").arg(dev->devName),
                       Qt::CaseInsensitive);
@@ -266,6 +259,32 @@ void ModAsmFe::setHighlighter()
     rules.add(ModEditorHookIf::eHighlightRuleAttr, "::", Qt::CaseInsensitive);
     rules.addExpressions(ModEditorHookIf::eHighlightRuleDirective, directiveExpressions);
     rules.addRules(lastRules);
+}
+
+void AsmEditorFeed::setupTextCompleter(ModEditorHookIf* editor)
+{
+    if (editor == nullptr)
+        return;
+    QStringList words = m_assembler.charsets().names();
+    words << "\\navConst \"\""
+          << "\\navSep \"\""
+          << "\\navGrpBegin \"\""
+          << "\\navGrpEnd"
+          << "\\navHw \"\"";
+    words << m_assembler.program().labels.nameList() << m_assembler.program().equs.nameList();
+    editor->setTextCompletionList(words);
+}
+
+void AsmEditorFeed::setupMemPageAddrMap(ModEditorHookIf* editor, QStringList files)
+{
+    if (editor == nullptr)
+        return;
+    auto map = std::make_unique<nsModEditor::EditorMemPageAddrMap>(&files);
+    for (const Opcode* opcode : m_assembler.program().opcodes) {
+        if (!map->addItem(opcode->srcRef.fileNo, opcode->srcRef.lineNo, opcode->pageAddr))
+            return;
+    }
+    editor->setMemPageAddrMap(map.release());
 }
 
 } // namespace nsModAsmFe

@@ -1,0 +1,73 @@
+#pragma once
+
+#include "DeviceValues.h"
+
+#include <QString>
+
+namespace nsModAsmFe {
+
+class AsmFeConfig;
+class AsmFeMsgHndlr;
+class AsmFeParseArg;
+class IODev;
+class IODevList;
+class OpcodeList;
+class Set;
+class SetList;
+struct AsmMemGeometry;
+struct AsmProgram;
+struct AsmProjectInfo;
+struct SrcReference;
+
+/// IO devices: their declaration, their parameters, and the device that takes the program where no source declares one.
+/// One object builds the devices of one run.
+class DeviceBuilder
+{
+public:
+    /// @param program read: settings, which are marked as used, words and geometry; written: devices, and which
+    /// instructions a device has taken
+    /// @param config read: the outputs of the device that takes the program
+    /// @param project read: the folder that paths in sources are relative to
+    DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, const AsmProjectInfo& project,
+                  const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+
+    /// @return false after a reported error
+    bool setupIODevs();
+
+private:
+    bool setupIODev(IODev* dev);
+    bool setupIODevAttrSize(IODev* dev);
+    bool setupIODevAttrBaseAddr(IODev* dev);
+    bool setupIODevAttrInitValue(IODev* dev);
+    bool setupIODevAttrSimEn(IODev* dev);
+    bool setupIODevAttrSimAccessMode(IODev* dev);
+    bool setupIODevAttrType(IODev* dev);
+    bool setupIODevAttrTargetVhdl(IODev* dev);
+    bool setupIODevAttrTargetVerilog(IODev* dev);
+    bool setupIODevAttrTargetHex(IODev* dev);
+    bool setupIODevAttrTargetMem(IODev* dev);
+    bool setupIODevAttrTargetMemGapStuffing(IODev* dev);
+    bool setupIODevAttrTargetEn(IODev* dev, const QString& kind, bool* en);
+    bool setupIODevAttrTargetFile(IODev* dev, const QString& kind, QString* file);
+    bool setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity, QString* templateFile,
+                                 QString* targetFile);
+    bool setupIODevSetNumeric(Set* set, int* value);
+    bool setupIODevSetBoolean(Set* set, bool* value);
+    bool setupIODevSetString(Set* set, QString* value);
+    bool setupIODevSetPath(Set* set, QString* value);
+    bool setupIODevDefault();
+    bool setupIODevChkInstMemMapped();
+
+    SetList& m_sets;
+    OpcodeList& m_opcodes;
+    IODevList& m_ioDevs;
+    const AsmMemGeometry& m_geometry;
+    const AsmFeConfig& m_config;
+    const AsmProjectInfo& m_project;
+    AsmFeMsgHndlr& m_messages;
+    DeviceValues m_values;
+    const SrcReference* m_devSrcRef = nullptr; ///< where the device that is set up was declared; not owned
+    int m_devWords = 0;                        ///< cells of all devices so far
+};
+
+} // namespace nsModAsmFe

@@ -1,0 +1,146 @@
+#include "InstructionChecker.h"
+
+#include "ArgumentChecker.h"
+#include "AsmFeFormula.h"
+#include "AsmFeMsgHndlr.h"
+#include "AsmFeParseArg.h"
+#include "AsmProgram.h"
+#include "AsmWords.h"
+#include "FormulaResolver.h"
+#include "Opcode.h"
+#include "StringEncoder.h"
+
+#include <QHash>
+
+namespace nsModAsmFe {
+
+InstructionChecker::InstructionChecker(AsmProgram& program, const AsmWords& words, ArgumentChecker& arguments,
+                                       FormulaResolver& formulas, StringEncoder& strings, const AsmFeParseArg& numbers,
+                                       AsmFeMsgHndlr& messages)
+    : m_program(program)
+    , m_words(words)
+    , m_arguments(arguments)
+    , m_formulas(formulas)
+    , m_strings(strings)
+    , m_numbers(numbers)
+    , m_messages(messages)
+{
+}
+
+bool InstructionChecker::syntacticsCheckOpcode()
+{
+    if (m_program.opcodes.first() == nullptr) {
+        m_messages.signMsg(errOcExpect);
+        return false;
+    }
+    bool success = true;
+    for (Opcode* opcode : m_program.opcodes) {
+        opcode->opcode = opcodeOfMnemonic(opcode->name);
+        if (opcode->opcode == ocUndefined) {
+            m_messages.signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);
+            success = false;
+        }
+        success = syntacticsCheckOpcodeArgument(opcode, opcode->arg0, opcode->arg0Ext) && success;
+        success = syntacticsCheckOpcodeArgument(opcode, opcode->arg1, opcode->arg1Ext) && success;
+        success = m_arguments.syntacticsCheckOpcodeArgumentRegRef(opcode) && success;
+    }
+    return success;
+}
+
+bool InstructionChecker::syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg, ArgExt* ext)
+{
+    const SrcReference* srcRef = &opcode->srcRef;
+    if (arg->name.isEmpty()) {
+        arg->type = Arg::empty;
+        const auto refuse = [&](eMsgType_t type) {
+            m_messages.signMsg(type, srcRef);
+            return false;
+        };
+        if (!ext->range.isEmpty())
+            return refuse(errRangeWithoutArg);
+        if (!ext->attr.isEmpty())
+            return refuse(errAttrWithoutArg);
+        return ext->parentheses == ArgExt::parenthesesNone || refuse(errUnsupportedParenthese);
+    }
+    ArgumentChecker::syntacticsSetArgParentheses(arg, ext);
+    ArgumentChecker::syntacticsSetArgNameSpace(arg, opcode->nameSpace);
+    // No constant has the name of a number, a register or a bank, so these need no look-up.
+    bool numeric = AsmFeParseArg::isNumeric(arg->name);
+    bool reg = !numeric && m_words.regs().contains(arg->name);
+    bool bank = !numeric && !reg && m_words.banks().contains(arg->name);
+    Equ* equ = numeric || reg || bank ? nullptr : m_program.equs.find(arg->nameSpace, arg->name);
+    if (equ != nullptr) {
+        equ->used = true;
+        arg->takeValue(*equ->arg);
+        numeric = AsmFeParseArg::isNumeric(arg->name);
+        reg = m_words.regs().contains(arg->name);
+        bank = m_words.banks().contains(arg->name);
+    }
+    if (numeric)
+        return m_arguments.syntacticsCheckArgNumeric(srcRef, arg, ext);
+    if (reg)
+        return m_arguments.syntacticsCheckArgReg(srcRef, arg, ext);
+    if (bank)
+        return m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext);
+    if (m_program.labels.contains(arg->nameSpace, arg->name))
+        return syntacticsCheckOpcodeArgumentLabel(opcode, arg, ext);
+    return syntacticsCheckOpcodeArgumentWord(opcode, arg, ext);
+}
+
+bool InstructionChecker::syntacticsCheckOpcodeArgumentLabel(Opcode* opcode, Arg* arg, ArgExt* ext)
+{
+    const SrcReference* srcRef = &opcode->srcRef;
+    arg->type = Arg::label;
+    const Label* label = m_program.labels.find(arg->nameSpace, arg->name);
+    Opcode* target = m_program.opcodes.nextOfLineIndex(label->srcRef.absLineNo);
+    if (target == nullptr || target->nameSpace != arg->nameSpace) {
+        m_messages.signMsg(errLblDoesNotReferenceOc, srcRef);
+        return false;
+    }
+    arg->labelOpcode = target;
+    if (!ext->range.isEmpty()) {
+        unsigned int value = static_cast<unsigned int>(target->pageAddr);
+        if (!m_numbers.extractRangeFromNumeric(ext->range, &value)) {
+            m_messages.signMsg(errUnsupportedRange, srcRef);
+            return false;
+        }
+        arg->type = Arg::numeric;
+        arg->iValue = static_cast<int>(value);
+    }
+    if (ext->parentheses != ArgExt::parenthesesNone) {
+        m_messages.signMsg(errUnsupportedParenthese, srcRef);
+        return false;
+    }
+    if (!ext->attr.isEmpty()) {
+        m_messages.signMsg(errUnsupportedAttribute, srcRef, ext->attr);
+        return false;
+    }
+    return true;
+}
+
+/// What is neither number, register, bank nor label: a flag, a switch, a string or an expression.
+bool InstructionChecker::syntacticsCheckOpcodeArgumentWord(Opcode* opcode, Arg* arg, ArgExt* ext)
+{
+    static const QHash<QString, Arg::eArgType_t> words = {
+        {"Z", Arg::flagZ},   {"NZ", Arg::flagNZ},     {"C", Arg::flagC},
+        {"NC", Arg::flagNC}, {"ENABLE", Arg::enable}, {"DISABLE", Arg::disable},
+    };
+    const SrcReference* srcRef = &opcode->srcRef;
+    const auto word = words.constFind(arg->name.toUpper());
+    if (word != words.constEnd())
+        return m_arguments.syntacticsCheckArgType(srcRef, arg, ext, *word);
+    if (StringEncoder::isString(arg->name)) {
+        const bool success = m_strings.syntacticsCheckArgString(srcRef, arg, ext, false);
+        if (arg->type == Arg::numeric)
+            return success;
+        // Reported in addition to the error in the string: how an instruction can use a string.
+        m_messages.signMsg(errStrExpectRange, srcRef);
+        return false;
+    }
+    if (AsmFeFormula::isFormula(arg->name))
+        return m_formulas.syntacticsCheckArgFormula(srcRef, arg);
+    m_messages.signMsg(errUnsupportedArgument, srcRef, arg->name);
+    return false;
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "AsmFeConfig.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace nsModAsmFe {
+
+class AsmFeFileHndlr;
+class AsmFeMsgHndlr;
+class AsmRunListener;
+class IODev;
+class TargetMapper;
+struct AsmProgram;
+struct AsmProjectInfo;
+
+/// Output files: which kinds an event writes, and their writers.
+class OutputWriter
+{
+public:
+    /// @param program read: devices and the texts for templates; written: the list of written files, and which cells a
+    /// writer has used
+    /// @param config read: the kinds of an event
+    /// @param files, project read: the files that no output may replace
+    OutputWriter(AsmProgram& program, const AsmFeConfig& config, const AsmFeFileHndlr& files,
+                 const AsmProjectInfo& project, AsmFeMsgHndlr& messages, AsmRunListener& listener);
+
+    /// Writes all files of an event. @return false after a reported error
+    bool mapIODevToFile(AsmFeConfig::eAssembleEvent_t event);
+
+private:
+    bool mapIODevToFileVhdl();
+    bool mapIODevToFileVerilog();
+    bool mapIODevToFileHex();
+    bool mapIODevToFileMem();
+    template <class Write>
+    bool mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file,
+                         Write write);
+    bool checkTargetFile(const QString& file);
+
+    AsmProgram& m_program;
+    const AsmFeConfig& m_config;
+    const AsmFeFileHndlr& m_files;
+    const AsmProjectInfo& m_project;
+    AsmFeMsgHndlr& m_messages;
+    AsmRunListener& m_listener;
+};
+
+} // namespace nsModAsmFe

@@ -1,0 +1,85 @@
+#include "SymbolChecker.h"
+
+#include "AsmFeMsgHndlr.h"
+#include "AsmFeParseArg.h"
+#include "AsmProgram.h"
+#include "AsmWords.h"
+
+#include <algorithm>
+
+namespace nsModAsmFe {
+
+SymbolChecker::SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages)
+    : m_program(program)
+    , m_words(words)
+    , m_messages(messages)
+{
+}
+
+bool SymbolChecker::isValidName(const QString& name)
+{
+    return std::all_of(name.cbegin(), name.cend(), [](QChar c) {
+        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+    });
+}
+
+/// The rule for the name of a label or an `#EQU`.
+bool SymbolChecker::checkName(const SrcReference* srcRef, const QString& name)
+{
+    const QString upper = name.toUpper();
+    if (m_words.isInstruction(upper))
+        m_messages.signMsg(errLblIsOpcode, srcRef, name);
+    else if (m_words.isArgument(upper))
+        m_messages.signMsg(errLblIsOpcodeArg, srcRef, name);
+    else if (m_words.regs().contains(name))
+        m_messages.signMsg(errLblIsReg, srcRef, name);
+    else if (m_words.banks().contains(name))
+        m_messages.signMsg(errLblIsPage, srcRef, name);
+    else if (AsmFeParseArg::isNumeric(name))
+        m_messages.signMsg(errLblIsNumeric, srcRef, name);
+    else if (!isValidName(name))
+        m_messages.signMsg(errUnallowedCharsInName, srcRef, name);
+    else
+        return true;
+    return false;
+}
+
+bool SymbolChecker::syntacticsCheckLabel()
+{
+    bool success = true;
+    for (const Label* label = m_program.labels.first(); label != nullptr; label = label->next) {
+        if (!checkName(&label->srcRef, label->name)) {
+            success = false;
+        } else if (m_program.equs.containsName(label->name)) {
+            m_messages.signMsg(errLblIsEqu, &label->srcRef, label->name);
+            success = false;
+        }
+    }
+    return success;
+}
+
+bool SymbolChecker::syntacticsCheckEquNames()
+{
+    bool success = true;
+    for (const Equ* equ = m_program.equs.first(); equ != nullptr; equ = equ->next)
+        success = checkName(&equ->srcRef, equ->name) && success;
+    return success;
+}
+
+void SymbolChecker::usageCheck()
+{
+    for (const Equ* equ = m_program.equs.first(); equ != nullptr; equ = equ->next) {
+        if (!equ->used)
+            m_messages.signMsg(warnEquUnused, &equ->srcRef, equ->name);
+    }
+    for (const Set* set = m_program.sets.first(); set != nullptr; set = set->next) {
+        if (!set->used)
+            m_messages.signMsg(warnSetIgnoring, &set->srcRef);
+    }
+    for (const Org* org = m_program.orgs.first(); org != nullptr; org = org->next) {
+        if (!org->used)
+            m_messages.signMsg(warnOrgIgnoring, &org->srcRef);
+    }
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QString>
+
+namespace nsModAsmFe {
+
+class AsmFeMsgHndlr;
+class AsmWords;
+struct AsmProgram;
+struct SrcReference;
+
+/// The names of labels and constants, and what the program declares without using it.
+class SymbolChecker
+{
+public:
+    /// @param program read: labels, constants, settings and origins
+    /// @param words read: the names that are taken
+    SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages);
+
+    /// @return false after a reported error
+    bool syntacticsCheckLabel();
+    /// @return false after a reported error
+    bool syntacticsCheckEquNames();
+    /// Warns of what nothing has used.
+    void usageCheck();
+
+private:
+    static bool isValidName(const QString& name);
+    bool checkName(const SrcReference* srcRef, const QString& name);
+
+    const AsmProgram& m_program;
+    const AsmWords& m_words;
+    AsmFeMsgHndlr& m_messages;
+};
+
+} // namespace nsModAsmFe

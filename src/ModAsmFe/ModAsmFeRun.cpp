@@ -1,0 +1,155 @@
+// The run, as the other modules see it: what starts it, and what it hands to them.
+
+#include "ModAsmFe.h"
+
+#include "AsmFeFileHndlr.h"
+#include "EquListView.h"
+#include "IODevViewerList.h"
+#include "ModEditorHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModSourcesHookIf.h"
+#include "ModSrcNaviHookIf.h"
+#include "ModSyscallHookIf.h"
+#include "MyBusyCursor.h"
+#include "NaviTag.h"
+
+namespace nsModAsmFe {
+
+void ModAsmFe::assemble(eAssembleEvent_t event)
+{
+    if (m_assembler.isRunning() || modPrjHook == nullptr || !modPrjHook->isValid())
+        return;
+    MyBusyCursor busy;
+    m_busy = &busy;
+    if (m_actions != nullptr) {
+        m_actions->setEnabled(false);
+        m_actions->setEnabled(AsmFeActions::eActionAssemble, true);
+    }
+    m_assembler.run(modSourcesHook != nullptr ? modSourcesHook->files() : QStringList(), projectInfo(), event);
+    m_busy = nullptr;
+}
+
+AsmProjectInfo ModAsmFe::projectInfo() const
+{
+    AsmProjectInfo project;
+    project.dir = modPrjHook->prjDir().absolutePath();
+    project.fileName = modPrjHook->prjFileName();
+    project.title = modPrjHook->prjTitle();
+    project.version = modPrjHook->prjVersion();
+    project.comment = modPrjHook->prjComment();
+    return project;
+}
+
+/// A run blocks the GUI thread, so a long run shows the busy cursor.
+void ModAsmFe::runGoesOn()
+{
+    if (m_busy != nullptr)
+        m_busy->goesOn();
+}
+
+void ModAsmFe::programDropped()
+{
+    if (modSrcNaviHook != nullptr)
+        modSrcNaviHook->clearTagList();
+    // The viewer has pointers to the devices.
+    clearIODevViewer();
+}
+
+void ModAsmFe::clearIODevViewer()
+{
+    if (m_ioDevViewer != nullptr)
+        m_ioDevViewer->clear();
+}
+
+void ModAsmFe::naviTagFound(const AsmNaviTag& tag)
+{
+    using nsModSrcNavi::NaviTag;
+    const auto typeOf = [](AsmNaviTag::eType_t type) {
+        switch (type) {
+        case AsmNaviTag::typeLabel:
+            return NaviTag::typeLabel;
+        case AsmNaviTag::typeHardware:
+            return NaviTag::typeHardware;
+        case AsmNaviTag::typeConstant:
+            return NaviTag::typeConstant;
+        case AsmNaviTag::typeSeparator:
+            return NaviTag::typeSeparator;
+        case AsmNaviTag::typeGroupBegin:
+            return NaviTag::typeGroupBegin;
+        case AsmNaviTag::typeGroupEnd:
+            return NaviTag::typeGroupEnd;
+        }
+        return NaviTag::typeUnset;
+    };
+    auto* naviTag = new NaviTag;
+    naviTag->type = typeOf(tag.type);
+    naviTag->filePath = tag.filePath;
+    naviTag->line = tag.line;
+    naviTag->lineRef = tag.lineRef;
+    naviTag->title = tag.title;
+    naviTag->disabled = tag.disabled;
+    modSrcNaviHook->addTag(naviTag);
+}
+
+void ModAsmFe::naviTagsComplete()
+{
+    if (modSrcNaviHook != nullptr)
+        modSrcNaviHook->showTagList();
+}
+
+void ModAsmFe::tabIndentSet(int indent)
+{
+    if (modEditorHook != nullptr)
+        modEditorHook->setTabIndent(indent);
+}
+
+void ModAsmFe::addressesMapped()
+{
+    m_editorFeed.setupMemPageAddrMap(modEditorHook, m_fileHndlr->files());
+}
+
+void ModAsmFe::programComplete()
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(true);
+}
+
+void ModAsmFe::refreshInsertionMenu()
+{
+    m_editorFeed.setupSupportMenuDynamics(modEditorHook,
+                                          m_backend.plugin() != nullptr ? m_backend.processorDefine() : QString());
+}
+
+void ModAsmFe::refreshIODevViewer()
+{
+    if (m_ioDevViewer != nullptr)
+        m_ioDevViewer->setupView(ioDevList());
+}
+
+bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)
+{
+    nsModSyscall::eEvent_t sysCallEvent = nsModSyscall::eEventButton1;
+    switch (event) {
+    case eEventButton1:
+        sysCallEvent = nsModSyscall::eEventButton1;
+        break;
+    case eEventButton2:
+        sysCallEvent = nsModSyscall::eEventButton2;
+        break;
+    case eEventSave:
+        sysCallEvent = nsModSyscall::eEventSave;
+        break;
+    default:
+        m_msgHndlr->signMsg(infoIODevNothingToDoForWriteEvent);
+        return true;
+    }
+    return modSyscallHook == nullptr || modSyscallHook->run(sysCallEvent);
+}
+
+void ModAsmFe::refreshEquList()
+{
+    if (m_equListView != nullptr)
+        m_equListView->showList(*equList());
+}
+
+} // namespace nsModAsmFe

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "ModSrcNaviHookIf.h"
+#include "ModSrcNaviPluginIf.h"
+#include "NaviTag.h"
+
+#include <QList>
+
+/// Stands in for the source navigator: keeps the tags.
+class FakeSrcNaviHook : public ModSrcNaviHookIf
+{
+public:
+    ~FakeSrcNaviHook() override { qDeleteAll(tags); }
+    void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
+    void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
+    void clearTagList() override
+    {
+        qDeleteAll(tags);
+        tags.clear();
+    }
+    void addTag(nsModSrcNavi::NaviTag* tag) override { tags.append(tag); }
+    void showTagList() override { ++shown; }
+
+    QList<nsModSrcNavi::NaviTag*> tags;
+    int shown = 0; ///< calls of showTagList()
+};
