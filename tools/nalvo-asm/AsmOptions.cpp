@@ -9,7 +9,7 @@
 namespace nsNalvoAsm {
 
 using namespace nsBatch;
-using nsModAsmFe::ModAsmFe;
+using nsModAsmFe::AsmFeConfig;
 
 namespace {
 
