@@ -22,10 +22,21 @@ void Sizes::read(const QString& path, const QString& text)
     const CppScan scan(text);
     for (const sFunction_t& function : scan.functions()) {
         if (function.lines > m_limits.functionLines)
-            m_longFunctions.append(
+            m_longFunctions.insert(
+                path + ": " + function.name,
                 QString("%1:%2: %3 has %4 lines").arg(path).arg(function.line).arg(function.name).arg(function.lines));
     }
     m_classes += scan.classes();
+}
+
+QStringList Sizes::longFunctions(const QStringList& tables) const
+{
+    QMap<QString, QString> findings = m_longFunctions;
+    for (const QString& name : tables) {
+        if (findings.remove(name) == 0)
+            findings.insert(name, name + " needs no exception");
+    }
+    return findings.values();
 }
 
 QStringList Sizes::largeClasses(const QVector<sAllowed_t>& allowed) const

@@ -3,6 +3,7 @@
 #include "CppScan.h"
 #include "SourceTree.h"
 
+#include <QMap>
 #include <QStringList>
 #include <QVector>
 
@@ -33,7 +34,8 @@ public:
     Sizes(const SourceTree& tree, const sLimits_t& limits);
 
     QStringList longFiles() const { return m_longFiles; }
-    QStringList longFunctions() const { return m_longFunctions; }
+    /// @param tables names of functions that are no more than a table, a case a row
+    QStringList longFunctions(const QStringList& tables = {}) const;
     /// Classes over the limits or over what is allowed to them, and names that are allowed more than they need.
     QStringList largeClasses(const QVector<sAllowed_t>& allowed) const;
     /// All classes of the tree, the one with the most operations and members first.
@@ -44,7 +46,7 @@ private:
 
     sLimits_t m_limits;
     QStringList m_longFiles;
-    QStringList m_longFunctions;
+    QMap<QString, QString> m_longFunctions; ///< path and name to the finding
     QVector<sClass_t> m_classes;
 };
 
