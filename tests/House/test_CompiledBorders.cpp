@@ -1,57 +1,17 @@
 // The borders as the compiler sees them: a file is compiled with the include paths that the build gives to a module.
 
-#include "FixtureTree.h"
+#include "CompileCommands.h"
 
 #include <gtest/gtest.h>
 
-#include <QFile>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QRegularExpression>
+using namespace nsHouse;
 
 namespace {
 
-/// Compiler, language and include paths of the source at @p path, as the build calls it; without precompiled headers.
-QStringList commandFor(const QString& path)
+QStringList optionsFor(const QString& path)
 {
-    static const QRegularExpression wanted("^(-I|-isystem|-std|-D|-f(PIC|PIE)$)");
-    QFile file(NALVO_BINARY_DIR "/compile_commands.json");
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << "The build left no compile_commands.json";
-    for (const QJsonValue& entry : QJsonDocument::fromJson(file.readAll()).array()) {
-        const QString command = entry["command"].toString();
-        if (entry["file"].toString() != NALVO_SOURCE_DIR "/" + path || command.contains("/tests/"))
-            continue;
-        const QStringList words = QProcess::splitCommand(command);
-        QStringList result{NALVO_CXX};
-        for (int i = 0; i < words.size(); ++i) {
-            if (words.at(i) == "-isystem")
-                result << words.at(i) << words.value(i + 1);
-            else if (wanted.match(words.at(i)).hasMatch())
-                result << words.at(i);
-        }
-        return result;
-    }
-    ADD_FAILURE() << "The build does not compile " << qPrintable(path);
-    return {};
-}
-
-/// What the compiler says of a file with this text; empty where it compiles.
-QString compilerOutput(QStringList command, const QString& text)
-{
-    FixtureTree tree;
-    tree.write("probe.cpp", text);
-    if (command.isEmpty())
-        return "no compiler";
-    QProcess compiler;
-    compiler.setProcessChannelMode(QProcess::MergedChannels);
-    const QString program = command.takeFirst();
-    compiler.start(program, command << "-fsyntax-only" << tree.root() + "/probe.cpp");
-    EXPECT_TRUE(compiler.waitForFinished(-1));
-    const QString output = QString::fromLocal8Bit(compiler.readAll());
-    EXPECT_EQ(compiler.exitCode() == 0, output.isEmpty()) << qPrintable(output);
-    return output;
+    static const CompileCommands commands;
+    return commands.options(NALVO_SOURCE_DIR "/" + path);
 }
 
 struct sBorder_t
@@ -70,13 +30,13 @@ class CompiledBorders : public ::testing::TestWithParam<sBorder_t>
 TEST_P(CompiledBorders, whatIsNamedCompiles)
 {
     const QString text = QString("#include <%1>\n").arg(GetParam().seen);
-    EXPECT_EQ(compilerOutput(commandFor(GetParam().file), text).toStdString(), "");
+    EXPECT_EQ(compilerOutput(optionsFor(GetParam().file), text).toStdString(), "");
 }
 
 TEST_P(CompiledBorders, whatIsNotNamedDoesNotCompile)
 {
     const QString text = QString("#include <%1>\n").arg(GetParam().forbidden);
-    const QString output = compilerOutput(commandFor(GetParam().file), text);
+    const QString output = compilerOutput(optionsFor(GetParam().file), text);
     EXPECT_TRUE(output.contains(QString("fatal error: %1: No such file or directory").arg(GetParam().forbidden)))
         << qPrintable(output);
 }
