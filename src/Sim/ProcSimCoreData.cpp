@@ -6,6 +6,8 @@ namespace nsProc {
 
 namespace {
 
+const int scrpdAtOnce = 4096; ///< cells that are there before they are written
+
 /// Assigns a text unless it shares its data with the present one.
 void take(QString* target, const QString& text)
 {
@@ -19,7 +21,9 @@ ProcSimCoreData::ProcSimCoreData(int regCount, int bankCount, int scrpdSize)
     : m_regCount(std::max(regCount, 0))
     , m_bankCount(bankCount > 1 ? 2 : 1)
     , m_scrpdSize(std::max(scrpdSize, 0))
-    , m_regs(size_t(m_regCount * m_bankCount))
+    , m_values(size_t(m_regCount * m_bankCount))
+    , m_marks(m_values.size())
+    , m_scrpd(size_t(std::min(m_scrpdSize, scrpdAtOnce)))
 {
 }
 
@@ -27,9 +31,9 @@ bool ProcSimCoreData::setReg(int index, const QString& alias, int value)
 {
     if (index < 0 || index >= m_regCount)
         return false;
-    sReg_t& target = cell(m_bank, index);
+    m_values[cell(m_bank, index)] = quint8(value);
+    sMark_t& target = mark(m_bank, index);
     take(&target.alias, alias);
-    target.value = quint8(value);
     target.step = m_step;
     return true;
 }
@@ -38,10 +42,14 @@ bool ProcSimCoreData::reg(int index, const QString& alias, int* value)
 {
     if (index < 0 || index >= m_regCount)
         return false;
-    sReg_t& source = cell(m_bank, index);
-    take(&source.alias, alias);
-    *value = source.value;
+    take(&mark(m_bank, index).alias, alias);
+    *value = m_values[cell(m_bank, index)];
     return true;
+}
+
+void ProcSimCoreData::noteAlias(int index, const QString& alias)
+{
+    take(&mark(m_bank, index).alias, alias);
 }
 
 void ProcSimCoreData::setCarryBit(int value)
@@ -98,6 +106,11 @@ void ProcSimCoreData::editScrpd(int addr, int value)
         storeScrpd(addr, value);
 }
 
+void ProcSimCoreData::clearScrpd()
+{
+    std::fill(m_scrpd.begin(), m_scrpd.end(), quint8(0));
+}
+
 void ProcSimCoreData::setPc(int addr, const QString& pageName)
 {
     m_pc = addr;
@@ -106,9 +119,9 @@ void ProcSimCoreData::setPc(int addr, const QString& pageName)
 
 void ProcSimCoreData::clear()
 {
-    for (sReg_t& reg : m_regs)
-        reg = sReg_t();
-    m_scrpd.clear();
+    std::fill(m_values.begin(), m_values.end(), quint8(0));
+    std::fill(m_marks.begin(), m_marks.end(), sMark_t());
+    clearScrpd();
     m_carry = 0;
     m_zero = 0;
     m_interrupt = eIntDisabled;

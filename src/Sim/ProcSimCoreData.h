@@ -42,11 +42,20 @@ public:
     void toggleBank() { setBank(1 - m_bank); }
 
     // For display and edits. The index must be below regCount(), the bank below bankCount().
-    int regValue(int bank, int index) const { return cell(bank, index).value; }
-    const QString& regAlias(int bank, int index) const { return cell(bank, index).alias; }
-    bool isRegHighlighted(int bank, int index) const { return cell(bank, index).step == m_step; }
+    int regValue(int bank, int index) const { return m_values[cell(bank, index)]; }
+    const QString& regAlias(int bank, int index) const { return mark(bank, index).alias; }
+    bool isRegHighlighted(int bank, int index) const { return mark(bank, index).step == m_step; }
     /// The user sets a register: it is not highlighted.
-    void editReg(int bank, int index, int value) { cell(bank, index).value = quint8(value); }
+    void editReg(int bank, int index, int value) { m_values[cell(bank, index)] = quint8(value); }
+    /// The program names a register of the selected bank without a use of its value. @param index below regCount()
+    void noteAlias(int index, const QString& alias);
+
+    // For a run of many instructions, which sets values alone: marks and aliases stay as they are.
+    /// The values of a bank, regCount() of them.
+    quint8* regValues(int bank) { return m_values.data() + cell(bank, 0); }
+    /// The first cells of the scratchpad; those behind them were not written yet, and are 0.
+    quint8* scrpdValues() { return m_scrpd.data(); }
+    int scrpdValueCount() const { return int(m_scrpd.size()); }
 
     // Flags, 0 or 1.
     void setCarryBit(int value);
@@ -84,7 +93,7 @@ public:
     /// The user sets a cell.
     void editScrpd(int addr, int value);
     /// All cells to 0.
-    void clearScrpd() { m_scrpd.clear(); }
+    void clearScrpd();
     /// The highlighted cell, -1 if there is none.
     int scrpdHighlighted() const { return m_scrpdStep == m_step ? m_scrpdAddr : -1; }
 
@@ -103,21 +112,23 @@ public:
     bool takeContentChanged();
 
 private:
-    struct sReg_t
+    /// What is shown of a register beside its value.
+    struct sMark_t
     {
         QString alias;
         quint64 step = 0; ///< highlighted while this is the current step
-        quint8 value = 0;
     };
 
-    sReg_t& cell(int bank, int index) { return m_regs[size_t(bank * m_regCount + index)]; }
-    const sReg_t& cell(int bank, int index) const { return m_regs[size_t(bank * m_regCount + index)]; }
+    size_t cell(int bank, int index) const { return size_t(bank * m_regCount + index); }
+    sMark_t& mark(int bank, int index) { return m_marks[cell(bank, index)]; }
+    const sMark_t& mark(int bank, int index) const { return m_marks[cell(bank, index)]; }
     void storeScrpd(int addr, int value);
 
     int m_regCount;
     int m_bankCount;
     int m_scrpdSize;
-    std::vector<sReg_t> m_regs;
+    std::vector<quint8> m_values; ///< bank by bank
+    std::vector<sMark_t> m_marks; ///< the same
     /// Grows with the highest address written: a scratchpad may be declared far larger than a program can reach.
     std::vector<quint8> m_scrpd;
     int m_bank = 0;

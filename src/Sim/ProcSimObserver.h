@@ -1,9 +1,5 @@
 #pragma once
 
-namespace nsModAsmFe {
-class Opcode;
-}
-
 namespace nsProc {
 
 /// Sees what a simulated program does, as it does it, and can serve as the source of its port reads. Does nothing by
@@ -13,8 +9,15 @@ class ProcSimObserver
 public:
     virtual ~ProcSimObserver() = default;
 
+    /// @return false: instructions and writes of the scratchpad need not be notified, so that the program runs faster.
+    /// Asked when the observer is added
+    virtual bool followsInstructions() const { return true; }
+
     /// An instruction is about to be executed.
-    virtual void instruction(const nsModAsmFe::Opcode* /*opcode*/) {}
+    /// @param position in the program of the engine
+    virtual void instruction(int /*position*/) {}
+    /// The instruction that was notified last was not executed after all: it had no effect.
+    virtual void refused(int /*position*/) {}
     /// The processor has entered the interrupt; the instruction at the vector follows.
     virtual void interruptEntered() {}
     /// The program reads a port that no device answers.

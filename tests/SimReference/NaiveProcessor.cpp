@@ -183,6 +183,7 @@ Outcome NaiveProcessor::step()
         if (pc < 0)
             return Outcome::noVector;
     }
+    executed = pc;
     return execute(m_program.instructions[std::size_t(pc)]);
 }
 

@@ -138,6 +138,7 @@ public:
 
     std::vector<PortWrite> writes; ///< of the last step
     std::vector<int> readPorts;    ///< of the last step
+    int executed = 0;              ///< position of the instruction of the last step
     int hwBuild = 0;
 
 private:

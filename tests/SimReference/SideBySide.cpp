@@ -7,6 +7,7 @@
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimPorts.h"
+#include "ProcTables.h"
 
 #include <algorithm>
 #include <sstream>
@@ -68,11 +69,17 @@ Report reportOf(Outcome outcome)
     return {"", ""};
 }
 
+bool isExecuted(Outcome outcome)
+{
+    return outcome == Outcome::done || outcome == Outcome::ended || outcome == Outcome::stackEmpty;
+}
+
 } // namespace
 
-SideBySide::SideBySide(Family family, const Program& program, const Build& build)
+SideBySide::SideBySide(Family family, const Program& program, const Build& build, bool isFollowed)
     : m_family(family)
     , m_program(program)
+    , m_isFollowed(isFollowed)
     , m_run(processorName(family), settings(family, build))
 {
     if (!m_run.assemble(source())) {
@@ -87,11 +94,12 @@ SideBySide::SideBySide(Family family, const Program& program, const Build& build
         m_problem = "another number of instructions was assembled";
         return;
     }
-    auto* shell = dynamic_cast<nsProc::ProcShell*>(m_run.processor.currentProcessor());
-    m_sim.reset(shell->createSim());
-    m_sim->modAsmFeHook = &m_run.asmFe;
-    m_sim->setObserver(this);
-    if (!m_sim->simInit(shell->runConfig())) {
+    const auto* shell = dynamic_cast<nsProc::ProcShell*>(m_run.processor.currentProcessor());
+    m_sim = std::make_unique<nsProc::ProcSimEngine>(nsProc::procTable(processorName(family)), *shell->runConfig());
+    m_sim->load(m_run.asmFe.opcodeList());
+    m_sim->addObserver(this);
+    nsProc::SimOutcome outcome;
+    if (!m_sim->setProgramCounter(m_run.asmFe.opcodeList()->opcodeOfMemAddr(0), &outcome)) {
         m_problem = "the simulator does not start";
         return;
     }
@@ -144,7 +152,8 @@ bool SideBySide::portSource(int addr, int* value, bool* handled)
 void SideBySide::goTo(int position)
 {
     m_model->moveTo(position);
-    m_sim->setProgramCounter(m_opcodes[std::size_t(position)]);
+    nsProc::SimOutcome outcome;
+    m_sim->setProgramCounter(m_opcodes[std::size_t(position)], &outcome);
 }
 
 void SideBySide::setReg(int index, int value)
@@ -173,7 +182,7 @@ void SideBySide::raiseInterrupt()
         m_model->interrupt = NaiveProcessor::pending;
     else if (m_model->interrupt == NaiveProcessor::pending)
         m_model->interrupt = NaiveProcessor::enabled;
-    m_sim->simInt();
+    m_sim->toggleInterrupt();
 }
 
 void SideBySide::clearCalls()
@@ -202,31 +211,61 @@ std::string SideBySide::stepQuickly()
 {
     m_writes.clear();
     m_readPorts.clear();
-    const bool simulated = m_sim->simOpcode();
+    const nsProc::SimOutcome simulated = m_sim->step();
     m_outcome = m_model->step();
-    return compareOutcome(simulated) + compareState();
+    return compareOutcome(simulated) + comparePorts(m_model->writes, m_model->readPorts) + compareState();
 }
 
-std::string SideBySide::compareOutcome(bool simulated)
+std::string SideBySide::run(int count)
+{
+    m_writes.clear();
+    m_readPorts.clear();
+    m_executed.clear();
+    nsProc::SimOutcome simulated;
+    const qint64 executed = m_sim->run(count, nsProc::sSimInstr_t::none, &simulated);
+    std::vector<NaiveProcessor::PortWrite> writes;
+    std::vector<int> reads;
+    std::vector<int> positions;
+    int wanted = 0;
+    for (m_outcome = Outcome::done; wanted < count && m_outcome == Outcome::done;) {
+        m_outcome = m_model->step();
+        writes.insert(writes.end(), m_model->writes.begin(), m_model->writes.end());
+        reads.insert(reads.end(), m_model->readPorts.begin(), m_model->readPorts.end());
+        if (isExecuted(m_outcome)) {
+            ++wanted;
+            positions.push_back(m_model->executed);
+        }
+    }
+    std::ostringstream text;
+    if (executed != wanted)
+        text << " executed " << executed << " instead of " << wanted;
+    if (m_isFollowed && m_executed != positions)
+        text << " other instructions were notified";
+    return text.str() + compareOutcome(simulated) + comparePorts(writes, reads) + compareState() + compareTheRest();
+}
+
+std::string SideBySide::compareOutcome(const nsProc::SimOutcome& simulated)
 {
     std::ostringstream text;
-    const std::string key = m_sim->takeLastMsg().toStdString();
+    const nsProc::sSimReport_t* last = simulated.last();
+    const std::string key = last != nullptr ? last->key().toStdString() : std::string();
     const Report expected = reportOf(m_outcome);
     if (key != expected.key)
         text << " message " << key << " instead of " << expected.key;
-    else if (key == "internal" && !m_sim->lastInternalError().startsWith(expected.internalText))
-        text << " message " << m_sim->lastInternalError().toStdString() << " instead of " << expected.internalText;
-    const bool goesOn = m_outcome == Outcome::done || m_outcome == Outcome::ended || m_outcome == Outcome::stackEmpty;
-    if (simulated != goesOn)
-        text << " result " << simulated;
-    if (m_readPorts != m_model->readPorts)
-        text << " port reads differ";
-    bool sameWrites = m_writes.size() == m_model->writes.size();
-    for (std::size_t i = 0; sameWrites && i < m_writes.size(); ++i)
-        sameWrites = m_writes[i].port == m_model->writes[i].port && m_writes[i].value == m_model->writes[i].value;
-    if (!sameWrites)
-        text << " port writes differ";
+    else if (key == "internal" && !last->arg.startsWith(expected.internalText))
+        text << " message " << last->arg.toStdString() << " instead of " << expected.internalText;
+    if (simulated.wentOn() != isExecuted(m_outcome))
+        text << " result " << simulated.wentOn();
     return text.str();
+}
+
+std::string SideBySide::comparePorts(const std::vector<NaiveProcessor::PortWrite>& writes,
+                                     const std::vector<int>& reads) const
+{
+    const bool sameWrites =
+        std::equal(m_writes.begin(), m_writes.end(), writes.begin(), writes.end(),
+                   [](const auto& a, const auto& b) { return a.port == b.port && a.value == b.value; });
+    return std::string(m_readPorts != reads ? " port reads differ" : "") + (sameWrites ? "" : " port writes differ");
 }
 
 std::string SideBySide::compareState()

@@ -3,7 +3,7 @@
 #include "NaiveProcessor.h"
 
 #include "ProcRun.h"
-#include "ProcSim.h"
+#include "ProcSimEngine.h"
 #include "ProcSimObserver.h"
 
 #include <QHash>
@@ -17,7 +17,8 @@ class SideBySide : private nsProc::ProcSimObserver
 {
 public:
     /// Assembles the program and starts both sides at address 0.
-    SideBySide(Family family, const Program& program, const Build& build = Build());
+    /// @param isFollowed the simulator notifies each instruction
+    SideBySide(Family family, const Program& program, const Build& build = Build(), bool isFollowed = true);
     ~SideBySide() override;
 
     /// Not empty: why the comparison can not start.
@@ -27,6 +28,8 @@ public:
     std::string step();
     /// The same without the comparison of what instructions that only compute can not have touched.
     std::string stepQuickly();
+    /// Up to so many instructions, which the simulator executes in its loop.
+    std::string run(int count);
     /// What the last step came to.
     Outcome outcome() const { return m_outcome; }
 
@@ -41,11 +44,15 @@ public:
     NaiveProcessor& model() { return *m_model; }
 
 private:
+    bool followsInstructions() const override { return m_isFollowed; }
+    void instruction(int position) override { m_executed.push_back(position); }
+    void refused(int) override { m_executed.pop_back(); }
     void portWritten(int addr, int value) override;
     bool portSource(int addr, int* value, bool* handled) override;
 
     QStringList source();
-    std::string compareOutcome(bool simulated);
+    std::string compareOutcome(const nsProc::SimOutcome& simulated);
+    std::string comparePorts(const std::vector<NaiveProcessor::PortWrite>& writes, const std::vector<int>& reads) const;
     std::string compareState();
     std::string compareTheRest();
     /// The simulator's, in the terms of the model.
@@ -55,13 +62,15 @@ private:
     Family m_family;
     Program m_program;
     std::vector<int> m_lines; ///< of the source, by position
+    bool m_isFollowed;
     ProcRun m_run;
-    std::unique_ptr<nsProc::ProcSim> m_sim;
+    std::unique_ptr<nsProc::ProcSimEngine> m_sim;
     std::unique_ptr<NaiveProcessor> m_model;
     std::vector<nsModAsmFe::Opcode*> m_opcodes; ///< by position
     QHash<const nsModAsmFe::Opcode*, int> m_positions;
     std::vector<NaiveProcessor::PortWrite> m_writes; ///< the simulator's, of the last step
     std::vector<int> m_readPorts;                    ///< the simulator's, of the last step
+    std::vector<int> m_executed;                     ///< positions, the simulator's, of the last step
     std::uint32_t m_reads = 0;
     Outcome m_outcome = Outcome::done;
     State m_before;

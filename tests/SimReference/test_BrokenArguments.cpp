@@ -6,6 +6,7 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimEngine.h"
 #include "ProcSimPorts.h"
 
 #include <gtest/gtest.h>
@@ -93,8 +94,9 @@ TEST_P(BrokenArguments, AreRefused)
     core.editCarryBit(1);
     Opcode* opcode = bench.sim->programCounter();
     GetParam().breakIt(opcode);
+    bench.sim->engine()->decode();
     EXPECT_FALSE(bench.sim->simOpcode());
-    EXPECT_EQ(bench.sim->lastInternalError(), GetParam().text);
+    EXPECT_EQ(bench.lastInternalError(), GetParam().text);
     EXPECT_EQ(bench.run.msg.log.last().text, QString("Internal error: ") + GetParam().text);
     EXPECT_TRUE(bench.run.msg.log.last().hlpDoc.isEmpty());
     EXPECT_TRUE(bench.run.msg.log.last().srcFile.isEmpty());
@@ -119,8 +121,9 @@ TEST(BrokenInstructions, RangeWithoutAName)
     ASSERT_TRUE(bench.started);
     Opcode* opcode = bench.sim->programCounter()->next;
     opcode->memRange = 7;
+    bench.sim->engine()->decode();
     bench.sim->simOpcode();
-    EXPECT_EQ(bench.sim->lastInternalError(), "Can not resolve page name!");
+    EXPECT_EQ(bench.lastInternalError(), "Can not resolve page name!");
     EXPECT_EQ(bench.sim->programCounter(), opcode);
 }
 
@@ -131,6 +134,7 @@ TEST(BrokenInstructions, CompcOfMico8)
         SimBench bench(m8, "COMP r0, 4;NOP");
         ASSERT_TRUE(bench.started);
         bench.sim->programCounter()->opcode = nsModAsmFe::ocCompc;
+        bench.sim->engine()->decode();
         bench.sim->core()->editReg(0, 0, 5);
         bench.sim->core()->editCarryBit(1);
         bench.sim->core()->editZeroBit(zero);
@@ -147,6 +151,7 @@ TEST(BrokenInstructions, PortConstantOfMico8)
     Arg* arg = bench.sim->programCounter()->arg0;
     arg->type = Arg::numeric;
     arg->iValue = 0x55;
+    bench.sim->engine()->decode();
     EXPECT_TRUE(bench.sim->simOpcode());
     ASSERT_EQ(bench.sim->ports()->devices().size(), 1);
     EXPECT_TRUE(bench.sim->ports()->devices().first()->chkAddr(3));

@@ -68,6 +68,31 @@ protected:
         }
     }
 
+    /// The same in the run loop, in stretches of any length.
+    void runLoop(const Machine& machine, long long count, bool isFollowed)
+    {
+        SideBySide both(GetParam(), machine.program, machine.build, isFollowed);
+        ASSERT_EQ(both.problem(), "");
+        for (long long i = 0; i < count; i += instructionsOfStretch) {
+            shuffle(&both, machine);
+            const int size = machine.program.size();
+            for (int left = instructionsOfStretch; left > 0;) {
+                const int stretch = 1 + int(m_random() % unsigned(left));
+                left -= stretch;
+                if (m_random() % 3 == 0)
+                    both.raiseInterrupt();
+                const int position = both.model().pc;
+                const std::string difference = both.run(stretch);
+                ASSERT_TRUE(difference.empty())
+                    << "instruction " << i << ", " << stretch << " from position " << position << ":" << difference;
+                ++m_outcomes[size_t(both.outcome())];
+                // What could not be executed, and the end of the program, is left.
+                if (both.outcome() != Outcome::done)
+                    both.goTo(both.model().pc < 0 ? int(m_random() % unsigned(size)) : (both.model().pc + 1) % size);
+            }
+        }
+    }
+
     /// @param instruction null for the one at the interrupt vector
     void note(Outcome outcome, const Instruction* instruction)
     {
@@ -127,6 +152,26 @@ TEST_P(RandomPrograms, AgreeWithTheModel)
     }
     if (total >= 100000 && !HasFatalFailure())
         expectAllHappened(total);
+}
+
+TEST_P(RandomPrograms, AgreeInTheRunLoop)
+{
+    const long long total = number("NALVO_SIM_INSTRUCTIONS", defaultInstructions);
+    const unsigned seed = unsigned(number("NALVO_SIM_SEED", 20161109)) + unsigned(GetParam());
+    const long long instructionsOfProgram = std::min<long long>(40000, std::max<long long>(total / 20, 1));
+    int programs = 0;
+    for (long long executed = 0; executed < total && !HasFatalFailure(); executed += instructionsOfProgram) {
+        m_random.seed(seed + unsigned(programs) * 104729);
+        SCOPED_TRACE("NALVO_SIM_SEED=" + std::to_string(seed - unsigned(GetParam())) +
+                     " NALVO_SIM_INSTRUCTIONS=" + std::to_string(total) + ", program " + std::to_string(programs));
+        // Each layout without and with an observer that follows.
+        const bool isFollowed = programs / layoutCount % 2 != 0;
+        runLoop(randomMachine(GetParam(), Layout(programs % layoutCount), &m_random),
+                std::min(instructionsOfProgram, total - executed), isFollowed);
+        ++programs;
+    }
+    // A comparison of stretches that all end at once says nothing.
+    EXPECT_TRUE(HasFatalFailure() || m_outcomes[size_t(Outcome::done)] > programs);
 }
 
 INSTANTIATE_TEST_SUITE_P(Processors, RandomPrograms,

@@ -9,6 +9,7 @@
 #include "ProcSimEdtBit.h"
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
+#include "ProcSimEngine.h"
 #include "ProcSimIO.h"
 #include "ProcSimIODeviceView.h"
 #include "ProcSimIOFifo.h"
@@ -418,7 +419,7 @@ TEST_F(SimShown, PagesHaveTheirNames)
                                   "start: JUMP common", "#ORG MEMRANGE, PAGE1", "second: JUMP common",
                                   "#ORG MEMRANGE, SHARED", "common: NOP", "end: JUMP end"}))
         << messageTexts().join('\n').toStdString();
-    EXPECT_EQ(sim()->pageNames(), (QStringList{"SHARED", "PAGE0", "PAGE1"}));
+    EXPECT_EQ(sim()->engine()->pageNames(), (QStringList{"SHARED", "PAGE0", "PAGE1"}));
     EXPECT_TRUE(coreLabels().contains("PAGE0"));
     step();
     EXPECT_TRUE(coreLabels().contains("SHARED"));

@@ -2,14 +2,13 @@
 
 #include "AsmFeFileHndlr.h"
 #include "BatchOutput.h"
-#include "ModAsmFe.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
-#include "ProcShell.h"
-#include "ProcSim.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimEngine.h"
+#include "SimProject.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -25,38 +24,38 @@ namespace {
 /// A scratchpad may be declared far larger than programs use it: beyond this, trailing zeros are left out.
 const int scrpdShown = 65536;
 
-/// The name that a table has for a number.
-QString nameOf(const QHash<QString, int>* names, int number, const QString& otherwise)
+/// The letter of a register bank; "A" for registers that are in no bank.
+QString bankName(const nsProc::ProcTable& processor, int bank)
 {
-    return names != nullptr ? names->key(number, otherwise) : otherwise;
+    return QString(QLatin1Char(*processor.banks != '\0' ? processor.banks[bank] : 'A'));
 }
 
 /// File and line of an instruction, nulls if there is none.
-QJsonObject place(nsModAsmFe::ModAsmFe* asmFe, const Opcode* opcode)
+QJsonObject place(const SimProject& project, const Opcode* opcode)
 {
     if (opcode == nullptr)
         return {{"file", QJsonValue()}, {"line", QJsonValue()}};
-    const QString file = asmFe->fileHndlr()->absSrcFilePath(opcode->srcRef.fileNo);
+    const QString file = project.files->absSrcFilePath(opcode->srcRef.fileNo);
     return {{"file", nsBatch::shownPath(file)}, {"line", opcode->srcRef.lineNo + 1}};
 }
 
-QJsonObject programCounter(nsModAsmFe::ModAsmFe* asmFe, const nsProc::ProcSim* sim)
+QJsonObject programCounter(const SimProject& project, const nsProc::ProcSimEngine& engine)
 {
-    const Opcode* opcode = sim->programCounter();
-    QJsonObject object = place(asmFe, opcode);
+    const Opcode* opcode = engine.programCounter();
+    QJsonObject object = place(project, opcode);
     object.insert("address", opcode != nullptr ? QJsonValue(opcode->pageAddr) : QJsonValue());
-    object.insert("page", opcode != nullptr ? QJsonValue(sim->core()->pageName()) : QJsonValue());
+    object.insert("page", opcode != nullptr ? QJsonValue(engine.core()->pageName()) : QJsonValue());
     return object;
 }
 
-QJsonObject registers(nsProc::ProcShell* shell, const ProcSimCoreData& core)
+QJsonObject registers(const nsProc::ProcTable& processor, const ProcSimCoreData& core)
 {
     QJsonObject banks;
     for (int bank = 0; bank < core.bankCount(); ++bank) {
         QJsonObject values;
         for (int index = 0; index < core.regCount(); ++index)
-            values.insert(nameOf(shell->regNames(), index, QString::number(index)), core.regValue(bank, index));
-        banks.insert(nameOf(shell->regBankNames(), bank, QString(QChar('A' + bank))), values);
+            values.insert(processor.regName(index), core.regValue(bank, index));
+        banks.insert(bankName(processor, bank), values);
     }
     return banks;
 }
@@ -77,11 +76,11 @@ QJsonArray scratchpad(const ProcSimCoreData& core)
     return values;
 }
 
-QJsonArray callStack(nsModAsmFe::ModAsmFe* asmFe, const nsProc::ProcSimCallStackData& stack)
+QJsonArray callStack(const SimProject& project, const nsProc::ProcSimCallStackData& stack)
 {
     QJsonArray items;
     for (const nsProc::sCallStackItem_t& item : stack.items()) {
-        QJsonObject object = place(asmFe, asmFe->opcodeList()->nextOfLineIndex(item.lineIndex));
+        QJsonObject object = place(project, project.opcodes->nextOfLineIndex(item.lineIndex));
         object.insert("label", nsBatch::readable(item.label));
         object.insert("address", item.pc);
         object.insert("carry", int(item.carry));
@@ -114,20 +113,20 @@ const char* reasonName(SimEnd::eReason_t reason)
     return names[reason];
 }
 
-QByteArray dumpText(nsModAsmFe::ModAsmFe* asmFe, nsProc::ProcShell* shell, const nsProc::ProcSim* sim,
-                    qint64 instructions, const SimEnd& end)
+QByteArray dumpText(const SimProject& project, const nsProc::ProcSimEngine& engine, qint64 instructions,
+                    const SimEnd& end)
 {
-    const ProcSimCoreData& core = *sim->core();
+    const ProcSimCoreData& core = *engine.core();
     const QJsonObject object{
-        {"processor", shell->processorName()},
-        {"pc", programCounter(asmFe, sim)},
-        {"registers", registers(shell, core)},
-        {"bank", nameOf(shell->regBankNames(), core.bank(), QString(QChar('A' + core.bank())))},
+        {"processor", project.processor->name},
+        {"pc", programCounter(project, engine)},
+        {"registers", registers(*project.processor, core)},
+        {"bank", bankName(*project.processor, core.bank())},
         {"flags", QJsonObject{{"carry", core.carryBit()}, {"zero", core.zeroBit()}}},
         {"interrupt", interruptName(core.interrupt())},
         {"scratchpad", scratchpad(core)},
-        {"callStack", callStack(asmFe, *sim->callStack())},
-        {"clocks", sim->clock()->clocks},
+        {"callStack", callStack(project, *engine.callStack())},
+        {"clocks", engine.clock()->clocks},
         {"instructions", instructions},
         {"end", QJsonObject{{"reason", reasonName(end.reason)},
                             {"key", end.key.isEmpty() ? QJsonValue() : QJsonValue(end.key)},

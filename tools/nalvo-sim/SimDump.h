@@ -4,15 +4,13 @@
 #include <QString>
 #include <QtGlobal>
 
-namespace nsModAsmFe {
-class ModAsmFe;
-}
 namespace nsProc {
-class ProcShell;
-class ProcSim;
-} // namespace nsProc
+class ProcSimEngine;
+}
 
 namespace nsNalvoSim {
+
+struct SimProject;
 
 /// Why a run ended.
 struct SimEnd
@@ -36,8 +34,7 @@ struct SimEnd
 const char* reasonName(SimEnd::eReason_t reason);
 
 /// The state of the simulator as JSON.
-/// @param sim a simulator that has a state
-QByteArray dumpText(nsModAsmFe::ModAsmFe* asmFe, nsProc::ProcShell* shell, const nsProc::ProcSim* sim,
-                    qint64 instructions, const SimEnd& end);
+QByteArray dumpText(const SimProject& project, const nsProc::ProcSimEngine& engine, qint64 instructions,
+                    const SimEnd& end);
 
 } // namespace nsNalvoSim

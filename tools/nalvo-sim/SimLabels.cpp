@@ -3,9 +3,9 @@
 #include "BatchOutput.h"
 #include "Label.h"
 #include "LabelList.h"
-#include "ModAsmFe.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
+#include "SimProject.h"
 #include "SymbolHash.h"
 
 #include <QCoreApplication>
@@ -77,7 +77,7 @@ QStringList nearNames(const QStringList& names, const QString& wanted)
     return result;
 }
 
-Opcode* opcodeOfLabel(ModAsmFe* asmFe, const QString& name, QString* failure)
+Opcode* opcodeOfLabel(const SimProject& project, const QString& name, QString* failure)
 {
     // A name of a source is bytes, one a character, as the assembler reads them.
     QString bytes = QString::fromLatin1(name.toLocal8Bit());
@@ -85,15 +85,15 @@ Opcode* opcodeOfLabel(ModAsmFe* asmFe, const QString& name, QString* failure)
         bytes.remove(0, 2);
     const int colons = bytes.lastIndexOf("::");
     const QString nameSpace = colons < 0 ? QString() : bytes.left(colons);
-    const Label* label = asmFe->labelList()->find(nameSpace, withoutNameSpace(bytes));
+    const Label* label = project.labels->find(nameSpace, withoutNameSpace(bytes));
     if (label == nullptr) {
         *failure = tr("No such label: %1").arg(name);
-        const QStringList near = nearNames(asmFe->labelList()->nameList(), bytes);
+        const QStringList near = nearNames(project.labels->nameList(), bytes);
         if (!near.isEmpty())
             *failure += tr(" (near: %1)").arg(nsBatch::readable(near.join(", ")));
         return nullptr;
     }
-    Opcode* opcode = asmFe->opcodeList()->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
+    Opcode* opcode = project.opcodes->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
     if (opcode == nullptr)
         *failure = tr("No instruction stands at or behind the label: %1").arg(name);
     return opcode;

@@ -6,11 +6,12 @@
 #include "Opcode.h"
 #include "OpcodeList.h"
 #include "ProcShell.h"
-#include "ProcSim.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
+#include "ProcTables.h"
 #include "SimLabels.h"
 #include "SimStop.h"
 
@@ -23,8 +24,11 @@ namespace nsNalvoSim {
 
 using namespace nsBatch;
 using nsModAsmFe::Opcode;
+using nsProc::ProcSimWaveData;
 
 namespace {
+
+const qint64 blockSize = 1 << 17; ///< instructions between two looks at the signal
 
 QString tr(const char* text)
 {
@@ -56,14 +60,6 @@ SimRun::SimRun(const SimOptions& options)
 {
 }
 
-SimRun::~SimRun()
-{
-    if (m_sim == nullptr)
-        return;
-    m_modules.asmFe.unregisterPlugin(static_cast<ModAsmFePluginIfInterMod*>(m_sim.get()));
-    m_modules.msg.unregisterPlugin(static_cast<ModMsgPluginIf*>(m_sim.get()));
-}
-
 int SimRun::run()
 {
     const QString project = m_options.project.isEmpty() ? QString() : QFileInfo(m_options.project).absoluteFilePath();
@@ -93,10 +89,21 @@ bool SimRun::assemble()
     // As in the window: after errors, a program that was assembled nevertheless can run.
     if (!m_modules.asmFe.isAssembled())
         return false;
-    m_shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
-    if (m_shell == nullptr)
+    auto* shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
+    if (shell == nullptr) {
         m_modules.msg.showErrorMessage(tr("The project has no processor that can be simulated."), QUrl(), {});
-    return m_shell != nullptr;
+        return false;
+    }
+    nsModAsmFe::ModAsmFe& asmFe = m_modules.asmFe;
+    m_project = {asmFe.opcodeList(),
+                 asmFe.equList(),
+                 asmFe.labelList(),
+                 asmFe.ioDevList(),
+                 asmFe.fileHndlr(),
+                 asmFe.msgHndlr(),
+                 nsProc::procTable(shell->processorName()),
+                 *shell->runConfig()};
+    return true;
 }
 
 bool SimRun::findLabels()
@@ -106,7 +113,7 @@ bool SimRun::findLabels()
         if (label.first->isEmpty())
             continue;
         QString failure;
-        *label.second = opcodeOfLabel(&m_modules.asmFe, *label.first, &failure);
+        *label.second = opcodeOfLabel(m_project, *label.first, &failure);
         if (*label.second == nullptr)
             return wrongUsage(failure);
     }
@@ -120,10 +127,10 @@ bool SimRun::openReads()
             printError(tr("Can not read %1: %2").arg(name == "-" ? tr("standard input") : name, failure));
         return failure.isEmpty();
     };
-    if (!m_options.readsFile.isEmpty() && !checkOpened(m_options.readsFile, m_watch.openReads(m_options.readsFile)))
+    if (!m_options.readsFile.isEmpty() && !checkOpened(m_options.readsFile, m_reads.open(m_options.readsFile)))
         return false;
     for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (!checkOpened(it.value(), m_watch.openPortReads(it.key(), it.value())))
+        if (!checkOpened(it.value(), m_reads.openPort(it.key(), it.value())))
             return false;
     }
     return true;
@@ -152,29 +159,42 @@ bool SimRun::openOutput(OutputFile* file, const QString& name)
 
 bool SimRun::startSim()
 {
-    m_sim.reset(m_shell->createSim());
-    m_modules.asmFe.registerPlugin(static_cast<ModAsmFePluginIfInterMod*>(m_sim.get()));
-    m_modules.msg.registerPlugin(static_cast<ModMsgPluginIf*>(m_sim.get()));
-    if (!m_sim->simInit(m_shell->runConfig())) {
-        const QString key = m_sim->takeLastMsg();
+    m_engine = std::make_unique<nsProc::ProcSimEngine>(m_project.processor, m_project.config);
+    m_engine->load(m_project.opcodes);
+    nsProc::SimOutcome outcome;
+    const bool success = m_engine->initIODevices(*m_project.ioDevs, &outcome) &&
+                         m_engine->setProgramCounter(m_project.opcodes->opcodeOfMemAddr(0), &outcome);
+    show(outcome);
+    if (!success) {
+        const QString key = outcome.last()->key();
         setEnd(SimEnd::endMessage, tr("stopped by %1 before the first instruction").arg(key), key);
         return false;
     }
     if (m_start != nullptr)
-        m_sim->setProgramCounter(m_start);
-    m_sim->core()->setHwbld(m_options.hwbuild);
-    m_sim->setObserver(&m_watch);
-    if (m_trace.isOpen())
-        m_watch.trace().setFile(&m_trace);
-    if (m_vcd.isOpen())
-        m_watch.keepWaves(m_sim->clock(), &m_modules.asmFe);
+        m_engine->setProgramCounter(m_start, &outcome);
+    m_engine->core()->setHwbld(m_options.hwbuild);
+    m_engine->addObserver(&m_reads);
+    if (m_trace.isOpen()) {
+        m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get());
+        m_reads.setTrace(m_tracer.get());
+        m_engine->addObserver(m_tracer.get());
+    }
+    if (m_vcd.isOpen()) {
+        m_waves = std::make_shared<ProcSimWaveData>(0);
+        m_recorder = std::make_unique<nsProc::ProcSimWaveRecorder>(m_waves, m_engine->clock());
+        m_recorder->watchAll([this](int addr, ProcSimWaveData::eAccessType_t access) {
+            return nsProc::ProcSimPortNames::nameOf(*m_project.opcodes, *m_project.equs, addr,
+                                                    access == ProcSimWaveData::eAccessWr);
+        });
+        m_engine->addObserver(m_recorder.get());
+    }
     return true;
 }
 
 bool SimRun::checkPorts() const
 {
     for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (m_sim->ports()->deviceToRead(it.key()) != nullptr)
+        if (m_engine->ports()->deviceToRead(it.key()) != nullptr)
             return wrongUsage(tr("A device of the project answers at the port already: %1").arg(it.key()));
     }
     return true;
@@ -192,14 +212,19 @@ void SimRun::execute()
     m_nextInterrupt = m_options.interruptEvery > 0 ? m_options.interruptEvery : SimOptions::unbounded;
     if (!m_options.interruptAt.empty())
         m_nextInterrupt = std::min(m_nextInterrupt, m_options.interruptAt.front());
+    const int until = m_until != nullptr ? m_engine->program().positionOf(m_until) : nsProc::sSimInstr_t::none;
     while (!isBoundReached()) {
         if (m_instructions + 1 == m_nextInterrupt)
             raiseInterrupt();
-        if (!step())
+        nsProc::SimOutcome outcome;
+        m_instructions += m_engine->run(nextBlock(), until, &outcome);
+        if (!goesOn(outcome))
             break;
     }
-    m_watch.trace().flush();
-    if (m_watch.trace().hasFailed()) {
+    if (m_tracer == nullptr)
+        return;
+    m_tracer->flush();
+    if (m_tracer->hasFailed()) {
         finishOutput(&m_trace, false);
         setEnd(SimEnd::endFile, tr("the trace can not be written"));
     }
@@ -211,18 +236,28 @@ bool SimRun::isBoundReached()
         setEnd(SimEnd::endSignal, tr("interrupted"));
     else if (m_instructions >= m_options.instructions)
         setEnd(SimEnd::endInstructions, tr("bound of instructions reached"));
-    else if (m_sim->clock()->clocks >= m_options.clocks)
+    else if (m_engine->clock()->clocks >= m_options.clocks)
         setEnd(SimEnd::endClocks, tr("bound of clocks reached"));
     else
         return false;
     return true;
 }
 
+qint64 SimRun::nextBlock() const
+{
+    qint64 count = std::min(blockSize, m_options.instructions - m_instructions);
+    const qint64 clocks = m_options.clocks - m_engine->clock()->clocks;
+    const qint64 perInstr = std::max(m_engine->clocksOfInstr(), 1);
+    count = std::min(count, clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0));
+    // The instruction that takes the interrupt starts a block.
+    return std::min(count, m_nextInterrupt - m_instructions - 1);
+}
+
 void SimRun::raiseInterrupt()
 {
     // A second call would withdraw a pending interrupt.
-    if (m_sim->core()->interrupt() == nsProc::eIntEnabled)
-        m_sim->simInt();
+    if (m_engine->core()->interrupt() == nsProc::eIntEnabled)
+        m_engine->toggleInterrupt();
     const std::vector<qint64>& list = m_options.interruptAt;
     while (m_interruptAt < list.size() && list[m_interruptAt] <= m_nextInterrupt)
         ++m_interruptAt;
@@ -233,74 +268,101 @@ void SimRun::raiseInterrupt()
     m_nextInterrupt = isRegular ? std::min(listed, rounds * every) : listed;
 }
 
-bool SimRun::step()
+bool SimRun::goesOn(const nsProc::SimOutcome& outcome)
 {
-    m_watch.begin();
-    if (!m_sim->simOpcode()) {
-        const Opcode* opcode = m_watch.opcode();
-        m_watch.takeBack();
-        endByFailure(opcode);
+    show(outcome);
+    if (m_tracer != nullptr && m_tracer->hasFailed())
+        return false;
+    if (!outcome.wentOn()) {
+        endByFailure(outcome);
         return false;
     }
-    ++m_instructions;
-    const Opcode* next = m_sim->programCounter();
-    if (next == nullptr) {
-        const Opcode* opcode = m_watch.opcode();
-        setPlace(opcode);
-        const QString key = m_sim->takeLastMsg();
-        if (key.isEmpty() || key == "internal") {
-            // At the end of the program the simulator reports nothing or a general error. Executing once more reports
-            // the actual error.
-            m_sim->simOpcode();
-            endByFailure(opcode);
-        } else {
-            endByMessage(key);
+    if (m_engine->position() == nsProc::sSimInstr_t::none) {
+        const nsProc::sSimReport_t* last = outcome.last();
+        if (last != nullptr && last->kind == nsProc::sSimReport_t::eKindMessage) {
+            endByMessage(*last);
+            return false;
         }
+        // The program has come to its end without a message of its own.
+        const nsProc::sSimReport_t end{nsProc::sSimReport_t::eKindMessage, nsProc::errNoOpcodeToExec, QString(), 0};
+        show(end);
+        endByMessage(end);
         return false;
     }
-    if (next == m_until) {
+    if (m_until != nullptr && m_engine->programCounter() == m_until) {
         setEnd(SimEnd::endLabel, tr("label %1 reached").arg(m_options.until));
         return false;
     }
-    m_watch.trace().writePiece();
-    return !m_watch.trace().hasFailed();
+    return true;
 }
 
-void SimRun::endByFailure(const Opcode* opcode)
+void SimRun::show(const nsProc::SimOutcome& outcome) const
 {
-    setPlace(opcode);
-    if (m_watch.readResult() != SimReads::resultValue) {
-        endByReads(opcode);
+    for (const nsProc::sSimReport_t& report : outcome.reports)
+        show(report);
+}
+
+void SimRun::show(const nsProc::sSimReport_t& report) const
+{
+    BatchMsg& msg = m_modules.msg;
+    switch (report.kind) {
+    case nsProc::sSimReport_t::eKindUnsupported:
+        nsModAsmFe::AsmFeMsgHndlr::showMsg(&msg, nsModAsmFe::errOcUnsupported, link(m_engine->programCounter()),
+                                           report.arg);
+        break;
+    case nsProc::sSimReport_t::eKindInternal:
+        msg.showErrorMessage(report.text(), QUrl(), {});
+        break;
+    case nsProc::sSimReport_t::eKindMessage: {
+        QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
+        help.setFragment(report.key());
+        msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
+                        link(m_engine->programCounter()));
+        break;
+    }
+    }
+}
+
+nsModMsg::MsgUrl SimRun::link(const Opcode* opcode) const
+{
+    return opcode != nullptr ? m_project.links->srcUrl(opcode->srcRef) : nsModMsg::MsgUrl();
+}
+
+void SimRun::endByFailure(const nsProc::SimOutcome& outcome)
+{
+    if (outcome.end == nsProc::SimOutcome::eEndNoPortValue) {
+        endByReads(outcome.port);
         return;
     }
-    const QString key = m_sim->takeLastMsg();
-    if (key == "errIODevRd" && opcode != nullptr)
-        reportUnreadPort(opcode);
-    endByMessage(key);
+    const nsProc::sSimReport_t* last = outcome.last();
+    if (last->kind == nsProc::sSimReport_t::eKindMessage && last->msg == nsProc::errIODevRd)
+        reportUnreadPort(outcome.port);
+    endByMessage(*last);
 }
 
-void SimRun::setPlace(const Opcode* opcode)
+QString SimRun::place() const
 {
-    if (opcode != nullptr)
-        m_place = tr(" at address %1, %2:%3")
-                      .arg(hexText(opcode->pageAddr, 3),
-                           shownPath(m_modules.asmFe.fileHndlr()->absSrcFilePath(opcode->srcRef.fileNo)),
-                           QString::number(opcode->srcRef.lineNo + 1));
+    const Opcode* opcode = m_engine->program().opcode(m_engine->begun());
+    if (opcode == nullptr)
+        return QString();
+    return tr(" at address %1, %2:%3")
+        .arg(hexText(opcode->pageAddr, 3), shownPath(m_project.files->absSrcFilePath(opcode->srcRef.fileNo)),
+             QString::number(opcode->srcRef.lineNo + 1));
 }
 
-void SimRun::endByMessage(const QString& key)
+void SimRun::endByMessage(const nsProc::sSimReport_t& report)
 {
-    setEnd(SimEnd::endMessage, tr("stopped by %1").arg(key) + m_place, key);
+    setEnd(SimEnd::endMessage, tr("stopped by %1").arg(report.key()) + place(), report.key());
 }
 
-void SimRun::endByReads(const Opcode* opcode)
+void SimRun::endByReads(int port)
 {
-    const SimReads* source = m_watch.readSource();
-    if (m_watch.readResult() == SimReads::resultStopped) {
+    const SimReads* source = m_reads.source();
+    if (m_reads.result() == SimReads::resultStopped) {
         setEnd(SimEnd::endSignal, tr("interrupted"));
         return;
     }
-    if (m_watch.readResult() == SimReads::resultFailed) {
+    if (m_reads.result() == SimReads::resultFailed) {
         printError(source->failure());
         setEnd(SimEnd::endFile, tr("values for the reads can not be read"));
         return;
@@ -312,37 +374,35 @@ void SimRun::endByReads(const Opcode* opcode)
     const QString key = source == nullptr ? QStringLiteral("errNoReads") : QStringLiteral("errReadsExhausted");
     QUrl help;
     help.setFragment(key);
+    const Opcode* opcode = m_engine->programCounter();
     m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: %3.")
-                                       .arg("0x" + hexText(m_watch.readPort(), 2), hexText(opcode->pageAddr, 3), why),
-                                   help, m_modules.asmFe.msgHndlr()->srcUrl(opcode->srcRef));
-    setEnd(SimEnd::endReads, tr("no value to read") + m_place, key);
+                                       .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3), why),
+                                   help, link(opcode));
+    setEnd(SimEnd::endReads, tr("no value to read") + place(), key);
 }
 
 /// Reports which port can not be read, as the message of the simulator does not name it.
-void SimRun::reportUnreadPort(const Opcode* opcode)
+void SimRun::reportUnreadPort(int port) const
 {
-    const nsModAsmFe::Arg* arg = opcode->arg1;
-    const nsProc::ProcSimCoreData& core = *m_sim->core();
-    const bool isReg = arg->type == nsModAsmFe::Arg::reg || arg->type == nsModAsmFe::Arg::regRef;
-    const int port = isReg ? core.regValue(core.bank(), arg->iValue) : arg->iValue;
+    const Opcode* opcode = m_engine->programCounter();
     m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: its device has none.")
                                        .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3)),
-                                   QUrl(), m_modules.asmFe.msgHndlr()->srcUrl(opcode->srcRef));
+                                   QUrl(), link(opcode));
 }
 
 bool SimRun::writeOutputs()
 {
     bool success = !m_trace.isOpen() || finishOutput(&m_trace, true);
     if (m_vcd.isOpen()) {
-        if (m_sim->clock() != nullptr)
-            m_watch.waves().setClock(m_sim->clock()->clocks);
-        const bool written = nsProc::ProcSimVcd::write(m_vcd.device(), m_watch.waves(), m_shell->runConfig()->clkFreq);
+        // A simulator that has not started has no values.
+        if (m_waves == nullptr)
+            m_waves = std::make_shared<ProcSimWaveData>();
+        m_waves->setClock(m_engine->clock()->clocks);
+        const bool written = nsProc::ProcSimVcd::write(m_vcd.device(), *m_waves, m_project.config.clkFreq);
         success = finishOutput(&m_vcd, written) && success;
     }
     if (m_dump.isOpen()) {
-        const bool hasState = m_sim->core() != nullptr;
-        const bool written =
-            !hasState || m_dump.write(dumpText(&m_modules.asmFe, m_shell, m_sim.get(), m_instructions, m_end));
+        const bool written = m_dump.write(dumpText(m_project, *m_engine, m_instructions, m_end));
         success = finishOutput(&m_dump, written) && success;
     }
     return success;
@@ -361,7 +421,7 @@ void SimRun::showSummary() const
 {
     if (m_options.quiet)
         return;
-    const qint64 clocks = m_sim->clock() != nullptr ? m_sim->clock()->clocks : 0;
+    const qint64 clocks = m_engine->clock()->clocks;
     QStringList parts = {m_end.text};
     parts << (m_instructions == 1 ? tr("1 instruction") : tr("%1 instructions").arg(m_instructions));
     parts << (clocks == 1 ? tr("1 clock") : tr("%1 clocks").arg(clocks));

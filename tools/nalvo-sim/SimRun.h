@@ -2,9 +2,13 @@
 
 #include "BatchFiles.h"
 #include "BatchModules.h"
+#include "ProcSimEngine.h"
+#include "ProcSimWaveRecorder.h"
 #include "SimDump.h"
 #include "SimOptions.h"
-#include "SimWatch.h"
+#include "SimPortReads.h"
+#include "SimProject.h"
+#include "SimTrace.h"
 
 #include <memory>
 
@@ -17,7 +21,6 @@ class SimRun
 {
 public:
     explicit SimRun(const SimOptions& options);
-    ~SimRun();
 
     /// @return exit status; failures have been reported
     int run();
@@ -35,14 +38,21 @@ private:
     // The run.
     void execute();
     bool isBoundReached();
+    /// Number of instructions until a bound, an interrupt or the next look at the signal.
+    qint64 nextBlock() const;
     void raiseInterrupt();
-    bool step();
-    void endByFailure(const nsModAsmFe::Opcode* opcode);
-    void endByMessage(const QString& key);
-    void endByReads(const nsModAsmFe::Opcode* opcode);
-    void reportUnreadPort(const nsModAsmFe::Opcode* opcode);
-    /// Notes the instruction that ended the run. @param opcode null for none
-    void setPlace(const nsModAsmFe::Opcode* opcode);
+    /// Reports what a block of instructions came to. @return the run goes on
+    bool goesOn(const nsProc::SimOutcome& outcome);
+    void show(const nsProc::SimOutcome& outcome) const;
+    void show(const nsProc::sSimReport_t& report) const;
+    void endByFailure(const nsProc::SimOutcome& outcome);
+    void endByMessage(const nsProc::sSimReport_t& report);
+    void endByReads(int port);
+    void reportUnreadPort(int port) const;
+    /// The instruction that ended the run, for people; empty if there is none.
+    QString place() const;
+    /// The link to an instruction; empty for null.
+    nsModMsg::MsgUrl link(const nsModAsmFe::Opcode* opcode) const;
     void setEnd(SimEnd::eReason_t reason, const QString& text, const QString& key = QString());
 
     bool writeOutputs();
@@ -52,9 +62,12 @@ private:
 
     SimOptions m_options;
     nsBatch::BatchModules& m_modules;
-    nsProc::ProcShell* m_shell = nullptr; ///< not owned
-    SimWatch m_watch;
-    std::unique_ptr<nsProc::ProcSim> m_sim;
+    SimProject m_project;
+    SimPortReads m_reads;
+    std::unique_ptr<SimTrace> m_tracer; ///< null without a trace
+    std::shared_ptr<nsProc::ProcSimWaveData> m_waves;
+    std::unique_ptr<nsProc::ProcSimWaveRecorder> m_recorder; ///< null without waves
+    std::unique_ptr<nsProc::ProcSimEngine> m_engine;
     nsModAsmFe::Opcode* m_start = nullptr; ///< not owned, as the next one
     nsModAsmFe::Opcode* m_until = nullptr;
     nsBatch::OutputFile m_trace;
@@ -64,7 +77,6 @@ private:
     qint64 m_instructions = 0;
     qint64 m_nextInterrupt = SimOptions::unbounded; ///< number of the instruction
     size_t m_interruptAt = 0;                       ///< index of the next one of the list
-    QString m_place;                                ///< of the instruction that ended the run
 };
 
 } // namespace nsNalvoSim

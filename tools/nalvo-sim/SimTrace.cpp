@@ -1,54 +1,83 @@
 #include "SimTrace.h"
 
 #include "BatchFiles.h"
+#include "Opcode.h"
+#include "ProcSimEngine.h"
 
 #include <cstring>
 
 namespace nsNalvoSim {
 
-void SimTrace::setFile(nsBatch::OutputFile* file)
+SimTrace::SimTrace(nsBatch::OutputFile* file, nsProc::ProcSimEngine* engine)
+    : m_file(file)
+    , m_engine(engine)
+    , m_lines(size_t(engine->program().count()))
+    , m_text(pieceSize + reserve)
 {
-    m_file = file;
-    m_text.resize(file != nullptr ? pieceSize + reserve : 0);
+    for (int position = 0; position < engine->program().count(); ++position) {
+        const nsModAsmFe::Opcode* opcode = engine->program().opcode(position);
+        sLine_t& target = m_lines[size_t(position)];
+        target.size = char(line(target.text, 'I', opcode->pageAddr, 3, opcode->instWord, 5));
+    }
 }
 
-void SimTrace::hex(int value, int digits)
+/// @return number of characters
+int SimTrace::hex(char* text, int value, int digits)
 {
     auto rest = static_cast<unsigned>(value);
     // A word or an address that needs more digits gets them.
     while (digits < 8 && rest >> (4 * digits) != 0)
         ++digits;
     for (int pos = digits - 1; pos >= 0; --pos) {
-        m_text[size_t(m_used + pos)] = "0123456789ABCDEF"[rest & 0xF];
+        text[pos] = "0123456789ABCDEF"[rest & 0xF];
         rest >>= 4;
     }
-    m_used += digits;
+    return digits;
 }
 
-void SimTrace::line(char kind, int first, int firstDigits, int second, int secondDigits)
+/// @return number of characters
+int SimTrace::line(char* text, char kind, int first, int firstDigits, int second, int secondDigits)
 {
-    m_text[size_t(m_used++)] = kind;
-    m_text[size_t(m_used++)] = ' ';
-    hex(first, firstDigits);
-    m_text[size_t(m_used++)] = ' ';
-    hex(second, secondDigits);
-    m_text[size_t(m_used++)] = '\n';
+    int used = 0;
+    text[used++] = kind;
+    text[used++] = ' ';
+    used += hex(text + used, first, firstDigits);
+    text[used++] = ' ';
+    used += hex(text + used, second, secondDigits);
+    text[used++] = '\n';
+    return used;
 }
 
-void SimTrace::interrupt()
+void SimTrace::instruction(int position)
 {
-    for (const char c : {'I', 'N', 'T', '\n'})
-        m_text[size_t(m_used++)] = c;
+    if (m_used >= pieceSize)
+        flush();
+    m_mark = m_used;
+    const sLine_t& source = m_lines[size_t(position)];
+    // All of it, as a copy of a fixed size is much quicker than one of the size of the text.
+    std::memcpy(m_text.data() + m_used, source.text, sizeof(source.text));
+    m_used += source.size;
+}
+
+void SimTrace::refused(int)
+{
+    m_used = m_mark;
+}
+
+void SimTrace::interruptEntered()
+{
+    std::memcpy(m_text.data() + m_used, "INT\n", 4);
+    m_used += 4;
 }
 
 void SimTrace::flush(int end)
 {
-    if (m_file == nullptr)
-        return;
     m_failed = m_failed || !m_file->write(m_text.data(), end);
     std::memmove(m_text.data(), m_text.data() + end, size_t(m_used - end));
     m_used -= end;
     m_mark = 0;
+    if (m_failed)
+        m_engine->halt();
 }
 
 } // namespace nsNalvoSim

@@ -2,16 +2,14 @@
 
 #include "ProcSim.h"
 
-#include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
-#include "ProcSimCoreData.h"
+#include "ProcSimEngine.h"
 #include "ProcSimHighlight.h"
-#include "ProcSimIODevice.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
+#include "ProcSimWaveRecorder.h"
 #include "ProcSimWidgets.h"
 
-#include "IODevList.h"
 #include "ModAsmFeHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
@@ -19,14 +17,9 @@
 #include "Opcode.h"
 #include "OpcodeList.h"
 
-#include <QHash>
 #include <QTimer>
 
-#include <algorithm>
-
 namespace nsProc {
-
-using nsModAsmFe::IODev;
 
 namespace {
 
@@ -34,14 +27,13 @@ const int displayInterval = 40; ///< milliseconds between two pictures of a run
 
 } // namespace
 
-ProcSim::ProcSim(const sProcSimTraits_t& traits, QObject* parent)
+ProcSim::ProcSim(const ProcTable& table, QObject* parent)
     : QObject(parent)
-    , m_traits(traits)
+    , m_table(table)
     , m_watch([this] { forgetOpcodes(); })
     , m_widgets(std::make_unique<ProcSimWidgets>())
     , m_displayTimer(new QTimer(this))
 {
-    std::fill(std::begin(m_handlers), std::end(m_handlers), &ProcSim::simOpcode_unsupported);
     m_displayTimer->setInterval(displayInterval);
     connect(m_displayTimer, &QTimer::timeout, this, &ProcSim::updateWidgets);
 }
@@ -53,25 +45,21 @@ ProcSim::~ProcSim()
 
 bool ProcSim::simInit(const ProcCoreConfig* config)
 {
-    m_config = *config;
     m_running = 0;
-    m_pc = nullptr;
-    m_clocksOfInstr = clocksOfInstr();
     if (!modAsmFeHook->isAssembled()) {
         signMsg(errNoOpcodeAssembled);
         return false;
     }
-    m_core = std::make_shared<ProcSimCoreData>(regCount(), m_traits.bankCount, scrpdSize());
-    m_callStack = std::make_shared<ProcSimCallStackData>(m_traits.callStackCapacity);
-    m_ports = std::make_shared<ProcSimPorts>();
-    m_clock = std::make_shared<ProcSimClock>();
+    m_engine = std::make_unique<ProcSimEngine>(&m_table, *config);
+    m_engine->load(modAsmFeHook->opcodeList());
+    // Without a main window the user can not be asked: the page that was executed last is used.
+    m_engine->setAsksPage(modGuiHook != nullptr);
+    m_waves = std::make_shared<ProcSimWaveData>();
+    m_recorder = std::make_unique<ProcSimWaveRecorder>(m_waves, m_engine->clock());
+    m_engine->addObserver(m_recorder.get());
     m_watch.watch(modAsmFeHook->opcodeList());
     if (modGuiHook != nullptr)
         createWidgets();
-    m_pageNames = QStringList(QStringLiteral("SHARED"));
-    for (int page = 0; page < m_config.pageCount; ++page)
-        m_pageNames.append(QStringLiteral("PAGE%1").arg(page));
-    m_lastPage = std::min(1, m_config.pageCount);
     if (!initIODevices() || !setProgramCounter(simStartPointer()))
         return false;
     m_breakpointsTaken = false;
@@ -82,19 +70,27 @@ bool ProcSim::simInit(const ProcCoreConfig* config)
     return true;
 }
 
+bool ProcSim::initIODevices()
+{
+    SimOutcome outcome;
+    const bool success = m_engine->initIODevices(*modAsmFeHook->ioDevList(), &outcome);
+    show(outcome);
+    return success;
+}
+
 void ProcSim::createWidgets()
 {
-    m_widgets->core = createCoreWidget(m_core, m_config.pageSize);
-    m_widgets->callStack = new ProcSimCallStack(m_callStack);
-    m_widgets->io = new ProcSimIO(m_ports);
-    m_widgets->statusBar = new ProcSimStatusBar(m_clock, m_config.clkFreq);
+    m_widgets->core = createCoreWidget(m_engine->core(), m_engine->config().pageSize);
+    m_widgets->callStack = new ProcSimCallStack(m_engine->callStack());
+    m_widgets->io = new ProcSimIO(m_engine->ports());
+    m_widgets->statusBar = new ProcSimStatusBar(m_engine->clock(), m_engine->config().clkFreq);
     m_widgets->lastBottom = m_widgets->callStack.data();
     // The waves must be updated at once: later, the clock count may have reached its old value again.
     connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);
     connect(m_widgets->io, &ProcSimIO::wavesRequested, this, &ProcSim::showWaveViewer);
     connect(m_widgets->core, &ProcSimCore::pcTyped, this, &ProcSim::setPcFromAddr);
-    const QString note = m_traits.clearsEachInstr ? tr("Set by the instruction that was executed last.")
-                                                  : tr("Set by the program since the last single step or reset.");
+    const QString note = m_table.sim.clearsEachInstr ? tr("Set by the instruction that was executed last.")
+                                                     : tr("Set by the program since the last single step or reset.");
     setHighlightNote(m_widgets->core, note);
     setHighlightNote(m_widgets->io, note);
     addWidgets();
@@ -110,17 +106,21 @@ void ProcSim::addWidgets()
 
 void ProcSim::showWaveViewer()
 {
-    if (modGuiHook == nullptr || m_core == nullptr)
+    if (modGuiHook == nullptr || m_engine == nullptr)
         return;
     if (m_widgets->waveViewer == nullptr) {
-        m_widgets->waveViewer = new ProcSimWaveViewer(m_config.clkFreq);
-        m_waves = m_widgets->waveViewer->data();
+        m_widgets->waveViewer = new ProcSimWaveViewer(m_waves, m_engine->config().clkFreq);
         m_widgets->waveViewer->setBase(numberBase(m_base));
         m_widgets->waveViewer->setPortNames(
             [this](int addr, ProcSimWaveData::eAccessType_t access) {
-                return ProcSimPortNames::nameOf(modAsmFeHook, addr, access == ProcSimWaveData::eAccessWr);
+                return modAsmFeHook->isAssembled()
+                           ? ProcSimPortNames::nameOf(*modAsmFeHook->opcodeList(), *modAsmFeHook->equList(), addr,
+                                                      access == ProcSimWaveData::eAccessWr)
+                           : QString();
             },
-            [this](const QString& name) { return ProcSimPortNames::addrOf(modAsmFeHook, name); });
+            [this](const QString& name) {
+                return modAsmFeHook->isAssembled() ? ProcSimPortNames::addrOf(*modAsmFeHook->equList(), name) : -1;
+            });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_widgets->waveViewer, tr("Waves"));
     }
     m_widgets->lastBottom = m_widgets->waveViewer.data();
@@ -130,7 +130,7 @@ void ProcSim::showWaveViewer()
 bool ProcSim::simReload(const ProcCoreConfig* config)
 {
     m_running = 0;
-    if (m_core == nullptr)
+    if (m_engine == nullptr)
         return false;
     if (!modAsmFeHook->isAssembled()) {
         signMsg(errNoOpcodeAssembled);
@@ -141,16 +141,17 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
         signMsg(errProcSetChanged, changed);
         return false;
     }
-    m_config = *config;
+    m_engine->setConfig(*config);
+    m_engine->load(modAsmFeHook->opcodeList());
     if (m_widgets->waveViewer != nullptr)
         m_widgets->waveViewer->updatePortNames();
-    nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_lineIndex);
+    nsModAsmFe::Opcode* opcode = modAsmFeHook->opcodeList()->nextOfLineIndex(m_engine->lineIndex());
     if (opcode == nullptr) {
         signMsg(errPcRestore);
         return false;
     }
     setProgramCounter(opcode);
-    if (m_callStack->count() > 0)
+    if (callStack()->count() > 0)
         signMsg(warnCallStackInvalidDueToReload);
     m_breakpointsTaken = false;
     setBreakpoints();
@@ -161,14 +162,13 @@ bool ProcSim::simReload(const ProcCoreConfig* config)
 
 QString ProcSim::changedSetting(const ProcCoreConfig& config) const
 {
-    const QHash<QString, bool> changed = {{"scrpdSize", config.scrpdSize != m_config.scrpdSize},
-                                          {"pageSize", config.pageSize != m_config.pageSize},
-                                          {"clkFreq", config.clkFreq != m_config.clkFreq},
-                                          {"instrClkCnt", config.instrClkCnt != m_config.instrClkCnt},
-                                          {"regCount", config.regCount != m_config.regCount}};
-    for (const QString& setting : m_traits.fixedSettings) {
-        if (changed.value(setting))
-            return setting;
+    const ProcCoreConfig& present = m_engine->config();
+    for (const eSetting_t setting : m_table.fixedSettings) {
+        const sSettingField_t& field = settingField(setting);
+        const bool isSame =
+            field.value != nullptr ? config.*field.value == present.*field.value : !(config.clkFreq != present.clkFreq);
+        if (!isSame)
+            return QString::fromLatin1(field.name);
     }
     return QString();
 }
@@ -186,13 +186,13 @@ void ProcSim::simExit()
 {
     m_running = 0;
     m_displayTimer->stop();
-    m_pc = nullptr;
+    if (m_engine != nullptr)
+        m_engine->load(nullptr);
     m_watch.watch(nullptr);
     if (hasEditor()) {
         modEditorHook->clearLineHighlited();
         modEditorHook->simEn(false);
     }
-    m_waves = nullptr;
     // A field that loses the focus with its dock ends an edit, to nobody.
     if (m_widgets->core != nullptr)
         m_widgets->core->blockSignals(true);
@@ -206,67 +206,16 @@ void ProcSim::simExit()
 void ProcSim::forgetOpcodes()
 {
     m_running = 0;
-    m_pc = nullptr;
     m_breakpointsTaken = false;
     ++m_deletions;
-}
-
-bool ProcSim::initIODevices()
-{
-    bool success = true;
-    for (IODev* dev : modAsmFeHook->ioDevList()->devices()) {
-        if (dev->simEn && !initIODevice(dev))
-            success = false;
-    }
-    return success;
-}
-
-bool ProcSim::initIODevice(IODev* dev)
-{
-    // A copy, as initValue() takes a pointer to values that are not const.
-    std::vector<unsigned int> values = dev->values;
-    if (dev->devName == m_config.scrpdIODev) {
-        m_core->initScrpd(values.data(), std::min(dev->memSize, int(values.size())));
-        return true;
-    }
-    ProcSimPorts::eDevType_t type = ProcSimPorts::eDevReg;
-    switch (dev->devType) {
-    case IODev::reg:
-        break;
-    case IODev::fifo:
-        type = ProcSimPorts::eDevFifo;
-        break;
-    case IODev::mem:
-        type = ProcSimPorts::eDevMem;
-        break;
-    default:
-        signInternalError(tr("Unsupported device type for IO Device!"));
-        return false;
-    }
-    if (dev->simAccessMode < IODev::simRd || dev->simAccessMode > IODev::simRdWr) {
-        signInternalError(tr("Unsupported direction for IODevice!"));
-        return false;
-    }
-    const auto direction = ProcSimPorts::eDirection_t(dev->simAccessMode);
-    ProcSimIOPluginIf* plugin = m_ports->addIOPlugin(type, direction, int(dev->initValue));
-    plugin->setMemSize(dev->memSize);
-    if (dev->baseAddr > uint(ProcSimIODevice::maxAddr)) {
-        plugin->setBaseAddr(ProcSimIODevice::noAddr, QString());
-        signMsg(warnIODevNoPort, dev->devName);
-    } else {
-        plugin->setBaseAddr(int(dev->baseAddr), QString());
-    }
-    plugin->setName(dev->devName);
-    plugin->initValue(values.data(), std::min(dev->memSize, int(values.size())));
-    return true;
 }
 
 void ProcSim::setBase(eBase_t base)
 {
     m_base = base;
     const int number = numberBase(base);
-    if (m_ports != nullptr)
-        m_ports->setBase(number);
+    if (m_engine != nullptr)
+        m_engine->ports()->setBase(number);
     if (m_widgets->core != nullptr)
         m_widgets->core->setBase(number);
     if (m_widgets->callStack != nullptr)
@@ -297,9 +246,29 @@ void ProcSim::updateWidgets()
     if (m_widgets->statusBar != nullptr)
         m_widgets->statusBar->refresh();
     if (m_widgets->waveViewer != nullptr) {
-        m_widgets->waveViewer->setClock(m_clock->clocks);
+        m_widgets->waveViewer->setClock(m_engine->clock()->clocks);
         m_widgets->waveViewer->refresh();
     }
+}
+
+ProcSimCoreData* ProcSim::core() const
+{
+    return m_engine != nullptr ? m_engine->core().get() : nullptr;
+}
+
+ProcSimCallStackData* ProcSim::callStack() const
+{
+    return m_engine != nullptr ? m_engine->callStack().get() : nullptr;
+}
+
+ProcSimPorts* ProcSim::ports() const
+{
+    return m_engine != nullptr ? m_engine->ports().get() : nullptr;
+}
+
+ProcSimClock* ProcSim::clock() const
+{
+    return m_engine != nullptr ? m_engine->clock().get() : nullptr;
 }
 
 ProcSimCore* ProcSim::coreWidget() const
@@ -331,7 +300,7 @@ void ProcSim::removeWidgetRequest(QWidget*) {}
 
 void ProcSim::setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf* plugin, QWidget* widget)
 {
-    if (plugin != static_cast<ModGuiPluginIf*>(this) || modGuiHook == nullptr || m_core == nullptr)
+    if (plugin != static_cast<ModGuiPluginIf*>(this) || modGuiHook == nullptr || m_engine == nullptr)
         return;
     modGuiHook->setCurrentWidget(m_widgets->statusBar);
     modGuiHook->setCurrentWidget(m_widgets->core);

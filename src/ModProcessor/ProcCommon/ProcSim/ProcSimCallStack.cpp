@@ -115,7 +115,7 @@ void ProcSimCallStack::refresh()
         showRow(row, m_data->items()[size_t(row)]);
         isExtended = true;
     }
-    m_shown = m_data->items();
+    m_shown.assign(m_data->items().begin(), m_data->items().end());
     if (isExtended)
         scrollToBottom();
     if (changed)

@@ -3,9 +3,7 @@
 #include "ProcSim.h"
 
 #include "ProcSimCallStackData.h"
-#include "ProcSimCoreData.h"
-#include "ProcSimObserver.h"
-#include "ProcSimPorts.h"
+#include "ProcSimEngine.h"
 #include "ProcSimResolvePageDialog.h"
 #include "ProcSimWidgets.h"
 
@@ -26,52 +24,15 @@ using nsModAsmFe::OpcodeList;
 
 bool ProcSim::simOpcode()
 {
-    if (m_traits.clearsEachInstr)
-        clearHighlights();
-    if (m_pc == nullptr) {
-        signMsg(errNoOpcodeToExec);
-        return false;
+    SimOutcome outcome = m_engine->step();
+    while (outcome.end == SimOutcome::eEndAsksPage) {
+        int memRange = 0;
+        if (!resolvePage(&memRange))
+            return false;
+        outcome = m_engine->goOnInPage(memRange);
     }
-    if (m_core->interrupt() == eIntPending && !enterInterrupt())
-        return false;
-    if (m_observer != nullptr)
-        m_observer->instruction(m_pc);
-    const int opcode = m_pc->opcode;
-    const Handler handler =
-        opcode >= 0 && opcode < nsModAsmFe::ocCount ? m_handlers[opcode] : &ProcSim::simOpcode_unsupported;
-    return (this->*handler)();
-}
-
-bool ProcSim::enterInterrupt()
-{
-    m_core->setInterrupt(eIntService);
-    // If the call stack is full, the interrupt is lost; the program can continue at the present instruction.
-    if (!pushToCallstack(QStringLiteral("ISR"))) {
-        signMsg(errCallStackOverflow);
-        return false;
-    }
-    const Opcode* before = m_pc;
-    Opcode* vector = nullptr;
-    if (!getOpcodeOfAddr(m_config.intVectorAddr, &vector)) {
-        if (m_pc == before) {
-            m_pc = nullptr;
-            signMsg(errNoOpcodeAtIntVect, QString(), m_config.intVectorAddr);
-        }
-        return false;
-    }
-    if (!setProgramCounter(vector))
-        return false;
-    if (m_observer != nullptr)
-        m_observer->interruptEntered();
-    return true;
-}
-
-void ProcSim::clearHighlights()
-{
-    if (m_core == nullptr)
-        return;
-    m_core->clearHighlighted();
-    m_ports->clearTouched();
+    show(outcome);
+    return outcome.wentOn();
 }
 
 void ProcSim::startRun()
@@ -104,7 +65,8 @@ template <class Ends>
 void ProcSim::runLoop(Ends ends)
 {
     while (simOpcode()) {
-        if (m_pc != nullptr && m_pc->breakpoint != 0)
+        const Opcode* opcode = programCounter();
+        if (opcode != nullptr && opcode->breakpoint != 0)
             break;
         if (ends() || !goOn())
             break;
@@ -114,7 +76,7 @@ void ProcSim::runLoop(Ends ends)
 
 void ProcSim::simRun()
 {
-    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
         return;
     startRun();
     runLoop([] { return false; });
@@ -122,9 +84,9 @@ void ProcSim::simRun()
 
 void ProcSim::simNextInstruction()
 {
-    if (!m_traits.clearsEachInstr)
-        clearHighlights();
-    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
+    if (!m_table.sim.clearsEachInstr && m_engine != nullptr)
+        m_engine->clearHighlights();
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
         return;
     simOpcode();
     showHighlight();
@@ -132,44 +94,44 @@ void ProcSim::simNextInstruction()
 
 void ProcSim::simNextLine()
 {
-    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
         return;
     startRun();
-    if (m_pc == nullptr || m_pc->opcode != nsModAsmFe::ocCall) {
+    if (programCounter() == nullptr || programCounter()->opcode != nsModAsmFe::ocCall) {
         simOpcode();
         endRun();
         return;
     }
-    const int depth = m_callStack->count();
-    runLoop([this, depth] { return depth >= m_callStack->count(); });
+    const int depth = callStack()->count();
+    runLoop([this, depth] { return depth >= callStack()->count(); });
 }
 
 void ProcSim::simToEndOfCall()
 {
-    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
         return;
     startRun();
-    const int depth = m_callStack->count();
-    runLoop([this, depth] { return depth > m_callStack->count(); });
+    const int depth = callStack()->count();
+    runLoop([this, depth] { return depth > callStack()->count(); });
 }
 
 void ProcSim::simToCursor()
 {
-    if (m_running == 1 || m_core == nullptr || !takeTypedPc())
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
         return;
     syncBreakpoints();
     Opcode* target = nullptr;
-    if (!getOpcodeOfCursor(&target) || target == m_pc)
+    if (!getOpcodeOfCursor(&target) || target == programCounter())
         return;
     startRun();
     // The loop ends when the instructions are deleted, so a deleted target is never compared.
-    runLoop([this, target] { return m_pc == target; });
+    runLoop([this, target] { return programCounter() == target; });
 }
 
 bool ProcSim::setPcFromCursor()
 {
     Opcode* target = nullptr;
-    if (m_core == nullptr || !getOpcodeOfCursor(&target))
+    if (m_engine == nullptr || !getOpcodeOfCursor(&target))
         return false;
     const bool success = setProgramCounter(target);
     showHighlight();
@@ -178,8 +140,7 @@ bool ProcSim::setPcFromCursor()
 
 bool ProcSim::setPcFromAddr(int addr)
 {
-    Opcode* target = nullptr;
-    if (m_core == nullptr || m_running == 1) {
+    if (m_engine == nullptr || m_running == 1) {
         updateWidgets();
         return false;
     }
@@ -187,7 +148,8 @@ bool ProcSim::setPcFromAddr(int addr)
         signMsg(errNoOpcodeAssembled);
         return false;
     }
-    if (!opcodeOfPage(addr, m_pc != nullptr && m_pc->memRange > 0 ? m_pc->memRange : m_lastPage, &target)) {
+    Opcode* target = m_engine->opcodeOfPage(addr, m_engine->page());
+    if (target == nullptr) {
         signMsg(errNoOpcodeToExec);
         return false;
     }
@@ -206,12 +168,9 @@ bool ProcSim::takeTypedPc()
 
 void ProcSim::simInt()
 {
-    if (m_core == nullptr)
+    if (m_engine == nullptr)
         return;
-    if (m_core->interrupt() == eIntEnabled)
-        m_core->setInterrupt(eIntPending);
-    else if (m_core->interrupt() == eIntPending)
-        m_core->setInterrupt(eIntEnabled);
+    m_engine->toggleInterrupt();
     if (m_running == 0)
         updateWidgets();
 }
@@ -219,16 +178,14 @@ void ProcSim::simInt()
 void ProcSim::simRst()
 {
     m_running = 0;
-    if (m_core == nullptr)
+    if (m_engine == nullptr)
         return;
-    m_core->clear();
-    m_callStack->clear();
-    m_ports->clear();
+    m_engine->reset();
     if (waveViewer() != nullptr)
         waveViewer()->clearValues();
-    clearHighlights();
+    m_engine->clearHighlights();
     if (!modAsmFeHook->isAssembled()) {
-        m_pc = nullptr;
+        m_engine->dropProgramCounter();
         signMsg(errNoOpcodeAssembled);
     } else {
         setProgramCounter(simStartPointer());
@@ -238,20 +195,15 @@ void ProcSim::simRst()
 
 bool ProcSim::setProgramCounter(Opcode* opcode)
 {
-    m_pc = opcode;
-    if (opcode == nullptr) {
-        signInternalError(tr("Zero program pointer!"));
-        return false;
-    }
-    if (opcode->memRange < 0 || opcode->memRange >= m_pageNames.size()) {
-        signInternalError(tr("Can not resolve page name!"));
-        return false;
-    }
-    m_core->setPc(opcode->pageAddr, m_pageNames.at(opcode->memRange));
-    m_lineIndex = opcode->srcRef.absLineNo;
-    if (opcode->memRange > 0)
-        m_lastPage = opcode->memRange;
-    return true;
+    SimOutcome outcome;
+    const bool success = m_engine->setProgramCounter(opcode, &outcome);
+    show(outcome);
+    return success;
+}
+
+Opcode* ProcSim::programCounter() const
+{
+    return m_engine != nullptr ? m_engine->programCounter() : nullptr;
 }
 
 Opcode* ProcSim::simStartPointer()
@@ -294,37 +246,23 @@ bool ProcSim::getOpcodeOfCursor(Opcode** result)
 bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
 {
     *result = nullptr;
-    int memRange = m_pc->memRange;
-    if (memRange == 0 && !resolvePage(&memRange))
+    int memRange = m_engine->page();
+    if (modGuiHook != nullptr && programCounter()->memRange == 0 && !resolvePage(&memRange))
         return false;
-    return opcodeOfPage(addr, memRange, result);
-}
-
-bool ProcSim::opcodeOfPage(int addr, int memRange, Opcode** result) const
-{
-    const OpcodeList* opcodes = modAsmFeHook->opcodeList();
-    *result = opcodes->opcodeOfAddr(addr, memRange);
-    // If the page has no instruction at the address, it may be in the range that all pages share.
-    if (*result == nullptr)
-        *result = opcodes->opcodeOfAddr(addr, 0);
+    *result = m_engine->opcodeOfPage(addr, memRange);
     return *result != nullptr;
 }
 
 bool ProcSim::resolvePage(int* memRange)
 {
-    // Without a main window the user can not be asked: the page that was executed last is used.
-    if (modGuiHook == nullptr) {
-        *memRange = m_lastPage;
-        return true;
-    }
     updateWidgets();
-    const Opcode* before = m_pc;
+    const Opcode* before = programCounter();
     const int deleted = m_deletions;
-    ProcSimResolvePageDialog dialog(m_config.pageCount, QApplication::activeWindow());
+    ProcSimResolvePageDialog dialog(m_engine->config().pageCount, QApplication::activeWindow());
     dialog.exec();
     // The row is the number of the range: the first row is the shared range.
     *memRange = dialog.selectedRow();
-    return m_pc == before && m_pc != nullptr && m_deletions == deleted;
+    return programCounter() == before && before != nullptr && m_deletions == deleted;
 }
 
 void ProcSim::syncBreakpoints()
@@ -365,13 +303,14 @@ void ProcSim::setBreakpoints()
 void ProcSim::showHighlight(bool isFollowed)
 {
     updateWidgets();
-    if (m_pc == nullptr || modEditorHook == nullptr || m_core == nullptr)
+    const Opcode* opcode = programCounter();
+    if (opcode == nullptr || modEditorHook == nullptr)
         return;
-    const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(m_pc->srcRef.fileNo);
+    const QString path = modAsmFeHook->fileHndlr()->absSrcFilePath(opcode->srcRef.fileNo);
     if (isFollowed)
-        modEditorHook->setLineHighlighted(path, m_pc->srcRef.lineNo);
+        modEditorHook->setLineHighlighted(path, opcode->srcRef.lineNo);
     else
-        modEditorHook->markLine(path, m_pc->srcRef.lineNo);
+        modEditorHook->markLine(path, opcode->srcRef.lineNo);
 }
 
 } // namespace nsProc

@@ -14,7 +14,6 @@ public:
 
 protected:
     nsProc::ProcSimCore* createCoreWidget(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax) override;
-    int scrpdSize() const override { return 64; }
 };
 
 } // namespace nsXPBlze3

@@ -14,12 +14,6 @@ public:
 
 protected:
     nsProc::ProcSimCore* createCoreWidget(const std::shared_ptr<nsProc::ProcSimCoreData>& data, int pcMax) override;
-
-private:
-    bool simOpcode_star();
-    bool simOpcode_regBank();
-    bool simOpcode_hwBuild();
-    bool simOpcode_loadRet();
 };
 
 } // namespace nsXPBlze6
