@@ -5,13 +5,11 @@
 #include "BatchOutput.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
-#include "ProcShell.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
-#include "ProcTables.h"
 #include "SimLabels.h"
 #include "SimStop.h"
 
@@ -56,14 +54,14 @@ BatchMsgStyle style(const SimOptions& options)
 
 SimRun::SimRun(const SimOptions& options)
     : m_options(options)
-    , m_modules(BatchModules::create(style(options)))
+    , m_input(BatchProject::create(style(options)))
 {
 }
 
 int SimRun::run()
 {
     const QString project = m_options.project.isEmpty() ? QString() : QFileInfo(m_options.project).absoluteFilePath();
-    if (!m_modules.prj.openPrj(project))
+    if (!m_input.open(project))
         return exitWrongUsage;
     if (!assemble()) {
         if (!m_options.quiet)
@@ -85,24 +83,19 @@ int SimRun::run()
 
 bool SimRun::assemble()
 {
-    m_modules.asmFe.assemble(nsModAsmFe::ModAsmFe::eEventNone);
+    m_input.assemble(nsModAsmFe::AsmFeConfig::eEventNone);
     // As in the window: after errors, a program that was assembled nevertheless can run.
-    if (!m_modules.asmFe.isAssembled())
+    if (!m_input.assembler().isAssembled())
         return false;
-    auto* shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
-    if (shell == nullptr) {
-        m_modules.msg.showErrorMessage(tr("The project has no processor that can be simulated."), QUrl(), {});
-        return false;
-    }
-    nsModAsmFe::ModAsmFe& asmFe = m_modules.asmFe;
-    m_project = {asmFe.opcodeList(),
-                 asmFe.equList(),
-                 asmFe.labelList(),
-                 asmFe.ioDevList(),
-                 asmFe.fileHndlr(),
-                 asmFe.msgHndlr(),
-                 nsProc::procTable(shell->processorName()),
-                 *shell->runConfig()};
+    nsModAsmFe::AsmProgram& program = m_input.assembler().program();
+    m_project = {&program.opcodes,
+                 &program.equs,
+                 &program.labels,
+                 &program.ioDevs,
+                 &m_input.sources(),
+                 &m_input.asmMsg(),
+                 &m_input.processor()->table(),
+                 *m_input.processor()->runConfig()};
     return true;
 }
 
@@ -138,7 +131,7 @@ bool SimRun::openReads()
 
 bool SimRun::openOutputs(const QString& project)
 {
-    const ProjectFiles taken(project, m_modules.asmFe.fileHndlr()->files(), *m_modules.asmFe.ioDevList());
+    const ProjectFiles taken(project, m_project.files->files(), *m_project.ioDevs);
     for (const QString& name : m_options.outputFiles()) {
         if (taken.contains(name)) {
             printError(tr("File of the project would be overwritten: %1").arg(name));
@@ -304,7 +297,7 @@ void SimRun::show(const nsProc::SimOutcome& outcome) const
 
 void SimRun::show(const nsProc::sSimReport_t& report) const
 {
-    BatchMsg& msg = m_modules.msg;
+    BatchMsg& msg = m_input.msg();
     switch (report.kind) {
     case nsProc::sSimReport_t::eKindUnsupported:
         nsModAsmFe::AsmFeMsgHndlr::showMsg(&msg, nsModAsmFe::errOcUnsupported, link(m_engine->programCounter()),
@@ -375,7 +368,7 @@ void SimRun::endByReads(int port)
     QUrl help;
     help.setFragment(key);
     const Opcode* opcode = m_engine->programCounter();
-    m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: %3.")
+    m_input.msg().showErrorMessage(tr("No value for the read of port %1 at address %2: %3.")
                                        .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3), why),
                                    help, link(opcode));
     setEnd(SimEnd::endReads, tr("no value to read") + place(), key);
@@ -385,7 +378,7 @@ void SimRun::endByReads(int port)
 void SimRun::reportUnreadPort(int port) const
 {
     const Opcode* opcode = m_engine->programCounter();
-    m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: its device has none.")
+    m_input.msg().showErrorMessage(tr("No value for the read of port %1 at address %2: its device has none.")
                                        .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3)),
                                    QUrl(), link(opcode));
 }
