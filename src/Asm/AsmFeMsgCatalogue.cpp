@@ -7,13 +7,13 @@ namespace nsModAsmFe {
 namespace {
 
 // The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text)                                                                                           \
+#define NALVO_MSG(value, text)                                                                                         \
     {                                                                                                                  \
-#key, QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)                                                     \
+        value, #value, QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)                                            \
     }
 
 /// Indexed by eMsgType_t.
-const sMsgText_t msgTexts[eMsgTypeCount] = {
+constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(warnNothingTodo, "Nothing to do."),
     NALVO_MSG(infoSetProcDef, "Set processor define: %1"),
     NALVO_MSG(errFileRead, "Can not read file: %1"),
@@ -140,7 +140,7 @@ const sMsgText_t msgTexts[eMsgTypeCount] = {
 };
 
 /// Indexed by eMsgGrp_t.
-const sMsgText_t msgGrpTexts[eMsgGrpCount] = {
+constexpr sMsgText_t msgGrpTexts[] = {
     NALVO_MSG(grpParsingFiles, "Parsing files..."),
     NALVO_MSG(chkSetDirectives, "Check SET directives..."),
     NALVO_MSG(chkOrgDirectives, "Check ORG directives..."),
@@ -159,6 +159,18 @@ const sMsgText_t msgGrpTexts[eMsgGrpCount] = {
     NALVO_MSG(refreshMemAddrMapInfo, "Refresh editor memory address map information..."),
     NALVO_MSG(refreshIODevViewer, "Refresh IO device map viewer..."),
 };
+
+template <size_t n>
+constexpr bool isEachAtItsPlace(const sMsgText_t (&rows)[n], int count)
+{
+    for (size_t i = 0; i < n; ++i) {
+        if (rows[i].value != int(i))
+            return false;
+    }
+    return int(n) == count;
+}
+static_assert(isEachAtItsPlace(msgTexts, eMsgTypeCount), "the rows are indexed by eMsgType_t");
+static_assert(isEachAtItsPlace(msgGrpTexts, eMsgGrpCount), "the rows are indexed by eMsgGrp_t");
 
 } // namespace
 

@@ -152,6 +152,7 @@ enum eMsgGrp_t {
 /// One row of the catalogue.
 struct sMsgText_t
 {
+    int value;        ///< of eMsgType_t or eMsgGrp_t
     const char* key;  ///< also the anchor in the help page
     const char* text; ///< with the places %1 to %3
 };

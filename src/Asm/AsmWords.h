@@ -1,7 +1,8 @@
 #pragma once
 
+#include "InstructionWords.h"
+
 #include <QHash>
-#include <QList>
 #include <QSet>
 #include <QString>
 #include <QStringList>
@@ -15,21 +16,15 @@ class AsmBackend;
 class AsmWords
 {
 public:
-    /// One part of the instructions, as the insertion menu shows them.
-    struct sInstructionGroup_t
-    {
-        const char* name;
-        QStringList words;
-    };
-
     AsmWords();
 
     /// Takes over the names of the processor. @param backend null for none; not kept
     void setProcessor(AsmBackend* backend);
 
-    const QStringList& instructionWords() const { return m_instructionWords; }
+    /// The words of all instructions, those of other processors too.
+    const QStringList& instructionWords() const { return nsModAsmFe::instructionWords(); }
+    /// Words for arguments, such as flags.
     const QStringList& argumentWords() const { return m_argumentWords; }
-    static const QList<sInstructionGroup_t>& instructionGroups();
     /// Does an instruction have this name? @param upper in upper case
     bool isInstruction(const QString& upper) const { return m_instructionWordSet.contains(upper); }
     /// Is it a word for an argument, such as a flag? @param upper in upper case
@@ -40,7 +35,6 @@ public:
     const QHash<QString, int>& banks() const { return m_bankTable; }
 
 private:
-    QStringList m_instructionWords;
     QStringList m_argumentWords;
     QSet<QString> m_instructionWordSet;
     QSet<QString> m_argumentWordSet;

@@ -4,6 +4,7 @@
 #include "Assembler.h"
 #include "EditorMemPageAddrMap.h"
 #include "EditorSupportMenu.h"
+#include "InstructionWords.h"
 #include "ModEditorHookIf.h"
 #include "Opcode.h"
 
@@ -169,7 +170,7 @@ void AsmEditorFeed::setupSupportMenuBasic(ModEditorHookIf* editor)
     menu->setEntrySortEn("Directives", false);
     for (const sMenuEntry_t& entry : directiveEntries)
         menu->setEntry(entry.path, entry.text, text);
-    for (const AsmWords::sInstructionGroup_t& group : AsmWords::instructionGroups()) {
+    for (const sInstructionGroup_t& group : instructionGroups()) {
         for (const QString& word : group.words)
             menu->setEntry(QString("Instructions/%1/%2").arg(group.name, word), word, text);
     }

@@ -150,6 +150,7 @@ constexpr ProcTable table()
 }
 
 constexpr ProcTable lMico8v3x = table();
+static_assert(isConsistent(lMico8v3x), "settings with a row, fields that hold the registers");
 
 } // namespace
 

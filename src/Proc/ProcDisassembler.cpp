@@ -50,7 +50,7 @@ QString ProcDisassembler::text(int word, int address, const TargetName& targetNa
         QStringList operands;
         for (const sOperand_t& operand : pattern.operands)
             operands.append(operandText(operand, word, address, targetName));
-        const QString mnemonic = QLatin1String(mnemonicOfOpcode(pattern.opcode));
+        const QString mnemonic = mnemonicOfOpcode(pattern.opcode);
         return operands.isEmpty() ? mnemonic : mnemonic + ' ' + operands.join(QLatin1String(", "));
     }
     return QString();

@@ -134,4 +134,19 @@ constexpr bool coversInstrs(const sInstr_t (&rows)[N])
     return count[nsModAsmFe::ocUndefined] == 0;
 }
 
+/// Do the parts of a table fit together?
+constexpr bool isConsistent(const ProcTable& table)
+{
+    for (eSetting_t setting : table.storedSettings) {
+        if (table.setting(setting) == nullptr)
+            return false;
+    }
+    for (eSetting_t setting : table.fixedSettings) {
+        if (table.setting(setting) == nullptr)
+            return false;
+    }
+    const sInstrLayout_t& layout = table.layout;
+    return table.regs.count == 1 << layout.regBits && layout.dstShift >= layout.srcShift + layout.regBits;
+}
+
 } // namespace nsProc

@@ -1,6 +1,7 @@
 #include "Processor.h"
 
-#include "ProcTable.h"
+#include "ProcConfig.h"
+#include "ProcTables.h"
 
 #include "PrjSettings.h"
 
@@ -36,6 +37,18 @@ Processor::Processor(const ProcTable& table, ProcCoreConfig* run)
     , m_ownRun(m_settings)
     , m_run(run != nullptr ? run : &m_ownRun)
 {
+}
+
+std::unique_ptr<Processor> Processor::ofProject(PrjSettings* project)
+{
+    nsModProcessor::ProcConfig choice;
+    choice.rdProcConfig(project);
+    const ProcTable* table = procTable(choice.processor);
+    if (table == nullptr)
+        return nullptr;
+    auto processor = std::make_unique<Processor>(*table);
+    processor->readSettings(project);
+    return processor;
 }
 
 void Processor::setSettings(const ProcCoreConfig& settings)

@@ -4,6 +4,8 @@
 #include "ProcBackEnd.h"
 #include "ProcCoreConfig.h"
 
+#include <memory>
+
 class PrjSettings;
 
 namespace nsProc {
@@ -21,6 +23,9 @@ public:
     /// @param run where the settings of the run are kept, with those of the table at the start; null: in the processor.
     /// Not owned
     explicit Processor(const ProcTable& table, ProcCoreConfig* run = nullptr);
+
+    /// The processor that the project has chosen, with the project's settings; null if it has chosen none.
+    static std::unique_ptr<Processor> ofProject(PrjSettings* project);
 
     const ProcTable& table() const { return m_backEnd.table(); }
     /// As the project stores them.

@@ -89,6 +89,7 @@ constexpr ProcTable table()
 }
 
 constexpr ProcTable xpBlze3 = table();
+static_assert(isConsistent(xpBlze3), "settings with a row, fields that hold the registers");
 
 } // namespace
 

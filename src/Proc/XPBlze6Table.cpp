@@ -120,6 +120,7 @@ constexpr ProcTable table()
 }
 
 constexpr ProcTable xpBlze6 = table();
+static_assert(isConsistent(xpBlze6), "settings with a row, fields that hold the registers");
 
 } // namespace
 

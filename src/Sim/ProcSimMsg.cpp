@@ -2,18 +2,20 @@
 
 #include <QtGlobal>
 
+#include <iterator>
+
 namespace nsProc {
 
 namespace {
 
 // The context of the translation is the class that shows the messages.
-#define NALVO_MSG(key, text)                                                                                           \
+#define NALVO_MSG(type, text)                                                                                          \
     {                                                                                                                  \
-#key, QT_TRANSLATE_NOOP("nsProc::ProcSim", text)                                                               \
+        type, #type, QT_TRANSLATE_NOOP("nsProc::ProcSim", text)                                                        \
     }
 
 /// Indexed by eSimMsg_t.
-const sSimMsg_t simMsgs[eSimMsgCount] = {
+constexpr sSimMsg_t simMsgs[] = {
     NALVO_MSG(errNoOpcodeToExec, "No command to execute!"),
     NALVO_MSG(errNoOpcodeAtIntVect, "No instruction at interrupt vector: %1"),
     NALVO_MSG(errNoOpcodeAssembled, "Need successfull assembled code for simulation."),
@@ -33,6 +35,16 @@ const sSimMsg_t simMsgs[eSimMsgCount] = {
     NALVO_MSG(errPcNoPrjFile, "The current file not part of the project."),
     NALVO_MSG(warnIODevNoPort, "The address of IO device %1 does not fit into 16 bits. It answers at no port."),
 };
+
+constexpr bool isEachAtItsPlace()
+{
+    for (int i = 0; i < eSimMsgCount; ++i) {
+        if (simMsgs[i].type != i)
+            return false;
+    }
+    return true;
+}
+static_assert(std::size(simMsgs) == eSimMsgCount && isEachAtItsPlace(), "the rows are indexed by eSimMsg_t");
 
 } // namespace
 

@@ -27,6 +27,7 @@ enum eSimMsg_t {
 /// One row of the catalogue.
 struct sSimMsg_t
 {
+    eSimMsg_t type;
     const char* key;  ///< also the anchor in the simulator's help page
     const char* text; ///< with the place %1
 };

@@ -1,8 +1,6 @@
 #include "BatchProject.h"
 
 #include "AsmProjectInfo.h"
-#include "ProcConfig.h"
-#include "ProcTables.h"
 
 namespace nsBatch {
 
@@ -29,12 +27,7 @@ bool BatchProject::open(const QString& file)
     if (!m_project.open(file, &m_msg))
         return false;
     m_sources.rdSourcesConfig(&m_project, &m_msg);
-    nsModProcessor::ProcConfig choice;
-    choice.rdProcConfig(&m_project);
-    if (const nsProc::ProcTable* table = nsProc::procTable(choice.processor)) {
-        m_processor = std::make_unique<nsProc::Processor>(*table);
-        m_processor->readSettings(&m_project);
-    }
+    m_processor = nsProc::Processor::ofProject(&m_project);
     m_assembler.setBackend(m_processor.get());
     m_config.rdAsmFeConfig(&m_project);
     m_assembler.charsets().setupDefaultCodec(m_config.defaultCharset);

@@ -24,13 +24,16 @@ bool isHexDigit(char c)
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-/// Finds the last token of a kind in a line: the prefix in any case, hexadecimal digits and a closing brace.
+/// Finds the last token of a kind in a line: the prefix, which begins with a brace, in any case, hexadecimal digits and
+/// a closing brace.
 /// @param digits whether digits stand between prefix and brace
 /// @return the token as written, empty if there is none
 QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
 {
     const int prefixLength = int(std::strlen(prefix));
-    for (int pos = line.size() - prefixLength - 1; pos >= 0; --pos) {
+    // Every prefix begins with a brace, of which a line has few.
+    int pos = line.size() - prefixLength - 1;
+    for (; pos >= 0 && (pos = line.lastIndexOf('{', pos)) >= 0; --pos) {
         if (qstrnicmp(line.constData() + pos, prefix, uint(prefixLength)) != 0)
             continue;
         int end = pos + prefixLength;

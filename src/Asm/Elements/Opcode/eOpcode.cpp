@@ -2,7 +2,6 @@
 
 #include <QHash>
 
-#include <array>
 #include <iterator>
 
 namespace nsModAsmFe {
@@ -69,24 +68,6 @@ constexpr bool isEachAtItsPlace()
 }
 static_assert(std::size(rows) == ocCount && isEachAtItsPlace(), "the rows are indexed by eOpcode_t");
 
-struct sMnemonic_t
-{
-    char text[8] = {};
-};
-
-constexpr std::array<sMnemonic_t, ocCount> upperCaseWords()
-{
-    std::array<sMnemonic_t, ocCount> result = {};
-    for (size_t opcode = 0; opcode < ocCount; ++opcode) {
-        const char* word = rows[opcode].word;
-        for (int i = 0; word[i] != '\0'; ++i)
-            result[opcode].text[i] = word[i] >= 'a' && word[i] <= 'z' ? char(word[i] - 'a' + 'A') : word[i];
-    }
-    return result;
-}
-
-constexpr std::array<sMnemonic_t, ocCount> mnemonics = upperCaseWords();
-
 bool isOpcode(eOpcode_t opcode)
 {
     return opcode >= ocUndefined && opcode < ocCount;
@@ -99,15 +80,15 @@ eOpcode_t opcodeOfMnemonic(const QString& mnemonic)
     static const QHash<QString, eOpcode_t> opcodes = [] {
         QHash<QString, eOpcode_t> hash;
         for (int i = ocUndefined + 1; i < ocCount; ++i)
-            hash.insert(QString::fromLatin1(mnemonics[size_t(i)].text), eOpcode_t(i));
+            hash.insert(mnemonicOfOpcode(eOpcode_t(i)), eOpcode_t(i));
         return hash;
     }();
     return opcodes.value(mnemonic, ocUndefined);
 }
 
-const char* mnemonicOfOpcode(eOpcode_t opcode)
+QString mnemonicOfOpcode(eOpcode_t opcode)
 {
-    return isOpcode(opcode) ? mnemonics[opcode].text : "";
+    return QString::fromLatin1(wordOfOpcode(opcode)).toUpper();
 }
 
 const char* wordOfOpcode(eOpcode_t opcode)

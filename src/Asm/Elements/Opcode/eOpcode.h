@@ -51,7 +51,7 @@ enum eOpcode_t {
 /// The opcode of a mnemonic in upper case, ocUndefined if there is none.
 eOpcode_t opcodeOfMnemonic(const QString& mnemonic);
 /// The mnemonic of an opcode in upper case, empty for ocUndefined.
-const char* mnemonicOfOpcode(eOpcode_t opcode);
+QString mnemonicOfOpcode(eOpcode_t opcode);
 /// The mnemonic as lists of words show it, such as "regBank"; empty for ocUndefined.
 const char* wordOfOpcode(eOpcode_t opcode);
 /// The word that names the opcode in debug output, such as "rdMem".
