@@ -1,5 +1,6 @@
 #include "TargetFileWriteHdl.h"
 
+#include "HexText.h"
 #include "IODev.h"
 #include "MetaTags.h"
 
@@ -43,11 +44,6 @@ QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
             return line.mid(pos, end + 1 - pos);
     }
     return QByteArray();
-}
-
-void appendDigit(QByteArray* text, unsigned int value)
-{
-    text->append("0123456789ABCDEF"[value & 0xf]);
 }
 
 const int digitsPerBlock = 64;
@@ -130,6 +126,9 @@ void TargetFileWriteHdl::fillLine(QByteArray* line, const TargetFile& target, co
     static const sBlock_t initPL = {"{[8:0]_INITP_", &TargetFileWriteHdl::getVhdlInitPL};
     if (!fillBlock(line, init))
         fillBlock(line, initP);
+    // Most lines hold one token, which is filled now.
+    if (!line->contains('{'))
+        return;
     if (!fillBlock(line, initH))
         fillBlock(line, initHP);
     if (!fillBlock(line, initL) && !fillBlock(line, initPL))
@@ -177,6 +176,7 @@ void TargetFileWriteHdl::signWarningStuffingMemory()
 
 /// @param words words in a block
 /// @param wordsPerStep words that one call of `digits` takes, from the address that it gets downwards
+/// @param digits writes its digits at a place in the text, and returns the place after them
 template <class Digits>
 QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerStep, Digits digits)
 {
@@ -185,57 +185,62 @@ QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerSte
         signWarningStuffingMemory();
         return QByteArray(digitsPerBlock, '0');
     }
-    QByteArray text;
-    text.reserve(digitsPerBlock);
+    QByteArray text(digitsPerBlock, Qt::Uninitialized);
+    char* place = text.data();
     for (int addr = int(first) + words - 1; addr >= int(first); addr -= wordsPerStep)
-        digits(&text, addr);
+        place = digits(place, addr);
     return text;
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInit(qint64 index)
 {
-    return getBlock(index, 16, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 16, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr);
         for (int shift = 12; shift >= 0; shift -= 4)
-            appendDigit(text, value >> shift);
+            *place++ = hexDigit(value >> shift);
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitP(qint64 index)
 {
-    return getBlock(index, 128, 2, [this](QByteArray* text, int addr) {
+    return getBlock(index, 128, 2, [this](char* place, int addr) {
         const unsigned int high = getOpcode(addr);
         const unsigned int low = getOpcode(addr - 1);
-        appendDigit(text, ((low >> 16) & 3u) | ((high >> 14) & 12u));
+        *place++ = hexDigit(((low >> 16) & 3u) | ((high >> 14) & 12u));
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitL(qint64 index)
 {
-    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 32, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr);
-        appendDigit(text, value >> 4);
-        appendDigit(text, value);
+        *place++ = hexDigit(value >> 4);
+        *place++ = hexDigit(value);
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitH(qint64 index)
 {
-    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 32, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr) >> 9;
-        appendDigit(text, value >> 4);
-        appendDigit(text, value);
+        *place++ = hexDigit(value >> 4);
+        *place++ = hexDigit(value);
+        return place;
     });
 }
 
 /// One bit of each of 256 words, four to a digit, the lowest address in the digit's lowest bit.
 QByteArray TargetFileWriteHdl::getParityBlock(qint64 index, int bit)
 {
-    return getBlock(index, 256, 4, [this, bit](QByteArray* text, int addr) {
+    return getBlock(index, 256, 4, [this, bit](char* place, int addr) {
         unsigned int digit = 0;
         for (int i = 0; i < 4; ++i)
             digit = (digit << 1) | ((getOpcode(addr - i) >> bit) & 1u);
-        appendDigit(text, digit);
+        *place++ = hexDigit(digit);
+        return place;
     });
 }
 
