@@ -55,15 +55,15 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     m_dev = dev;
     m_warnStuffing = true;
     m_dev->clearWritten();
-    const sTarget_t hdl = target(dev);
+    const TargetFile& hdl = dev->targets[kind()];
     if (!checkType(dev))
         return false;
     if (hdl.entityName.isEmpty())
-        return fail(errTargetNoEntityName, hdl.language, dev->devName);
+        return fail(errTargetNoEntityName, language(), dev->devName);
     if (hdl.templateFile.isEmpty())
-        return fail(errTargetNoTemplateFile, hdl.language, dev->devName);
+        return fail(errTargetNoTemplateFile, language(), dev->devName);
     if (hdl.outputFile.isEmpty())
-        return fail(errTargetNoOutputFile, hdl.language, dev->devName);
+        return fail(errTargetNoOutputFile, language(), dev->devName);
     if (!checkSize(dev))
         return false;
     // Reads the template before it opens the output, and refuses an output file that is the template.
@@ -76,7 +76,7 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     return writeBytes(hdl.outputFile, text, errTargetOpenDestination) && checkComplete();
 }
 
-bool TargetFileWriteHdl::fillTemplate(const sTarget_t& target, const MetaTags& metaTags, QByteArray* text)
+bool TargetFileWriteHdl::fillTemplate(const TargetFile& target, const MetaTags& metaTags, QByteArray* text)
 {
     QFile templ(target.templateFile);
     if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly))
@@ -114,7 +114,7 @@ bool TargetFileWriteHdl::fillBlock(QByteArray* line, const sBlock_t& block)
     return true;
 }
 
-void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+void TargetFileWriteHdl::fillLine(QByteArray* line, const TargetFile& target, const MetaTags& metaTags)
 {
     if (!line->contains('{'))
         return;
@@ -135,7 +135,7 @@ void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, con
         fillMetaTag(line, target, metaTags);
 }
 
-bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const TargetFile& target, const MetaTags& metaTags)
 {
     const struct
     {
