@@ -4,6 +4,7 @@
 #include "Encodings.h"
 #include "InstrSetTest.h"
 #include "ProcDisassembler.h"
+#include "ProcList.h"
 #include "ProcRun.h"
 #include "ProcTables.h"
 #include "Processor.h"
@@ -218,6 +219,8 @@ TEST_F(ProcessorTest, EachHasItsNamesAndKeepsItsSettings)
     }
     EXPECT_EQ(names, QStringList({"Lattice Mico8 v3.x", "Xilinx PicoBlaze 6", "Xilinx PicoBlaze 3"}));
     EXPECT_EQ(nsProc::procTable("PicoBlaze"), nullptr);
+    names.sort();
+    EXPECT_EQ(nsModProcessor::ProcList().nameList(), names) << "each table has a shell";
 }
 
 /// Settings that only write down which keys are written.
