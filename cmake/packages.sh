@@ -2,7 +2,7 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev libgtest-dev libgmock-dev"
 NALVO_RUN_PACKAGES="fonts-dejavu-core"
-NALVO_TEST_PACKAGES="ghdl iverilog"
+NALVO_TEST_PACKAGES="ghdl iverilog clang-format"
 
 # need_packages NAME ...
 need_packages() {

@@ -1,6 +1,7 @@
 #include "AsmFeConfig.h"
 
 #include "PrjSettings.h"
+#include "TargetKinds.h"
 
 namespace nsModAsmFe {
 
@@ -43,21 +44,20 @@ struct Writer
 };
 
 template <class Access, class Config>
-void targetItems(Access& access, const QString& key, Config& config)
+void targetItems(Access& access, const sTargetKind_t& kind, Config& config)
 {
+    const QString key = QLatin1String("AsmFe/target/") + QLatin1String(kind.key);
     access.item(key + "/en", config.en);
     access.item(key + "/writeFileEventBut1", config.writeFileEventBut1);
     access.item(key + "/writeFileEventBut2", config.writeFileEventBut2);
     access.item(key + "/writeFileEventSave", config.writeFileEventSave);
-}
-
-template <class Access, class Config>
-void hdlItems(Access& access, const QString& key, Config& config)
-{
-    targetItems(access, key, config);
-    access.item(key + "/entityName", config.entityName);
-    access.path(key + "/templateFile", config.templateFile);
+    if (kind.hasTemplate) {
+        access.item(key + "/entityName", config.entityName);
+        access.path(key + "/templateFile", config.templateFile);
+    }
     access.path(key + "/outputFile", config.outputFile);
+    if (kind.hasGapStuffing)
+        access.item(key + "/gapStuffingEn", config.gapStuffingEn);
 }
 
 template <class Access, class Config>
@@ -67,13 +67,8 @@ void allItems(Access access, Config& config)
     access.choice("AsmFe/behavior/charset", config.behaviorCharset, AsmFeConfig::charsetSilent);
     access.choice("AsmFe/behavior/equ", config.behaviorEqu, AsmFeConfig::equSilent);
     access.choice("AsmFe/behavior/set", config.behaviorSet, AsmFeConfig::setSilent);
-    hdlItems(access, "AsmFe/target/vhdl", config.targetVhdl);
-    hdlItems(access, "AsmFe/target/verilog", config.targetVerilog);
-    targetItems(access, "AsmFe/target/hex", config.targetHex);
-    access.path("AsmFe/target/hex/outputFile", config.targetHex.outputFile);
-    targetItems(access, "AsmFe/target/mem", config.targetMem);
-    access.path("AsmFe/target/mem/outputFile", config.targetMem.outputFile);
-    access.item("AsmFe/target/mem/gapStuffingEn", config.targetMem.gapStuffingEn);
+    for (const sTargetKind_t& kind : targetKinds())
+        targetItems(access, kind, config.targets[kind.kind]);
 }
 
 } // namespace

@@ -3,8 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-/// The settings of the open project, as their readers and writers see them: values under keys such as "AsmFe/behavior/equ",
-/// and paths, which are stored relative to the project's folder.
+/// The settings of the open project, as their readers and writers see them: values under keys such as
+/// "AsmFe/behavior/equ", and paths, which are stored relative to the project's folder.
 class PrjSettings
 {
 public:

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModAsmFe {
 
 /// The assembler's entries in menu and tool bar.
-class AsmFeActions : public QActionGroup
+class AsmFeActions : public ActionGroup
 {
     Q_OBJECT
 
@@ -15,19 +14,11 @@ public:
 
     explicit AsmFeActions(QObject* parent);
 
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-    QList<QAction*> menuActions() const;
-    QList<QAction*> toolBarActions() const;
-
 signals:
     void triggered(nsModAsmFe::AsmFeActions::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    QAction* add(eAction_t action, const QString& text, const QString& toolTip, const QString& icon);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModAsmFe

@@ -92,12 +92,14 @@ void ModClipboard::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*,
 
 QList<QAction*> ModClipboard::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassEdit && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
 
 QList<QAction*> ModClipboard::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassEdit && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
 }
 
 void ModClipboard::handleAction(ClipboardActions::eAction_t action)

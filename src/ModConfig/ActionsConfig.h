@@ -1,14 +1,11 @@
 #pragma once
 
-#include "ModActionHookIf.h"
-
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModConfig {
 
 /// The entry that opens the configuration dialog.
-class ActionsConfig : public QActionGroup
+class ActionsConfig : public ActionGroup
 {
     Q_OBJECT
 
@@ -18,19 +15,11 @@ public:
 
     explicit ActionsConfig(QObject* parent = nullptr);
 
-    /// All actions, or one of them.
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-
-    /// Owned by the group; empty for the classes that it has nothing for.
-    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
-    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) const;
-
 signals:
     void triggered(nsModConfig::ActionsConfig::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModConfig

@@ -329,7 +329,7 @@ void ModConfig::hndlEventCancel()
     closeDialog(false);
 }
 
-void ModConfig::hndlAction(ActionsConfig::eAction_t)
+void ModConfig::handleActions(ActionsConfig::eAction_t)
 {
     openDialog();
 }
@@ -345,7 +345,7 @@ void ModConfig::modInit()
 {
     m_actions = new ActionsConfig(this);
     connect(m_actions, QOverload<ActionsConfig::eAction_t>::of(&ActionsConfig::triggered), this,
-            &ModConfig::hndlAction);
+            &ModConfig::handleActions);
 }
 
 void ModConfig::modInitIntermod()
@@ -421,12 +421,14 @@ void ModConfig::setDockRightVisible(bool visible)
 
 QList<QAction*> ModConfig::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassConfiguration && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
 
 QList<QAction*> ModConfig::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassConfiguration && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
 }
 
 } // namespace nsModConfig

@@ -83,7 +83,7 @@ public:
     QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
 
 private slots:
-    void hndlAction(nsModConfig::ActionsConfig::eAction_t action);
+    void handleActions(nsModConfig::ActionsConfig::eAction_t action);
     void hndlEventSetDefault();
     void hndlEventRestore();
     void hndlEventClose();

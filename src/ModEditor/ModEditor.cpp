@@ -9,6 +9,7 @@
 #include "EditorSyntaxHighlighterConfig.h"
 #include "EditorTipManager.h"
 #include "EditorWidget.h"
+#include "EditorWidgetLeftMargin.h"
 
 #include "ModCfgAppHookIf.h"
 #include "ModEditorPluginIf.h"
@@ -389,11 +390,11 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
     widget->setSelectionHighlightEn(highlightSelectionEn);
     widget->setCursorBgColor(cursorBgColor);
     widget->setHighlightBgColor(highlightBgColor);
-    widget->setLeftMarginBgColor(leftMarginBgColor);
-    widget->setLeftMarginFgColor(leftMarginFgColor);
-    widget->setSimBreakpointSymbolColor(simBreakpointSymbolColor);
-    widget->setSimStartPointerSymbolColor(simStartAddressSymbolColor);
-    widget->setBookmarkSymbolColor(bookmarkSymbolColor);
+    widget->leftMargin()->setBgColor(leftMarginBgColor);
+    widget->leftMargin()->setFgColor(leftMarginFgColor);
+    widget->leftMargin()->setBreakpointColor(simBreakpointSymbolColor);
+    widget->leftMargin()->setStartPointerColor(simStartAddressSymbolColor);
+    widget->leftMargin()->setBookmarkColor(bookmarkSymbolColor);
     widget->setMemPageAddrEn(memPageAddrEn == memPageAddrOn || (memPageAddrEn == memPageAddrSimOnly && m_simEnabled));
     widget->rehighlight();
 }

@@ -1,15 +1,11 @@
 #pragma once
 
-#include "ModActionHookIf.h"
-
-#include <QActionGroup>
-#include <QKeySequence>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModFindReplace {
 
 /// The entries of find and replace in the menu "Edit".
-class FindReplaceActions : public QActionGroup
+class FindReplaceActions : public ActionGroup
 {
     Q_OBJECT
 
@@ -18,21 +14,14 @@ public:
 
     explicit FindReplaceActions(QObject* parent);
 
-    /// All actions, or one of them.
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-
-    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
-    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) const;
+    /// None: the bar has buttons of its own.
+    QList<QAction*> toolBarActions() const override { return {}; }
 
 signals:
     void triggered(nsModFindReplace::FindReplaceActions::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    void add(eAction_t id, const QString& text, QKeySequence::StandardKey key, const QString& icon);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModFindReplace

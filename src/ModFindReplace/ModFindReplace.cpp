@@ -281,12 +281,14 @@ void ModFindReplace::replaceAll()
 
 QList<QAction*> ModFindReplace::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassEdit && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
 
 QList<QAction*> ModFindReplace::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassEdit && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
 }
 
 void ModFindReplace::handleActions(FindReplaceActions::eAction_t action)

@@ -1,14 +1,11 @@
 #pragma once
 
-#include "ModActionHookIf.h"
-
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModGui {
 
 /// The actions of the main window itself.
-class GuiActions : public QActionGroup
+class GuiActions : public ActionGroup
 {
     Q_OBJECT
 
@@ -17,18 +14,14 @@ public:
 
     explicit GuiActions(QObject* parent);
 
-    /// All actions, or one of them.
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-
-    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
-    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) const;
+    /// None: it is rarely needed.
+    QList<QAction*> toolBarActions() const override { return {}; }
 
 signals:
     void triggered(nsModGui::GuiActions::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModGui

@@ -470,12 +470,14 @@ void ModGui::modExit()
 
 QList<QAction*> ModGui::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->menuActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassHelp && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
 
 QList<QAction*> ModGui::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    return m_actions != nullptr ? m_actions->toolBarActions(actionClass) : QList<QAction*>();
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassHelp && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
 }
 
 void ModGui::handleActions(GuiActions::eAction_t action)

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModPrj {
 
 /// The project's entries in menu and tool bar.
-class PrjActions : public QActionGroup
+class PrjActions : public ActionGroup
 {
     Q_OBJECT
 
@@ -16,23 +15,15 @@ public:
 
     explicit PrjActions(QObject* parent = nullptr);
 
-    /// All actions at once.
-    void setEnabled(bool enabled);
-    /// One action.
-    void setEnabled(eAction_t action, bool enabled);
-
-    /// In the order of menu and tool bar; owned by the group.
-    QList<QAction*> menuActions() const;
-    QList<QAction*> toolBarActions() const;
+    using ActionGroup::setEnabled;
+    /// All entries at once. One that was disabled by itself stays so.
+    void setEnabled(bool enabled) { QActionGroup::setEnabled(enabled); }
 
 signals:
     void triggered(nsModPrj::PrjActions::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    void add(eAction_t action, const QString& text, const QString& toolTip, const QString& icon);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModPrj

@@ -101,10 +101,10 @@ TEST_F(Margin, AnEmptyDocumentShowsNumberOne)
 TEST_F(Margin, SymbolsHaveTheirPlacesAndColours)
 {
     editor->setText(numberedLines(5));
-    editor->setLeftMarginBgColor(Qt::white);
-    editor->setSimStartPointerSymbolColor(QColor(1, 2, 250));
-    editor->setSimBreakpointSymbolColor(QColor(250, 2, 1));
-    editor->setBookmarkSymbolColor(QColor(1, 250, 2));
+    editor->leftMargin()->setBgColor(Qt::white);
+    editor->leftMargin()->setStartPointerColor(QColor(1, 2, 250));
+    editor->leftMargin()->setBreakpointColor(QColor(250, 2, 1));
+    editor->leftMargin()->setBookmarkColor(QColor(1, 250, 2));
     editor->setSimBreakpoint(1);
     editor->setSimBreakpoint(2);
     editor->setSimStartPointer(2);
@@ -131,7 +131,7 @@ TEST_F(Margin, SymbolsHaveTheirPlacesAndColours)
 TEST_F(Margin, ColumnsAreSetApartByLines)
 {
     editor->setText("one");
-    editor->setLeftMarginFgColor(QColor(200, 0, 100));
+    editor->leftMargin()->setFgColor(QColor(200, 0, 100));
     EXPECT_EQ(marginImage().pixelColor(19, 200), QColor(200, 0, 100)); // line numbers
     editor->setMemPageAddrEn(true);
     EXPECT_EQ(marginImage().pixelColor(19, 200), QColor(200, 0, 100));
@@ -327,7 +327,7 @@ TEST_F(Margin, TheMenuNamesWhatItDoes)
 TEST_F(Margin, TheMenuShowsTheColours)
 {
     editor->setText("one");
-    editor->setBookmarkSymbolColor(Qt::blue);
+    editor->leftMargin()->setBookmarkColor(Qt::blue);
     QList<QColor> colors;
     MenuHelper helper([&](QMenu* menu) {
         for (const int entry : {0, 4, 7}) {
@@ -443,7 +443,7 @@ protected:
         map->addItem(1, 0, 0x200);
         editor->setFilePath("/p/a.psm");
         editor->setText(numberedLines(8));
-        editor->setLeftMarginFgColor(Qt::black);
+        editor->leftMargin()->setFgColor(Qt::black);
         editor->setMemPageAddrEn(true);
     }
     int shown(int line) const { return darkPixels(editor->symbolMarginWidth() + 1, numberX(), line); }

@@ -220,6 +220,34 @@ TEST_F(ProcessorTest, EachHasItsNamesAndKeepsItsSettings)
     EXPECT_EQ(nsProc::procTable("PicoBlaze"), nullptr);
 }
 
+/// Settings that only write down which keys are written.
+class KeyLog : public FakePrjHook
+{
+public:
+    using FakePrjHook::setValue;
+    void setValue(QString key, QString) override { keys.append(key); }
+    void setValue(QString key, int) override { keys.append(key); }
+
+    QStringList keys;
+};
+
+TEST_F(ProcessorTest, WritesItsKeysInTheOrderOfTheFile)
+{
+    const QHash<QString, QString> expected = {
+        {"XPBlze3", "clkFreq memMap/pageSize"},
+        {"XPBlze6", "scrpdSize intVectorAddr clkFreq memMap/pageSize"},
+        {"LMico8v3x", "scrpdSize clkFreq instrClkCnt regCount memMap/pageSize"},
+    };
+    for (const ProcTable* table : nsProc::procTables()) {
+        KeyLog log;
+        Processor(*table).writeSettings(&log);
+        QStringList keys;
+        for (const QString& key : expected.value(table->cfgSection).split(' '))
+            keys.append(QString(table->cfgSection) + '/' + key);
+        EXPECT_EQ(log.keys, keys);
+    }
+}
+
 TEST_F(ProcessorTest, OfAProject)
 {
     FakePrjHook prj;

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QKeySequence>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModEditor {
 
@@ -10,7 +8,7 @@ namespace nsModEditor {
 ///
 /// The shortcuts work in the widgets that have the actions, and in their children; an action that is only in the menu
 /// has no working shortcut.
-class EditorActionsEdit : public QActionGroup
+class EditorActionsEdit : public ActionGroup
 {
     Q_OBJECT
 
@@ -30,21 +28,14 @@ public:
 
     explicit EditorActionsEdit(QObject* parent);
 
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-    QList<QAction*> menuActions() const;
-    QList<QAction*> toolBarActions() const;
+    /// The first two.
+    QList<QAction*> toolBarActions() const override { return actions().mid(0, 2); }
 
 signals:
     void triggered(nsModEditor::EditorActionsEdit::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    QAction* add(eAction_t action, const QString& text, const QString& toolTip, const QString& icon,
-                 const QList<QKeySequence>& keys);
-    void addSeparator();
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModEditor

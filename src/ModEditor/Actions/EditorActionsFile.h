@@ -1,13 +1,11 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QKeySequence>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModEditor {
 
 /// What can be done with files, in menu and tool bar.
-class EditorActionsFile : public QActionGroup
+class EditorActionsFile : public ActionGroup
 {
     Q_OBJECT
 
@@ -28,21 +26,14 @@ public:
 
     explicit EditorActionsFile(QObject* parent);
 
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-    QList<QAction*> menuActions() const;
-    QList<QAction*> toolBarActions() const;
+    /// The first two.
+    QList<QAction*> toolBarActions() const override { return actions().mid(0, 2); }
 
 signals:
     void triggered(nsModEditor::EditorActionsFile::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    QAction* add(eAction_t action, const QString& text, const QString& toolTip, const QString& icon,
-                 QKeySequence::StandardKey key = QKeySequence::UnknownKey);
-    void addSeparator();
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModEditor

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsModEditor {
 
 /// What can be done with the simulator's marks of all documents, in the menu.
-class EditorActionsSim : public QActionGroup
+class EditorActionsSim : public ActionGroup
 {
     Q_OBJECT
 
@@ -15,20 +14,14 @@ public:
 
     explicit EditorActionsSim(QObject* parent);
 
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
-    QList<QAction*> menuActions() const;
     /// There is none.
-    QList<QAction*> toolBarActions() const;
+    QList<QAction*> toolBarActions() const override { return {}; }
 
 signals:
     void triggered(nsModEditor::EditorActionsSim::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    QAction* add(eAction_t action, const QString& text);
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsModEditor

@@ -2,6 +2,8 @@
 
 #include "MyNoticeBar.h"
 
+#include <QAction>
+#include <QApplication>
 #include <QEvent>
 #include <QVBoxLayout>
 
@@ -13,6 +15,11 @@ EditorNotices::EditorNotices(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
+    auto* focus = new QAction(tr("Go to the notice"), parent);
+    focus->setShortcut(QKeySequence(QStringLiteral("F6")));
+    focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);
+    connect(focus, &QAction::triggered, this, &EditorNotices::switchFocus);
+    parent->addAction(focus);
 }
 
 void EditorNotices::add(MyNoticeBar* bar)
@@ -38,12 +45,13 @@ int EditorNotices::heightFor(int width) const
     return layout()->hasHeightForWidth() ? layout()->totalHeightForWidth(width) : layout()->totalSizeHint().height();
 }
 
-bool EditorNotices::focusFirst()
+void EditorNotices::switchFocus()
 {
     MyNoticeBar* bar = firstBar();
-    if (bar != nullptr)
+    if (bar == nullptr || isAncestorOf(QApplication::focusWidget()))
+        parentWidget()->setFocus(Qt::ShortcutFocusReason);
+    else
         bar->firstControl()->setFocus(Qt::ShortcutFocusReason);
-    return bar != nullptr;
 }
 
 bool EditorNotices::event(QEvent* event)

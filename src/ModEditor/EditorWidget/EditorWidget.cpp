@@ -7,9 +7,11 @@
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
+#include "LineCommands.h"
+#include "TextCompletion.h"
+#include "WordMarks.h"
 
 #include <QAction>
-#include <QCompleter>
 #include <QContextMenuEvent>
 #include <QFontInfo>
 #include <QKeyEvent>
@@ -18,7 +20,6 @@
 #include <QPlainTextDocumentLayout>
 #include <QStringListModel>
 #include <QTextBlock>
-#include <QTimer>
 #include <QUrl>
 #include <QWheelEvent>
 
@@ -66,17 +67,18 @@ void acceptAsCopy(QDropEvent* event)
 EditorWidget::EditorWidget(QWidget* parent)
     : QPlainTextEdit(parent)
     , m_textDocument(new QTextDocument(this))
-    , m_rehighlightTimer(new QTimer(this))
+    , m_lineHighlights(this)
 {
     m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
+    m_wordMarks = new WordMarks(this, m_syntaxHighlighter);
     setDocument(m_textDocument);
     m_baseFontSize = QFontInfo(font()).pointSize();
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    initCompleter();
+    m_completion = new TextCompletion(this);
 
-    connect(this, SIGNAL(selectionChanged()), this, SLOT(highlightSelection()));
+    connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
     connect(m_textDocument, SIGNAL(undoAvailable(bool)), this, SLOT(setActionChanged()));
     connect(m_textDocument, SIGNAL(redoAvailable(bool)), this, SLOT(setActionChanged()));
@@ -84,8 +86,12 @@ EditorWidget::EditorWidget(QWidget* parent)
     // The keys for undo call the text edit directly, not undo() of this class.
     connect(m_textDocument, SIGNAL(modificationChanged(bool)), this, SLOT(setModified()));
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(setMemPageAddrInvalid(int)));
-    initLeftMargin();
-    initHighlighting();
+    m_leftMargin = new EditorWidgetLeftMargin(this);
+    connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(updateLeftMarginWidth()));
+    connect(this, SIGNAL(updateRequest(QRect, int)), this, SLOT(updateLeftMargin(QRect, int)));
+    updateLeftMarginWidth();
+    connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { m_lineHighlights.followCursor(); });
+    m_lineHighlights.followCursor();
     calculateTabWidth();
 }
 
@@ -97,16 +103,7 @@ EditorWidget::~EditorWidget()
     // The slots must not be called while the base class is being destroyed.
     m_textDocument->disconnect(this);
     disconnect(this);
-}
-
-void EditorWidget::initCompleter()
-{
-    m_completer = new QCompleter(this);
-    m_completer->setWidget(this);
-    m_completer->setCaseSensitivity(Qt::CaseSensitive);
-    m_completer->setWrapAround(false);
-    m_completer->setCompletionMode(QCompleter::PopupCompletion);
-    connect(m_completer, SIGNAL(activated(QString)), this, SLOT(insertCompletion(QString)));
+    disconnect(m_wordMarks);
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -126,46 +123,35 @@ void EditorWidget::setSupportMenu(EditorSupportMenu* menu)
 
 void EditorWidget::setTextCompletionList(QStringListModel* words)
 {
-    m_completer->setModel(words);
+    m_completion->setWords(words);
 }
 
 void EditorWidget::setTextCompletionEn(bool enabled)
 {
-    m_textCompletionEn = enabled;
+    m_completion->setEnabled(enabled);
 }
 
 void EditorWidget::setTextCompleterPrefixLength(int length)
 {
-    m_textCompleterPrefixLength = length;
+    m_completion->setPrefixLength(length);
 }
 
 void EditorWidget::setTextCompleterItemCount(int count)
 {
-    m_completer->setMaxVisibleItems(qMax(count, 1));
-}
-
-void EditorWidget::insertCompletion(const QString& completion)
-{
-    if (isReadOnly())
-        return;
-    QTextCursor cursor = textCursor();
-    cursor.movePosition(QTextCursor::Left);
-    cursor.movePosition(QTextCursor::EndOfWord);
-    cursor.insertText(completion.mid(m_completer->completionPrefix().length()));
-    setTextCursor(cursor);
+    m_completion->setItemCount(count);
 }
 
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
     // They are breakpoints of another file now.
-    if (!m_simBreakpoints.lines().isEmpty())
+    if (!m_marks.simBreakpoints.lines().isEmpty())
         emit simBreakpointChanged();
 }
 
 void EditorWidget::setText(const QString& text)
 {
-    const int flaggedLine = m_highlightSelection.cursor.blockNumber();
+    const int flaggedLine = m_lineHighlights.isFlagged() ? m_lineHighlights.flaggedLine() : -1;
     m_settingText = true;
     setUpdatesEnabled(false);
     setPlainText(text);
@@ -173,11 +159,7 @@ void EditorWidget::setText(const QString& text)
     m_textDocument->setModified(false);
     moveCursor(QTextCursor::Start);
     // The flag keeps its line number, like the marks.
-    const QTextBlock flagged = m_textDocument->findBlockByNumber(flaggedLine);
-    m_lineHighlightEn = m_lineHighlightEn && flagged.isValid();
-    if (m_lineHighlightEn)
-        m_highlightSelection.cursor = QTextCursor(flagged);
-    setHighlightLinesToEditor();
+    m_lineHighlights.flag(flaggedLine);
     setUpdatesEnabled(true);
     m_settingText = false;
     m_reportedModified = false;
@@ -264,8 +246,42 @@ sPrintJob EditorWidget::printJob(const QString& name, bool selectionOnly) const
 
 void EditorWidget::rehighlight()
 {
-    m_rehighlightTimer->stop();
-    m_syntaxHighlighter->rehighlight();
+    m_wordMarks->rehighlight();
+}
+
+void EditorWidget::indent()
+{
+    LineCommands(this).indent();
+}
+
+void EditorWidget::deindent()
+{
+    LineCommands(this).deindent();
+}
+
+void EditorWidget::commentOut()
+{
+    LineCommands(this).commentOut();
+}
+
+void EditorWidget::commentIn()
+{
+    LineCommands(this).commentIn();
+}
+
+void EditorWidget::duplicateLine()
+{
+    LineCommands(this).duplicateLine();
+}
+
+void EditorWidget::moveLineUp()
+{
+    LineCommands(this).moveLineUp();
+}
+
+void EditorWidget::moveLineDown()
+{
+    LineCommands(this).moveLineDown();
 }
 
 void EditorWidget::setActionChanged()
@@ -320,11 +336,6 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
     m_autoReturnIndentEn = enabled;
 }
 
-bool EditorWidget::event(QEvent* event)
-{
-    return QPlainTextEdit::event(event);
-}
-
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
@@ -350,11 +361,6 @@ void EditorWidget::dropEvent(QDropEvent* event)
     }
     acceptAsCopy(event);
     emit filesDropped(paths);
-}
-
-void EditorWidget::mouseMoveEvent(QMouseEvent* event)
-{
-    QPlainTextEdit::mouseMoveEvent(event);
 }
 
 void EditorWidget::wheelEvent(QWheelEvent* event)

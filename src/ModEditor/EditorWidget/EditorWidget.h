@@ -2,6 +2,7 @@
 
 #include "DocumentFormat.h"
 #include "EditorMemPageAddrMap.h"
+#include "LineHighlights.h"
 #include "LineMarks.h"
 #include "PrintedPages.h"
 
@@ -9,16 +10,10 @@
 #include <QPlainTextEdit>
 #include <QPointer>
 
-#include <functional>
-
 class QAction;
-class QCompleter;
 class QHelpEvent;
 class QMenu;
-class QPainter;
 class QStringListModel;
-class QTextBlock;
-class QTimer;
 class MyNoticeBar;
 
 namespace nsModEditor {
@@ -29,6 +24,8 @@ class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
+class TextCompletion;
+class WordMarks;
 
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
 ///
@@ -109,19 +106,13 @@ public:
     void setCursorBgColor(const QColor& color);
     void setHighlightBgColor(const QColor& color);
 
-    // ---- Commands for lines (EditorWidgetLines.cpp); each is one step to undo
-    /// A tab at the cursor, or in place of a selection inside one line, or in front of each line of the selection.
+    // ---- Commands for lines, see LineCommands
     void indent();
-    /// Removes one blank or tab at the start of each line.
     void deindent();
-    /// A semicolon in front of each line; without a selection the cursor goes on to the next line.
     void commentOut();
-    /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
     void commentIn();
     void duplicateLine();
-    /// Exchanges the selected lines with the one above; nothing on the first line.
     void moveLineUp();
-    /// Exchanges the selected lines with the one below; nothing on the last line.
     void moveLineDown();
 
     // ---- Places (EditorWidgetPlaces.cpp)
@@ -149,8 +140,9 @@ public:
     /// Marks the word below the pointer wherever it occurs. @return true, the event is done
     bool handleTipEvent(QHelpEvent* event);
 
-    // ---- Marks (EditorWidgetMarks.cpp)
-    QList<int> simBreakpoints() const { return m_simBreakpoints.lines(); }
+    // ---- Marks (EditorWidgetMargin.cpp)
+    const sDocumentMarks_t& marks() const { return m_marks; }
+    QList<int> simBreakpoints() const { return m_marks.simBreakpoints.lines(); }
     /// Sets the breakpoint, or clears it where there is one.
     void setSimBreakpoint(int line);
     void clearSimBreakpoints();
@@ -159,7 +151,7 @@ public:
     /// @return false without a mark; *line is then unchanged
     bool simStartPointer(int* line) const;
     void clearSimStartPointer();
-    QList<int> bookmarks() const { return m_bookmarks.lines(); }
+    QList<int> bookmarks() const { return m_marks.bookmarks.lines(); }
     void setBookmark(int line);
     void clearBookmarks();
 
@@ -172,11 +164,6 @@ public:
     void setMemPageMaxAddr(int addr);
     /// Takes the document's addresses from the map. Not owned: before it is deleted, another one or null must be set.
     void setMemPageAddrMap(EditorMemPageAddrMap* map);
-    void setLeftMarginBgColor(const QColor& color);
-    void setLeftMarginFgColor(const QColor& color);
-    void setSimBreakpointSymbolColor(const QColor& color);
-    void setSimStartPointerSymbolColor(const QColor& color);
-    void setBookmarkSymbolColor(const QColor& color);
     int symbolMarginWidth() const;
     int memPageAddrMarginWidth() const;
     int lineNumberMarginWidth() const;
@@ -187,6 +174,12 @@ public:
     /// @param pos in the margin
     void showLeftMarginToolTip(const QPoint& pos);
     EditorWidgetLeftMargin* leftMargin() const { return m_leftMargin; }
+
+    // Where the lines are on the screen, for margin and marks.
+    using QPlainTextEdit::blockBoundingGeometry;
+    using QPlainTextEdit::blockBoundingRect;
+    using QPlainTextEdit::contentOffset;
+    using QPlainTextEdit::firstVisibleBlock;
 
 public slots:
     void undo();
@@ -207,65 +200,31 @@ signals:
     void filesDropped(const QStringList& paths);
 
 protected:
-    bool event(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private slots:
-    void highlightSelection();
-    void highlightCurrentLine();
     void setActionChanged();
     void setMemPageAddrInvalid(int blockCount);
-    void insertCompletion(const QString& completion);
     void updateLeftMarginWidth();
     void updateLeftMargin(const QRect& rect, int dy);
-    void showLeftMarginContextMenu(const QPoint& pos);
-    /// The menu of the margin for the line of the cursor, for those without a mouse.
-    void showLeftMarginContextMenuAtCursor();
     void layoutNotices();
-    void switchToNotices();
 
 private:
-    /// What a command does to one line. @param cursor anywhere in the line
-    /// @return change of the length of the line
-    using LineCommand = std::function<int(QTextCursor cursor)>;
-
-    void initCompleter();
-    void initHighlighting();
-    void initLeftMargin();
     void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
     void applyFont(const QFont& font);
-    void setSelectionMarks(const QString& text);
-    void rehighlightVisible();
-    void setHighlightLinesToEditor();
-
-    void forSelectedLines(const LineCommand& command);
-    void goToNextLine();
-    void exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up);
-    QTextBlock firstSelectedBlock() const;
-    QTextBlock lastSelectedBlock() const;
-    bool goToLabel(const QString& label, int line);
-
-    void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
-    void paintMemPageAddr(QPainter* painter, int top, int addr);
-    QIcon leftMarginContextMenuIconFromColor(const QColor& color) const;
-    void addMarginMenuEntries(QMenu* menu, int line);
-    void runLeftMarginContextMenu(int line, const QPoint& globalPos);
-
-    const int m_marginSpace = 2; ///< space between the columns of the margin, in pixels
 
     QTextDocument* m_textDocument;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
     EditorWidgetLeftMargin* m_leftMargin = nullptr;
-    QCompleter* m_completer = nullptr;
+    TextCompletion* m_completion = nullptr;
     QPointer<EditorSupportMenu> m_supportMenu;
     QPointer<EditorTipManager> m_tipManager;
     QString m_filePath;
@@ -279,35 +238,13 @@ private:
     int m_zoom = 0;         ///< points that the user has added
     int m_fontSize = 0;     ///< points, the sum of both
     bool m_autoReturnIndentEn = false;
-    bool m_textCompletionEn = false;
-    int m_textCompleterPrefixLength = 3;
 
     bool m_reportedModified = false; ///< value of isModified() that was reported last
     bool m_settingText = false;
 
-    QTextEdit::ExtraSelection m_highlightSelection;
-    QTextEdit::ExtraSelection m_cursorSelection;
-    QTextEdit::ExtraSelection m_spareSelection; ///< third colour, never shown
-    bool m_lineHighlightEn = false;
-    bool m_selectionHighlightEn = false;
-    QString m_markedText;       ///< what is marked wherever it occurs, empty for nothing
-    QTimer* m_rehighlightTimer; ///< delays marks of a selection in invisible lines of a large document
-
-    bool m_lineNumberEn = true;
-    bool m_memPageAddrEn = false;
-    int m_memPageAddrMaxAddr = 999;
-    int m_memPageAddrBase = 16;
-    EditorMemPageAddrMap* m_memPageAddrMap = nullptr;           ///< not owned; null without addresses of this file
-    EditorMemPageAddrMap::sItem_t* m_memPageAddrList = nullptr; ///< not owned
-    QColor m_leftMarginFgColor = Qt::black;
-    QColor m_leftMarginBgColor = QColor(0xEAE9E8);
-
-    LineMarks m_simBreakpoints;
-    LineMarks m_bookmarks;
-    int m_simStartPointer = -1; ///< -1 for none
-    QColor m_simBreakpointSymbolColor = Qt::red;
-    QColor m_simStartPointerSymbolColor = Qt::green;
-    QColor m_bookmarkSymbolColor = Qt::darkYellow;
+    LineHighlights m_lineHighlights;
+    WordMarks* m_wordMarks = nullptr;
+    sDocumentMarks_t m_marks;
 };
 
 } // namespace nsModEditor

@@ -5,8 +5,6 @@
 #include "EditorNotices.h"
 #include "MyNoticeBar.h"
 
-#include <QAction>
-#include <QApplication>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -47,7 +45,7 @@ void EditorWidget::setFormat(const DocumentFormat& format)
 {
     m_format = format;
     setModified();
-    setActionChanged();
+    emit actionChanged(this);
 }
 
 void EditorWidget::setFormatOnDisk(const DocumentFormat& format)
@@ -104,7 +102,7 @@ void EditorWidget::changeText(const QString& text)
     setTextCursor(cursor);
     verticalScrollBar()->setValue(newTop.firstLineNumber());
     horizontalScrollBar()->setValue(column);
-    setActionChanged();
+    emit actionChanged(this);
 }
 
 void EditorWidget::addNotice(MyNoticeBar* bar)
@@ -112,22 +110,10 @@ void EditorWidget::addNotice(MyNoticeBar* bar)
     if (m_notices == nullptr) {
         m_notices = new EditorNotices(this);
         connect(m_notices, &EditorNotices::changed, this, &EditorWidget::layoutNotices);
-        auto* focus = new QAction(tr("Go to the notice"), this);
-        focus->setShortcut(QKeySequence(QStringLiteral("F6")));
-        focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-        connect(focus, &QAction::triggered, this, &EditorWidget::switchToNotices);
-        addAction(focus);
         m_notices->show();
     }
     m_notices->add(bar);
     layoutNotices();
-}
-
-/// Moves the focus from the text to the bars, and back.
-void EditorWidget::switchToNotices()
-{
-    if (m_notices->isAncestorOf(QApplication::focusWidget()) || !m_notices->focusFirst())
-        setFocus(Qt::ShortcutFocusReason);
 }
 
 void EditorWidget::layoutNotices()

@@ -2,11 +2,40 @@
 
 #include "EditorWidget.h"
 
+#include <QAction>
 #include <QCoreApplication>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QTextBlock>
+#include <QToolTip>
 #include <QWheelEvent>
 
+#include <functional>
+
 namespace nsModEditor {
+
+namespace {
+
+const int symbolSpace = 15; ///< three symbols side by side, in pixels
+const int symbolWidth = 5;
+const int startPointerX = 2;
+const int breakpointX = 7;
+const int bookmarkX = 12;
+const int menuIconSize = 10;
+const int minAddrDigits = 3;
+const int columnSpace = 2; ///< between the columns, in pixels
+
+int digits(int value, int base)
+{
+    int count = 1;
+    for (; value >= base; value /= base)
+        ++count;
+    return count;
+}
+
+} // namespace
 
 EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor)
     : QWidget(editor)
@@ -15,6 +44,66 @@ EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor)
     setAttribute(Qt::WA_Hover);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setCursor(Qt::ArrowCursor);
+    setAccessibleName(tr("Marks, addresses and line numbers"));
+    connect(this, &QWidget::customContextMenuRequested, this, &EditorWidgetLeftMargin::showMenu);
+
+    auto* menuAction = new QAction(tr("Marks of the line"), editor);
+    menuAction->setShortcut(QKeySequence("Ctrl+F10"));
+    menuAction->setShortcutContext(Qt::WidgetShortcut);
+    connect(menuAction, &QAction::triggered, this, &EditorWidgetLeftMargin::showMenuAtCursor);
+    editor->addAction(menuAction);
+}
+
+void EditorWidgetLeftMargin::setBgColor(const QColor& color)
+{
+    m_bgColor = color;
+    update();
+}
+
+void EditorWidgetLeftMargin::setFgColor(const QColor& color)
+{
+    m_fgColor = color;
+    update();
+}
+
+void EditorWidgetLeftMargin::setBreakpointColor(const QColor& color)
+{
+    m_breakpointColor = color;
+    update();
+}
+
+void EditorWidgetLeftMargin::setStartPointerColor(const QColor& color)
+{
+    m_startPointerColor = color;
+    update();
+}
+
+void EditorWidgetLeftMargin::setBookmarkColor(const QColor& color)
+{
+    m_bookmarkColor = color;
+    update();
+}
+
+bool EditorWidgetLeftMargin::setAddrBase(int base)
+{
+    if (base < 2 || base > 36)
+        return false;
+    m_addrBase = base;
+    return true;
+}
+
+void EditorWidgetLeftMargin::setAddrMap(EditorMemPageAddrMap* map, const QString& path)
+{
+    m_addrList = map != nullptr ? map->map(path) : nullptr;
+    m_addrMap = m_addrList != nullptr ? map : nullptr;
+}
+
+void EditorWidgetLeftMargin::setAddrInvalid()
+{
+    if (m_addrMap == nullptr)
+        return;
+    m_addrMap->valid = false;
+    update();
 }
 
 QSize EditorWidgetLeftMargin::sizeHint() const
@@ -52,6 +141,152 @@ void EditorWidgetLeftMargin::wheelEvent(QWheelEvent* event)
 {
     // A scroll area takes the wheel from its viewport only.
     QCoreApplication::sendEvent(m_editor->viewport(), event);
+}
+
+int EditorWidgetLeftMargin::symbolColumnWidth() const
+{
+    return 2 * columnSpace + symbolSpace;
+}
+
+int EditorWidgetLeftMargin::addrColumnWidth() const
+{
+    if (!m_addrEn)
+        return 0;
+    const int count = digits(m_maxAddr, m_addrBase) + 2; // with the "0x"
+    return count * m_editor->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
+}
+
+int EditorWidgetLeftMargin::lineNumberColumnWidth() const
+{
+    if (!m_lineNumberEn)
+        return 0;
+    return digits(m_editor->blockCount(), 10) * m_editor->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
+}
+
+void EditorWidgetLeftMargin::paint(QPaintEvent* event)
+{
+    QPainter painter(this);
+    const QRect area = event->rect();
+    painter.fillRect(area, m_bgColor);
+    // Filled rectangles instead of lines, which stay sharp at any scale of the screen.
+    if (m_addrEn)
+        painter.fillRect(QRect(symbolColumnWidth(), area.top(), 1, area.height()), m_fgColor);
+    if (m_lineNumberEn)
+        painter.fillRect(QRect(symbolColumnWidth() + addrColumnWidth(), area.top(), 1, area.height()), m_fgColor);
+
+    QTextBlock block = m_editor->firstVisibleBlock();
+    qreal top = m_editor->blockBoundingGeometry(block).translated(m_editor->contentOffset()).top();
+    const int symbolHeight = qRound(m_editor->blockBoundingRect(block).height());
+    // List and lines are read in parallel. An entry that is out of order hides the entries after it.
+    const EditorMemPageAddrMap::sItem_t* entry = m_addrEn ? m_addrList : nullptr;
+    for (; block.isValid() && top <= area.bottom(); block = block.next()) {
+        const qreal bottom = top + m_editor->blockBoundingRect(block).height();
+        if (block.isVisible() && bottom >= area.top()) {
+            const int line = block.blockNumber();
+            while (entry != nullptr && entry->lineNo < line)
+                entry = entry->next;
+            paintBlock(&painter, block, qRound(top), symbolHeight);
+            if (entry != nullptr && entry->lineNo == line)
+                paintAddr(&painter, qRound(top), entry->memPageAddr);
+        }
+        top = bottom;
+    }
+}
+
+/// Symbols and number of a line.
+void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight)
+{
+    QFont blockFont = m_editor->font();
+    blockFont.setPointSize(qMax(m_editor->fontSize(), 1));
+    painter->setFont(blockFont);
+    painter->setPen(m_fgColor);
+    const int line = block.blockNumber();
+    if (line == m_editor->marks().simStartPointer)
+        painter->fillRect(QRect(startPointerX, top, symbolWidth, symbolHeight), m_startPointerColor);
+    if (m_editor->marks().simBreakpoints.contains(line))
+        painter->fillRect(QRect(breakpointX, top, symbolWidth, symbolHeight), m_breakpointColor);
+    if (m_editor->marks().bookmarks.contains(line))
+        painter->fillRect(QRect(bookmarkX, top, symbolWidth, symbolHeight), m_bookmarkColor);
+    if (!m_lineNumberEn)
+        return;
+    const QRect cell(symbolColumnWidth() + addrColumnWidth(), top, lineNumberColumnWidth() - columnSpace,
+                     painter->fontMetrics().height());
+    painter->drawText(cell, Qt::AlignRight, QString::number(line + 1));
+}
+
+void EditorWidgetLeftMargin::paintAddr(QPainter* painter, int top, int addr)
+{
+    painter->setPen(m_addrMap->valid ? m_fgColor : QColor(Qt::darkGray));
+    const QRect cell(symbolColumnWidth(), top, addrColumnWidth() - columnSpace, painter->fontMetrics().height());
+    painter->drawText(cell, Qt::AlignRight, QString("0x%1").arg(addr, minAddrDigits, m_addrBase, QChar('0')));
+}
+
+void EditorWidgetLeftMargin::showToolTipAt(const QPoint& pos)
+{
+    const int line = m_editor->blockNumberFromPos(pos.y());
+    QString text;
+    if (pos.x() < 6 && line == m_editor->marks().simStartPointer)
+        text = tr("Simulator start address");
+    else if (pos.x() < 11 && m_editor->marks().simBreakpoints.contains(line))
+        text = tr("Simulator breakpoint");
+    else if (pos.x() <= 15 && m_editor->marks().bookmarks.contains(line))
+        text = tr("Bookmark");
+    QToolTip::showText(mapToGlobal(pos), text, this);
+}
+
+QIcon EditorWidgetLeftMargin::iconOf(const QColor& color) const
+{
+    const qreal ratio = devicePixelRatioF();
+    QPixmap pixmap(QSize(menuIconSize, menuIconSize) * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(color);
+    return QIcon(pixmap);
+}
+
+void EditorWidgetLeftMargin::addMenuEntries(QMenu* menu, int line)
+{
+    const auto add = [menu, this](const QString& text, const std::function<void()>& command) {
+        QAction* entry = menu->addAction(text);
+        connect(entry, &QAction::triggered, m_editor, command);
+        return entry;
+    };
+    add(m_editor->marks().simBreakpoints.contains(line) ? tr("Clear simulator breakpoint")
+                                                        : tr("Set simulator breakpoint"),
+        [this, line] { m_editor->setSimBreakpoint(line); })
+        ->setIcon(iconOf(m_breakpointColor));
+    add(tr("Clear all simulator breakpoints of the current file"), [this] { m_editor->clearSimBreakpoints(); });
+    add(tr("Clear all simulator breakpoints"), [this] { emit m_editor->clearAllBreakpoints(); });
+    menu->addSeparator();
+    add(tr("Set simulator start address to this line"), [this, line] {
+        m_editor->setSimStartPointer(line);
+    })->setIcon(iconOf(m_startPointerColor));
+    add(tr("Set simulator start address to processor default"), [this] { emit m_editor->clearAllSimStartPointer(); });
+    menu->addSeparator();
+    add(m_editor->marks().bookmarks.contains(line) ? tr("Clear bookmark") : tr("Set bookmark"), [this, line] {
+        m_editor->setBookmark(line);
+    })->setIcon(iconOf(m_bookmarkColor));
+    add(tr("Clar all bookmarks of the current file"), [this] { m_editor->clearBookmarks(); });
+    add(tr("Clar all bookmarks"), [this] { emit m_editor->clearAllBookmarks(); });
+}
+
+void EditorWidgetLeftMargin::runMenu(int line, const QPoint& globalPos)
+{
+    const QPointer<QMenu> menu(new QMenu(this));
+    addMenuEntries(menu, line);
+    menu->exec(globalPos);
+    // The document may have been closed meanwhile, and the menu with it.
+    delete menu;
+}
+
+void EditorWidgetLeftMargin::showMenu(const QPoint& pos)
+{
+    runMenu(m_editor->blockNumberFromPos(pos.y()), mapToGlobal(pos));
+}
+
+void EditorWidgetLeftMargin::showMenuAtCursor()
+{
+    m_editor->ensureCursorVisible();
+    runMenu(m_editor->cursorLine(), mapToGlobal(QPoint(symbolColumnWidth(), m_editor->cursorRect().bottom())));
 }
 
 } // namespace nsModEditor

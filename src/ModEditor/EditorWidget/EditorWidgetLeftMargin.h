@@ -1,12 +1,23 @@
 #pragma once
 
+#include "EditorMemPageAddrMap.h"
+
+#include <QColor>
+#include <QIcon>
 #include <QWidget>
+
+class QMenu;
+class QPainter;
+class QTextBlock;
 
 namespace nsModEditor {
 
 class EditorWidget;
 
-/// The strip on the left of a document with its marks, memory page addresses and line numbers. The document paints it.
+/// The strip on the left of a document with its marks, memory page addresses and line numbers.
+///
+/// It reads the marks and the visible lines of the document. Widths are in pixels, 0 for a column that is off; whoever
+/// changes columns asks the document to make room.
 class EditorWidgetLeftMargin : public QWidget
 {
     Q_OBJECT
@@ -15,10 +26,33 @@ public:
     /// Right-most x at which a click sets a mark, in pixels.
     static const int maxMarkX = 17;
 
-    /// @param editor the document; owns the margin
+    /// @param editor the document; owns the margin, and gets its menu as an action for those without a mouse
     explicit EditorWidgetLeftMargin(EditorWidget* editor);
 
+    void setLineNumberEn(bool enabled) { m_lineNumberEn = enabled; }
+    void setAddrEn(bool enabled) { m_addrEn = enabled; }
+    /// @param addr the largest address that the column has room for
+    void setMaxAddr(int addr) { m_maxAddr = addr; }
+    /// @param base of the addresses, 2 to 36. @return false for others, which change nothing
+    bool setAddrBase(int base);
+    /// Takes the addresses of the file from the map. Not owned: before it is deleted, another one or null must be set.
+    void setAddrMap(EditorMemPageAddrMap* map, const QString& path);
+    /// The lines have moved: the addresses of all documents are out of date.
+    void setAddrInvalid();
+    void setBgColor(const QColor& color);
+    void setFgColor(const QColor& color);
+    void setBreakpointColor(const QColor& color);
+    void setStartPointerColor(const QColor& color);
+    void setBookmarkColor(const QColor& color);
+
+    int symbolColumnWidth() const;
+    int addrColumnWidth() const;
+    int lineNumberColumnWidth() const;
     QSize sizeHint() const override;
+
+    void paint(QPaintEvent* event);
+    /// @param pos in the margin
+    void showToolTipAt(const QPoint& pos);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,8 +61,29 @@ protected:
     /// Scrolls and zooms like the text.
     void wheelEvent(QWheelEvent* event) override;
 
+private slots:
+    void showMenu(const QPoint& pos);
+    void showMenuAtCursor();
+
 private:
+    void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);
+    void paintAddr(QPainter* painter, int top, int addr);
+    QIcon iconOf(const QColor& color) const;
+    void addMenuEntries(QMenu* menu, int line);
+    void runMenu(int line, const QPoint& globalPos);
+
     EditorWidget* m_editor; ///< not owned
+    bool m_lineNumberEn = true;
+    bool m_addrEn = false;
+    int m_maxAddr = 999;
+    int m_addrBase = 16;
+    EditorMemPageAddrMap* m_addrMap = nullptr;           ///< not owned; null without addresses of this file
+    EditorMemPageAddrMap::sItem_t* m_addrList = nullptr; ///< not owned
+    QColor m_fgColor = Qt::black;
+    QColor m_bgColor = QColor(0xEAE9E8);
+    QColor m_breakpointColor = Qt::red;
+    QColor m_startPointerColor = Qt::green;
+    QColor m_bookmarkColor = Qt::darkYellow;
 };
 
 } // namespace nsModEditor

@@ -2,26 +2,46 @@
 
 #include "EditorWidget.h"
 
-#include "EditorSyntaxHighlighter.h"
+#include "WordMarks.h"
 
 #include <QHelpEvent>
 #include <QRegExp>
 #include <QTextBlock>
-#include <QTimer>
 
 namespace nsModEditor {
 
 namespace {
 
-/// In documents with this many lines, lines that are not visible are marked after a delay, so that extending a
-/// selection stays fast.
-const int manyLines = 2000;
-const int rehighlightDelay = 100; ///< milliseconds
-
 /// A name and a colon, as the navigator has it.
 bool isLabel(const QString& text)
 {
     return text.size() > 1 && text.endsWith(':') && !text.contains(' ') && !text.contains('\t');
+}
+
+/// The label at the start of a line, blanks aside, selected; of several the one nearest to the line. Null if there is
+/// none.
+QTextCursor labelIn(const QTextDocument* document, const QString& label, int line)
+{
+    QTextBlock nearest;
+    const auto indentOf = [](const QTextBlock& block) {
+        const QString text = block.text();
+        int indent = 0;
+        while (indent < text.size() && text.at(indent).isSpace())
+            ++indent;
+        return indent;
+    };
+    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
+        if (block.text().midRef(indentOf(block), label.size()) != label)
+            continue;
+        if (!nearest.isValid() || qAbs(block.blockNumber() - line) < qAbs(nearest.blockNumber() - line))
+            nearest = block;
+    }
+    if (!nearest.isValid())
+        return {};
+    QTextCursor cursor(nearest);
+    cursor.setPosition(nearest.position() + indentOf(nearest));
+    cursor.setPosition(cursor.position() + label.length(), QTextCursor::KeepAnchor);
+    return cursor;
 }
 
 QTextDocument::FindFlags findFlags(bool caseSensitive, bool wholeWords, bool backward = false)
@@ -34,21 +54,6 @@ QTextDocument::FindFlags findFlags(bool caseSensitive, bool wholeWords, bool bac
 }
 
 } // namespace
-
-void EditorWidget::initHighlighting()
-{
-    m_highlightSelection.format.setBackground(QColor(0xF5CACA));
-    m_highlightSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
-    m_cursorSelection.format.setBackground(QColor(0xE3EBF3));
-    m_cursorSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
-    m_spareSelection.format.setBackground(QColor(0xD7D7D7));
-    m_spareSelection.format.setProperty(QTextFormat::FullWidthSelection, true);
-    m_rehighlightTimer->setSingleShot(true);
-    m_rehighlightTimer->setInterval(rehighlightDelay);
-    connect(m_rehighlightTimer, &QTimer::timeout, this, &EditorWidget::rehighlight);
-    connect(this, SIGNAL(cursorPositionChanged()), this, SLOT(highlightCurrentLine()));
-    highlightCurrentLine();
-}
 
 void EditorWidget::setCursorToLine(int line)
 {
@@ -68,9 +73,13 @@ void EditorWidget::setCursorToLine(const QString& text, int line)
 {
     if (isLabel(text)) {
         // A label that is gone is not sought in the names and comments that contain it.
-        if (!goToLabel(text, line)) {
+        const QTextCursor label = labelIn(m_textDocument, text, line);
+        if (label.isNull()) {
             moveCursor(QTextCursor::Start);
             setCursorToLine(line);
+        } else {
+            setTextCursor(label);
+            centerCursor();
         }
         return;
     }
@@ -84,33 +93,6 @@ void EditorWidget::setCursorToLine(const QString& text, int line)
     // From the start, the cursor moves downwards only, where a wrapped line counts as one.
     moveCursor(QTextCursor::Start);
     setCursorToLine(line);
-}
-
-/// @return false if no line begins with the label, blanks aside
-bool EditorWidget::goToLabel(const QString& label, int line)
-{
-    QTextBlock nearest;
-    const auto indentOf = [](const QTextBlock& block) {
-        const QString text = block.text();
-        int indent = 0;
-        while (indent < text.size() && text.at(indent).isSpace())
-            ++indent;
-        return indent;
-    };
-    for (QTextBlock block = m_textDocument->begin(); block.isValid(); block = block.next()) {
-        if (block.text().midRef(indentOf(block), label.size()) != label)
-            continue;
-        if (!nearest.isValid() || qAbs(block.blockNumber() - line) < qAbs(nearest.blockNumber() - line))
-            nearest = block;
-    }
-    if (!nearest.isValid())
-        return false;
-    QTextCursor cursor(nearest);
-    cursor.setPosition(nearest.position() + indentOf(nearest));
-    cursor.setPosition(cursor.position() + label.length(), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
-    centerCursor();
-    return true;
 }
 
 int EditorWidget::cursorLine() const
@@ -134,98 +116,34 @@ void EditorWidget::setCursorPos(int pos)
 void EditorWidget::setLineHighlighted(int line)
 {
     // Uses the number of the line, so that the rows of wrapped lines above it do not count.
-    const QTextBlock block = m_textDocument->findBlockByNumber(qBound(0, line, blockCount() - 1));
-    setCursorPos(block.position());
-    m_highlightSelection.cursor = QTextCursor(block);
-    m_lineHighlightEn = true;
-    setHighlightLinesToEditor();
+    line = qBound(0, line, blockCount() - 1);
+    setCursorPos(m_textDocument->findBlockByNumber(line).position());
+    m_lineHighlights.flag(line);
 }
 
 void EditorWidget::markLine(int line)
 {
-    const QTextBlock block = m_textDocument->findBlockByNumber(line);
-    m_lineHighlightEn = block.isValid();
-    if (block.isValid())
-        m_highlightSelection.cursor = QTextCursor(block);
-    setHighlightLinesToEditor();
+    m_lineHighlights.flag(line);
 }
 
 void EditorWidget::clearLineHighlighted()
 {
-    m_lineHighlightEn = false;
-    setHighlightLinesToEditor();
+    m_lineHighlights.clearFlag();
 }
 
 void EditorWidget::setCursorBgColor(const QColor& color)
 {
-    m_cursorSelection.format.setBackground(color);
-    setHighlightLinesToEditor();
+    m_lineHighlights.setCursorColor(color);
 }
 
 void EditorWidget::setHighlightBgColor(const QColor& color)
 {
-    m_highlightSelection.format.setBackground(color);
-    setHighlightLinesToEditor();
-}
-
-void EditorWidget::highlightCurrentLine()
-{
-    m_cursorSelection.cursor = textCursor();
-    m_cursorSelection.cursor.clearSelection();
-    setHighlightLinesToEditor();
-}
-
-void EditorWidget::setHighlightLinesToEditor()
-{
-    QList<QTextEdit::ExtraSelection> selections{m_cursorSelection};
-    if (m_lineHighlightEn)
-        selections.append(m_highlightSelection);
-    setExtraSelections(selections);
+    m_lineHighlights.setFlagColor(color);
 }
 
 void EditorWidget::setSelectionHighlightEn(bool enabled)
 {
-    m_selectionHighlightEn = enabled;
-    if (enabled)
-        highlightSelection();
-    else
-        setSelectionMarks(QString());
-}
-
-void EditorWidget::highlightSelection()
-{
-    if (!m_selectionHighlightEn)
-        return;
-    const QTextCursor cursor = textCursor();
-    if (cursor.hasSelection())
-        setSelectionMarks(cursor.selectedText());
-    else
-        setSelectionMarks(QString());
-}
-
-void EditorWidget::setSelectionMarks(const QString& text)
-{
-    // The text edit reports the selection again for each change of formats.
-    if (text == m_markedText)
-        return;
-    m_markedText = text;
-    m_syntaxHighlighter->setSelection(text);
-    if (blockCount() < manyLines) {
-        rehighlight();
-        return;
-    }
-    rehighlightVisible();
-    m_rehighlightTimer->start();
-}
-
-void EditorWidget::rehighlightVisible()
-{
-    QTextBlock block = firstVisibleBlock();
-    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
-    for (; block.isValid() && top <= viewport()->height(); block = block.next()) {
-        m_syntaxHighlighter->rehighlightBlock(block);
-        top += blockBoundingRect(block).height();
-    }
+    m_wordMarks->setSelectionEn(enabled);
 }
 
 bool EditorWidget::handleTipEvent(QHelpEvent* event)
@@ -234,9 +152,9 @@ bool EditorWidget::handleTipEvent(QHelpEvent* event)
     cursor.select(QTextCursor::WordUnderCursor);
     const QString word = cursor.selectedText();
     if (QRegExp("^\\b\\S+\\b$").exactMatch(word))
-        setSelectionMarks(word);
+        m_wordMarks->mark(word);
     else
-        setSelectionMarks(QString());
+        m_wordMarks->mark(QString());
     return true;
 }
 

@@ -34,4 +34,12 @@ private:
     QSet<int> m_set;
 };
 
+/// All marks of a document. Nobody saves them.
+struct sDocumentMarks_t
+{
+    LineMarks simBreakpoints;
+    LineMarks bookmarks;
+    int simStartPointer = -1; ///< line; -1 for none
+};
+
 } // namespace nsModEditor

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <QActionGroup>
-#include <QList>
+#include "ActionGroup.h"
 
 namespace nsProc {
 
 /// What can be done with a simulator, in the menu and the tool bar.
-class ProcActionsSim : public QActionGroup
+class ProcActionsSim : public ActionGroup
 {
     Q_OBJECT
 
@@ -28,24 +27,15 @@ public:
 
     explicit ProcActionsSim(QObject* parent = nullptr);
 
-    void setEnabled(bool enabled);
-    void setEnabled(eAction_t action, bool enabled);
     bool isEnabled(eAction_t action) const;
     /// While its command is in progress, the action shows a stop sign; triggering it again stops the command.
     void setStopping(eAction_t action, bool stopping);
-    /// All actions and separators in the order of the screen. Owned by the group.
-    QList<QAction*> menuActions() const { return actions(); }
-    QList<QAction*> toolBarActions() const { return actions(); }
 
 signals:
     void triggered(nsProc::ProcActionsSim::eAction_t action);
 
-private slots:
-    void handleAction(QAction* action);
-
-private:
-    void addSeparator();
-    QAction* actionOf(eAction_t action) const;
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
 } // namespace nsProc

@@ -1,8 +1,7 @@
-// Commands for whole lines.
+#include "LineCommands.h"
 
-#include "EditorWidget.h"
-
-#include <QTextBlock>
+#include <QPlainTextEdit>
+#include <QTextDocument>
 
 namespace nsModEditor {
 
@@ -47,10 +46,15 @@ int removeSemicolon(QTextCursor cursor)
 
 } // namespace
 
-/// Runs the command on each line that the selection touches, or on the line of the cursor, as one step to undo.
-void EditorWidget::forSelectedLines(const LineCommand& command)
+LineCommands::LineCommands(QPlainTextEdit* edit)
+    : m_edit(edit)
 {
-    QTextCursor cursor = textCursor();
+}
+
+/// Runs the command on each line that the selection touches, or on the line of the cursor, as one step to undo.
+void LineCommands::forSelectedLines(const Command& command)
+{
+    QTextCursor cursor = m_edit->textCursor();
     cursor.beginEditBlock();
     if (!cursor.hasSelection()) {
         // A cursor of its own, so that the one of the user keeps its place in the text.
@@ -60,121 +64,121 @@ void EditorWidget::forSelectedLines(const LineCommand& command)
     }
     const int start = cursor.selectionStart();
     int end = cursor.selectionEnd();
-    for (QTextBlock block = m_textDocument->findBlock(start); block.isValid() && block.position() < end;
+    for (QTextBlock block = m_edit->document()->findBlock(start); block.isValid() && block.position() < end;
          block = block.next())
         end += command(QTextCursor(block));
     cursor.endEditBlock();
     cursor.setPosition(start);
-    cursor.setPosition(qBound(0, end, m_textDocument->characterCount() - 1), QTextCursor::KeepAnchor);
-    setTextCursor(cursor);
+    cursor.setPosition(qBound(0, end, m_edit->document()->characterCount() - 1), QTextCursor::KeepAnchor);
+    m_edit->setTextCursor(cursor);
 }
 
-void EditorWidget::goToNextLine()
+void LineCommands::goToNextLine()
 {
-    QTextCursor cursor = textCursor();
+    QTextCursor cursor = m_edit->textCursor();
     cursor.movePosition(QTextCursor::NextBlock);
-    setTextCursor(cursor);
+    m_edit->setTextCursor(cursor);
 }
 
-void EditorWidget::indent()
+void LineCommands::indent()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
-    const QTextCursor cursor = textCursor();
+    const QTextCursor cursor = m_edit->textCursor();
     const bool severalLines =
-        m_textDocument->findBlock(cursor.selectionStart()) != m_textDocument->findBlock(cursor.selectionEnd());
+        m_edit->document()->findBlock(cursor.selectionStart()) != m_edit->document()->findBlock(cursor.selectionEnd());
     if (severalLines)
         forSelectedLines(insertTab);
     else
-        textCursor().insertText("\t");
-    ensureCursorVisible();
+        m_edit->textCursor().insertText("\t");
+    m_edit->ensureCursorVisible();
 }
 
-void EditorWidget::deindent()
+void LineCommands::deindent()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
     forSelectedLines(removeBlank);
-    ensureCursorVisible();
+    m_edit->ensureCursorVisible();
 }
 
-void EditorWidget::commentOut()
+void LineCommands::commentOut()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
-    const bool walksOn = !hasSelection();
+    const bool walksOn = !m_edit->textCursor().hasSelection();
     forSelectedLines(insertSemicolon);
     if (walksOn)
         goToNextLine();
-    ensureCursorVisible();
+    m_edit->ensureCursorVisible();
 }
 
-void EditorWidget::commentIn()
+void LineCommands::commentIn()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
-    const bool walksOn = !hasSelection();
+    const bool walksOn = !m_edit->textCursor().hasSelection();
     forSelectedLines(removeSemicolon);
     if (walksOn)
         goToNextLine();
-    ensureCursorVisible();
+    m_edit->ensureCursorVisible();
 }
 
-void EditorWidget::duplicateLine()
+void LineCommands::duplicateLine()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
-    QTextCursor cursor = textCursor();
+    QTextCursor cursor = m_edit->textCursor();
     const QString text = cursor.block().text();
     cursor.beginEditBlock();
     cursor.movePosition(QTextCursor::EndOfBlock);
     cursor.insertBlock();
     cursor.insertText(text);
     cursor.endEditBlock();
-    setTextCursor(cursor);
-    ensureCursorVisible();
+    m_edit->setTextCursor(cursor);
+    m_edit->ensureCursorVisible();
 }
 
-QTextBlock EditorWidget::firstSelectedBlock() const
+QTextBlock LineCommands::firstSelectedBlock() const
 {
-    return m_textDocument->findBlock(textCursor().selectionStart());
+    return m_edit->document()->findBlock(m_edit->textCursor().selectionStart());
 }
 
 /// A line at whose start the selection ends does not belong to it.
-QTextBlock EditorWidget::lastSelectedBlock() const
+QTextBlock LineCommands::lastSelectedBlock() const
 {
-    const QTextCursor cursor = textCursor();
-    const QTextBlock block = m_textDocument->findBlock(cursor.selectionEnd());
+    const QTextCursor cursor = m_edit->textCursor();
+    const QTextBlock block = m_edit->document()->findBlock(cursor.selectionEnd());
     return cursor.hasSelection() && block.position() == cursor.selectionEnd() ? block.previous() : block;
 }
 
-void EditorWidget::moveLineUp()
+void LineCommands::moveLineUp()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
     const QTextBlock previous = firstSelectedBlock().previous();
     if (!previous.isValid())
         return;
     exchangeLines(previous, lastSelectedBlock(), true);
-    ensureCursorVisible();
+    m_edit->ensureCursorVisible();
 }
 
-void EditorWidget::moveLineDown()
+void LineCommands::moveLineDown()
 {
-    if (isReadOnly())
+    if (m_edit->isReadOnly())
         return;
     const QTextBlock next = lastSelectedBlock().next();
     if (!next.isValid())
         return;
     exchangeLines(firstSelectedBlock(), next, false);
-    ensureCursorVisible();
+    m_edit->ensureCursorVisible();
 }
 
 /// Moves the first line after the others or, if up is false, the last one before them. The selection moves with its
 /// text.
-void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up)
+void LineCommands::exchangeLines(const QTextBlock& first, const QTextBlock& last, bool up)
 {
-    const QTextCursor selection = textCursor();
+    const QTextCursor selection = m_edit->textCursor();
     const int anchor = selection.anchor();
     const int position = selection.position();
 
@@ -190,11 +194,11 @@ void EditorWidget::exchangeLines(const QTextBlock& first, const QTextBlock& last
     cursor.endEditBlock();
 
     const int shift = up ? -(head.length() + 1) : tail.length() + 1;
-    const int end = m_textDocument->characterCount() - 1;
-    QTextCursor moved(m_textDocument);
+    const int end = m_edit->document()->characterCount() - 1;
+    QTextCursor moved(m_edit->document());
     moved.setPosition(qBound(0, anchor + shift, end));
     moved.setPosition(qBound(0, position + shift, end), QTextCursor::KeepAnchor);
-    setTextCursor(moved);
+    m_edit->setTextCursor(moved);
 }
 
 } // namespace nsModEditor
