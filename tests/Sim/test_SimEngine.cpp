@@ -1,5 +1,7 @@
 // The engine by itself: what a step answers, what observers see, and where the run loop stops.
 
+#include "FakeMsgHook.h"
+
 #include "AsmFeConfig.h"
 #include "AsmFeFileHndlr.h"
 #include "AsmFeMsgHndlr.h"
@@ -82,8 +84,10 @@ protected:
         m_config.behaviorChkIntVector = 2;
         m_processor = std::make_unique<Processor>(table);
         m_assembler.setBackend(m_processor.get());
+        m_assembler.charsets().setupDefaultCodec(m_config.defaultCharset);
+        m_shown.registerPlugin(&m_messages);
         m_assembler.run({file.fileName()}, nsModAsmFe::AsmProjectInfo(), nsModAsmFe::AsmFeConfig::eEventNone);
-        ASSERT_TRUE(m_assembler.isAssembled());
+        ASSERT_TRUE(m_assembler.isAssembled()) << m_shown.texts().join('\n').toStdString();
         engine = std::make_unique<ProcSimEngine>(&table, *m_processor->runConfig());
         load();
     }
@@ -103,6 +107,7 @@ protected:
 
 private:
     QTemporaryDir m_folder;
+    FakeMsgHook m_shown;
     nsModAsmFe::AsmFeFileHndlr m_files;
     nsModAsmFe::AsmFeMsgHndlr m_messages{&m_files};
     nsModAsmFe::AsmFeConfig m_config;
@@ -112,7 +117,7 @@ private:
 
 TEST_F(SimEngine, AStepAnswersThatItWentOn)
 {
-    start(xpBlze3Table(), {"LOAD s3, 7", "NOP"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"LOAD s3, 7", "NOP"}));
     const SimOutcome outcome = engine->step();
     EXPECT_TRUE(outcome.wentOn());
     EXPECT_TRUE(outcome.reports.empty());
@@ -125,7 +130,7 @@ TEST_F(SimEngine, AStepAnswersThatItWentOn)
 
 TEST_F(SimEngine, TheEndIsReportedInItsOrder)
 {
-    start(xpBlze3Table(), {"RET"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"RET"}));
     const SimOutcome outcome = engine->step();
     EXPECT_TRUE(outcome.wentOn()) << "the clocks are counted";
     ASSERT_EQ(outcome.reports.size(), 2U);
@@ -142,7 +147,7 @@ TEST_F(SimEngine, TheEndIsReportedInItsOrder)
 
 TEST_F(SimEngine, APortWithoutAValueIsNamed)
 {
-    start(xpBlze3Table(), {"RDPRT s0, 0x2A", "NOP"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"RDPRT s0, 0x2A", "NOP"}));
     const SimOutcome added = engine->step();
     EXPECT_EQ(added.end, SimOutcome::eEndStopped);
     EXPECT_EQ(added.last()->msg, warnIODevAddedToRd);
@@ -175,12 +180,13 @@ TEST_F(SimEngine, AQuestionForThePageGoesOnWhereItWasLeft)
                                  "#ORG MEMRANGE, SHARED",
                                  "CALL (s1), (s2)",
                                  "#ORG MEMRANGE, PAGE0",
+                                 "NOP",
                                  "#ORG ADDR, 0x10",
                                  "LOAD s0, 1",
                                  "#ORG MEMRANGE, PAGE1",
                                  "#ORG ADDR, 0x10",
                                  "LOAD s0, 2"};
-    start(xpBlze6Table(), program);
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze6Table(), program));
     engine->setAsksPage(true);
     engine->core()->editReg(0, 2, 0x10);
     const SimOutcome asked = engine->step();
@@ -198,7 +204,7 @@ TEST_F(SimEngine, AQuestionForThePageGoesOnWhereItWasLeft)
 
 TEST_F(SimEngine, ALoopStopsAtItsBoundAndAtAPosition)
 {
-    start(xpBlze3Table(), {"LOAD s0, 0", "loop: ADD s0, 1", "ADDC s1, 0", "JUMP loop"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"LOAD s0, 0", "loop: ADD s0, 1", "ADDC s1, 0", "JUMP loop"}));
     EXPECT_EQ(run(1 + 3 * 1000), 1 + 3 * 1000);
     EXPECT_TRUE(last.wentOn());
     EXPECT_EQ(reg(0) + 256 * reg(1), 1000);
@@ -212,7 +218,7 @@ TEST_F(SimEngine, ALoopStopsAtItsBoundAndAtAPosition)
 
 TEST_F(SimEngine, TheLoopLeavesPortsToTheDevices)
 {
-    start(xpBlze3Table(), {"loop: ADD s0, 1", "WRPRT s0, 7", "JUMP loop"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"loop: ADD s0, 1", "WRPRT s0, 7", "JUMP loop"}));
     auto waves = std::make_shared<ProcSimWaveData>();
     waves->addChannel(7, ProcSimWaveData::eAccessWr, "OUT");
     ProcSimWaveRecorder recorder(waves, engine->clock());
@@ -226,7 +232,7 @@ TEST_F(SimEngine, TheLoopLeavesPortsToTheDevices)
 
 TEST_F(SimEngine, AFollowerSeesEachInstructionOnce)
 {
-    start(xpBlze3Table(), {"loop: ADD s0, 1", "WRMEM s0, 5", "WRPRT s0, 7", "JUMP loop"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"loop: ADD s0, 1", "WRMEM s0, 5", "WRPRT s0, 7", "JUMP loop"}));
     Notes notes;
     engine->addObserver(&notes);
     EXPECT_EQ(run(9), 9);
@@ -242,7 +248,7 @@ TEST_F(SimEngine, AFollowerSeesEachInstructionOnce)
 TEST_F(SimEngine, AHaltExecutesNothingMore)
 {
     for (const int haltAt : {1, 2}) {
-        start(xpBlze3Table(), {"loop: ADD s0, 1", "ADD s1, 1", "WRPRT s0, 7", "JUMP loop"});
+        ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"loop: ADD s0, 1", "ADD s1, 1", "WRPRT s0, 7", "JUMP loop"}));
         Notes notes;
         notes.engine = engine.get();
         notes.haltAt = haltAt;
@@ -257,7 +263,7 @@ TEST_F(SimEngine, AHaltExecutesNothingMore)
 
 TEST_F(SimEngine, TheLoopReturnsOnlyToInstructionsThatItKnows)
 {
-    start(xpBlze6Table(), {"loop: CALL proc", "ADD s0, 1", "JUMP loop", "proc: RET"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze6Table(), {"loop: CALL proc", "ADD s0, 1", "JUMP loop", "proc: RET"}));
     EXPECT_EQ(run(1), 1);
     ASSERT_EQ(engine->callStack()->count(), 1);
     EXPECT_EQ(engine->callStack()->items().back().position, 0);
@@ -273,7 +279,8 @@ TEST_F(SimEngine, TheLoopReturnsOnlyToInstructionsThatItKnows)
 
 TEST_F(SimEngine, ThePendingInterruptEntersBeforeTheLoop)
 {
-    start(xpBlze3Table(), {"INT ENABLE", "loop: ADD s0, 1", "JUMP loop", "#ORG ADDR, 0x3FF", "RETI ENABLE"});
+    ASSERT_NO_FATAL_FAILURE(
+        start(xpBlze3Table(), {"INT ENABLE", "loop: ADD s0, 1", "JUMP loop", "#ORG ADDR, 0x3FF", "RETI ENABLE"}));
     EXPECT_EQ(run(2), 2);
     engine->toggleInterrupt();
     EXPECT_EQ(engine->core()->interrupt(), eIntPending);
@@ -287,7 +294,7 @@ TEST_F(SimEngine, ThePendingInterruptEntersBeforeTheLoop)
 TEST_F(SimEngine, DeletedInstructionsLeaveNoPosition)
 {
     auto opcodes = std::make_unique<nsModAsmFe::OpcodeList>();
-    start(xpBlze3Table(), {"NOP", "NOP"});
+    ASSERT_NO_FATAL_FAILURE(start(xpBlze3Table(), {"NOP", "NOP"}));
     engine->load(opcodes.get());
     EXPECT_EQ(engine->position(), sSimInstr_t::none);
     EXPECT_EQ(engine->program().count(), 0);
