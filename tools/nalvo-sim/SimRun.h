@@ -61,7 +61,7 @@ private:
     int exitStatus() const;
 
     SimOptions m_options;
-    nsBatch::BatchProject& m_input;
+    nsBatch::BatchProject& m_batch;
     SimProject m_project;
     SimPortReads m_reads;
     std::unique_ptr<SimTrace> m_tracer; ///< null without a trace
