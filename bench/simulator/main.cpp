@@ -11,6 +11,7 @@
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 #include "ModProcessor.h"
+#include "NaiveProcessor.h"
 #include "Nalvo.h"
 #include "OpcodeList.h"
 #include "ProcShell.h"
@@ -35,13 +36,65 @@ namespace {
 const int rounds = 7;
 const int roundTime = 400; ///< milliseconds
 
-/// A mixed program in an endless loop: arithmetic, logic, shifts, calls, branches, scratchpad.
-QStringList mixedProgram()
+Operand reg(int index)
 {
-    return {"start: LOAD s0, 0", "loop: ADD s0, 1", "ADDC s1, 0",        "XOR s2, s0",    "SR0 s2",
-            "WRMEM s2, 5",       "RDMEM s3, 5",     "COMP s3, 100",      "JUMP C, less",  "SUB s3, 100",
-            "less: CALL proc",   "ROL s4",          "TEST s4, 1",        "JUMP NZ, loop", "OR s4, 1",
-            "AND s5, s4",        "JUMP loop",       "proc: LOAD s6, s3", "SUBC s6, s1",   "RET"};
+    return {Operand::reg, index};
+}
+Operand number(int value)
+{
+    return {Operand::number, value};
+}
+Operand label(int position)
+{
+    return {Operand::label, position};
+}
+
+/// A mixed program in an endless loop: arithmetic, logic, shifts, calls, branches, scratchpad.
+std::vector<Instruction> mixedProgram()
+{
+    const int loop = 1;
+    const int less = 10;
+    const int proc = 17;
+    return {{"LOAD", reg(0), number(0)},
+            {"ADD", reg(0), number(1)}, // loop
+            {"ADDC", reg(1), number(0)},
+            {"XOR", reg(2), reg(0)},
+            {"SR0", reg(2), {}},
+            {"WRMEM", reg(2), number(5)},
+            {"RDMEM", reg(3), number(5)},
+            {"COMP", reg(3), number(100)},
+            {"JUMP", {Operand::ifC, 0}, label(less)},
+            {"SUB", reg(3), number(100)},
+            {"CALL", label(proc), {}}, // less
+            {"ROL", reg(4), {}},
+            {"TEST", reg(4), number(1)},
+            {"JUMP", {Operand::ifNZ, 0}, label(loop)},
+            {"OR", reg(4), number(1)},
+            {"AND", reg(5), reg(4)},
+            {"JUMP", label(loop), {}},
+            {"LOAD", reg(6), reg(3)}, // proc
+            {"SUBC", reg(6), reg(1)},
+            {"RET", {}, {}}};
+}
+
+QStringList sourceOf(const std::vector<Instruction>& program)
+{
+    QStringList lines;
+    for (const Instruction& instruction : program)
+        lines.append(QStringLiteral("L%1: ").arg(lines.size()) + instruction.text(Family::PicoBlaze3));
+    return lines;
+}
+
+/// Instructions a second of the naive model of the tests.
+double naiveRate(const Program& program)
+{
+    const int instructions = 300000;
+    NaiveProcessor processor(Family::PicoBlaze3, program, Build());
+    QElapsedTimer time;
+    time.start();
+    for (int count = 0; count < instructions; ++count)
+        processor.step();
+    return instructions * 1e9 / double(time.nsecsElapsed());
 }
 
 /// Ten instructions, one of which writes a port.
@@ -149,24 +202,43 @@ private:
 };
 
 /// Seconds of a run of the batch simulator.
-double batchTime(const QString& program, const QString& project, int instructions)
+double batchTime(const QString& program, const QString& project, int instructions, const QString& trace)
 {
+    QStringList arguments = {"-q", "-n", QString::number(instructions)};
+    if (!trace.isEmpty())
+        arguments += {"--trace", trace};
     QElapsedTimer time;
     time.start();
-    if (QProcess::execute(program, {"-q", "-n", QString::number(instructions), project}) != 0)
+    if (QProcess::execute(program, arguments + QStringList(project)) != 0)
         qFatal("the batch simulator failed");
     return double(time.nsecsElapsed()) * 1e-9;
 }
 
-double batchRate(const QString& program, const QString& project)
+/// Instructions a second of the batch simulator, without the start of the process.
+/// @param trace file for a trace; empty for none
+double batchRate(const QString& program, const QString& project, int instructions, const QString& trace)
 {
-    const int instructions = 40000000;
+    const double start = batchTime(program, project, 1, trace);
+    return (instructions - 1) / (batchTime(program, project, instructions, trace) - start);
+}
+
+/// The figures of the batch simulator; the naive model takes turns with it.
+void printBatch(const QString& program, const QString& project, const QString& traceFile,
+                void (*print)(const char*, double, int))
+{
+    const Program mixed = inOnePage(mixedProgram());
     std::vector<double> rates;
-    for (int round = 0; round < 3; ++round) {
-        const double start = batchTime(program, project, 1);
-        rates.push_back((instructions - 1) / (batchTime(program, project, instructions) - start));
+    std::vector<double> traceRates;
+    std::vector<double> ratios;
+    for (int round = 0; round < 5; ++round) {
+        const double naive = naiveRate(mixed);
+        rates.push_back(batchRate(program, project, 400000000, QString()));
+        ratios.push_back(rates.back() / naive);
+        traceRates.push_back(batchRate(program, project, 20000000, traceFile));
     }
-    return median(rates);
+    print("batch_rate_per_second", median(rates), 0);
+    print("batch_trace_rate_per_second", median(traceRates), 0);
+    print("batch_vs_naive", median(ratios), 0);
 }
 
 void print(const char* name, double value, int decimals)
@@ -187,7 +259,7 @@ int main(int argc, char** argv)
     window.resize(1400, 900);
     Bench bench(&window, folder.path());
 
-    const QString project = bench.start("mixed", mixedProgram());
+    const QString project = bench.start("mixed", sourceOf(mixedProgram()));
     bench.runRate(200);
     std::vector<double> rates;
     std::vector<double> shares;
@@ -238,6 +310,6 @@ int main(int argc, char** argv)
     print("with_port_writes", median(portShares), 2);
     print("write_growth", median(growth), 2);
     if (argc > 1)
-        print("batch_rate_per_second", batchRate(QString::fromLocal8Bit(argv[1]), project), 0);
+        printBatch(QString::fromLocal8Bit(argv[1]), project, folder.filePath("trace"), print);
     return 0;
 }

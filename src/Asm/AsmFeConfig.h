@@ -1,39 +1,26 @@
 #pragma once
 
+#include "TargetFile.h"
+
 #include <QString>
 
 class PrjSettings;
 
 namespace nsModAsmFe {
 
-/// What all kinds of output files have: on or off, and on which events they are written.
-struct TargetConfig
+/// The settings of one kind of output file: where it goes, and on which events it is written.
+struct TargetConfig : TargetFile
 {
-    bool en = false;
     bool writeFileEventBut1 = true;
     bool writeFileEventBut2 = true;
     bool writeFileEventSave = false;
-    QString outputFile; ///< absolute
 };
 
-struct TargetHexConfig : TargetConfig
-{
-};
-
-struct TargetMemConfig : TargetConfig
-{
-    bool gapStuffingEn = true;
-};
-
-struct TargetVhdlConfig : TargetConfig
-{
-    QString entityName;
-    QString templateFile; ///< absolute
-};
-
-struct TargetVerilogConfig : TargetVhdlConfig
-{
-};
+// All kinds have one shape: each uses the fields that its row of targetKinds() has.
+using TargetVhdlConfig = TargetConfig;
+using TargetVerilogConfig = TargetConfig;
+using TargetHexConfig = TargetConfig;
+using TargetMemConfig = TargetConfig;
 
 /// The assembler's settings of a project, with their defaults.
 class AsmFeConfig
@@ -61,10 +48,7 @@ public:
     int behaviorSet = setWarn;
     /// Lives in memory only: no key stores it.
     int behaviorChkIntVector = intVectorWarn;
-    TargetVhdlConfig targetVhdl;
-    TargetVerilogConfig targetVerilog;
-    TargetHexConfig targetHex;
-    TargetMemConfig targetMem;
+    TargetConfig targets[targetKindCount]; ///< indexed by eTargetKind_t
 };
 
 } // namespace nsModAsmFe

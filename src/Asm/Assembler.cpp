@@ -165,7 +165,7 @@ void Assembler::runStages(AsmFeConfig::eAssembleEvent_t event)
 
 bool Assembler::checkEqus()
 {
-    ArgumentChecker arguments(m_words, m_numbers, m_messages);
+    ArgumentChecker arguments(m_numbers, m_messages);
     FormulaResolver formulas(m_program.equs, m_numbers, m_messages);
     StringEncoder strings(m_charsets, m_config, m_numbers, m_messages);
     return EquResolver(m_program.equs, m_words, arguments, formulas, strings, m_numbers, m_messages)
@@ -174,7 +174,7 @@ bool Assembler::checkEqus()
 
 bool Assembler::checkInstructions()
 {
-    ArgumentChecker arguments(m_words, m_numbers, m_messages);
+    ArgumentChecker arguments(m_numbers, m_messages);
     FormulaResolver formulas(m_program.equs, m_numbers, m_messages);
     StringEncoder strings(m_charsets, m_config, m_numbers, m_messages);
     return InstructionChecker(m_program, m_words, arguments, formulas, strings, m_numbers, m_messages)

@@ -4,7 +4,6 @@
 #include "AsmFeActions.h"
 #include "AsmFeConfig.h"
 #include "AsmFeMsgHndlr.h"
-#include "AsmLimits.h"
 #include "AsmRunListener.h"
 #include "Assembler.h"
 #include "ModActionPluginIf.h"
@@ -125,11 +124,8 @@ public:
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
     QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
 
-    static const int maxLineLength = AsmLimits::maxLineLength;
-    const MemRangeList* memRangeList() const { return &m_assembler.program().memRanges; }
+    /// Names that `#IFDEF` knows, in upper case.
     QStringList defines() const { return m_assembler.program().defines.names(); }
-    /// The instruction words, as the name rule and the highlighter know them.
-    const QStringList& instructionWords() const { return m_assembler.words().instructionWords(); }
 
 public slots:
     void handleActions(nsModAsmFe::AsmFeActions::eAction_t action);

@@ -9,7 +9,7 @@ QString ProcTable::regName(int number) const
 
 const sProcSetting_t* ProcTable::settingOfDirective(const QString& name) const
 {
-    for (int i = 0; i < settingsCount; ++i) {
+    for (int i = 0; i < settingRowCount; ++i) {
         const char* directive = settings[i].directive;
         if (*directive != '\0' && name == QLatin1String(directive))
             return &settings[i];

@@ -57,10 +57,10 @@ struct ProcTable
     sSimTraits_t sim;
 
     const sProcSetting_t* settings = nullptr; ///< in the order of the settings page
-    int settingsCount = 0;
+    int settingRowCount = 0;
     ConstList<eSetting_t, settingCount> storedSettings; ///< in the order of the project file
-    ConstList<eSetting_t, settingCount>
-        fixedSettings; ///< what may not change during a simulation, in the order of the checks
+    /// What may not change during a simulation, in the order of the checks.
+    ConstList<eSetting_t, settingCount> fixedSettings;
 
     // To fill the table. The rows live as long as the table.
     template <int N>
@@ -73,7 +73,7 @@ struct ProcTable
     constexpr void setSettings(const sProcSetting_t (&rows)[N])
     {
         settings = rows;
-        settingsCount = N;
+        settingRowCount = N;
     }
 
     /// Row of an instruction; null if the processor does not have it in its sources.
@@ -92,7 +92,7 @@ struct ProcTable
     /// Row of a setting; null if the processor does not have it.
     constexpr const sProcSetting_t* setting(eSetting_t setting) const
     {
-        for (int i = 0; i < settingsCount; ++i) {
+        for (int i = 0; i < settingRowCount; ++i) {
             if (settings[i].setting == setting)
                 return &settings[i];
         }

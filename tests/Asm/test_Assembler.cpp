@@ -113,8 +113,8 @@ protected:
     AssemblerTest()
     {
         messages.modMsgHook = &log;
-        config.targetHex.en = true;
-        config.targetHex.outputFile = dir.filePath("out.hex");
+        config.targets[kindHex].en = true;
+        config.targets[kindHex].outputFile = dir.filePath("out.hex");
         project.dir = dir.path();
         project.fileName = QStringLiteral("test.nalvo");
     }

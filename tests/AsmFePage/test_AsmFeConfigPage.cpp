@@ -115,20 +115,20 @@ TEST_F(AsmFePage, GivesBackWhatItWasGiven)
     config.behaviorEqu = 0;
     config.behaviorSet = 2;
     config.behaviorChkIntVector = 0;
-    config.targetVhdl.en = true;
-    config.targetVhdl.writeFileEventBut1 = false;
-    config.targetVhdl.entityName = "rom";
-    config.targetVhdl.templateFile = dir.filePath("t.vhd");
-    config.targetVhdl.outputFile = dir.filePath("out/o.vhd");
-    config.targetVerilog.writeFileEventSave = true;
-    config.targetVerilog.entityName = "rom_v";
-    config.targetVerilog.outputFile = dir.filePath("o.v");
-    config.targetHex.en = true;
-    config.targetHex.writeFileEventBut2 = false;
-    config.targetHex.outputFile = dir.filePath("o.hex");
-    config.targetMem.gapStuffingEn = false;
-    config.targetMem.writeFileEventSave = true;
-    config.targetMem.outputFile = dir.filePath("o.mem");
+    config.targets[kindVhdl].en = true;
+    config.targets[kindVhdl].writeFileEventBut1 = false;
+    config.targets[kindVhdl].entityName = "rom";
+    config.targets[kindVhdl].templateFile = dir.filePath("t.vhd");
+    config.targets[kindVhdl].outputFile = dir.filePath("out/o.vhd");
+    config.targets[kindVerilog].writeFileEventSave = true;
+    config.targets[kindVerilog].entityName = "rom_v";
+    config.targets[kindVerilog].outputFile = dir.filePath("o.v");
+    config.targets[kindHex].en = true;
+    config.targets[kindHex].writeFileEventBut2 = false;
+    config.targets[kindHex].outputFile = dir.filePath("o.hex");
+    config.targets[kindMem].gapStuffingEn = false;
+    config.targets[kindMem].writeFileEventSave = true;
+    config.targets[kindMem].outputFile = dir.filePath("o.mem");
     page.setConfig(&config, dir.path());
     EXPECT_EQ(outputFile("targetHex")->pathEdit()->text(), "o.hex");
     AsmFeConfig result;
@@ -138,22 +138,22 @@ TEST_F(AsmFePage, GivesBackWhatItWasGiven)
     EXPECT_EQ(result.behaviorEqu, 0);
     EXPECT_EQ(result.behaviorSet, 2);
     EXPECT_EQ(result.behaviorChkIntVector, 0);
-    EXPECT_TRUE(result.targetVhdl.en);
-    EXPECT_FALSE(result.targetVhdl.writeFileEventBut1);
-    EXPECT_TRUE(result.targetVhdl.writeFileEventBut2);
-    EXPECT_EQ(result.targetVhdl.entityName, "rom");
-    EXPECT_EQ(result.targetVhdl.templateFile, dir.filePath("t.vhd"));
-    EXPECT_EQ(result.targetVhdl.outputFile, dir.filePath("out/o.vhd"));
-    EXPECT_FALSE(result.targetVerilog.en);
-    EXPECT_TRUE(result.targetVerilog.writeFileEventSave);
-    EXPECT_EQ(result.targetVerilog.entityName, "rom_v");
-    EXPECT_EQ(result.targetVerilog.outputFile, dir.filePath("o.v"));
-    EXPECT_TRUE(result.targetHex.en);
-    EXPECT_FALSE(result.targetHex.writeFileEventBut2);
-    EXPECT_EQ(result.targetHex.outputFile, dir.filePath("o.hex"));
-    EXPECT_FALSE(result.targetMem.gapStuffingEn);
-    EXPECT_TRUE(result.targetMem.writeFileEventSave);
-    EXPECT_EQ(result.targetMem.outputFile, dir.filePath("o.mem"));
+    EXPECT_TRUE(result.targets[kindVhdl].en);
+    EXPECT_FALSE(result.targets[kindVhdl].writeFileEventBut1);
+    EXPECT_TRUE(result.targets[kindVhdl].writeFileEventBut2);
+    EXPECT_EQ(result.targets[kindVhdl].entityName, "rom");
+    EXPECT_EQ(result.targets[kindVhdl].templateFile, dir.filePath("t.vhd"));
+    EXPECT_EQ(result.targets[kindVhdl].outputFile, dir.filePath("out/o.vhd"));
+    EXPECT_FALSE(result.targets[kindVerilog].en);
+    EXPECT_TRUE(result.targets[kindVerilog].writeFileEventSave);
+    EXPECT_EQ(result.targets[kindVerilog].entityName, "rom_v");
+    EXPECT_EQ(result.targets[kindVerilog].outputFile, dir.filePath("o.v"));
+    EXPECT_TRUE(result.targets[kindHex].en);
+    EXPECT_FALSE(result.targets[kindHex].writeFileEventBut2);
+    EXPECT_EQ(result.targets[kindHex].outputFile, dir.filePath("o.hex"));
+    EXPECT_FALSE(result.targets[kindMem].gapStuffingEn);
+    EXPECT_TRUE(result.targets[kindMem].writeFileEventSave);
+    EXPECT_EQ(result.targets[kindMem].outputFile, dir.filePath("o.mem"));
 }
 
 TEST_F(AsmFePage, CharacterSetThatNobodyKnowsStays)
@@ -191,18 +191,18 @@ TEST_F(AsmFePage, DefaultsAreThoseOfANewConfiguration)
 {
     AsmFeConfig config;
     config.behaviorEqu = 0;
-    config.targetHex.en = true;
-    config.targetMem.gapStuffingEn = false;
+    config.targets[kindHex].en = true;
+    config.targets[kindMem].gapStuffingEn = false;
     page.setConfig(&config, dir.path());
     page.setDefaultConfig();
     AsmFeConfig result;
     page.config(&result);
     EXPECT_EQ(result.behaviorEqu, 1);
     EXPECT_EQ(result.defaultCharset, "UTF-8");
-    EXPECT_FALSE(result.targetHex.en);
-    EXPECT_TRUE(result.targetMem.gapStuffingEn);
-    EXPECT_TRUE(result.targetHex.writeFileEventBut1);
-    EXPECT_FALSE(result.targetHex.writeFileEventSave);
+    EXPECT_FALSE(result.targets[kindHex].en);
+    EXPECT_TRUE(result.targets[kindMem].gapStuffingEn);
+    EXPECT_TRUE(result.targets[kindHex].writeFileEventBut1);
+    EXPECT_FALSE(result.targets[kindHex].writeFileEventSave);
 }
 
 TEST_F(AsmFePage, ChoicesByKeys)
@@ -232,7 +232,7 @@ TEST_F(AsmFePage, SaysThatNothingIsWrittenUntilSomethingIs)
     EXPECT_EQ(hint("targetHex"), "");
     AsmFeConfig result;
     page.config(&result);
-    EXPECT_EQ(result.targetHex.outputFile, dir.filePath("a.hex"));
+    EXPECT_EQ(result.targets[kindHex].outputFile, dir.filePath("a.hex"));
     QTest::keyClick(enable("targetHex"), Qt::Key_Space);
     EXPECT_TRUE(outputHint());
     EXPECT_FALSE(outputFile("targetHex")->isEnabled());
@@ -261,8 +261,8 @@ TEST_F(AsmFePage, EventsAreAGrid)
     QTest::keyClick(box, Qt::Key_Space);
     AsmFeConfig result;
     page.config(&result);
-    EXPECT_TRUE(result.targetHex.writeFileEventSave);
-    EXPECT_FALSE(result.targetMem.writeFileEventSave);
+    EXPECT_TRUE(result.targets[kindHex].writeFileEventSave);
+    EXPECT_FALSE(result.targets[kindMem].writeFileEventSave);
 }
 
 TEST_F(AsmFePage, EventsOfAnOutputThatIsOffAreGreyAndSayThatTheyOnlyWarn)
@@ -290,7 +290,7 @@ TEST_F(AsmFePage, EventsOfAnOutputThatIsOffAreGreyAndSayThatTheyOnlyWarn)
     QTest::keyClick(memOnButton1, Qt::Key_Space);
     AsmFeConfig result;
     page.config(&result);
-    EXPECT_FALSE(result.targetMem.writeFileEventBut1);
+    EXPECT_FALSE(result.targets[kindMem].writeFileEventBut1);
     // Where no event of an output that is off is set, there is nothing to say.
     for (const char* name : {"targetEvent00", "targetEvent01", "targetEvent10", "targetEvent11", "targetEvent31"})
         page.findChild<QCheckBox*>(name)->setChecked(false);
@@ -316,10 +316,10 @@ TEST_F(AsmFePage, LooksLikeThis)
     const QString pictures = QStringLiteral(NALVO_BINARY_DIR "/screenshots");
     QDir().mkpath(pictures);
     AsmFeConfig config;
-    config.targetHex.en = true;
-    config.targetHex.outputFile = dir.filePath("a/rather/long/path/to/the/output/folder/of/the/project/rom.hex");
-    config.targetVhdl.en = true;
-    config.targetVhdl.entityName = "program_rom";
+    config.targets[kindHex].en = true;
+    config.targets[kindHex].outputFile = dir.filePath("a/rather/long/path/to/the/output/folder/of/the/project/rom.hex");
+    config.targets[kindVhdl].en = true;
+    config.targets[kindVhdl].entityName = "program_rom";
     page.setConfig(&config, dir.path());
     EXPECT_TRUE(expectReadable(&pages).save(pictures + "/configPageAssembler.png"));
     pages.resize(720, page.sizeHint().height() + 40);

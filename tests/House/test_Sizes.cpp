@@ -24,8 +24,6 @@ std::string joined(const QStringList& findings)
 const QVector<sAllowed_t> allowedClasses{
     // Fourteen interfaces of other modules demand more than half of the operations.
     {"ModEditor", 157, 27},
-    // A value: the fields that a device has in the source, one a member.
-    {"IODev", 12, 30},
     // Half of the members are the controls of its tool bar.
     {"ProcSimWaveViewer", 31, 29},
 };

@@ -106,10 +106,10 @@ protected:
     {
         const QString kind = GetParam().name;
         if (kind == "vhdl")
-            return &f.asmFe.targetVhdl;
+            return &f.asmFe.targets[kindVhdl];
         if (kind == "verilog")
-            return &f.asmFe.targetVerilog;
-        return kind == "hex" ? static_cast<TargetConfig*>(&f.asmFe.targetHex) : &f.asmFe.targetMem;
+            return &f.asmFe.targets[kindVerilog];
+        return kind == "hex" ? &f.asmFe.targets[kindHex] : &f.asmFe.targets[kindMem];
     }
 
     /// Assembles with this output file. @return the errors
@@ -117,7 +117,7 @@ protected:
     {
         config()->en = true;
         config()->outputFile = file;
-        for (TargetVhdlConfig* hdl : {&f.asmFe.targetVhdl, static_cast<TargetVhdlConfig*>(&f.asmFe.targetVerilog)}) {
+        for (TargetVhdlConfig* hdl : {&f.asmFe.targets[kindVhdl], &f.asmFe.targets[kindVerilog]}) {
             hdl->entityName = "rom";
             hdl->templateFile = templateFile;
         }
@@ -225,8 +225,8 @@ TEST_P(HostileOutput, filesOfTheProjectAreNotOverwritten)
 
 TEST_P(HostileOutput, templateIsNotOverwritten)
 {
-    f.asmFe.targetVhdl.en = true;
-    f.asmFe.targetVhdl.outputFile = f.path("other.vhd");
+    f.asmFe.targets[kindVhdl].en = true;
+    f.asmFe.targets[kindVhdl].outputFile = f.path("other.vhd");
     for (const QString& file : {templateFile, f.path("./template")}) {
         const QStringList errors = write(file);
         ASSERT_EQ(errors.size(), 1);
@@ -237,11 +237,11 @@ TEST_P(HostileOutput, templateIsNotOverwritten)
 
 TEST_P(HostileOutput, twoKindsInOneFile)
 {
-    f.asmFe.targetHex.en = f.asmFe.targetMem.en = true;
-    f.asmFe.targetHex.outputFile = f.asmFe.targetMem.outputFile = f.path("same");
+    f.asmFe.targets[kindHex].en = f.asmFe.targets[kindMem].en = true;
+    f.asmFe.targets[kindHex].outputFile = f.asmFe.targets[kindMem].outputFile = f.path("same");
     config()->en = true;
     config()->outputFile = f.path("same");
-    for (TargetVhdlConfig* hdl : {&f.asmFe.targetVhdl, static_cast<TargetVhdlConfig*>(&f.asmFe.targetVerilog)}) {
+    for (TargetVhdlConfig* hdl : {&f.asmFe.targets[kindVhdl], &f.asmFe.targets[kindVerilog]}) {
         hdl->entityName = "rom";
         hdl->templateFile = templateFile;
     }
@@ -313,8 +313,8 @@ TEST(HostileDeviceFiles, noRunTouchesFilesBeforeItHasSucceeded)
     AsmFixture f;
     f.open();
     f.write("out.hex", "old contents");
-    f.asmFe.targetHex.en = true;
-    f.asmFe.targetHex.outputFile = f.path("out.hex");
+    f.asmFe.targets[kindHex].en = true;
+    f.asmFe.targets[kindHex].outputFile = f.path("out.hex");
     f.run(" NONSENSE\n", ModAsmFe::eEventButton1);
     EXPECT_EQ(f.read("out.hex"), QByteArray("old contents"));
 }

@@ -84,8 +84,8 @@ TEST(PipelineOrder, successWithFiles)
 {
     AsmFixture f;
     f.open();
-    f.asmFe.targetHex.en = true;
-    f.asmFe.targetHex.outputFile = f.path("out.hex");
+    f.asmFe.targets[kindHex].en = true;
+    f.asmFe.targets[kindHex].outputFile = f.path("out.hex");
     EXPECT_TRUE(f.run(program, ModAsmFe::eEventButton1));
     const QStringList outputCalls = {
         "open grpWriteIODevToFile",
@@ -144,8 +144,8 @@ TEST_P(PipelineFailure, stopsTheRun)
     f.be.stage1 = qstrcmp(stage.group, "grpRunBackend1") != 0;
     f.be.stage2 = qstrcmp(stage.group, "grpRunBackend2") != 0;
     f.open();
-    f.asmFe.targetHex.en = true;
-    f.asmFe.targetHex.outputFile = f.path("out.hex");
+    f.asmFe.targets[kindHex].en = true;
+    f.asmFe.targets[kindHex].outputFile = f.path("out.hex");
     EXPECT_FALSE(f.run(stage.source != nullptr ? stage.source : " LOAD s0, 1\n", ModAsmFe::eEventButton1));
     EXPECT_FALSE(f.asmFe.runSucceeded());
     // Groups open and close in pairs: only this one and the outer one close as failures, and no group opens after it.
@@ -193,10 +193,10 @@ TEST(PipelineOrder, failureWhileWriting)
 {
     AsmFixture f;
     f.open();
-    f.asmFe.targetHex.en = true;
-    f.asmFe.targetHex.outputFile = f.path("missing/out.hex");
-    f.asmFe.targetMem.en = true;
-    f.asmFe.targetMem.outputFile = f.path("out.mem");
+    f.asmFe.targets[kindHex].en = true;
+    f.asmFe.targets[kindHex].outputFile = f.path("missing/out.hex");
+    f.asmFe.targets[kindMem].en = true;
+    f.asmFe.targets[kindMem].outputFile = f.path("out.mem");
     f.run(program, ModAsmFe::eEventButton2);
     EXPECT_FALSE(f.asmFe.runSucceeded());
     // The program was assembled, and the back end was notified of that before.

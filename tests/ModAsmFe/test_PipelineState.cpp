@@ -17,17 +17,17 @@ const char* const program = "start: LOAD s0, 1\n JUMP start\n";
 void enableAll(AsmFixture* f)
 {
     f->write("t.vhd", "{begin template}\n{INIT_00}\n");
-    for (TargetVhdlConfig* hdl : {&f->asmFe.targetVhdl, static_cast<TargetVhdlConfig*>(&f->asmFe.targetVerilog)}) {
+    for (TargetVhdlConfig* hdl : {&f->asmFe.targets[kindVhdl], &f->asmFe.targets[kindVerilog]}) {
         hdl->en = true;
         hdl->entityName = "rom";
         hdl->templateFile = f->path("t.vhd");
     }
-    f->asmFe.targetVhdl.outputFile = f->path("out.vhd");
-    f->asmFe.targetVerilog.outputFile = f->path("out.v");
-    f->asmFe.targetHex.en = true;
-    f->asmFe.targetHex.outputFile = f->path("out.hex");
-    f->asmFe.targetMem.en = true;
-    f->asmFe.targetMem.outputFile = f->path("out.mem");
+    f->asmFe.targets[kindVhdl].outputFile = f->path("out.vhd");
+    f->asmFe.targets[kindVerilog].outputFile = f->path("out.v");
+    f->asmFe.targets[kindHex].en = true;
+    f->asmFe.targets[kindHex].outputFile = f->path("out.hex");
+    f->asmFe.targets[kindMem].en = true;
+    f->asmFe.targets[kindMem].outputFile = f->path("out.mem");
 }
 
 void setEvents(TargetConfig* config, bool but1, bool but2, bool save)
@@ -42,10 +42,10 @@ TEST(PipelineEvents, eachWritesItsOwnFiles)
     AsmFixture f;
     f.open();
     enableAll(&f);
-    setEvents(&f.asmFe.targetVhdl, true, false, false);
-    setEvents(&f.asmFe.targetVerilog, false, true, false);
-    setEvents(&f.asmFe.targetHex, true, true, true);
-    setEvents(&f.asmFe.targetMem, false, false, true);
+    setEvents(&f.asmFe.targets[kindVhdl], true, false, false);
+    setEvents(&f.asmFe.targets[kindVerilog], false, true, false);
+    setEvents(&f.asmFe.targets[kindHex], true, true, true);
+    setEvents(&f.asmFe.targets[kindMem], false, false, true);
     const struct
     {
         ModAsmFe::eAssembleEvent_t event;
@@ -69,9 +69,8 @@ TEST(PipelineEvents, nothingToWriteStillRunsPrograms)
 {
     AsmFixture f;
     f.open();
-    for (TargetConfig* config :
-         {static_cast<TargetConfig*>(&f.asmFe.targetVhdl), static_cast<TargetConfig*>(&f.asmFe.targetVerilog),
-          static_cast<TargetConfig*>(&f.asmFe.targetHex), static_cast<TargetConfig*>(&f.asmFe.targetMem)})
+    for (TargetConfig* config : {&f.asmFe.targets[kindVhdl], &f.asmFe.targets[kindVerilog], &f.asmFe.targets[kindHex],
+                                 &f.asmFe.targets[kindMem]})
         setEvents(config, false, true, true);
     EXPECT_TRUE(f.run(program, ModAsmFe::eEventButton1));
     EXPECT_TRUE(f.msg.infos().contains("Nothing todo for event"));

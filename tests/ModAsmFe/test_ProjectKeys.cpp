@@ -83,11 +83,11 @@ TEST(ProjectKeys, everyKeySurvivesOpeningAndSaving)
     f.prj.tree.values = values;
     f.open();
     // In memory the paths are absolute.
-    EXPECT_EQ(f.asmFe.targetVhdl.templateFile, f.path("sub/vhdltemplateFile.x"));
-    EXPECT_EQ(f.asmFe.targetMem.outputFile, f.path("sub/memoutputFile.x"));
-    EXPECT_EQ(f.asmFe.targetVerilog.entityName, QString("name_verilog"));
-    EXPECT_TRUE(f.asmFe.targetHex.en);
-    EXPECT_FALSE(f.asmFe.targetMem.gapStuffingEn);
+    EXPECT_EQ(f.asmFe.targets[kindVhdl].templateFile, f.path("sub/vhdltemplateFile.x"));
+    EXPECT_EQ(f.asmFe.targets[kindMem].outputFile, f.path("sub/memoutputFile.x"));
+    EXPECT_EQ(f.asmFe.targets[kindVerilog].entityName, QString("name_verilog"));
+    EXPECT_TRUE(f.asmFe.targets[kindHex].en);
+    EXPECT_FALSE(f.asmFe.targets[kindMem].gapStuffingEn);
     EXPECT_EQ(f.asmFe.behaviorEqu, 2);
     f.prj.tree.values.clear();
     f.prj.savePrjCfg();
@@ -100,7 +100,7 @@ TEST(ProjectKeys, pathsOutsideOfTheProject)
     f.prj.tree.set("AsmFe/target/hex/outputFile", QString("/somewhere/else.hex"));
     f.prj.tree.set("AsmFe/target/mem/outputFile", QString("../up.mem"));
     f.open();
-    EXPECT_EQ(f.asmFe.targetHex.outputFile, QString("/somewhere/else.hex"));
+    EXPECT_EQ(f.asmFe.targets[kindHex].outputFile, QString("/somewhere/else.hex"));
     f.prj.savePrjCfg();
     EXPECT_EQ(QDir::cleanPath(f.path(f.prj.tree.get("AsmFe/target/hex/outputFile", QString()))),
               QString("/somewhere/else.hex"));
@@ -119,8 +119,8 @@ TEST(ProjectKeys, aProjectDoesNotInheritFromTheOneBefore)
     f.prj.close();
     f.open();
     EXPECT_FALSE(f.asmFe.setOverwriteBehaviorError());
-    EXPECT_FALSE(f.asmFe.targetHex.en);
-    EXPECT_TRUE(f.asmFe.targetHex.outputFile.isEmpty());
+    EXPECT_FALSE(f.asmFe.targets[kindHex].en);
+    EXPECT_TRUE(f.asmFe.targets[kindHex].outputFile.isEmpty());
     // This one belongs to the program and not to the project.
     EXPECT_EQ(f.asmFe.asmBehaviorChkIntVector(), 2);
     for (const QString& key : f.prj.saved.values.keys())
@@ -180,10 +180,10 @@ protected:
     {
         f.open();
         f.be.pageSize = 16;
-        f.asmFe.targetVhdl.en = true;
-        f.asmFe.targetVhdl.entityName = "rom";
-        f.asmFe.targetVhdl.templateFile = f.write("t.vhd", "{begin template}\n{INIT_00}\n" + line + "\n");
-        f.asmFe.targetVhdl.outputFile = f.path("out.vhd");
+        f.asmFe.targets[kindVhdl].en = true;
+        f.asmFe.targets[kindVhdl].entityName = "rom";
+        f.asmFe.targets[kindVhdl].templateFile = f.write("t.vhd", "{begin template}\n{INIT_00}\n" + line + "\n");
+        f.asmFe.targets[kindVhdl].outputFile = f.path("out.vhd");
         EXPECT_TRUE(f.run(" LOAD s0, 1\n", ModAsmFe::eEventButton1)) << f.msg.dump().toStdString();
         return f.read("out.vhd").split('\n').value(1);
     }

@@ -1,6 +1,5 @@
 #include "TemplateProgram.h"
 
-#include "CfgTree.h"
 #include "EditorSupportMenu.h"
 #include "Label.h"
 #include "LabelList.h"
@@ -78,48 +77,11 @@ QString TemplateFile::source() const
 }
 
 TemplateProgram::TemplateProgram(const QString& source, const QString& processor, bool needsVector)
+    : m_text(processor)
 {
-    QFile file(m_dir.filePath("main.psm"));
-    if (!file.open(QIODevice::WriteOnly) || file.write(source.toLatin1()) < 0)
-        return;
-    file.close();
-    CfgTree tree(nullptr);
-    tree.setValue("sources/srcFiles", QStringList({"main.psm"}));
-    tree.setValue("ModProcessor/processor", processor);
-    if (!m_prj.savePrjFile(&tree, m_dir.filePath("case.nalvo")))
-        return;
-    const QList<ModPluginIf*> modules = {&m_prj, &m_sources, &m_processor, &m_asmFe};
-    m_msg.attach(static_cast<ModMsgPluginIf*>(&m_prj));
-    m_msg.attach(static_cast<ModMsgPluginIf*>(&m_sources));
-    m_msg.attach(static_cast<ModMsgPluginIf*>(&m_processor));
-    m_msg.attach(static_cast<ModMsgPluginIf*>(&m_asmFe));
-    for (ModPluginIf* module : modules)
-        module->modRegisterPlugins(modules);
-    m_asmFe.modInit();
-    m_asmFe.modInitIntermod();
-    m_asmFe.setAssembleOnChange(false);
-    if (!m_prj.openPrj(m_dir.filePath("case.nalvo")))
-        return;
-    m_msg.dropOnClear = false;
-    m_asmFe.behaviorChkIntVector = needsVector ? 0 : 2;
-    m_asmFe.assemble(nsModAsmFe::ModAsmFe::eAssembleEvent_t(0));
-}
-
-TemplateProgram::~TemplateProgram()
-{
-    m_processor.prjClose();
-    m_asmFe.modExitIntermod();
-    m_asmFe.modExit();
-}
-
-QStringList TemplateProgram::complaints() const
-{
-    QStringList lines;
-    for (const FakeMsgHook::Entry& entry : m_msg.messages()) {
-        if (entry.type != ModMsgHookIf::eMsgInfo)
-            lines.append(QString("line %1: %2 %3").arg(entry.line() + 1).arg(entry.key(), entry.text));
-    }
-    return lines;
+    using nsModAsmFe::AsmFeConfig;
+    m_text.config.behaviorChkIntVector = needsVector ? AsmFeConfig::intVectorError : AsmFeConfig::intVectorSilent;
+    m_isAssembled = m_text.assemble(source.toLatin1());
 }
 
 nsModAsmFe::Opcode* TemplateProgram::entry(const QString& routine)
@@ -127,6 +89,6 @@ nsModAsmFe::Opcode* TemplateProgram::entry(const QString& routine)
     const int split = routine.lastIndexOf("::");
     const QString nameSpace = split < 0 ? QString() : routine.left(split);
     const QString name = split < 0 ? routine : routine.mid(split + 2);
-    const nsModAsmFe::Label* label = m_asmFe.labelList()->find(nameSpace, name);
-    return label != nullptr ? m_asmFe.opcodeList()->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo) : nullptr;
+    const nsModAsmFe::Label* label = m_text.program().labels.find(nameSpace, name);
+    return label != nullptr ? opcodes()->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo) : nullptr;
 }

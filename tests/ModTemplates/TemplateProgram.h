@@ -1,14 +1,8 @@
 #pragma once
 
-#include "FakeMsgHook.h"
-
-#include "ModAsmFe.h"
-#include "ModPrj.h"
-#include "ModProcessor.h"
-#include "ModSources.h"
+#include "AsmText.h"
 
 #include <QStringList>
-#include <QTemporaryDir>
 
 /// A template file: what its free text says, and what it inserts.
 struct TemplateFile
@@ -31,25 +25,20 @@ struct TemplateFile
     QString inserted;
 };
 
-/// A source, assembled with the real modules.
+/// The source around a template, assembled.
 class TemplateProgram
 {
 public:
     TemplateProgram(const QString& source, const QString& processor, bool needsVector);
-    ~TemplateProgram();
 
-    bool isAssembled() { return m_asmFe.isAssembled(); }
+    bool isAssembled() const { return m_isAssembled; }
     /// All errors and warnings, one line each.
-    QStringList complaints() const;
+    QStringList complaints() const { return m_text.complaints(); }
     /// The first instruction of a routine, or null.
     nsModAsmFe::Opcode* entry(const QString& routine);
-    nsModAsmFe::OpcodeList* opcodes() { return m_asmFe.opcodeList(); }
+    nsModAsmFe::OpcodeList* opcodes() { return &m_text.program().opcodes; }
 
 private:
-    QTemporaryDir m_dir;
-    FakeMsgHook m_msg;
-    nsModPrj::ModPrj m_prj;
-    nsModSources::ModSources m_sources;
-    nsModAsmFe::ModAsmFe m_asmFe;
-    nsModProcessor::ModProcessor m_processor;
+    AsmText m_text;
+    bool m_isAssembled;
 };

@@ -4,6 +4,7 @@
 #include "Encodings.h"
 #include "InstrSetTest.h"
 #include "ProcDisassembler.h"
+#include "ProcList.h"
 #include "ProcRun.h"
 #include "ProcTables.h"
 #include "Processor.h"
@@ -218,6 +219,36 @@ TEST_F(ProcessorTest, EachHasItsNamesAndKeepsItsSettings)
     }
     EXPECT_EQ(names, QStringList({"Lattice Mico8 v3.x", "Xilinx PicoBlaze 6", "Xilinx PicoBlaze 3"}));
     EXPECT_EQ(nsProc::procTable("PicoBlaze"), nullptr);
+    names.sort();
+    EXPECT_EQ(nsModProcessor::ProcList().nameList(), names) << "each table has a shell";
+}
+
+/// Settings that only write down which keys are written.
+class KeyLog : public FakePrjHook
+{
+public:
+    using FakePrjHook::setValue;
+    void setValue(QString key, QString) override { keys.append(key); }
+    void setValue(QString key, int) override { keys.append(key); }
+
+    QStringList keys;
+};
+
+TEST_F(ProcessorTest, WritesItsKeysInTheOrderOfTheFile)
+{
+    const QHash<QString, QString> expected = {
+        {"XPBlze3", "clkFreq memMap/pageSize"},
+        {"XPBlze6", "scrpdSize intVectorAddr clkFreq memMap/pageSize"},
+        {"LMico8v3x", "scrpdSize clkFreq instrClkCnt regCount memMap/pageSize"},
+    };
+    for (const ProcTable* table : nsProc::procTables()) {
+        KeyLog log;
+        Processor(*table).writeSettings(&log);
+        QStringList keys;
+        for (const QString& key : expected.value(table->cfgSection).split(' '))
+            keys.append(QString(table->cfgSection) + '/' + key);
+        EXPECT_EQ(log.keys, keys);
+    }
 }
 
 TEST_F(ProcessorTest, OfAProject)

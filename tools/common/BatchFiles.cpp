@@ -40,9 +40,10 @@ bool isSameTarget(const QString& name, const QString& other)
 ProjectFiles::ProjectFiles(const QString& project, const QStringList& sources, const nsModAsmFe::IODevList& devices)
 {
     m_files << project << sources;
-    for (const nsModAsmFe::IODev* dev : devices.devices())
-        m_files << dev->vhdlTemplateFile << dev->vhdlTargetFile << dev->verilogTemplateFile << dev->verilogTargetFile
-                << dev->hexTargetFile << dev->memTargetFile;
+    for (const nsModAsmFe::IODev* dev : devices.devices()) {
+        for (const nsModAsmFe::TargetFile& target : dev->targets)
+            m_files << target.templateFile << target.outputFile;
+    }
 }
 
 bool ProjectFiles::contains(const QString& file) const

@@ -1,9 +1,9 @@
 #include "SimDump.h"
 
 #include "AsmFeFileHndlr.h"
+#include "AsmProgram.h"
 #include "BatchOutput.h"
 #include "Opcode.h"
-#include "OpcodeList.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
@@ -80,7 +80,7 @@ QJsonArray callStack(const SimProject& project, const nsProc::ProcSimCallStackDa
 {
     QJsonArray items;
     for (const nsProc::sCallStackItem_t& item : stack.items()) {
-        QJsonObject object = place(project, project.opcodes->nextOfLineIndex(item.lineIndex));
+        QJsonObject object = place(project, project.program->opcodes.nextOfLineIndex(item.lineIndex));
         object.insert("label", nsBatch::readable(item.label));
         object.insert("address", item.pc);
         object.insert("carry", int(item.carry));

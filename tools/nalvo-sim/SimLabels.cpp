@@ -1,10 +1,9 @@
 #include "SimLabels.h"
 
+#include "AsmProgram.h"
 #include "BatchOutput.h"
 #include "Label.h"
-#include "LabelList.h"
 #include "Opcode.h"
-#include "OpcodeList.h"
 #include "SimProject.h"
 #include "SymbolHash.h"
 
@@ -85,15 +84,15 @@ Opcode* opcodeOfLabel(const SimProject& project, const QString& name, QString* f
         bytes.remove(0, 2);
     const int colons = bytes.lastIndexOf("::");
     const QString nameSpace = colons < 0 ? QString() : bytes.left(colons);
-    const Label* label = project.labels->find(nameSpace, withoutNameSpace(bytes));
+    const Label* label = project.program->labels.find(nameSpace, withoutNameSpace(bytes));
     if (label == nullptr) {
         *failure = tr("No such label: %1").arg(name);
-        const QStringList near = nearNames(project.labels->nameList(), bytes);
+        const QStringList near = nearNames(project.program->labels.nameList(), bytes);
         if (!near.isEmpty())
             *failure += tr(" (near: %1)").arg(nsBatch::readable(near.join(", ")));
         return nullptr;
     }
-    Opcode* opcode = project.opcodes->nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
+    Opcode* opcode = project.program->opcodes.nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
     if (opcode == nullptr)
         *failure = tr("No instruction stands at or behind the label: %1").arg(name);
     return opcode;

@@ -5,10 +5,7 @@
 namespace nsModAsmFe {
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
-class EquList;
-class IODevList;
-class LabelList;
-class OpcodeList;
+struct AsmProgram;
 } // namespace nsModAsmFe
 namespace nsProc {
 struct ProcTable;
@@ -19,10 +16,7 @@ namespace nsNalvoSim {
 /// What a run needs of an assembled project. Nothing is owned.
 struct SimProject
 {
-    nsModAsmFe::OpcodeList* opcodes = nullptr;
-    const nsModAsmFe::EquList* equs = nullptr;
-    const nsModAsmFe::LabelList* labels = nullptr;
-    const nsModAsmFe::IODevList* ioDevs = nullptr;
+    nsModAsmFe::AsmProgram* program = nullptr;
     const nsModAsmFe::AsmFeFileHndlr* files = nullptr;
     const nsModAsmFe::AsmFeMsgHndlr* links = nullptr; ///< makes the links of messages
     const nsProc::ProcTable* processor = nullptr;

@@ -4,14 +4,12 @@
 #include "AsmFeMsgHndlr.h"
 #include "BatchOutput.h"
 #include "Opcode.h"
-#include "OpcodeList.h"
-#include "ProcShell.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
-#include "ProcTables.h"
+#include "ProcTable.h"
 #include "SimLabels.h"
 #include "SimStop.h"
 
@@ -56,14 +54,14 @@ BatchMsgStyle style(const SimOptions& options)
 
 SimRun::SimRun(const SimOptions& options)
     : m_options(options)
-    , m_modules(BatchModules::create(style(options)))
+    , m_batch(BatchProject::create(style(options)))
 {
 }
 
 int SimRun::run()
 {
     const QString project = m_options.project.isEmpty() ? QString() : QFileInfo(m_options.project).absoluteFilePath();
-    if (!m_modules.prj.openPrj(project))
+    if (!m_batch.open(project))
         return exitWrongUsage;
     if (!assemble()) {
         if (!m_options.quiet)
@@ -85,24 +83,17 @@ int SimRun::run()
 
 bool SimRun::assemble()
 {
-    m_modules.asmFe.assemble(nsModAsmFe::ModAsmFe::eEventNone);
+    m_batch.assemble(nsModAsmFe::AsmFeConfig::eEventNone);
     // As in the window: after errors, a program that was assembled nevertheless can run.
-    if (!m_modules.asmFe.isAssembled())
+    if (!m_batch.assembler().isAssembled())
         return false;
-    auto* shell = dynamic_cast<nsProc::ProcShell*>(m_modules.processor.currentProcessor());
-    if (shell == nullptr) {
-        m_modules.msg.showErrorMessage(tr("The project has no processor that can be simulated."), QUrl(), {});
+    const nsProc::Processor* processor = m_batch.processor();
+    if (processor == nullptr) {
+        m_batch.msg().showErrorMessage(tr("The project has no processor that can be simulated."), QUrl(), {});
         return false;
     }
-    nsModAsmFe::ModAsmFe& asmFe = m_modules.asmFe;
-    m_project = {asmFe.opcodeList(),
-                 asmFe.equList(),
-                 asmFe.labelList(),
-                 asmFe.ioDevList(),
-                 asmFe.fileHndlr(),
-                 asmFe.msgHndlr(),
-                 nsProc::procTable(shell->processorName()),
-                 *shell->runConfig()};
+    m_project = {&m_batch.assembler().program(), &m_batch.sources(), &m_batch.asmMsg(), &processor->table(),
+                 *processor->runConfig()};
     return true;
 }
 
@@ -138,7 +129,7 @@ bool SimRun::openReads()
 
 bool SimRun::openOutputs(const QString& project)
 {
-    const ProjectFiles taken(project, m_modules.asmFe.fileHndlr()->files(), *m_modules.asmFe.ioDevList());
+    const ProjectFiles taken(project, m_batch.sources().files(), m_project.program->ioDevs);
     for (const QString& name : m_options.outputFiles()) {
         if (taken.contains(name)) {
             printError(tr("File of the project would be overwritten: %1").arg(name));
@@ -160,10 +151,10 @@ bool SimRun::openOutput(OutputFile* file, const QString& name)
 bool SimRun::startSim()
 {
     m_engine = std::make_unique<nsProc::ProcSimEngine>(m_project.processor, m_project.config);
-    m_engine->load(m_project.opcodes);
+    m_engine->load(&m_project.program->opcodes);
     nsProc::SimOutcome outcome;
-    const bool success = m_engine->initIODevices(*m_project.ioDevs, &outcome) &&
-                         m_engine->setProgramCounter(m_project.opcodes->opcodeOfMemAddr(0), &outcome);
+    const bool success = m_engine->initIODevices(m_project.program->ioDevs, &outcome) &&
+                         m_engine->setProgramCounter(m_project.program->opcodes.opcodeOfMemAddr(0), &outcome);
     show(outcome);
     if (!success) {
         const QString key = outcome.last()->key();
@@ -183,7 +174,7 @@ bool SimRun::startSim()
         m_waves = std::make_shared<ProcSimWaveData>(0);
         m_recorder = std::make_unique<nsProc::ProcSimWaveRecorder>(m_waves, m_engine->clock());
         m_recorder->watchAll([this](int addr, ProcSimWaveData::eAccessType_t access) {
-            return nsProc::ProcSimPortNames::nameOf(*m_project.opcodes, *m_project.equs, addr,
+            return nsProc::ProcSimPortNames::nameOf(m_project.program->opcodes, m_project.program->equs, addr,
                                                     access == ProcSimWaveData::eAccessWr);
         });
         m_engine->addObserver(m_recorder.get());
@@ -304,7 +295,7 @@ void SimRun::show(const nsProc::SimOutcome& outcome) const
 
 void SimRun::show(const nsProc::sSimReport_t& report) const
 {
-    BatchMsg& msg = m_modules.msg;
+    BatchMsg& msg = m_batch.msg();
     switch (report.kind) {
     case nsProc::sSimReport_t::eKindUnsupported:
         nsModAsmFe::AsmFeMsgHndlr::showMsg(&msg, nsModAsmFe::errOcUnsupported, link(m_engine->programCounter()),
@@ -375,7 +366,7 @@ void SimRun::endByReads(int port)
     QUrl help;
     help.setFragment(key);
     const Opcode* opcode = m_engine->programCounter();
-    m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: %3.")
+    m_batch.msg().showErrorMessage(tr("No value for the read of port %1 at address %2: %3.")
                                        .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3), why),
                                    help, link(opcode));
     setEnd(SimEnd::endReads, tr("no value to read") + place(), key);
@@ -385,7 +376,7 @@ void SimRun::endByReads(int port)
 void SimRun::reportUnreadPort(int port) const
 {
     const Opcode* opcode = m_engine->programCounter();
-    m_modules.msg.showErrorMessage(tr("No value for the read of port %1 at address %2: its device has none.")
+    m_batch.msg().showErrorMessage(tr("No value for the read of port %1 at address %2: its device has none.")
                                        .arg("0x" + hexText(port, 2), hexText(opcode->pageAddr, 3)),
                                    QUrl(), link(opcode));
 }

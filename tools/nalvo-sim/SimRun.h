@@ -1,7 +1,7 @@
 #pragma once
 
 #include "BatchFiles.h"
-#include "BatchModules.h"
+#include "BatchProject.h"
 #include "ProcSimEngine.h"
 #include "ProcSimWaveRecorder.h"
 #include "SimDump.h"
@@ -61,7 +61,7 @@ private:
     int exitStatus() const;
 
     SimOptions m_options;
-    nsBatch::BatchModules& m_modules;
+    nsBatch::BatchProject& m_batch;
     SimProject m_project;
     SimPortReads m_reads;
     std::unique_ptr<SimTrace> m_tracer; ///< null without a trace

@@ -40,7 +40,7 @@ public:
     void scrpdWritten(int addr, int value) override { event('S', addr, value & 0xFF); }
 
 private:
-    static constexpr int pieceSize = 1 << 16;
+    static constexpr int pieceSize = 1 << 18;
     /// The events of one instruction take far less.
     static constexpr int reserve = 1 << 10;
 

@@ -4,7 +4,6 @@
 #include "AsmFeFormula.h"
 #include "AsmFeMsgHndlr.h"
 #include "AsmFeParseArg.h"
-#include "AsmWords.h"
 #include "Opcode.h"
 
 #include <QRegExp>
@@ -24,9 +23,8 @@ int swapped(int value, int bytes)
 
 } // namespace
 
-ArgumentChecker::ArgumentChecker(const AsmWords& words, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
-    : m_words(words)
-    , m_numbers(numbers)
+ArgumentChecker::ArgumentChecker(const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+    : m_numbers(numbers)
     , m_messages(messages)
 {
 }
@@ -78,19 +76,19 @@ bool ArgumentChecker::refuseArgExt(const SrcReference* srcRef, const ArgExt* ext
     return true;
 }
 
-bool ArgumentChecker::syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+bool ArgumentChecker::syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext, int number)
 {
     arg->type = Arg::reg;
     arg->strValue = arg->name;
-    arg->iValue = m_words.regs().value(arg->name);
+    arg->iValue = number;
     return refuseArgExt(srcRef, ext, false);
 }
 
-bool ArgumentChecker::syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext)
+bool ArgumentChecker::syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext, int number)
 {
     arg->type = Arg::regBank;
     arg->strValue = arg->name;
-    arg->iValue = m_words.banks().value(arg->name);
+    arg->iValue = number;
     return refuseArgExt(srcRef, ext, true);
 }
 

@@ -9,7 +9,6 @@ namespace nsModAsmFe {
 class ArgExt;
 class AsmFeMsgHndlr;
 class AsmFeParseArg;
-class AsmWords;
 class Opcode;
 struct SrcReference;
 
@@ -19,13 +18,15 @@ struct SrcReference;
 class ArgumentChecker
 {
 public:
-    /// @param words read: registers and banks
-    ArgumentChecker(const AsmWords& words, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+    /// @param numbers converts literals
+    ArgumentChecker(const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
 
     // Each of these returns false after a reported error.
     bool syntacticsCheckArgNumeric(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
-    bool syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
-    bool syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext);
+    /// @param number of the register, as the caller has looked it up
+    bool syntacticsCheckArgReg(const SrcReference* srcRef, Arg* arg, ArgExt* ext, int number);
+    /// @param number of the bank
+    bool syntacticsCheckArgBankName(const SrcReference* srcRef, Arg* arg, ArgExt* ext, int number);
     bool syntacticsCheckArgType(const SrcReference* srcRef, Arg* arg, ArgExt* ext, Arg::eArgType_t type);
     /// Registers in parentheses are references.
     bool syntacticsCheckOpcodeArgumentRegRef(Opcode* opcode);
@@ -38,7 +39,6 @@ public:
 private:
     bool refuseArgExt(const SrcReference* srcRef, const ArgExt* ext, bool parenthesesToo);
 
-    const AsmWords& m_words;
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
 };

@@ -7,7 +7,10 @@
 #include "AsmProjectInfo.h"
 #include "Opcode.h"
 #include "StringEncoder.h"
+#include "TargetKinds.h"
 
+#include <algorithm>
+#include <iterator>
 #include <memory>
 
 namespace nsModAsmFe {
@@ -37,7 +40,8 @@ bool DeviceBuilder::setupIODevs()
         dev->devName = set->nameSpace;
         dev->devNameUpper = set->nameSpaceUpper;
         dev->en = true;
-        dev->memGapStuffingEn = false;
+        for (TargetFile& target : dev->targets)
+            target.gapStuffingEn = false;
         m_devSrcRef = &set->srcRef;
         if (setupIODev(dev.get()))
             m_ioDevs.append(dev.release());
@@ -53,8 +57,9 @@ bool DeviceBuilder::setupIODev(IODev* dev)
 {
     return setupIODevAttrSize(dev) && setupIODevAttrBaseAddr(dev) && setupIODevAttrInitValue(dev) &&
            setupIODevAttrSimAccessMode(dev) && setupIODevAttrSimEn(dev) && setupIODevAttrType(dev) &&
-           m_values.setupIODevAttrValues(dev) && setupIODevAttrTargetVhdl(dev) && setupIODevAttrTargetVerilog(dev) &&
-           setupIODevAttrTargetHex(dev) && setupIODevAttrTargetMem(dev);
+           m_values.setupIODevAttrValues(dev) &&
+           std::all_of(std::begin(targetKinds()), std::end(targetKinds()),
+                       [&](const sTargetKind_t& kind) { return setupIODevAttrTarget(dev, kind); });
 }
 
 bool DeviceBuilder::setupIODevSetNumeric(Set* set, int* value)
@@ -188,79 +193,41 @@ bool DeviceBuilder::setupIODevAttrType(IODev* dev)
     return true;
 }
 
-bool DeviceBuilder::setupIODevAttrTargetEn(IODev* dev, const QString& kind, bool* en)
+bool DeviceBuilder::setupIODevAttrTarget(IODev* dev, const sTargetKind_t& kind)
 {
-    Set* set = m_sets.find(dev->devName, kind.toUpper() + "EN");
-    return set == nullptr || setupIODevSetBoolean(set, en);
-}
-
-bool DeviceBuilder::setupIODevAttrTargetFile(IODev* dev, const QString& kind, QString* file)
-{
-    Set* set = m_sets.find(dev->devName, kind.toUpper() + "TARGETFILE");
-    return set == nullptr || setupIODevSetPath(set, file);
-}
-
-bool DeviceBuilder::setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity,
-                                            QString* templateFile, QString* targetFile)
-{
-    const QString prefix = kind.toUpper();
-    Set* entitySet = m_sets.find(dev->devName, prefix + "ENTITYNAME");
-    Set* templateSet = m_sets.find(dev->devName, prefix + "TMPLFILE");
-    if (!setupIODevAttrTargetEn(dev, kind, en) || (entitySet != nullptr && !setupIODevSetString(entitySet, entity)) ||
-        (templateSet != nullptr && !setupIODevSetPath(templateSet, templateFile)) ||
-        !setupIODevAttrTargetFile(dev, kind, targetFile))
+    TargetFile& target = dev->targets[kind.kind];
+    const auto parameter = [&](const char* name) {
+        return m_sets.find(dev->devName, QString::fromLatin1(kind.setName).toUpper() + QLatin1String(name));
+    };
+    const auto isTaken = [](Set* set, const auto& take) { return set == nullptr || take(set); };
+    if (!isTaken(parameter("EN"), [&](Set* set) { return setupIODevSetBoolean(set, &target.en); }))
         return false;
-    if (!*en)
-        return true;
-    if (entity->isEmpty())
-        m_messages.signMsg(errIODevMissingEntityName, m_devSrcRef, kind, dev->devName);
-    else if (templateFile->isEmpty())
-        m_messages.signMsg(errIODevMissingTemplateFile, m_devSrcRef, kind, dev->devName);
-    else if (targetFile->isEmpty())
-        m_messages.signMsg(errIODevMissingTargetFile, m_devSrcRef, kind, dev->devName);
+    if (kind.hasTemplate && (!isTaken(parameter("ENTITYNAME"), [&](Set* set) {
+            return setupIODevSetString(set, &target.entityName);
+        }) || !isTaken(parameter("TMPLFILE"), [&](Set* set) { return setupIODevSetPath(set, &target.templateFile); })))
+        return false;
+    if (!isTaken(parameter("TARGETFILE"), [&](Set* set) { return setupIODevSetPath(set, &target.outputFile); }))
+        return false;
+    if (kind.hasGapStuffing &&
+        !isTaken(parameter("GAPSTUFFING"), [&](Set* set) { return setupIODevSetBoolean(set, &target.gapStuffingEn); }))
+        return false;
+    return !target.en || checkTarget(dev, kind);
+}
+
+/// @return an output of the device has all that it needs; else reported
+bool DeviceBuilder::checkTarget(const IODev* dev, const sTargetKind_t& kind)
+{
+    const TargetFile& target = dev->targets[kind.kind];
+    const QString name = QString::fromLatin1(kind.setName);
+    if (kind.hasTemplate && target.entityName.isEmpty())
+        m_messages.signMsg(errIODevMissingEntityName, m_devSrcRef, name, dev->devName);
+    else if (kind.hasTemplate && target.templateFile.isEmpty())
+        m_messages.signMsg(errIODevMissingTemplateFile, m_devSrcRef, name, dev->devName);
+    else if (target.outputFile.isEmpty())
+        m_messages.signMsg(errIODevMissingTargetFile, m_devSrcRef, name, dev->devName);
     else
         return true;
     return false;
-}
-
-bool DeviceBuilder::setupIODevAttrTargetVhdl(IODev* dev)
-{
-    return setupIODevAttrTargetHdl(dev, "VHDL", &dev->targetVhdlEn, &dev->vhdlEntityName, &dev->vhdlTemplateFile,
-                                   &dev->vhdlTargetFile);
-}
-
-bool DeviceBuilder::setupIODevAttrTargetVerilog(IODev* dev)
-{
-    return setupIODevAttrTargetHdl(dev, "Verilog", &dev->targetVerilogEn, &dev->verilogEntityName,
-                                   &dev->verilogTemplateFile, &dev->verilogTargetFile);
-}
-
-bool DeviceBuilder::setupIODevAttrTargetHex(IODev* dev)
-{
-    if (!setupIODevAttrTargetEn(dev, "HEX", &dev->targetHexEn) ||
-        !setupIODevAttrTargetFile(dev, "HEX", &dev->hexTargetFile))
-        return false;
-    if (!dev->targetHexEn || !dev->hexTargetFile.isEmpty())
-        return true;
-    m_messages.signMsg(errIODevMissingTargetFile, m_devSrcRef, "HEX", dev->devName);
-    return false;
-}
-
-bool DeviceBuilder::setupIODevAttrTargetMem(IODev* dev)
-{
-    if (!setupIODevAttrTargetEn(dev, "MEM", &dev->targetMemEn) ||
-        !setupIODevAttrTargetFile(dev, "MEM", &dev->memTargetFile) || !setupIODevAttrTargetMemGapStuffing(dev))
-        return false;
-    if (!dev->targetMemEn || !dev->memTargetFile.isEmpty())
-        return true;
-    m_messages.signMsg(errIODevMissingTargetFile, m_devSrcRef, "MEM", dev->devName);
-    return false;
-}
-
-bool DeviceBuilder::setupIODevAttrTargetMemGapStuffing(IODev* dev)
-{
-    Set* set = m_sets.find(dev->devName, "MEMGAPSTUFFING");
-    return set == nullptr || setupIODevSetBoolean(set, &dev->memGapStuffingEn);
 }
 
 bool DeviceBuilder::setupIODevDefault()
@@ -272,19 +239,8 @@ bool DeviceBuilder::setupIODevDefault()
     dev->instMem = true;
     dev->devType = IODev::mem;
     dev->memSize = m_geometry.pageSize * m_geometry.pageCount;
-    dev->targetVhdlEn = m_config.targetVhdl.en;
-    dev->vhdlEntityName = m_config.targetVhdl.entityName;
-    dev->vhdlTemplateFile = m_config.targetVhdl.templateFile;
-    dev->vhdlTargetFile = m_config.targetVhdl.outputFile;
-    dev->targetVerilogEn = m_config.targetVerilog.en;
-    dev->verilogEntityName = m_config.targetVerilog.entityName;
-    dev->verilogTemplateFile = m_config.targetVerilog.templateFile;
-    dev->verilogTargetFile = m_config.targetVerilog.outputFile;
-    dev->targetHexEn = m_config.targetHex.en;
-    dev->hexTargetFile = m_config.targetHex.outputFile;
-    dev->targetMemEn = m_config.targetMem.en;
-    dev->memTargetFile = m_config.targetMem.outputFile;
-    dev->memGapStuffingEn = m_config.targetMem.gapStuffingEn;
+    for (int kind = 0; kind < targetKindCount; ++kind)
+        dev->targets[kind] = m_config.targets[kind];
     dev->initDevice();
     m_ioDevs.append(dev);
 

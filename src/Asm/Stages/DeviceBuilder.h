@@ -18,6 +18,7 @@ struct AsmMemGeometry;
 struct AsmProgram;
 struct AsmProjectInfo;
 struct SrcReference;
+struct sTargetKind_t;
 
 /// IO devices: their declaration, their parameters, and the device that takes the program where no source declares one.
 /// One object builds the devices of one run.
@@ -42,15 +43,8 @@ private:
     bool setupIODevAttrSimEn(IODev* dev);
     bool setupIODevAttrSimAccessMode(IODev* dev);
     bool setupIODevAttrType(IODev* dev);
-    bool setupIODevAttrTargetVhdl(IODev* dev);
-    bool setupIODevAttrTargetVerilog(IODev* dev);
-    bool setupIODevAttrTargetHex(IODev* dev);
-    bool setupIODevAttrTargetMem(IODev* dev);
-    bool setupIODevAttrTargetMemGapStuffing(IODev* dev);
-    bool setupIODevAttrTargetEn(IODev* dev, const QString& kind, bool* en);
-    bool setupIODevAttrTargetFile(IODev* dev, const QString& kind, QString* file);
-    bool setupIODevAttrTargetHdl(IODev* dev, const QString& kind, bool* en, QString* entity, QString* templateFile,
-                                 QString* targetFile);
+    bool setupIODevAttrTarget(IODev* dev, const sTargetKind_t& kind);
+    bool checkTarget(const IODev* dev, const sTargetKind_t& kind);
     bool setupIODevSetNumeric(Set* set, int* value);
     bool setupIODevSetBoolean(Set* set, bool* value);
     bool setupIODevSetString(Set* set, QString* value);

@@ -103,10 +103,12 @@ EquResolver::eEquResult_t EquResolver::checkEquStep(std::vector<sEquStep_t>* pat
         return checkEquAlias(path, target);
     if (AsmFeParseArg::isNumeric(arg->name))
         return result(m_arguments.syntacticsCheckArgNumeric(srcRef, arg, ext));
-    if (m_words.regs().contains(arg->name))
-        return result(m_arguments.syntacticsCheckArgReg(srcRef, arg, ext));
-    if (m_words.banks().contains(arg->name))
-        return result(m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext));
+    const auto reg = m_words.regs().constFind(arg->name);
+    if (reg != m_words.regs().cend())
+        return result(m_arguments.syntacticsCheckArgReg(srcRef, arg, ext, *reg));
+    const auto bank = m_words.banks().constFind(arg->name);
+    if (bank != m_words.banks().cend())
+        return result(m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext, *bank));
     if (StringEncoder::isString(arg->name))
         return result(m_strings.syntacticsCheckArgString(srcRef, arg, ext, true));
     if (AsmFeFormula::isFormula(arg->name)) {

@@ -64,24 +64,30 @@ bool InstructionChecker::syntacticsCheckOpcodeArgument(Opcode* opcode, Arg* arg,
     }
     ArgumentChecker::syntacticsSetArgParentheses(arg, ext);
     ArgumentChecker::syntacticsSetArgNameSpace(arg, opcode->nameSpace);
+    const QHash<QString, int>& regs = m_words.regs();
+    const QHash<QString, int>& banks = m_words.banks();
+    bool numeric = false;
+    auto reg = regs.cend();
+    auto bank = banks.cend();
+    const auto lookUp = [&] {
+        numeric = AsmFeParseArg::isNumeric(arg->name);
+        reg = numeric ? regs.cend() : regs.constFind(arg->name);
+        bank = numeric || reg != regs.cend() ? banks.cend() : banks.constFind(arg->name);
+        return numeric || reg != regs.cend() || bank != banks.cend();
+    };
     // No constant has the name of a number, a register or a bank, so these need no look-up.
-    bool numeric = AsmFeParseArg::isNumeric(arg->name);
-    bool reg = !numeric && m_words.regs().contains(arg->name);
-    bool bank = !numeric && !reg && m_words.banks().contains(arg->name);
-    Equ* equ = numeric || reg || bank ? nullptr : m_program.equs.find(arg->nameSpace, arg->name);
+    Equ* equ = lookUp() ? nullptr : m_program.equs.find(arg->nameSpace, arg->name);
     if (equ != nullptr) {
         equ->used = true;
         arg->takeValue(*equ->arg);
-        numeric = AsmFeParseArg::isNumeric(arg->name);
-        reg = m_words.regs().contains(arg->name);
-        bank = m_words.banks().contains(arg->name);
+        lookUp();
     }
     if (numeric)
         return m_arguments.syntacticsCheckArgNumeric(srcRef, arg, ext);
-    if (reg)
-        return m_arguments.syntacticsCheckArgReg(srcRef, arg, ext);
-    if (bank)
-        return m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext);
+    if (reg != regs.cend())
+        return m_arguments.syntacticsCheckArgReg(srcRef, arg, ext, *reg);
+    if (bank != banks.cend())
+        return m_arguments.syntacticsCheckArgBankName(srcRef, arg, ext, *bank);
     if (m_program.labels.contains(arg->nameSpace, arg->name))
         return syntacticsCheckOpcodeArgumentLabel(opcode, arg, ext);
     return syntacticsCheckOpcodeArgumentWord(opcode, arg, ext);

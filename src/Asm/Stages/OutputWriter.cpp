@@ -5,14 +5,14 @@
 #include "AsmProgram.h"
 #include "AsmProjectInfo.h"
 #include "AsmRunListener.h"
-#include "TargetFileWriteVerilog.h"
-#include "TargetFileWriteVhdl.h"
-#include "TargetWriteFileHex.h"
-#include "TargetWriteFileMem.h"
+#include "TargetKinds.h"
+#include "TargetMapper.h"
 
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
+#include <memory>
 
 namespace nsModAsmFe {
 
@@ -42,21 +42,17 @@ bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
         }
         return false;
     };
-    if (!wanted(m_config.targetVhdl) && !wanted(m_config.targetVerilog) && !wanted(m_config.targetHex) &&
-        !wanted(m_config.targetMem)) {
+    const auto isWanted = [&](const sTargetKind_t& kind) { return wanted(m_config.targets[kind.kind]); };
+    if (std::none_of(std::begin(targetKinds()), std::end(targetKinds()), isWanted)) {
         m_messages.signMsg(infoIODevNothingToDoForWriteEvent);
         return true;
     }
     // A kind that fails does not keep the others from being written.
     bool success = true;
-    if (wanted(m_config.targetVhdl))
-        success = mapIODevToFileVhdl() && success;
-    if (wanted(m_config.targetVerilog))
-        success = mapIODevToFileVerilog() && success;
-    if (wanted(m_config.targetHex))
-        success = mapIODevToFileHex() && success;
-    if (wanted(m_config.targetMem))
-        success = mapIODevToFileMem() && success;
+    for (const sTargetKind_t& kind : targetKinds()) {
+        if (isWanted(kind))
+            success = mapIODevToFiles(kind) && success;
+    }
     return success;
 }
 
@@ -75,10 +71,10 @@ bool OutputWriter::checkTargetFile(const QString& file)
     inputs.append(m_project.absPath(m_project.fileName));
     for (const IODev* dev : m_program.ioDevs.devices()) {
         // An output that is its own template is refused by its writer.
-        if (dev->targetVhdlEn && dev->vhdlTargetFile != file)
-            inputs.append(dev->vhdlTemplateFile);
-        if (dev->targetVerilogEn && dev->verilogTargetFile != file)
-            inputs.append(dev->verilogTemplateFile);
+        for (const TargetFile& target : dev->targets) {
+            if (target.en && target.outputFile != file)
+                inputs.append(target.templateFile);
+        }
     }
     if (isOneOf(inputs)) {
         m_messages.signMsg(errTargetOverwritesProject, file);
@@ -92,63 +88,34 @@ bool OutputWriter::checkTargetFile(const QString& file)
     return true;
 }
 
-template <class Write>
-bool OutputWriter::mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en,
-                                   QString IODev::*file, Write write)
+/// Writes the files of one kind, up to the first that fails.
+bool OutputWriter::mapIODevToFiles(const sTargetKind_t& kind)
 {
+    const std::unique_ptr<TargetMapper> writer = kind.newWriter();
     if (m_messages.modMsgHook != nullptr)
-        m_messages.modMsgHook->registerPlugin(writer);
-    m_messages.openGroup(groupText);
+        m_messages.modMsgHook->registerPlugin(writer.get());
+    m_messages.openGroup(AsmFeMsgHndlr::tr(kind.group));
     bool success = true;
     bool any = false;
     for (IODev* dev : m_program.ioDevs.devices()) {
-        if (!(dev->*en))
+        const TargetFile& target = dev->targets[kind.kind];
+        if (!target.en)
             continue;
         any = true;
         m_listener.runGoesOn();
-        if (!checkTargetFile(dev->*file) || !write(dev)) {
+        if (!checkTargetFile(target.outputFile) || !writer->writeFile(dev, &m_program.metaTags)) {
             success = false;
             break;
         }
-        m_messages.signMsg(infoIODevWriteFile, dev->devName, dev->*file);
-        m_program.writtenFiles.append(dev->*file);
+        m_messages.signMsg(infoIODevWriteFile, dev->devName, target.outputFile);
+        m_program.writtenFiles.append(target.outputFile);
     }
     if (!any)
         m_messages.signMsg(warnIODevNoFileToWrite);
     m_messages.closeGroup(success);
     if (m_messages.modMsgHook != nullptr)
-        m_messages.modMsgHook->unregisterPlugin(writer);
+        m_messages.modMsgHook->unregisterPlugin(writer.get());
     return success;
-}
-
-bool OutputWriter::mapIODevToFileVhdl()
-{
-    TargetFileWriteVhdl writer;
-    return mapIODevToFiles(&writer, AsmFeMsgHndlr::tr("Writing vhdl files..."), &IODev::targetVhdlEn,
-                           &IODev::vhdlTargetFile,
-                           [&](IODev* dev) { return writer.writeFile(dev, &m_program.metaTags); });
-}
-
-bool OutputWriter::mapIODevToFileVerilog()
-{
-    TargetFileWriteVerilog writer;
-    return mapIODevToFiles(&writer, AsmFeMsgHndlr::tr("Writing verilog files..."), &IODev::targetVerilogEn,
-                           &IODev::verilogTargetFile,
-                           [&](IODev* dev) { return writer.writeFile(dev, &m_program.metaTags); });
-}
-
-bool OutputWriter::mapIODevToFileHex()
-{
-    TargetWriteFileHex writer;
-    return mapIODevToFiles(&writer, AsmFeMsgHndlr::tr("Writing hex files..."), &IODev::targetHexEn,
-                           &IODev::hexTargetFile, [&](IODev* dev) { return writer.writeFile(dev); });
-}
-
-bool OutputWriter::mapIODevToFileMem()
-{
-    TargetWriteFileMem writer;
-    return mapIODevToFiles(&writer, AsmFeMsgHndlr::tr("Writing mem files..."), &IODev::targetMemEn,
-                           &IODev::memTargetFile, [&](IODev* dev) { return writer.writeFile(dev); });
 }
 
 } // namespace nsModAsmFe

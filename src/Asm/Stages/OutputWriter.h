@@ -10,10 +10,9 @@ namespace nsModAsmFe {
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
 class AsmRunListener;
-class IODev;
-class TargetMapper;
 struct AsmProgram;
 struct AsmProjectInfo;
+struct sTargetKind_t;
 
 /// Output files: which kinds an event writes, and their writers.
 class OutputWriter
@@ -30,13 +29,7 @@ public:
     bool mapIODevToFile(AsmFeConfig::eAssembleEvent_t event);
 
 private:
-    bool mapIODevToFileVhdl();
-    bool mapIODevToFileVerilog();
-    bool mapIODevToFileHex();
-    bool mapIODevToFileMem();
-    template <class Write>
-    bool mapIODevToFiles(TargetMapper* writer, const QString& groupText, bool IODev::*en, QString IODev::*file,
-                         Write write);
+    bool mapIODevToFiles(const sTargetKind_t& kind);
     bool checkTargetFile(const QString& file);
 
     AsmProgram& m_program;

@@ -4,11 +4,12 @@ namespace nsModAsmFe {
 
 void appendHexWord(QByteArray* text, unsigned int value)
 {
-    int digits = 5;
-    while (digits < 8 && (value >> (digits * 4)) != 0)
-        ++digits;
-    for (int digit = digits - 1; digit >= 0; --digit)
-        text->append("0123456789ABCDEF"[(value >> (digit * 4)) & 0xf]);
+    const int maxDigits = 8;
+    char word[maxDigits];
+    int digits = 0;
+    for (; digits < 5 || (digits < maxDigits && value != 0); ++digits, value >>= 4)
+        word[maxDigits - 1 - digits] = hexDigit(value);
+    text->append(word + maxDigits - digits, digits);
 }
 
 } // namespace nsModAsmFe

@@ -1,5 +1,6 @@
 #include "TargetFileWriteHdl.h"
 
+#include "HexText.h"
 #include "IODev.h"
 #include "MetaTags.h"
 
@@ -45,11 +46,6 @@ QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
     return QByteArray();
 }
 
-void appendDigit(QByteArray* text, unsigned int value)
-{
-    text->append("0123456789ABCDEF"[value & 0xf]);
-}
-
 const int digitsPerBlock = 64;
 
 } // namespace
@@ -59,15 +55,15 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     m_dev = dev;
     m_warnStuffing = true;
     m_dev->clearWritten();
-    const sTarget_t hdl = target(dev);
+    const TargetFile& hdl = dev->targets[kind()];
     if (!checkType(dev))
         return false;
     if (hdl.entityName.isEmpty())
-        return fail(errTargetNoEntityName, hdl.language, dev->devName);
+        return fail(errTargetNoEntityName, language(), dev->devName);
     if (hdl.templateFile.isEmpty())
-        return fail(errTargetNoTemplateFile, hdl.language, dev->devName);
+        return fail(errTargetNoTemplateFile, language(), dev->devName);
     if (hdl.outputFile.isEmpty())
-        return fail(errTargetNoOutputFile, hdl.language, dev->devName);
+        return fail(errTargetNoOutputFile, language(), dev->devName);
     if (!checkSize(dev))
         return false;
     // Reads the template before it opens the output, and refuses an output file that is the template.
@@ -80,7 +76,7 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     return writeBytes(hdl.outputFile, text, errTargetOpenDestination) && checkComplete();
 }
 
-bool TargetFileWriteHdl::fillTemplate(const sTarget_t& target, const MetaTags& metaTags, QByteArray* text)
+bool TargetFileWriteHdl::fillTemplate(const TargetFile& target, const MetaTags& metaTags, QByteArray* text)
 {
     QFile templ(target.templateFile);
     if (!QFileInfo(target.templateFile).isFile() || !templ.open(QIODevice::ReadOnly))
@@ -118,7 +114,7 @@ bool TargetFileWriteHdl::fillBlock(QByteArray* line, const sBlock_t& block)
     return true;
 }
 
-void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+void TargetFileWriteHdl::fillLine(QByteArray* line, const TargetFile& target, const MetaTags& metaTags)
 {
     if (!line->contains('{'))
         return;
@@ -130,13 +126,16 @@ void TargetFileWriteHdl::fillLine(QByteArray* line, const sTarget_t& target, con
     static const sBlock_t initPL = {"{[8:0]_INITP_", &TargetFileWriteHdl::getVhdlInitPL};
     if (!fillBlock(line, init))
         fillBlock(line, initP);
+    // Most lines hold one token, which is filled now.
+    if (!line->contains('{'))
+        return;
     if (!fillBlock(line, initH))
         fillBlock(line, initHP);
     if (!fillBlock(line, initL) && !fillBlock(line, initPL))
         fillMetaTag(line, target, metaTags);
 }
 
-bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags)
+bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const TargetFile& target, const MetaTags& metaTags)
 {
     const struct
     {
@@ -177,6 +176,7 @@ void TargetFileWriteHdl::signWarningStuffingMemory()
 
 /// @param words words in a block
 /// @param wordsPerStep words that one call of `digits` takes, from the address that it gets downwards
+/// @param digits writes its digits at a place in the text, and returns the place after them
 template <class Digits>
 QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerStep, Digits digits)
 {
@@ -185,57 +185,62 @@ QByteArray TargetFileWriteHdl::getBlock(qint64 index, int words, int wordsPerSte
         signWarningStuffingMemory();
         return QByteArray(digitsPerBlock, '0');
     }
-    QByteArray text;
-    text.reserve(digitsPerBlock);
+    QByteArray text(digitsPerBlock, Qt::Uninitialized);
+    char* place = text.data();
     for (int addr = int(first) + words - 1; addr >= int(first); addr -= wordsPerStep)
-        digits(&text, addr);
+        place = digits(place, addr);
     return text;
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInit(qint64 index)
 {
-    return getBlock(index, 16, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 16, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr);
         for (int shift = 12; shift >= 0; shift -= 4)
-            appendDigit(text, value >> shift);
+            *place++ = hexDigit(value >> shift);
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitP(qint64 index)
 {
-    return getBlock(index, 128, 2, [this](QByteArray* text, int addr) {
+    return getBlock(index, 128, 2, [this](char* place, int addr) {
         const unsigned int high = getOpcode(addr);
         const unsigned int low = getOpcode(addr - 1);
-        appendDigit(text, ((low >> 16) & 3u) | ((high >> 14) & 12u));
+        *place++ = hexDigit(((low >> 16) & 3u) | ((high >> 14) & 12u));
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitL(qint64 index)
 {
-    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 32, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr);
-        appendDigit(text, value >> 4);
-        appendDigit(text, value);
+        *place++ = hexDigit(value >> 4);
+        *place++ = hexDigit(value);
+        return place;
     });
 }
 
 QByteArray TargetFileWriteHdl::getVhdlInitH(qint64 index)
 {
-    return getBlock(index, 32, 1, [this](QByteArray* text, int addr) {
+    return getBlock(index, 32, 1, [this](char* place, int addr) {
         const unsigned int value = getOpcode(addr) >> 9;
-        appendDigit(text, value >> 4);
-        appendDigit(text, value);
+        *place++ = hexDigit(value >> 4);
+        *place++ = hexDigit(value);
+        return place;
     });
 }
 
 /// One bit of each of 256 words, four to a digit, the lowest address in the digit's lowest bit.
 QByteArray TargetFileWriteHdl::getParityBlock(qint64 index, int bit)
 {
-    return getBlock(index, 256, 4, [this, bit](QByteArray* text, int addr) {
+    return getBlock(index, 256, 4, [this, bit](char* place, int addr) {
         unsigned int digit = 0;
         for (int i = 0; i < 4; ++i)
             digit = (digit << 1) | ((getOpcode(addr - i) >> bit) & 1u);
-        appendDigit(text, digit);
+        *place++ = hexDigit(digit);
+        return place;
     });
 }
 

@@ -1,12 +1,11 @@
 #pragma once
 
+#include "TargetFile.h"
 #include "TargetMapper.h"
 
 #include <QByteArray>
 
 namespace nsModAsmFe {
-
-struct MetaTags;
 
 /// Fills an HDL template with a device's contents. VHDL and Verilog differ in nothing but words and in the fields of
 /// the device.
@@ -22,19 +21,12 @@ public:
     using TargetMapper::TargetMapper;
 
     /// @return false after a reported error
-    bool writeFile(IODev* dev, const MetaTags* metaTags);
+    bool writeFile(IODev* dev, const MetaTags* metaTags) override;
 
 protected:
-    /// What the device has for this language.
-    struct sTarget_t
-    {
-        QString language; ///< "VHDL"
-        QString entityName;
-        QString templateFile;
-        QString outputFile;
-    };
-
-    virtual sTarget_t target(const IODev* dev) const = 0;
+    /// "VHDL" or "Verilog", as messages name it.
+    virtual QString language() const = 0;
+    virtual eTargetKind_t kind() const = 0;
 
     // One block of 256 bits as 64 hexadecimal digits, the highest address first. The index counts blocks. Both
     // languages use the same digits; the functions are named after VHDL.
@@ -53,9 +45,9 @@ protected:
 private:
     struct sBlock_t;
 
-    bool fillTemplate(const sTarget_t& target, const MetaTags& metaTags, QByteArray* text);
-    void fillLine(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags);
-    bool fillMetaTag(QByteArray* line, const sTarget_t& target, const MetaTags& metaTags);
+    bool fillTemplate(const TargetFile& target, const MetaTags& metaTags, QByteArray* text);
+    void fillLine(QByteArray* line, const TargetFile& target, const MetaTags& metaTags);
+    bool fillMetaTag(QByteArray* line, const TargetFile& target, const MetaTags& metaTags);
     bool fillBlock(QByteArray* line, const sBlock_t& block);
     template <class Digits>
     QByteArray getBlock(qint64 index, int words, int wordsPerStep, Digits digits);

@@ -13,7 +13,8 @@ public:
     using TargetFileWriteHdl::TargetFileWriteHdl;
 
 protected:
-    sTarget_t target(const IODev* dev) const override;
+    QString language() const override { return QStringLiteral("VHDL"); }
+    eTargetKind_t kind() const override { return kindVhdl; }
 };
 
 } // namespace nsModAsmFe

@@ -60,11 +60,16 @@ bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, eMsg
     QFile output(file);
     if (!openOutput(&output))
         return fail(openError, file);
-    output.resize(0);
-    // A full disk may be reported as late as when the file is closed.
     const bool written = output.write(bytes) == bytes.size() && output.flush();
+    QString reason = output.errorString();
+    // What is left of the old content is cut off at last: to free its blocks first costs a file system far more.
+    if (!output.isSequential() && output.size() > output.pos())
+        output.resize(output.pos());
+    // A full disk may be reported as late as when the file is closed.
     output.close();
-    return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, output.errorString());
+    if (written)
+        reason = output.errorString();
+    return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, reason);
 }
 
 } // namespace nsModAsmFe

@@ -11,6 +11,7 @@ class QByteArray;
 namespace nsModAsmFe {
 
 class IODev;
+struct MetaTags;
 
 /// What all writers of output files have in common: their way to report, and the file itself. They report through the
 /// message service that they are registered with, and in silence without one.
@@ -20,6 +21,11 @@ class TargetMapper : public QObject, public ModMsgPluginIf
 
 public:
     explicit TargetMapper(QObject* parent = nullptr);
+
+    /// Writes the contents of a device to the file that the device has for this kind.
+    /// @param metaTags texts for templates
+    /// @return false after a reported error
+    virtual bool writeFile(IODev* dev, const MetaTags* metaTags) = 0;
 
 protected:
     /// Reports an error. @return false

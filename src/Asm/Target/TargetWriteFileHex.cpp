@@ -9,7 +9,7 @@ bool TargetWriteFileHex::writeFile(IODev* dev)
 {
     if (!checkType(dev))
         return false;
-    if (dev->hexTargetFile.isEmpty())
+    if (dev->targets[kindHex].outputFile.isEmpty())
         return fail(errTargetNoOutputFile, QStringLiteral("Hex"), dev->devName);
     if (!checkSize(dev))
         return false;
@@ -22,7 +22,7 @@ bool TargetWriteFileHex::writeFile(IODev* dev)
         appendHexWord(&text, value);
         text.append('\n');
     }
-    return writeBytes(dev->hexTargetFile, text, errTargetOpenOutput);
+    return writeBytes(dev->targets[kindHex].outputFile, text, errTargetOpenOutput);
 }
 
 } // namespace nsModAsmFe

@@ -14,6 +14,7 @@ public:
 
     /// @return false after a reported error
     bool writeFile(IODev* dev);
+    bool writeFile(IODev* dev, const MetaTags*) override { return writeFile(dev); }
 };
 
 } // namespace nsModAsmFe

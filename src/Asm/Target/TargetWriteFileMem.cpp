@@ -9,15 +9,15 @@ bool TargetWriteFileMem::writeFile(IODev* dev)
 {
     if (!checkType(dev))
         return false;
-    if (dev->memTargetFile.isEmpty())
+    if (dev->targets[kindMem].outputFile.isEmpty())
         return fail(errTargetNoOutputFile, QStringLiteral("Mem"), dev->devName);
     if (!checkSize(dev))
         return false;
     QByteArray text;
     text.reserve(dev->memSize * 7 + 8);
-    if (!(dev->memGapStuffingEn ? stuffedText(dev, &text) : blockText(dev, &text)))
+    if (!(dev->targets[kindMem].gapStuffingEn ? stuffedText(dev, &text) : blockText(dev, &text)))
         return fail(errInternal, tr("addrIterator exceeds memSize"));
-    return writeBytes(dev->memTargetFile, text, errTargetOpenOutput);
+    return writeBytes(dev->targets[kindMem].outputFile, text, errTargetOpenOutput);
 }
 
 bool TargetWriteFileMem::stuffedText(const IODev* dev, QByteArray* text)

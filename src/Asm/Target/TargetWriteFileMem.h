@@ -19,6 +19,7 @@ public:
 
     /// @return false after a reported error
     bool writeFile(IODev* dev);
+    bool writeFile(IODev* dev, const MetaTags*) override { return writeFile(dev); }
 
 private:
     bool stuffedText(const IODev* dev, QByteArray* text);

@@ -10,6 +10,8 @@
 #include <QLabel>
 #include <QTextCodec>
 
+#include <iterator>
+
 namespace nsModAsmFe {
 
 namespace {
@@ -64,10 +66,6 @@ AsmFeConfigPage::AsmFeConfigPage(QWidget* parent)
     , m_behaviorSet(new QComboBox(this))
     , m_behaviorIntVector(new QComboBox(this))
     , m_mapper(new TargetMapperConfigWidget(this))
-    , m_hex(new TargetHexConfigWidget(this))
-    , m_mem(new TargetMemConfigWidget(this))
-    , m_vhdl(new TargetVhdlConfigWidget(this))
-    , m_verilog(new TargetVerilogConfigWidget(this))
 {
     setObjectName(QStringLiteral("configPage"));
     addBehavior();
@@ -126,31 +124,38 @@ void AsmFeConfigPage::addOutputs()
     m_mapper->setObjectName(QStringLiteral("targetMapper"));
     m_layout->addSection(tr("File write events"));
     m_layout->addWide(m_mapper);
+    // In the order of the page.
     const struct
     {
+        eTargetKind_t kind;
         const char* name;
         QString title;
         TargetConfigWidget* widget;
-    } targets[] = {{"targetHex", tr("Hex output file"), m_hex},
-                   {"targetMem", tr("Mem output file"), m_mem},
-                   {"targetVhdl", tr("VHDL output file"), m_vhdl},
-                   {"targetVerilog", tr("Verilog output file"), m_verilog}};
+    } targets[] = {{kindHex, "targetHex", tr("Hex output file"), new TargetHexConfigWidget(this)},
+                   {kindMem, "targetMem", tr("Mem output file"), new TargetMemConfigWidget(this)},
+                   {kindVhdl, "targetVhdl", tr("VHDL output file"), new TargetVhdlConfigWidget(this)},
+                   {kindVerilog, "targetVerilog", tr("Verilog output file"), new TargetVerilogConfigWidget(this)}};
+    static_assert(std::size(targets) == targetKindCount, "each kind has its section");
     for (const auto& target : targets) {
+        m_targets[target.kind] = target.widget;
         target.widget->setObjectName(QLatin1String(target.name));
         target.widget->setLabelWidth(width);
         m_layout->addSection(target.title);
         m_layout->addWide(target.widget);
-        connect(target.widget, &TargetConfigWidget::changed, this, &AsmFeConfigPage::updateHint);
     }
+    for (const TargetConfigWidget* widget : m_targets)
+        connect(widget, &TargetConfigWidget::changed, this, &AsmFeConfigPage::updateHint);
 }
 
 void AsmFeConfigPage::updateHint()
 {
-    const bool anyEnabled = m_hex->isEnabledOutput() || m_mem->isEnabledOutput() || m_vhdl->isEnabledOutput() ||
-                            m_verilog->isEnabledOutput();
+    bool anyEnabled = false;
+    for (int kind = 0; kind < targetKindCount; ++kind) {
+        const bool isEnabled = m_targets[kind]->isEnabledOutput();
+        anyEnabled = anyEnabled || isEnabled;
+        m_mapper->setOutputEnabled(eTargetKind_t(kind), isEnabled);
+    }
     m_hint->setVisible(!anyEnabled);
-    m_mapper->setOutputsEnabled(m_vhdl->isEnabledOutput(), m_verilog->isEnabledOutput(), m_hex->isEnabledOutput(),
-                                m_mem->isEnabledOutput());
 }
 
 void AsmFeConfigPage::setConfig(const AsmFeConfig* config, const QString& prjDir)
@@ -166,10 +171,8 @@ void AsmFeConfigPage::setConfig(const AsmFeConfig* config, const QString& prjDir
     select(m_behaviorSet, config->behaviorSet);
     select(m_behaviorIntVector, config->behaviorChkIntVector);
     m_mapper->setConfig(config);
-    m_hex->setConfig(&config->targetHex, prjDir);
-    m_mem->setConfig(&config->targetMem, prjDir);
-    m_vhdl->setConfig(&config->targetVhdl, prjDir);
-    m_verilog->setConfig(&config->targetVerilog, prjDir);
+    for (int kind = 0; kind < targetKindCount; ++kind)
+        m_targets[kind]->setConfig(&config->targets[kind], prjDir);
     updateHint();
 }
 
@@ -182,10 +185,8 @@ void AsmFeConfigPage::config(AsmFeConfig* config) const
     take(m_behaviorSet, &config->behaviorSet);
     take(m_behaviorIntVector, &config->behaviorChkIntVector);
     m_mapper->config(config);
-    m_hex->config(&config->targetHex);
-    m_mem->config(&config->targetMem);
-    m_vhdl->config(&config->targetVhdl);
-    m_verilog->config(&config->targetVerilog);
+    for (int kind = 0; kind < targetKindCount; ++kind)
+        m_targets[kind]->config(&config->targets[kind]);
 }
 
 void AsmFeConfigPage::setDefaultConfig()

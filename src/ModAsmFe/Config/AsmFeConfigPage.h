@@ -11,11 +11,8 @@ class QLabel;
 
 namespace nsModAsmFe {
 
-class TargetHexConfigWidget;
+class TargetConfigWidget;
 class TargetMapperConfigWidget;
-class TargetMemConfigWidget;
-class TargetVerilogConfigWidget;
-class TargetVhdlConfigWidget;
 
 /// The settings page of the assembler; all of it belongs to the project.
 class AsmFeConfigPage : public QWidget, public nsModConfig::ModConfigPagePluginIf
@@ -57,11 +54,8 @@ private:
     QComboBox* m_behaviorSet;
     QComboBox* m_behaviorIntVector;
     TargetMapperConfigWidget* m_mapper;
-    TargetHexConfigWidget* m_hex;
-    TargetMemConfigWidget* m_mem;
-    TargetVhdlConfigWidget* m_vhdl;
-    TargetVerilogConfigWidget* m_verilog;
-    QLabel* m_hint = nullptr; ///< what is missing for any output at all
+    TargetConfigWidget* m_targets[targetKindCount]; ///< indexed by eTargetKind_t
+    QLabel* m_hint = nullptr;                       ///< what is missing for any output at all
     QString m_prjDir;
     bool m_prjEnabled = true;
 };

@@ -72,14 +72,14 @@ void TargetConfigWidget::addHint()
     m_layout->addWidget(m_hint, m_layout->rowCount(), 1);
 }
 
-void TargetConfigWidget::setTarget(const TargetConfig& config, const QString& prjDir)
+void TargetConfigWidget::setConfig(const TargetConfig* config, const QString& prjDir)
 {
-    m_enable->setChecked(config.en);
-    m_outputFile->setFile(config.outputFile, prjDir);
+    m_enable->setChecked(config->en);
+    m_outputFile->setFile(config->outputFile, prjDir);
     updateState();
 }
 
-void TargetConfigWidget::target(TargetConfig* config) const
+void TargetConfigWidget::config(TargetConfig* config) const
 {
     config->en = m_enable->isChecked();
     config->outputFile = m_outputFile->file();
@@ -128,15 +128,15 @@ TargetMemConfigWidget::TargetMemConfigWidget(QWidget* parent)
     addHint();
 }
 
-void TargetMemConfigWidget::setConfig(const TargetMemConfig* config, const QString& prjDir)
+void TargetMemConfigWidget::setConfig(const TargetConfig* config, const QString& prjDir)
 {
     m_gapStuffing->setChecked(config->gapStuffingEn);
-    setTarget(*config, prjDir);
+    TargetConfigWidget::setConfig(config, prjDir);
 }
 
-void TargetMemConfigWidget::config(TargetMemConfig* config) const
+void TargetMemConfigWidget::config(TargetConfig* config) const
 {
-    target(config);
+    TargetConfigWidget::config(config);
     config->gapStuffingEn = m_gapStuffing->isChecked();
 }
 
@@ -160,16 +160,16 @@ TargetHdlConfigWidget::TargetHdlConfigWidget(const QString& language, const QStr
     connect(m_templateFile, &MyFileSelectOpen::fileValid, this, &TargetHdlConfigWidget::updateState);
 }
 
-void TargetHdlConfigWidget::setHdl(const TargetVhdlConfig& config, const QString& prjDir)
+void TargetHdlConfigWidget::setConfig(const TargetConfig* config, const QString& prjDir)
 {
-    m_entityName->setText(config.entityName);
-    m_templateFile->setFile(config.templateFile, prjDir);
-    setTarget(config, prjDir);
+    m_entityName->setText(config->entityName);
+    m_templateFile->setFile(config->templateFile, prjDir);
+    TargetConfigWidget::setConfig(config, prjDir);
 }
 
-void TargetHdlConfigWidget::hdl(TargetVhdlConfig* config) const
+void TargetHdlConfigWidget::config(TargetConfig* config) const
 {
-    target(config);
+    TargetConfigWidget::config(config);
     config->entityName = m_entityName->text();
     config->templateFile = m_templateFile->file();
 }

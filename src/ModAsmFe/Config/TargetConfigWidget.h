@@ -22,6 +22,10 @@ class TargetConfigWidget : public QWidget
     Q_OBJECT
 
 public:
+    /// @param prjDir folder that paths are shown relative to
+    virtual void setConfig(const TargetConfig* config, const QString& prjDir);
+    /// Takes the values of the fields; what this kind does not have stays as it is.
+    virtual void config(TargetConfig* config) const;
     bool isEnabledOutput() const;
     /// Makes room for labels of this width, in pixels, so that all fields of the page stand in one column.
     void setLabelWidth(int width);
@@ -41,8 +45,6 @@ protected:
     /// The line of what is missing, as the last one.
     void addHint();
 
-    void setTarget(const TargetConfig& config, const QString& prjDir);
-    void target(TargetConfig* config) const;
     /// What keeps the enabled output from being written; empty if nothing does.
     virtual QString problem() const;
 
@@ -63,10 +65,6 @@ class TargetHexConfigWidget : public TargetConfigWidget
 
 public:
     explicit TargetHexConfigWidget(QWidget* parent = nullptr);
-
-    /// @param prjDir folder that paths are shown relative to
-    void setConfig(const TargetHexConfig* config, const QString& prjDir) { setTarget(*config, prjDir); }
-    void config(TargetHexConfig* config) const { target(config); }
 };
 
 /// Settings of the mem file.
@@ -77,9 +75,8 @@ class TargetMemConfigWidget : public TargetConfigWidget
 public:
     explicit TargetMemConfigWidget(QWidget* parent = nullptr);
 
-    /// @param prjDir folder that paths are shown relative to
-    void setConfig(const TargetMemConfig* config, const QString& prjDir);
-    void config(TargetMemConfig* config) const;
+    void setConfig(const TargetConfig* config, const QString& prjDir) override;
+    void config(TargetConfig* config) const override;
 
 private:
     QCheckBox* m_gapStuffing;
@@ -90,12 +87,14 @@ class TargetHdlConfigWidget : public TargetConfigWidget
 {
     Q_OBJECT
 
+public:
+    void setConfig(const TargetConfig* config, const QString& prjDir) override;
+    void config(TargetConfig* config) const override;
+
 protected:
     /// @param language as the file dialogs call it, such as "vhdl"
     TargetHdlConfigWidget(const QString& language, const QString& filter, const QString& suffix, QWidget* parent);
 
-    void setHdl(const TargetVhdlConfig& config, const QString& prjDir);
-    void hdl(TargetVhdlConfig* config) const;
     QString problem() const override;
 
 private:
@@ -110,10 +109,6 @@ class TargetVhdlConfigWidget : public TargetHdlConfigWidget
 
 public:
     explicit TargetVhdlConfigWidget(QWidget* parent = nullptr);
-
-    /// @param prjDir folder that paths are shown relative to
-    void setConfig(const TargetVhdlConfig* config, const QString& prjDir) { setHdl(*config, prjDir); }
-    void config(TargetVhdlConfig* config) const { hdl(config); }
 };
 
 /// Settings of the Verilog file.
@@ -123,10 +118,6 @@ class TargetVerilogConfigWidget : public TargetHdlConfigWidget
 
 public:
     explicit TargetVerilogConfigWidget(QWidget* parent = nullptr);
-
-    /// @param prjDir folder that paths are shown relative to
-    void setConfig(const TargetVerilogConfig* config, const QString& prjDir) { setHdl(*config, prjDir); }
-    void config(TargetVerilogConfig* config) const { hdl(config); }
 };
 
 } // namespace nsModAsmFe

@@ -29,8 +29,8 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     : QWidget(parent)
     , m_layout(new QGridLayout(this))
 {
-    const QString kinds[targetCount] = {tr("Write VHDL files:"), tr("Write verilog files:"), tr("Write hex files:"),
-                                        tr("Write mem files:")};
+    const QString kinds[targetKindCount] = {tr("Write VHDL files:"), tr("Write verilog files:"), tr("Write hex files:"),
+                                            tr("Write mem files:")};
     const QString events[eventCount] = {tr("Button 1"), tr("Button 2"), tr("After saving")};
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setHorizontalSpacing(8);
@@ -38,7 +38,7 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     m_layout->addWidget(new MyFieldTitle(tr("Events:"), this), 0, 0);
     for (int event = 0; event < eventCount; ++event)
         m_layout->addWidget(new QLabel(events[event], this), 0, event + 1, Qt::AlignCenter);
-    for (int kind = 0; kind < targetCount; ++kind) {
+    for (int kind = 0; kind < targetKindCount; ++kind) {
         m_titles[kind] = new MyFieldTitle(kinds[kind], this);
         m_titles[kind]->setObjectName(QStringLiteral("targetEvents%1").arg(kind));
         m_layout->addWidget(m_titles[kind], kind + 1, 0);
@@ -61,21 +61,17 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
                    this);
     m_hint->setObjectName(QStringLiteral("targetEventsHint"));
     m_hint->setWordWrap(true);
-    m_layout->addWidget(m_hint, targetCount + 1, 0, 1, eventCount + 2);
-    setOutputsEnabled(false, false, false, false);
+    m_layout->addWidget(m_hint, targetKindCount + 1, 0, 1, eventCount + 2);
+    for (int kind = 0; kind < targetKindCount; ++kind)
+        setOutputEnabled(eTargetKind_t(kind), false);
 }
 
-void TargetMapperConfigWidget::setOutputsEnabled(bool vhdl, bool verilog, bool hex, bool mem)
+void TargetMapperConfigWidget::setOutputEnabled(eTargetKind_t kind, bool enabled)
 {
-    m_isOn[targetVhdl] = vhdl;
-    m_isOn[targetVerilog] = verilog;
-    m_isOn[targetHex] = hex;
-    m_isOn[targetMem] = mem;
-    for (int kind = 0; kind < targetCount; ++kind) {
-        setPale(m_titles[kind], !m_isOn[kind]);
-        for (QCheckBox* box : m_boxes[kind])
-            setPale(box, !m_isOn[kind]);
-    }
+    m_isOn[kind] = enabled;
+    setPale(m_titles[kind], !enabled);
+    for (QCheckBox* box : m_boxes[kind])
+        setPale(box, !enabled);
     updateHint();
 }
 
@@ -83,7 +79,7 @@ void TargetMapperConfigWidget::setOutputsEnabled(bool vhdl, bool verilog, bool h
 void TargetMapperConfigWidget::updateHint()
 {
     bool anyWarns = false;
-    for (int kind = 0; kind < targetCount; ++kind) {
+    for (int kind = 0; kind < targetKindCount; ++kind) {
         for (const QCheckBox* box : m_boxes[kind])
             anyWarns = anyWarns || (!m_isOn[kind] && box->isChecked());
     }
@@ -95,34 +91,22 @@ void TargetMapperConfigWidget::setLabelWidth(int width)
     m_layout->setColumnMinimumWidth(0, width);
 }
 
-void TargetMapperConfigWidget::setTarget(eTarget_t target, const TargetConfig& config)
-{
-    m_boxes[target][eventButton1]->setChecked(config.writeFileEventBut1);
-    m_boxes[target][eventButton2]->setChecked(config.writeFileEventBut2);
-    m_boxes[target][eventSave]->setChecked(config.writeFileEventSave);
-}
-
-void TargetMapperConfigWidget::target(eTarget_t target, TargetConfig* config) const
-{
-    config->writeFileEventBut1 = m_boxes[target][eventButton1]->isChecked();
-    config->writeFileEventBut2 = m_boxes[target][eventButton2]->isChecked();
-    config->writeFileEventSave = m_boxes[target][eventSave]->isChecked();
-}
-
 void TargetMapperConfigWidget::setConfig(const AsmFeConfig* config)
 {
-    setTarget(targetVhdl, config->targetVhdl);
-    setTarget(targetVerilog, config->targetVerilog);
-    setTarget(targetHex, config->targetHex);
-    setTarget(targetMem, config->targetMem);
+    for (int kind = 0; kind < targetKindCount; ++kind) {
+        m_boxes[kind][eventButton1]->setChecked(config->targets[kind].writeFileEventBut1);
+        m_boxes[kind][eventButton2]->setChecked(config->targets[kind].writeFileEventBut2);
+        m_boxes[kind][eventSave]->setChecked(config->targets[kind].writeFileEventSave);
+    }
 }
 
 void TargetMapperConfigWidget::config(AsmFeConfig* config) const
 {
-    target(targetVhdl, &config->targetVhdl);
-    target(targetVerilog, &config->targetVerilog);
-    target(targetHex, &config->targetHex);
-    target(targetMem, &config->targetMem);
+    for (int kind = 0; kind < targetKindCount; ++kind) {
+        config->targets[kind].writeFileEventBut1 = m_boxes[kind][eventButton1]->isChecked();
+        config->targets[kind].writeFileEventBut2 = m_boxes[kind][eventButton2]->isChecked();
+        config->targets[kind].writeFileEventSave = m_boxes[kind][eventSave]->isChecked();
+    }
 }
 
 } // namespace nsModAsmFe

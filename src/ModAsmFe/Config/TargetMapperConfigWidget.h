@@ -23,23 +23,20 @@ public:
 
     void setConfig(const AsmFeConfig* config);
     void config(AsmFeConfig* config) const;
-    /// Which outputs are on.
-    void setOutputsEnabled(bool vhdl, bool verilog, bool hex, bool mem);
+    /// Whether an output is on.
+    void setOutputEnabled(eTargetKind_t kind, bool enabled);
     /// Makes room for labels of this width, in pixels.
     void setLabelWidth(int width);
 
 private:
-    enum eTarget_t { targetVhdl, targetVerilog, targetHex, targetMem, targetCount };
     enum eEvent_t { eventButton1, eventButton2, eventSave, eventCount };
 
-    void setTarget(eTarget_t target, const TargetConfig& config);
-    void target(eTarget_t target, TargetConfig* config) const;
     void updateHint();
 
     QGridLayout* m_layout;
-    QCheckBox* m_boxes[targetCount][eventCount];
-    QWidget* m_titles[targetCount];
-    bool m_isOn[targetCount] = {};
+    QCheckBox* m_boxes[targetKindCount][eventCount];
+    QWidget* m_titles[targetKindCount];
+    bool m_isOn[targetKindCount] = {};
     QLabel* m_hint = nullptr;
 };
 

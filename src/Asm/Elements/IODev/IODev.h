@@ -1,6 +1,7 @@
 #pragma once
 
 #include "SrcReference.h"
+#include "TargetFile.h"
 
 #include <QString>
 
@@ -61,19 +62,7 @@ public:
     bool simEn = false;
     int simAccessMode = simRdWr;
 
-    bool targetVhdlEn = false;
-    QString vhdlEntityName;
-    QString vhdlTemplateFile; ///< absolute paths, here and below
-    QString vhdlTargetFile;
-    bool targetVerilogEn = false;
-    QString verilogEntityName;
-    QString verilogTemplateFile;
-    QString verilogTargetFile;
-    bool targetHexEn = false;
-    QString hexTargetFile;
-    bool targetMemEn = false;
-    bool memGapStuffingEn = true;
-    QString memTargetFile;
+    TargetFile targets[targetKindCount]; ///< indexed by eTargetKind_t
 
 private:
     bool hasCell(int addr) const { return addr >= 0 && addr < memSize && size_t(addr) < values.size(); }

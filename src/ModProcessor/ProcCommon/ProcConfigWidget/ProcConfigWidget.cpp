@@ -35,7 +35,7 @@ ProcConfigWidget::ProcConfigWidget(const ProcTable& table, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
     QGridLayout* grids[] = {addPage(tr("Processor core")), addPage(tr("Instruction memory"))};
-    for (int i = 0; i < table.settingsCount; ++i) {
+    for (int i = 0; i < table.settingRowCount; ++i) {
         const sProcSetting_t& setting = table.settings[i];
         if (setting.control != sProcSetting_t::eControlNone)
             addField(grids[setting.page], grids[setting.page]->rowCount(), setting);

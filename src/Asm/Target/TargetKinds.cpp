@@ -1,0 +1,54 @@
+#include "TargetKinds.h"
+
+#include "TargetFileWriteVerilog.h"
+#include "TargetFileWriteVhdl.h"
+#include "TargetWriteFileHex.h"
+#include "TargetWriteFileMem.h"
+
+#include <iterator>
+
+namespace nsModAsmFe {
+
+namespace {
+
+template <class Writer>
+std::unique_ptr<TargetMapper> newWriter()
+{
+    return std::make_unique<Writer>();
+}
+
+// The context of the translation is the class that shows the messages.
+#define NALVO_GROUP(text) QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)
+
+/// Indexed by eTargetKind_t.
+constexpr sTargetKind_t kinds[targetKindCount] = {
+    {kindVhdl, "vhdl", "VHDL", NALVO_GROUP("Writing vhdl files..."), true, false, &newWriter<TargetFileWriteVhdl>},
+    {kindVerilog, "verilog", "Verilog", NALVO_GROUP("Writing verilog files..."), true, false,
+     &newWriter<TargetFileWriteVerilog>},
+    {kindHex, "hex", "HEX", NALVO_GROUP("Writing hex files..."), false, false, &newWriter<TargetWriteFileHex>},
+    {kindMem, "mem", "MEM", NALVO_GROUP("Writing mem files..."), false, true, &newWriter<TargetWriteFileMem>},
+};
+
+constexpr bool isEachAtItsPlace()
+{
+    for (int i = 0; i < targetKindCount; ++i) {
+        if (kinds[i].kind != i || kinds[i].newWriter == nullptr)
+            return false;
+    }
+    return true;
+}
+static_assert(isEachAtItsPlace(), "the rows are indexed by eTargetKind_t");
+
+} // namespace
+
+const sTargetKind_t& targetKind(eTargetKind_t kind)
+{
+    return kinds[kind];
+}
+
+const sTargetKind_t (&targetKinds())[targetKindCount]
+{
+    return kinds;
+}
+
+} // namespace nsModAsmFe
