@@ -148,7 +148,8 @@ bool ProcSimEngine::Step::flowTarget(const sSimInstr_t& in, int* target)
     if (m_fault != nullptr)
         return fail();
     if (in.target != sSimInstr_t::computed) {
-        m_label = m_opcode.arg0->type == Arg::label ? m_opcode.arg0->name : m_opcode.arg1->name;
+        if (m_opcode.opcode == nsModAsmFe::ocCall)
+            m_label = m_opcode.arg0->type == Arg::label ? m_opcode.arg0->name : m_opcode.arg1->name;
         return true;
     }
     const int high = dstReg(in);

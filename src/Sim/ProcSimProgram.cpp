@@ -338,6 +338,8 @@ int ProcSimProgram::positionOf(const Opcode* opcode) const
 
 const ProcSimProgram::sFault_t* ProcSimProgram::fault(int position) const
 {
+    if (m_faults.isEmpty())
+        return nullptr;
     const auto found = m_faults.constFind(position);
     return found == m_faults.constEnd() ? nullptr : &found.value();
 }
