@@ -1,5 +1,7 @@
 #include "AsmFeMsgCatalogue.h"
 
+#include "EnumTable.h"
+
 #include <QtGlobal>
 
 namespace nsModAsmFe {
@@ -160,17 +162,8 @@ constexpr sMsgText_t msgGrpTexts[] = {
     NALVO_MSG(refreshIODevViewer, "Refresh IO device map viewer..."),
 };
 
-template <size_t n>
-constexpr bool isEachAtItsPlace(const sMsgText_t (&rows)[n], int count)
-{
-    for (size_t i = 0; i < n; ++i) {
-        if (rows[i].value != int(i))
-            return false;
-    }
-    return int(n) == count;
-}
-static_assert(isEachAtItsPlace(msgTexts, eMsgTypeCount), "the rows are indexed by eMsgType_t");
-static_assert(isEachAtItsPlace(msgGrpTexts, eMsgGrpCount), "the rows are indexed by eMsgGrp_t");
+static_assert(isIndexedBy(msgTexts, &sMsgText_t::value, eMsgTypeCount), "the rows are indexed by eMsgType_t");
+static_assert(isIndexedBy(msgGrpTexts, &sMsgText_t::value, eMsgGrpCount), "the rows are indexed by eMsgGrp_t");
 
 } // namespace
 

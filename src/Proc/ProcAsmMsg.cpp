@@ -1,8 +1,8 @@
 #include "ProcAsmMsg.h"
 
-#include <QtGlobal>
+#include "EnumTable.h"
 
-#include <iterator>
+#include <QtGlobal>
 
 namespace nsProc {
 
@@ -37,15 +37,7 @@ constexpr sAsmMsg_t asmMsgs[] = {
               "Address %1 exceeds the address field of the instruction: the processor goes to address %2."),
 };
 
-constexpr bool isEachAtItsPlace()
-{
-    for (int i = 0; i < eAsmMsgCount; ++i) {
-        if (asmMsgs[i].type != i)
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(asmMsgs) == eAsmMsgCount && isEachAtItsPlace(), "the rows are indexed by eAsmMsg_t");
+static_assert(isIndexedBy(asmMsgs, &sAsmMsg_t::type, eAsmMsgCount), "the rows are indexed by eAsmMsg_t");
 
 } // namespace
 

@@ -1,8 +1,7 @@
 #include "ProcSetting.h"
 
+#include "EnumTable.h"
 #include "ProcCoreConfig.h"
-
-#include <iterator>
 
 namespace nsProc {
 
@@ -20,15 +19,7 @@ constexpr sSettingField_t fields[] = {
     {settingInstrClkCnt, "instrClkCnt", "instrClkCnt", &Config::instrClkCnt, false, errIvldInstClkCycleCnt},
 };
 
-constexpr bool isEachAtItsPlace()
-{
-    for (int i = 0; i < settingCount; ++i) {
-        if (fields[i].setting != i)
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(fields) == settingCount && isEachAtItsPlace(), "the rows are indexed by eSetting_t");
+static_assert(isIndexedBy(fields, &sSettingField_t::setting, settingCount), "the rows are indexed by eSetting_t");
 
 } // namespace
 

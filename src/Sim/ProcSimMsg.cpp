@@ -1,8 +1,8 @@
 #include "ProcSimMsg.h"
 
-#include <QtGlobal>
+#include "EnumTable.h"
 
-#include <iterator>
+#include <QtGlobal>
 
 namespace nsProc {
 
@@ -36,15 +36,7 @@ constexpr sSimMsg_t simMsgs[] = {
     NALVO_MSG(warnIODevNoPort, "The address of IO device %1 does not fit into 16 bits. It answers at no port."),
 };
 
-constexpr bool isEachAtItsPlace()
-{
-    for (int i = 0; i < eSimMsgCount; ++i) {
-        if (simMsgs[i].type != i)
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(simMsgs) == eSimMsgCount && isEachAtItsPlace(), "the rows are indexed by eSimMsg_t");
+static_assert(isIndexedBy(simMsgs, &sSimMsg_t::type, eSimMsgCount), "the rows are indexed by eSimMsg_t");
 
 } // namespace
 

@@ -1,11 +1,10 @@
 #include "TargetKinds.h"
 
+#include "EnumTable.h"
 #include "TargetFileWriteVerilog.h"
 #include "TargetFileWriteVhdl.h"
 #include "TargetWriteFileHex.h"
 #include "TargetWriteFileMem.h"
-
-#include <iterator>
 
 namespace nsModAsmFe {
 
@@ -21,7 +20,7 @@ std::unique_ptr<TargetMapper> newWriter()
 #define NALVO_GROUP(text) QT_TRANSLATE_NOOP("nsModAsmFe::AsmFeMsgHndlr", text)
 
 /// Indexed by eTargetKind_t.
-constexpr sTargetKind_t kinds[targetKindCount] = {
+constexpr sTargetKind_t kinds[] = {
     {kindVhdl, "vhdl", "VHDL", NALVO_GROUP("Writing vhdl files..."), true, false, &newWriter<TargetFileWriteVhdl>},
     {kindVerilog, "verilog", "Verilog", NALVO_GROUP("Writing verilog files..."), true, false,
      &newWriter<TargetFileWriteVerilog>},
@@ -29,15 +28,7 @@ constexpr sTargetKind_t kinds[targetKindCount] = {
     {kindMem, "mem", "MEM", NALVO_GROUP("Writing mem files..."), false, true, &newWriter<TargetWriteFileMem>},
 };
 
-constexpr bool isEachAtItsPlace()
-{
-    for (int i = 0; i < targetKindCount; ++i) {
-        if (kinds[i].kind != i || kinds[i].newWriter == nullptr)
-            return false;
-    }
-    return true;
-}
-static_assert(isEachAtItsPlace(), "the rows are indexed by eTargetKind_t");
+static_assert(isIndexedBy(kinds, &sTargetKind_t::kind, targetKindCount), "the rows are indexed by eTargetKind_t");
 
 } // namespace
 

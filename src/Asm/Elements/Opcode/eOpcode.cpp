@@ -1,8 +1,8 @@
 #include "eOpcode.h"
 
-#include <QHash>
+#include "EnumTable.h"
 
-#include <iterator>
+#include <QHash>
 
 namespace nsModAsmFe {
 
@@ -58,15 +58,7 @@ constexpr sOpcodeRow_t rows[] = {
     {ocXor, "XOR", "xor"},
 };
 
-constexpr bool isEachAtItsPlace()
-{
-    for (int i = 0; i < ocCount; ++i) {
-        if (rows[i].opcode != i)
-            return false;
-    }
-    return true;
-}
-static_assert(std::size(rows) == ocCount && isEachAtItsPlace(), "the rows are indexed by eOpcode_t");
+static_assert(isIndexedBy(rows, &sOpcodeRow_t::opcode, ocCount), "the rows are indexed by eOpcode_t");
 
 bool isOpcode(eOpcode_t opcode)
 {
