@@ -53,8 +53,8 @@ public:
     /// The output files are written: external programs that belong to the event may run.
     /// @return false if one of them has failed
     virtual bool runExternalPrograms(AsmFeConfig::eAssembleEvent_t) { return true; }
-    /// The list of constants is to be shown anew: a run for outputs has ended, with or without success, or the program
-    /// is gone.
+    /// The list of constants is to be shown anew: a run for outputs has ended, with or without success but not for
+    /// want of a processor, or the program is gone.
     virtual void refreshEquList() {}
 };
 

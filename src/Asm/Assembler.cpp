@@ -114,7 +114,8 @@ bool Assembler::runGroup(eMsgGrp_t group, const QString& arg, Stage stage)
 {
     m_listener->runGoesOn();
     m_messages.signMsgGroup(group, arg);
-    m_assembled = stage() && !m_abandoned;
+    // Whoever shows the group may have taken away what the stage works with.
+    m_assembled = !m_abandoned && stage() && !m_abandoned;
     m_messages.closeGroup(m_assembled);
     return m_assembled;
 }

@@ -68,7 +68,8 @@ void ModAsmFe::modExitIntermod()
 {
     if (modGuiHook != nullptr && m_statusBar != nullptr) {
         modGuiHook->removeWidget(m_statusBar);
-        modGuiHook->removeWidget(m_equListView);
+        if (m_equListView != nullptr)
+            modGuiHook->removeWidget(m_equListView);
     }
     removeIODevViewer();
     delete m_equListView;

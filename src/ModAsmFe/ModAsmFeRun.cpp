@@ -63,6 +63,8 @@ void ModAsmFe::clearIODevViewer()
 
 void ModAsmFe::naviTagFound(const AsmNaviTag& tag)
 {
+    if (modSrcNaviHook == nullptr)
+        return;
     using nsModSrcNavi::NaviTag;
     const auto typeOf = [](AsmNaviTag::eType_t type) {
         switch (type) {

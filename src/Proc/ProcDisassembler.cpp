@@ -44,6 +44,8 @@ ProcDisassembler::ProcDisassembler(const ProcTable& table)
 
 QString ProcDisassembler::text(int word, int address, const TargetName& targetName) const
 {
+    if ((word & ~allBits) != 0)
+        return QString();
     for (const sPattern_t& pattern : m_patterns) {
         if ((word & pattern.mask) != pattern.match)
             continue;

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QProcessEnvironment>
 #include <QRegularExpression>
 
 namespace nsHouse {
@@ -52,6 +53,11 @@ QString compilerOutput(QStringList options, const QString& text)
     FixtureTree tree;
     tree.write("probe.cpp", text);
     QProcess compiler;
+    // In English, whatever the language of the machine.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("LC_ALL", "C");
+    environment.remove("LANGUAGE");
+    compiler.setProcessEnvironment(environment);
     compiler.setProcessChannelMode(QProcess::MergedChannels);
     const QString program = options.takeFirst();
     compiler.start(program, options << "-fsyntax-only" << tree.root() + "/probe.cpp");

@@ -18,7 +18,7 @@ std::string formatterOutput(const QStringList& files)
     const QStringList options{"--dry-run", "-Werror", "--style=file:" NALVO_SOURCE_DIR "/.clang-format"};
     formatter.start("clang-format", options + files);
     if (!formatter.waitForStarted())
-        return "clang-format is not installed";
+        return "clang-format is not installed; the tree is formatted by version 14";
     formatter.waitForFinished(-1);
     const QString output = QString::fromUtf8(formatter.readAll());
     EXPECT_EQ(formatter.exitCode() == 0, output.isEmpty()) << qPrintable(output);

@@ -49,6 +49,8 @@ public:
     {
         FakeMsgHook::openMessageGroup(text, hlpDoc);
         calls->append("open " + (hlpDoc.fragment().isEmpty() ? text : hlpDoc.fragment()));
+        if (onGroup)
+            onGroup(text);
     }
     void closeMessageGroup(bool success) override
     {
@@ -62,6 +64,7 @@ public:
     }
 
     QStringList* calls;
+    std::function<void(const QString& text)> onGroup;
     QSet<ModMsgPluginIf*> registered;
     int registrations = 0;
 };

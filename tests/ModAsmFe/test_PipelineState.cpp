@@ -377,6 +377,25 @@ TEST(PipelineReentrancy, backEndLeavesDuringARun)
     EXPECT_TRUE(f.run(program));
 }
 
+TEST(PipelineReentrancy, backEndLeavesBetweenTwoStages)
+{
+    AsmFixture f;
+    for (const QString& group : {QString("Map code to memory ranges..."), QString("Run backend stage 1 for %1 ..."),
+                                 QString("Run backend stage 2 for %1 ...")}) {
+        f.msg.onGroup = [&f,
+                         text = group.contains('%') ? group.arg(f.be.processorName()) : group](const QString& opened) {
+            if (opened == text)
+                f.asmFe.unregisterPlugin(&f.be);
+        };
+        EXPECT_FALSE(f.run(program, ModAsmFe::eEventSave)) << group.toStdString();
+        EXPECT_EQ(f.be.modAsmFeHook, nullptr) << group.toStdString();
+        EXPECT_TRUE(f.msg.openGroups.isEmpty());
+        f.asmFe.registerPlugin(&f.be);
+    }
+    f.msg.onGroup = nullptr;
+    EXPECT_TRUE(f.run(program));
+}
+
 TEST(PipelineBackEnd, oneAtATime)
 {
     AsmFixture f;

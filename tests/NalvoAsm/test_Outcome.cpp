@@ -4,6 +4,9 @@
 
 #include <QDateTime>
 
+#include <csignal>
+
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -161,6 +164,25 @@ TEST_F(AsmToolOutcome, AnOutputFileOnAFullDisk)
     writeProject(AsmProject().vhdl("t.vhd", "/dev/full"));
     write("t.vhd", vhdlTemplate());
     EXPECT_EQ(run({"p.nalvo"}).status, 1);
+}
+
+TEST_F(AsmToolOutcome, WhatIsLeftOfAnOutputHoldsNothingOld)
+{
+    write("a.psm", goodSource());
+    writeProject(AsmProject().output("hex", "out.hex"));
+    write("out.hex", QByteArray(28000, 'x'));
+    AsmToolSetup full = setup();
+    // As on a disk without room: a file ends after 4096 bytes.
+    full.inChild = [] {
+        const rlimit limit = {4096, 4096};
+        setrlimit(RLIMIT_FSIZE, &limit);
+        std::signal(SIGXFSZ, SIG_IGN);
+    };
+    const AsmToolResult result = run({"p.nalvo"}, full);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_TRUE(result.err.contains("out.hex (File too large) [errTargetWrite]")) << result.err.constData();
+    EXPECT_EQ(read("out.hex").size(), 4096);
+    EXPECT_FALSE(read("out.hex").contains('x'));
 }
 
 TEST_F(AsmToolOutcome, ProjectSourcesAndSettingsStayAsTheyAre)

@@ -83,6 +83,8 @@ TEST_P(ProcTablesTest, everyWordHasTheTextOfTheIndependentDecoder)
         withText += int(!text.isEmpty());
     }
     EXPECT_GT(withText, 60000);
+    for (int word : {1 << 18, -1, (1 << 18) + 0x01000})
+        EXPECT_EQ(actual.text(word, 5000, label), "") << std::hex << word;
 }
 
 TEST_P(ProcTablesTest, everyInstructionOfTheManualIsAssembledAndExecuted)

@@ -23,8 +23,7 @@
 ///
 /// The window is made by makeWindow(), so that a test can lay out settings and files before. CMakeLists.txt of such a
 /// test:
-///   get_property(modules GLOBAL PROPERTY NALVO_APP_MODULES)
-///   nalvo_test(NAME test_Xxx MODULES NalvoApp ${modules} LIBS NalvoAppResources)
+///   nalvo_test(NAME test_Xxx MODULES NalvoApp ${NALVO_MODULES} LIBS NalvoAppResources)
 class MainWindowFixture : public ::testing::Test
 {
 protected:

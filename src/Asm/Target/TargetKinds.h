@@ -8,7 +8,8 @@ namespace nsModAsmFe {
 
 class TargetMapper;
 
-/// What distinguishes a kind of output file from the others. A further kind is a further row.
+/// What distinguishes a kind of output file from the others. A further kind is a further row, and a
+/// section and a title in the settings page, which the compiler asks for.
 struct sTargetKind_t
 {
     eTargetKind_t kind;

@@ -60,16 +60,12 @@ bool TargetMapper::writeBytes(const QString& file, const QByteArray& bytes, eMsg
     QFile output(file);
     if (!openOutput(&output))
         return fail(openError, file);
-    const bool written = output.write(bytes) == bytes.size() && output.flush();
-    QString reason = output.errorString();
-    // What is left of the old content is cut off at last: to free its blocks first costs a file system far more.
-    if (!output.isSequential() && output.size() > output.pos())
-        output.resize(output.pos());
+    // Nothing of the old content may follow what a full disk or a kill leaves of the new one.
+    output.resize(0);
     // A full disk may be reported as late as when the file is closed.
+    const bool written = output.write(bytes) == bytes.size() && output.flush();
     output.close();
-    if (written)
-        reason = output.errorString();
-    return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, reason);
+    return (written && output.error() == QFile::NoError) || fail(errTargetWrite, file, output.errorString());
 }
 
 } // namespace nsModAsmFe

@@ -7,6 +7,8 @@
 #include <QGridLayout>
 #include <QLabel>
 
+#include <iterator>
+
 namespace nsModAsmFe {
 
 namespace {
@@ -29,8 +31,9 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     : QWidget(parent)
     , m_layout(new QGridLayout(this))
 {
-    const QString kinds[targetKindCount] = {tr("Write VHDL files:"), tr("Write verilog files:"), tr("Write hex files:"),
-                                            tr("Write mem files:")};
+    const QString kinds[] = {tr("Write VHDL files:"), tr("Write verilog files:"), tr("Write hex files:"),
+                             tr("Write mem files:")};
+    static_assert(std::size(kinds) == targetKindCount, "each kind has its title");
     const QString events[eventCount] = {tr("Button 1"), tr("Button 2"), tr("After saving")};
     m_layout->setContentsMargins(0, 0, 0, 0);
     m_layout->setHorizontalSpacing(8);

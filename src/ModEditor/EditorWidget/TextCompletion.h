@@ -19,6 +19,7 @@ public:
 
     /// @param words not owned
     void setWords(QStringListModel* words);
+    /// Kept for the settings; without an effect so far, as is the next one.
     void setEnabled(bool enabled) { m_isEnabled = enabled; }
     /// @param length characters
     void setPrefixLength(int length) { m_prefixLength = length; }
