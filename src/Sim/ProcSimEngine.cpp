@@ -135,6 +135,7 @@ void ProcSimEngine::reset()
     m_core->clear();
     m_callStack->clear();
     m_ports->clear();
+    m_question = sQuestion_t();
 }
 
 void ProcSimEngine::clearHighlights()

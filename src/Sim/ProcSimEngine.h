@@ -44,7 +44,7 @@ public:
     // The program.
 
     /// Takes the instructions of a list, now and after each assembler run. There is no next instruction after this.
-    /// @param opcodes not owned; may be deleted before this
+    /// @param opcodes not owned; after its deletion only load() may be called
     void load(nsModAsmFe::OpcodeList* opcodes);
     /// Decodes the present instructions of the list anew, after they have changed in place. The position stays.
     void decode();
@@ -66,7 +66,11 @@ public:
     /// @return false after a reported error; the program counter is set nevertheless
     bool setProgramCounter(const nsModAsmFe::Opcode* opcode, SimOutcome* outcome);
     /// There is no next instruction. Nothing is reported.
-    void dropProgramCounter() { m_pc = sSimInstr_t::none; }
+    void dropProgramCounter()
+    {
+        m_pc = sSimInstr_t::none;
+        m_question = sQuestion_t();
+    }
     /// Position of the next instruction, sSimInstr_t::none if there is none.
     int position() const { return m_pc; }
     nsModAsmFe::Opcode* programCounter() const { return m_program.opcode(m_pc); }
@@ -94,7 +98,8 @@ public:
     /// @param outcome of the last one
     /// @return number of instructions that were executed
     qint64 run(qint64 count, int until, SimOutcome* outcome);
-    /// For observers: the program must not go on. The instruction that is being notified is not executed.
+    /// For observers: the program must not go on, from now on and for good. The instruction that is being notified is
+    /// not executed.
     void halt() { m_isHalted = true; }
     /// Sets or takes back a pending interrupt, if interrupts are enabled.
     void toggleInterrupt();

@@ -214,6 +214,10 @@ qint64 ProcSimEngine::run(qint64 count, int until, SimOutcome* outcome)
 {
     qint64 executed = 0;
     *outcome = SimOutcome();
+    if (m_isHalted) {
+        outcome->end = SimOutcome::eEndStopped;
+        return 0;
+    }
     while (executed < count) {
         if (m_program.isPlaced() && m_pc != sSimInstr_t::none && m_core->interrupt() != eIntPending) {
             const qint64 fast =

@@ -4,6 +4,10 @@ namespace nsProc {
 
 /// Sees what a simulated program does, as it does it, and can serve as the source of its port reads. Does nothing by
 /// default.
+///
+/// In ProcSimEngine::run() the engine's position, flags, bank, page and clock count are those at the start of the loop
+/// when instruction(), refused() and scrpdWritten() are called: these may rely on what they are given, on registers and
+/// on the scratchpad alone.
 class ProcSimObserver
 {
 public:

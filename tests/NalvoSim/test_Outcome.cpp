@@ -77,6 +77,18 @@ TEST_F(SimToolOutcome, LabelsStartAndEndARun)
     EXPECT_EQ(reason(dump({"--until", "inner::turn", "p.nalvo"})), "label");
 }
 
+TEST_F(SimToolOutcome, ADeviceWithoutAPortIsReportedWithoutAPlace)
+{
+    writeProgram("#SET IODEV::rx::EN, TRUE\n#SET IODEV::rx::SIZE, 1\n#SET IODEV::rx::BASEADDR, 0x12345\n"
+                 "#SET IODEV::rx::SIMEN, TRUE\n" +
+                 loopSource());
+    const AsmToolResult result = run({"-n", "3", "p.nalvo"});
+    EXPECT_EQ(result.status, 0) << result.err.constData();
+    EXPECT_EQ(result.errLines().filter("warnIODevNoPort"),
+              QStringList("warning: The address of IO device IODEV::rx does not fit into 16 bits. It answers at no "
+                          "port. [warnIODevNoPort]"));
+}
+
 TEST_F(SimToolOutcome, MessagesOfTheSimulatorStopARun)
 {
     const QByteArray vector = "#ORG ADDR, 0x3FF\n RETI ENABLE\n";

@@ -200,6 +200,13 @@ TEST_F(SimEngine, AQuestionForThePageGoesOnWhereItWasLeft)
     EXPECT_EQ(engine->callStack()->items().back().label, "s1 = 0, s2 = 16");
     EXPECT_FALSE(engine->goOnInPage(1).wentOn()) << "there is no question any more";
     EXPECT_EQ(engine->programCounter()->memRange, 2);
+
+    SimOutcome moved;
+    ASSERT_TRUE(engine->setProgramCounter(engine->program().opcode(0), &moved));
+    EXPECT_EQ(engine->step().end, SimOutcome::eEndAsksPage);
+    engine->dropProgramCounter();
+    EXPECT_FALSE(engine->goOnInPage(1).wentOn()) << "nobody waits for the answer any more";
+    EXPECT_EQ(engine->position(), sSimInstr_t::none);
 }
 
 TEST_F(SimEngine, ALoopStopsAtItsBoundAndAtAPosition)
@@ -258,6 +265,9 @@ TEST_F(SimEngine, AHaltExecutesNothingMore)
         EXPECT_EQ(notes.refusals, (std::vector<int>{haltAt}));
         EXPECT_TRUE(notes.writes.empty());
         engine->removeObserver(&notes);
+        EXPECT_EQ(run(100), 0) << "for good, also without the observer";
+        EXPECT_EQ(last.end, SimOutcome::eEndStopped);
+        EXPECT_EQ(engine->position(), haltAt);
     }
 }
 

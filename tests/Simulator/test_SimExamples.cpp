@@ -114,13 +114,16 @@ TEST_F(SimExamples, UartMonitorOnPicoBlaze3)
     EXPECT_EQ(pcText(), "LOAD s0, ::LF");
 }
 
+// clang-format off
 // Up to "CALL settings::check" of main.psm:
-//   INT, REGBANK, LOAD, 3 WRMEM, WRPRT 1A, CALL text::banner                                              8
-//   instructions uart::send: RDPRT, TEST, JUMP, WRPRT, RET 5 newline: LOAD, CALL, send, LOAD, JUMP, send 14 banner:
-//   CALL newline, newline, 2 LOAD, CALL print                                                    18 print: 10
-//   characters of CALL, LOADRET, COMP, RET, CALL, send, ADD, ADDC, JUMP (13); CALL, LOADRET, COMP, RET   134 newline at
-//   the end                                                                                   14 174 instructions of 2
-//   clocks: 348. The last flags are those of TEST 0, 1: zero 1, parity 0.
+//   INT, REGBANK, LOAD, 3 WRMEM, WRPRT 1A, CALL text::banner                                              8 instructions
+//   uart::send: RDPRT, TEST, JUMP, WRPRT, RET                                                             5
+//   newline: LOAD, CALL, send, LOAD, JUMP, send                                                          14
+//   banner: CALL newline, newline, 2 LOAD, CALL print                                                    18
+//   print: 10 characters of CALL, LOADRET, COMP, RET, CALL, send, ADD, ADDC, JUMP (13); CALL, LOADRET, COMP, RET   134
+//   newline at the end                                                                                   14
+//   174 instructions of 2 clocks: 348. The last flags are those of TEST 0, 1: zero 1, parity 0.
+// clang-format on
 TEST_F(SimExamples, MotorControlOnPicoBlaze6)
 {
     ASSERT_TRUE(startExample("motor_control"));
@@ -149,10 +152,14 @@ TEST_F(SimExamples, MotorControlOnPicoBlaze6)
     EXPECT_EQ(sim()->core()->zeroBit(), 1);
 }
 
+// clang-format off
 // Up to "CALL lock::clear" of main.psm:
-//   RDPRT of a request register that holds 0, TEST (zero 1), JUMP                                         3
-//   instructions INT, LOAD, 2 WRPRT, 4 WRMEM 8 CALL keypad::init, 5 LOAD, RET 7 CALL uart::init, 4 LOAD, WRPRT FF, 3
-//   times LOAD and WRPRT: 50,000,000 / 9600 - 1 = 5207 = 1457, 01, RET   13 31 instructions of 2 clocks: 62.
+//   RDPRT of a request register that holds 0, TEST (zero 1), JUMP                                         3 instructions
+//   INT, LOAD, 2 WRPRT, 4 WRMEM                                                                           8
+//   CALL keypad::init, 5 LOAD, RET                                                                        7
+//   CALL uart::init, 4 LOAD, WRPRT FF, 3 times LOAD and WRPRT: 50,000,000 / 9600 - 1 = 5207 = 1457, 01, RET   13
+//   31 instructions of 2 clocks: 62.
+// clang-format on
 TEST_F(SimExamples, KeypadLockOnMico8)
 {
     ASSERT_TRUE(startExample("keypad_lock"));

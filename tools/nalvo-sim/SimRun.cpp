@@ -26,7 +26,8 @@ using nsProc::ProcSimWaveData;
 
 namespace {
 
-const qint64 blockSize = 1 << 17; ///< instructions between two looks at the signal
+const qint64 blockSize = 1 << 17;      ///< instructions between two looks at the signal
+const qint64 traceBlockSize = 1 << 12; ///< the same with a trace, whose reader may be slow
 
 QString tr(const char* text)
 {
@@ -153,9 +154,14 @@ bool SimRun::startSim()
     m_engine = std::make_unique<nsProc::ProcSimEngine>(m_project.processor, m_project.config);
     m_engine->load(&m_project.program->opcodes);
     nsProc::SimOutcome outcome;
-    const bool success = m_engine->initIODevices(m_project.program->ioDevs, &outcome) &&
-                         m_engine->setProgramCounter(m_project.program->opcodes.opcodeOfMemAddr(0), &outcome);
+    bool success = m_engine->initIODevices(m_project.program->ioDevs, &outcome);
+    // What is wrong with a device is at no instruction, so it is shown before there is a position.
     show(outcome);
+    if (success) {
+        outcome = nsProc::SimOutcome();
+        success = m_engine->setProgramCounter(m_project.program->opcodes.opcodeOfMemAddr(0), &outcome);
+        show(outcome);
+    }
     if (!success) {
         const QString key = outcome.last()->key();
         setEnd(SimEnd::endMessage, tr("stopped by %1 before the first instruction").arg(key), key);
@@ -236,7 +242,8 @@ bool SimRun::isBoundReached()
 
 qint64 SimRun::nextBlock() const
 {
-    qint64 count = std::min(blockSize, m_options.instructions - m_instructions);
+    qint64 count = m_tracer != nullptr ? traceBlockSize : blockSize;
+    count = std::min(count, m_options.instructions - m_instructions);
     const qint64 clocks = m_options.clocks - m_engine->clock()->clocks;
     const qint64 perInstr = std::max(m_engine->clocksOfInstr(), 1);
     count = std::min(count, clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0));
@@ -326,6 +333,9 @@ void SimRun::endByFailure(const nsProc::SimOutcome& outcome)
         return;
     }
     const nsProc::sSimReport_t* last = outcome.last();
+    // Who halts the engine knows why.
+    if (last == nullptr)
+        return;
     if (last->kind == nsProc::sSimReport_t::eKindMessage && last->msg == nsProc::errIODevRd)
         reportUnreadPort(outcome.port);
     endByMessage(*last);
