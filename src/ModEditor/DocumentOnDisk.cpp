@@ -1,7 +1,5 @@
 #include "DocumentOnDisk.h"
 
-#include "ModEditor.h"
-
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
@@ -48,7 +46,7 @@ DocumentOnDisk::eState_t DocumentOnDisk::state(const QString& path, QByteArray* 
     if (!info.isFile())
         return eStateNoFile;
     QFile file(path);
-    if (info.size() > ModEditor::maxFileSize || !file.open(QIODevice::ReadOnly)) {
+    if (info.size() > maxFileSize || !file.open(QIODevice::ReadOnly)) {
         *bytes = QByteArray();
         return eStateChanged;
     }

@@ -17,6 +17,9 @@ public:
         eStateNoFile = 3 ///< there is a folder or a device, which a document can not be read from
     };
 
+    /// Largest file that is opened, in bytes.
+    static const qint64 maxFileSize = qint64(64) * 1024 * 1024;
+
     /// No file yet.
     DocumentOnDisk() = default;
     /// @param bytes what was read or written just now

@@ -1,15 +1,22 @@
 #include "ModEditor.h"
 
+#include "DocumentCommands.h"
+#include "DocumentKeeper.h"
+#include "DocumentSync.h"
 #include "EditorConfigPage.h"
+#include "EditorFinder.h"
 #include "EditorKeys.h"
 #include "EditorMemPageAddrMap.h"
 #include "EditorRecovery.h"
+#include "EditorServices.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighterConfig.h"
 #include "EditorTipManager.h"
 #include "EditorWidget.h"
 #include "EditorWidgetLeftMargin.h"
+#include "OpenDocuments.h"
+#include "RecoveryOffer.h"
 
 #include "ModCfgAppHookIf.h"
 #include "ModEditorPluginIf.h"
@@ -27,14 +34,26 @@ namespace nsModEditor {
 
 ModEditor::ModEditor(QObject* parent)
     : QObject(parent)
+    , m_documents(std::make_unique<OpenDocuments>(this))
+    , m_services(std::make_unique<EditorServices>(this, this, this))
+    , m_keeper(std::make_unique<DocumentKeeper>(m_documents.get(), m_services.get()))
+    , m_sync(std::make_unique<DocumentSync>(m_documents.get(), m_services.get(), m_keeper.get()))
+    , m_commands(
+          std::make_unique<DocumentCommands>(m_documents.get(), m_services.get(), m_keeper.get(), m_sync.get(), this))
+    , m_finder(std::make_unique<EditorFinder>(this, this, m_documents.get()))
     , m_textCompletionList(new QStringListModel(this))
 {
+    connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
+    connect(m_commands.get(), &DocumentCommands::renamed, this, [this](EditorWidget* widget, const QString& name) {
+        if (modGuiHook != nullptr)
+            modGuiHook->setWidgetName(widget, name);
+    });
 }
 
 ModEditor::~ModEditor()
 {
     // The window deletes the pages that it still contains; the others are owned by this object.
-    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+    for (EditorWidget* widget : m_documents->all()) {
         if (widget->parent() == nullptr)
             delete widget;
     }
@@ -44,6 +63,16 @@ ModEditor::~ModEditor()
     delete m_tipManager;
     delete m_memPageAddrMap;
     delete m_configPage;
+}
+
+const QList<EditorWidget*>& ModEditor::editorWidgets() const
+{
+    return m_documents->all();
+}
+
+EditorRecovery* ModEditor::recovery() const
+{
+    return m_keeper->recovery();
 }
 
 EditorStatusBar* ModEditor::statusBar() const
@@ -80,7 +109,9 @@ void ModEditor::modInit()
     m_actionsEdit->setEnabled(false);
     m_actionsSim->setEnabled(false);
     m_supportMenu->setEnabled(false);
-    initRecovery();
+    m_keeper->start();
+    m_recoveryOffer = std::make_unique<RecoveryOffer>(
+        this, RecoveryOffer::sParts_t{m_documents.get(), m_services.get(), m_keeper.get(), m_commands.get(), this});
 }
 
 void ModEditor::modInitIntermod()
@@ -93,9 +124,22 @@ void ModEditor::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusFirst, m_statusBar, QString());
 }
 
+void ModEditor::modRun()
+{
+    if (m_recoveryOffer != nullptr)
+        m_recoveryOffer->offer();
+}
+
+bool ModEditor::modExitRequest()
+{
+    m_commands->settleFiles(true);
+    return true;
+}
+
 void ModEditor::modExitIntermod()
 {
-    closeRecoveryNotice();
+    if (m_recoveryOffer != nullptr)
+        m_recoveryOffer->closeNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
     if (modMsgHook != nullptr)
@@ -105,9 +149,10 @@ void ModEditor::modExitIntermod()
 void ModEditor::modExit()
 {
     // Documents without a project have not been closed with it.
-    while (!m_editorWidgets.isEmpty())
-        removeEditorWidget(m_editorWidgets.first());
-    exitRecovery();
+    while (!m_documents->isEmpty())
+        removeEditorWidget(m_documents->all().first());
+    m_keeper->stop();
+    m_recoveryOffer.reset();
     delete m_supportMenu;
     m_supportMenu = nullptr;
     delete m_syntaxHighlighterConfig;
@@ -192,7 +237,7 @@ void ModEditor::wrAppCfg()
 
 void ModEditor::prjOpen()
 {
-    m_lastPath = modPrjHook->prjDir().absolutePath();
+    m_commands->setFolder(modPrjHook->prjDir().absolutePath());
     tabIndent = qBound(1, modPrjHook->value(editorKeys::tabIndent, tabIndent), maxTabIndent);
     // The only value on the page that is also a project setting.
     if (m_configPage != nullptr)
@@ -200,43 +245,41 @@ void ModEditor::prjOpen()
     // One file has one path, also outside of the project's folder.
     const auto fileOf = [this](const QString& path) { return QDir::cleanPath(modPrjHook->convToAbsPath(path)); };
     // The list of a program that was killed is newer than that of the project file.
-    const RecoveryStore::Session session = takeSession();
+    const RecoveryStore::Session session = m_keeper->takeSession();
     const bool isKilled = !session.project.isEmpty();
     for (const QString& file : isKilled ? session.files : modPrjHook->value(editorKeys::openFiles, QStringList()))
-        openFileWidget(fileOf(file));
+        m_commands->openFile(fileOf(file));
     configureEditorWidgets();
     const QString lastFile = isKilled ? session.lastFile : modPrjHook->value(editorKeys::lastFile, QString());
-    EditorWidget* last = lastFile.isEmpty() ? nullptr : openFileWidget(fileOf(lastFile));
+    EditorWidget* last = lastFile.isEmpty() ? nullptr : m_commands->openFile(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value(editorKeys::lastCursorPos, 0));
     // Without a last file one of the pages is current, too.
     updateActionState();
 }
 
+void ModEditor::prjAboutToClose()
+{
+    m_commands->settleFiles(false);
+}
+
 void ModEditor::prjSave()
 {
     modPrjHook->setValue(editorKeys::tabIndent, tabIndent);
     QStringList open;
-    if (modGuiHook != nullptr) {
-        for (QWidget* page : modGuiHook->centerWidgetList()) {
-            auto* widget = qobject_cast<EditorWidget*>(page);
-            if (m_editorWidgets.contains(widget) && !widget->filePath().isEmpty())
-                open.append(convToRelPath(widget->filePath()));
-        }
-    }
+    for (const QString& path : m_documents->pathsByPage())
+        open.append(m_services->relPath(path));
     modPrjHook->setValue(editorKeys::openFiles, open);
-    EditorWidget* current = currentEditorWidget();
-    modPrjHook->setValue(editorKeys::lastFile, current != nullptr ? convToRelPath(current->filePath()) : QString());
+    EditorWidget* current = m_documents->current();
+    modPrjHook->setValue(editorKeys::lastFile,
+                         current != nullptr ? m_services->relPath(current->filePath()) : QString());
     modPrjHook->setValue(editorKeys::lastCursorPos, current != nullptr ? current->cursorPos() : 0);
 }
 
 void ModEditor::prjClose()
 {
     closeAllFiles();
-    if (m_recovery != nullptr) {
-        m_recovery->setProject(QString());
-        m_recovery->putSession({});
-    }
+    m_keeper->clearSession();
     setActionState(nullptr);
     setMemPageAddrMap(nullptr);
 }
@@ -245,7 +288,7 @@ void ModEditor::handleUrl(QUrl url)
 {
     setCursorToLine(url);
     clearMessageFlag();
-    EditorWidget* widget = currentEditorWidget();
+    EditorWidget* widget = m_documents->current();
     // During a simulation the flagged line is that of the program counter.
     if (m_simEnabled || widget == nullptr || widget->filePath() != url.path())
         return;
@@ -267,7 +310,7 @@ QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionCla
         return {};
     switch (actionClass) {
     case ModActionHookIf::eActionClassFile:
-        return m_actionsFile->menuActions() << m_recoverAction << m_recoverSeparator;
+        return m_actionsFile->menuActions() << m_recoveryOffer->menuActions();
     case ModActionHookIf::eActionClassEdit:
         return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
     case ModActionHookIf::eActionClassSimulator:
@@ -336,7 +379,7 @@ void ModEditor::configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp
         QTextCharFormat copy = *format;
         m_syntaxHighlighterConfig->addRule(regExp, copy);
     } else {
-        showError(tr("Internal error: Can not resolf TextCharFormat for HighlightingRule!"));
+        m_services->showError(tr("Internal error: Can not resolf TextCharFormat for HighlightingRule!"));
     }
 }
 
@@ -350,7 +393,7 @@ void ModEditor::setMemPageAddrMap(EditorMemPageAddrMap* map)
 {
     EditorMemPageAddrMap* old = m_memPageAddrMap;
     m_memPageAddrMap = map;
-    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+    for (EditorWidget* widget : m_documents->all())
         widget->setMemPageAddrMap(map);
     if (old != map)
         delete old;
@@ -374,7 +417,8 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     connect(widget, SIGNAL(clearAllBookmarks()), this, SLOT(clearAllBookmarks()));
     // After the drop has ended: opening can ask a question, which would block the program that the files are dragged
     // from.
-    connect(widget, &EditorWidget::filesDropped, this, &ModEditor::openDroppedFiles, Qt::QueuedConnection);
+    connect(widget, &EditorWidget::filesDropped, m_commands.get(), &DocumentCommands::openDroppedFiles,
+            Qt::QueuedConnection);
     widget->addActions(m_actionsEdit->menuActions());
 }
 
@@ -401,7 +445,7 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
 
 void ModEditor::configureEditorWidgets()
 {
-    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+    for (EditorWidget* widget : m_documents->all())
         configureEditorWidget(widget);
 }
 

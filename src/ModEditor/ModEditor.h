@@ -1,11 +1,11 @@
 #pragma once
 
-#include "DocumentFormat.h"
-#include "DocumentOnDisk.h"
+#include "DocumentPages.h"
 #include "EditorActionsEdit.h"
 #include "EditorActionsFile.h"
 #include "EditorActionsSim.h"
 #include "EditorConfig.h"
+#include "EditorFinder.h"
 #include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
 #include "ModClipboardPluginIf.h"
@@ -19,29 +19,32 @@
 #include "ModScriptPluginIf.h"
 #include "ModSourcesPluginIf.h"
 #include "PluginList.h"
-#include "RecoveryStore.h"
 
-#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
 
-class MyNoticeBar;
-class QPrinter;
+#include <memory>
+
 class QStringListModel;
 
 namespace nsModEditor {
 
-class DocumentWatcher;
+class DocumentCommands;
+class DocumentKeeper;
+class DocumentSync;
 class EditorConfigPage;
 class EditorMemPageAddrMap;
 class EditorRecovery;
+class EditorServices;
 class EditorStatusBar;
 class EditorSupportMenu;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidget;
+class OpenDocuments;
+class RecoveryOffer;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
 ///
@@ -62,23 +65,13 @@ class ModEditor : public QObject,
                   public ModFindReplacePluginIf,
                   public ModClipboardPluginIf,
                   public ModScriptPluginIf,
-                  public EditorConfig
+                  public EditorConfig,
+                  public DocumentPages
 {
     Q_OBJECT
 
 public:
-    /// What the find and replace strip asks for.
-    struct sFindParameter_t
-    {
-        bool caseSensitive = false;
-        bool wholeWords = false;
-        bool wrapPending = false; ///< the end of the document was reached; the next search continues at the other end
-        QString findString;
-        QString replaceString;
-    };
-
-    /// Largest file that is opened, in bytes.
-    static const qint64 maxFileSize = qint64(64) * 1024 * 1024;
+    using sFindParameter_t = EditorFinder::sFindParameter_t;
 
     explicit ModEditor(QObject* parent = nullptr);
     ~ModEditor() override;
@@ -161,12 +154,10 @@ public:
     void clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature) override;
 
     /// Open documents in the order of their creation. Owned.
-    const QList<EditorWidget*>& editorWidgets() const { return m_editorWidgets; }
+    const QList<EditorWidget*>& editorWidgets() const;
     EditorStatusBar* statusBar() const;
     /// Looks after what is not in a file; null before modInit() and after modExit().
-    EditorRecovery* recovery() const { return m_recovery; }
-    /// Prints the document, or what is selected in it, as the printer is set.
-    void printFile(EditorWidget* widget, QPrinter* printer);
+    EditorRecovery* recovery() const;
 
 public slots:
     // ModEditorHookIf: documents; also for scripts
@@ -203,94 +194,16 @@ private slots:
     void clearSimBreakpoints();
     void clearAllSimStartPointer();
     void clearAllBookmarks();
-    void checkDisk(const QString& path, bool sure);
     // What the user chooses in the status bar.
     void setLineEnd(int lineEnd);
     void setMark(bool mark);
-    void openDroppedFiles(const QStringList& paths);
 
 private:
-    // Documents (ModEditorDocuments.cpp, ModEditorFiles.cpp)
-    EditorWidget* newEditorWidget(const QString& path);
-    void removeEditorWidget(EditorWidget* widget);
-    EditorWidget* openFileWidget(const QString& path);
-    EditorWidget* currentEditorWidget() const;
-    /// Gives the focus to the current document, after a command of the user.
-    void focusCurrentWidget();
-    void openFilesByDialog();
-    bool readFile(const QString& path, QByteArray* bytes);
-    bool writeFile(const QString& path, const QByteArray& bytes);
-    QByteArray encoded(EditorWidget* widget);
-    bool saveFile(EditorWidget* widget);
-    bool saveFileAs(EditorWidget* widget);
-    void reloadFile(EditorWidget* widget);
-    void closeFile(EditorWidget* widget);
-    void closeFiles(const QList<EditorWidget*>& widgets);
-    template <class Action>
-    bool inGroup(const QString& text, Action action);
-    void printFile(EditorWidget* widget);
-    bool askForSave(const QString& path);
-    bool askForReload(const QString& path);
-    bool askForProjectMember(const QString& path);
-    bool ask(const QString& title, const QString& first, const QString& path, const QStringList& closing);
-    // Files that others change (ModEditorDisk.cpp)
-    /// The user's choice if a file and its document have both changed.
-    enum eConflict_t { eConflictCancel = 0, eConflictKeepMine = 1, eConflictTakeFile = 2 };
-    /// What is known of the file of a document.
-    struct sDisk_t
-    {
-        DocumentOnDisk onDisk;
-        QPointer<MyNoticeBar> notice;     ///< others have changed or removed the file
-        QPointer<MyNoticeBar> lockNotice; ///< the file can not be shown as it is
-        QByteArray reported;              ///< what the notice was about, closed or not
-        bool isGivenUp = false;           ///< the user has agreed to lose the text `givenUp`
-        QString givenUp;
-    };
-    /// Shows what was read. @param asEdit as a step to undo
-    void setContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit);
-    bool keepReplacedText(EditorWidget* widget);
-    /// After an open or a reload.
-    void showContent(EditorWidget* widget, const QByteArray& bytes);
-    void setNewPath(EditorWidget* widget, const QString& path);
-    void setLocked(EditorWidget* widget, DocumentFormat::eObstacle_t obstacle);
-    bool canSaveAs(EditorWidget* widget, const QString& path);
-    bool writeDocument(EditorWidget* widget);
-    bool saveChecked(EditorWidget* widget);
-    eConflict_t askForConflict(EditorWidget* widget, const QByteArray& other, bool gone);
-    eConflict_t compareWithFile(EditorWidget* widget, const QByteArray& other);
-    bool takeFile(EditorWidget* widget);
-    void keepMine(EditorWidget* widget);
-    void writeAgain(EditorWidget* widget);
-    void compareByNotice(EditorWidget* widget);
-    void watchDocuments();
-    void checkDisk(EditorWidget* widget);
-    void showGoneNotice(EditorWidget* widget);
-    void showChangedNotice(EditorWidget* widget);
-    void removeDiskNotice(EditorWidget* widget);
-    static void removeNotice(QPointer<MyNoticeBar>* bar);
-
-    void setFileContentChanged();
-    void chkProjectMembership(const QString& path);
-    QString convToRelPath(const QString& path) const;
+    // DocumentPages (ModEditorDocuments.cpp)
+    EditorWidget* newEditorWidget(const QString& path) override;
+    void removeEditorWidget(EditorWidget* widget) override;
+    /// The line that a link names in its fragment, counted from 0.
     static int lineOf(const QUrl& url);
-    void showError(const QString& text);
-    void showWarning(const QString& text);
-
-    // What must not be lost (ModEditorRecovery.cpp)
-    void initRecovery();
-    void exitRecovery();
-    void settleFiles(bool isNew);
-    void settleFile(EditorWidget* widget, bool isNew);
-    bool keepText(EditorWidget* widget, bool isNew);
-    void keepSession();
-    RecoveryStore::Session takeSession();
-    QString prjFilePath() const;
-    void offerRecovery();
-    void showRecoverDialog();
-    void closeRecoveryNotice();
-    bool restoreText(const QString& id);
-    bool compareText(const QString& id, bool canRestore);
-    EditorWidget* documentOf(const QString& path) const;
 
     // State (ModEditor.cpp)
     void connectEditorWidget(EditorWidget* widget);
@@ -299,12 +212,14 @@ private:
     void setActionState(EditorWidget* current);
     void updateActionState();
     void clearMessageFlag();
-    void setFindParameter();
-    void find(bool configChanged, bool backward);
 
-    QList<EditorWidget*> m_editorWidgets;
-    QHash<EditorWidget*, sDisk_t> m_disk;
-    DocumentWatcher* m_watcher = nullptr; ///< null before the first document
+    std::unique_ptr<OpenDocuments> m_documents;
+    std::unique_ptr<EditorServices> m_services;
+    std::unique_ptr<DocumentKeeper> m_keeper;
+    std::unique_ptr<DocumentSync> m_sync;
+    std::unique_ptr<DocumentCommands> m_commands;
+    std::unique_ptr<EditorFinder> m_finder;
+    std::unique_ptr<RecoveryOffer> m_recoveryOffer; ///< null before modInit() and after modExit()
     PluginList<ModEditorPluginIf> m_plugins;
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned
     ModEditorPluginIfSimulator* m_simulator = nullptr; ///< not owned
@@ -317,18 +232,11 @@ private:
     EditorActionsFile* m_actionsFile = nullptr;
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;
-    sFindParameter_t m_findParameter;
-    EditorRecovery* m_recovery = nullptr;
-    QAction* m_recoverAction = nullptr; ///< enabled at any time, unlike those of the documents
-    QAction* m_recoverSeparator = nullptr;
-    QPointer<MyNoticeBar> m_recoveryNotice;           ///< after a start that found texts, until its user closes it
-    QString m_lastPath;                               ///< folder that the next dialog for saving starts in
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
-    bool m_errorShown = false;       ///< the present action of the user has reported an error
 };
 
 } // namespace nsModEditor

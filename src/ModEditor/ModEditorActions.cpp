@@ -2,13 +2,15 @@
 
 #include "ModEditor.h"
 
+#include "DocumentCommands.h"
+#include "EditorFinder.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
 #include "EditorWidget.h"
-#include "MyNoticeBar.h"
+#include "OpenDocuments.h"
+#include "RecoveryOffer.h"
 
 #include "ModClipboardHookIf.h"
-#include "ModFindReplaceHookIf.h"
 #include "ModGuiHookIf.h"
 #include "ModPrjHookIf.h"
 
@@ -32,11 +34,11 @@ void ModEditor::handleActions(EditorActionsFile::eAction_t action)
     switch (action) {
     case EditorActionsFile::eActionNew:
         newFile(QString());
-        focusCurrentWidget();
+        m_documents->focusCurrent();
         break;
     case EditorActionsFile::eActionOpen:
-        openFilesByDialog();
-        focusCurrentWidget();
+        m_commands->openFilesByDialog();
+        m_documents->focusCurrent();
         break;
     case EditorActionsFile::eActionSaveAll:
         saveAllFiles();
@@ -70,7 +72,7 @@ void ModEditor::handleActions(EditorActionsFile::eAction_t action)
 
 void ModEditor::handleActions(EditorActionsEdit::eAction_t action)
 {
-    EditorWidget* widget = currentEditorWidget();
+    EditorWidget* widget = m_documents->current();
     if (widget == nullptr)
         return;
     switch (action) {
@@ -123,7 +125,7 @@ void ModEditor::setActionState(EditorWidget* current)
 {
     if (m_actionsFile == nullptr)
         return;
-    if (!m_editorWidgets.contains(current))
+    if (!m_documents->contains(current))
         m_statusBar->clearFormat();
     m_actionsFile->setEnabled(false);
     m_actionsEdit->setEnabled(false);
@@ -134,18 +136,18 @@ void ModEditor::setActionState(EditorWidget* current)
         return;
     m_actionsFile->setEnabled(EditorActionsFile::eActionNew, true);
     m_actionsFile->setEnabled(EditorActionsFile::eActionOpen, true);
-    if (!m_editorWidgets.isEmpty()) {
+    if (!m_documents->isEmpty()) {
         m_actionsFile->setEnabled(EditorActionsFile::eActionSaveAll, true);
         m_actionsFile->setEnabled(EditorActionsFile::eActionReloadAll, true);
         m_actionsFile->setEnabled(EditorActionsFile::eActionCloseAll, true);
     }
-    if (!m_editorWidgets.contains(current))
+    if (!m_documents->contains(current))
         return;
     for (const auto action :
          {EditorActionsFile::eActionSave, EditorActionsFile::eActionSaveAs, EditorActionsFile::eActionReload,
           EditorActionsFile::eActionPrint, EditorActionsFile::eActionClose})
         m_actionsFile->setEnabled(action, true);
-    m_actionsFile->setEnabled(EditorActionsFile::eActionCloseOthers, m_editorWidgets.size() > 1);
+    m_actionsFile->setEnabled(EditorActionsFile::eActionCloseOthers, m_documents->all().size() > 1);
     for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
@@ -157,7 +159,7 @@ void ModEditor::setActionState(EditorWidget* current)
 /// Enables the actions for the current page.
 void ModEditor::updateActionState()
 {
-    setActionState(currentEditorWidget());
+    setActionState(m_documents->current());
 }
 
 void ModEditor::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
@@ -171,7 +173,7 @@ void ModEditor::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QW
 
 void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
 {
-    if (widget == nullptr || m_actionsEdit == nullptr || widget != currentEditorWidget())
+    if (widget == nullptr || m_actionsEdit == nullptr || widget != m_documents->current())
         return;
     m_actionsEdit->setEnabled(EditorActionsEdit::eActionUndo, widget->isUndoAvailable());
     m_actionsEdit->setEnabled(EditorActionsEdit::eActionRedo, widget->isRedoAvailable());
@@ -194,7 +196,7 @@ void ModEditor::setModifiedState(EditorWidget* widget)
 QMap<QString, QList<int>> ModEditor::simBreakpoints()
 {
     QMap<QString, QList<int>> breakpoints;
-    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+    for (EditorWidget* widget : m_documents->all()) {
         if (!widget->filePath().isEmpty())
             breakpoints.insert(widget->filePath(), widget->simBreakpoints());
     }
@@ -203,7 +205,7 @@ QMap<QString, QList<int>> ModEditor::simBreakpoints()
 
 bool ModEditor::simStartPointer(QString* path, int* line)
 {
-    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+    for (EditorWidget* widget : m_documents->all()) {
         if (widget->simStartPointer(line)) {
             *path = widget->filePath();
             return true;
@@ -220,26 +222,26 @@ void ModEditor::setSimBreakpointsChanged()
 
 void ModEditor::clearSimBreakpoints()
 {
-    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+    for (EditorWidget* widget : m_documents->all())
         widget->clearSimBreakpoints();
     setSimBreakpointsChanged();
 }
 
 void ModEditor::clearAllSimStartPointer()
 {
-    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+    for (EditorWidget* widget : m_documents->all())
         widget->clearSimStartPointer();
 }
 
 void ModEditor::clearAllBookmarks()
 {
-    for (EditorWidget* widget : qAsConst(m_editorWidgets))
+    for (EditorWidget* widget : m_documents->all())
         widget->clearBookmarks();
 }
 
 void ModEditor::clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature)
 {
-    EditorWidget* widget = currentEditorWidget();
+    EditorWidget* widget = m_documents->current();
     if (widget == nullptr)
         return;
     switch (feature) {
@@ -257,7 +259,7 @@ void ModEditor::clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature)
 
 QString ModEditor::findInit()
 {
-    EditorWidget* widget = currentEditorWidget();
+    EditorWidget* widget = m_documents->current();
     return widget != nullptr ? widget->textCursor().selectedText() : QString();
 }
 
@@ -266,89 +268,48 @@ void ModEditor::findExit()
     if (modGuiHook != nullptr)
         modGuiHook->clearStatusBarText();
     // The search bar was in front of it.
-    if (modGuiHook != nullptr && m_recoveryNotice != nullptr)
-        modGuiHook->setCurrentWidget(m_recoveryNotice.data());
-}
-
-void ModEditor::setFindParameter()
-{
-    if (modFindReplaceHook == nullptr)
-        return;
-    m_findParameter.findString = modFindReplaceHook->findString();
-    m_findParameter.replaceString = modFindReplaceHook->replaceString();
-    m_findParameter.caseSensitive = modFindReplaceHook->isCaseSensitive();
-    m_findParameter.wholeWords = modFindReplaceHook->isWholeWords();
-    m_findParameter.wrapPending = false;
-}
-
-/// One search. If the text is not found, only a message is shown; the next search continues at the other end.
-void ModEditor::find(bool configChanged, bool backward)
-{
-    if (configChanged)
-        setFindParameter();
-    EditorWidget* widget = currentEditorWidget();
-    if (widget == nullptr)
-        return;
-    const sFindParameter_t& parameter = m_findParameter;
-    const auto search = [&](EditorWidget::eFindOrigin_t origin) {
-        return widget->find(parameter.findString, parameter.caseSensitive, parameter.wholeWords, backward, origin);
-    };
-    const auto say = [this](const QString& text) {
-        if (modGuiHook != nullptr)
-            modGuiHook->setStatusBarText(text);
-    };
-    if (search(EditorWidget::eFindOriginCursor)) {
-        if (m_findParameter.wrapPending && modGuiHook != nullptr)
-            modGuiHook->clearStatusBarText();
-        m_findParameter.wrapPending = false;
-        return;
-    }
-    if (!m_findParameter.wrapPending) {
-        m_findParameter.wrapPending = true;
-        say(backward ? tr("Begin of file reached, continuing from the end...")
-                     : tr("End of file reached, continuing from the begin..."));
-        return;
-    }
-    m_findParameter.wrapPending = false;
-    if (!search(backward ? EditorWidget::eFindOriginEnd : EditorWidget::eFindOriginStart))
-        say(tr("String not found."));
-    else if (modGuiHook != nullptr)
-        modGuiHook->clearStatusBarText();
+    if (m_recoveryOffer != nullptr)
+        m_recoveryOffer->showNotice();
 }
 
 void ModEditor::findNext(bool configChanged)
 {
-    find(configChanged, false);
+    m_finder->find(configChanged, false);
 }
 
 void ModEditor::findPrev(bool configChanged)
 {
-    find(configChanged, true);
+    m_finder->find(configChanged, true);
 }
 
 void ModEditor::replace(bool configChanged)
 {
-    if (configChanged)
-        setFindParameter();
-    EditorWidget* widget = currentEditorWidget();
-    if (widget == nullptr)
-        return;
-    if (modFindReplaceHook != nullptr)
-        m_findParameter.replaceString = modFindReplaceHook->replaceString();
-    // The user may have selected another text since the search.
-    if (widget->isHit(m_findParameter.findString, m_findParameter.caseSensitive, m_findParameter.wholeWords))
-        widget->replace(m_findParameter.replaceString);
-    findNext(configChanged);
+    m_finder->replace(configChanged);
 }
 
 void ModEditor::replaceAll(bool configChanged)
 {
-    if (configChanged)
-        setFindParameter();
-    EditorWidget* widget = currentEditorWidget();
-    if (widget != nullptr)
-        widget->replaceAll(m_findParameter.findString, m_findParameter.replaceString, m_findParameter.caseSensitive,
-                           m_findParameter.wholeWords);
+    m_finder->replaceAll(configChanged);
+}
+
+void ModEditor::setLineEnd(int lineEnd)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr || widget->isReadOnly())
+        return;
+    DocumentFormat format = widget->format();
+    format.setLineEnd(DocumentFormat::eLineEnd_t(lineEnd));
+    widget->setFormat(format);
+}
+
+void ModEditor::setMark(bool mark)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr || widget->isReadOnly())
+        return;
+    DocumentFormat format = widget->format();
+    format.setMark(mark && format.encoding() == DocumentFormat::eEncodingUtf8);
+    widget->setFormat(format);
 }
 
 } // namespace nsModEditor

@@ -1,11 +1,12 @@
-// Documents whose files are changed by others: detecting the change, and following it or asking the user.
+#include "DocumentSync.h"
 
-#include "ModEditor.h"
-
+#include "DocumentKeeper.h"
 #include "DocumentWatcher.h"
 #include "EditorRecovery.h"
+#include "EditorServices.h"
 #include "EditorWidget.h"
 #include "MyNoticeBar.h"
+#include "OpenDocuments.h"
 #include "TextCompareDialog.h"
 
 #include <QApplication>
@@ -21,15 +22,15 @@ QString reasonOf(DocumentFormat::eObstacle_t obstacle)
 {
     switch (obstacle) {
     case DocumentFormat::eObstacleNul:
-        return ModEditor::tr(
+        return DocumentSync::tr(
             "The file has NUL bytes; only the text in front of the first one is shown. It is opened for "
             "reading and never written.");
     case DocumentFormat::eObstacleUtf16:
-        return ModEditor::tr(
+        return DocumentSync::tr(
             "The file is UTF-16 text, which the assembler can not read. It is opened for reading and never "
             "written.");
     case DocumentFormat::eObstacleCharacters:
-        return ModEditor::tr(
+        return DocumentSync::tr(
             "The file has characters that would be lost in an editor. It is opened for reading and never "
             "written.");
     case DocumentFormat::eObstacleNone:
@@ -46,7 +47,16 @@ QByteArray changeIdOf(DocumentOnDisk::eState_t state, const QByteArray& bytes)
 
 } // namespace
 
-void ModEditor::setContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit)
+DocumentSync::DocumentSync(const OpenDocuments* documents, EditorServices* services, DocumentKeeper* keeper,
+                           QObject* parent)
+    : QObject(parent)
+    , m_documents(documents)
+    , m_services(services)
+    , m_keeper(keeper)
+{
+}
+
+void DocumentSync::setContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit)
 {
     QString text;
     DocumentFormat format = DocumentFormat::decode(bytes, &text);
@@ -66,14 +76,15 @@ void ModEditor::setContent(EditorWidget* widget, const QByteArray& bytes, bool a
     watchDocuments();
 }
 
-void ModEditor::showContent(EditorWidget* widget, const QByteArray& bytes)
+void DocumentSync::showContent(EditorWidget* widget, const QByteArray& bytes)
 {
     setContent(widget, bytes, false);
     if (widget->format().encoding() == DocumentFormat::eEncodingLatin1 && !widget->isReadOnly())
-        showWarning(tr("File is no UTF-8 text, it is read and written as ISO 8859-1: ") + widget->filePath());
+        m_services->showWarning(tr("File is no UTF-8 text, it is read and written as ISO 8859-1: ") +
+                                widget->filePath());
 }
 
-void ModEditor::setNewPath(EditorWidget* widget, const QString& path)
+void DocumentSync::setNewPath(EditorWidget* widget, const QString& path)
 {
     widget->setFilePath(path);
     m_disk[widget].onDisk = DocumentOnDisk();
@@ -81,7 +92,7 @@ void ModEditor::setNewPath(EditorWidget* widget, const QString& path)
     watchDocuments();
 }
 
-void ModEditor::setLocked(EditorWidget* widget, DocumentFormat::eObstacle_t obstacle)
+void DocumentSync::setLocked(EditorWidget* widget, DocumentFormat::eObstacle_t obstacle)
 {
     const bool locked = obstacle != DocumentFormat::eObstacleNone;
     if (widget->isReadOnly() != locked)
@@ -94,45 +105,59 @@ void ModEditor::setLocked(EditorWidget* widget, DocumentFormat::eObstacle_t obst
     widget->addNotice(bar);
 }
 
-bool ModEditor::canSaveAs(EditorWidget* widget, const QString& path)
+bool DocumentSync::canSaveAs(EditorWidget* widget, const QString& path)
 {
     if (widget->isReadOnly()) {
-        showError(tr("Document is read-only and can not be saved: ") + widget->filePath());
+        m_services->showError(tr("Document is read-only and can not be saved: ") + widget->filePath());
         return false;
     }
-    for (EditorWidget* other : qAsConst(m_editorWidgets)) {
+    for (EditorWidget* other : m_documents->all()) {
         if (other == widget || other->filePath().isEmpty() || !DocumentOnDisk::isSameFile(other->filePath(), path))
             continue;
         // Two documents with the same file would overwrite each other without a question.
-        showError(tr("Can not save under the name of another open document: ") + path);
+        m_services->showError(tr("Can not save under the name of another open document: ") + path);
         return false;
     }
     return true;
 }
 
-bool ModEditor::writeDocument(EditorWidget* widget)
+bool DocumentSync::writeDocument(EditorWidget* widget)
 {
     if (widget->isReadOnly()) {
-        showError(tr("Document is read-only and can not be saved: ") + widget->filePath());
+        m_services->showError(tr("Document is read-only and can not be saved: ") + widget->filePath());
         return false;
     }
     const QByteArray bytes = encoded(widget);
-    if (!writeFile(widget->filePath(), bytes))
+    if (!m_services->writeFile(widget->filePath(), bytes))
         return false;
     m_disk[widget].onDisk = DocumentOnDisk(widget->filePath(), bytes);
     DocumentFormat format = widget->format();
     format.settle(widget->text());
     widget->setFormatOnDisk(format);
     widget->clearModified();
-    if (m_recovery != nullptr)
-        m_recovery->setSaved(widget);
+    if (m_keeper->recovery() != nullptr)
+        m_keeper->recovery()->setSaved(widget);
     removeDiskNotice(widget);
     watchDocuments();
-    setActionStateEditorWidget(widget);
+    emit written(widget);
     return true;
 }
 
-bool ModEditor::saveChecked(EditorWidget* widget)
+/// The bytes of a document for its file.
+QByteArray DocumentSync::encoded(EditorWidget* widget)
+{
+    const QString text = widget->text();
+    DocumentFormat format = widget->format();
+    if (!format.canEncode(text)) {
+        // The text has a character that Latin-1 does not have: the document changes to UTF-8.
+        format.setEncoding(DocumentFormat::eEncodingUtf8);
+        widget->setFormat(format);
+        m_services->showWarning(tr("File is written as UTF-8 from now on: ") + widget->filePath());
+    }
+    return format.encode(text);
+}
+
+bool DocumentSync::saveChecked(EditorWidget* widget)
 {
     const DocumentOnDisk onDisk = m_disk.value(widget).onDisk;
     QByteArray other;
@@ -157,12 +182,12 @@ bool ModEditor::saveChecked(EditorWidget* widget)
     return false;
 }
 
-ModEditor::eConflict_t ModEditor::askForConflict(EditorWidget* widget, const QByteArray& other, bool gone)
+DocumentSync::eConflict_t DocumentSync::askForConflict(EditorWidget* widget, const QByteArray& other, bool gone)
 {
     const QString text = "<p>" +
                          (gone ? tr("The file was removed since it was read:")
                                : tr("The file was changed by another program since it was read:")) +
-                         "</p><p><b>" + convToRelPath(widget->filePath()).toHtmlEscaped() + "</b><p><p>" +
+                         "</p><p><b>" + m_services->relPath(widget->filePath()).toHtmlEscaped() + "</b><p><p>" +
                          (gone ? tr("It can be saved again.")
                                : tr("What the other program has written is lost if you keep your text. If you take the "
                                     "file, Undo brings your text back.")) +
@@ -184,19 +209,19 @@ ModEditor::eConflict_t ModEditor::askForConflict(EditorWidget* widget, const QBy
         box.exec();
         QAbstractButton* clicked = box.clickedButton();
         // Pages can be closed while the question is open.
-        if (clicked == nullptr || clicked == cancel || !m_editorWidgets.contains(widget))
+        if (clicked == nullptr || clicked == cancel || !m_documents->contains(widget))
             return eConflictCancel;
         if (clicked == mine)
             return eConflictKeepMine;
         if (clicked == file)
             return eConflictTakeFile;
         const eConflict_t answer = clicked == compare ? compareWithFile(widget, other) : eConflictCancel;
-        if (answer != eConflictCancel || !m_editorWidgets.contains(widget))
+        if (answer != eConflictCancel || !m_documents->contains(widget))
             return answer;
     }
 }
 
-ModEditor::eConflict_t ModEditor::compareWithFile(EditorWidget* widget, const QByteArray& other)
+DocumentSync::eConflict_t DocumentSync::compareWithFile(EditorWidget* widget, const QByteArray& other)
 {
     QString text;
     DocumentFormat::decode(other, &text);
@@ -206,33 +231,21 @@ ModEditor::eConflict_t ModEditor::compareWithFile(EditorWidget* widget, const QB
     dialog.addButton(tr("Take the file"), tr("Takes the text of the file, on the right; Undo brings yours back"),
                      eConflictTakeFile);
     const int answer = dialog.exec();
-    return m_editorWidgets.contains(widget) ? eConflict_t(answer) : eConflictCancel;
-}
-
-/// Puts the changed text of a document aside before that of its file replaces it. Undo does not bring it back where the
-/// document is being closed, or where the file can only be read.
-bool ModEditor::keepReplacedText(EditorWidget* widget)
-{
-    if (!widget->isModified() || m_recovery == nullptr)
-        return true;
-    if (!keepText(widget, false))
-        return false;
-    m_recovery->release(widget);
-    return true;
+    return m_documents->contains(widget) ? eConflict_t(answer) : eConflictCancel;
 }
 
 /// Takes over what the file holds now.
-bool ModEditor::takeFile(EditorWidget* widget)
+bool DocumentSync::takeFile(EditorWidget* widget)
 {
     QByteArray bytes;
-    if (!readFile(widget->filePath(), &bytes) || !keepReplacedText(widget))
+    if (!m_services->readFile(widget->filePath(), &bytes) || !m_keeper->keepReplacedText(widget))
         return false;
     setContent(widget, bytes, true);
     return true;
 }
 
 /// The next save overwrites the file, whatever its content is.
-void ModEditor::keepMine(EditorWidget* widget)
+void DocumentSync::keepMine(EditorWidget* widget)
 {
     QByteArray other;
     sDisk_t& disk = m_disk[widget];
@@ -242,30 +255,30 @@ void ModEditor::keepMine(EditorWidget* widget)
     removeDiskNotice(widget);
 }
 
-void ModEditor::watchDocuments()
+void DocumentSync::watchDocuments()
 {
     if (m_watcher == nullptr) {
         m_watcher = new DocumentWatcher(this);
         connect(m_watcher, SIGNAL(touched(QString, bool)), this, SLOT(checkDisk(QString, bool)));
     }
     QStringList paths;
-    for (EditorWidget* widget : qAsConst(m_editorWidgets)) {
+    for (EditorWidget* widget : m_documents->all()) {
         if (!widget->filePath().isEmpty())
             paths.append(widget->filePath());
     }
     m_watcher->setPaths(paths);
 }
 
-void ModEditor::checkDisk(const QString& path, bool sure)
+void DocumentSync::checkDisk(const QString& path, bool sure)
 {
-    const QList<EditorWidget*> widgets = m_editorWidgets;
+    const QList<EditorWidget*> widgets = m_documents->all();
     for (EditorWidget* widget : widgets) {
         if (widget->filePath() == path && m_disk.contains(widget) && (sure || !m_disk[widget].onDisk.looksSame(path)))
             checkDisk(widget);
     }
 }
 
-void ModEditor::checkDisk(EditorWidget* widget)
+void DocumentSync::checkDisk(EditorWidget* widget)
 {
     sDisk_t& disk = m_disk[widget];
     QByteArray other;
@@ -279,8 +292,8 @@ void ModEditor::checkDisk(EditorWidget* widget)
         QString text;
         // A file that was destroyed takes the steps to undo with it: the good text is kept.
         if (DocumentFormat::decode(other, &text).obstacle() != DocumentFormat::eObstacleNone && !widget->isReadOnly() &&
-            m_recovery != nullptr && keepText(widget, false))
-            m_recovery->release(widget);
+            m_keeper->recovery() != nullptr && m_keeper->keepText(widget, false))
+            m_keeper->release(widget);
         setContent(widget, other, true);
         return;
     }
@@ -294,7 +307,7 @@ void ModEditor::checkDisk(EditorWidget* widget)
         showChangedNotice(widget);
 }
 
-void ModEditor::showGoneNotice(EditorWidget* widget)
+void DocumentSync::showGoneNotice(EditorWidget* widget)
 {
     auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning, tr("The file is gone from the disk."));
     connect(bar->addButton(tr("Save again"), tr("Writes the text into a file of the same name")), &QPushButton::clicked,
@@ -303,7 +316,7 @@ void ModEditor::showGoneNotice(EditorWidget* widget)
     widget->addNotice(bar);
 }
 
-void ModEditor::showChangedNotice(EditorWidget* widget)
+void DocumentSync::showChangedNotice(EditorWidget* widget)
 {
     auto* bar = new MyNoticeBar(MyNoticeBar::eGradeWarning, tr("File and document have both changed."));
     connect(bar->addButton(tr("Compare..."), tr("Shows both texts side by side")), &QPushButton::clicked, widget,
@@ -317,7 +330,7 @@ void ModEditor::showChangedNotice(EditorWidget* widget)
 }
 
 /// Asks the user if the file exists again.
-void ModEditor::writeAgain(EditorWidget* widget)
+void DocumentSync::writeAgain(EditorWidget* widget)
 {
     QByteArray other;
     if (m_disk[widget].onDisk.state(widget->filePath(), &other) == DocumentOnDisk::eStateGone)
@@ -326,7 +339,7 @@ void ModEditor::writeAgain(EditorWidget* widget)
         saveChecked(widget);
 }
 
-void ModEditor::compareByNotice(EditorWidget* widget)
+void DocumentSync::compareByNotice(EditorWidget* widget)
 {
     QByteArray other;
     if (m_disk[widget].onDisk.state(widget->filePath(), &other) != DocumentOnDisk::eStateChanged || other.isNull())
@@ -343,7 +356,7 @@ void ModEditor::compareByNotice(EditorWidget* widget)
     }
 }
 
-void ModEditor::removeDiskNotice(EditorWidget* widget)
+void DocumentSync::removeDiskNotice(EditorWidget* widget)
 {
     sDisk_t& disk = m_disk[widget];
     disk.reported.clear();
@@ -351,32 +364,12 @@ void ModEditor::removeDiskNotice(EditorWidget* widget)
 }
 
 /// Later, as the bar may be the one whose button is just being pressed.
-void ModEditor::removeNotice(QPointer<MyNoticeBar>* bar)
+void DocumentSync::removeNotice(QPointer<MyNoticeBar>* bar)
 {
     if (*bar == nullptr)
         return;
     (*bar)->dismiss();
     bar->clear();
-}
-
-void ModEditor::setLineEnd(int lineEnd)
-{
-    EditorWidget* widget = currentEditorWidget();
-    if (widget == nullptr || widget->isReadOnly())
-        return;
-    DocumentFormat format = widget->format();
-    format.setLineEnd(DocumentFormat::eLineEnd_t(lineEnd));
-    widget->setFormat(format);
-}
-
-void ModEditor::setMark(bool mark)
-{
-    EditorWidget* widget = currentEditorWidget();
-    if (widget == nullptr || widget->isReadOnly())
-        return;
-    DocumentFormat format = widget->format();
-    format.setMark(mark && format.encoding() == DocumentFormat::eEncodingUtf8);
-    widget->setFormat(format);
 }
 
 } // namespace nsModEditor

@@ -1,0 +1,52 @@
+#include "OpenDocuments.h"
+
+#include "EditorWidget.h"
+
+#include "ModGuiHookIf.h"
+#include "ModGuiPluginIf.h"
+
+namespace nsModEditor {
+
+EditorWidget* OpenDocuments::current() const
+{
+    if (m_gui->modGuiHook == nullptr)
+        return nullptr;
+    auto* widget = qobject_cast<EditorWidget*>(m_gui->modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs));
+    return contains(widget) ? widget : nullptr;
+}
+
+EditorWidget* OpenDocuments::of(const QString& path) const
+{
+    for (EditorWidget* widget : m_widgets) {
+        if (widget->filePath() == path)
+            return widget;
+    }
+    return nullptr;
+}
+
+QStringList OpenDocuments::pathsByPage() const
+{
+    QStringList paths;
+    if (m_gui->modGuiHook == nullptr)
+        return paths;
+    for (QWidget* page : m_gui->modGuiHook->centerWidgetList()) {
+        auto* widget = qobject_cast<EditorWidget*>(page);
+        if (contains(widget) && !widget->filePath().isEmpty())
+            paths.append(widget->filePath());
+    }
+    return paths;
+}
+
+void OpenDocuments::show(EditorWidget* widget) const
+{
+    if (m_gui->modGuiHook != nullptr)
+        m_gui->modGuiHook->setCurrentWidget(widget);
+}
+
+void OpenDocuments::focusCurrent() const
+{
+    if (EditorWidget* widget = current())
+        widget->setFocus();
+}
+
+} // namespace nsModEditor
