@@ -110,8 +110,10 @@ void ModEditor::modInit()
     m_actionsSim->setEnabled(false);
     m_supportMenu->setEnabled(false);
     m_keeper->start();
+    // A child, so that its actions stand below the window like all others.
     m_recoveryOffer = std::make_unique<RecoveryOffer>(
-        this, RecoveryOffer::sParts_t{m_documents.get(), m_services.get(), m_keeper.get(), m_commands.get(), this});
+        this, RecoveryOffer::sParts_t{m_documents.get(), m_services.get(), m_keeper.get(), m_commands.get(), this},
+        this);
 }
 
 void ModEditor::modInitIntermod()

@@ -41,8 +41,7 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
     if (!path.isEmpty())
         widget->setFilePath(path);
     if (modGuiHook != nullptr)
-        modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, widget,
-                              path.isEmpty() ? tr("Untitled") : m_services->relPath(path));
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, widget, m_services->nameOf(path));
     return widget;
 }
 

@@ -297,7 +297,7 @@ void DocumentCommands::printFile(EditorWidget* widget)
 
 void DocumentCommands::printFile(EditorWidget* widget, QPrinter* printer)
 {
-    const QString name = widget->filePath().isEmpty() ? tr("Untitled") : m_services->relPath(widget->filePath());
+    const QString name = m_services->nameOf(widget->filePath());
     if (!PrintedPages::print(widget->printJob(name, printer->printRange() == QPrinter::Selection), printer))
         m_services->showError(tr("Can not print: ") + name);
 }

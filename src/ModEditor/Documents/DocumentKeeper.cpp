@@ -32,7 +32,7 @@ void DocumentKeeper::stop()
 
 bool DocumentKeeper::keepText(EditorWidget* widget, bool isNew)
 {
-    const QString name = widget->filePath().isEmpty() ? tr("Untitled") : m_services->relPath(widget->filePath());
+    const QString name = m_services->nameOf(widget->filePath());
     QString reason;
     if (m_recovery != nullptr && m_recovery->keep(widget, isNew, &reason)) {
         m_services->showInfo(tr("The unsaved text of %1 is kept: File > Recover text...").arg(name));

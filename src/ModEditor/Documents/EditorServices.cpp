@@ -143,6 +143,11 @@ QString EditorServices::relPath(const QString& path) const
     return m_prj->modPrjHook != nullptr && !path.isEmpty() ? m_prj->modPrjHook->convToRelPath(path) : path;
 }
 
+QString EditorServices::nameOf(const QString& path) const
+{
+    return path.isEmpty() ? tr("Untitled") : relPath(path);
+}
+
 void EditorServices::chkProjectMembership(const QString& path) const
 {
     // Without a project there is nothing that a file could be a member of.

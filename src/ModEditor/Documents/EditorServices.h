@@ -46,6 +46,8 @@ public:
     QString projectFile() const;
     /// The path as it is shown.
     QString relPath(const QString& path) const;
+    /// The same for a document, which may be in no file yet. @param path empty for none
+    QString nameOf(const QString& path) const;
     /// Offers a file to the open project. May ask a question, so that documents are closed meanwhile.
     void chkProjectMembership(const QString& path) const;
     /// Others shall look at the files again.

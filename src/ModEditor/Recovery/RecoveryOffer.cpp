@@ -20,6 +20,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QPointer>
 #include <QPushButton>
 
 #include <algorithm>
@@ -87,7 +88,10 @@ void RecoveryOffer::offer()
     QPushButton* button = m_notice->addButton(tr("Compare and restore..."),
                                               tr("Shows the texts that were kept, to compare and restore them"));
     connect(button, &QPushButton::clicked, this, [this] {
+        const QPointer<RecoveryOffer> self(this);
         showDialog();
+        if (self.isNull() || m_parts.keeper->recovery() == nullptr)
+            return;
         // Without a project nothing could be restored yet: the offer stands.
         if (m_parts.services->isProjectOpen() || store()->entries().isEmpty())
             closeNotice();
@@ -140,7 +144,11 @@ void RecoveryOffer::showDialog()
             restoreText(id);
         dialog.fill();
     });
+    const QPointer<RecoveryOffer> self(this);
     dialog.exec();
+    // The program may have ended meanwhile.
+    if (self.isNull() || m_parts.keeper->recovery() == nullptr)
+        return;
     // A user who has seen the list, and could restore from it, need not be told of it again.
     if (dialog.isRestoreEnabled()) {
         for (const RecoveryStore::Entry& entry : store()->entries())
