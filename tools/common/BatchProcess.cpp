@@ -8,11 +8,15 @@
 #include <csignal>
 
 #include <fcntl.h>
+#include <malloc.h>
 #include <unistd.h>
 
 namespace nsBatch {
 
 namespace {
+
+const int memoryStep = 4 << 20;    ///< bytes that are asked of the system at a time
+const int largestBlock = 32 << 20; ///< bytes; larger blocks have a mapping of their own
 
 // Time stamps have years of four digits.
 const qint64 firstEpoch = -62135596800; ///< 0001-01-01 00:00:00
@@ -34,8 +38,13 @@ void occupyStandardStreams()
 ///
 /// - A standard stream that is closed stays unusable; otherwise the first opened file would get its number.
 /// - If the reader of the messages ends early, the run still completes its output files.
+///
+/// A short run takes its memory in few large steps and gives none of it back, which is a tenth of its time.
 void setupProcess()
 {
+    mallopt(M_TOP_PAD, memoryStep);
+    mallopt(M_TRIM_THRESHOLD, largestBlock);
+    mallopt(M_MMAP_THRESHOLD, largestBlock);
     occupyStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
     // Messages of the libraries about the environment are suppressed.
