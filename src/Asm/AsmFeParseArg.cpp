@@ -40,6 +40,22 @@ bool someOf(const QString& text, int from, Test test)
     return from < text.size() && allOf(text, from, test);
 }
 
+const int fewDigits = 7; ///< digits of a number that cannot leave the range, whatever its base
+
+/// The number that the digits from a position on stand for. All of them are digits of the base.
+/// @return 0 if the number is out of range
+int numberFrom(const QString& text, int from, int base)
+{
+    if (text.size() - from > fewDigits)
+        return text.midRef(from).toInt(nullptr, base);
+    int value = 0;
+    for (int i = from; i < text.size(); ++i) {
+        const int c = text.at(i).unicode();
+        value = value * base + (c <= '9' ? c - '0' : (c | ('a' - 'A')) - 'a' + 10);
+    }
+    return value;
+}
+
 int afterSigns(const QString& text)
 {
     int pos = 0;
@@ -86,9 +102,9 @@ int AsmFeParseArg::toNumeric(const QString& text) const
 {
     const int pos = afterSigns(text);
     if (hasPrefix(text, pos, 'x', 'X') && allOf(text, pos + 2, isHex))
-        return text.toInt(nullptr, 16);
+        return pos == 0 && text.size() > 2 ? numberFrom(text, 2, 16) : text.toInt(nullptr, 16);
     if (allOf(text, pos, isDec))
-        return text.toInt(nullptr, 10);
+        return pos == 0 ? numberFrom(text, 0, 10) : text.toInt(nullptr, 10);
     // The first character is removed even if it is a sign: then the backslash remains in the text, and the result is 0.
     if (pos < text.size() && text.at(pos) == '\\' && allOf(text, pos + 1, isDec))
         return text.mid(1).toInt(nullptr, 8);

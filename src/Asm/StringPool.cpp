@@ -2,12 +2,20 @@
 
 #include <QHash>
 
+#include <cstring>
+
 namespace nsModAsmFe {
 
 namespace {
 
 const size_t initialSlots = 1024;
 const int longestAsciiWord = 32;
+
+bool isSame(const QString& one, QStringView other)
+{
+    return one.size() == other.size() &&
+           std::memcmp(one.constData(), other.data(), size_t(other.size()) * sizeof(QChar)) == 0;
+}
 
 } // namespace
 
@@ -27,7 +35,7 @@ const QString& StringPool::intern(QStringView text)
     const size_t mask = m_slots.size() - 1;
     size_t slot = qHash(text, m_seed) & mask;
     while (!m_slots[slot].isNull()) {
-        if (m_slots[slot] == text)
+        if (isSame(m_slots[slot], text))
             return m_slots[slot];
         slot = (slot + 1) & mask;
     }

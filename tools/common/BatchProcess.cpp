@@ -6,15 +6,19 @@
 #include <QCoreApplication>
 
 #include <csignal>
+#include <cstdlib>
 
 #include <fcntl.h>
 #include <malloc.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace nsBatch {
 
 namespace {
 
+const int smallPage = 4 << 10;     ///< bytes
+const int largePage = 2 << 20;     ///< bytes
 const int memoryStep = 4 << 20;    ///< bytes that are asked of the system at a time
 const int largestBlock = 32 << 20; ///< bytes; larger blocks have a mapping of their own
 
@@ -34,17 +38,32 @@ void occupyStandardStreams()
     }
 }
 
-/// Makes the process safe to run in any surroundings: before anything else in main().
-///
-/// - A standard stream that is closed stays unusable; otherwise the first opened file would get its number.
-/// - If the reader of the messages ends early, the run still completes its output files.
-///
-/// A short run takes its memory in few large steps and gives none of it back, which is a tenth of its time.
-void setupProcess()
+/// Takes the memory of a short run in few large steps, the first of them one large page where the system has one, and
+/// gives none of it back: page by page it would take a fifth of the run.
+void setupMemory()
 {
     mallopt(M_TOP_PAD, memoryStep);
     mallopt(M_TRIM_THRESHOLD, largestBlock);
     mallopt(M_MMAP_THRESHOLD, largestBlock);
+    // The heap goes on a little in front of a large page, whose first byte is not touched before the system knows of
+    // it.
+    const quintptr end = reinterpret_cast<quintptr>(sbrk(0));
+    const quintptr page = (end + smallPage + largePage - 1) & ~quintptr(largePage - 1);
+    if (sbrk(qintptr(page - smallPage - end)) != reinterpret_cast<void*>(end))
+        return;
+    void* volatile block = std::malloc(largePage + smallPage);
+    if (reinterpret_cast<quintptr>(sbrk(0)) >= page + largePage)
+        madvise(reinterpret_cast<void*>(page), largePage, MADV_HUGEPAGE);
+    std::free(block);
+}
+
+/// Makes the process safe to run in any surroundings: before anything else in main().
+///
+/// - A standard stream that is closed stays unusable; otherwise the first opened file would get its number.
+/// - If the reader of the messages ends early, the run still completes its output files.
+void setupProcess()
+{
+    setupMemory();
     occupyStandardStreams();
     std::signal(SIGPIPE, SIG_IGN);
     // Messages of the libraries about the environment are suppressed.

@@ -113,8 +113,8 @@ void ArgumentChecker::syntacticsSetArgParentheses(Arg* arg, ArgExt* ext)
 void ArgumentChecker::syntacticsSetArgNameSpace(Arg* arg, const QString& nameSpace)
 {
     // The terms of an expression have prefixes of their own, and the colons of a string are text.
-    if (!arg->name.contains(QLatin1String("::")) || arg->name.startsWith('"') || AsmFeFormula::isFormula(arg->name) ||
-        !AsmFeParseArg::splitNsFromArg(&arg->name, &arg->nameSpace))
+    if (!arg->name.contains(':') || !arg->name.contains(QLatin1String("::")) || arg->name.startsWith('"') ||
+        AsmFeFormula::isFormula(arg->name) || !AsmFeParseArg::splitNsFromArg(&arg->name, &arg->nameSpace))
         arg->nameSpace = nameSpace;
 }
 

@@ -179,7 +179,8 @@ bool SourceReader::parseLineOpcode(SrcReference* srcRef, const QString& word)
 
     const auto setupArg = [&](QStringView text, Arg* arg, ArgExt* ext, bool withRange) {
         // Nearly all arguments are plain words, which need no search for an attribute or a range.
-        if (!text.contains(QChar('\'')) && !(withRange && text.endsWith(QChar(']')))) {
+        if (std::find(text.begin(), text.end(), QChar('\'')) == text.end() &&
+            !(withRange && text.endsWith(QChar(']')))) {
             arg->name = m_program.texts.intern(text);
         } else {
             QString rest = text.toString();

@@ -20,6 +20,13 @@ struct TargetFileWriteHdl::sBlock_t
 
 namespace {
 
+/// A piece of a line.
+struct sToken_t
+{
+    int pos = 0;
+    int length = 0;
+};
+
 bool isHexDigit(char c)
 {
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
@@ -28,8 +35,8 @@ bool isHexDigit(char c)
 /// Finds the last token of a kind in a line: the prefix, which begins with a brace, in any case, hexadecimal digits and
 /// a closing brace.
 /// @param digits whether digits stand between prefix and brace
-/// @return the token as written, empty if there is none
-QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
+/// @return an empty piece if there is none
+sToken_t lastToken(const QByteArray& line, const char* prefix, bool digits)
 {
     const int prefixLength = int(std::strlen(prefix));
     // Every prefix begins with a brace, of which a line has few.
@@ -41,9 +48,18 @@ QByteArray lastToken(const QByteArray& line, const char* prefix, bool digits)
         while (digits && end < line.size() && isHexDigit(line.at(end)))
             ++end;
         if (end < line.size() && line.at(end) == '}' && (!digits || end > pos + prefixLength))
-            return line.mid(pos, end + 1 - pos);
+            return {pos, end + 1 - pos};
     }
-    return QByteArray();
+    return {};
+}
+
+/// Replaces a token that is the last of its kind, and every equal one before it.
+void replaceToken(QByteArray* line, const sToken_t& token, const QByteArray& text)
+{
+    if (token.pos > 0 && line->lastIndexOf('{', token.pos - 1) >= 0)
+        line->replace(line->mid(token.pos, token.length), text);
+    else
+        line->replace(token.pos, token.length, text);
 }
 
 const int digitsPerBlock = 64;
@@ -105,12 +121,12 @@ bool TargetFileWriteHdl::fillTemplate(const TargetFile& target, const MetaTags& 
 
 bool TargetFileWriteHdl::fillBlock(QByteArray* line, const sBlock_t& block)
 {
-    const QByteArray token = lastToken(*line, block.prefix, true);
-    if (token.isEmpty())
+    const sToken_t token = lastToken(*line, block.prefix, true);
+    if (token.length == 0)
         return false;
     const int prefixLength = int(std::strlen(block.prefix));
-    const int index = token.mid(prefixLength, token.size() - prefixLength - 1).toInt(nullptr, 16);
-    line->replace(token, (this->*block.get)(index));
+    const int index = line->mid(token.pos + prefixLength, token.length - prefixLength - 1).toInt(nullptr, 16);
+    replaceToken(line, token, (this->*block.get)(index));
     return true;
 }
 
@@ -149,10 +165,10 @@ bool TargetFileWriteHdl::fillMetaTag(QByteArray* line, const TargetFile& target,
         {"{PSMNAME", metaTags.prjFileName},
     };
     for (const auto& tag : tags) {
-        const QByteArray token = lastToken(*line, tag.prefix, false);
-        if (token.isEmpty())
+        const sToken_t token = lastToken(*line, tag.prefix, false);
+        if (token.length == 0)
             continue;
-        line->replace(token, tag.text.toUtf8());
+        replaceToken(line, token, tag.text.toUtf8());
         return true;
     }
     return false;

@@ -20,14 +20,6 @@ bool IODev::setValue(int addr, unsigned int value, SrcReference* srcRef, bool mi
     return true;
 }
 
-bool IODev::value(int addr, unsigned int* value) const
-{
-    if (!hasCell(addr))
-        return false;
-    *value = values[size_t(addr)];
-    return true;
-}
-
 bool IODev::value(int addr, unsigned int* value, bool* isInitValue) const
 {
     if (!hasCell(addr))
@@ -40,17 +32,6 @@ bool IODev::value(int addr, unsigned int* value, bool* isInitValue) const
 bool IODev::isInitValue(int addr) const
 {
     return !hasCell(addr) || metaInfos[size_t(addr)].isInitValue;
-}
-
-void IODev::setWritten(int addr)
-{
-    if (hasCell(addr))
-        metaInfos[size_t(addr)].written = true;
-}
-
-bool IODev::isWritten(int addr) const
-{
-    return hasCell(addr) && metaInfos[size_t(addr)].written;
 }
 
 void IODev::clearWritten()

@@ -68,4 +68,25 @@ private:
     bool hasCell(int addr) const { return addr >= 0 && addr < memSize && size_t(addr) < values.size(); }
 };
 
+// The writers ask for every cell.
+
+inline bool IODev::value(int addr, unsigned int* value) const
+{
+    if (!hasCell(addr))
+        return false;
+    *value = values[size_t(addr)];
+    return true;
+}
+
+inline void IODev::setWritten(int addr)
+{
+    if (hasCell(addr))
+        metaInfos[size_t(addr)].written = true;
+}
+
+inline bool IODev::isWritten(int addr) const
+{
+    return hasCell(addr) && metaInfos[size_t(addr)].written;
+}
+
 } // namespace nsModAsmFe
