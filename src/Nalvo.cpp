@@ -8,15 +8,18 @@
 #include "ModConfig.h"
 #include "ModEditor.h"
 #include "ModFindReplace.h"
+#include "ModFonts.h"
 #include "ModGui.h"
 #include "ModMsg.h"
+#include "ModNetwork.h"
 #include "ModPrj.h"
 #include "ModProcessor.h"
+#include "ModScript.h"
 #include "ModSources.h"
 #include "ModSrcNavi.h"
+#include "ModSwUpdate.h"
+#include "ModSyscall.h"
 #include "ModTemplates.h"
-
-#include "ModMsgHookIf.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -47,18 +50,24 @@ Nalvo::Nalvo(int, char**)
 
 void Nalvo::makeModules()
 {
-    // These two are kept as members, as the window needs them for the command line. The order of creation need not be
+    // These three are kept as members, as the window needs them for the command line. The order of creation need not be
     // that of the list: the phases run in the order of the list, so the settings are read at the place of ModCfgApp.
     m_modArgs = new nsModArgs::ModArgs(this);
     m_modPrj = new nsModPrj::ModPrj(this);
+    m_modScript = new nsModScript::ModScript(this);
+    // The window is the first object that scripts can see.
+    m_modScript->registerObject(this, QStringLiteral("app"));
 
     m_phases.append(new nsModMsg::ModMsg(this));
     m_phases.append(m_modPrj);
     m_phases.append(new nsModSources::ModSources(this));
     m_phases.append(new nsModProcessor::ModProcessor(this));
     m_phases.append(new nsModAsmFe::ModAsmFe(this));
+    m_phases.append(new nsModSyscall::ModSyscall(this));
     m_phases.append(new nsModEditor::ModEditor(this));
     m_phases.append(new nsModSrcNavi::ModSrcNavi(this));
+    m_phases.append(new nsModNetwork::ModNetwork(this));
+    m_phases.append(new nsModSwUpdate::ModSwUpdate(this));
     m_phases.append(new nsModAction::ModAction(this));
     m_phases.append(m_modArgs);
     m_phases.append(new nsModCfgApp::ModCfgApp(this));
@@ -67,6 +76,8 @@ void Nalvo::makeModules()
     m_phases.append(new nsModFindReplace::ModFindReplace(this));
     m_phases.append(new nsModGui::ModGui(this));
     m_phases.append(new nsModTemplates::ModTemplates(this));
+    m_phases.append(m_modScript);
+    m_phases.append(new nsModFonts::ModFonts(this));
 }
 
 void Nalvo::handleArgs()
@@ -78,8 +89,8 @@ void Nalvo::handleArgs()
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
     const QString script = m_modArgs->scriptFile();
-    if (!script.isEmpty() && m_modArgs->modMsgHook != nullptr)
-        m_modArgs->modMsgHook->showErrorMessage(tr("This release can not run scripts: %1").arg(script));
+    if (!script.isEmpty())
+        m_modScript->executeScriptFile(script);
 }
 
 void Nalvo::exit()

@@ -10,17 +10,21 @@ class ModArgs;
 namespace nsModPrj {
 class ModPrj;
 }
+namespace nsModScript {
+class ModScript;
+}
 
 /// The main window: makes the modules, drives them through their phases, and hands over what the command line names.
 ///
 /// Visible to scripts as "app". The modules are children of the window; it uses only the module list, except for the
-/// two modules that the command line needs.
+/// three modules that the command line needs.
 class Nalvo : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Makes and starts all modules, shows the window, and opens the project that the command line names.
+    /// Makes and starts all modules, shows the window, opens the project and runs the script that the command line
+    /// names.
     Nalvo(int argc, char** argv);
 
     /// Ends the event loop at once: no exit phase runs, neither settings nor project are saved.
@@ -42,4 +46,5 @@ private:
     ModulePhases m_phases;
     nsModArgs::ModArgs* m_modArgs = nullptr;
     nsModPrj::ModPrj* m_modPrj = nullptr;
+    nsModScript::ModScript* m_modScript = nullptr;
 };

@@ -1,0 +1,10 @@
+#include "ModFonts.h"
+
+namespace nsModFonts {
+
+ModFonts::ModFonts(QObject* parent)
+    : QObject(parent)
+{
+}
+
+} // namespace nsModFonts

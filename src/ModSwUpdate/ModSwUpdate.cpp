@@ -1,0 +1,10 @@
+#include "ModSwUpdate.h"
+
+namespace nsModSwUpdate {
+
+ModSwUpdate::ModSwUpdate(QObject* parent)
+    : QObject(parent)
+{
+}
+
+} // namespace nsModSwUpdate
