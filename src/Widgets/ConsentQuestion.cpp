@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -36,7 +35,9 @@ QPlainTextEdit* makeActView(const QString& act)
     view->setObjectName(QStringLiteral("consentAct"));
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
-    view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setStyleHint(QFont::Monospace);
+    view->setFont(font);
     const QFontMetrics metrics(view->font());
     const int lines = qBound(2, act.count('\n') + 2, mostLines);
     view->setMinimumSize(metrics.averageCharWidth() * columns, metrics.lineSpacing() * lines + 2 * gap);
@@ -78,6 +79,7 @@ bool ConsentQuestion::ask(const QString& title, const QString& text, const QStri
     layout->addWidget(makeActView(act), 1);
     layout->addWidget(buttons);
     no->setFocus();
+    dialog->resize(dialog->minimumSizeHint());
 
     const bool allowed = dialog->exec() == QDialog::Accepted;
     delete dialog;

@@ -15,9 +15,8 @@ protected:
     }
     QString refusal(const QString& name) const
     {
-        return QString(
-                   "nalvo-asm: error: Output file outside of the project's folder is not allowed: %1 (a source names "
-                   "it; --allow-outside writes it) [errTargetOutside]")
+        return QString("error: Output file outside of the project's folder is not allowed: %1 (a source names "
+                       "it; --allow-outside writes it) [errTargetOutside]")
             .arg(name);
     }
     /// A device whose output a source names.
