@@ -39,8 +39,11 @@ QPlainTextEdit* makeActView(const QString& act)
     font.setStyleHint(QFont::Monospace);
     view->setFont(font);
     const QFontMetrics metrics(view->font());
-    const int lines = qBound(2, act.count('\n') + 2, mostLines);
-    view->setMinimumSize(metrics.averageCharWidth() * columns, metrics.lineSpacing() * lines + 2 * gap);
+    int lines = 1;
+    for (const QString& line : act.split('\n'))
+        lines += 1 + line.size() / columns;
+    view->setMinimumWidth(metrics.averageCharWidth() * columns + 2 * gap);
+    view->setFixedHeight(metrics.lineSpacing() * qMin(lines, mostLines) + 2 * gap);
     return view;
 }
 
@@ -76,10 +79,9 @@ bool ConsentQuestion::ask(const QString& title, const QString& text, const QStri
     layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
     layout->setSpacing(2 * gap);
     layout->addLayout(head);
-    layout->addWidget(makeActView(act), 1);
+    layout->addWidget(makeActView(act));
     layout->addWidget(buttons);
     no->setFocus();
-    dialog->resize(dialog->minimumSizeHint());
 
     const bool allowed = dialog->exec() == QDialog::Accepted;
     delete dialog;
