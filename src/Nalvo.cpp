@@ -10,6 +10,7 @@
 #include "ModFindReplace.h"
 #include "ModFonts.h"
 #include "ModGui.h"
+#include "ModHlp.h"
 #include "ModMsg.h"
 #include "ModNetwork.h"
 #include "ModPrj.h"
@@ -66,6 +67,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModSyscall::ModSyscall(this));
     m_phases.append(new nsModEditor::ModEditor(this));
     m_phases.append(new nsModSrcNavi::ModSrcNavi(this));
+    m_phases.append(new nsModHlp::ModHlp(this));
     m_phases.append(new nsModNetwork::ModNetwork(this));
     m_phases.append(new nsModSwUpdate::ModSwUpdate(this));
     m_phases.append(new nsModAction::ModAction(this));
