@@ -19,6 +19,7 @@ const qreal zoomStep = 0.1;
 
 HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
     : QWidget(parent)
+    , m_manager(manager)
     , m_view(nullptr)
 {
     auto* view = new HlpWebView(this);
@@ -45,7 +46,8 @@ HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
 void HlpWidget::setSource(const QUrl& url)
 {
     m_target = url;
-    m_view->load(url);
+    // By its real name, to which the links in the page are relative.
+    m_view->load(m_manager->resolved(url));
 }
 
 QUrl HlpWidget::source() const

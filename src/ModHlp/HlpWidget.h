@@ -55,6 +55,7 @@ protected:
 private:
     void zoom(int steps);
 
+    HlpNetworkAccessManager* m_manager;
     QWebView* m_view;
     QUrl m_target; ///< of setSource()
 };
