@@ -33,6 +33,7 @@ HlpWidget* ModHlp::currentPage() const
 HlpWidget* ModHlp::addPage()
 {
     auto* page = new HlpWidget(m_network);
+    page->setObjectName(QStringLiteral("hlpPage"));
     m_pages.append(page);
     connect(page, &HlpWidget::linkClicked, this, &ModHlp::openPsmFile);
     connect(page, &HlpWidget::actionChanged, this, &ModHlp::enableActions);

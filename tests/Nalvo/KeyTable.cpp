@@ -76,6 +76,9 @@ const KeyTable& settingsKeys()
         {"ModEditor/font/keyWords/weight", "int", "75", "50"},
         {"ModEditor/font/keyWords/italic", "bool", "0", "1"},
         {"ModEditor/font/keyWords/color", "color", "#000000", "#26629e"},
+        {"ModHlp/hlpIndexSideRight", "int", "2", "0"},
+        {"ModHlp/showGettingStarted", "bool", "1", "0"},
+        {"ModHlp/showOnlyOneHelpPage", "bool", "1", "0"},
         {"ModSrcNavi/naviWidgetLocation", "int", "1", "2"},
         {"ModSrcNavi/tagListSortMode", "int", "0", "2"},
         {"ModSrcNavi/bookmarkSymbolColor", "color", "#808000", "#2765a3"},
@@ -145,6 +148,8 @@ const KeyTable& documentKeys()
         {"ModEditor/openFiles", "list", "", "more.psm:main.psm"},
         {"ModEditor/lastFile", "path", "", "main.psm"},
         {"ModEditor/lastCursorPos", "int", "0", "3"},
+        {"ModHlp/openFiles", "list", "", "qthelp://nv/Nalvo/about.html"},
+        {"ModHlp/currentFile", "string", "", "qthelp://nv/Nalvo/about.html"},
     };
     return keys;
 }
