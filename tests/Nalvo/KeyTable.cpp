@@ -148,8 +148,8 @@ const KeyTable& documentKeys()
         {"ModEditor/openFiles", "list", "", "more.psm:main.psm"},
         {"ModEditor/lastFile", "path", "", "main.psm"},
         {"ModEditor/lastCursorPos", "int", "0", "3"},
-        {"ModHlp/openFiles", "list", "", "qthelp://nv/Nalvo/about.html"},
-        {"ModHlp/currentFile", "string", "", "qthelp://nv/Nalvo/about.html"},
+        {"ModHlp/openFiles", "list", "", "qthelp&amp;#58;&#47;&#47;nv&#47;Nalvo&#47;about.html"},
+        {"ModHlp/currentFile", "string", "", "qthelp:&#47;&#47;nv&#47;Nalvo&#47;about.html"},
     };
     return keys;
 }

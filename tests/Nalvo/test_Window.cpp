@@ -173,6 +173,9 @@ TEST_F(MainWindowFixture, ExitIsTheOneOperationForScriptsAndRunsNoExitPhase)
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(QFile::exists(settingsFile()));
     EXPECT_NE(module<ModActionHookIf>(), nullptr);
+    // Until an event loop has begun and ended, the dialogs of other tests would end at once.
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QApplication::exec();
 }
 
 TEST_F(MainWindowFixture, AClientOfTheProjectIsCaughtUpWhenItComesAndWhenItLeaves)
