@@ -7,6 +7,9 @@ HlpActionsHelp::HlpActionsHelp(QObject* parent)
 {
     addEntries({
         {eActionOnlineHelp, QT_TR_NOOP("Online Help"), QT_TR_NOOP("View online help"), "help"},
+        {eActionContext, QT_TR_NOOP("Explain"),
+         QT_TR_NOOP("Explains the word at the cursor, or the part of the window that has the keyboard focus"), nullptr,
+         "F1"},
         {eActionAbout, QT_TR_NOOP("About"), QT_TR_NOOP("View about information"), "about"},
     });
 }

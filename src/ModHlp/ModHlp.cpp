@@ -8,7 +8,7 @@
 #include "ModNetworkHookIf.h"
 #include "ModScriptHookIf.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QFileInfo>
 #include <QHelpEngine>
 #include <QNetworkProxy>
@@ -190,7 +190,17 @@ QList<QAction*> ModHlp::toolBarActions(ModActionHookIf::eActionClass_t actionCla
 
 void ModHlp::handleActions(HlpActionsHelp::eAction_t action)
 {
-    openFile(action == HlpActionsHelp::eActionAbout ? pageAbout : pageStart);
+    switch (action) {
+    case HlpActionsHelp::eActionOnlineHelp:
+        openFile(pageStart);
+        break;
+    case HlpActionsHelp::eActionAbout:
+        openFile(pageAbout);
+        break;
+    case HlpActionsHelp::eActionContext:
+        explain(QApplication::focusWidget());
+        break;
+    }
 }
 
 void ModHlp::handleActions(HlpActionsNavi::eAction_t action)

@@ -116,6 +116,12 @@ public:
 
     void registerPlugin(ModHlpPluginIf* plugin);
 
+    /// Opens the page that explains a word of a source: an instruction, a directive, the key of a message.
+    void explainWord(const QString& word);
+    /// Opens the page about a widget: about the word at its text cursor; else about the page or panel that it is a part
+    /// of, which says so by its property "helpRef"; else the first page.
+    void explain(QWidget* widget);
+
 public slots:
     /// Opens a page: "pageid://" and the id of a page, or a file of the collection.
     void openFile(QUrl url);
@@ -139,6 +145,7 @@ private:
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
     void find(bool backwards);
+    QUrl urlOfWord(const QString& word) const;
 
     PluginList<ModHlpPluginIf> m_plugins;
     HlpCollection m_collection;

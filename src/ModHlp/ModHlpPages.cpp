@@ -8,7 +8,11 @@
 #include "ModNetworkHookIf.h"
 #include "ModPrjHookIf.h"
 
+#include <QHelpEngine>
+#include <QHelpLink>
 #include <QNetworkProxy>
+#include <QPlainTextEdit>
+#include <QTextBlock>
 #include <QWebView>
 
 namespace nsModHlp {
@@ -130,6 +134,105 @@ void ModHlp::setFileName(QWidget* widget, QString title)
         modGuiHook->setWidgetName(widget, title);
 }
 
+// --- what the user is at ---
+
+namespace {
+
+const char* const helpRefProperty = "helpRef";
+const QUrl pageNames(QStringLiteral("pageid://langnames"));
+const QUrl pageStart(QStringLiteral("pageid://gettingstarted"));
+
+/// The pages of the instruction sets, by the names of the processors.
+const struct
+{
+    const char* processor;
+    const char* file;
+} instructionPages[] = {
+    {"Xilinx PicoBlaze 3", "instrxpblze3.html"},
+    {"Xilinx PicoBlaze 6", "instrxpblze6.html"},
+    {"Lattice Mico8 v3.x", "instrlmico8v3x.html"},
+};
+
+/// The word at the cursor, with the number sign of a directive.
+QString wordAt(const QPlainTextEdit& text)
+{
+    const QTextCursor cursor = text.textCursor();
+    const QString line = cursor.block().text();
+    const auto isPart = [&](int at) { return line.at(at).isLetterOrNumber() || line.at(at) == '_'; };
+    int start = cursor.positionInBlock();
+    int end = start;
+    while (start > 0 && isPart(start - 1))
+        --start;
+    while (end < line.size() && isPart(end))
+        ++end;
+    // With the cursor in front of the sign, the directive is meant, too.
+    if (start == end && end < line.size() && line.at(end) == '#') {
+        for (++end; end < line.size() && isPart(end);)
+            ++end;
+    } else if (start > 0 && line.at(start - 1) == '#') {
+        --start;
+    }
+    return line.mid(start, end - start);
+}
+
+} // namespace
+
+/// @return an empty URL if no page explains the word
+QUrl ModHlp::urlOfWord(const QString& word) const
+{
+    if (m_collection.engine() == nullptr || word.isEmpty())
+        return QUrl();
+    QList<QHelpLink> links;
+    for (const QString& id : {word, word.toUpper(), '#' + word.toUpper()}) {
+        links = m_collection.engine()->documentsForIdentifier(id);
+        if (!links.isEmpty())
+            break;
+    }
+    // Of the same instruction of several processors, the one of the project is meant.
+    const QString processor =
+        modPrjHook != nullptr ? modPrjHook->value(QStringLiteral("ModProcessor/processor"), QString()) : QString();
+    for (const auto& page : instructionPages) {
+        if (processor != QLatin1String(page.processor))
+            continue;
+        for (const QHelpLink& link : qAsConst(links)) {
+            if (link.url.path().endsWith(QLatin1String(page.file)))
+                return link.url;
+        }
+    }
+    return links.isEmpty() ? QUrl() : links.first().url;
+}
+
+void ModHlp::explainWord(const QString& word)
+{
+    // Any other word is a name that the program makes itself.
+    const QUrl url = urlOfWord(word);
+    openFile(url.isEmpty() ? pageNames : url);
+}
+
+void ModHlp::explain(QWidget* widget)
+{
+    if (const auto* text = qobject_cast<QPlainTextEdit*>(widget)) {
+        const QString word = wordAt(*text);
+        if (!word.isEmpty()) {
+            explainWord(word);
+            return;
+        }
+    }
+    for (QWidget* part = widget; part != nullptr; part = part->parentWidget()) {
+        HlpWidget* beside = m_dialogPages.value(part);
+        if (beside != nullptr && modGuiHook != nullptr) {
+            modGuiHook->setCurrentWidget(beside);
+            return;
+        }
+        const QString ref = part->property(helpRefProperty).toString();
+        if (!ref.isEmpty()) {
+            openFile(QUrl(ref));
+            return;
+        }
+    }
+    openFile(pageStart);
+}
+
 // --- beside dialogs ---
 
 void ModHlp::showDialogHlpRef(QWidget* dialog, QString ref)
@@ -167,12 +270,15 @@ void ModHlp::prjOpen()
 {
     const QStringList files = modPrjHook->value(keyOpenFiles, QStringList());
     const QString current = modPrjHook->value(keyCurrentFile, QString());
+    QWidget* inFront = modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
     for (const QString& file : files) {
         if (file != current)
             openFile(QUrl(file));
     }
     if (!current.isEmpty())
         openFile(QUrl(current));
+    else if (inFront != nullptr)
+        modGuiHook->setCurrentWidget(inFront);
 }
 
 void ModHlp::prjSave()

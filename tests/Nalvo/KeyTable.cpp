@@ -149,7 +149,8 @@ const KeyTable& documentKeys()
         {"ModEditor/lastFile", "path", "", "main.psm"},
         {"ModEditor/lastCursorPos", "int", "0", "3"},
         {"ModHlp/openFiles", "list", "", "qthelp&amp;#58;&#47;&#47;nv&#47;Nalvo&#47;about.html"},
-        {"ModHlp/currentFile", "string", "", "qthelp:&#47;&#47;nv&#47;Nalvo&#47;about.html"},
+        // Only one page of the centre is the current one, which is a document here.
+        {"ModHlp/currentFile", "string", "", ""},
     };
     return keys;
 }

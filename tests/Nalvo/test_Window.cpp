@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 
 namespace {
