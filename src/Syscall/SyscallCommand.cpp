@@ -8,12 +8,14 @@ namespace nsModSyscall {
 
 namespace {
 
-QString programPath(const QString& exe, const QDir& prjDir)
+QString programPath(const SyscallRecord& record, const QDir& prjDir)
 {
-    if (exe.contains('/'))
-        return QDir::cleanPath(prjDir.absoluteFilePath(exe));
-    const QString found = exe.isEmpty() ? QString() : QStandardPaths::findExecutable(exe);
-    return found.isEmpty() ? exe : found;
+    if (record.exe.isEmpty())
+        return QString();
+    if (record.storeRelToPrj || record.exe.contains('/'))
+        return QDir::cleanPath(prjDir.absoluteFilePath(record.exe));
+    const QString found = QStandardPaths::findExecutable(record.exe);
+    return found.isEmpty() ? record.exe : found;
 }
 
 } // namespace
@@ -21,7 +23,7 @@ QString programPath(const QString& exe, const QDir& prjDir)
 SyscallCommand SyscallCommand::of(const SyscallRecord& record, const QDir& prjDir)
 {
     SyscallCommand command;
-    command.program = programPath(record.exe, prjDir);
+    command.program = programPath(record, prjDir);
     command.arguments = splitArguments(record.arg);
     command.folder = prjDir.absolutePath();
     return command;

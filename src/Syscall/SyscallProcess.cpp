@@ -30,7 +30,7 @@ SyscallProcess::~SyscallProcess()
 {
     if (!isRunning())
         return;
-    disconnect();
+    blockSignals(true);
     endAll({this}, 0);
 }
 
