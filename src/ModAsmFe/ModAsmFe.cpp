@@ -201,6 +201,7 @@ void ModAsmFe::prjClose()
         m_statusBar->setProcessorName(QString());
     clearHighlighter();
     m_fileHndlr->setPrjDir(QString());
+    m_missedEvent = nothingMissed;
     m_assembler.drop();
     removeIODevViewer();
 }
@@ -293,6 +294,11 @@ QList<QAction*> ModAsmFe::toolBarActions(ModActionHookIf::eActionClass_t actionC
 
 void ModAsmFe::handleActions(AsmFeActions::eAction_t action)
 {
+    if (m_programsRun) {
+        if (modMsgHook != nullptr)
+            modMsgHook->showInfoMessage(tr("The external programs of the last run have not ended yet."));
+        return;
+    }
     if (modMsgHook != nullptr)
         modMsgHook->clearMessages();
     switch (action) {

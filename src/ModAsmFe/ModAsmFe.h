@@ -164,6 +164,8 @@ private:
     ProjectConsent consent() const;
     void takePage();
 
+    static const int nothingMissed = -1;
+
     PluginList<ModAsmFePluginIf> m_plugins;
     PluginBackend m_backend;
 
@@ -177,7 +179,9 @@ private:
     QPointer<EquListView> m_equListView;     ///< null without a window
     QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window or an open project
     bool m_assembleOnChange = true;
-    MyBusyCursor* m_busy = nullptr; ///< of the run in progress; not owned
+    bool m_programsRun = false;        ///< the run in progress waits for the external programs
+    int m_missedEvent = nothingMissed; ///< eAssembleEvent_t of a run that is to follow
+    MyBusyCursor* m_busy = nullptr;    ///< of the run in progress; not owned
 };
 
 } // namespace nsModAsmFe
