@@ -19,8 +19,8 @@ class SyscallOutput
 public:
     enum eStream_t { streamOut, streamErr, streamCount };
 
-    static const int maxLines = 10000;     ///< that are kept
-    static const int maxLineLength = 1000; ///< characters, after which a line is broken
+    static constexpr int maxLines = 10000;     ///< that are kept
+    static constexpr int maxLineLength = 1000; ///< characters, after which a line is broken
 
     SyscallOutput();
     ~SyscallOutput();
