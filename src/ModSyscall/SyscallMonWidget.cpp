@@ -321,6 +321,8 @@ void SyscallMonWidget::takeOutput(SyscallOutput::eStream_t stream, const QByteAr
 /// Shows the next slice. The view follows the output while its end is to be seen.
 void SyscallMonWidget::showOutput()
 {
+    QScrollBar* bar = m_output->verticalScrollBar();
+    const bool follows = bar->value() >= bar->maximum();
     if (m_text.takeOverrun())
         m_output->clear();
     const QString text = m_text.take(sliceSize);
@@ -328,8 +330,6 @@ void SyscallMonWidget::showOutput()
         m_showTimer.stop();
     if (text.isEmpty())
         return;
-    QScrollBar* bar = m_output->verticalScrollBar();
-    const bool follows = bar->value() >= bar->maximum();
     QTextCursor cursor(m_output->document());
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(text);

@@ -232,7 +232,7 @@ TEST_F(SyscallMonitor, aFloodOnBothOutputsLeavesItsEnd)
         ASSERT_LE(monitor.findChild<QPlainTextEdit*>("syscallOutput")->blockCount(), SyscallOutput::maxLines + 1);
     });
     turn.start(0);
-    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(monitor.waitForFinished(syscallTimeout));
     EXPECT_GT(turns, 10);
     const auto* view = monitor.findChild<QPlainTextEdit*>("syscallOutput");
     EXPECT_TRUE(QTest::qWaitFor([&] { return view->blockCount() == SyscallOutput::maxLines + 1; }, syscallTimeout));
@@ -256,7 +256,7 @@ TEST_F(SyscallMonitor, aLineWithoutEndIsBounded)
     monitor.show();
     const long before = peakMemory();
     ASSERT_TRUE(run("endlessLine " + floodSize));
-    ASSERT_TRUE(waitForEnd());
+    ASSERT_TRUE(monitor.waitForFinished(syscallTimeout));
     const auto* view = monitor.findChild<QPlainTextEdit*>("syscallOutput");
     EXPECT_TRUE(QTest::qWaitFor([&] { return view->blockCount() >= SyscallOutput::maxLines; }, syscallTimeout));
     if (memoryIsMeasured) {
