@@ -49,7 +49,7 @@ ModSyscall::ModSyscall(QObject* parent)
 ModSyscall::~ModSyscall()
 {
     endPrograms(allPrograms);
-    for (const QPointer<SyscallMonWidget>& monitor : m_monitors) {
+    for (const QPointer<SyscallMonWidget>& monitor : monitors) {
         // One that is in the window is deleted with it.
         if (monitor != nullptr && monitor->parent() == nullptr)
             delete monitor;
@@ -138,40 +138,40 @@ bool ModSyscall::runProgram(int index)
 
 bool ModSyscall::hasProgram(int index)
 {
-    return m_monitors[index] != nullptr;
+    return monitors[index] != nullptr;
 }
 
 QString ModSyscall::executableInfo(int index)
 {
-    return m_monitors[index]->executableInfo();
+    return monitors[index]->executableInfo();
 }
 
 bool ModSyscall::isRunning(int index)
 {
-    return m_monitors[index] != nullptr && m_monitors[index]->state() == 0;
+    return monitors[index] != nullptr && monitors[index]->state() == 0;
 }
 
 bool ModSyscall::start(int index)
 {
-    return m_monitors[index]->run();
+    return monitors[index]->run();
 }
 
 void ModSyscall::showProgram(int index)
 {
     if (modGuiHook != nullptr)
-        modGuiHook->setCurrentWidget(m_monitors[index]);
+        modGuiHook->setCurrentWidget(monitors[index]);
 }
 
 SyscallPrograms::eEnd_t ModSyscall::wait(int index)
 {
     const int openCount = m_openCount;
-    const QPointer<SyscallMonWidget> monitor = m_monitors[index];
+    const QPointer<SyscallMonWidget> monitor = monitors[index];
     while (monitor != nullptr && !monitor->waitForFinished(waitTime))
         QCoreApplication::processEvents();
     // The user may have done anything meanwhile.
     if (openCount != m_openCount)
         return endGone;
-    if (monitor == nullptr || monitor != m_monitors[index])
+    if (monitor == nullptr || monitor != monitors[index])
         return endCrashed;
     switch (monitor->state()) {
     case 0:
@@ -185,7 +185,7 @@ SyscallPrograms::eEnd_t ModSyscall::wait(int index)
 
 int ModSyscall::exitCode(int index)
 {
-    return m_monitors[index]->exitCode();
+    return monitors[index]->exitCode();
 }
 
 /// Ends the programs that still run, and says so.
@@ -197,7 +197,7 @@ void ModSyscall::endPrograms(const QList<int>& indexes)
         if (!isRunning(index))
             continue;
         running.append(index);
-        processes.append(m_monitors[index]->process());
+        processes.append(monitors[index]->process());
     }
     if (processes.isEmpty())
         return;
@@ -234,7 +234,7 @@ SyscallPrograms::ePermission_t ModSyscall::mayRun(int index)
         return permissionGone;
     const SyscallCommand command = commandOf(index);
     if (isKnown(command)) {
-        m_monitors[index]->setCommand(command);
+        monitors[index]->setCommand(command);
         return permissionGiven;
     }
     if (consent().answer(ProjectConsent::kindProgram, command.texts()) == ProjectConsent::answerNo)
@@ -246,7 +246,7 @@ SyscallPrograms::ePermission_t ModSyscall::mayRun(int index)
 SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& command)
 {
     const QPointer<ModSyscall> self(this);
-    const QPointer<SyscallMonWidget> monitor = m_monitors[index];
+    const QPointer<SyscallMonWidget> monitor = monitors[index];
     const int openCount = m_openCount;
     monitor->setBusy(true);
     const bool allowed = ConsentQuestion::ask(
@@ -257,7 +257,7 @@ SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& 
         shown(command));
     if (monitor != nullptr)
         monitor->setBusy(false);
-    if (!self || openCount != m_openCount || monitor == nullptr || monitor != m_monitors[index] ||
+    if (!self || openCount != m_openCount || monitor == nullptr || monitor != monitors[index] ||
         commandOf(index) != command)
         return permissionGone;
     consent().setAnswer(ProjectConsent::kindProgram, command.texts(), allowed);
@@ -283,10 +283,10 @@ void ModSyscall::setupMonitor(int index)
         removeMonitor(index);
         return;
     }
-    if (m_monitors[index] == nullptr)
+    if (monitors[index] == nullptr)
         addMonitor(index);
-    if (m_monitors[index] != nullptr)
-        m_monitors[index]->setConfig(program.exe, program.arg, program.comment);
+    if (monitors[index] != nullptr)
+        monitors[index]->setConfig(program.exe, program.arg, program.comment);
 }
 
 void ModSyscall::addMonitor(int index)
@@ -295,7 +295,7 @@ void ModSyscall::addMonitor(int index)
     if (modGuiHook == nullptr)
         return;
     auto* monitor = new SyscallMonWidget;
-    m_monitors[index] = monitor;
+    monitors[index] = monitor;
     connect(monitor, &SyscallMonWidget::configRequest, this, &ModSyscall::handleConfigRequest);
     connect(monitor, &SyscallMonWidget::startRequest, this, &ModSyscall::handleStartRequest);
     // An added panel comes to the front: so the panel that was in front before is brought to the front again.
@@ -307,8 +307,8 @@ void ModSyscall::addMonitor(int index)
 
 void ModSyscall::removeMonitor(int index)
 {
-    const QPointer<SyscallMonWidget> monitor = m_monitors[index];
-    m_monitors[index] = nullptr;
+    const QPointer<SyscallMonWidget> monitor = monitors[index];
+    monitors[index] = nullptr;
     if (monitor == nullptr)
         return;
     monitor->disconnect(this);
@@ -331,10 +331,10 @@ void ModSyscall::handleConfigRequest(SyscallMonWidget*)
 /// again, whatever the answer was before.
 void ModSyscall::handleStartRequest(SyscallMonWidget* monitor)
 {
-    const auto found = std::find(std::begin(m_monitors), std::end(m_monitors), monitor);
-    if (found == std::end(m_monitors) || monitor->state() == 0 || !hasProject())
+    const auto found = std::find(std::begin(monitors), std::end(monitors), monitor);
+    if (found == std::end(monitors) || monitor->state() == 0 || !hasProject())
         return;
-    const int index = int(found - std::begin(m_monitors));
+    const int index = int(found - std::begin(monitors));
     const SyscallCommand command = commandOf(index);
     if (isKnown(command))
         monitor->setCommand(command);

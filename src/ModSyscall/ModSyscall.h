@@ -109,9 +109,9 @@ private:
     PluginList<ModSyscallPluginIf> m_plugins;
     SyscallMsgHndlr* m_msgHndlr;
     SyscallSequence m_sequence;
-    QPointer<SyscallMonWidget> m_monitors[programCount]; ///< those of enabled programs, while a project is open
-    QPointer<SyscallConfigPage> m_page;                  ///< while the settings dialog is open
-    int m_openCount = 0;                                 ///< of projects, to tell one from the next
+    QPointer<SyscallMonWidget> monitors[programCount]; ///< those of enabled programs, while a project is open
+    QPointer<SyscallConfigPage> m_page;                ///< while the settings dialog is open
+    int m_openCount = 0;                               ///< of projects, to tell one from the next
 };
 
 } // namespace nsModSyscall

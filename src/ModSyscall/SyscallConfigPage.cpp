@@ -12,6 +12,7 @@
 #include <QLineEdit>
 #include <QSpinBox>
 
+#include <algorithm>
 #include <limits>
 
 namespace nsModSyscall {
@@ -19,8 +20,8 @@ namespace nsModSyscall {
 namespace {
 
 const int gap = 8;
-const int eventColumnWidth = 96; ///< pixels
-const int numberWidth = 128;     ///< pixels
+const int eventColumnWidth = 112; ///< pixels
+const int numberWidth = 128;      ///< pixels
 
 QString numbered(const char* name, int index)
 {
@@ -100,7 +101,8 @@ void SyscallConfigPage::addMatrix()
     auto* grid = new QGridLayout;
     grid->setSpacing(gap);
     // All labels of the page share one column.
-    grid->setColumnMinimumWidth(0, fontMetrics().horizontalAdvance(tr("Store path relative to project:")));
+    grid->setColumnMinimumWidth(0, std::max(fontMetrics().horizontalAdvance(tr("Store path relative to project:")),
+                                            fontMetrics().horizontalAdvance(tr("Abort at exit without success:"))));
     grid->addWidget(new MyFieldTitle(tr("Events:"), this), 0, 0, Qt::AlignTop);
     for (int event = 0; event < eventCount; ++event) {
         grid->addWidget(new QLabel(titles[event], this), 0, event + 1, Qt::AlignHCenter);

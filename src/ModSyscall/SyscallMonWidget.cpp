@@ -4,7 +4,6 @@
 #include "MyFieldTitle.h"
 
 #include <QEventLoop>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -120,7 +119,9 @@ void SyscallMonWidget::setupFields()
     // The last line end has an empty line behind it.
     m_output->setMaximumBlockCount(SyscallOutput::maxLines + 1);
     m_output->setTabChangesFocus(true);
-    m_output->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setStyleHint(QFont::Monospace);
+    m_output->setFont(font);
     m_output->setMinimumWidth(m_output->fontMetrics().averageCharWidth() * outputColumns);
     m_output->setMinimumHeight(m_output->fontMetrics().lineSpacing() * 2);
     m_output->setToolTip(tr("What the program writes to its standard output and standard error: the last %1 lines")
