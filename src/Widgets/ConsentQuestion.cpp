@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
-#include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -36,10 +35,15 @@ QPlainTextEdit* makeActView(const QString& act)
     view->setObjectName(QStringLiteral("consentAct"));
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
-    view->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    QFont font(QStringLiteral("DejaVu Sans Mono"));
+    font.setStyleHint(QFont::Monospace);
+    view->setFont(font);
     const QFontMetrics metrics(view->font());
-    const int lines = qBound(2, act.count('\n') + 2, mostLines);
-    view->setMinimumSize(metrics.averageCharWidth() * columns, metrics.lineSpacing() * lines + 2 * gap);
+    int lines = 1;
+    for (const QString& line : act.split('\n'))
+        lines += 1 + line.size() / columns;
+    view->setMinimumWidth(metrics.averageCharWidth() * columns + 2 * gap);
+    view->setFixedHeight(metrics.lineSpacing() * qMin(lines, mostLines) + 2 * gap);
     return view;
 }
 
@@ -75,7 +79,7 @@ bool ConsentQuestion::ask(const QString& title, const QString& text, const QStri
     layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
     layout->setSpacing(2 * gap);
     layout->addLayout(head);
-    layout->addWidget(makeActView(act), 1);
+    layout->addWidget(makeActView(act));
     layout->addWidget(buttons);
     no->setFocus();
 
