@@ -29,9 +29,8 @@ constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(errExeAlreadyRunning, "Program is already running"),
     NALVO_MSG(errCanNotStart, "Can not start program."),
     NALVO_MSG(errExitWithoutSuccess, "Program exited without success."),
-    NALVO_MSG(errNotAllowed,
-              "External program %1 was not run, as you have not allowed this command for this project. To "
-              "allow it, press \"Start\" in the monitor of the program, which asks again."),
+    NALVO_MSG(errNotAllowed, "External program %1 is not allowed to run. To allow it, press \"Start\" in its monitor, "
+                             "which asks again."),
     NALVO_MSG(warnTerminated, "External program %1 was still running: it has been terminated."),
     NALVO_MSG(warnKilled, "External program %1 was still running and did not end when asked to: it has been killed."),
     NALVO_MSG(infoLeftOut, "The external programs of the event are left out; --external-programs runs them."),

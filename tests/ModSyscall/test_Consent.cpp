@@ -81,7 +81,7 @@ TEST_F(SyscallConsent, noIsKeptAndReported)
     EXPECT_EQ(answers.seen(), 1);
     const QList<FakeMsgHook::Entry> shown = msg.messages();
     ASSERT_EQ(shown.size(), 2);
-    EXPECT_TRUE(shown.last().text.contains("press \"Start\" in the monitor")) << qPrintable(shown.last().text);
+    EXPECT_TRUE(shown.last().text.contains("press \"Start\" in its monitor")) << qPrintable(shown.last().text);
     EXPECT_EQ(shown.last().type, ModMsgHookIf::eMsgError);
 }
 

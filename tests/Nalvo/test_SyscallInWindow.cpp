@@ -185,7 +185,7 @@ TEST_F(SyscallInWindow, aRefusedProgramIsAnError)
     EXPECT_EQ(answers.seen(), 1);
     EXPECT_EQ(status(1), "Not running");
     screenshot("syscall-refused");
-    EXPECT_FALSE(messageTexts().filter("you have not allowed this command").isEmpty());
+    EXPECT_FALSE(messageTexts().filter("External program 1 is not allowed to run").isEmpty());
 }
 
 TEST_F(SyscallInWindow, theUserWorksOnWhileAProgramRuns)
