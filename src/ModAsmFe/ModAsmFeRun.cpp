@@ -13,6 +13,7 @@
 #include "ModSyscallHookIf.h"
 #include "MyBusyCursor.h"
 #include "NaviTag.h"
+#include "SyscallEvent.h"
 
 #include <algorithm>
 

@@ -15,7 +15,7 @@ class SyscallMsgHndlr : public QObject, public ModMsgPluginIf
 
 public:
     /// The prefix of a key is its grade: info, warn or err.
-    enum eMsgType_t {
+    enum eMsgType_t : int {
         infoNothingTodo = 0,
         infoWaiting = 1,
         infoExitWithSuccess = 2,
@@ -28,7 +28,7 @@ public:
         infoLeftOut = 9,    ///< a batch run leaves the programs of the event out
         msgCount
     };
-    enum eMsgGrp_t { grpSyscall = 0 };
+    enum eMsgGrp_t : int { grpSyscall = 0 };
 
     explicit SyscallMsgHndlr(QObject* parent = nullptr);
 

@@ -75,12 +75,12 @@ void SyscallProcess::killGroup()
     signalGroup(SIGKILL);
 }
 
-/// Looks without taking the exit status away from the base class.
+/// Looks without taking the exit status away from the base class, in whatever way that has made the process.
 bool SyscallProcess::hasDied() const
 {
     const pid_t pid = pid_t(processId());
     siginfo_t info = {};
-    return pid <= 0 || waitid(P_PID, id_t(pid), &info, WEXITED | WNOHANG | WNOWAIT) != 0 || info.si_pid == pid;
+    return pid <= 0 || waitid(P_PID, id_t(pid), &info, WEXITED | WNOHANG | WNOWAIT | __WALL) != 0 || info.si_pid == pid;
 }
 
 QList<SyscallProcess*> SyscallProcess::endAll(const QList<SyscallProcess*>& processes, int grace)
