@@ -18,7 +18,7 @@ namespace nsModSyscall {
 namespace {
 
 const int gap = 8;
-const int showInterval = 15; ///< milliseconds between two slices of output
+const int showInterval = 10; ///< milliseconds between two slices of output
 const int outputStretch = 3; ///< share of the width, against that of the fields
 const int fieldsStretch = 2;
 const int outputColumns = 24; ///< characters that the output shows at the least

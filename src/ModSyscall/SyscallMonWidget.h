@@ -23,7 +23,7 @@ class SyscallMonWidget : public QWidget
     Q_OBJECT
 
 public:
-    static constexpr int sliceSize = 1 << 16; ///< characters of output that are shown at a time
+    static constexpr int sliceSize = 1 << 14; ///< characters of output that are shown at a time
 
     explicit SyscallMonWidget(QWidget* parent = nullptr);
     /// A program that still runs is killed.
