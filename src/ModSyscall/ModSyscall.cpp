@@ -247,7 +247,6 @@ SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& 
 {
     const QPointer<ModSyscall> self(this);
     const QPointer<SyscallMonWidget> monitor = monitors[index];
-    const int openCount = m_openCount;
     monitor->setBusy(true);
     const bool allowed = ConsentQuestion::ask(
         tr("External program of the project"),
@@ -257,8 +256,7 @@ SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& 
         shown(command));
     if (monitor != nullptr)
         monitor->setBusy(false);
-    if (!self || openCount != m_openCount || monitor == nullptr || monitor != monitors[index] ||
-        commandOf(index) != command)
+    if (!self || monitor == nullptr || monitor != monitors[index] || commandOf(index) != command)
         return permissionGone;
     consent().setAnswer(ProjectConsent::kindProgram, command.texts(), allowed);
     if (!allowed)
