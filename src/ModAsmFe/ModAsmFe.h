@@ -163,6 +163,7 @@ private:
     AsmProjectInfo projectInfo() const;
     ProjectConsent consent() const;
     void takePage();
+    void assembleMissed();
 
     static const int nothingMissed = -1;
 

@@ -37,6 +37,14 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     }
     m_assembler.run(modSourcesHook != nullptr ? modSourcesHook->files() : QStringList(), projectInfo(), event);
     m_busy = nullptr;
+    // Later, so that runs that each cause the next one leave the user a way to stop them.
+    if (m_missedEvent != nothingMissed)
+        QMetaObject::invokeMethod(
+            this, [this] { assembleMissed(); }, Qt::QueuedConnection);
+}
+
+void ModAsmFe::assembleMissed()
+{
     if (m_missedEvent == nothingMissed)
         return;
     const auto missed = static_cast<eAssembleEvent_t>(m_missedEvent);
