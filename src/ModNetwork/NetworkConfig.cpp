@@ -14,7 +14,7 @@ void allItems(Items items, Config& config)
 {
     items.item(QStringLiteral("ModNetwork/proxyType"), config.proxyType, std::numeric_limits<int>::min(),
                std::numeric_limits<int>::max());
-    items.item(QStringLiteral("ModNetwork/proxyPort"), config.proxyPort, 0, int(NetworkConfig::portMax));
+    items.item(QStringLiteral("ModNetwork/proxyPort"), config.proxyPort, 0, NetworkConfig::portMax);
     items.item(QStringLiteral("ModNetwork/proxyHostName"), config.proxyHostName);
     items.item(QStringLiteral("ModNetwork/proxyUserName"), config.proxyUserName);
     items.item(QStringLiteral("ModNetwork/proxyUserPassword"), config.proxyUserPassword);

@@ -19,7 +19,7 @@ public:
         proxyFtpCaching = 5
     };
 
-    static const int portMax = 65535;
+    static constexpr int portMax = 65535;
 
     /// @return the type has a host of its own, and so a port, a user name and a password
     static bool needsHost(int proxyType) { return proxyType >= proxySocks5 && proxyType <= proxyFtpCaching; }

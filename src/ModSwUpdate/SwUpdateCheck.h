@@ -29,10 +29,10 @@ public:
         QString changeLog; ///< may have several lines
     };
 
-    static const int answerMax = 1024 * 1024;  ///< bytes of an answer; a longer one is not read to its end
-    static const int redirectsMax = 5;         ///< one after the other
-    static const int nameMax = 80;             ///< characters of release and date
-    static const int changeLogMax = 16 * 1024; ///< characters
+    static constexpr int answerMax = 1024 * 1024;  ///< bytes of an answer; a longer one is not read to its end
+    static constexpr int redirectsMax = 5;         ///< one after the other
+    static constexpr int nameMax = 80;             ///< characters of release and date
+    static constexpr int changeLogMax = 16 * 1024; ///< characters
 
     explicit SwUpdateCheck(QObject* parent = nullptr);
     /// A request in progress ends without a signal.

@@ -18,8 +18,8 @@ void allItems(Items items, Config& config)
 {
     items.item(QStringLiteral("ModSwUpdate/updateCheckInterval"), config.updateCheckInterval,
                std::numeric_limits<int>::min(), std::numeric_limits<int>::max());
-    items.item(QStringLiteral("ModSwUpdate/timeOut"), config.timeOut, int(SwUpdateConfig::timeOutMin),
-               int(SwUpdateConfig::timeOutMax));
+    items.item(QStringLiteral("ModSwUpdate/timeOut"), config.timeOut, SwUpdateConfig::timeOutMin,
+               SwUpdateConfig::timeOutMax);
 }
 
 } // namespace

@@ -13,8 +13,8 @@ class SwUpdateConfig
 public:
     enum eInterval_t { intervalNever = 0, intervalDaily = 1, intervalWeekly = 2, intervalMonthly = 3 };
 
-    static const int timeOutMin = 5; ///< seconds, as all times here
-    static const int timeOutMax = 60;
+    static constexpr int timeOutMin = 5; ///< seconds, as all times here
+    static constexpr int timeOutMax = 60;
 
     SwUpdateConfig();
 
