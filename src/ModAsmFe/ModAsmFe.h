@@ -9,6 +9,7 @@
 #include "ModActionPluginIf.h"
 #include "ModAsmFeHookIf.h"
 #include "ModAsmFePluginIf.h"
+#include "ModCfgAppPluginIf.h"
 #include "ModConfigPluginIf.h"
 #include "ModEditorPluginIf.h"
 #include "ModGuiPluginIf.h"
@@ -20,6 +21,7 @@
 #include "ModSyscallPluginIf.h"
 #include "PluginBackend.h"
 #include "PluginList.h"
+#include "ProjectConsent.h"
 
 #include <QList>
 #include <QObject>
@@ -50,6 +52,7 @@ class ModAsmFe : public QObject,
                  public ModSrcNaviPluginIf,
                  public ModActionPluginIf,
                  public ModSyscallPluginIf,
+                 public ModCfgAppPluginIfInterMod,
                  public AsmFeConfig,
                  private AsmRunListener
 {
@@ -146,6 +149,8 @@ private:
     void refreshInsertionMenu() override;
     void refreshIODevViewer() override;
     void runFailed() override { clearIODevViewer(); }
+    QStringList refusedOutputs(const QVector<AsmOutsideFile>& files) override;
+    QString refusalHint() override;
     bool runExternalPrograms(eAssembleEvent_t event) override;
     void refreshEquList() override;
 
@@ -156,6 +161,8 @@ private:
     void applyBackendConfig();
     void clearHighlighter();
     AsmProjectInfo projectInfo() const;
+    ProjectConsent consent() const;
+    void takePage();
 
     PluginList<ModAsmFePluginIf> m_plugins;
     PluginBackend m_backend;
