@@ -4,7 +4,6 @@
 #include "SwUpdateCheck.h"
 #include "SwUpdateConfigPage.h"
 
-#include "ModMsgHookIf.h"
 #include "ModNetworkHookIf.h"
 
 #include <QCoreApplication>
@@ -46,20 +45,20 @@ ModSwUpdate::~ModSwUpdate()
 
 void ModSwUpdate::chkForUpdate()
 {
-    if (m_check == nullptr || modMsgHook == nullptr)
+    if (m_check == nullptr)
         return;
     if (m_addresses.server.isEmpty()) {
-        modMsgHook->showInfoMessage(tr("This build has no update server."));
+        showMessage(ModMsgHookIf::eMsgInfo, tr("This build has no update server."));
         return;
     }
     if (m_check->isRunning()) {
-        modMsgHook->showInfoMessage(tr("An update check is in progress."));
+        showMessage(ModMsgHookIf::eMsgInfo, tr("An update check is in progress."));
         return;
     }
     m_check->setServer(m_addresses.server);
     m_check->setProxy(modNetworkHook != nullptr ? modNetworkHook->proxy() : QNetworkProxy());
     m_timer.start(timeOut * 1000);
-    modMsgHook->showInfoMessage(tr("Checking for update..."));
+    showMessage(ModMsgHookIf::eMsgInfo, tr("Checking for update..."));
     m_check->chkUpdate(releaseText(), screenSize(), true);
 }
 
@@ -70,14 +69,12 @@ void ModSwUpdate::evaluateUpdateCheck()
         return;
     lastUpdateCheck = QDate::currentDate();
     if (!m_check->isExpired()) {
-        if (modMsgHook != nullptr)
-            modMsgHook->showInfoMessage(tr("No update available."));
+        showMessage(ModMsgHookIf::eMsgInfo, tr("No update available."));
         return;
     }
-    if (modMsgHook != nullptr) {
-        modMsgHook->showInfoMessage(tr("Update available: %1 from %2").arg(m_check->release(), m_check->date()));
-        showChangeLog();
-    }
+    const QString text = tr("Update available: %1 from %2").arg(m_check->release(), m_check->date());
+    showMessage(ModMsgHookIf::eMsgInfo, text);
+    showChangeLog();
     if (!m_addresses.downloadPage.isEmpty())
         openDownloadPage();
 }
@@ -86,7 +83,7 @@ void ModSwUpdate::evaluateUpdateCheck()
 void ModSwUpdate::showChangeLog()
 {
     QStringList lines = m_check->changeLog().split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    if (lines.isEmpty())
+    if (lines.isEmpty() || modMsgHook == nullptr)
         return;
     if (lines.size() > changeLogLinesMax) {
         lines = lines.mid(0, changeLogLinesMax);
@@ -102,26 +99,23 @@ void ModSwUpdate::openDownloadPage()
 {
     const QUrl page = m_addresses.downloadPage;
     if (page.isEmpty()) {
-        if (modMsgHook != nullptr)
-            modMsgHook->showInfoMessage(tr("This build has no download page."));
+        showMessage(ModMsgHookIf::eMsgInfo, tr("This build has no download page."));
         return;
     }
-    if (!QDesktopServices::openUrl(page) && modMsgHook != nullptr)
-        modMsgHook->showErrorMessage(tr("Can not open the download page: ") + page.toDisplayString());
+    if (!QDesktopServices::openUrl(page))
+        showMessage(ModMsgHookIf::eMsgError, tr("Can not open the download page: ") + page.toDisplayString());
 }
 
 /// The timer goes on: what failed has no answer, so it ends as a check that takes too long.
 void ModSwUpdate::handleFailure(const QString& reason)
 {
-    if (modMsgHook != nullptr)
-        modMsgHook->showWarningMessage(tr("Update check: ") + reason);
+    showMessage(ModMsgHookIf::eMsgWarning, tr("Update check: ") + reason);
 }
 
 void ModSwUpdate::handleTimeout()
 {
     stopCheck();
-    if (modMsgHook != nullptr)
-        modMsgHook->showErrorMessage(tr("Timeout during update check!"));
+    showMessage(ModMsgHookIf::eMsgError, tr("Timeout during update check!"));
 }
 
 void ModSwUpdate::stopCheck()
@@ -129,6 +123,12 @@ void ModSwUpdate::stopCheck()
     m_timer.stop();
     if (m_check != nullptr)
         m_check->abort();
+}
+
+void ModSwUpdate::showMessage(ModMsgHookIf::eMsgType_t type, const QString& text)
+{
+    if (modMsgHook != nullptr)
+        modMsgHook->showMessage(type, text);
 }
 
 // --- actions ---

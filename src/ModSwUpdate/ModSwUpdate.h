@@ -4,6 +4,7 @@
 #include "ModCfgAppPluginIf.h"
 #include "ModConfigPluginIf.h"
 #include "ModHlpPluginIf.h"
+#include "ModMsgHookIf.h"
 #include "ModMsgPluginIf.h"
 #include "ModNetworkPluginIf.h"
 #include "ModPluginIf.h"
@@ -82,6 +83,7 @@ private slots:
 private:
     void openDownloadPage();
     void showChangeLog();
+    void showMessage(ModMsgHookIf::eMsgType_t type, const QString& text);
 
     SwUpdateAddresses m_addresses;
     SwUpdateCheck* m_check = nullptr;

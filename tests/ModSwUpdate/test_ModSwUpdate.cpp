@@ -330,6 +330,19 @@ TEST_F(SwUpdateTest, theEndOfTheProgramEndsTheRequest)
     EXPECT_FALSE(module->lastUpdateCheck.isValid());
 }
 
+TEST_F(SwUpdateTest, theEndOfTheEventLoopEndsTheRequest)
+{
+    server.answer = [](const LocalHttpServer::Request&) {
+        QCoreApplication::exit(0);
+        return QByteArray();
+    };
+    module->chkForUpdate();
+    QCoreApplication::exec();
+    EXPECT_EQ(server.requests.size(), 1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return server.gone == 1; }, 60000));
+    EXPECT_EQ(msg.texts(), QStringList(checking));
+}
+
 TEST_F(SwUpdateTest, itMayBeDeletedDuringARequest)
 {
     server.answer = nullptr;
@@ -436,8 +449,10 @@ TEST_F(SwUpdateTest, noOtherModuleIsNeeded)
     alone.modExitIntermod();
     alone.modExit();
     module->modNetworkHook = nullptr;
+    module->modMsgHook = nullptr;
+    server.answer = [](const LocalHttpServer::Request&) { return LocalHttpServer::page(answerText(true)); };
     module->chkForUpdate();
-    EXPECT_TRUE(waitForMessage("No update available."));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !browser.opened.isEmpty(); }, 60000));
 }
 
 } // namespace

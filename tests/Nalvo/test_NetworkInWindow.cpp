@@ -172,8 +172,9 @@ TEST_F(NetworkInWindow, TheSettingsOfTheUpdatesSurviveARestart)
     EXPECT_TRUE(closeWindow());
 }
 
-TEST_F(NetworkInWindow, ThisBuildHasNoUpdateServerAndSaysSo)
+TEST_F(NetworkInWindow, ABuildWithoutAnUpdateServerSaysSo)
 {
+    updates()->setAddresses({QString(), QString()});
     EXPECT_FALSE(messageTexts().contains("Checking for update..."));
     chooseHelp("Check for Nalvo update");
     EXPECT_EQ(messageTexts().last(), "This build has no update server.");
