@@ -170,21 +170,6 @@ TEST_F(SwUpdateCheckTest, ofAGigabyteOneMebibyteIsRead)
     EXPECT_LT(server.sent, 64 * 1024 * 1024);
 }
 
-TEST_F(SwUpdateCheckTest, headersWithoutAnEndEndWithTheAbort)
-{
-    server.answer = [this](const LocalHttpServer::Request& request) {
-        request.socket->write("HTTP/1.1 200 OK\r\n");
-        server.pour(request.socket, qint64(1) << 30, "X-Line: " + QByteArray(1000, 'x') + "\r\n");
-        return QByteArray();
-    };
-    check.chkUpdate("r", "1x1", true);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server.sent > 8 * 1024 * 1024; }, 60000));
-    // What the time-out does.
-    check.abort();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return server.gone == 1; }, 60000)) << "the connection stays open";
-    EXPECT_EQ(ready.size() + failed.size(), 0);
-}
-
 TEST_F(SwUpdateCheckTest, theBoundIsExact)
 {
     QByteArray text = answerText(false);

@@ -59,15 +59,10 @@ public:
     void flood(QTcpSocket* socket, qint64 bytes)
     {
         socket->write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(bytes) + "\r\n\r\n<updateinfo>");
-        pour(socket, bytes, QByteArray(64 * 1024, ' '));
-    }
-    /// The same with a text of the test, over and over.
-    void pour(QTcpSocket* socket, qint64 bytes, const QByteArray& text)
-    {
-        connect(socket, &QTcpSocket::bytesWritten, this, [this, socket, bytes, text](qint64 count) {
+        connect(socket, &QTcpSocket::bytesWritten, this, [this, socket, bytes](qint64 count) {
             sent += count;
             if (sent < bytes && socket->bytesToWrite() == 0)
-                socket->write(text.repeated(1 + 64 * 1024 / text.size()));
+                socket->write(QByteArray(64 * 1024, ' '));
         });
     }
     qint64 sent = 0; ///< by flood()
