@@ -2,6 +2,8 @@
 
 #include "LocalHttpServer.h"
 
+#include <memory>
+
 /// A proxy on the loopback address that hands requests on and counts them. With a user name it wants that and the
 /// password.
 class LocalProxy : public QObject
@@ -91,11 +93,9 @@ class LocalSocks5Proxy : public LocalProxy
 protected:
     void serve(QTcpSocket* client) override
     {
-        auto* state = new State;
-        connect(client, &QObject::destroyed, this, [state] { delete state; });
-        connect(client, &QTcpSocket::readyRead, this, [this, client, state] {
+        connect(client, &QTcpSocket::readyRead, this, [this, client, state = std::make_shared<State>()] {
             state->bytes += client->readAll();
-            take(client, state);
+            take(client, state.get());
         });
     }
 
