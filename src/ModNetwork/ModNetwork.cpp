@@ -9,8 +9,6 @@ namespace nsModNetwork {
 ModNetwork::ModNetwork(QObject* parent)
     : QObject(parent)
 {
-    // The default proxy is that of the system; it is asked only for requests that are sent with that type.
-    QNetworkProxyFactory::setUseSystemConfiguration(true);
 }
 
 ModNetwork::~ModNetwork()

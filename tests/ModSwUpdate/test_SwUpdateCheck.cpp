@@ -108,7 +108,8 @@ TEST_F(SwUpdateCheckTest, whatIsNoAnswerEndsInSilence)
 
 TEST_F(SwUpdateCheckTest, anHttpErrorEndsInSilenceWhateverItsText)
 {
-    for (const char* status : {"404 Not Found", "500 Internal Server Error", "401 Unauthorized", "304 Not Modified"}) {
+    for (const char* status : {"404 Not Found", "500 Internal Server Error", "401 Unauthorized", "304 Not Modified",
+                               "300 Multiple Choices"}) {
         answerWith(answerText(true), status);
         run();
     }
