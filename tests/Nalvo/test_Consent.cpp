@@ -125,7 +125,7 @@ TEST_P(ConsentKeys, answersNoAndTheNoIsKept)
 }
 
 INSTANTIATE_TEST_SUITE_P(Keys, ConsentKeys, ::testing::Values(Qt::Key_Return, Qt::Key_Enter, Qt::Key_Escape),
-                         [](const auto& info) { return QKeySequence(info.param).toString().toStdString(); });
+                         [](const auto& test) { return QKeySequence(test.param).toString().toStdString(); });
 
 TEST_F(Consent, whatASourceNamesIsAskedFor)
 {

@@ -148,23 +148,27 @@ QString bitsOf(const Pattern& pattern, const ProcTable& table)
     return bits;
 }
 
+/// The bits with a blank wherever another field begins.
+QString grouped(const QString& bits)
+{
+    QString text;
+    for (int i = 0; i < bits.size(); ++i) {
+        const auto kind = [&](int at) { return bits.at(at).isDigit() ? QChar('0') : bits.at(at); };
+        if (i > 0 && kind(i) != kind(i - 1))
+            text += ' ';
+        text += bits.at(i);
+    }
+    return text;
+}
+
 /// The forms of an instruction with their words as a table.
 QByteArray formsOf(eOpcode_t opcode, const ProcTable& table, const ProcDisassembler& words)
 {
-    QString text = QStringLiteral("| Form |");
-    for (int bit = wordBits - 1; bit >= 0; --bit)
-        text += QStringLiteral(" %1 |").arg(bit);
-    text += QStringLiteral("\n|---|");
-    for (int bit = 0; bit < wordBits; ++bit)
-        text += QStringLiteral(":-:|");
-    text += '\n';
+    QString text = QStringLiteral("| Form | Word, bits 17 to 0 |\n|---|---|\n");
     for (const Pattern& pattern : words.patterns()) {
-        if (pattern.opcode != opcode)
-            continue;
-        text += QStringLiteral("| `%1` |").arg(formOf(mnemonicOfOpcode(opcode), pattern, table));
-        for (const QChar bit : bitsOf(pattern, table))
-            text += QStringLiteral(" %1 |").arg(bit);
-        text += '\n';
+        if (pattern.opcode == opcode)
+            text += QStringLiteral("| `%1` | `%2` |\n")
+                        .arg(formOf(mnemonicOfOpcode(opcode), pattern, table), grouped(bitsOf(pattern, table)));
     }
     return text.toUtf8() + '\n';
 }

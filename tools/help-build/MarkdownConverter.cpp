@@ -193,7 +193,9 @@ private:
 
     void visitLink(cmark_node* node)
     {
-        const QString url = QString::fromUtf8(cmark_node_get_url(node));
+        QString url = QString::fromUtf8(cmark_node_get_url(node));
+        if (url.startsWith('#'))
+            url.prepend(QStringLiteral("pageid:") + m_page->id);
         if (!url.startsWith(QLatin1String("pageid:"))) {
             m_page->webLinks.append(url);
             return;
