@@ -3,12 +3,14 @@
 #include "AsmFeConfigPage.h"
 #include "AsmFeFileHndlr.h"
 #include "AsmFeStatusBar.h"
+#include "AsmScriptApi.h"
 
 #include "EquListView.h"
 #include "IODevViewerList.h"
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
 
 namespace nsModAsmFe {
 
@@ -62,6 +64,8 @@ void ModAsmFe::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
     m_editorFeed.setupSupportMenuBasic(modEditorHook);
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(new AsmScriptApi(this), QStringLiteral("assembler"));
 }
 
 void ModAsmFe::modExitIntermod()

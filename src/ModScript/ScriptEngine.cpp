@@ -1,0 +1,332 @@
+#include "ScriptEngine.h"
+
+#include <QAction>
+#include <QGuiApplication>
+#include <QScriptContext>
+#include <QScriptContextInfo>
+#include <QScriptEngineDebugger>
+#include <QTimer>
+#include <QUrl>
+
+#include <csignal>
+#include <cstdio>
+#include <limits>
+
+namespace nsModScript {
+
+namespace {
+
+const int eventInterval = 20;   ///< milliseconds between two looks at the user's events
+const int disposeInterval = 10; ///< milliseconds between two looks whether a script has ended
+
+/// Functions that are connected to signals run through `run`, so that they can be stopped like any other script code. A
+/// function is wrapped once, so that it can be disconnected.
+const char* const wrapHandlers =
+    "(function(run) {\n"
+    "    var key = '__handler';\n"
+    "    var connect = Function.prototype.connect, disconnect = Function.prototype.disconnect;\n"
+    "    function handlerOf(f) {\n"
+    "        if (!Object.prototype.hasOwnProperty.call(f, key)) {\n"
+    "            Object.defineProperty(f, key, {\n"
+    "                value: function() { return run(f, this, Array.prototype.slice.call(arguments)); } });\n"
+    "        }\n"
+    "        return f[key];\n"
+    "    }\n"
+    "    function wrapped(call) {\n"
+    "        return function(self, f) {\n"
+    "            if (arguments.length < 2)\n"
+    "                return call.call(this, typeof self === 'function' ? handlerOf(self) : self);\n"
+    "            var found = typeof f === 'function' || self === null || self === undefined ? f : self[f];\n"
+    "            return call.call(this, self, typeof found === 'function' ? handlerOf(found) : f);\n"
+    "        };\n"
+    "    }\n"
+    "    Function.prototype.connect = wrapped(connect);\n"
+    "    Function.prototype.disconnect = wrapped(disconnect);\n"
+    "})";
+
+bool hasDisplay()
+{
+    const QString platform = QGuiApplication::platformName();
+    return !platform.isEmpty() && platform != QLatin1String("offscreen") &&
+           !platform.startsWith(QLatin1String("minimal"));
+}
+
+/// A number of milliseconds; what is none counts as 0.
+int milliseconds(const QScriptValue& value)
+{
+    const qsreal number = value.toNumber();
+    if (!(number > 0))
+        return 0;
+    return number < std::numeric_limits<int>::max() ? int(number) : std::numeric_limits<int>::max();
+}
+
+ScriptEngine* engineOf(void* self)
+{
+    return static_cast<ScriptEngine*>(self);
+}
+
+} // namespace
+
+ScriptEngine::ScriptEngine(eDebugger_t debugger)
+    : m_hasDebugger(debugger == eDebuggerAlways || (debugger == eDebuggerOnDisplay && hasDisplay()))
+{
+    m_engine.setProcessEventsInterval(eventInterval);
+    qScriptRegisterMetaType<QUrl>(
+        &m_engine, [](QScriptEngine*, const QUrl& url) { return QScriptValue(url.toString()); },
+        [](const QScriptValue& value, QUrl& url) { url = QUrl(value.toString()); });
+    makeGlobals();
+    connect(&m_timeouts, &ScriptTimeouts::due, this, &ScriptEngine::runTimeout);
+    connect(&m_timeouts, &ScriptTimeouts::changed, this, &ScriptEngine::busyChanged);
+}
+
+ScriptEngine::~ScriptEngine()
+{
+    // Values of the engine must not outlive it.
+    m_timeouts.disconnect(this);
+    m_timeouts.clear();
+}
+
+void ScriptEngine::dispose(ScriptEngine* engine)
+{
+    if (engine == nullptr)
+        return;
+    engine->disconnect();
+    engine->m_isDisposed = true;
+    engine->m_timeouts.clear();
+    if (!engine->isRunning()) {
+        delete engine;
+        return;
+    }
+    engine->stop();
+    // A posted deletion would also be carried out by a script that handles events.
+    auto* timer = new QTimer(engine);
+    timer->start(disposeInterval);
+    connect(timer, &QTimer::timeout, timer, [engine, timer] {
+        if (engine->isRunning())
+            return;
+        timer->setParent(nullptr);
+        timer->deleteLater();
+        delete engine;
+    });
+}
+
+/// The debugger takes longer to make than all else of the engine, so it is made when the first script starts.
+void ScriptEngine::attachDebugger()
+{
+    if (!m_hasDebugger || m_debugger != nullptr)
+        return;
+    // The debugger has a print() of its own, which shows the text to nobody.
+    const QScriptValue ownPrint = m_engine.globalObject().property("print");
+    m_debugger = std::make_unique<QScriptEngineDebugger>();
+    m_debugger->setAutoShowStandardWindow(true);
+    m_debugger->attachTo(&m_engine);
+    m_engine.globalObject().setProperty("print", ownPrint);
+    connect(m_debugger.get(), &QScriptEngineDebugger::evaluationSuspended, this, [this] {
+        m_isSuspended = true;
+        m_suspendedLine = QScriptContextInfo(m_engine.currentContext()).lineNumber();
+        if (m_isStopping)
+            stop();
+    });
+    connect(m_debugger.get(), &QScriptEngineDebugger::evaluationResumed, this, [this] { m_isSuspended = false; });
+}
+
+void ScriptEngine::makeGlobals()
+{
+    QScriptValue global = m_engine.globalObject();
+    global.setProperty("print", m_engine.newFunction(print));
+    global.setProperty("setTimeout", m_engine.newFunction(setTimeout, this));
+    global.setProperty("clearTimeout", m_engine.newFunction(clearTimeout, this));
+    m_engine.evaluate(QLatin1String(wrapHandlers))
+        .call(QScriptValue(), QScriptValueList{m_engine.newFunction(runHandler, this)});
+    // What scripts can reach are the registered objects, not all that belongs to them.
+    QObject object;
+    QScriptValue prototype = m_engine.newQObject(&object).prototype();
+    prototype.setProperty("findChild", QScriptValue());
+    prototype.setProperty("findChildren", QScriptValue());
+}
+
+void ScriptEngine::registerObject(QObject* object, const QString& name)
+{
+    m_engine.globalObject().setProperty(
+        name, m_engine.newQObject(object, QScriptEngine::QtOwnership,
+                                  QScriptEngine::ExcludeDeleteLater | QScriptEngine::ExcludeChildObjects));
+}
+
+void ScriptEngine::unregisterObject(const QString& name)
+{
+    // The name stays bound: a script that holds the object goes on.
+    const QScriptValue value = m_engine.globalObject().property(name);
+    Q_UNUSED(value)
+}
+
+// --- what runs ---
+
+void ScriptEngine::enter()
+{
+    if (m_depth++ == 0)
+        emit busyChanged();
+}
+
+void ScriptEngine::leave()
+{
+    if (--m_depth > 0) {
+        // A stop ends all of them; the engine itself ends the innermost one.
+        if (m_isStopping)
+            m_engine.abortEvaluation();
+        return;
+    }
+    m_isStopping = false;
+    emit busyChanged();
+    emit ended();
+}
+
+QScriptValue ScriptEngine::evaluate(const QString& program, ScriptOutcome* outcome)
+{
+    m_suspendedLine = 0;
+    const QScriptValue result = m_engine.evaluate(program, QString(), 1);
+    if (m_isStopping) {
+        m_engine.clearExceptions();
+        outcome->end = ScriptOutcome::eEndStopped;
+        return QScriptValue();
+    }
+    if (!m_engine.hasUncaughtException())
+        return result;
+    outcome->end = ScriptOutcome::eEndException;
+    outcome->line = m_engine.uncaughtExceptionLineNumber();
+    // After a look at it in the debugger, the engine has forgotten the line of a number or text that was thrown.
+    if (outcome->line <= 0)
+        outcome->line = m_suspendedLine;
+    const QScriptValue exception = m_engine.uncaughtException();
+    m_engine.clearExceptions();
+    outcome->text = textOf(exception);
+    if (m_isStopping)
+        outcome->end = ScriptOutcome::eEndStopped;
+    return QScriptValue();
+}
+
+ScriptOutcome ScriptEngine::run(const QString& script, const QString& dir)
+{
+    ScriptOutcome outcome;
+    m_engine.globalObject().setProperty("scriptDir", dir);
+    attachDebugger();
+    enter();
+    evaluate(script, &outcome);
+    leave();
+    return outcome;
+}
+
+/// Only an evaluation can be stopped, so a function is not called directly.
+QScriptValue ScriptEngine::callFunction(const QScriptValue& function, const QScriptValue& self,
+                                        const QScriptValue& arguments, ScriptOutcome* outcome)
+{
+    attachDebugger();
+    enter();
+    QScriptContext* context = m_engine.pushContext();
+    QScriptValue scope = context->activationObject();
+    scope.setProperty("f", function);
+    scope.setProperty("self", self);
+    scope.setProperty("a", arguments);
+    const QScriptValue result = evaluate(QStringLiteral("f.apply(self, a)"), outcome);
+    m_engine.popContext();
+    leave();
+    return result;
+}
+
+/// The text of an exception may come from a function of the script, which can fail or run without end, too.
+QString ScriptEngine::textOf(const QScriptValue& exception)
+{
+    if (!exception.isObject())
+        return exception.toString();
+    QScriptContext* context = m_engine.pushContext();
+    context->activationObject().setProperty("e", exception);
+    const QScriptValue text = m_engine.evaluate(QStringLiteral("'' + e"));
+    const bool failed = m_engine.hasUncaughtException() || m_isStopping;
+    m_engine.clearExceptions();
+    m_engine.popContext();
+    return failed ? tr("an exception without a text") : text.toString();
+}
+
+void ScriptEngine::runTimeout(int id)
+{
+    if (m_isDisposed)
+        return;
+    // As everywhere in the language, a script is not interrupted by another function.
+    if (isRunning()) {
+        m_timeouts.defer(id);
+        return;
+    }
+    const QScriptValue function = m_timeouts.take(id);
+    ScriptOutcome outcome;
+    emit functionStarts();
+    callFunction(function, QScriptValue(), m_engine.newArray(), &outcome);
+    emit functionEnded(outcome);
+}
+
+void ScriptEngine::stop()
+{
+    m_timeouts.clear();
+    if (!isRunning())
+        return;
+    m_isStopping = true;
+    m_engine.abortEvaluation();
+    if (m_isSuspended && m_debugger != nullptr)
+        m_debugger->action(QScriptEngineDebugger::ContinueAction)->trigger();
+}
+
+void ScriptEngine::throwError(const QString& text)
+{
+    if (isRunning())
+        m_engine.currentContext()->throwError(text);
+}
+
+// --- the functions that scripts call ---
+
+QScriptValue ScriptEngine::print(QScriptContext* context, QScriptEngine* engine)
+{
+    QStringList words;
+    for (int i = 0; i < context->argumentCount(); ++i) {
+        words.append(context->argument(i).toString());
+        // The text of an object comes from a function of the script.
+        if (engine->hasUncaughtException())
+            return engine->undefinedValue();
+    }
+    // A reader that has gone away is an error of the script, and not the end of the program.
+    std::signal(SIGPIPE, SIG_IGN);
+    const QByteArray line = words.join(QLatin1Char(' ')).toUtf8() + '\n';
+    const bool written = std::fwrite(line.constData(), 1, size_t(line.size()), stdout) == size_t(line.size()) &&
+                         std::fflush(stdout) == 0;
+    if (!written) {
+        std::clearerr(stdout);
+        return context->throwError(tr("Can not write to the standard output."));
+    }
+    return engine->undefinedValue();
+}
+
+QScriptValue ScriptEngine::setTimeout(QScriptContext* context, QScriptEngine*, void* self)
+{
+    if (!context->argument(0).isFunction())
+        return context->throwError(QScriptContext::TypeError, tr("setTimeout() needs a function."));
+    return engineOf(self)->m_timeouts.add(context->argument(0), milliseconds(context->argument(1)));
+}
+
+QScriptValue ScriptEngine::clearTimeout(QScriptContext* context, QScriptEngine* engine, void* self)
+{
+    engineOf(self)->m_timeouts.remove(context->argument(0).toInt32());
+    return engine->undefinedValue();
+}
+
+/// Runs a function that is connected to a signal: function, `this`, arguments.
+QScriptValue ScriptEngine::runHandler(QScriptContext* context, QScriptEngine*, void* self)
+{
+    ScriptEngine* that = engineOf(self);
+    if (that->m_isDisposed)
+        return QScriptValue();
+    ScriptOutcome outcome;
+    emit that->functionStarts();
+    const QScriptValue result =
+        that->callFunction(context->argument(0), context->argument(1), context->argument(2), &outcome);
+    emit that->functionEnded(outcome);
+    return result;
+}
+
+} // namespace nsModScript
