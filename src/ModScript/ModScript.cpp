@@ -1,5 +1,7 @@
 #include "ModScript.h"
 
+#include "ScriptEngine.h"
+
 #include "ModMsgHookIf.h"
 
 #include <QApplication>
@@ -34,7 +36,7 @@ bool readScript(const QString& fileName, QString* script)
 
 } // namespace
 
-ModScript::ModScript(QObject* parent, ScriptEngine::eDebugger_t debugger)
+ModScript::ModScript(QObject* parent, eScriptDebugger_t debugger)
     : QObject(parent)
     , m_engine(new ScriptEngine(debugger))
 {
@@ -166,6 +168,11 @@ void ModScript::functionEnded(const ScriptOutcome& outcome)
     // The script that has called it is stopped, too, and reports it.
     const bool isInner = outcome.end == ScriptOutcome::eEndStopped && isRunning();
     closeGroupsAbove(depth, isInner || report(outcome));
+}
+
+bool ModScript::isRunning() const
+{
+    return m_engine != nullptr && m_engine->isRunning();
 }
 
 void ModScript::stopScript()

@@ -9,12 +9,14 @@
 #include "MsgUrl.h"
 #include "PluginList.h"
 #include "ScriptActions.h"
-#include "ScriptEngine.h"
+#include "ScriptOutcome.h"
 
 #include <QObject>
 #include <QVector>
 
 namespace nsModScript {
+
+class ScriptEngine;
 
 /// Runs scripts that drive the program, in the ECMAScript of QtScript: one engine for the whole run, in which the
 /// modules are objects.
@@ -32,8 +34,7 @@ class ModScript : public QObject,
     Q_OBJECT
 
 public:
-    explicit ModScript(QObject* parent = nullptr,
-                       ScriptEngine::eDebugger_t debugger = ScriptEngine::eDebuggerOnDisplay);
+    explicit ModScript(QObject* parent = nullptr, eScriptDebugger_t debugger = eDebuggerOnDisplay);
     ~ModScript() override;
 
     /// Runs the script of a file, or of a resource, in a message group. Bytes are taken up to the first zero byte.
@@ -42,7 +43,7 @@ public:
     void unregisterObject(QString name);
 
     /// Script code is on the stack.
-    bool isRunning() const { return m_engine != nullptr && m_engine->isRunning(); }
+    bool isRunning() const;
     /// Ends the script that runs, which is reported, and forgets the functions that wait for their time. Script code is
     /// on the stack until ended().
     void stopScript();
@@ -80,10 +81,10 @@ signals:
 private slots:
     void handleActions(nsModScript::ScriptActions::eAction_t action);
     void updateActions();
-    void functionStarts();
-    void functionEnded(const nsModScript::ScriptOutcome& outcome);
 
 private:
+    void functionStarts();
+    void functionEnded(const ScriptOutcome& outcome);
     void disposeEngine();
     void runFromDialog();
     /// @param file of the script, empty if it comes from no file

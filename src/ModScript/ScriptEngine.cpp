@@ -3,7 +3,6 @@
 #include <QAction>
 #include <QGuiApplication>
 #include <QScriptContext>
-#include <QScriptContextInfo>
 #include <QScriptEngineDebugger>
 #include <QTimer>
 #include <QUrl>
@@ -67,7 +66,7 @@ ScriptEngine* engineOf(void* self)
 
 } // namespace
 
-ScriptEngine::ScriptEngine(eDebugger_t debugger)
+ScriptEngine::ScriptEngine(eScriptDebugger_t debugger)
     : m_hasDebugger(debugger == eDebuggerAlways || (debugger == eDebuggerOnDisplay && hasDisplay()))
 {
     m_engine.setProcessEventsInterval(eventInterval);
@@ -123,7 +122,6 @@ void ScriptEngine::attachDebugger()
     m_engine.globalObject().setProperty("print", ownPrint);
     connect(m_debugger.get(), &QScriptEngineDebugger::evaluationSuspended, this, [this] {
         m_isSuspended = true;
-        m_suspendedLine = QScriptContextInfo(m_engine.currentContext()).lineNumber();
         if (m_isStopping)
             stop();
     });
@@ -182,7 +180,6 @@ void ScriptEngine::leave()
 
 QScriptValue ScriptEngine::evaluate(const QString& program, ScriptOutcome* outcome)
 {
-    m_suspendedLine = 0;
     const QScriptValue result = m_engine.evaluate(program, QString(), 1);
     if (m_isStopping) {
         m_engine.clearExceptions();
@@ -192,10 +189,7 @@ QScriptValue ScriptEngine::evaluate(const QString& program, ScriptOutcome* outco
     if (!m_engine.hasUncaughtException())
         return result;
     outcome->end = ScriptOutcome::eEndException;
-    outcome->line = m_engine.uncaughtExceptionLineNumber();
-    // After a look at it in the debugger, the engine has forgotten the line of a number or text that was thrown.
-    if (outcome->line <= 0)
-        outcome->line = m_suspendedLine;
+    outcome->line = qMax(m_engine.uncaughtExceptionLineNumber(), 0);
     const QScriptValue exception = m_engine.uncaughtException();
     m_engine.clearExceptions();
     outcome->text = textOf(exception);
@@ -258,7 +252,7 @@ void ScriptEngine::runTimeout(int id)
     const QScriptValue function = m_timeouts.take(id);
     ScriptOutcome outcome;
     emit functionStarts();
-    callFunction(function, QScriptValue(), m_engine.newArray(), &outcome);
+    callFunction(function, m_engine.undefinedValue(), m_engine.newArray(), &outcome);
     emit functionEnded(outcome);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ScriptOutcome.h"
 #include "ScriptTimeouts.h"
 
 #include <QObject>
@@ -12,16 +13,6 @@ class QScriptContext;
 class QScriptEngineDebugger;
 
 namespace nsModScript {
-
-/// What a script came to.
-struct ScriptOutcome
-{
-    enum eEnd_t { eEndGood, eEndException, eEndStopped };
-
-    eEnd_t end = eEndGood;
-    int line = 0; ///< of an exception, from 1 on
-    QString text; ///< of an exception
-};
 
 /// The engine with its debugger and the global functions that scripts have: print(), setTimeout(), clearTimeout(),
 /// scriptDir.
@@ -37,14 +28,7 @@ class ScriptEngine : public QObject
     Q_OBJECT
 
 public:
-    /// Whether the debugger is attached.
-    ///
-    /// Its window opens on an uncaught exception and at a `debugger` statement, and the script waits until somebody has
-    /// closed it. Where nobody can, it would wait for ever: on the platforms "offscreen" and "minimal", which have no
-    /// display, exceptions are only reported, and `debugger` does nothing. Tests run there.
-    enum eDebugger_t { eDebuggerOnDisplay, eDebuggerAlways, eDebuggerNever };
-
-    explicit ScriptEngine(eDebugger_t debugger);
+    explicit ScriptEngine(eScriptDebugger_t debugger);
     ~ScriptEngine() override;
 
     /// Deletes the engine: at once, or when the script on the stack, which is stopped, has ended. Nothing is reported
@@ -99,7 +83,6 @@ private:
     ScriptTimeouts m_timeouts;
     bool m_hasDebugger;
     bool m_isSuspended = false; ///< in the debugger
-    int m_suspendedLine = 0;    ///< of the last stop in the debugger
     int m_depth = 0;            ///< script code on the stack: number of entries
     bool m_isStopping = false;
     bool m_isDisposed = false;

@@ -45,12 +45,11 @@ signals:
 class ScriptTest : public ::testing::Test
 {
 protected:
-    ScriptTest() { make(ScriptEngine::eDebuggerOnDisplay); }
+    ScriptTest() { make(nsModScript::eDebuggerOnDisplay); }
 
-    using ScriptEngine = nsModScript::ScriptEngine;
     using ModScript = nsModScript::ModScript;
 
-    void make(ScriptEngine::eDebugger_t debugger)
+    void make(nsModScript::eScriptDebugger_t debugger)
     {
         script = std::make_unique<ModScript>(nullptr, debugger);
         msg.attach(static_cast<ModMsgPluginIf*>(script.get()));
