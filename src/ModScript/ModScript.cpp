@@ -11,9 +11,13 @@
 #include <QPointer>
 #include <QRegExp>
 
+#include <cstdio>
+
 namespace nsModScript {
 
 namespace {
+
+const int longestLine = 4096; ///< characters of an error on standard error
 
 bool isResource(const QString& fileName)
 {
@@ -199,6 +203,9 @@ void ModScript::error(const QString& text, const nsModMsg::MsgUrl& place)
 {
     if (modMsgHook != nullptr)
         modMsgHook->showErrorMessage(text, QUrl(), place);
+    // Without a display, nobody can see the message view.
+    if (!ScriptEngine::hasDisplay())
+        std::fprintf(stderr, "%s\n", text.left(longestLine).toUtf8().constData());
 }
 
 // --- actions ---

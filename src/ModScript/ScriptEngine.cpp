@@ -43,13 +43,6 @@ const char* const wrapHandlers =
     "    Function.prototype.disconnect = wrapped(disconnect);\n"
     "})";
 
-bool hasDisplay()
-{
-    const QString platform = QGuiApplication::platformName();
-    return !platform.isEmpty() && platform != QLatin1String("offscreen") &&
-           !platform.startsWith(QLatin1String("minimal"));
-}
-
 /// A number of milliseconds; what is none counts as 0.
 int milliseconds(const QScriptValue& value)
 {
@@ -65,6 +58,13 @@ ScriptEngine* engineOf(void* self)
 }
 
 } // namespace
+
+bool ScriptEngine::hasDisplay()
+{
+    const QString platform = QGuiApplication::platformName();
+    return !platform.isEmpty() && platform != QLatin1String("offscreen") &&
+           !platform.startsWith(QLatin1String("minimal"));
+}
 
 ScriptEngine::ScriptEngine(eScriptDebugger_t debugger)
     : m_hasDebugger(debugger == eDebuggerAlways || (debugger == eDebuggerOnDisplay && hasDisplay()))
