@@ -36,6 +36,8 @@ protected:
     ScriptWindow()
     {
         copyFolder(NALVO_SOURCE_DIR "/examples/scripts/multiply", projectDir());
+        writeSetting("ModGui/width", "1280");
+        writeSetting("ModGui/height", "750");
         makeWindow();
         script()->registerObject(&target, "test");
         script()->executeScript("function open() { return project.open('" + project() +

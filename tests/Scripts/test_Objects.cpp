@@ -2,6 +2,8 @@
 
 #include "ScriptWindow.h"
 
+#include "EditorWidget.h"
+#include "ModEditor.h"
 #include "ModProcessor.h"
 #include "ProcShell.h"
 
@@ -194,7 +196,7 @@ TEST_F(ScriptWindow, theSimulatorRuns)
             "test.note(simulator.setPc(0x200)); test.note(simulator.pc());\n"
             "test.note(simulator.runToLine('multiply.psm', 30, 1000)); test.note(simulator.line());"),
         QStringList({"true", "true", "0,20," + projectDir() + "/multiply.psm", "1,1,count", "3,1", "false,count",
-                     "true,target,3", "true,2", "1000,count", "0", "true", "2", "false", "2", "true", "31"}));
+                     "true,target,3", "true,2", "1000,count", "0", "true", "2", "false", "2", "true", "30"}));
 }
 
 TEST_F(ScriptWindow, theSimulatorsStateIsReadAndSet)
@@ -241,7 +243,7 @@ TEST_F(ScriptWindow, aRunStopsAtABreakpointAndAStepDoesNot)
 {
     const QString source = projectDir() + "/multiply.psm";
     ASSERT_TRUE(run("open(); assembler.assemble(0); editor.setCursorToLine('" + source + "', 22);"));
-    trigger("Toggle breakpoint");
+    module<nsModEditor::ModEditor>()->editorWidgets().last()->setSimBreakpoint(22);
     EXPECT_EQ(notes("simulator.enable(); test.note(simulator.run()); test.note(simulator.endReason() + ',' + "
                     "simulator.line());\n"
                     "simulator.reset(); test.note(simulator.step(5)); test.note(simulator.endReason());"),
@@ -250,7 +252,7 @@ TEST_F(ScriptWindow, aRunStopsAtABreakpointAndAStepDoesNot)
 
 TEST_F(ScriptWindow, aRunEndsWithAMessageOfTheSimulator)
 {
-    writeFile("multiply.psm", "start:\n        LOAD s0, 1\n        RET\ndone:\n        JUMP done\n");
+    writeFile("multiply.psm", "start:\n        LOAD s0, 1\n        RDPRT s0, 1\n        JUMP start\n");
     EXPECT_EQ(notes("open(); assembler.assemble(0); simulator.enable(); msg.clearMessages();\n"
                     "test.note(simulator.run(10)); test.note(simulator.endReason());\n"
                     "test.note(msg.errorCount() + msg.warningCount() > 0);"),

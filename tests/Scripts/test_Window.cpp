@@ -180,7 +180,10 @@ TEST_F(ScriptWindow, theLinkOfAnErrorLeadsToTheLineOfTheScript)
     }
     ASSERT_NE(error, nullptr);
     EXPECT_EQ(error->text(2), "own.js#3");
+    settleAnimations();
+    messageView()->scrollToItem(error);
     screenshot("scripts-error");
+    messageView()->scrollToItem(error);
     ModalAnswers answers({});
     QTest::mouseClick(messageView()->viewport(), Qt::LeftButton, Qt::NoModifier,
                       messageView()->visualItemRect(error).center());
