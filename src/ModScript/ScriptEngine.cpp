@@ -18,30 +18,8 @@ namespace {
 const int eventInterval = 20;   ///< milliseconds between two looks at the user's events
 const int disposeInterval = 10; ///< milliseconds between two looks whether a script has ended
 
-/// Functions that are connected to signals run through `run`, so that they can be stopped like any other script code. A
-/// function is wrapped once, so that it can be disconnected.
-const char* const wrapHandlers =
-    "(function(run) {\n"
-    "    var key = '__handler';\n"
-    "    var connect = Function.prototype.connect, disconnect = Function.prototype.disconnect;\n"
-    "    function handlerOf(f) {\n"
-    "        if (!Object.prototype.hasOwnProperty.call(f, key)) {\n"
-    "            Object.defineProperty(f, key, {\n"
-    "                value: function() { return run(f, this, Array.prototype.slice.call(arguments)); } });\n"
-    "        }\n"
-    "        return f[key];\n"
-    "    }\n"
-    "    function wrapped(call) {\n"
-    "        return function(self, f) {\n"
-    "            if (arguments.length < 2)\n"
-    "                return call.call(this, typeof self === 'function' ? handlerOf(self) : self);\n"
-    "            var found = typeof f === 'function' || self === null || self === undefined ? f : self[f];\n"
-    "            return call.call(this, self, typeof found === 'function' ? handlerOf(found) : f);\n"
-    "        };\n"
-    "    }\n"
-    "    Function.prototype.connect = wrapped(connect);\n"
-    "    Function.prototype.disconnect = wrapped(disconnect);\n"
-    "})";
+/// Where a function of a script keeps the function that is connected in its place.
+const char* const handlerKey = "__handler";
 
 /// A number of milliseconds; what is none counts as 0.
 int milliseconds(const QScriptValue& value)
@@ -134,8 +112,12 @@ void ScriptEngine::makeGlobals()
     global.setProperty("print", m_engine.newFunction(print));
     global.setProperty("setTimeout", m_engine.newFunction(setTimeout, this));
     global.setProperty("clearTimeout", m_engine.newFunction(clearTimeout, this));
-    m_engine.evaluate(QLatin1String(wrapHandlers))
-        .call(QScriptValue(), QScriptValueList{m_engine.newFunction(runHandler, this)});
+    QScriptValue functions = global.property("Function").property("prototype");
+    for (const char* name : {"connect", "disconnect"}) {
+        QScriptValue guarded = m_engine.newFunction(connectHandler, this);
+        guarded.setData(functions.property(name));
+        functions.setProperty(name, guarded, QScriptValue::SkipInEnumeration);
+    }
     // What scripts can reach are the registered objects, not all that belongs to them.
     QObject object;
     QScriptValue prototype = m_engine.newQObject(&object).prototype();
@@ -309,16 +291,50 @@ QScriptValue ScriptEngine::clearTimeout(QScriptContext* context, QScriptEngine* 
     return engine->undefinedValue();
 }
 
-/// Runs a function that is connected to a signal: function, `this`, arguments.
-QScriptValue ScriptEngine::runHandler(QScriptContext* context, QScriptEngine*, void* self)
+/// Stands in for connect() and disconnect() of signals, which would crash with some arguments. A function is connected
+/// through runHandler(), so that it can be stopped like any other script code.
+QScriptValue ScriptEngine::connectHandler(QScriptContext* context, QScriptEngine*, void* self)
+{
+    QScriptValueList arguments;
+    for (int i = 0; i < qMin(context->argumentCount(), 2); ++i)
+        arguments.append(context->argument(i));
+    QScriptValue function = arguments.isEmpty() ? QScriptValue() : arguments.last();
+    // The name of a function of the receiver.
+    if (arguments.size() == 2 && !function.isFunction() && arguments.first().isObject())
+        function = arguments.first().property(function.toString());
+    if (!function.isFunction() || !context->thisObject().isFunction())
+        return context->throwError(QScriptContext::TypeError, tr("A signal is connected to a function."));
+    arguments.last() = engineOf(self)->handlerOf(function);
+    return context->callee().data().call(context->thisObject(), arguments);
+}
+
+/// The same for one function at every call, so that it can be disconnected.
+QScriptValue ScriptEngine::handlerOf(QScriptValue function)
+{
+    // The operation of an object is no script code; only functions of scripts have a prototype.
+    if (!function.property("prototype", QScriptValue::ResolveLocal).isValid())
+        return function;
+    QScriptValue handler = function.property(handlerKey, QScriptValue::ResolveLocal);
+    if (!handler.isValid()) {
+        handler = m_engine.newFunction(runHandler, this);
+        handler.setData(function);
+        function.setProperty(handlerKey, handler, QScriptValue::SkipInEnumeration | QScriptValue::ReadOnly);
+    }
+    return handler;
+}
+
+QScriptValue ScriptEngine::runHandler(QScriptContext* context, QScriptEngine* engine, void* self)
 {
     ScriptEngine* that = engineOf(self);
     if (that->m_isDisposed)
         return QScriptValue();
+    QScriptValue arguments = engine->newArray(uint(context->argumentCount()));
+    for (int i = 0; i < context->argumentCount(); ++i)
+        arguments.setProperty(quint32(i), context->argument(i));
     ScriptOutcome outcome;
     emit that->functionStarts();
     const QScriptValue result =
-        that->callFunction(context->argument(0), context->argument(1), context->argument(2), &outcome);
+        that->callFunction(context->callee().data(), context->thisObject(), arguments, &outcome);
     emit that->functionEnded(outcome);
     return result;
 }

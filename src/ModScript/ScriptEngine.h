@@ -73,12 +73,14 @@ private:
     QScriptValue evaluate(const QString& program, ScriptOutcome* outcome);
     QScriptValue callFunction(const QScriptValue& function, const QScriptValue& self, const QScriptValue& arguments,
                               ScriptOutcome* outcome);
+    QScriptValue handlerOf(QScriptValue function);
     QString textOf(const QScriptValue& exception);
     void runTimeout(int id);
 
     static QScriptValue print(QScriptContext* context, QScriptEngine* engine);
     static QScriptValue setTimeout(QScriptContext* context, QScriptEngine* engine, void* self);
     static QScriptValue clearTimeout(QScriptContext* context, QScriptEngine* engine, void* self);
+    static QScriptValue connectHandler(QScriptContext* context, QScriptEngine* engine, void* self);
     static QScriptValue runHandler(QScriptContext* context, QScriptEngine* engine, void* self);
 
     QScriptEngine m_engine;

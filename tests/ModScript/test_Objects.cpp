@@ -137,6 +137,38 @@ TEST_F(ScriptTest, functionsAreConnectedAndDisconnected)
     EXPECT_EQ(target.notes, QStringList({"7,o7,o7", "7,o7,o7"}));
 }
 
+TEST_F(ScriptTest, operationsAreConnectedAndDisconnected)
+{
+    EXPECT_TRUE(run("test.fired.connect(test.note); test.fire(); test.fired.disconnect(test.note); test.fire();"))
+        << qPrintable(msg.dump());
+    EXPECT_EQ(target.notes, QStringList("7"));
+}
+
+TEST_F(ScriptTest, connectionsToWhatIsNoFunctionAreScriptErrors)
+{
+    const char* const calls[] = {"test.fired.connect(17)",
+                                 "test.fired.connect()",
+                                 "test.fired.connect(null)",
+                                 "test.fired.connect(null, 'f')",
+                                 "test.fired.connect(5, 'f')",
+                                 "test.fired.connect(null, null)",
+                                 "test.fired.connect({}, 'f')",
+                                 "test.fired.connect({}, {})",
+                                 "test.fired.connect.call(3, function() {})",
+                                 "(function() {}).connect(function() {})",
+                                 "test.note.connect(function() {})",
+                                 "test.fired.disconnect(function() {})",
+                                 "test.fired.disconnect(null, 'f')",
+                                 "test.fired.disconnect(undefined, undefined)"};
+    for (const char* call : calls) {
+        msg.reset();
+        EXPECT_FALSE(run(QString("\n\n%1;").arg(call))) << call;
+        EXPECT_TRUE(msg.errors().value(0).startsWith("Uncaught exception at line 3 - ")) << qPrintable(msg.dump());
+    }
+    EXPECT_TRUE(run("test.fired.connect(null, function() { test.note('a'); }); test.fire();"));
+    EXPECT_EQ(target.notes, QStringList("a"));
+}
+
 TEST_F(ScriptTest, anExceptionInAConnectedFunctionIsReportedOnce)
 {
     EXPECT_TRUE(run("test.fired.connect(function() {\n\nthrow 'inner'; });"));

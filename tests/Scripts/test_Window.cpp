@@ -23,7 +23,16 @@ TEST_F(ScriptWindow, theActionsStandInTheMenuTools)
     EXPECT_FALSE(action("Stop script")->isEnabled());
     EXPECT_FALSE(action("Run script...")->icon().isNull());
     EXPECT_FALSE(action("Stop script")->icon().isNull());
-    screenshot("scripts-window");
+    QMenu* menu = nullptr;
+    for (QAction* entry : window->menuBar()->actions()) {
+        if (entry->menu()->actions().contains(action("Run script...")))
+            menu = entry->menu();
+    }
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(QString(menu->title()).remove('&'), QString("Tools"));
+    menu->popup(window->pos());
+    screenshot("scripts-menu", menu);
+    menu->close();
 }
 
 TEST_F(ScriptWindow, theUserSelectsAScriptAndRunsIt)
