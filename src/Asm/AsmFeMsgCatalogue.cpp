@@ -138,6 +138,7 @@ constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(errTargetWrite, "Can not write output file: %1 (%2)"),
     NALVO_MSG(errTargetNotComplete, "Opcode at address %1 was not written to file!"),
     NALVO_MSG(warnTargetStuffing, "Template memory size bigger than expected: Stuffing with zeros"),
+    NALVO_MSG(errTargetOutside, "Output file outside of the project's folder is not allowed: %1 (%2)"),
     NALVO_MSG(errInternal, "Internal error: %1"),
 };
 

@@ -123,7 +123,8 @@ enum eMsgType_t {
     errTargetWrite = 116,
     errTargetNotComplete = 117,
     warnTargetStuffing = 118,
-    errInternal = 119,
+    errTargetOutside = 119,
+    errInternal = 120,
     eMsgTypeCount, ///< number of messages, not a message
 };
 

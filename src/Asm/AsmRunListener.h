@@ -3,6 +3,8 @@
 #include "AsmFeConfig.h"
 
 #include <QString>
+#include <QStringList>
+#include <QVector>
 
 namespace nsModAsmFe {
 
@@ -17,6 +19,13 @@ struct AsmNaviTag
     QString title;         ///< empty for the end of a group
     QString lineRef;       ///< text that finds the line again after edits; empty for a label, whose title does
     bool disabled = false; ///< the line lies in a conditional branch that is skipped
+};
+
+/// An output file of a run outside of the folder of the project file.
+struct AsmOutsideFile
+{
+    QString file;          ///< absolute, without links
+    bool bySource = false; ///< a source names it, not the project's settings
 };
 
 /// Whoever shows what a run finds. Every operation may be left out: a run without a listener shows the same messages.
@@ -50,6 +59,11 @@ public:
     virtual void refreshIODevViewer() {}
     /// The run has failed: the devices hold nothing worth showing.
     virtual void runFailed() {}
+    /// The run is about to write these files. Whoever wrote the project has named them, which need not be the user.
+    /// @return those that must not be written
+    virtual QStringList refusedOutputs(const QVector<AsmOutsideFile>&) { return {}; }
+    /// What the user can do about a refused file, for the message.
+    virtual QString refusalHint() { return QString(); }
     /// The output files are written: external programs that belong to the event may run.
     /// @return false if one of them has failed
     virtual bool runExternalPrograms(AsmFeConfig::eAssembleEvent_t) { return true; }

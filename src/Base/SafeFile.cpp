@@ -1,5 +1,6 @@
 #include "SafeFile.h"
 
+#include "FilePath.h"
 #include "RecoveryStore.h"
 
 #include <QDir>
@@ -18,7 +19,6 @@
 namespace {
 
 const int blockSize = 16 * 1024;
-const int maxLinks = 40; ///< in a chain; the same as the limit of the system
 const char* const accessList = "system.posix_acl_access";
 
 SafeFile::Watch& watch()
@@ -76,15 +76,6 @@ int syncFile(int fd, SafeFile::eStep_t step)
     return error == EINVAL || error == ENOSYS ? 0 : error;
 }
 
-/// The path with all links resolved; the target need not exist.
-QString withoutLinks(const QString& path)
-{
-    QFileInfo info(path);
-    for (int i = 0; i < maxLinks && info.isSymLink() && !info.exists(); ++i)
-        info.setFile(info.symLinkTarget());
-    return info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-}
-
 /// Copies the access control list, which the system stores in addition to the rights of owner, group and others.
 int copyAccessList(const QByteArray& from, int to)
 {
@@ -105,7 +96,7 @@ bool forbidsNewFiles(int error)
 } // namespace
 
 SafeFile::SafeFile(const QString& path)
-    : m_target(withoutLinks(path))
+    : m_target(pathWithoutLinks(path))
 {
 }
 

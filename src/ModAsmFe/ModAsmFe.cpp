@@ -4,6 +4,7 @@
 #include "AsmFeFileHndlr.h"
 #include "AsmFeStatusBar.h"
 #include "AsmScriptApi.h"
+#include "FilePath.h"
 
 #include "EquListView.h"
 #include "IODevViewerList.h"
@@ -227,8 +228,23 @@ void ModAsmFe::configPageClose(bool accepted)
 {
     // Without a project there is nothing that the values could belong to.
     if (m_configPage != nullptr && accepted && modPrjHook != nullptr && modPrjHook->isValid())
-        m_configPage->config(this);
+        takePage();
     delete m_configPage;
+}
+
+/// What this user types is what this user wants: a new output path is not asked for. Paths that were there before are,
+/// as they may have come with the project.
+void ModAsmFe::takePage()
+{
+    QString before[targetKindCount];
+    for (int kind = 0; kind < targetKindCount; ++kind)
+        before[kind] = targets[kind].outputFile;
+    m_configPage->config(this);
+    for (int kind = 0; kind < targetKindCount; ++kind) {
+        const QString& file = targets[kind].outputFile;
+        if (!file.isEmpty() && file != before[kind])
+            consent().setAnswer(ProjectConsent::kindOutput, {pathWithoutLinks(file)}, true);
+    }
 }
 
 void ModAsmFe::configPagesClosed(bool accepted)

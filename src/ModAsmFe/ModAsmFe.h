@@ -9,6 +9,7 @@
 #include "ModActionPluginIf.h"
 #include "ModAsmFeHookIf.h"
 #include "ModAsmFePluginIf.h"
+#include "ModCfgAppPluginIf.h"
 #include "ModConfigPluginIf.h"
 #include "ModEditorPluginIf.h"
 #include "ModGuiPluginIf.h"
@@ -21,6 +22,7 @@
 #include "ModSyscallPluginIf.h"
 #include "PluginBackend.h"
 #include "PluginList.h"
+#include "ProjectConsent.h"
 
 #include <QList>
 #include <QObject>
@@ -52,6 +54,7 @@ class ModAsmFe : public QObject,
                  public ModActionPluginIf,
                  public ModSyscallPluginIf,
                  public ModScriptPluginIf,
+                 public ModCfgAppPluginIfInterMod,
                  public AsmFeConfig,
                  private AsmRunListener
 {
@@ -150,6 +153,8 @@ private:
     void refreshInsertionMenu() override;
     void refreshIODevViewer() override;
     void runFailed() override { clearIODevViewer(); }
+    QStringList refusedOutputs(const QVector<AsmOutsideFile>& files) override;
+    QString refusalHint() override;
     bool runExternalPrograms(eAssembleEvent_t event) override;
     void refreshEquList() override;
 
@@ -160,6 +165,8 @@ private:
     void applyBackendConfig();
     void clearHighlighter();
     AsmProjectInfo projectInfo() const;
+    ProjectConsent consent() const;
+    void takePage();
 
     PluginList<ModAsmFePluginIf> m_plugins;
     PluginBackend m_backend;

@@ -3,6 +3,7 @@
 #include "ModAsmFe.h"
 
 #include "AsmFeFileHndlr.h"
+#include "ConsentQuestion.h"
 #include "EquListView.h"
 #include "IODevViewerList.h"
 #include "ModEditorHookIf.h"
@@ -126,6 +127,48 @@ void ModAsmFe::refreshIODevViewer()
 {
     if (m_ioDevViewer != nullptr)
         m_ioDevViewer->setupView(ioDevList());
+}
+
+ProjectConsent ModAsmFe::consent() const
+{
+    return ProjectConsent(modCfgAppHook, modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
+}
+
+/// A project names its outputs, and so does each of its sources. To assemble a foreign one must not write just
+/// anywhere.
+QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
+{
+    const ProjectConsent known = consent();
+    QStringList refused;
+    QStringList unknown;
+    for (const AsmOutsideFile& outside : files) {
+        const ProjectConsent::eAnswer_t answer = known.answer(ProjectConsent::kindOutput, {outside.file});
+        if (answer == ProjectConsent::answerNo)
+            refused.append(outside.file);
+        else if (answer == ProjectConsent::answerNone)
+            unknown.append(outside.file);
+    }
+    if (unknown.isEmpty())
+        return refused;
+    const QPointer<ModAsmFe> self(this);
+    const bool allowed = ConsentQuestion::ask(
+        tr("Output files outside of the project"),
+        tr("The project \"%1\" wants to write files outside of its folder. What is in them now will be lost.\n\nShall "
+           "this run and later ones of the project write them?")
+            .arg(modPrjHook->prjFileName()),
+        unknown.join('\n'));
+    // Program or project may have been closed under the question.
+    if (self && modPrjHook != nullptr && modPrjHook->isValid()) {
+        ProjectConsent kept = consent();
+        for (const QString& file : qAsConst(unknown))
+            kept.setAnswer(ProjectConsent::kindOutput, {file}, allowed);
+    }
+    return allowed ? refused : refused + unknown;
+}
+
+QString ModAsmFe::refusalHint()
+{
+    return tr("to allow it, enter it on the settings page of the assembler");
 }
 
 bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)

@@ -22,14 +22,7 @@ public:
     /// How the text shows the target of a jump or call, such as the label at this address.
     using TargetName = std::function<QString(int addr)>;
 
-    /// @param table not owned, must live as long as the disassembler
-    explicit ProcDisassembler(const ProcTable& table);
-
-    /// The instruction of a word; empty if there is none.
-    /// @param address of the word, to which relative targets are counted
-    QString text(int word, int address, const TargetName& targetName) const;
-
-private:
+    /// A part of an instruction's text, and where its word holds it.
     struct sOperand_t
     {
         enum eKind_t { word, reg, regRef, number, target };
@@ -48,6 +41,16 @@ private:
         QVector<sOperand_t> operands;
     };
 
+    /// @param table not owned, must live as long as the disassembler
+    explicit ProcDisassembler(const ProcTable& table);
+
+    /// The instruction of a word; empty if there is none.
+    /// @param address of the word, to which relative targets are counted
+    QString text(int word, int address, const TargetName& targetName) const;
+    /// All words that the assembler can make, the more general ones first.
+    const QVector<sPattern_t>& patterns() const { return m_patterns; }
+
+private:
     void addPatterns(const sInstr_t& instr);
     void addOperandForms(const sInstr_t& instr);
     void addFlow(const sInstr_t& instr);

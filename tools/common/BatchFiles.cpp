@@ -1,5 +1,6 @@
 #include "BatchFiles.h"
 
+#include "FilePath.h"
 #include "IODev.h"
 #include "IODevList.h"
 
@@ -24,17 +25,10 @@ bool isReplaceable(const QString& file)
 
 } // namespace
 
-QString targetOf(const QString& name)
-{
-    const QFileInfo info(name);
-    return info.exists() ? info.canonicalFilePath()
-                         : QFileInfo(info.path()).canonicalFilePath() + '/' + info.fileName();
-}
-
 bool isSameTarget(const QString& name, const QString& other)
 {
-    const QString target = targetOf(name);
-    return target == targetOf(other) && !target.startsWith("/dev/");
+    const QString target = pathWithoutLinks(name);
+    return target == pathWithoutLinks(other) && !target.startsWith("/dev/");
 }
 
 ProjectFiles::ProjectFiles(const QString& project, const QStringList& sources, const nsModAsmFe::IODevList& devices)

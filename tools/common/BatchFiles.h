@@ -15,8 +15,6 @@ class IODevList;
 
 namespace nsBatch {
 
-/// The file that a name leads to, existing or not.
-QString targetOf(const QString& name);
 /// Would one of them overwrite the other? Devices can be written any number of times.
 bool isSameTarget(const QString& name, const QString& other);
 

@@ -48,6 +48,9 @@ void setup(QCommandLineParser* parser)
         {{"l", "listing"}, tr("Write a listing, one line an instruction, to FILE. - is standard output."), tr("FILE")},
         {{"s", "symbols"}, tr("Write labels and #EQUs as JSON to FILE. - is standard output."), tr("FILE")},
         {{"W", "werror"}, tr("Count warnings as errors, but for kinds of output that no device writes.")},
+        {"allow-outside",
+         tr("Write output files outside of the project's folder also where a source names them, not the "
+            "project.")},
         {"q", tr("Show errors alone, and no summary. With -W, warnings too.")},
         {"v", tr("Show info messages and groups too.")},
         {{"h", "help"}, tr("Show this help.")},
@@ -83,6 +86,7 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
         return wrongUsage(tr("Unknown format: %1").arg(formatName));
     event = events.value(eventName);
     style.json = formats.value(formatName);
+    allowOutside = parser.isSet("allow-outside");
     style.werror = parser.isSet("werror");
     // A kind of output whose event is set causes this warning if no device writes it, which is not an error.
     style.harmless = QStringList("warnIODevNoFileToWrite");

@@ -19,8 +19,9 @@ struct AsmOptions : nsBatch::BatchOptions
 
     nsModAsmFe::AsmFeConfig::eAssembleEvent_t event = nsModAsmFe::AsmFeConfig::eEventButton1;
     nsBatch::BatchMsgStyle style;
-    QString listingFile; ///< empty: none; "-": standard output
-    QString symbolsFile; ///< empty: none; "-": standard output
+    bool allowOutside = false; ///< outputs that a source names may lie outside of the project's folder
+    QString listingFile;       ///< empty: none; "-": standard output
+    QString symbolsFile;       ///< empty: none; "-": standard output
 
 private:
     bool readChoices(const QCommandLineParser& parser);

@@ -1,6 +1,7 @@
 // nalvo-asm: assembles a project as the window does, for makefiles and continuous integration.
 
 #include "AsmOptions.h"
+#include "AsmPermissions.h"
 #include "AsmReport.h"
 #include "BatchFiles.h"
 #include "BatchOutput.h"
@@ -102,7 +103,9 @@ int run(const AsmOptions& options)
         showSummary(project.msg(), options.style, false, 0, {});
         return exitWrongUsage;
     }
-    const nsModAsmFe::Assembler& assembler = project.assembler();
+    nsModAsmFe::Assembler& assembler = project.assembler();
+    static AsmPermissions permissions(options.allowOutside);
+    assembler.setListener(&permissions);
     const bool assembled = project.assemble(options.event);
     Reports reports(project, file);
     if (assembler.isAssembled()) {

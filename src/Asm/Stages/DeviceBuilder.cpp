@@ -206,7 +206,10 @@ bool DeviceBuilder::setupIODevAttrTarget(IODev* dev, const sTargetKind_t& kind)
             return setupIODevSetString(set, &target.entityName);
         }) || !isTaken(parameter("TMPLFILE"), [&](Set* set) { return setupIODevSetPath(set, &target.templateFile); })))
         return false;
-    if (!isTaken(parameter("TARGETFILE"), [&](Set* set) { return setupIODevSetPath(set, &target.outputFile); }))
+    if (!isTaken(parameter("TARGETFILE"), [&](Set* set) {
+            target.outputBySource = true;
+            return setupIODevSetPath(set, &target.outputFile);
+        }))
         return false;
     if (kind.hasGapStuffing &&
         !isTaken(parameter("GAPSTUFFING"), [&](Set* set) { return setupIODevSetBoolean(set, &target.gapStuffingEn); }))

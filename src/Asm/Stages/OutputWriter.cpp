@@ -4,7 +4,7 @@
 #include "AsmFeMsgHndlr.h"
 #include "AsmProgram.h"
 #include "AsmProjectInfo.h"
-#include "AsmRunListener.h"
+#include "FilePath.h"
 #include "TargetKinds.h"
 #include "TargetMapper.h"
 
@@ -29,36 +29,80 @@ OutputWriter::OutputWriter(AsmProgram& program, const AsmFeConfig& config, const
 
 bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
 {
-    const auto wanted = [event](const TargetConfig& config) {
-        switch (event) {
-        case AsmFeConfig::eEventButton1:
-            return config.writeFileEventBut1;
-        case AsmFeConfig::eEventButton2:
-            return config.writeFileEventBut2;
-        case AsmFeConfig::eEventSave:
-            return config.writeFileEventSave;
-        case AsmFeConfig::eEventNone:
-            break;
-        }
-        return false;
-    };
-    const auto isWanted = [&](const sTargetKind_t& kind) { return wanted(m_config.targets[kind.kind]); };
-    if (std::none_of(std::begin(targetKinds()), std::end(targetKinds()), isWanted)) {
+    const auto wanted = [&](const sTargetKind_t& kind) { return isWanted(kind, event); };
+    if (std::none_of(std::begin(targetKinds()), std::end(targetKinds()), wanted)) {
         m_messages.signMsg(infoIODevNothingToDoForWriteEvent);
         return true;
     }
+    askForOutsideFiles(event);
     // A kind that fails does not keep the others from being written.
     bool success = true;
     for (const sTargetKind_t& kind : targetKinds()) {
-        if (isWanted(kind))
+        if (wanted(kind))
             success = mapIODevToFiles(kind) && success;
     }
     return success;
 }
 
-/// @return false if the run has read or written this file, which would be lost; reported
+bool OutputWriter::isWanted(const sTargetKind_t& kind, AsmFeConfig::eAssembleEvent_t event) const
+{
+    const TargetConfig& config = m_config.targets[kind.kind];
+    switch (event) {
+    case AsmFeConfig::eEventButton1:
+        return config.writeFileEventBut1;
+    case AsmFeConfig::eEventButton2:
+        return config.writeFileEventBut2;
+    case AsmFeConfig::eEventSave:
+        return config.writeFileEventSave;
+    case AsmFeConfig::eEventNone:
+        break;
+    }
+    return false;
+}
+
+/// Asks once for all files of the event that lie outside of the project's folder.
+void OutputWriter::askForOutsideFiles(AsmFeConfig::eAssembleEvent_t event)
+{
+    QVector<AsmOutsideFile> outside;
+    QStringList paths;
+    for (const sTargetKind_t& kind : targetKinds()) {
+        for (const IODev* dev : m_program.ioDevs.devices()) {
+            const TargetFile& target = dev->targets[kind.kind];
+            const QString path = target.en && isWanted(kind, event) ? outsidePath(target.outputFile) : QString();
+            if (path.isEmpty())
+                continue;
+            const int known = paths.indexOf(path);
+            if (known < 0) {
+                paths.append(path);
+                outside.append({path, target.outputBySource});
+            } else {
+                outside[known].bySource = outside[known].bySource || target.outputBySource;
+            }
+        }
+    }
+    if (!outside.isEmpty())
+        m_refused = m_listener.refusedOutputs(outside);
+}
+
+/// @return where the file is really written, if that is outside of the project's folder; else an empty text
+QString OutputWriter::outsidePath(const QString& file) const
+{
+    // Keeps nothing of what is written to it.
+    if (file.isEmpty() || file == QLatin1String("/dev/null"))
+        return QString();
+    const QString path = pathWithoutLinks(file);
+    const QString dir = QFileInfo(m_project.dir).canonicalFilePath();
+    return !dir.isEmpty() && path.startsWith(dir.endsWith('/') ? dir : dir + '/') ? QString() : path;
+}
+
+/// @return false, reported, if the file lies outside of the project's folder and was refused, or if the run has read or
+/// written it, so that it would be lost
 bool OutputWriter::checkTargetFile(const QString& file)
 {
+    if (!m_refused.isEmpty() && m_refused.contains(outsidePath(file))) {
+        m_messages.signMsg(errTargetOutside, file, m_listener.refusalHint());
+        return false;
+    }
     const QString canonical = QFileInfo(file).canonicalFilePath();
     if (canonical.isEmpty())
         return true;

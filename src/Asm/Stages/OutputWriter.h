@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AsmFeConfig.h"
+#include "AsmRunListener.h"
 
 #include <QString>
 #include <QStringList>
@@ -9,7 +10,6 @@ namespace nsModAsmFe {
 
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
-class AsmRunListener;
 struct AsmProgram;
 struct AsmProjectInfo;
 struct sTargetKind_t;
@@ -21,7 +21,8 @@ public:
     /// @param program read: devices and the texts for templates; written: the list of written files, and which cells a
     /// writer has used
     /// @param config read: the kinds of an event
-    /// @param files, project read: the files that no output may replace
+    /// @param files, project read: the files that no output may replace, the folder of the project
+    /// @param listener is asked about files outside of that folder
     OutputWriter(AsmProgram& program, const AsmFeConfig& config, const AsmFeFileHndlr& files,
                  const AsmProjectInfo& project, AsmFeMsgHndlr& messages, AsmRunListener& listener);
 
@@ -29,6 +30,9 @@ public:
     bool mapIODevToFile(AsmFeConfig::eAssembleEvent_t event);
 
 private:
+    bool isWanted(const sTargetKind_t& kind, AsmFeConfig::eAssembleEvent_t event) const;
+    QString outsidePath(const QString& file) const;
+    void askForOutsideFiles(AsmFeConfig::eAssembleEvent_t event);
     bool mapIODevToFiles(const sTargetKind_t& kind);
     bool checkTargetFile(const QString& file);
 
@@ -38,6 +42,7 @@ private:
     const AsmProjectInfo& m_project;
     AsmFeMsgHndlr& m_messages;
     AsmRunListener& m_listener;
+    QStringList m_refused; ///< files that must not be written, without links
 };
 
 } // namespace nsModAsmFe

@@ -11,10 +11,11 @@ enum eTargetKind_t { kindVhdl, kindVerilog, kindHex, kindMem, targetKindCount };
 struct TargetFile
 {
     bool en = false;
-    QString entityName;        ///< of kinds with a template
-    QString templateFile;      ///< absolute; of kinds with a template
-    QString outputFile;        ///< absolute
-    bool gapStuffingEn = true; ///< words that nothing wrote are written too; of kinds that can leave them out
+    QString entityName;          ///< of kinds with a template
+    QString templateFile;        ///< absolute; of kinds with a template
+    QString outputFile;          ///< absolute
+    bool outputBySource = false; ///< a source names the output, not the settings
+    bool gapStuffingEn = true;   ///< words that nothing wrote are written too; of kinds that can leave them out
 };
 
 } // namespace nsModAsmFe

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// Where a write to the path would end: absolute, with all links resolved. The file need not exist, nor its folder.
+QString pathWithoutLinks(const QString& path);

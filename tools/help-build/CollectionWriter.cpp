@@ -1,0 +1,130 @@
+#include "CollectionWriter.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QXmlStreamWriter>
+
+namespace nsHelpBuild {
+
+namespace {
+
+// The program's URLs name the namespace, and the host of a URL is in lower case.
+const char* const helpNamespace = "nv";
+const char* const virtualFolder = "Nalvo";
+const char* const pageTable = "pageIdRefList/pageIdRefList.csv";
+
+using PagesById = QHash<QString, const HelpPage*>;
+
+void writeContents(QXmlStreamWriter* xml, const QVector<ContentsEntry>& contents, const PagesById& pages)
+{
+    for (const ContentsEntry& entry : contents) {
+        const HelpPage* page = pages.value(entry.pageId.toLower());
+        xml->writeStartElement("section");
+        xml->writeAttribute("title", page != nullptr ? page->title : entry.title);
+        if (page != nullptr)
+            xml->writeAttribute("ref", page->file());
+        writeContents(xml, entry.entries, pages);
+        xml->writeEndElement();
+    }
+}
+
+void writeKeyword(QXmlStreamWriter* xml, const QString& name, const QString& id, const QString& ref)
+{
+    xml->writeEmptyElement("keyword");
+    xml->writeAttribute("name", name);
+    xml->writeAttribute("id", id);
+    xml->writeAttribute("ref", ref);
+}
+
+void writeKeywords(QXmlStreamWriter* xml, const QVector<HelpPage>& pages)
+{
+    for (const HelpPage& page : pages) {
+        writeKeyword(xml, page.title, page.id, page.file());
+        for (const QString& keyword : page.keywords)
+            writeKeyword(xml, keyword, keyword, page.file());
+        for (const HelpAnchor& anchor : page.anchors) {
+            if (anchor.isWord)
+                writeKeyword(xml, anchor.title, anchor.title, page.file() + '#' + anchor.name);
+        }
+    }
+}
+
+} // namespace
+
+bool CollectionWriter::writeFile(const QString& name, const QByteArray& bytes)
+{
+    const QString path = m_out.filePath(name);
+    QDir().mkpath(QFileInfo(path).path());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
+        return true;
+    m_error = path + QStringLiteral(": ") + file.errorString();
+    return false;
+}
+
+QByteArray CollectionWriter::htmlOf(const HelpPage& page)
+{
+    return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n<title>" +
+           page.title.toHtmlEscaped().toUtf8() +
+           "</title>\n<link rel=\"stylesheet\" href=\"style.css\">\n</head>\n<body>\n<main>\n<h1>" +
+           page.title.toHtmlEscaped().toUtf8() + "</h1>\n" + page.html + "</main>\n</body>\n</html>\n";
+}
+
+QByteArray CollectionWriter::project(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
+                                     const QStringList& otherFiles) const
+{
+    PagesById byId;
+    for (const HelpPage& page : pages)
+        byId.insert(page.id.toLower(), &page);
+    QByteArray text;
+    QXmlStreamWriter xml(&text);
+    xml.setAutoFormatting(true);
+    xml.writeStartDocument();
+    xml.writeStartElement("QtHelpProject");
+    xml.writeAttribute("version", "1.0");
+    xml.writeTextElement("namespace", helpNamespace);
+    xml.writeTextElement("virtualFolder", virtualFolder);
+    xml.writeStartElement("filterSection");
+    xml.writeStartElement("toc");
+    writeContents(&xml, contents, byId);
+    xml.writeEndElement();
+    xml.writeStartElement("keywords");
+    writeKeywords(&xml, pages);
+    xml.writeEndElement();
+    xml.writeStartElement("files");
+    for (const HelpPage& page : pages)
+        xml.writeTextElement("file", page.file());
+    for (const QString& file : otherFiles)
+        xml.writeTextElement("file", file);
+    xml.writeTextElement("file", pageTable);
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndElement();
+    xml.writeEndDocument();
+    return text;
+}
+
+bool CollectionWriter::write(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
+                             const QStringList& otherFiles)
+{
+    QByteArray table;
+    for (const HelpPage& page : pages) {
+        table += page.id.toLower().toUtf8() + ';' + page.file().toUtf8() + ";\n";
+        if (!writeFile(page.file(), htmlOf(page)))
+            return false;
+    }
+    static const QByteArray collection =
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
+        "<QHelpCollectionProject version=\"1.0\">\n"
+        "<docFiles>\n"
+        "<generate><file><input>nalvo.qhp</input><output>nalvo.qch</output></file></generate>\n"
+        "<register><file>nalvo.qch</file></register>\n"
+        "</docFiles>\n"
+        "</QHelpCollectionProject>\n";
+    return writeFile(pageTable, table) &&
+           writeFile(QStringLiteral("nalvo.qhp"), project(pages, contents, otherFiles)) &&
+           writeFile(QStringLiteral("hlpCollection.qhcp"), collection);
+}
+
+} // namespace nsHelpBuild

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "HelpPage.h"
+
+#include <QString>
+#include <QVector>
+
+namespace nsHelpBuild {
+
+/// The pages of the instruction sets, one for each processor: forms and words from the processors' tables, the rest
+/// from a file for each mnemonic.
+/// @param folder holds NAME.md for each mnemonic
+/// @param errors one line for each file that is missing, has no head or belongs to no mnemonic
+QVector<HelpPage> instructionPages(const QString& folder, QStringList* errors);
+
+} // namespace nsHelpBuild

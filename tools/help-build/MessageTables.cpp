@@ -1,0 +1,63 @@
+#include "MessageTables.h"
+
+#include "AsmFeMsgCatalogue.h"
+#include "ProcAsmMsg.h"
+#include "ProcSimMsg.h"
+#include "ProcTables.h"
+
+namespace nsHelpBuild {
+
+namespace {
+
+/// The prefix of a key is its grade.
+MessageText messageText(const char* key, const char* text)
+{
+    MessageText message;
+    message.text = QString::fromLatin1(text);
+    const QLatin1String name(key);
+    if (name.startsWith(QLatin1String("info")))
+        message.grade = MessageText::gradeInfo;
+    else if (name.startsWith(QLatin1String("warn")))
+        message.grade = MessageText::gradeWarning;
+    else if (name.startsWith(QLatin1String("err")))
+        message.grade = MessageText::gradeError;
+    else
+        message.grade = MessageText::gradeGroup;
+    return message;
+}
+
+template <class Row>
+void take(MessageTexts* messages, const Row* (*rowOf)(int))
+{
+    for (int i = 0; rowOf(i) != nullptr; ++i)
+        messages->insert(QString::fromLatin1(rowOf(i)->key), messageText(rowOf(i)->key, rowOf(i)->text));
+}
+
+} // namespace
+
+MessageTexts messagesOfPage(const QString& pageId)
+{
+    MessageTexts messages;
+    const auto is = [&](const char* id) { return pageId.compare(QLatin1String(id), Qt::CaseInsensitive) == 0; };
+    if (is("asmFeMessages")) {
+        take(&messages, nsModAsmFe::msgText);
+        take(&messages, nsModAsmFe::msgGrpText);
+    }
+    for (const nsProc::ProcTable* table : nsProc::procTables()) {
+        if (is(table->asmHelpPage))
+            take(&messages, nsProc::asmMsg);
+        if (is(table->simHelpPage))
+            take(&messages, nsProc::simMsg);
+    }
+    return messages;
+}
+
+QStringList messagePages()
+{
+    QStringList ids{QStringLiteral("asmFeMessages")};
+    for (const nsProc::ProcTable* table : nsProc::procTables())
+        ids << QString::fromLatin1(table->asmHelpPage) << QString::fromLatin1(table->simHelpPage);
+    return ids;
+}
+
+} // namespace nsHelpBuild
