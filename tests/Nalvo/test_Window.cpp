@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 
 namespace {
@@ -173,6 +174,9 @@ TEST_F(MainWindowFixture, ExitIsTheOneOperationForScriptsAndRunsNoExitPhase)
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(QFile::exists(settingsFile()));
     EXPECT_NE(module<ModActionHookIf>(), nullptr);
+    // Until the application's own loop has run, dialogs of the other tests would end at once.
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    QApplication::exec();
 }
 
 TEST_F(MainWindowFixture, AClientOfTheProjectIsCaughtUpWhenItComesAndWhenItLeaves)
