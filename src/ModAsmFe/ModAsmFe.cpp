@@ -3,6 +3,7 @@
 #include "AsmFeConfigPage.h"
 #include "AsmFeFileHndlr.h"
 #include "AsmFeStatusBar.h"
+#include "AsmScriptApi.h"
 #include "FilePath.h"
 
 #include "EquListView.h"
@@ -10,6 +11,7 @@
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
 
 namespace nsModAsmFe {
 
@@ -63,6 +65,8 @@ void ModAsmFe::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
     m_editorFeed.setupSupportMenuBasic(modEditorHook);
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(new AsmScriptApi(this), QStringLiteral("assembler"));
 }
 
 void ModAsmFe::modExitIntermod()
