@@ -175,15 +175,16 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
     if (m_busy != nullptr)
         m_busy->rests();
     const QPointer<ModAsmFe> self(this);
+    const QString project = modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName());
     const bool allowed = ConsentQuestion::ask(
         tr("Output files outside of the project"),
         tr("The project \"%1\" wants to write files outside of its folder. What is in them now will be lost.\n\nShall "
            "this run and later ones of the project write them?")
             .arg(modPrjHook->prjFileName()),
         unknown.join('\n'));
-    // Program or project may have been closed under the question.
-    if (self && modPrjHook != nullptr && modPrjHook->isValid()) {
-        ProjectConsent kept = consent();
+    // The program may have been closed under the question. The answer is about the project that was open then.
+    if (self) {
+        ProjectConsent kept(modCfgAppHook, project);
         for (const QString& file : qAsConst(unknown))
             kept.setAnswer(ProjectConsent::kindOutput, {file}, allowed);
     }
