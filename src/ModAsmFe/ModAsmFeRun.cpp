@@ -160,6 +160,9 @@ ProjectConsent ModAsmFe::consent() const
 /// anywhere.
 QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
 {
+    // Without a window there is nobody to ask: whoever has put the modules together without one answers for it.
+    if (modGuiHook == nullptr)
+        return {};
     const ProjectConsent known = consent();
     QStringList refused;
     QStringList unknown;

@@ -21,8 +21,8 @@ const int gap = 8;
 const int showInterval = 10; ///< milliseconds between two slices of output
 const int outputStretch = 3; ///< share of the width, against that of the fields
 const int fieldsStretch = 2;
-const int outputColumns = 24; ///< characters that the output shows at the least
-const int fieldColumns = 12;
+const int outputColumns = 16; ///< characters that the output shows at the least
+const int fieldColumns = 8;
 
 /// How a wait ended; numbers that nobody else ends a loop with.
 enum eWait_t { waitFinished = 0x53590001, waitTimeout = 0x53590002 };
