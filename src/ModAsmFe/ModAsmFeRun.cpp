@@ -160,8 +160,9 @@ ProjectConsent ModAsmFe::consent() const
 /// anywhere.
 QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
 {
-    // Without a window there is nobody to ask: whoever has put the modules together without one answers for it.
-    if (modGuiHook == nullptr)
+    // Without a window there is nobody to ask, and without settings no answer: whoever has put the modules together
+    // like this answers for it.
+    if (modGuiHook == nullptr || modCfgAppHook == nullptr)
         return {};
     const ProjectConsent known = consent();
     QStringList refused;

@@ -265,6 +265,8 @@ protected:
                 if (!enablesOthers(widget) && !valueOf(widget).isNull())
                     change(widget);
             }
+            // The last ones first: they depend on those before them.
+            std::reverse(last.begin(), last.end());
             for (QCheckBox* box : last)
                 change(box);
         }

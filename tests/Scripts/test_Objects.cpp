@@ -51,7 +51,7 @@ TEST_F(ScriptWindow, everyObjectHasItsOperations)
 
 TEST_F(ScriptWindow, messagesAreShown)
 {
-    ASSERT_TRUE(run("msg.openMessageGroup('group'); msg.showInfoMessage('info');\n"
+    ASSERT_TRUE(run("msg.clearMessages(); msg.openMessageGroup('group'); msg.showInfoMessage('info');\n"
                     "msg.showWarningMessage('warning', 'pageid://asmFeMessages#key'); msg.showErrorMessage('error');\n"
                     "msg.closeMessageGroup(true);"));
     EXPECT_EQ(messageTexts(), QStringList({"group", "info", "warning", "error", "Done"}));
