@@ -13,13 +13,22 @@
 #include "ModSyscallHookIf.h"
 #include "MyBusyCursor.h"
 #include "NaviTag.h"
+#include "SyscallEvent.h"
+
+#include <algorithm>
 
 namespace nsModAsmFe {
 
 void ModAsmFe::assemble(eAssembleEvent_t event)
 {
-    if (m_assembler.isRunning() || modPrjHook == nullptr || !modPrjHook->isValid())
+    if (modPrjHook == nullptr || !modPrjHook->isValid())
         return;
+    if (m_assembler.isRunning()) {
+        // What the user saves while an external program runs is assembled when that has ended.
+        if (m_programsRun)
+            m_missedEvent = std::max(m_missedEvent, int(event));
+        return;
+    }
     MyBusyCursor busy;
     m_busy = &busy;
     if (m_actions != nullptr) {
@@ -28,6 +37,19 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     }
     m_assembler.run(modSourcesHook != nullptr ? modSourcesHook->files() : QStringList(), projectInfo(), event);
     m_busy = nullptr;
+    // Later, so that runs that each cause the next one leave the user a way to stop them.
+    if (m_missedEvent != nothingMissed)
+        QMetaObject::invokeMethod(
+            this, [this] { assembleMissed(); }, Qt::QueuedConnection);
+}
+
+void ModAsmFe::assembleMissed()
+{
+    if (m_missedEvent == nothingMissed)
+        return;
+    const auto missed = static_cast<eAssembleEvent_t>(m_missedEvent);
+    m_missedEvent = nothingMissed;
+    assemble(missed);
 }
 
 AsmProjectInfo ModAsmFe::projectInfo() const
@@ -138,6 +160,10 @@ ProjectConsent ModAsmFe::consent() const
 /// anywhere.
 QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
 {
+    // Without a window there is nobody to ask, and without settings no answer: whoever has put the modules together
+    // like this answers for it.
+    if (modGuiHook == nullptr || modCfgAppHook == nullptr)
+        return {};
     const ProjectConsent known = consent();
     QStringList refused;
     QStringList unknown;
@@ -150,16 +176,19 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
     }
     if (unknown.isEmpty())
         return refused;
+    if (m_busy != nullptr)
+        m_busy->rests();
     const QPointer<ModAsmFe> self(this);
+    const QString project = modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName());
     const bool allowed = ConsentQuestion::ask(
         tr("Output files outside of the project"),
         tr("The project \"%1\" wants to write files outside of its folder. What is in them now will be lost.\n\nShall "
            "this run and later ones of the project write them?")
             .arg(modPrjHook->prjFileName()),
         unknown.join('\n'));
-    // Program or project may have been closed under the question.
-    if (self && modPrjHook != nullptr && modPrjHook->isValid()) {
-        ProjectConsent kept = consent();
+    // The program may have been closed under the question. The answer is about the project that was open then.
+    if (self) {
+        ProjectConsent kept(modCfgAppHook, project);
         for (const QString& file : qAsConst(unknown))
             kept.setAnswer(ProjectConsent::kindOutput, {file}, allowed);
     }
@@ -188,7 +217,15 @@ bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)
         m_msgHndlr->signMsg(infoIODevNothingToDoForWriteEvent);
         return true;
     }
-    return modSyscallHook == nullptr || modSyscallHook->run(sysCallEvent);
+    if (modSyscallHook == nullptr)
+        return true;
+    // While a program runs, the user goes on working.
+    if (m_busy != nullptr)
+        m_busy->rests();
+    m_programsRun = true;
+    const bool goesOn = modSyscallHook->run(sysCallEvent);
+    m_programsRun = false;
+    return goesOn;
 }
 
 void ModAsmFe::refreshEquList()

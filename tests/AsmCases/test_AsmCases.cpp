@@ -73,6 +73,8 @@ const QSet<QString> unreachable = {
     "errMMPageCrossReference",
     // A device of the sources has a kind, and so has the default one.
     "errTargetNoType",
+    // Only who runs the assembler refuses a file; a case has nobody who does.
+    "errTargetOutside",
     // No stage opens this group.
     "grpMapMemToIODev",
 };

@@ -129,7 +129,7 @@ protected:
         if (auto* files = qobject_cast<QListWidget*>(widget))
             return rowsOf(files);
         auto* edit = qobject_cast<QLineEdit*>(widget);
-        return edit != nullptr && !isPartOfBox(widget) ? edit->text() : QString();
+        return edit != nullptr && !edit->isReadOnly() && !isPartOfBox(widget) ? edit->text() : QString();
     }
     static bool isPartOfBox(QWidget* widget)
     {
@@ -241,18 +241,34 @@ protected:
         files->setCurrentRow(0);
         QTest::keyClick(files, Qt::Key_Delete);
     }
+    static bool enablesOthers(QWidget* widget)
+    {
+        const QString name = widget->objectName();
+        return name == "targetEnable" || name == "proxyType" || name.startsWith("syscallEn") ||
+               name.startsWith("syscallBlocking");
+    }
     void changeEverything() const
     {
         for (const QString& title : titles()) {
             ASSERT_TRUE(config()->selectDialogPageByTitle(title));
-            // What is enabled here enables the rest.
-            const QList<QCheckBox*> first = page(title)->findChildren<QCheckBox*>("targetEnable");
-            for (QCheckBox* box : first)
-                change(box);
+            // What is enabled here enables the rest, and what is switched off disables it.
+            QList<QCheckBox*> last;
+            for (QCheckBox* box : page(title)->findChildren<QCheckBox*>()) {
+                if (enablesOthers(box) && box->isChecked())
+                    last.append(box);
+                else if (enablesOthers(box))
+                    change(box);
+            }
+            if (auto* proxy = page(title)->findChild<QComboBox*>("proxyType"))
+                proxy->setCurrentIndex(proxy->findText("HTTP Proxy", Qt::MatchStartsWith));
             for (QWidget* widget : page(title)->findChildren<QWidget*>()) {
-                if (widget->objectName() != "targetEnable" && !valueOf(widget).isNull())
+                if (!enablesOthers(widget) && !valueOf(widget).isNull())
                     change(widget);
             }
+            // The last ones first: they depend on those before them.
+            std::reverse(last.begin(), last.end());
+            for (QCheckBox* box : last)
+                change(box);
         }
     }
     static void expectEachDiffers(const QStringList& a, const QStringList& b)

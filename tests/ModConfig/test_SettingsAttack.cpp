@@ -272,7 +272,9 @@ TEST_F(SettingsAttack, RubbishTypedIntoEveryField)
         else if (auto* plain = qobject_cast<QPlainTextEdit*>(widget))
             plain->insertPlainText(text + "\n" + text);
         else if (auto* edit = qobject_cast<QLineEdit*>(widget))
-            edit->insert(isPartOfBox(edit) ? QString() : edit->objectName() == "pathEdit" ? file : text);
+            edit->insert(isPartOfBox(edit) || edit->isReadOnly() ? QString()
+                         : edit->objectName() == "pathEdit"      ? file
+                                                                 : text);
     }
     Snapshot applied = snapshot();
     keepShownProcessor(&applied);

@@ -174,9 +174,9 @@ TEST_F(MainWindowFixture, ExitIsTheOneOperationForScriptsAndRunsNoExitPhase)
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(QFile::exists(settingsFile()));
     EXPECT_NE(module<ModActionHookIf>(), nullptr);
-    // Until an event loop has begun and ended, the dialogs of other tests would end at once.
+    // It keeps loops from beginning, such as those of dialogs, up to the end of the next one of the application.
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);
-    QApplication::exec();
+    QCoreApplication::exec();
 }
 
 TEST_F(MainWindowFixture, AClientOfTheProjectIsCaughtUpWhenItComesAndWhenItLeaves)

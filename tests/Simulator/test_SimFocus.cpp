@@ -59,13 +59,13 @@ TEST_F(SimFocus, panelsAndPagesStandUnderTheirNames)
     editor()->newFile("; new");
     EXPECT_EQ(names("dockLeft"), QStringList("Source Navigator"));
     EXPECT_EQ(names("dockRight"), QStringList({"EQU list", "IO device map viewer"}));
-    EXPECT_EQ(names("dockBottom"), QStringList("Messages"));
+    EXPECT_EQ(names("dockBottom"), QStringList({"External program 1", "Messages"}));
     trigger(Action::eActionEnable);
     EXPECT_EQ(names("dockLeft"), QStringList({"Processor core", "Source Navigator"}));
     EXPECT_EQ(names("dockRight"), QStringList({"EQU list", "IO device map viewer", "Processor ports"}));
-    EXPECT_EQ(names("dockBottom"), QStringList({"Messages", "Processor callstack"}));
+    EXPECT_EQ(names("dockBottom"), QStringList({"External program 1", "Messages", "Processor callstack"}));
     emit window->findChild<nsProc::ProcSimIO*>()->wavesRequested();
-    EXPECT_EQ(names("dockBottom"), QStringList({"Messages", "Processor callstack", "Waves"}));
+    EXPECT_EQ(names("dockBottom"), QStringList({"External program 1", "Messages", "Processor callstack", "Waves"}));
     module<nsModConfig::ModConfig>()->openDialog();
     EXPECT_EQ(names("widgetAreaTabs"), QStringList({"Configuration", "Untitled", "main.psm"}));
     EXPECT_EQ(window->windowTitle(), "Nalvo - case.nalvo ( Title: , Project version: )");
