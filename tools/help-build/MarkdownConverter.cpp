@@ -58,6 +58,34 @@ QString plainText(cmark_node* top)
     return text;
 }
 
+/// Whether a node of this kind ends a word and a sentence before it.
+bool isBlock(cmark_node* node)
+{
+    const cmark_node_type type = cmark_node_get_type(node);
+    return type == CMARK_NODE_PARAGRAPH || type == CMARK_NODE_ITEM || type == CMARK_NODE_HEADING ||
+           QByteArray(cmark_node_get_type_string(node)).startsWith("table");
+}
+
+/// What is written in words: the text without code, but with a blank in its place.
+QString proseOf(cmark_node* top)
+{
+    QString text;
+    cmark_iter* it = cmark_iter_new(top);
+    cmark_event_type event = CMARK_EVENT_NONE;
+    while ((event = cmark_iter_next(it)) != CMARK_EVENT_DONE) {
+        cmark_node* node = cmark_iter_get_node(it);
+        const cmark_node_type type = cmark_node_get_type(node);
+        if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_TEXT)
+            text += QString::fromUtf8(cmark_node_get_literal(node));
+        else if (type == CMARK_NODE_CODE || type == CMARK_NODE_SOFTBREAK || type == CMARK_NODE_LINEBREAK)
+            text += ' ';
+        else if (event == CMARK_EVENT_EXIT && isBlock(node))
+            text += '\n';
+    }
+    cmark_iter_free(it);
+    return text;
+}
+
 /// HTML that stands for itself between the blocks of the page.
 cmark_node* htmlBlock(const QString& html)
 {
@@ -81,12 +109,17 @@ QString takeAnchor(cmark_node* heading)
     return match.captured(1);
 }
 
+QString gradeName(MessageText::eGrade_t grade)
+{
+    static const char* const grades[] = {"Group", "Info", "Warning", "Error"};
+    return QString::fromLatin1(grades[grade]);
+}
+
 QString messageHtml(const MessageText& message)
 {
     static const char* const classes[] = {"group", "info", "warning", "error"};
-    static const char* const grades[] = {"Group", "Info", "Warning", "Error"};
     return QStringLiteral("<p class=\"message %1\"><span>%2</span> %3</p>")
-        .arg(QLatin1String(classes[message.grade]), QLatin1String(grades[message.grade]), message.text.toHtmlEscaped());
+        .arg(QLatin1String(classes[message.grade]), gradeName(message.grade), message.text.toHtmlEscaped());
 }
 
 /// Goes over the top-level blocks of a page.
@@ -121,11 +154,34 @@ private:
             return;
         }
         QString& text = m_page->anchors.isEmpty() ? m_page->intro : m_page->anchors.last().text;
-        text += plainText(node);
+        text += exampleLabel(node) + plainText(node);
+        m_afterProvoking = isProvoking(node);
+        m_page->prose += proseOf(node);
         if (type == CMARK_NODE_CODE_BLOCK)
             visitExample(node);
         else if (type == CMARK_NODE_PARAGRAPH)
             visitParagraph(node);
+        else if (QByteArray(cmark_node_get_type_string(node)) == "table")
+            wrap(node, "scroll");
+    }
+
+    /// In an entry of a message: does this example provoke it?
+    bool isProvoking(cmark_node* node) const
+    {
+        if (node == nullptr || cmark_node_get_type(node) != CMARK_NODE_CODE_BLOCK || m_page->anchors.isEmpty())
+            return false;
+        const QString info = QString::fromUtf8(cmark_node_get_fence_info(node));
+        return info.contains(' ' + m_page->anchors.last().title + '@');
+    }
+
+    /// What takes the place of the colours of an example where there is only text.
+    QString exampleLabel(cmark_node* node) const
+    {
+        if (isProvoking(node))
+            return QStringLiteral("Provokes it:\n");
+        const bool isMended = m_afterProvoking && cmark_node_get_type(node) == CMARK_NODE_CODE_BLOCK &&
+                              QByteArray(cmark_node_get_fence_info(node)).startsWith("psm");
+        return isMended ? QStringLiteral("Mended:\n") : QString();
     }
 
     void visitHeading(cmark_node* node)
@@ -141,8 +197,11 @@ private:
         const auto message = m_messages.constFind(anchor.title);
         if (message != m_messages.constEnd()) {
             cmark_node_insert_after(node, htmlBlock(messageHtml(*message)));
-            anchor.text = message->text + QStringLiteral("\n\n");
+            anchor.text = gradeName(message->grade) + QStringLiteral(": ") + message->text + QStringLiteral("\n\n");
         }
+        // The name of a message, an instruction or a directive is no word for a spelling checker.
+        if (message == m_messages.constEnd() && anchor.title != anchor.title.toUpper())
+            m_page->prose += proseOf(node);
         m_page->anchors.append(anchor);
     }
 
@@ -183,6 +242,8 @@ private:
             if (cmark_node_get_type(node) == CMARK_NODE_HTML_INLINE)
                 m_page->problems.append(QStringLiteral("holds HTML: ") +
                                         QString::fromUtf8(cmark_node_get_literal(node)));
+            if (cmark_node_get_type(node) == CMARK_NODE_CODE_BLOCK)
+                takeExample(node);
             if (cmark_node_get_type(node) == CMARK_NODE_LINK)
                 visitLink(node);
             else if (cmark_node_get_type(node) == CMARK_NODE_IMAGE)
@@ -191,9 +252,26 @@ private:
         cmark_iter_free(it);
     }
 
+    void takeExample(cmark_node* node)
+    {
+        HelpExample example;
+        example.info = QString::fromUtf8(cmark_node_get_fence_info(node));
+        example.text = QString::fromUtf8(cmark_node_get_literal(node));
+        example.line = m_page->headLines + cmark_node_get_start_line(node);
+        static const QStringList kinds{"psm", "session", "text", "sh", "vhdl", "verilog", "js", "ini"};
+        if (!kinds.contains(example.info.section(' ', 0, 0)))
+            m_page->problems.append(QStringLiteral("line %1: an example of unknown kind: \"%2\"")
+                                        .arg(QString::number(example.line), example.info));
+        m_page->examples.append(example);
+    }
+
     void visitLink(cmark_node* node)
     {
         const QString url = QString::fromUtf8(cmark_node_get_url(node));
+        if (url.startsWith('#')) {
+            m_page->links.append({m_page->id, QString::fromUtf8(QByteArray::fromPercentEncoding(url.mid(1).toUtf8()))});
+            return;
+        }
         if (!url.startsWith(QLatin1String("pageid:"))) {
             m_page->webLinks.append(url);
             return;
@@ -222,6 +300,7 @@ private:
 
     HelpPage* m_page;
     const MessageTexts& m_messages;
+    bool m_afterProvoking = false; ///< the block before provokes the message of the entry
 };
 
 } // namespace

@@ -60,4 +60,10 @@ QStringList messagePages()
     return ids;
 }
 
+QStringList entryPages()
+{
+    return messagePages() + QStringList{QStringLiteral("syscallMessages"), QStringLiteral("projectMessages"),
+                                        QStringLiteral("otherMessages"), QStringLiteral("errMsgsInternalError")};
+}
+
 } // namespace nsHelpBuild
