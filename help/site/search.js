@@ -70,6 +70,8 @@ function nalvoExcerpt(text, query) {
     if (begin > at || at < 0)
         begin = 0;
     var part = text.substr(begin, length);
+    if (begin + length < text.length)
+        part = part.substr(0, Math.max(part.lastIndexOf(" "), 1));
     return (begin > 0 ? "... " : "") + part + (begin + length < text.length ? " ..." : "");
 }
 

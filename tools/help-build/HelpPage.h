@@ -14,6 +14,7 @@ struct HelpAnchor
     QString title;
     bool isWord = false; ///< a word that a reader looks up: a message key, a mnemonic, a directive
     QString text;        ///< what stands there up to the next heading, as plain text
+    QString above;       ///< the heading that it is below; empty for those right below the title
 };
 
 /// A link from a page to another one, or to a place in it.

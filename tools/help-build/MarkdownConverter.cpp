@@ -6,6 +6,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -25,6 +26,23 @@ struct NodeDeleter
 };
 using NodePtr = std::unique_ptr<cmark_node, NodeDeleter>;
 
+/// Code as it stands in a text: set apart, and indented by four blanks instead of those that all its lines have.
+QString indented(const QString& code)
+{
+    QStringList lines = code.split('\n');
+    while (!lines.isEmpty() && lines.last().trimmed().isEmpty())
+        lines.removeLast();
+    int common = code.size();
+    for (const QString& line : qAsConst(lines)) {
+        if (!line.trimmed().isEmpty())
+            common = std::min(common, int(line.indexOf(line.trimmed().at(0))));
+    }
+    QString text = QStringLiteral("\n");
+    for (const QString& line : qAsConst(lines))
+        text += QStringLiteral("    ") + line.mid(common) + '\n';
+    return text + '\n';
+}
+
 /// The characters that a node and those below it show.
 QString plainText(cmark_node* top)
 {
@@ -37,9 +55,7 @@ QString plainText(cmark_node* top)
         if (event == CMARK_EVENT_ENTER && (type == CMARK_NODE_TEXT || type == CMARK_NODE_CODE))
             text += QString::fromUtf8(cmark_node_get_literal(node));
         else if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_CODE_BLOCK)
-            text += QStringLiteral("\n    ") +
-                    QString::fromUtf8(cmark_node_get_literal(node)).trimmed().replace('\n', QStringLiteral("\n    ")) +
-                    QStringLiteral("\n\n");
+            text += indented(QString::fromUtf8(cmark_node_get_literal(node)));
         else if (type == CMARK_NODE_SOFTBREAK || type == CMARK_NODE_LINEBREAK)
             text += event == CMARK_EVENT_ENTER ? QStringLiteral(" ") : QString();
         else if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_ITEM)
@@ -191,6 +207,10 @@ private:
         anchor.title = plainText(node).trimmed();
         static const QRegularExpression word(QStringLiteral("^#?[A-Za-z][A-Za-z0-9_]*$"));
         anchor.isWord = word.match(anchor.title).hasMatch() && cmark_node_get_heading_level(node) == 2;
+        if (cmark_node_get_heading_level(node) > 2)
+            anchor.above = m_section;
+        else
+            m_section = anchor.title;
         if (anchor.name.isEmpty())
             anchor.name = MarkdownConverter::anchorOf(anchor.title);
         cmark_node_insert_before(node, htmlBlock(QStringLiteral("<a id=\"%1\"></a>").arg(anchor.name.toHtmlEscaped())));
@@ -300,6 +320,7 @@ private:
 
     HelpPage* m_page;
     const MessageTexts& m_messages;
+    QString m_section;             ///< the last heading right below the title
     bool m_afterProvoking = false; ///< the block before provokes the message of the entry
 };
 

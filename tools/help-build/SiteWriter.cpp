@@ -76,8 +76,11 @@ QByteArray SiteWriter::searchIndex(const QVector<HelpPage>& pages)
     for (const HelpPage& page : pages) {
         const QString words = (page.keywords + QStringList(page.id)).join(QStringLiteral(", "));
         places.append(place(page.file(), page.title, QString(), words, page.intro));
-        for (const HelpAnchor& anchor : page.anchors)
-            places.append(place(urlOf(page, anchor), anchor.title, page.title, anchor.name, anchor.text));
+        for (const HelpAnchor& anchor : page.anchors) {
+            const QString where =
+                anchor.above.isEmpty() ? page.title : page.title + QStringLiteral(", ") + anchor.above;
+            places.append(place(urlOf(page, anchor), anchor.title, where, anchor.name, anchor.text));
+        }
     }
     return "var nalvoIndex = " + QJsonDocument(places).toJson(QJsonDocument::Compact) + ";\n";
 }

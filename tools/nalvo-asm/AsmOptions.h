@@ -22,8 +22,10 @@ struct AsmOptions : nsBatch::BatchOptions
     bool allowOutside = false; ///< outputs that a source names may lie outside of the project's folder
     QString listingFile;       ///< empty: none; "-": standard output
     QString symbolsFile;       ///< empty: none; "-": standard output
+    QString explainedKey;      ///< the message to explain; empty: a project is assembled
 
 private:
+    bool readExplained(const QCommandLineParser& parser);
     bool readChoices(const QCommandLineParser& parser);
     bool readFiles(const QCommandLineParser& parser);
 };
