@@ -82,18 +82,23 @@ bool isBlock(cmark_node* node)
            QByteArray(cmark_node_get_type_string(node)).startsWith("table");
 }
 
-/// What is written in words: the text without code, but with a blank in its place.
+/// What is written in words: the text without code and without bold parts, which are names as they stand on the
+/// screen; a blank takes their place.
 QString proseOf(cmark_node* top)
 {
     QString text;
+    int bold = 0;
     cmark_iter* it = cmark_iter_new(top);
     cmark_event_type event = CMARK_EVENT_NONE;
     while ((event = cmark_iter_next(it)) != CMARK_EVENT_DONE) {
         cmark_node* node = cmark_iter_get_node(it);
         const cmark_node_type type = cmark_node_get_type(node);
-        if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_TEXT)
+        if (type == CMARK_NODE_STRONG)
+            bold += event == CMARK_EVENT_ENTER ? 1 : -1;
+        if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_TEXT && bold == 0)
             text += QString::fromUtf8(cmark_node_get_literal(node));
-        else if (type == CMARK_NODE_CODE || type == CMARK_NODE_SOFTBREAK || type == CMARK_NODE_LINEBREAK)
+        else if (type == CMARK_NODE_STRONG || type == CMARK_NODE_CODE || type == CMARK_NODE_SOFTBREAK ||
+                 type == CMARK_NODE_LINEBREAK)
             text += ' ';
         else if (event == CMARK_EVENT_EXIT && isBlock(node))
             text += '\n';
@@ -150,15 +155,13 @@ public:
 
     void run(cmark_node* document)
     {
+        // First what the author wrote, as the blocks are given HTML around them.
+        visitAll(document);
         cmark_node* next = nullptr;
         for (cmark_node* node = cmark_node_first_child(document); node != nullptr; node = next) {
             next = cmark_node_next(node);
-            if (cmark_node_get_type(node) == CMARK_NODE_HTML_BLOCK)
-                m_page->problems.append(QStringLiteral("holds HTML: ") +
-                                        QString::fromUtf8(cmark_node_get_literal(node)));
             visit(node);
         }
-        visitInlines(document);
     }
 
 private:
@@ -251,7 +254,7 @@ private:
             wrap(node, "wrong");
     }
 
-    void visitInlines(cmark_node* document)
+    void visitAll(cmark_node* document)
     {
         cmark_iter* it = cmark_iter_new(document);
         cmark_event_type event = CMARK_EVENT_NONE;
@@ -259,14 +262,15 @@ private:
             cmark_node* node = cmark_iter_get_node(it);
             if (event != CMARK_EVENT_ENTER)
                 continue;
-            if (cmark_node_get_type(node) == CMARK_NODE_HTML_INLINE)
+            const cmark_node_type type = cmark_node_get_type(node);
+            if (type == CMARK_NODE_HTML_INLINE || type == CMARK_NODE_HTML_BLOCK)
                 m_page->problems.append(QStringLiteral("holds HTML: ") +
-                                        QString::fromUtf8(cmark_node_get_literal(node)));
-            if (cmark_node_get_type(node) == CMARK_NODE_CODE_BLOCK)
+                                        QString::fromUtf8(cmark_node_get_literal(node)).trimmed());
+            else if (type == CMARK_NODE_CODE_BLOCK)
                 takeExample(node);
-            if (cmark_node_get_type(node) == CMARK_NODE_LINK)
+            else if (type == CMARK_NODE_LINK)
                 visitLink(node);
-            else if (cmark_node_get_type(node) == CMARK_NODE_IMAGE)
+            else if (type == CMARK_NODE_IMAGE)
                 visitPicture(node);
         }
         cmark_iter_free(it);
