@@ -1,5 +1,4 @@
 #include "Nalvo.h"
-#include "Release.h"
 
 #include <QApplication>
 
@@ -14,7 +13,6 @@ int main(int argc, char** argv)
     if (application == nullptr)
         return -1;
     QApplication::setStyle(QStringLiteral("fusion"));
-    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
     static Nalvo* const window = new (std::nothrow) Nalvo(argc, argv);
     if (window == nullptr)
         return -1;

@@ -172,7 +172,9 @@ QString RecoveryStore::put(Entry entry, const QByteArray& text, QString* error)
         entry.id = m_instance + QLatin1Char('-') + QString::number(++m_serial);
     entry.time = QDateTime::currentDateTimeUtc();
     const QString base = m_folder + QLatin1Char('/') + entry.id;
-    if (!SafeFile::replace(base + (entry.isNew ? newSuffix : seenSuffix), header(entry) + text, error))
+    // The text can be one that others may not read.
+    if (!SafeFile::replace(base + (entry.isNew ? newSuffix : seenSuffix), header(entry) + text, error,
+                           SafeFile::eRightsOwner))
         return QString();
     QFile::remove(base + (entry.isNew ? seenSuffix : newSuffix));
     return entry.id;

@@ -19,6 +19,7 @@
 namespace {
 
 const int blockSize = 16 * 1024;
+const mode_t ownerOnly = S_IRUSR | S_IWUSR;
 const char* const accessList = "system.posix_acl_access";
 
 SafeFile::Watch& watch()
@@ -95,8 +96,9 @@ bool forbidsNewFiles(int error)
 
 } // namespace
 
-SafeFile::SafeFile(const QString& path)
+SafeFile::SafeFile(const QString& path, eRights_t rights)
     : m_target(pathWithoutLinks(path))
+    , m_rights(rights)
 {
 }
 
@@ -158,7 +160,7 @@ bool SafeFile::createAsideIn(const QString& folder)
         m_aside = folder + QLatin1String("/.nalvo-") + QString::number(number, 36);
         error = run(eStepCreate, [this] {
             m_fd = ::open(QFile::encodeName(m_aside).constData(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC,
-                          m_exists ? 0600 : 0666);
+                          m_exists || m_rights == eRightsOwner ? 0600 : 0666);
             return m_fd;
         });
     }
@@ -213,7 +215,7 @@ bool SafeFile::commit()
 bool SafeFile::takeAttributes()
 {
     if (!m_exists)
-        return true;
+        return m_rights != eRightsOwner || ::fchmod(m_fd, ownerOnly) == 0;
     const QByteArray name = QFile::encodeName(m_target);
     struct stat old = {};
     struct stat now = {};
@@ -223,6 +225,8 @@ bool SafeFile::takeAttributes()
                if ((old.st_uid != now.st_uid || old.st_gid != now.st_gid) &&
                    ::fchown(m_fd, old.st_uid, old.st_gid) != 0)
                    return -1;
+               if (m_rights == eRightsOwner)
+                   return ::fchmod(m_fd, ownerOnly);
                if (::fchmod(m_fd, old.st_mode & 07777) != 0)
                    return -1;
                errno = copyAccessList(name, m_fd);
@@ -266,6 +270,11 @@ bool SafeFile::writeInPlace()
     const int target = ::open(QFile::encodeName(m_target).constData(), O_RDWR | O_CLOEXEC);
     if (target < 0)
         return fail(errno);
+    if (m_rights == eRightsOwner && ::fchmod(target, ownerOnly) != 0) {
+        const int error = errno;
+        ::close(target);
+        return fail(error);
+    }
     RecoveryStore store;
     RecoveryStore spare(RecoveryStore::spareFolder());
     RecoveryStore::Entry entry;
@@ -353,9 +362,9 @@ void SafeFile::close()
         QIODevice::close();
 }
 
-bool SafeFile::replace(const QString& path, const QByteArray& bytes, QString* error)
+bool SafeFile::replace(const QString& path, const QByteArray& bytes, QString* error, eRights_t rights)
 {
-    SafeFile file(path);
+    SafeFile file(path, rights);
     const bool success = file.open() && file.write(bytes) == bytes.size() && file.commit();
     if (!success && error != nullptr)
         *error = file.errorString();

@@ -40,8 +40,14 @@ public:
     /// Asked before each step. @return 0, or the errno with which the step is to fail
     using Watch = std::function<int(eStep_t)>;
 
+    /// Who may read the file.
+    enum eRights_t {
+        eRightsKept,  ///< as before; of a new file, whom the system lets
+        eRightsOwner, ///< its owner alone (mode 0600), whatever the rights were before; at no time anyone else
+    };
+
     /// @param path existing or not; of a link, the target is written
-    explicit SafeFile(const QString& path);
+    explicit SafeFile(const QString& path, eRights_t rights = eRightsKept);
     /// Without commit() the target is unchanged.
     ~SafeFile() override;
 
@@ -57,7 +63,7 @@ public:
     void close() override;
 
     /// open(), write() and commit() in one call. @param error why it failed, may be null
-    static bool replace(const QString& path, const QByteArray& bytes, QString* error);
+    static bool replace(const QString& path, const QByteArray& bytes, QString* error, eRights_t rights = eRightsKept);
 
     /// For tests: makes steps fail, or ends the process at one. An empty function removes the watch.
     static void setWatch(Watch watch);
@@ -82,6 +88,7 @@ private:
     QString m_target; ///< absolute, without links
     QString m_aside;  ///< the file that is written; empty: none
     int m_fd = -1;    ///< of m_aside
+    eRights_t m_rights = eRightsKept;
     bool m_exists = false;
     bool m_inPlace = false;
     bool m_failed = false;

@@ -65,7 +65,9 @@ void ModCfgApp::saveAppConfig()
     QString reason;
     bool success = formatSettings(&text, &reason);
     if (success) {
-        success = QDir().mkpath(QFileInfo(path).path()) && SafeFile::replace(path, text, &reason);
+        // Among the settings is the password of the proxy.
+        success =
+            QDir().mkpath(QFileInfo(path).path()) && SafeFile::replace(path, text, &reason, SafeFile::eRightsOwner);
         if (!success && reason.isEmpty())
             reason = tr("The folder can not be made.");
     }

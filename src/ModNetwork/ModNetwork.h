@@ -6,11 +6,15 @@
 #include "ModNetworkHookIf.h"
 #include "ModNetworkPluginIf.h"
 #include "ModPluginIf.h"
+#include "NetworkConfig.h"
 #include "PluginList.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace nsModNetwork {
+
+class NetworkConfigPage;
 
 /// The user's network settings, for all who send something.
 class ModNetwork : public QObject,
@@ -18,19 +22,26 @@ class ModNetwork : public QObject,
                    public ModPluginIf,
                    public ModCfgAppPluginIf,
                    public ModMsgPluginIf,
-                   public ModConfigPluginIfDflt
+                   public ModConfigPluginIfDflt,
+                   public NetworkConfig
 {
     Q_OBJECT
 
 public:
     explicit ModNetwork(QObject* parent = nullptr);
+    ~ModNetwork() override;
 
     // ModNetworkHookIf
     QNetworkProxy proxy() override;
 
     // ModCfgAppPluginIf
-    void rdAppCfg() override {}
-    void wrAppCfg() override {}
+    void rdAppCfg() override;
+    void wrAppCfg() override;
+
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -45,6 +56,7 @@ public:
 
 private:
     PluginList<ModNetworkPluginIf> m_plugins;
+    QPointer<NetworkConfigPage> m_configPage;
 };
 
 } // namespace nsModNetwork

@@ -3,12 +3,10 @@
 #include "EditorSupportMenu.h"
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
+#include "ShippedFolder.h"
 
-#include <QCoreApplication>
-#include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
 #include <QRegExp>
 
 namespace nsModTemplates {
@@ -20,13 +18,7 @@ ModTemplates::ModTemplates(QObject* parent)
 
 QString ModTemplates::templateDir(const QString& programDir)
 {
-    // Beside the folder of an installed program, one further up, and in the source tree seen from a build tree.
-    for (const char* place : {"/../asmTemplates/", "/../../asmTemplates/", "/../../Common/asmTemplates/"}) {
-        const QString dir = QDir::cleanPath(programDir + QLatin1String(place));
-        if (QFileInfo(dir).isDir())
-            return dir;
-    }
-    return QString();
+    return ShippedFolder::find(programDir, QStringLiteral("asmTemplates"));
 }
 
 QStringList ModTemplates::scanDirectory(const QString& dir)
@@ -49,10 +41,7 @@ void ModTemplates::initTemplates(const QString& dir)
 
 void ModTemplates::initTemplates()
 {
-    // A link to the program leads to the folder that the templates were shipped with.
-    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    const QString dir = program.isEmpty() ? QCoreApplication::applicationDirPath() : QFileInfo(program).path();
-    initTemplates(templateDir(dir));
+    initTemplates(templateDir(ShippedFolder::programDir()));
 }
 
 void ModTemplates::setupSupportMenu(const QString& path)

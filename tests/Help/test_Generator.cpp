@@ -198,7 +198,7 @@ TEST(HelpMarkdown, LinksLeadToFiles)
     EXPECT_EQ(page.webLinks, QStringList({"https://e.org/", "file.md"}));
     EXPECT_THAT(page.html.toStdString(), HasSubstr("href=\"langnumbers.html\""));
     EXPECT_THAT(page.html.toStdString(), HasSubstr("href=\"x.html#Two%20words\""));
-    EXPECT_THAT(page.html.toStdString(), HasSubstr("href=\"#EQU\""));
+    EXPECT_THAT(page.html.toStdString(), HasSubstr("href=\"page.html#EQU\""));
 }
 
 TEST(HelpMarkdown, PicturesAreNamed)

@@ -93,6 +93,8 @@ protected:
             values.insert("ModGui/y", "0");
         // What docks and tool bars look like is no value for this table.
         EXPECT_FALSE(values.take("ModGui/state").isEmpty());
+        // It has one value alone.
+        EXPECT_EQ(values.take("ModSwUpdate/hadStart"), "1");
         return values;
     }
     /// Starts the program on these settings alone, and closes it.

@@ -283,7 +283,9 @@ TEST_F(SimToolOutcome, Waves)
     EXPECT_EQ(result.status, 3);
     // 80 MHz: a clock takes 12500 ps. The reads come at the clocks 2 and 10, the writes at 6 and 14.
     EXPECT_EQ(result.out, QByteArray("$date\n    1970-01-01T00:00:00Z\n$end\n"
-                                     "$version\n    Nalvo " NALVO_RELEASE "\n$end\n"
+                                     "$version\n    Nalvo " +
+                                     Release::own().text().toLatin1() +
+                                     "\n$end\n"
                                      "$timescale\n    1 ps\n$end\n"
                                      "$scope module ports $end\n"
                                      "$var wire 8 ! port_10_rd [7:0] $end\n"

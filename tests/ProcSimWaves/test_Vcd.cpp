@@ -112,17 +112,19 @@ TEST(WaveVcd, ByteForByte)
     const QByteArray text = ProcSimVcd::vcdText(data, 50e6);
     qunsetenv("SOURCE_DATE_EPOCH");
     EXPECT_EQ(text, "$date\n    2001-09-09T01:46:40Z\n$end\n"
-                    "$version\n    Nalvo " NALVO_RELEASE "\n$end\n"
-                    "$timescale\n    1 ps\n$end\n"
-                    "$scope module ports $end\n"
-                    "$var wire 8 ! port_10_wr_led [7:0] $end\n"
-                    "$var wire 8 \" port_2A_rd [7:0] $end\n"
-                    "$upscope $end\n"
-                    "$enddefinitions $end\n"
-                    "#0\n$dumpvars\nb10000001 !\nbxxxxxxxx \"\n$end\n"
-                    "#60000\nb00001111 \"\n"
-                    "#100000\nb11111111 !\n"
-                    "#180000\n");
+                    "$version\n    Nalvo " +
+                        Release::own().text().toLatin1() +
+                        "\n$end\n"
+                        "$timescale\n    1 ps\n$end\n"
+                        "$scope module ports $end\n"
+                        "$var wire 8 ! port_10_wr_led [7:0] $end\n"
+                        "$var wire 8 \" port_2A_rd [7:0] $end\n"
+                        "$upscope $end\n"
+                        "$enddefinitions $end\n"
+                        "#0\n$dumpvars\nb10000001 !\nbxxxxxxxx \"\n$end\n"
+                        "#60000\nb00001111 \"\n"
+                        "#100000\nb11111111 !\n"
+                        "#180000\n");
 }
 
 TEST(WaveVcd, WithoutValues)

@@ -3,7 +3,6 @@
 #include "ModPluginIf.h"
 #include "Nalvo.h"
 #include "Readable.h"
-#include "Release.h"
 #include "Settle.h"
 
 #include <gtest/gtest.h>
@@ -31,7 +30,6 @@ protected:
     {
         QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settingsDir());
         qputenv("XDG_DATA_HOME", folder.filePath(QStringLiteral("data")).toLocal8Bit());
-        QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
         // As in the program; for pictures at other scales (QT_SCALE_FACTOR).
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     }

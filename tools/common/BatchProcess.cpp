@@ -81,7 +81,7 @@ int runProgram(const char* program, int argc, char** argv, int (*run)(const QStr
     char* names[] = {name.data(), nullptr};
     int count = 1;
     QCoreApplication application(count, names);
-    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
+    QCoreApplication::setApplicationVersion(Release::own().text());
     QStringList arguments = {QString::fromLatin1(program)};
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -291,11 +291,9 @@ private:
 
     void visitLink(cmark_node* node)
     {
-        const QString url = QString::fromUtf8(cmark_node_get_url(node));
-        if (url.startsWith('#')) {
-            m_page->links.append({m_page->id, QString::fromUtf8(QByteArray::fromPercentEncoding(url.mid(1).toUtf8()))});
-            return;
-        }
+        QString url = QString::fromUtf8(cmark_node_get_url(node));
+        if (url.startsWith('#'))
+            url.prepend(QStringLiteral("pageid:") + m_page->id);
         if (!url.startsWith(QLatin1String("pageid:"))) {
             m_page->webLinks.append(url);
             return;

@@ -116,7 +116,7 @@ private:
     void writeHead()
     {
         append("$date\n    " + dateText() + "\n$end\n");
-        append("$version\n    Nalvo " NALVO_RELEASE "\n$end\n");
+        append("$version\n    Nalvo " + Release::own().text().toLatin1() + "\n$end\n");
         append(QByteArray("$timescale\n    ") + m_unit->text + "\n$end\n");
         append("$scope module ports $end\n");
         for (size_t index = 0; index < m_data.channels().size(); ++index)

@@ -6,6 +6,8 @@
 #include "Nalvo.h"
 
 #include <QApplication>
+#include <QFontDatabase>
+#include <QFontInfo>
 #include <QSettings>
 #include <QTextStream>
 #include <QTreeWidget>
@@ -21,6 +23,10 @@ int main(int argc, char** argv)
         if (auto* project = dynamic_cast<ModPrjHookIf*>(module))
             out << "project: " << project->prjFileName() << "\n";
     }
+    const QString fixed = QStringLiteral("DejaVu Sans Mono");
+    out << "fixed font: " << QFontInfo(QFont(fixed, 9)).family() << "\n";
+    for (const QString& style : QFontDatabase().styles(fixed))
+        out << "style: " << style << "\n";
     for (QTreeWidgetItemIterator it(window.findChild<QTreeWidget*>("msgViewer")); *it != nullptr; ++it)
         out << "message: " << (*it)->text(0) << "\n";
     return 0;
