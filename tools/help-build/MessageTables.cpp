@@ -63,7 +63,7 @@ QStringList messagePages()
 QStringList entryPages()
 {
     return messagePages() + QStringList{QStringLiteral("syscallMessages"), QStringLiteral("projectMessages"),
-                                        QStringLiteral("otherMessages"), QStringLiteral("errMsgsInternalError")};
+                                        QStringLiteral("otherMessages"), QStringLiteral("errMsgInternalError")};
 }
 
 } // namespace nsHelpBuild
