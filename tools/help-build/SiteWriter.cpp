@@ -122,6 +122,10 @@ QByteArray SiteWriter::neighbours(const QString& file) const
 
 QByteArray SiteWriter::frame(const QByteArray& title, const QString& file, const QByteArray& main) const
 {
+    // The page of the start consists of the contents.
+    const QByteArray contents = file == startFile
+                                    ? QByteArray()
+                                    : "<nav aria-label=\"Contents\">\n" + navigation(m_contents, file) + "</nav>\n";
     const QByteArray full = title == siteTitle ? title : title + " - " + siteTitle;
     return "<!DOCTYPE html>\n<html lang=\"en\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
@@ -136,9 +140,9 @@ QByteArray SiteWriter::frame(const QByteArray& title, const QString& file, const
            "<input type=\"search\" name=\"q\" id=\"query\" placeholder=\"Word, message or key\" "
            "aria-label=\"Search the help\" autocomplete=\"off\">\n"
            "<button>Search</button>\n<ol id=\"found\" hidden></ol>\n</form>\n</header>\n"
-           "<div class=\"columns\">\n<nav aria-label=\"Contents\">\n" +
-           navigation(m_contents, file) + "</nav>\n<main id=\"main\">\n<h1>" + title + "</h1>\n" + main +
-           neighbours(file) + "</main>\n</div>\n<script src=\"search.js\"></script>\n</body>\n</html>\n";
+           "<div class=\"columns\">\n" +
+           contents + "<main id=\"main\">\n<h1>" + title + "</h1>\n" + main + neighbours(file) +
+           "</main>\n</div>\n<script src=\"search.js\"></script>\n</body>\n</html>\n";
 }
 
 QByteArray SiteWriter::wordList(const QVector<HelpPage>& pages)
