@@ -108,7 +108,15 @@ QMenu* Nalvo::createPopupMenu()
 
 void Nalvo::closeEvent(QCloseEvent* event)
 {
+    if (m_modScript->isRunning()) {
+        event->ignore();
+        connect(m_modScript, &nsModScript::ModScript::ended, this, &QWidget::close,
+                Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
+        m_modScript->stopScript();
+        return;
+    }
     // After a refusal the event is left unchanged.
+    disconnect(m_modScript, &nsModScript::ModScript::ended, this, nullptr);
     if (m_phases.stop())
         event->accept();
 }

@@ -37,6 +37,8 @@ public:
     QMenu* createPopupMenu() override;
 
 protected:
+    /// While a script runs, it is stopped instead, and the window closes when it has ended: the exit phases would take
+    /// the objects from under it.
     void closeEvent(QCloseEvent* event) override;
 
 private:

@@ -50,4 +50,6 @@ public:
                                     nsModMsg::MsgUrl srcFile = nsModMsg::MsgUrl()) = 0;
     virtual void showErrorMessage(QString text, QUrl hlpDoc = QUrl(),
                                   nsModMsg::MsgUrl srcFile = nsModMsg::MsgUrl()) = 0;
+    /// Number of groups that are open. A server without groups has none.
+    virtual int messageGroupDepth() const { return 0; }
 };

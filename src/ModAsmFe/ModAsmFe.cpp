@@ -3,6 +3,7 @@
 #include "AsmFeConfigPage.h"
 #include "AsmFeFileHndlr.h"
 #include "AsmFeStatusBar.h"
+#include "AsmScriptApi.h"
 #include "FilePath.h"
 
 #include "EquListView.h"
@@ -10,6 +11,7 @@
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
 
 namespace nsModAsmFe {
 
@@ -63,6 +65,8 @@ void ModAsmFe::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
     m_editorFeed.setupSupportMenuBasic(modEditorHook);
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(new AsmScriptApi(this), QStringLiteral("assembler"));
 }
 
 void ModAsmFe::modExitIntermod()
@@ -201,6 +205,7 @@ void ModAsmFe::prjClose()
         m_statusBar->setProcessorName(QString());
     clearHighlighter();
     m_fileHndlr->setPrjDir(QString());
+    m_missedEvent = nothingMissed;
     m_assembler.drop();
     removeIODevViewer();
 }
@@ -293,6 +298,11 @@ QList<QAction*> ModAsmFe::toolBarActions(ModActionHookIf::eActionClass_t actionC
 
 void ModAsmFe::handleActions(AsmFeActions::eAction_t action)
 {
+    if (m_programsRun) {
+        if (modMsgHook != nullptr)
+            modMsgHook->showInfoMessage(tr("The external programs of the last run have not ended yet."));
+        return;
+    }
     if (modMsgHook != nullptr)
         modMsgHook->clearMessages();
     switch (action) {

@@ -16,6 +16,7 @@
 #include "ModMsgPluginIf.h"
 #include "ModPluginIf.h"
 #include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
 #include "ModSourcesPluginIf.h"
 #include "ModSrcNaviPluginIf.h"
 #include "ModSyscallPluginIf.h"
@@ -52,6 +53,7 @@ class ModAsmFe : public QObject,
                  public ModSrcNaviPluginIf,
                  public ModActionPluginIf,
                  public ModSyscallPluginIf,
+                 public ModScriptPluginIf,
                  public ModCfgAppPluginIfInterMod,
                  public AsmFeConfig,
                  private AsmRunListener
@@ -69,6 +71,8 @@ public:
     void setAssembleOnChange(bool enabled) { m_assembleOnChange = enabled; }
     /// Output files that the last run has written, absolute, in order.
     QStringList writtenFiles() const { return m_assembler.writtenFiles(); }
+    /// A run is in progress.
+    bool isRunning() const { return m_assembler.isRunning(); }
     /// @return the last run assembled the program and wrote all files of its event
     bool runSucceeded() const { return m_assembler.runSucceeded(); }
 
@@ -163,6 +167,9 @@ private:
     AsmProjectInfo projectInfo() const;
     ProjectConsent consent() const;
     void takePage();
+    void assembleMissed();
+
+    static const int nothingMissed = -1;
 
     PluginList<ModAsmFePluginIf> m_plugins;
     PluginBackend m_backend;
@@ -177,7 +184,9 @@ private:
     QPointer<EquListView> m_equListView;     ///< null without a window
     QPointer<IODevViewerList> m_ioDevViewer; ///< null without a window or an open project
     bool m_assembleOnChange = true;
-    MyBusyCursor* m_busy = nullptr; ///< of the run in progress; not owned
+    bool m_programsRun = false;        ///< the run in progress waits for the external programs
+    int m_missedEvent = nothingMissed; ///< eAssembleEvent_t of a run that is to follow
+    MyBusyCursor* m_busy = nullptr;    ///< of the run in progress; not owned
 };
 
 } // namespace nsModAsmFe

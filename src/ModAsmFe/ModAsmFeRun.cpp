@@ -13,13 +13,22 @@
 #include "ModSyscallHookIf.h"
 #include "MyBusyCursor.h"
 #include "NaviTag.h"
+#include "SyscallEvent.h"
+
+#include <algorithm>
 
 namespace nsModAsmFe {
 
 void ModAsmFe::assemble(eAssembleEvent_t event)
 {
-    if (m_assembler.isRunning() || modPrjHook == nullptr || !modPrjHook->isValid())
+    if (modPrjHook == nullptr || !modPrjHook->isValid())
         return;
+    if (m_assembler.isRunning()) {
+        // What the user saves while an external program runs is assembled when that has ended.
+        if (m_programsRun)
+            m_missedEvent = std::max(m_missedEvent, int(event));
+        return;
+    }
     MyBusyCursor busy;
     m_busy = &busy;
     if (m_actions != nullptr) {
@@ -28,6 +37,19 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     }
     m_assembler.run(modSourcesHook != nullptr ? modSourcesHook->files() : QStringList(), projectInfo(), event);
     m_busy = nullptr;
+    // Later, so that runs that each cause the next one leave the user a way to stop them.
+    if (m_missedEvent != nothingMissed)
+        QMetaObject::invokeMethod(
+            this, [this] { assembleMissed(); }, Qt::QueuedConnection);
+}
+
+void ModAsmFe::assembleMissed()
+{
+    if (m_missedEvent == nothingMissed)
+        return;
+    const auto missed = static_cast<eAssembleEvent_t>(m_missedEvent);
+    m_missedEvent = nothingMissed;
+    assemble(missed);
 }
 
 AsmProjectInfo ModAsmFe::projectInfo() const
@@ -150,6 +172,8 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
     }
     if (unknown.isEmpty())
         return refused;
+    if (m_busy != nullptr)
+        m_busy->rests();
     const QPointer<ModAsmFe> self(this);
     const bool allowed = ConsentQuestion::ask(
         tr("Output files outside of the project"),
@@ -188,7 +212,15 @@ bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)
         m_msgHndlr->signMsg(infoIODevNothingToDoForWriteEvent);
         return true;
     }
-    return modSyscallHook == nullptr || modSyscallHook->run(sysCallEvent);
+    if (modSyscallHook == nullptr)
+        return true;
+    // While a program runs, the user goes on working.
+    if (m_busy != nullptr)
+        m_busy->rests();
+    m_programsRun = true;
+    const bool goesOn = modSyscallHook->run(sysCallEvent);
+    m_programsRun = false;
+    return goesOn;
 }
 
 void ModAsmFe::refreshEquList()

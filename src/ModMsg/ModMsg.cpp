@@ -8,6 +8,8 @@
 
 #include <QWidget>
 
+#include <algorithm>
+
 namespace nsModMsg {
 
 ModMsg::ModMsg(QWidget* parent)
@@ -70,8 +72,12 @@ void ModMsg::unregisterPluginUrlHndlr(eUrlHndlr_t kind, ModMsgPluginIfUrlHndlr* 
 
 void ModMsg::clearMessages()
 {
-    if (m_viewer != nullptr)
-        m_viewer->clearMessages();
+    if (m_viewer == nullptr)
+        return;
+    if (m_viewer->groupDepth() == 0)
+        m_records.clear();
+    m_runStart = m_records.size();
+    m_viewer->clearMessages();
 }
 
 void ModMsg::openMessageGroup(QString text, QUrl hlpDoc)
@@ -85,10 +91,12 @@ void ModMsg::closeMessageGroup(bool success)
     if (m_viewer == nullptr)
         return;
     // The closing line is a message like any other, so that a failure marks the group that it ends.
+    m_isClosing = true;
     if (success)
         showInfoMessage(tr("Done"));
     else
         showErrorMessage(tr("Failure"));
+    m_isClosing = false;
     m_viewer->closeMessageGroup();
 }
 
@@ -96,6 +104,8 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
 {
     if (m_viewer == nullptr)
         return;
+    if (!m_isClosing && type >= eMsgInfo && type <= eMsgError)
+        m_records.push_back({type, text, srcFile});
     switch (type) {
     case eMsgInfo:
         m_viewer->showInfoMessage(text, hlpDoc, srcFile);
@@ -157,6 +167,51 @@ void ModMsg::showErrorMessage(QString text)
 void ModMsg::showErrorMessage(QString text, QUrl hlpDoc)
 {
     showErrorMessage(text, hlpDoc, MsgUrl());
+}
+
+int ModMsg::messageGroupDepth() const
+{
+    return m_viewer != nullptr ? m_viewer->groupDepth() : 0;
+}
+
+QVariantList ModMsg::messagesFrom(size_t first) const
+{
+    static const char* const grades[] = {"info", "warning", "error"};
+    QVariantList result;
+    for (size_t i = first; i < m_records.size(); ++i) {
+        const sRecord_t& record = m_records[i];
+        result.append(QVariantMap{{"grade", QLatin1String(grades[record.grade])},
+                                  {"text", record.text},
+                                  {"file", record.place.path()},
+                                  {"line", record.place.hasFragment() ? record.place.fragment().toInt() + 1 : 0}});
+    }
+    return result;
+}
+
+QVariantList ModMsg::messages() const
+{
+    return messagesFrom(m_runStart);
+}
+
+QVariantList ModMsg::allMessages() const
+{
+    return messagesFrom(0);
+}
+
+int ModMsg::countSinceRun(eMsgType_t grade) const
+{
+    return int(std::count_if(m_records.begin() + std::ptrdiff_t(m_runStart), m_records.end(),
+                             [grade](const sRecord_t& record) { return record.grade == grade; }));
+}
+
+int ModMsg::errorCount() const
+{
+    return countSinceRun(eMsgError);
+}
+
+int ModMsg::warningCount() const
+{
+    return countSinceRun(eMsgWarning);
 }
 
 void ModMsg::modRegisterPlugins(QList<ModPluginIf*> modules)

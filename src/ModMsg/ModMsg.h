@@ -8,6 +8,9 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QVariantList>
+
+#include <vector>
 
 namespace nsModMsg {
 
@@ -40,6 +43,8 @@ public:
     void showWarningMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
     void showErrorMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
 
+    int messageGroupDepth() const override;
+
     // What scripts call.
     Q_INVOKABLE void openMessageGroup(QString text);
     Q_INVOKABLE void showInfoMessage(QString text);
@@ -48,6 +53,16 @@ public:
     Q_INVOKABLE void showWarningMessage(QString text, QUrl hlpDoc);
     Q_INVOKABLE void showErrorMessage(QString text);
     Q_INVOKABLE void showErrorMessage(QString text, QUrl hlpDoc);
+    /// The messages since the last call of clearMessages(), with which each run of the assembler begins; also those of
+    /// a run within a group, which clears nothing. Groups and their closing lines are left out.
+    /// @return a map each: "grade" ("info", "warning", "error"), "text", "file" (empty if there is none), "line" (from
+    /// 1 on, 0 if there is none)
+    Q_INVOKABLE QVariantList messages() const;
+    /// The same of all that stands in the view.
+    Q_INVOKABLE QVariantList allMessages() const;
+    /// Number of errors, or warnings, among messages().
+    Q_INVOKABLE int errorCount() const;
+    Q_INVOKABLE int warningCount() const;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -69,12 +84,25 @@ private slots:
 private:
     using UrlHndlrList = PluginList<ModMsgPluginIfUrlHndlr>;
 
+    /// A message that stands in the view.
+    struct sRecord_t
+    {
+        eMsgType_t grade;
+        QString text;
+        QUrl place;
+    };
+
     UrlHndlrList* urlHndlrs(eUrlHndlr_t kind);
+    QVariantList messagesFrom(size_t first) const;
+    int countSinceRun(eMsgType_t grade) const;
 
     QPointer<MsgViewer> m_viewer; ///< in the bottom dock, which owns it; ours while it stands nowhere
     PluginList<ModMsgPluginIf> m_plugins;
     UrlHndlrList m_hlpUrlHndlrs;
     UrlHndlrList m_srcUrlHndlrs;
+    std::vector<sRecord_t> m_records;
+    size_t m_runStart = 0;    ///< first record since the last call of clearMessages()
+    bool m_isClosing = false; ///< the closing line of a group is shown
 };
 
 } // namespace nsModMsg

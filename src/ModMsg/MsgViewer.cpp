@@ -114,6 +114,15 @@ void MsgViewer::closeMessageGroup()
     scheduleUpdate();
 }
 
+int MsgViewer::groupDepth() const
+{
+    int depth = 0;
+    for (const QTreeWidgetItem* item = m_currentParent; item != nullptr && item != invisibleRootItem();
+         item = item->parent())
+        ++depth;
+    return depth;
+}
+
 void MsgViewer::showInfoMessage(const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile)
 {
     showMessage(ModMsgHookIf::eMsgInfo, text, hlpDoc, srcFile);

@@ -37,6 +37,8 @@ public:
     void showErrorMessage(const QString& text, const QUrl& hlpDoc, const MsgUrl& srcFile);
     /// Empties the view; does nothing while a group is open.
     void clearMessages();
+    /// Number of groups that are open.
+    int groupDepth() const;
 
 signals:
     void hlpUrlClicked(QUrl url);

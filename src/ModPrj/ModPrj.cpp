@@ -168,6 +168,26 @@ void ModPrj::close()
     closePrj();
 }
 
+bool ModPrj::isOpen()
+{
+    return isValid();
+}
+
+bool ModPrj::save()
+{
+    return saveOpenPrj();
+}
+
+QString ModPrj::path()
+{
+    return m_project.path();
+}
+
+void ModPrj::hndlAction(int action)
+{
+    hndlAction(static_cast<PrjActions::eAction_t>(action));
+}
+
 // --- clients ---
 
 void ModPrj::registerPlugin(ModPrjPluginIfInterMod* plugin)
@@ -273,7 +293,8 @@ void ModPrj::modInit()
     if (modActionHook == nullptr)
         return;
     m_actions = new PrjActions(this);
-    connect(m_actions, QOverload<PrjActions::eAction_t>::of(&PrjActions::triggered), this, &ModPrj::hndlAction);
+    connect(m_actions, QOverload<PrjActions::eAction_t>::of(&PrjActions::triggered), this,
+            qOverload<PrjActions::eAction_t>(&ModPrj::hndlAction));
     updateCloseAction();
 }
 

@@ -89,6 +89,14 @@ public:
     /// The same as openPrj() and closePrj(), for scripts.
     Q_INVOKABLE bool open(QString file);
     Q_INVOKABLE void close();
+    /// A project is open.
+    Q_INVOKABLE bool isOpen();
+    /// Writes the project's settings into its file. @return false: there is none, or it can not be written; reported
+    Q_INVOKABLE bool save();
+    /// The file of the open project with its folder; empty if none is open.
+    Q_INVOKABLE QString path();
+    /// hndlAction() by number: 0 "New project...", 1 "Open project...", 2 "Close project"; any other does nothing.
+    Q_INVOKABLE void hndlAction(int action);
 
     // ModPrjHookIf
     void registerPlugin(ModPrjPluginIfInterMod* plugin) override;

@@ -12,6 +12,7 @@
 #include "ProcList.h"
 #include "ProcPluginIf.h"
 #include "ProcShell.h"
+#include "SimScriptApi.h"
 
 namespace nsModProcessor {
 
@@ -36,6 +37,7 @@ void unregisterAt(Hook* hook, ProcPluginIf* processor)
 ModProcessor::ModProcessor(QObject* parent)
     : QObject(parent)
     , m_list(std::make_unique<ProcList>())
+    , m_simScriptApi(new SimScriptApi(this))
 {
 }
 
@@ -51,8 +53,39 @@ ModProcessor::~ModProcessor()
 
 void ModProcessor::modInitIntermod()
 {
-    if (modScriptHook != nullptr)
-        modScriptHook->registerObject(this, "processor");
+    if (modScriptHook == nullptr)
+        return;
+    modScriptHook->registerObject(this, "processor");
+    modScriptHook->registerObject(m_simScriptApi, "simulator");
+}
+
+QStringList ModProcessor::names() const
+{
+    return m_list->nameList();
+}
+
+QString ModProcessor::current() const
+{
+    return m_current != nullptr ? m_current->processorName() : QString();
+}
+
+bool ModProcessor::select(const QString& name)
+{
+    ProcPluginIf* next = m_list->interface(name);
+    const bool isOpen = modPrjHook != nullptr && modPrjHook->isValid();
+    if (!isOpen || (next == nullptr && !name.isEmpty())) {
+        if (modScriptHook != nullptr)
+            modScriptHook->throwError(isOpen ? tr("There is no processor %1.").arg(name) : tr("No project is open."));
+        return false;
+    }
+    // The simulator belongs to the present one.
+    if (next != m_current && m_current != nullptr && !m_current->configWidgetCloseRequest())
+        return false;
+    processor = name;
+    setupProcessorIf();
+    if (m_configPage != nullptr)
+        m_configPage->setProcessor(name);
+    return true;
 }
 
 void ModProcessor::prjOpen()

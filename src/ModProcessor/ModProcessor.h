@@ -13,6 +13,7 @@
 #include "ProcConfig.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <memory>
 
@@ -21,10 +22,12 @@ namespace nsModProcessor {
 class ProcConfigPage;
 class ProcList;
 class ProcPluginIf;
+class SimScriptApi;
 
 /// The registry of processors: keeps exactly one of them, or none, attached to the other modules.
 ///
-/// All processors live as long as the module; which of them is attached is the project's choice.
+/// All processors live as long as the module; which of them is attached is the project's choice. Visible to scripts as
+/// "processor", and the simulator of the attached processor as "simulator".
 class ModProcessor : public QObject,
                      public ModPluginIf,
                      public ModMsgPluginIf,
@@ -78,6 +81,17 @@ public:
     ProcPluginIf* currentProcessor() const { return m_current; }
     ProcList* processorList() const { return m_list.get(); }
 
+    // What scripts call.
+
+    /// Names of all processors, sorted.
+    Q_INVOKABLE QStringList names() const;
+    /// Name of the attached processor, empty if there is none.
+    Q_INVOKABLE QString current() const;
+    /// Makes another processor that of the open project, as the settings page does; an empty name: none. The program
+    /// has to be assembled again. An unknown name, and a call without an open project, is a script error.
+    /// @return false: the simulator is enabled, which was reported as a message
+    Q_INVOKABLE bool select(const QString& name);
+
 private:
     void attach(ProcPluginIf* processor);
     void detach(ProcPluginIf* processor);
@@ -85,6 +99,7 @@ private:
     std::unique_ptr<ProcList> m_list;
     std::unique_ptr<ProcConfigPage> m_configPage; ///< null while the settings dialog is closed; deleted before the list
     ProcPluginIf* m_current = nullptr;            ///< not owned
+    SimScriptApi* m_simScriptApi;                 ///< owned
 };
 
 } // namespace nsModProcessor

@@ -23,3 +23,11 @@ void MyBusyCursor::goesOn()
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
     m_shown = true;
 }
+
+void MyBusyCursor::rests()
+{
+    if (m_shown)
+        QGuiApplication::restoreOverrideCursor();
+    m_shown = false;
+    m_timer.restart();
+}

@@ -27,6 +27,9 @@ public:
 
     /// To be called during the work; fast enough for each of many small steps.
     void goesOn();
+    /// The work rests, as the user is asked or has to wait for something else: restores the cursor. The time counts
+    /// anew from here.
+    void rests();
     bool isShown() const { return m_shown; }
 
 private:

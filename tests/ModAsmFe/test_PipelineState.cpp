@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QPointer>
 #include <QTreeView>
 
@@ -345,6 +346,31 @@ TEST(PipelineReentrancy, aRunWithinARunIsNone)
     // The next one is a run again.
     EXPECT_TRUE(f.run(program));
     EXPECT_EQ(f.calls.count("be.stage1"), 1);
+}
+
+TEST(PipelineReentrancy, whatIsSavedWhileAProgramRunsIsAssembledAfterwards)
+{
+    AsmFixture f;
+    f.syscall.onRun = [&f] {
+        f.asmFe.srcFileListChanged();
+        f.asmFe.srcFileContentChanged();
+        f.syscall.onRun = nullptr;
+    };
+    EXPECT_TRUE(f.run(program, ModAsmFe::eEventButton1));
+    EXPECT_EQ(f.calls.count("be.stage1"), 1);
+    for (int i = 0; i < 3; ++i)
+        QCoreApplication::processEvents();
+    EXPECT_EQ(f.calls.count("be.stage1"), 2) << "once for all of them";
+    EXPECT_EQ(f.callsStartingWith("syscall"), QStringList({"syscall.run 0", "syscall.run 2"}));
+
+    // With its project, the reason has gone.
+    f.syscall.onRun = [&f] {
+        f.asmFe.srcFileContentChanged();
+        f.asmFe.prjClose();
+    };
+    f.run(program, ModAsmFe::eEventButton1);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(f.callsStartingWith("syscall").size(), 1);
 }
 
 TEST(PipelineReentrancy, projectClosesDuringARun)

@@ -76,12 +76,12 @@ TEST_F(CommandLineTest, AnUnknownArgumentKeepsAllElseFromRunning)
     EXPECT_TRUE(report.contains("message: Found unknown argument: -x"));
 }
 
-TEST_F(CommandLineTest, AScriptThatCanNotRunIsReported)
+TEST_F(CommandLineTest, aScriptThatDoesNotExistIsReported)
 {
     writeProject("a.nalvo");
     const QStringList report = run({"a.nalvo", "-s", "b.js"});
     EXPECT_TRUE(report.contains("project: a.nalvo"));
-    EXPECT_TRUE(report.contains("message: This release can not run scripts: b.js")) << qPrintable(report.join('\n'));
+    EXPECT_TRUE(report.contains("message: Can not open script file: b.js")) << qPrintable(report.join('\n'));
 }
 
 TEST_F(CommandLineTest, AScriptBesideABrokenProjectIsNotEvenTried)

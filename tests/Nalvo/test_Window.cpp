@@ -14,6 +14,7 @@
 #include <QMenuBar>
 #include <QMetaMethod>
 #include <QTabWidget>
+#include <QTimer>
 #include <QToolBar>
 
 namespace {
@@ -173,6 +174,9 @@ TEST_F(MainWindowFixture, ExitIsTheOneOperationForScriptsAndRunsNoExitPhase)
     EXPECT_TRUE(window->isVisible());
     EXPECT_FALSE(QFile::exists(settingsFile()));
     EXPECT_NE(module<ModActionHookIf>(), nullptr);
+    // It keeps loops from beginning, such as those of dialogs, up to the end of the next one of the application.
+    QTimer::singleShot(0, qApp, &QCoreApplication::quit);
+    QCoreApplication::exec();
 }
 
 TEST_F(MainWindowFixture, AClientOfTheProjectIsCaughtUpWhenItComesAndWhenItLeaves)

@@ -52,7 +52,7 @@ TEST_F(AsmToolOptions, HelpFitsAnEightyColumnTerminalAndNamesEverything)
                                  "    1  ",
                                  "    2  ",
                                  "SOURCE_DATE_EPOCH",
-                                 "external programs are not run"})
+                                 "--external-programs"})
             EXPECT_TRUE(result.out.contains(word)) << word;
     }
 }

@@ -107,6 +107,8 @@ public:
         showMessage(eMsgError, text, hlpDoc, srcFile);
     }
 
+    int messageGroupDepth() const override { return openGroups.size(); }
+
     /// Messages alone, without groups.
     QList<Entry> messages() const
     {

@@ -121,9 +121,14 @@ public:
         scripts.append(script);
         return result;
     }
+    void throwError(QString text) override { errors.append(text); }
+    bool scriptGoesOn() override { return ++looks != stopAtLook; }
 
     QHash<QString, QObject*> objects;
     QStringList scripts;
+    QStringList errors;
+    int looks = 0;
+    int stopAtLook = 0; ///< knob: the user stops the script at this look; 0: never
     bool result = true; ///< knob: what executeScript() answers
 };
 #endif

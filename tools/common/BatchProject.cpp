@@ -30,6 +30,7 @@ bool BatchProject::open(const QString& file)
     m_processor = nsProc::Processor::ofProject(&m_project);
     m_assembler.setBackend(m_processor.get());
     m_config.rdAsmFeConfig(&m_project);
+    m_programs.rdSyscallConfig(&m_project);
     m_assembler.charsets().setupDefaultCodec(m_config.defaultCharset);
     m_files.setPrjDir(m_project.path());
     nsModPrj::Project::reportOpened(&m_msg);

@@ -11,6 +11,7 @@
 #include "Processor.h"
 #include "Project.h"
 #include "SourcesConfig.h"
+#include "SyscallConfig.h"
 
 #include <memory>
 
@@ -40,6 +41,10 @@ public:
     nsModAsmFe::Assembler& assembler() { return m_assembler; }
     nsModAsmFe::AsmFeMsgHndlr& asmMsg() { return m_asmMsg; }
     nsModAsmFe::AsmFeFileHndlr& sources() { return m_files; }
+    /// The external programs of the open project.
+    const nsModSyscall::SyscallConfig& programs() const { return m_programs; }
+    /// Folder of the open project.
+    QDir dir() const { return m_project.dir(); }
     /// The processor of the open project; null if it names none that is known.
     nsProc::Processor* processor() { return m_processor.get(); }
 
@@ -53,6 +58,7 @@ private:
     nsModSources::SourcesConfig m_sources;
     std::unique_ptr<nsProc::Processor> m_processor;
     nsModAsmFe::AsmFeConfig m_config;
+    nsModSyscall::SyscallConfig m_programs;
     nsModAsmFe::AsmFeFileHndlr m_files;
     nsModAsmFe::AsmFeMsgHndlr m_asmMsg;
     nsModAsmFe::Assembler m_assembler;

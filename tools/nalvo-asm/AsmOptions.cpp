@@ -20,7 +20,8 @@ QString tr(const char* text)
 
 // The parser breaks the lines of the options, but not these.
 const char* const description = "Assembles a Nalvo project as the program's window does, without a display.\n"
-                                "The project and the settings stay as they are; external programs are not run.\n"
+                                "The project and the settings stay as they are. External programs of the project\n"
+                                "run only with --external-programs.\n"
                                 "\n"
                                 "Messages go to standard error, one a line:\n"
                                 "    path:line: error: text [key]\n"
@@ -29,8 +30,8 @@ const char* const description = "Assembles a Nalvo project as the program's wind
                                 "\n"
                                 "Exit status:\n"
                                 "    0  assembled, and all files are written\n"
-                                "    1  not assembled, a file not written, an error reported, or a warning with\n"
-                                "       --werror\n"
+                                "    1  not assembled, a file not written, an error reported, an external program\n"
+                                "       without success, or a warning with --werror\n"
                                 "    2  wrong usage, or the project can not be opened\n"
                                 "\n"
                                 "With SOURCE_DATE_EPOCH in the environment, {TIMESTAMP} in templates is that\n"
@@ -55,6 +56,9 @@ void setup(QCommandLineParser* parser)
          tr("Show what the help says about the message KEY: what it means, what causes it, an example. KEY is what "
             "stands in brackets behind a message. No project is assembled."),
          tr("KEY")},
+        {"external-programs",
+         tr("Run the project's external programs of the event, in the folder of the project, with their output on "
+            "standard error and an empty input. A program without success counts as an error.")},
         {"q", tr("Show errors alone, and no summary. With -W, warnings too.")},
         {"v", tr("Show info messages and groups too.")},
         {{"h", "help"}, tr("Show this help.")},
@@ -103,6 +107,7 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
     event = events.value(eventName);
     style.json = formats.value(formatName);
     allowOutside = parser.isSet("allow-outside");
+    externalPrograms = parser.isSet("external-programs");
     style.werror = parser.isSet("werror");
     // A kind of output whose event is set causes this warning if no device writes it, which is not an error.
     style.harmless = QStringList("warnIODevNoFileToWrite");

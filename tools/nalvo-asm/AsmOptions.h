@@ -19,10 +19,11 @@ struct AsmOptions : nsBatch::BatchOptions
 
     nsModAsmFe::AsmFeConfig::eAssembleEvent_t event = nsModAsmFe::AsmFeConfig::eEventButton1;
     nsBatch::BatchMsgStyle style;
-    bool allowOutside = false; ///< outputs that a source names may lie outside of the project's folder
-    QString listingFile;       ///< empty: none; "-": standard output
-    QString symbolsFile;       ///< empty: none; "-": standard output
-    QString explainedKey;      ///< the message to explain; empty: a project is assembled
+    bool allowOutside = false;     ///< outputs that a source names may lie outside of the project's folder
+    bool externalPrograms = false; ///< the project's programs are run
+    QString listingFile;           ///< empty: none; "-": standard output
+    QString symbolsFile;           ///< empty: none; "-": standard output
+    QString explainedKey;          ///< the message to explain; empty: a project is assembled
 
 private:
     bool readExplained(const QCommandLineParser& parser);

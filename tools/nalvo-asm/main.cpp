@@ -3,6 +3,7 @@
 #include "AsmExplain.h"
 #include "AsmOptions.h"
 #include "AsmPermissions.h"
+#include "AsmPrograms.h"
 #include "AsmReport.h"
 #include "BatchFiles.h"
 #include "BatchOutput.h"
@@ -105,7 +106,8 @@ int run(const AsmOptions& options)
         return exitWrongUsage;
     }
     nsModAsmFe::Assembler& assembler = project.assembler();
-    static AsmPermissions permissions(options.allowOutside);
+    static AsmPrograms programs(project.programs(), project.dir(), project.msg());
+    static AsmPermissions permissions(options.allowOutside, programs, options.externalPrograms);
     assembler.setListener(&permissions);
     const bool assembled = project.assemble(options.event);
     Reports reports(project, file);
@@ -113,6 +115,7 @@ int run(const AsmOptions& options)
         reports.write(options.listingFile, listingText);
         reports.write(options.symbolsFile, symbolsText);
     }
+    programs.finish();
     // A run that has reported an error counts as failed, even where the assembler could go on.
     const bool success = assembled && project.msg().errors() == 0 && project.msg().fatalWarnings() == 0;
     showSummary(project.msg(), options.style, success, assembler.program().opcodes.count(),

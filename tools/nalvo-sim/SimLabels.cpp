@@ -2,8 +2,7 @@
 
 #include "AsmProgram.h"
 #include "BatchOutput.h"
-#include "Label.h"
-#include "Opcode.h"
+#include "LabelTarget.h"
 #include "SimProject.h"
 #include "SymbolHash.h"
 
@@ -78,24 +77,20 @@ QStringList nearNames(const QStringList& names, const QString& wanted)
 
 Opcode* opcodeOfLabel(const SimProject& project, const QString& name, QString* failure)
 {
-    // A name of a source is bytes, one a character, as the assembler reads them.
-    QString bytes = QString::fromLatin1(name.toLocal8Bit());
-    if (bytes.startsWith("::"))
-        bytes.remove(0, 2);
-    const int colons = bytes.lastIndexOf("::");
-    const QString nameSpace = colons < 0 ? QString() : bytes.left(colons);
-    const Label* label = project.program->labels.find(nameSpace, withoutNameSpace(bytes));
-    if (label == nullptr) {
+    const LabelTarget target = LabelTarget::find(project.program->labels, project.program->opcodes, name);
+    if (target.label == nullptr) {
         *failure = tr("No such label: %1").arg(name);
-        const QStringList near = nearNames(project.program->labels.nameList(), bytes);
+        QString wanted = QString::fromLatin1(name.toLocal8Bit());
+        if (wanted.startsWith("::"))
+            wanted.remove(0, 2);
+        const QStringList near = nearNames(project.program->labels.nameList(), wanted);
         if (!near.isEmpty())
             *failure += tr(" (near: %1)").arg(nsBatch::readable(near.join(", ")));
         return nullptr;
     }
-    Opcode* opcode = project.program->opcodes.nextOfSrcRef(label->srcRef.fileNo, label->srcRef.lineNo);
-    if (opcode == nullptr)
+    if (target.opcode == nullptr)
         *failure = tr("No instruction stands at or behind the label: %1").arg(name);
-    return opcode;
+    return target.opcode;
 }
 
 } // namespace nsNalvoSim

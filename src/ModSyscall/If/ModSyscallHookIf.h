@@ -1,13 +1,8 @@
 #pragma once
 
+#include "SyscallEvent.h"
+
 class ModSyscallPluginIf;
-
-namespace nsModSyscall {
-
-/// Events on which external programs run.
-enum eEvent_t { eEventButton1 = 0, eEventButton2 = 1, eEventSave = 2 };
-
-} // namespace nsModSyscall
 
 /// External programs bound to assembler events. Served by nsModSyscall::ModSyscall.
 class ModSyscallHookIf

@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <functional>
 #include <memory>
 
 namespace nsProc {
@@ -15,6 +16,7 @@ namespace nsProc {
 class ProcConfigWidget;
 class ProcAsmBe;
 class ProcSim;
+struct sSimBoundedRun_t;
 
 /// The shell that all processors share: the interface of a processor to the rest of the program.
 ///
@@ -42,6 +44,14 @@ public:
     /// The services may be deleted from now on: nothing calls them any more. The hook members are not changed, as only
     /// the services set them.
     void dropServices();
+
+    // The simulator for a caller that wants to know what came of it.
+
+    /// Enables the simulator, if it is not.
+    /// @return false after a reported error
+    bool simStart();
+    /// Runs within bounds. The simulator must be enabled, and no run be in progress.
+    void simBoundedRun(sSimBoundedRun_t* run);
 
     // ProcPluginIf
     void modInit() override;
@@ -111,7 +121,7 @@ private:
     void removeSim();
     void showStop(ProcActionsSim::eAction_t action, bool stopping);
     void takeProgramCounter();
-    void runSim(ProcActionsSim::eAction_t action, void (ProcSim::*command)());
+    void runSim(ProcActionsSim::eAction_t action, const std::function<void(ProcSim*)>& command);
     void setBase(ProcActionsSim::eAction_t action, eBase_t base);
     void setActionsEnabled(bool enabled);
     void setActionsEnabled(std::initializer_list<ProcActionsSim::eAction_t> actions, bool enabled);

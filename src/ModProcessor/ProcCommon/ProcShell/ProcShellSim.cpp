@@ -62,6 +62,14 @@ void ProcShell::simEnableDisable()
     simDisable();
 }
 
+bool ProcShell::simStart()
+{
+    if (m_sim != nullptr || simEnable())
+        return true;
+    simDisable();
+    return false;
+}
+
 bool ProcShell::simEnable()
 {
     if (modAsmFeHook == nullptr || modMsgHook == nullptr)
@@ -128,7 +136,7 @@ void ProcShell::showStop(Action::eAction_t action, bool stopping)
         m_actions->setStopping(action, stopping);
 }
 
-void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
+void ProcShell::runSim(Action::eAction_t action, const std::function<void(ProcSim*)>& command)
 {
     const std::shared_ptr<ProcSim> sim = m_sim;
     if (sim == nullptr)
@@ -143,7 +151,7 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
                       false);
     setActionsEnabled({action}, true);
     showStop(action, true);
-    (sim.get()->*command)();
+    command(sim.get());
     showStop(action, false);
     if (m_sim != sim)
         return;
@@ -156,22 +164,27 @@ void ProcShell::runSim(Action::eAction_t action, void (ProcSim::*command)())
 
 void ProcShell::simRun()
 {
-    runSim(Action::eActionRun, &ProcSim::simRun);
+    runSim(Action::eActionRun, std::mem_fn(&ProcSim::simRun));
 }
 
 void ProcShell::simNextLine()
 {
-    runSim(Action::eActionNextLine, &ProcSim::simNextLine);
+    runSim(Action::eActionNextLine, std::mem_fn(&ProcSim::simNextLine));
 }
 
 void ProcShell::simToEndOfCall()
 {
-    runSim(Action::eActionToEndOfCall, &ProcSim::simToEndOfCall);
+    runSim(Action::eActionToEndOfCall, std::mem_fn(&ProcSim::simToEndOfCall));
 }
 
 void ProcShell::simToCursor()
 {
-    runSim(Action::eActionToCursor, &ProcSim::simToCursor);
+    runSim(Action::eActionToCursor, std::mem_fn(&ProcSim::simToCursor));
+}
+
+void ProcShell::simBoundedRun(sSimBoundedRun_t* run)
+{
+    runSim(Action::eActionRun, [run](ProcSim* sim) { sim->simBoundedRun(run); });
 }
 
 void ProcShell::simNextInstruction()

@@ -37,6 +37,7 @@ struct ProcSimClock;
 struct ProcSimWidgets;
 struct ProcTable;
 struct SimOutcome;
+struct sSimBoundedRun_t;
 struct sSimReport_t;
 
 /// The simulator that all processors share, in the window: it runs a ProcSimEngine on the instructions of the last
@@ -87,6 +88,8 @@ public:
     void simNextLine();
     void simToEndOfCall();
     void simToCursor();
+    /// Runs within bounds, and fills in what came of it.
+    void simBoundedRun(sSimBoundedRun_t* run);
     /// @return the program counter stands on the instruction at the cursor or the first one below
     bool setPcFromCursor();
     /// Sets the program counter to an address of the page that the program is in, or was in last. Not during a run.

@@ -2,6 +2,7 @@
 
 #include "ProcSim.h"
 
+#include "ProcSimBoundedRun.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimEngine.h"
 #include "ProcSimResolvePageDialog.h"
@@ -21,6 +22,13 @@ namespace nsProc {
 
 using nsModAsmFe::Opcode;
 using nsModAsmFe::OpcodeList;
+
+namespace {
+
+/// Of a bounded run; few enough that the window answers at once.
+const int instructionsBetweenEvents = 256;
+
+} // namespace
 
 bool ProcSim::simOpcode()
 {
@@ -126,6 +134,39 @@ void ProcSim::simToCursor()
     startRun();
     // The loop ends when the instructions are deleted, so a deleted target is never compared.
     runLoop([this, target] { return programCounter() == target; });
+}
+
+void ProcSim::simBoundedRun(sSimBoundedRun_t* run)
+{
+    run->end = sSimBoundedRun_t::eEndStopped;
+    if (m_running == 1 || m_engine == nullptr || !takeTypedPc())
+        return;
+    startRun();
+    for (;;) {
+        if (!simOpcode()) {
+            run->end = sSimBoundedRun_t::eEndMessage;
+            break;
+        }
+        ++run->executed;
+        const Opcode* opcode = programCounter();
+        if (opcode != nullptr && opcode == run->target) {
+            run->end = sSimBoundedRun_t::eEndTarget;
+            break;
+        }
+        if (run->stopsAtBreakpoints && opcode != nullptr && opcode->breakpoint != 0) {
+            run->end = sSimBoundedRun_t::eEndBreakpoint;
+            break;
+        }
+        if (run->executed >= run->count) {
+            run->end = sSimBoundedRun_t::eEndCount;
+            break;
+        }
+        // The instructions may be deleted here: the run has ended then.
+        if (run->executed % instructionsBetweenEvents == 0 && (!run->goesOn() || m_running == 0))
+            break;
+        syncBreakpoints();
+    }
+    endRun();
 }
 
 bool ProcSim::setPcFromCursor()

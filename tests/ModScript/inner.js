@@ -1,0 +1,1 @@
+test.note("from the resources");

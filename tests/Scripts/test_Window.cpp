@@ -1,0 +1,203 @@
+// What can happen in the window while a script runs.
+
+#include "ScriptWindow.h"
+
+#include "EditorWidget.h"
+#include "ModEditor.h"
+#include "ModalAnswers.h"
+
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPlainTextEdit>
+
+namespace {
+
+const int patience = 60000; // ms; only reached when something hangs
+
+} // namespace
+
+TEST_F(ScriptWindow, theActionsStandInTheMenuTools)
+{
+    EXPECT_TRUE(action("Run script...")->isEnabled());
+    EXPECT_FALSE(action("Stop script")->isEnabled());
+    EXPECT_FALSE(action("Run script...")->icon().isNull());
+    EXPECT_FALSE(action("Stop script")->icon().isNull());
+    QMenu* menu = nullptr;
+    for (QAction* entry : window->menuBar()->actions()) {
+        if (entry->menu()->actions().contains(action("Run script...")))
+            menu = entry->menu();
+    }
+    ASSERT_NE(menu, nullptr);
+    EXPECT_EQ(QString(menu->title()).remove('&'), QString("Tools"));
+    menu->popup(window->pos());
+    screenshot("scripts-menu", menu);
+    menu->close();
+}
+
+TEST_F(ScriptWindow, theUserSelectsAScriptAndRunsIt)
+{
+    const QString path = writeFile("own.js", "test.note('ran');\nmsg.openMessageGroup('inner');\n");
+    ModalAnswers answers({[&](QDialog* box) {
+        auto* dialog = qobject_cast<QFileDialog*>(box);
+        ASSERT_NE(dialog, nullptr);
+        dialog->selectFile(path);
+        QTest::keyClick(dialog->findChild<QLineEdit*>("fileNameEdit"), Qt::Key_Return);
+    }});
+    trigger("Run script...");
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_EQ(target.notes, QStringList("ran"));
+    // The group that the script has left open is closed, so that the view can be cleared again.
+    EXPECT_EQ(messageTexts(), QStringList({"Execute script " + path, "inner", "Done", "Done"}));
+    EXPECT_TRUE(run("msg.clearMessages();"));
+    EXPECT_TRUE(messageTexts().isEmpty());
+}
+
+TEST_F(ScriptWindow, aCancelledSelectionRunsNothing)
+{
+    ModalAnswers answers({[](QDialog* dialog) { QTest::keyClick(dialog, Qt::Key_Escape); }});
+    trigger("Run script...");
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_TRUE(messageTexts().isEmpty());
+}
+
+TEST_F(ScriptWindow, theUserCanDoAllElseWhileAScriptRunsAndStopsIt)
+{
+    ASSERT_TRUE(run("open();"));
+    QStringList done;
+    std::vector<std::function<void()>> steps = {
+        [&] { trigger("Run assembler"); },
+        [&] { trigger("Configure..."); },
+        [&] { trigger("Configure..."); },
+        [&] { EXPECT_FALSE(action("Run script...")->isEnabled()); },
+        [&] { EXPECT_FALSE(run("test.note('second');")); },
+        [&] { run("config.closeDialog(true);"); },
+        [&] { trigger("Stop script"); },
+    };
+    size_t next = 0;
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &user, [&] {
+        if (next < steps.size())
+            steps[next++]();
+    });
+    user.start(1);
+    EXPECT_FALSE(run("var n = 0; while (true) { ++n; }"));
+    EXPECT_EQ(next, steps.size());
+    EXPECT_TRUE(hasMessage("A script is running already."));
+    EXPECT_TRUE(hasMessage("The script was stopped."));
+    EXPECT_EQ(notes("config.closeDialog(); test.note(assembler.isAssembled());"), QStringList("true"));
+}
+
+TEST_F(ScriptWindow, theUserClosesTheProjectUnderAScript)
+{
+    ASSERT_TRUE(run("open();"));
+    QTimer::singleShot(0, window.get(), [this] { trigger("Close project"); });
+    EXPECT_EQ(notes("while (project.isOpen()); test.note(processor.current()); test.note(project.path());\n"
+                    "test.note(failure(function() { assembler.assemble(1); }));\n"
+                    "test.note(failure(function() { simulator.enable(); }));\n"
+                    "test.note(open());"),
+              QStringList({"", "", "Error: No project is open.", "Error: No processor is selected.", "true"}));
+}
+
+TEST_F(ScriptWindow, aScriptClosesTheProjectThatItComesFrom)
+{
+    const QString path = writeFile("own.js", "test.note(project.path());\nproject.close();\nproject.close();\n"
+                                             "test.note(project.isOpen());\nopen();\nproject.hndlAction(2);\n"
+                                             "test.note(project.isOpen());\nproject.hndlAction(0);\n"
+                                             "project.hndlAction(17);\n");
+    ASSERT_TRUE(run("open();"));
+    script()->executeScriptFile(path);
+    EXPECT_EQ(target.notes, QStringList({project(), "false", "false"}));
+    EXPECT_TRUE(hasMessage("No project to close!"));
+}
+
+TEST_F(ScriptWindow, theWindowClosesWhenTheScriptHasEnded)
+{
+    ASSERT_TRUE(run("open();"));
+    bool wasVisible = false;
+    QTimer::singleShot(0, window.get(), [&] {
+        EXPECT_FALSE(closeWindow());
+        EXPECT_FALSE(closeWindow());
+        wasVisible = window->isVisible();
+    });
+    EXPECT_FALSE(run("while (true);"));
+    EXPECT_TRUE(wasVisible);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, patience));
+    // The exit phases have run.
+    EXPECT_TRUE(QFile::exists(settingsFile()));
+    EXPECT_FALSE(run("test.note('after');"));
+    EXPECT_TRUE(target.notes.isEmpty());
+}
+
+TEST_F(ScriptWindow, theWindowClosesUnderAConnectedFunctionToo)
+{
+    ASSERT_TRUE(run("app.windowTitleChanged.connect(function() { test.meanwhile(); while (true); });"));
+    bool closed = true;
+    target.during = [&] { closed = closeWindow(); };
+    ASSERT_FALSE(run("open();"));
+    EXPECT_FALSE(closed);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, patience));
+}
+
+TEST_F(ScriptWindow, functionsThatWaitDoNotRunAfterTheWindowHasClosed)
+{
+    ASSERT_TRUE(run("open(); setTimeout(function() { test.note('late'); }, 0);\n"
+                    "app.windowTitleChanged.connect(function() { test.note('title'); });"));
+    EXPECT_TRUE(closeWindow());
+    target.notes.clear();
+    settleLayout();
+    EXPECT_TRUE(target.notes.isEmpty());
+}
+
+TEST_F(ScriptWindow, theQuestionForAnUnsavedTextIsAskedDuringAScript)
+{
+    ASSERT_TRUE(run("open(); editor.openFile('" + projectDir() + "/multiply.psm'); editor.insertText('; new\\n');"));
+    ModalAnswers answers({[](QDialog* box) {
+        auto* question = qobject_cast<QMessageBox*>(box);
+        ASSERT_NE(question, nullptr);
+        EXPECT_EQ(question->windowTitle(), "File was modified");
+        question->button(QMessageBox::Yes)->click();
+    }});
+    EXPECT_TRUE(run("project.close();"));
+    EXPECT_EQ(answers.seen(), 1);
+    QFile file(projectDir() + "/multiply.psm");
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("; new\n"));
+}
+
+TEST_F(ScriptWindow, theWindowCanBeDeletedUnderAScript)
+{
+    ASSERT_TRUE(run("open();"));
+    nsModScript::ModScript* module = script();
+    QTimer::singleShot(0, [this] { window.reset(); });
+    EXPECT_FALSE(module->executeScript("while (true) { project.isOpen(); }"));
+    EXPECT_EQ(window, nullptr);
+    bool over = false;
+    QTimer::singleShot(100, [&over] { over = true; });
+    EXPECT_TRUE(QTest::qWaitFor([&over] { return over; }, patience));
+}
+
+TEST_F(ScriptWindow, theLinkOfAnErrorLeadsToTheLineOfTheScript)
+{
+    ASSERT_TRUE(run("open();"));
+    const QString path = writeFile("own.js", "1;\n2;\nnobody();\n");
+    script()->executeScriptFile(path);
+    QTreeWidgetItem* error = nullptr;
+    for (QTreeWidgetItemIterator it(messageView()); *it != nullptr; ++it) {
+        if ((*it)->text(0).startsWith("Uncaught exception at line 3 - "))
+            error = *it;
+    }
+    ASSERT_NE(error, nullptr);
+    EXPECT_EQ(error->text(2), "own.js#3");
+    settleAnimations();
+    messageView()->scrollToItem(error);
+    screenshot("scripts-error");
+    messageView()->scrollToItem(error);
+    ModalAnswers answers({});
+    QTest::mouseClick(messageView()->viewport(), Qt::LeftButton, Qt::NoModifier,
+                      messageView()->visualItemRect(error).center());
+    const auto& widgets = module<nsModEditor::ModEditor>()->editorWidgets();
+    ASSERT_FALSE(widgets.isEmpty());
+    EXPECT_EQ(widgets.last()->filePath(), path);
+    EXPECT_EQ(widgets.last()->textCursor().blockNumber(), 2);
+}
