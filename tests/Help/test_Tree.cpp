@@ -142,6 +142,56 @@ TEST(HelpEntries, EveryMessageIsExplained)
     }
 }
 
+/// What the pages say about messages, as one line.
+QString textOfEntries()
+{
+    QString text;
+    for (const QString& id : entryPages() + QStringList{"nalvoAsm", "nalvoSim"}) {
+        const HelpPage* page = HelpTree::page(id);
+        EXPECT_NE(page, nullptr) << id.toStdString();
+        if (page == nullptr)
+            continue;
+        text += page->intro;
+        for (const HelpAnchor& anchor : page->anchors)
+            text += anchor.title + ' ' + anchor.text;
+    }
+    return text.simplified();
+}
+
+/// The texts in double quotes of a piece of code, those that follow each other as one, without the places of arguments.
+QStringList textsOf(QString code)
+{
+    static const QRegularExpression joints("\"\\s*\"");
+    static const QRegularExpression literal("\"((?:[^\"\\\\]|\\\\.)*)\"");
+    static const QRegularExpression places("%\\d|\\\\n");
+    static const QRegularExpression end("[:.\\s]+$");
+    QStringList texts;
+    code.remove(joints);
+    QRegularExpressionMatchIterator it = literal.globalMatch(code);
+    while (it.hasNext()) {
+        for (QString text : it.next().captured(1).split(places)) {
+            text = text.trimmed().remove(end);
+            if (text.contains(' '))
+                texts.append(text);
+        }
+    }
+    return texts;
+}
+
+TEST(HelpEntries, EveryTextWithoutAKeyIsExplained)
+{
+    const QString entries = textOfEntries();
+    const QString calls = "(?:show(?:Error|Warning|Info)Message|openGroup)\\(([^;]*);";
+    int count = 0;
+    for (const auto& call : foundInCode("src", calls) + foundInCode("tools", calls)) {
+        for (const QString& text : textsOf(call.first)) {
+            EXPECT_TRUE(entries.contains(text)) << call.second.toStdString() << ": " << text.toStdString();
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 20);
+}
+
 TEST(HelpEntries, TheAssemblerPrintsThem)
 {
     const QTemporaryDir dir;
