@@ -3,12 +3,14 @@
 //     nalvo-help-build [--check | --site] <folder of the sources> <change log> <folder of the pictures> <output folder>
 //
 // Ends with 0 if all is written, with 1 and messages on the error stream otherwise. What is wrong between the pages is
-// reported; with --check it is a failure, and nothing is written. Pictures come from a run of the program, so that
+// reported; with --check it is a failure, nothing is written, and figures of the help are printed. Pictures come from a
+// run of the program, so that
 // --check, which needs no run, does not look for them.
 
 #include "CollectionWriter.h"
 #include "HelpSources.h"
 #include "LinkCheck.h"
+#include "MessageTables.h"
 #include "SiteWriter.h"
 
 #include <QCoreApplication>
@@ -45,6 +47,24 @@ QStringList copyPictures(const QString& pictureDir, const QVector<HelpPage>& pag
     return names;
 }
 
+/// Prints how much there is.
+void printFigures(const HelpSources& help)
+{
+    int places = 0;
+    int links = 0;
+    int examples = 0;
+    int keys = 0;
+    for (const HelpPage& page : help.pages()) {
+        places += page.anchors.size();
+        links += page.links.size();
+        examples += page.examples.size();
+    }
+    for (const QString& id : messagePages())
+        keys += messagesOfPage(id).size();
+    std::printf("%d pages, %d places, %d links, %d messages with a key, %d examples\n", int(help.pages().size()),
+                places, links, keys, examples);
+}
+
 template <class Writer>
 int write(const HelpSources& help, const QString& pictureDir, const QDir& out)
 {
@@ -71,8 +91,10 @@ int main(int argc, char* argv[])
     help.read(arguments.at(0), arguments.at(1));
     const QString pictureDir = arguments.at(2);
     const QStringList problems = help.errors() + checkPages(help.pages(), help.contents());
-    if (onlyCheck)
+    if (onlyCheck) {
+        printFigures(help);
         return problems.isEmpty() ? 0 : fail(problems);
+    }
     fail(problems + checkPictures(help.pages(), pictureDir));
     const QDir out(arguments.at(3));
     return isSite ? write<SiteWriter>(help, pictureDir, out) : write<CollectionWriter>(help, pictureDir, out);
