@@ -224,7 +224,8 @@ protected:
                                     : QStringLiteral("chromium-headless-shell");
         QProcess process;
         process.start(browser,
-                      {"--headless", "--no-sandbox", "--disable-gpu", "--disable-breakpad",
+                      {"--headless", "--no-sandbox", "--disable-gpu", "--disable-breakpad", "--disable-dev-shm-usage",
+                       "--disable-background-networking", "--host-resolver-rules=MAP * ~NOTFOUND",
                        "--user-data-dir=" + folder() + "/profile", "--enable-logging=stderr", "--dump-dom", url});
         sShown_t shown;
         EXPECT_TRUE(process.waitForStarted()) << "the Debian package chromium-headless-shell is not installed";
