@@ -37,7 +37,7 @@ constexpr sMsgText_t msgTexts[] = {
 };
 static_assert(isIndexedBy(msgTexts, &sMsgText_t::type, SyscallMsgHndlr::msgCount), "each message has its row");
 
-const sMsgText_t* msgText(SyscallMsgHndlr::eMsgType_t type)
+const sMsgText_t* rowOf(SyscallMsgHndlr::eMsgType_t type)
 {
     return type >= 0 && type < SyscallMsgHndlr::msgCount ? &msgTexts[type] : nullptr;
 }
@@ -52,7 +52,7 @@ SyscallMsgHndlr::SyscallMsgHndlr(QObject* parent)
 
 void SyscallMsgHndlr::signMsg(eMsgType_t type, const QString& arg)
 {
-    const sMsgText_t* text = msgText(type);
+    const sMsgText_t* text = rowOf(type);
     if (text == nullptr) {
         signInternalError(tr("Unsupported simulator message."));
         return;
@@ -93,8 +93,14 @@ void SyscallMsgHndlr::signInternalError(const QString& text)
 
 const char* SyscallMsgHndlr::msgKey(eMsgType_t type)
 {
-    const sMsgText_t* text = msgText(type);
+    const sMsgText_t* text = rowOf(type);
     return text != nullptr ? text->key : nullptr;
+}
+
+const char* SyscallMsgHndlr::msgText(eMsgType_t type)
+{
+    const sMsgText_t* row = rowOf(type);
+    return row != nullptr ? row->text : nullptr;
 }
 
 QUrl SyscallMsgHndlr::helpUrl(const char* key) const

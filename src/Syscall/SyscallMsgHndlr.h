@@ -46,6 +46,8 @@ public:
 
     /// Key of a message, as its help page knows it; null for an unknown value.
     static const char* msgKey(eMsgType_t type);
+    /// Its text as it is in the catalogue, with %1 for the argument; null for an unknown value.
+    static const char* msgText(eMsgType_t type);
 
 private:
     QUrl helpUrl(const char* key) const;
