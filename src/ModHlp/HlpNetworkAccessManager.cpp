@@ -78,7 +78,7 @@ QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
     }
     QUrl target = fileUrl('/' + page->path);
     if (!url.path().isEmpty())
-        target.setPath(target.path() + '/' + url.path());
+        target.setPath(target.path() + (url.path().startsWith('/') ? "" : "/") + url.path());
     if (url.hasFragment())
         target.setFragment(url.fragment());
     else if (!page->anchor.isEmpty())

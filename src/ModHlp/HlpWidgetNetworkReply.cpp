@@ -22,6 +22,16 @@ HlpWidgetNetworkReply::HlpWidgetNetworkReply(const QNetworkRequest& request, con
     // Whoever asked connects to the reply only after it has got it.
     QTimer::singleShot(0, this, &QNetworkReply::metaDataChanged);
     QTimer::singleShot(0, this, &QNetworkReply::readyRead);
+    // Who decides by the first 512 bytes what it has got reads nothing of a shorter file before it is finished.
+    QTimer::singleShot(0, this, &HlpWidgetNetworkReply::finish);
+}
+
+void HlpWidgetNetworkReply::finish()
+{
+    if (isFinished())
+        return;
+    setFinished(true);
+    emit finished();
 }
 
 qint64 HlpWidgetNetworkReply::readData(char* data, qint64 maxSize)
@@ -31,10 +41,8 @@ qint64 HlpWidgetNetworkReply::readData(char* data, qint64 maxSize)
         std::memcpy(data, m_data.constData(), size_t(size));
         m_data.remove(0, int(size));
     }
-    if (m_data.isEmpty() && !isFinished()) {
-        setFinished(true);
-        QTimer::singleShot(0, this, &QNetworkReply::finished);
-    }
+    if (m_data.isEmpty())
+        QTimer::singleShot(0, this, &HlpWidgetNetworkReply::finish);
     return size;
 }
 

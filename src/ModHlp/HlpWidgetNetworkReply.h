@@ -23,6 +23,8 @@ protected:
     qint64 readData(char* data, qint64 maxSize) override;
 
 private:
+    void finish();
+
     QByteArray m_data; ///< what has not been read yet
 };
 

@@ -48,8 +48,12 @@ void ModHlp::modRegisterPlugins(QList<ModPluginIf*> modules)
 
 void ModHlp::registerPlugin(ModHlpPluginIf* plugin)
 {
-    if (m_plugins.add(plugin))
-        plugin->modHlpHook = this;
+    if (!m_plugins.add(plugin))
+        return;
+    plugin->modHlpHook = this;
+    // If the window is deleted without the exit phases, modules outlive this one and still have dialogs to close.
+    if (auto* client = dynamic_cast<QObject*>(plugin))
+        connect(this, &QObject::destroyed, client, [plugin] { plugin->modHlpHook = nullptr; });
 }
 
 void ModHlp::modInit()
@@ -69,8 +73,9 @@ void ModHlp::modInit()
 bool ModHlp::setupData()
 {
     // A link to the program leads to the folder that the help was shipped with.
-    const QString program = QFileInfo(QCoreApplication::applicationFilePath()).canonicalFilePath();
-    const QString dir = program.isEmpty() ? QCoreApplication::applicationDirPath() : QFileInfo(program).path();
+    const QString file = m_programFile.isEmpty() ? QCoreApplication::applicationFilePath() : m_programFile;
+    const QString program = QFileInfo(file).canonicalFilePath();
+    const QString dir = QFileInfo(program.isEmpty() ? file : program).path();
     const bool success = m_collection.open(HlpCollection::find(dir));
     m_network->setEngine(m_collection.engine());
     return success;

@@ -60,8 +60,10 @@ public:
     explicit ModHlp(QObject* parent = nullptr);
     ~ModHlp() override;
 
-    /// Opens the collection of the running program. @return false: there is none that can be used
+    /// Opens the collection that belongs to the program file. @return false: there is none that can be used
     bool setupData();
+    /// The program file beside which the collection lies, instead of the running one. Before modInitIntermod().
+    void setProgramFile(const QString& file) { m_programFile = file; }
     /// The open pages of the centre, in the order in which they were opened.
     QList<HlpWidget*> pages() const { return m_pages; }
     HlpNetworkAccessManager* network() const { return m_network; }
@@ -169,6 +171,7 @@ private:
     QUrl urlOfWord(const QString& word) const;
 
     PluginList<ModHlpPluginIf> m_plugins;
+    QString m_programFile; ///< empty: the running program
     HlpCollection m_collection;
     HlpNetworkAccessManager* m_network;
     HlpActionsHelp* m_actionsHelp = nullptr;

@@ -14,6 +14,7 @@
 #include <QHelpLink>
 #include <QNetworkProxy>
 #include <QPlainTextEdit>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QWebView>
 #include <QWhatsThis>
@@ -184,6 +185,13 @@ const struct
     {"Lattice Mico8 v3.x", "instrlmico8v3x.html"},
 };
 
+/// Is this a section about a word of the language, or a message? A label may be named as any section of the others.
+bool explainsWord(const QUrl& url)
+{
+    static const QRegularExpression pages(QStringLiteral("^(instr|lang).*\\.html$|messages\\.html$"));
+    return url.hasFragment() && pages.match(url.fileName()).hasMatch();
+}
+
 /// The word at the cursor, with the number sign of a directive.
 QString wordAt(const QPlainTextEdit& text)
 {
@@ -213,9 +221,12 @@ QUrl ModHlp::urlOfWord(const QString& word) const
 {
     if (m_collection.engine() == nullptr || word.isEmpty())
         return QUrl();
-    QList<QHelpLink> links;
+    QList<QUrl> links;
     for (const QString& id : {word, word.toUpper(), '#' + word.toUpper()}) {
-        links = m_collection.engine()->documentsForIdentifier(id);
+        for (const QHelpLink& link : m_collection.engine()->documentsForIdentifier(id)) {
+            if (explainsWord(link.url))
+                links.append(link.url);
+        }
         if (!links.isEmpty())
             break;
     }
@@ -225,12 +236,12 @@ QUrl ModHlp::urlOfWord(const QString& word) const
     for (const auto& page : instructionPages) {
         if (processor != QLatin1String(page.processor))
             continue;
-        for (const QHelpLink& link : qAsConst(links)) {
-            if (link.url.path().endsWith(QLatin1String(page.file)))
-                return link.url;
+        for (const QUrl& link : qAsConst(links)) {
+            if (link.fileName() == QLatin1String(page.file))
+                return link;
         }
     }
-    return links.isEmpty() ? QUrl() : links.first().url;
+    return links.isEmpty() ? QUrl() : links.first();
 }
 
 void ModHlp::explainWord(const QString& word)
