@@ -2,6 +2,8 @@
 
 #include "ScriptWindow.h"
 
+#include "ModMsgHookIf.h"
+
 #include <QMetaMethod>
 #include <QRegularExpression>
 #include <QSet>

@@ -9,8 +9,11 @@
 #include "ModGuiHookIf.h"
 #include "RecoveryStore.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QFile>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
@@ -24,6 +27,7 @@ using nsModEditor::EditorWidget;
 using Field = std::pair<const char*, const char*>;
 
 const qreal menuOverlap = 4;
+const QSize compareSize(960, 420);
 
 /// @param name below the folder of the sources of the UART monitor
 EditorWidget* openSource(PictureWindow& stage, const char* name)
@@ -51,6 +55,7 @@ void takeWindow(PictureWindow& stage)
     openSource(stage, "main.psm");
     EditorWidget* document = openSource(stage, "uart.psm");
     stage.trigger(QStringLiteral("Run assembler"));
+    PictureWindow::rest();
     if (document != nullptr)
         document->setCursorToLine(19);
     auto* constants = stage.window()->findChild<QTreeView*>(QStringLiteral("equListView"));
@@ -67,6 +72,7 @@ void takeEditor(PictureWindow& stage)
     if (document == nullptr)
         return;
     stage.trigger(QStringLiteral("Run assembler"));
+    PictureWindow::rest();
     // With breakpoints, a start mark and a bookmark.
     editor->simEn(true);
     document->setSimBreakpoint(15);
@@ -86,9 +92,13 @@ void takeEditor(PictureWindow& stage)
             line->setText(QLatin1String(text.second));
     }
     stage.trigger(QStringLiteral("Find next"));
+    PictureWindow::rest();
     QWidget* center = stage.window()->centralWidget();
     stage.take(QStringLiteral("editorFindReplace"), center);
-    stage.trigger(QStringLiteral("Find"));
+    if (auto* bar = stage.widget(QStringLiteral("findReplaceWidget"))) {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(bar->findChild<QLineEdit*>(QStringLiteral("editFind")), &escape);
+    }
 
     nsModEditor::EditorSupportMenu* menus = editor->supportMenu();
     const std::pair<QMenu*, QMenu*> menu(menus->menu, menus->node({QStringLiteral("Directives")})->menu);
@@ -126,7 +136,7 @@ void keepTexts(PictureWindow& stage)
     } texts[] = {
         {"timer.psm", RecoveryStore::eKindDropped, "TIMER_RUN", "TIMER_RUN"},
         {"uart.psm", RecoveryStore::eKindUnsaved, "        JUMP    NZ, send\n",
-         "        JUMP    NZ, send            ; until there is room\n"},
+         "        JUMP    NZ, send    ; no room yet\n"},
     };
     RecoveryStore store;
     for (const auto& text : texts) {
@@ -156,10 +166,17 @@ void takeRecovery(PictureWindow& stage)
             list->topLevelItem(row)->setText(1, moments.value(row));
         for (int column = 0; column < 3; ++column)
             list->resizeColumnToContents(column);
+        dialog->resize(dialog->width(), dialog->sizeHint().height());
         stage.take(QStringLiteral("recovery"), dialog);
         compare->click();
     });
-    stage.onDialog(QStringLiteral("textCompareDialog"),
-                   [&stage](QDialog* dialog) { stage.take(QStringLiteral("textCompare"), dialog); });
+    stage.onDialog(QStringLiteral("textCompareDialog"), [&stage](QDialog* dialog) {
+        for (QLabel* label : dialog->findChildren<QLabel*>()) {
+            if (label->text().startsWith(QLatin1String("Kept on ")))
+                label->setText(QStringLiteral("Kept on 12 Mar 2026 17:42:06"));
+        }
+        dialog->resize(compareSize);
+        stage.take(QStringLiteral("textCompare"), dialog);
+    });
     stage.trigger(QStringLiteral("Recover text..."));
 }

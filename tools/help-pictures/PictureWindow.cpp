@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDirIterator>
+#include <QDockWidget>
 #include <QEventLoop>
 #include <QLabel>
 #include <QLineEdit>
@@ -23,8 +24,7 @@
 
 namespace {
 
-const int width = 1120;
-const int height = 700;
+const int layoutRounds = 8;
 const int dialogInterval = 10; ///< milliseconds between two looks
 const int restTime = 300;      ///< milliseconds, more than any animation of the window takes
 
@@ -47,6 +47,8 @@ void copyFolder(const QString& from, const QString& to)
 
 } // namespace
 
+const QSize PictureWindow::fullSize(1120, 700);
+
 PictureWindow::PictureWindow(const QString& examples, const QString& output)
     : m_projects(m_home.path() + QStringLiteral("/home/me/projects"))
     , m_output(output)
@@ -57,8 +59,8 @@ PictureWindow::PictureWindow(const QString& examples, const QString& output)
         qputenv(variable, m_home.filePath(QLatin1String(variable)).toLocal8Bit());
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_home.filePath(QStringLiteral("settings")));
     QSettings settings(m_home.filePath(QStringLiteral("settings/Brelmont/Nalvo.ini")), QSettings::IniFormat);
-    settings.setValue(QStringLiteral("ModGui/width"), QString::number(width));
-    settings.setValue(QStringLiteral("ModGui/height"), QString::number(height));
+    settings.setValue(QStringLiteral("ModGui/width"), QString::number(fullSize.width()));
+    settings.setValue(QStringLiteral("ModGui/height"), QString::number(fullSize.height()));
     // Nothing is asked of the network, and there is no help yet.
     for (const char* key : {"ModSwUpdate/updateCheckInterval", "ModHlp/showGettingStarted", "ModHlp/hlpIndexSideRight"})
         settings.setValue(QLatin1String(key), QStringLiteral("0"));
@@ -112,7 +114,28 @@ void PictureWindow::trigger(const QString& text)
     fail(text + QStringLiteral(": there is no such action that can be used"));
 }
 
+void PictureWindow::resize(const QSize& size)
+{
+    m_window->resize(size);
+    settle();
+}
+
+void PictureWindow::setBottomHeight(int height)
+{
+    m_window->resizeDocks({m_window->findChild<QDockWidget*>(QStringLiteral("dockBottom"))}, {height}, Qt::Vertical);
+    settle();
+}
+
 void PictureWindow::settle()
+{
+    // A layout that changes a size posts the events of the next one.
+    for (int round = 0; round < layoutRounds; ++round) {
+        QApplication::sendPostedEvents();
+        QApplication::processEvents();
+    }
+}
+
+void PictureWindow::rest()
 {
     // All animations share one clock: the one that starts last and takes longest ends last.
     QVariantAnimation last;
@@ -123,8 +146,7 @@ void PictureWindow::settle()
     QObject::connect(&last, &QVariantAnimation::finished, &loop, &QEventLoop::quit);
     last.start();
     loop.exec();
-    QApplication::sendPostedEvents();
-    QApplication::processEvents();
+    settle();
 }
 
 void PictureWindow::onDialog(const QString& name, std::function<void(QDialog*)> function)

@@ -3,6 +3,7 @@
 #include "ModPluginIf.h"
 #include "Nalvo.h"
 
+#include <QSize>
 #include <QStringList>
 #include <QTemporaryDir>
 
@@ -45,8 +46,15 @@ public:
     void open(const QString& name);
     /// Triggers the entry of a menu with this text. One that can not be used is a failure.
     void trigger(const QString& text);
-    /// Lets layouts and animations come to rest.
+    /// Of the whole window.
+    static const QSize fullSize;
+    void resize(const QSize& size);
+    /// Gives the dock at the bottom this height.
+    void setBottomHeight(int height);
+    /// Lets layouts come to rest.
     static void settle();
+    /// Lets animations end, too: branches of a tree that unfold, buttons that fade in.
+    static void rest();
     /// What to do with the next modal dialog, which must be the one with this object name. If it is left open, it is
     /// rejected.
     void onDialog(const QString& name, std::function<void(QDialog*)> function);

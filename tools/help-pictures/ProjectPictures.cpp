@@ -19,6 +19,10 @@ namespace {
 const ModGuiHookIf::eLocation_t docks[] = {ModGuiHookIf::eLocationDockLeft, ModGuiHookIf::eLocationDockRight,
                                            ModGuiHookIf::eLocationDockBottom};
 
+/// Of the window when it shows nothing but a page.
+const QSize pageSize(880, 640);
+const int messagesHeight = 260;
+
 void showDocks(PictureWindow& stage, bool visible)
 {
     for (const ModGuiHookIf::eLocation_t dock : docks)
@@ -34,7 +38,7 @@ void takePage(PictureWindow& stage, const QString& title, const QString& name, b
         return;
     if (isDefault) {
         for (QPushButton* button : dialog->findChildren<QPushButton*>()) {
-            if (button->text().remove('&') == QLatin1String("Set default"))
+            if (button->text().remove('&') == QLatin1String("Set page default values"))
                 button->click();
         }
     }
@@ -45,6 +49,8 @@ void takePage(PictureWindow& stage, const QString& title, const QString& name, b
 
 void takeProjectManager(PictureWindow& stage)
 {
+    stage.resize(pageSize);
+    showDocks(stage, false);
     auto* prj = stage.module<nsModPrj::ModPrj>();
     prj->prjMngrSetup();
     for (const char* name : {"uart_monitor", "motor_control", "keypad_lock"})
@@ -52,10 +58,13 @@ void takeProjectManager(PictureWindow& stage)
     prj->prjMngrSetMode(nsModPrj::ModPrj::eModeOpen);
     stage.take(QStringLiteral("projectManager"), stage.widget(QStringLiteral("prjMngr")));
     prj->prjMngrClose();
+    showDocks(stage, true);
+    stage.resize(PictureWindow::fullSize);
 }
 
 void takeSettings(PictureWindow& stage)
 {
+    stage.resize(pageSize);
     stage.open(QStringLiteral("uart_monitor"));
     showDocks(stage, false);
     takePage(stage, QStringLiteral("Info"), QStringLiteral("configPagePrjInfo"));
@@ -69,6 +78,7 @@ void takeSettings(PictureWindow& stage)
     takePage(stage, QStringLiteral("Help"), QStringLiteral("configPageHelp"), true);
     stage.module<ModConfigHookIf>()->closeDialog(false);
     showDocks(stage, true);
+    stage.resize(PictureWindow::fullSize);
 }
 
 void takeProcessorSettings(PictureWindow& stage)
@@ -102,7 +112,11 @@ void takeMessages(PictureWindow& stage)
     file.close();
     stage.open(QStringLiteral("uart_monitor"));
     stage.trigger(QStringLiteral("Run assembler"));
+    PictureWindow::rest();
+    stage.resize(pageSize);
+    stage.setBottomHeight(messagesHeight);
     stage.take(QStringLiteral("messageView"), stage.widget(QStringLiteral("dockBottom")));
+    stage.resize(PictureWindow::fullSize);
     if (file.open(QIODevice::WriteOnly))
         file.write(before);
     file.close();
@@ -112,25 +126,32 @@ void takeDeviceMaps(PictureWindow& stage)
 {
     stage.open(QStringLiteral("split_rams"));
     stage.trigger(QStringLiteral("Run assembler"));
+    PictureWindow::rest();
     auto* maps = stage.window()->findChild<QWidget*>(QStringLiteral("ioDevViewerList"));
     stage.module<ModGuiHookIf>()->setCurrentWidget(maps);
+    stage.module<ModGuiHookIf>()->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, false);
     stage.take(QStringLiteral("deviceMaps"), maps);
+    stage.module<ModGuiHookIf>()->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, true);
 }
 
 void takeExternalPrograms(PictureWindow& stage)
 {
     stage.open(QStringLiteral("check_hex"));
     stage.trigger(QStringLiteral("Run assembler"));
+    PictureWindow::rest();
     stage.onDialog(QStringLiteral("consentQuestion"), [](QDialog* dialog) {
         if (auto* buttons = dialog->findChild<QDialogButtonBox*>())
             buttons->button(QDialogButtonBox::Yes)->click();
     });
     stage.trigger(QStringLiteral("Write output files button 2"));
+    PictureWindow::rest();
     auto* monitor = stage.window()->findChild<QWidget*>(QStringLiteral("syscallMonitor"));
     stage.module<ModGuiHookIf>()->setCurrentWidget(monitor);
+    stage.resize(pageSize);
     stage.take(QStringLiteral("externalPrograms"), stage.widget(QStringLiteral("dockBottom")));
     showDocks(stage, false);
     takePage(stage, QStringLiteral("Ext progs"), QStringLiteral("configPageSyscall"));
     stage.module<ModConfigHookIf>()->closeDialog(false);
     showDocks(stage, true);
+    stage.resize(PictureWindow::fullSize);
 }

@@ -15,13 +15,18 @@
 #include "ProcSimWaveViewer.h"
 
 #include <QAbstractButton>
+#include <QApplication>
+#include <QMouseEvent>
 
 namespace {
 
 using nsProc::ProcSimIOPluginIf;
 using nsProc::ProcSimPorts;
 
-const int maxSteps = 20000;
+/// Up to a call within a call.
+const int stepCount = 400;
+const int wavesHeight = 230;
+const int stackHeight = 150;
 
 nsProc::ProcSim* simOf(const PictureWindow& stage)
 {
@@ -50,6 +55,15 @@ void addDevices(nsProc::ProcSim* sim)
     }
 }
 
+void clickAt(QWidget* widget, const QPoint& pos)
+{
+    for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        QMouseEvent event(type, pos, Qt::LeftButton, type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                          Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+}
+
 } // namespace
 
 void takeSimulator(PictureWindow& stage)
@@ -63,18 +77,25 @@ void takeSimulator(PictureWindow& stage)
     sim->showWaveViewer();
     for (int addr = 1; addr <= 3 && sim->waveViewer() != nullptr; ++addr)
         sim->waveViewer()->addAddrChannel(addr, nsProc::ProcSimWaveData::eAccessWr, -1, QString());
-    for (int step = 0; step < maxSteps; ++step)
+    for (int step = 0; step < stepCount; ++step)
         stage.trigger(next);
     auto* gui = stage.module<ModGuiHookIf>();
     if (auto* fit = sim->waveViewer()->findChild<QAbstractButton*>(QStringLiteral("procSimWaveZoomFit")))
         fit->click();
     gui->setCurrentWidget(sim->waveViewer());
+    stage.setBottomHeight(wavesHeight);
+    if (auto* waves = sim->waveViewer()->findChild<QWidget*>(QStringLiteral("procSimWaves")))
+        clickAt(waves, QPoint(waves->width() / 2, waves->height() / 2));
     stage.take(QStringLiteral("simulatorWaves"), sim->waveViewer());
     gui->setCurrentWidget(sim->callStackWidget());
+    stage.setBottomHeight(stackHeight);
     stage.take(QStringLiteral("simulator"), stage.window());
+    // The panels at the sides as a user has them who looks at them alone.
+    gui->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, false);
     gui->setCurrentWidget(sim->coreWidget());
     stage.take(QStringLiteral("simulatorState"), sim->coreWidget());
     gui->setCurrentWidget(sim->ioWidget());
     stage.take(QStringLiteral("simulatorDevices"), sim->ioWidget());
+    gui->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, true);
     stage.trigger(QStringLiteral("Enable/disable simulator"));
 }
