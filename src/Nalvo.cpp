@@ -1,5 +1,6 @@
 #include "Nalvo.h"
 
+#include "HelpRef.h"
 #include "ModAction.h"
 #include "ModArgs.h"
 #include "ModAsmFe.h"
@@ -37,6 +38,7 @@ Nalvo::Nalvo(int, char**)
     : QMainWindow(nullptr)
 {
     initResources();
+    HelpRef::set(this, QStringLiteral("pageId://mainWindow"));
     QCoreApplication::setOrganizationName(QStringLiteral("Brelmont"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("brelmont.example"));
     QCoreApplication::setApplicationName(QStringLiteral("Nalvo"));

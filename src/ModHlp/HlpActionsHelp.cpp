@@ -10,6 +10,9 @@ HlpActionsHelp::HlpActionsHelp(QObject* parent)
         {eActionContext, QT_TR_NOOP("Explain"),
          QT_TR_NOOP("Explains the word at the cursor, or the part of the window that has the keyboard focus"), nullptr,
          "F1"},
+        {eActionWhatsThis, QT_TR_NOOP("What's this"),
+         QT_TR_NOOP("Says what the field with the keyboard focus is, or the one that is clicked next"), nullptr,
+         "Shift+F1"},
         {eActionAbout, QT_TR_NOOP("About"), QT_TR_NOOP("View about information"), "about"},
     });
 }

@@ -10,7 +10,7 @@ class HlpActionsHelp : public ActionGroup
     Q_OBJECT
 
 public:
-    enum eAction_t { eActionOnlineHelp = 0, eActionAbout = 1, eActionContext = 2 };
+    enum eAction_t { eActionOnlineHelp = 0, eActionAbout = 1, eActionContext = 2, eActionWhatsThis = 3 };
     Q_ENUM(eAction_t)
 
     explicit HlpActionsHelp(QObject* parent = nullptr);

@@ -1,5 +1,7 @@
 #include "HlpIndexWidget.h"
 
+#include "HelpRef.h"
+
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QHBoxLayout>
@@ -30,6 +32,7 @@ HlpIndexWidget::HlpIndexWidget(QHelpEngine* engine, QWidget* parent)
     , m_tabs(new QTabWidget)
 {
     setObjectName(QStringLiteral("hlpIndex"));
+    HelpRef::set(this, QStringLiteral("pageId://gettingStarted"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);

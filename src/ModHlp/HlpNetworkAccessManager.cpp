@@ -5,6 +5,8 @@
 #include <QDebug>
 #include <QHelpEngineCore>
 #include <QNetworkRequest>
+#include <QRegularExpression>
+#include <QTextDocumentFragment>
 #include <QUrlQuery>
 #include <QWebFrame>
 
@@ -21,7 +23,9 @@ QString escaped(QString text)
     return text.replace('\\', QLatin1String("\\\\"))
         .replace('"', QLatin1String("\\\""))
         .replace('\n', QLatin1String("\\n"))
-        .replace('\r', QLatin1String("\\r"));
+        .replace('\r', QLatin1String("\\r"))
+        .replace(QChar::LineSeparator, QLatin1String("\\u2028"))
+        .replace(QChar::ParagraphSeparator, QLatin1String("\\u2029"));
 }
 
 const QString schemePage = QStringLiteral("pageid");
@@ -70,7 +74,7 @@ QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
     const auto page = m_pages.constFind(url.host().toLower());
     if (page == m_pages.constEnd()) {
         qDebug() << "HlpNetworkAccessManager::createRequest - page not found:" << url;
-        return fileUrl('/' + m_pages.value(QLatin1String(unknownPage)).path);
+        return unknownPageUrl();
     }
     QUrl target = fileUrl('/' + page->path);
     if (!url.path().isEmpty())
@@ -80,6 +84,34 @@ QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
     else if (!page->anchor.isEmpty())
         target.setFragment(page->anchor);
     return target;
+}
+
+QUrl HlpNetworkAccessManager::unknownPageUrl() const
+{
+    return fileUrl('/' + m_pages.value(QLatin1String(unknownPage)).path);
+}
+
+bool HlpNetworkAccessManager::isOfCollection(const QUrl& url) const
+{
+    return url.scheme() == schemeHelp && url.host().compare(hlpNamespace, Qt::CaseInsensitive) == 0;
+}
+
+QUrl HlpNetworkAccessManager::pageOf(const QUrl& url) const
+{
+    const QUrl page = resolved(url);
+    if (isOfCollection(page))
+        return page;
+    qDebug() << "HlpNetworkAccessManager::pageOf - no page of the help:" << url;
+    return unknownPageUrl();
+}
+
+QString HlpNetworkAccessManager::titleOf(const QUrl& page) const
+{
+    static const QRegularExpression title(QStringLiteral("<title>([^<]*)</title>"));
+    // It stands at the start of each page; the end of a long one is not decoded.
+    const int headSize = 2048;
+    const QByteArray head = fileData(page.adjusted(QUrl::RemoveFragment)).left(headSize);
+    return QTextDocumentFragment::fromHtml(title.match(QString::fromUtf8(head)).captured(1)).toPlainText();
 }
 
 QString HlpNetworkAccessManager::scriptCall(const QUrl& url)
@@ -123,7 +155,7 @@ QString HlpNetworkAccessManager::mimeType(const QUrl& url)
 bool HlpNetworkAccessManager::runScriptLink(const QUrl& url, const QWebFrame* frame)
 {
     // Only what was shipped with the program may act on it.
-    if (url.scheme() != schemeScript || frame == nullptr || frame->url().scheme() != schemeHelp)
+    if (url.scheme() != schemeScript || frame == nullptr || !isOfCollection(frame->url()))
         return false;
     emit callScript(scriptCall(url));
     return true;

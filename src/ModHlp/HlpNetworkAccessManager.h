@@ -12,8 +12,7 @@ class QWebFrame;
 namespace nsModHlp {
 
 /// What the help pages load, and nothing else: pages of the collection by their ids ("pageid://"), files of the
-/// collection
-/// ("qthelp://"), and calls of script functions ("script://").
+/// collection ("qthelp://"), and calls of script functions ("script://").
 class HlpNetworkAccessManager : public QNetworkAccessManager, public HlpCollectionDescription
 {
     Q_OBJECT
@@ -35,6 +34,13 @@ public:
 
     /// The URL in the collection that a URL with a page id leads to; other URLs are returned as they are.
     QUrl resolved(const QUrl& url) const;
+    /// Is this a file of the collection, by its name? It need not exist.
+    bool isOfCollection(const QUrl& url) const;
+    /// Where a request for a page leads: its URL in the collection. Any other URL leads to the page about internal
+    /// errors.
+    QUrl pageOf(const QUrl& url) const;
+    /// The title of a page of the collection; empty if there is none.
+    QString titleOf(const QUrl& page) const;
     /// The call of a script function that a URL of the scheme "script" stands for.
     static QString scriptCall(const QUrl& url);
     /// Calls the script function of a link of the scheme "script".
@@ -53,6 +59,7 @@ protected:
 
 private:
     QUrl fileUrl(const QString& path) const;
+    QUrl unknownPageUrl() const;
     void readPageTable();
     QByteArray fileData(const QUrl& url) const;
 

@@ -21,7 +21,9 @@ bool HlpWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest
 {
     const QUrl url = request.url();
     if (url.scheme() == QLatin1String("script")) {
-        m_manager->runScriptLink(url, frame);
+        // The user has followed a link; nothing that is opened by its name calls a script.
+        if (type == NavigationTypeLinkClicked)
+            m_manager->runScriptLink(url, frame);
         return false;
     }
     if (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https")) {
@@ -29,7 +31,7 @@ bool HlpWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest
             QDesktopServices::openUrl(url);
         return false;
     }
-    if (url.scheme() != QLatin1String("qthelp") && url.scheme() != QLatin1String("pageid"))
+    if (url.scheme() != QLatin1String("pageid") && !m_manager->isOfCollection(url))
         return false;
     if (type == NavigationTypeLinkClicked)
         emit linkFollowed(url);

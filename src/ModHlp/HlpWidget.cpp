@@ -1,8 +1,10 @@
 #include "HlpWidget.h"
 
+#include "HelpRef.h"
 #include "HlpNetworkAccessManager.h"
 #include "HlpWebView.h"
 
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWebHistory>
 #include <QWheelEvent>
@@ -20,64 +22,93 @@ const qreal zoomStep = 0.1;
 HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
     : QWidget(parent)
     , m_manager(manager)
-    , m_view(nullptr)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    HelpRef::set(this, QStringLiteral("pageId://gettingStarted"));
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+}
+
+QWebView* HlpWidget::view()
+{
+    if (m_view == nullptr)
+        makeView();
+    return m_view;
+}
+
+void HlpWidget::makeView()
 {
     auto* view = new HlpWebView(this);
-    auto* page = new HlpWebPage(manager, view);
+    auto* page = new HlpWebPage(m_manager, view);
     view->setPage(page);
     view->setContextMenuPolicy(Qt::NoContextMenu);
     m_view = view;
-    setFocusProxy(m_view);
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_view);
+    layout()->addWidget(view);
+    const bool hasFocus = this->hasFocus();
+    setFocusProxy(view);
+    if (hasFocus)
+        view->setFocus();
     connect(view, &HlpWebView::newPage, this, &HlpWidget::newPage);
     connect(page, &HlpWebPage::linkFollowed, this, &HlpWidget::linkClicked);
     const auto changed = [this] { emit actionChanged(this); };
-    connect(m_view, &QWebView::urlChanged, this, changed);
-    connect(m_view, &QWebView::loadFinished, this, changed);
+    connect(view, &QWebView::urlChanged, this, changed);
+    connect(view, &QWebView::loadFinished, this, changed);
     connect(page, &QWebPage::selectionChanged, this, changed);
-    connect(m_view, &QWebView::titleChanged, this, [this](const QString& title) {
+    connect(view, &QWebView::titleChanged, this, [this](const QString& title) {
         if (!title.isEmpty())
             emit titleChanged(this, title);
     });
+    if (!m_target.isEmpty())
+        view->load(m_target);
+}
+
+void HlpWidget::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // The window is painted first.
+    if (m_view == nullptr)
+        QTimer::singleShot(0, this, [this] { view(); });
 }
 
 void HlpWidget::setSource(const QUrl& url)
 {
-    m_target = url;
     // By its real name, to which the links in the page are relative.
-    m_view->load(m_manager->resolved(url));
+    m_target = m_manager->pageOf(url);
+    if (m_view != nullptr)
+        m_view->load(m_target);
+    const QString name = m_manager->titleOf(m_target);
+    if (!name.isEmpty())
+        emit titleChanged(this, name);
 }
 
 QUrl HlpWidget::source() const
 {
-    return m_view->url().isEmpty() ? m_target : m_view->url();
+    return m_view == nullptr || m_view->url().isEmpty() ? m_target : m_view->url();
 }
 
 QString HlpWidget::title() const
 {
-    return m_view->title();
+    return m_view != nullptr && !m_view->title().isEmpty() ? m_view->title() : m_manager->titleOf(source());
 }
 
 bool HlpWidget::canGoBack() const
 {
-    return m_view->history()->canGoBack();
+    return m_view != nullptr && m_view->history()->canGoBack();
 }
 
 bool HlpWidget::canGoForward() const
 {
-    return m_view->history()->canGoForward();
+    return m_view != nullptr && m_view->history()->canGoForward();
 }
 
 bool HlpWidget::hasSelection() const
 {
-    return m_view->hasSelection();
+    return m_view != nullptr && m_view->hasSelection();
 }
 
 QString HlpWidget::selectedText() const
 {
-    return m_view->selectedText();
+    return m_view != nullptr ? m_view->selectedText() : QString();
 }
 
 bool HlpWidget::find(const QString& text, bool backwards, bool caseSensitive, bool wrap)
@@ -86,27 +117,30 @@ bool HlpWidget::find(const QString& text, bool backwards, bool caseSensitive, bo
     flags.setFlag(QWebPage::FindBackward, backwards);
     flags.setFlag(QWebPage::FindCaseSensitively, caseSensitive);
     flags.setFlag(QWebPage::FindWrapsAroundDocument, wrap);
-    return m_view->findText(text, flags);
+    return view()->findText(text, flags);
 }
 
 void HlpWidget::goBack()
 {
-    m_view->back();
+    if (m_view != nullptr)
+        m_view->back();
 }
 
 void HlpWidget::goForward()
 {
-    m_view->forward();
+    if (m_view != nullptr)
+        m_view->forward();
 }
 
 void HlpWidget::copy()
 {
-    m_view->triggerPageAction(QWebPage::Copy);
+    if (m_view != nullptr)
+        m_view->triggerPageAction(QWebPage::Copy);
 }
 
 void HlpWidget::zoom(int steps)
 {
-    m_view->setZoomFactor(qBound(minZoom, m_view->zoomFactor() + steps * zoomStep, maxZoom));
+    view()->setZoomFactor(qBound(minZoom, view()->zoomFactor() + steps * zoomStep, maxZoom));
 }
 
 void HlpWidget::wheelEvent(QWheelEvent* event)

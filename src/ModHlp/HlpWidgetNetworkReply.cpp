@@ -31,7 +31,7 @@ qint64 HlpWidgetNetworkReply::readData(char* data, qint64 maxSize)
         std::memcpy(data, m_data.constData(), size_t(size));
         m_data.remove(0, int(size));
     }
-    if (m_data.isEmpty()) {
+    if (m_data.isEmpty() && !isFinished()) {
         setFinished(true);
         QTimer::singleShot(0, this, &QNetworkReply::finished);
     }

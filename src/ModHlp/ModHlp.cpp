@@ -25,6 +25,7 @@ const QUrl pageAbout(QStringLiteral("pageid://about"));
 ModHlp::ModHlp(QObject* parent)
     : QObject(parent)
     , m_network(new HlpNetworkAccessManager(this))
+    , m_closedPages(new QWidget)
 {
     connect(m_network, &HlpNetworkAccessManager::callScript, this, &ModHlp::callScript);
 }
@@ -32,12 +33,11 @@ ModHlp::ModHlp(QObject* parent)
 ModHlp::~ModHlp()
 {
     // If the window is deleted without the exit phases, the network manager must outlive what loads through it.
-    for (QWidget* page : qAsConst(m_pages))
+    for (QWidget* page : QList<HlpWidget*>(m_pages) + m_dialogPages.values()) {
+        page->disconnect(this);
         delete page;
-    for (QWidget* page : qAsConst(m_dialogPages))
-        delete page;
-    if (m_index != nullptr && m_index->parent() == nullptr)
-        delete m_index;
+    }
+    delete m_index;
     delete m_configPage;
 }
 
@@ -57,6 +57,9 @@ void ModHlp::modInit()
     m_actionsHelp = new HlpActionsHelp(this);
     m_actionsNavi = new HlpActionsNavi(this);
     m_actionsNavi->setEnabled(false);
+    // The links of short texts are reported to the widget, and up to its window.
+    if (parent() != nullptr)
+        parent()->installEventFilter(this);
     connect(m_actionsHelp, SIGNAL(triggered(nsModHlp::HlpActionsHelp::eAction_t)), this,
             SLOT(handleActions(nsModHlp::HlpActionsHelp::eAction_t)));
     connect(m_actionsNavi, SIGNAL(triggered(nsModHlp::HlpActionsNavi::eAction_t)), this,
@@ -92,6 +95,7 @@ void ModHlp::modExitIntermod()
 {
     if (modMsgHook != nullptr)
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrHelp, this);
+    m_lastPages = openPages();
     closeAllFiles();
     for (QWidget* dialog : m_dialogPages.keys())
         closeDialogHlp(dialog);
@@ -199,6 +203,9 @@ void ModHlp::handleActions(HlpActionsHelp::eAction_t action)
         break;
     case HlpActionsHelp::eActionContext:
         explain(QApplication::focusWidget());
+        break;
+    case HlpActionsHelp::eActionWhatsThis:
+        whatsThis(QApplication::focusWidget());
         break;
     }
 }

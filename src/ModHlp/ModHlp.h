@@ -23,6 +23,10 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
+
+#include <memory>
+#include <optional>
 
 class QWebView;
 
@@ -121,9 +125,16 @@ public:
     /// Opens the page about a widget: about the word at its text cursor; else about the page or panel that it is a part
     /// of, which says so by its property "helpRef"; else the first page.
     void explain(QWidget* widget);
+    /// Shows what a widget is: its own short text, or that of what it is a part of. Without any, the next click chooses
+    /// what is explained.
+    void whatsThis(QWidget* widget);
+
+    /// Opens the pages that the links of these short texts name.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 public slots:
-    /// Opens a page: "pageid://" and the id of a page, or a file of the collection.
+    /// Opens a page: "pageid://" and the id of a page, or a file of the collection. A link to the web opens in the
+    /// user's browser.
     void openFile(QUrl url);
     void closeAllFiles();
     /// Closes the current page.
@@ -140,10 +151,20 @@ private slots:
     void handleActions(nsModHlp::HlpActionsNavi::eAction_t action);
 
 private:
+    /// What the project keeps.
+    struct sOpenPages_t
+    {
+        QStringList files;
+        QString current; ///< empty if no help page is current
+    };
+
     HlpWidget* currentPage() const;
+    HlpWidget* pageAt(const QUrl& url) const;
+    sOpenPages_t openPages() const;
     HlpWidget* addPage();
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
+    void dropPage(HlpWidget* page);
     void find(bool backwards);
     QUrl urlOfWord(const QString& word) const;
 
@@ -156,6 +177,8 @@ private:
     QPointer<HlpConfigPage> m_configPage;      ///< null while the settings dialog is closed
     QList<HlpWidget*> m_pages;                 ///< of the centre
     QHash<QWidget*, HlpWidget*> m_dialogPages; ///< by the dialog that they stand beside
+    std::unique_ptr<QWidget> m_closedPages;    ///< holds those that are deleted later
+    std::optional<sOpenPages_t> m_lastPages;   ///< those of the end: the project is saved when they are closed
 };
 
 } // namespace nsModHlp

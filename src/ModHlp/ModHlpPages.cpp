@@ -2,18 +2,22 @@
 
 #include "ModHlp.h"
 
+#include "HelpRef.h"
 #include "HlpNetworkAccessManager.h"
 #include "HlpWidget.h"
 #include "ModFindReplaceHookIf.h"
 #include "ModNetworkHookIf.h"
 #include "ModPrjHookIf.h"
 
+#include <QDesktopServices>
 #include <QHelpEngine>
 #include <QHelpLink>
 #include <QNetworkProxy>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QWebView>
+#include <QWhatsThis>
+#include <QWhatsThisClickedEvent>
 
 namespace nsModHlp {
 
@@ -21,6 +25,12 @@ namespace {
 
 const QString keyOpenFiles = QStringLiteral("ModHlp/openFiles");
 const QString keyCurrentFile = QStringLiteral("ModHlp/currentFile");
+const int maxPages = 100; ///< that a project may open
+
+bool isOfWeb(const QUrl& url)
+{
+    return url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https");
+}
 
 } // namespace
 
@@ -29,6 +39,16 @@ HlpWidget* ModHlp::currentPage() const
     QWidget* current = modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
     for (HlpWidget* page : m_pages) {
         if (page == current)
+            return page;
+    }
+    return nullptr;
+}
+
+/// @return the page of the centre that shows the URL, or null
+HlpWidget* ModHlp::pageAt(const QUrl& url) const
+{
+    for (HlpWidget* page : m_pages) {
+        if (page->source() == url)
             return page;
     }
     return nullptr;
@@ -58,6 +78,10 @@ void ModHlp::openFile(QUrl url)
 {
     if (url.isEmpty())
         return;
+    if (isOfWeb(url)) {
+        QDesktopServices::openUrl(url);
+        return;
+    }
     HlpWidget* page = currentPage();
     if (page == nullptr && !m_pages.isEmpty())
         page = m_pages.last();
@@ -93,17 +117,25 @@ void ModHlp::closeFile(QWidget* widget)
         if (page != widget)
             continue;
         m_pages.removeAt(i);
-        page->disconnect(this);
         if (modFindReplaceHook != nullptr)
             modFindReplaceHook->unregisterPluginWidget(page);
         if (modClipboardHook != nullptr)
             modClipboardHook->unregisterPluginWidget(page);
-        if (modGuiHook != nullptr)
-            modGuiHook->removeWidget(page);
-        // The call may come from the page itself.
-        page->deleteLater();
+        dropPage(page);
         return;
     }
+}
+
+/// Takes a page out of the window and deletes it.
+void ModHlp::dropPage(HlpWidget* page)
+{
+    page->disconnect(this);
+    if (modGuiHook != nullptr)
+        modGuiHook->removeWidget(page);
+    // Later, as the call may come from the page itself; but before the network manager, if the program ends now.
+    page->hide();
+    page->setParent(m_closedPages.get());
+    page->deleteLater();
 }
 
 void ModHlp::removeWidgetRequest(QWidget* widget)
@@ -138,7 +170,6 @@ void ModHlp::setFileName(QWidget* widget, QString title)
 
 namespace {
 
-const char* const helpRefProperty = "helpRef";
 const QUrl pageNames(QStringLiteral("pageid://langnames"));
 const QUrl pageStart(QStringLiteral("pageid://gettingstarted"));
 
@@ -224,13 +255,32 @@ void ModHlp::explain(QWidget* widget)
             modGuiHook->setCurrentWidget(beside);
             return;
         }
-        const QString ref = part->property(helpRefProperty).toString();
+        const QString ref = part->property(HelpRef::property).toString();
         if (!ref.isEmpty()) {
             openFile(QUrl(ref));
             return;
         }
     }
     openFile(pageStart);
+}
+
+void ModHlp::whatsThis(QWidget* widget)
+{
+    for (QWidget* part = widget; part != nullptr; part = part->parentWidget()) {
+        if (part->whatsThis().isEmpty())
+            continue;
+        QWhatsThis::showText(widget->mapToGlobal(widget->rect().bottomLeft()), part->whatsThis(), part);
+        return;
+    }
+    QWhatsThis::enterWhatsThisMode();
+}
+
+bool ModHlp::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::WhatsThisClicked)
+        return QObject::eventFilter(watched, event);
+    openFile(QUrl(static_cast<QWhatsThisClickedEvent*>(event)->href()));
+    return true;
 }
 
 // --- beside dialogs ---
@@ -244,12 +294,13 @@ void ModHlp::showDialogHlp(QWidget* dialog, const QUrl& url)
 {
     if (dialog == nullptr || modGuiHook == nullptr)
         return;
-    HlpWidget*& page = m_dialogPages[dialog];
+    HlpWidget* page = m_dialogPages.value(dialog);
     if (page == nullptr) {
         page = new HlpWidget(m_network);
         page->setObjectName(QStringLiteral("hlpDialogPage"));
+        m_dialogPages.insert(dialog, page);
+        connect(dialog, &QObject::destroyed, page, [this, dialog] { closeDialogHlp(dialog); });
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, page, tr("Help page"));
-        connect(dialog, &QObject::destroyed, this, [this, dialog] { closeDialogHlp(dialog); });
     }
     page->setSource(url);
 }
@@ -257,38 +308,50 @@ void ModHlp::showDialogHlp(QWidget* dialog, const QUrl& url)
 void ModHlp::closeDialogHlp(QWidget* dialog)
 {
     HlpWidget* page = m_dialogPages.take(dialog);
-    if (page == nullptr)
-        return;
-    if (modGuiHook != nullptr)
-        modGuiHook->removeWidget(page);
-    page->deleteLater();
+    if (page != nullptr)
+        dropPage(page);
 }
 
 // --- project ---
 
 void ModHlp::prjOpen()
 {
-    const QStringList files = modPrjHook->value(keyOpenFiles, QStringList());
     const QString current = modPrjHook->value(keyCurrentFile, QString());
     QWidget* inFront = modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
-    for (const QString& file : files) {
-        if (file != current)
-            openFile(QUrl(file));
+    QStringList files = modPrjHook->value(keyOpenFiles, QStringList()).mid(0, maxPages);
+    files.removeAll(current);
+    files.append(current);
+    for (const QString& file : qAsConst(files)) {
+        // Whoever has written the project: it opens pages of the help and nothing else.
+        const QUrl url = m_network->resolved(QUrl(file));
+        if (!m_network->isOfCollection(url))
+            continue;
+        HlpWidget* present = pageAt(url);
+        if (present == nullptr)
+            openFile(url);
+        else if (file == current && modGuiHook != nullptr)
+            modGuiHook->setCurrentWidget(present);
     }
-    if (!current.isEmpty())
-        openFile(QUrl(current));
-    else if (inFront != nullptr)
+    if (current.isEmpty() && inFront != nullptr)
         modGuiHook->setCurrentWidget(inFront);
+}
+
+ModHlp::sOpenPages_t ModHlp::openPages() const
+{
+    sOpenPages_t pages;
+    for (const HlpWidget* page : m_pages)
+        pages.files.append(page->source().toString());
+    const HlpWidget* current = currentPage();
+    if (current != nullptr)
+        pages.current = current->source().toString();
+    return pages;
 }
 
 void ModHlp::prjSave()
 {
-    QStringList files;
-    for (const HlpWidget* page : qAsConst(m_pages))
-        files.append(page->source().toString());
-    const HlpWidget* current = currentPage();
-    modPrjHook->setValue(keyOpenFiles, files);
-    modPrjHook->setValue(keyCurrentFile, current != nullptr ? current->source().toString() : QString());
+    const sOpenPages_t pages = m_lastPages.value_or(openPages());
+    modPrjHook->setValue(keyOpenFiles, pages.files);
+    modPrjHook->setValue(keyCurrentFile, pages.current);
 }
 
 // --- find and clipboard ---

@@ -1,5 +1,6 @@
 #include "ModSyscall.h"
 
+#include "HelpRef.h"
 #include "SyscallConfigPage.h"
 #include "SyscallMonWidget.h"
 #include "SyscallMsgHndlr.h"
@@ -293,6 +294,7 @@ void ModSyscall::addMonitor(int index)
     if (modGuiHook == nullptr)
         return;
     auto* monitor = new SyscallMonWidget;
+    HelpRef::set(monitor, QStringLiteral("pageId://externalPrograms#monitor"));
     monitors[index] = monitor;
     connect(monitor, &SyscallMonWidget::configRequest, this, &ModSyscall::handleConfigRequest);
     connect(monitor, &SyscallMonWidget::startRequest, this, &ModSyscall::handleStartRequest);
