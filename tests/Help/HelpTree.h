@@ -29,6 +29,12 @@ inline QString changeLog()
     return sourceDir() + QStringLiteral("/CHANGELOG.md");
 }
 
+/// Where the build puts the pictures of the window.
+inline QString pictures()
+{
+    return QStringLiteral(NALVO_BINARY_DIR "/help-pictures");
+}
+
 /// All pages, read once.
 inline const nsHelpBuild::HelpSources& help()
 {

@@ -8,12 +8,15 @@
 #include "MessageEntries.h"
 #include "MessageTables.h"
 #include "PageReader.h"
+#include "Pictures.h"
 #include "SiteWriter.h"
 
 #include <gmock/gmock.h>
 
 #include <QFile>
 #include <QFileInfo>
+#include <QImage>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -345,6 +348,30 @@ TEST_F(HelpFiles, PicturesThatAreMissingAreFound)
     write("one.png", "x");
     const HelpPage page = converted("![1](shot:one) ![2](shot:two)\n");
     EXPECT_EQ(checkPictures({page}, path()), QStringList("page: no picture has the name two.png"));
+}
+
+TEST_F(HelpFiles, APictureIsShownAtHalfItsPoints)
+{
+    QImage(301, 4, QImage::Format_RGB888).save(path() + "/one.png");
+    write("two.png", "not a picture, but long enough for the head of one");
+    EXPECT_EQ(shownWidth(path() + "/one.png"), 150);
+    EXPECT_EQ(shownWidth(path() + "/two.png"), 0);
+    EXPECT_EQ(shownWidth(path() + "/three.png"), 0);
+    const HelpPage page = converted("![1](shot:one) \xC2\xB5 ![2](shot:two) end\n");
+    EXPECT_EQ(withPictureWidths(page.html, path()),
+              "<p><img src=\"pictures/one.png\" width=\"150\" alt=\"1\" /> \xC2\xB5 <img src=\"pictures/two.png\" "
+              "alt=\"2\" /> end</p>\n");
+}
+
+TEST_F(HelpFiles, AMissingPictureIsAFailureOfTheGenerator)
+{
+    QProcess process;
+    process.start(NALVO_HELP_BUILD, {"--site", HelpTree::folder(), HelpTree::changeLog(), path(), path() + "/site"});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 1);
+    EXPECT_THAT(process.readAllStandardError().toStdString(), HasSubstr("mainWindow: no picture has the name "
+                                                                        "mainWindow.png"));
+    EXPECT_FALSE(QFile::exists(path() + "/site"));
 }
 
 // The web site.

@@ -51,7 +51,7 @@ TEST(HelpPages, NothingIsWrongWithThem)
 
 TEST(HelpPages, EveryPictureIsThere)
 {
-    reportAll(checkPictures(HelpTree::help().pages(), HelpTree::folder() + "/pictures"));
+    reportAll(checkPictures(HelpTree::help().pages(), HelpTree::pictures()));
 }
 
 TEST(HelpPages, TheGeneratorChecksTheSame)

@@ -4,6 +4,7 @@
 #include "MarkdownConverter.h"
 #include "MessageTables.h"
 #include "PageReader.h"
+#include "Pictures.h"
 
 #include <QDir>
 #include <QFile>
@@ -53,6 +54,14 @@ void HelpSources::read(const QString& folder, const QString& changeLog)
     for (HelpPage& page : m_pages)
         convert(&page);
     m_contents = readContents(folder + QStringLiteral("/contents.txt"), &m_errors);
+}
+
+void HelpSources::setPictureWidths(const QString& pictureDir)
+{
+    for (HelpPage& page : m_pages) {
+        if (!page.pictures.isEmpty())
+            page.html = withPictureWidths(page.html, pictureDir);
+    }
 }
 
 bool readText(const QString& path, HelpPage* page, QString* error)

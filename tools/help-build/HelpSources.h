@@ -17,6 +17,8 @@ public:
     /// @param folder holds pages/, instructions/, contents.txt and style.css
     /// @param changeLog becomes the page of the release notes
     void read(const QString& folder, const QString& changeLog);
+    /// Gives each picture that is there its width in the page.
+    void setPictureWidths(const QString& pictureDir);
 
     QString folder() const { return m_folder; }
     const QVector<HelpPage>& pages() const { return m_pages; }

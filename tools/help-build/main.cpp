@@ -3,18 +3,17 @@
 //     nalvo-help-build [--check | --site] <folder of the sources> <change log> <folder of the pictures> <output folder>
 //
 // Ends with 0 if all is written, with 1 and messages on the error stream otherwise. What is wrong between the pages is
-// reported; with --check it is a failure, nothing is written, and figures of the help are printed. Pictures come from a
-// run of the program, so that
-// --check, which needs no run, does not look for them.
+// reported; with --check it is a failure, nothing is written, and figures of the help are printed. A picture that is
+// missing is always a failure, except that --check does not look for pictures, which come from a run of the program.
 
 #include "CollectionWriter.h"
 #include "HelpSources.h"
 #include "LinkCheck.h"
 #include "MessageTables.h"
+#include "Pictures.h"
 #include "SiteWriter.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cstdio>
 
@@ -27,24 +26,6 @@ int fail(const QStringList& lines)
     for (const QString& line : lines)
         std::fprintf(stderr, "nalvo-help-build: %s\n", qPrintable(line));
     return 1;
-}
-
-/// Copies the pictures that pages show. @return their names in the output folder
-QStringList copyPictures(const QString& pictureDir, const QVector<HelpPage>& pages, const QDir& out)
-{
-    QStringList names;
-    out.mkpath(QStringLiteral("pictures"));
-    for (const HelpPage& page : pages) {
-        for (const QString& picture : page.pictures) {
-            const QString name = QStringLiteral("pictures/") + picture;
-            if (names.contains(name))
-                continue;
-            QFile::remove(out.filePath(name));
-            if (QFile::copy(pictureDir + '/' + picture, out.filePath(name)))
-                names.append(name);
-        }
-    }
-    return names;
 }
 
 /// Prints how much there is.
@@ -95,7 +76,11 @@ int main(int argc, char* argv[])
         printFigures(help);
         return problems.isEmpty() ? 0 : fail(problems);
     }
-    fail(problems + checkPictures(help.pages(), pictureDir));
+    fail(problems);
+    const QStringList missing = checkPictures(help.pages(), pictureDir);
+    if (!missing.isEmpty())
+        return fail(missing);
+    help.setPictureWidths(pictureDir);
     const QDir out(arguments.at(3));
     return isSite ? write<SiteWriter>(help, pictureDir, out) : write<CollectionWriter>(help, pictureDir, out);
 }
