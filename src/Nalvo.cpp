@@ -1,5 +1,7 @@
 #include "Nalvo.h"
 
+#include "ConsentQuestion.h"
+#include "Display.h"
 #include "ModAction.h"
 #include "ModArgs.h"
 #include "ModAsmFe.h"
@@ -85,10 +87,13 @@ void Nalvo::handleArgs()
     if (m_modArgs->hasError())
         return;
     const QString project = m_modArgs->prjFile();
+    const QString script = m_modArgs->scriptFile();
+    // A script without a display runs for itself: a question would wait for ever.
+    if (!script.isEmpty() && !Display::isThere())
+        ConsentQuestion::setUnattended(true);
     // Keeps the messages of the start together with those of the project.
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
-    const QString script = m_modArgs->scriptFile();
     if (!script.isEmpty())
         m_modScript->executeScriptFile(script);
 }

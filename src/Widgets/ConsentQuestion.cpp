@@ -11,6 +11,8 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include <cstdio>
+
 namespace {
 
 const int gap = 8;
@@ -18,20 +20,20 @@ const int columns = 72;  ///< of the text that shows the act, before it scrolls
 const int mostLines = 8; ///< likewise
 const int iconSize = 48;
 
-/// A control character can hide what stands beside it, so it is shown by its number.
-QString readable(const QString& text)
+bool unattended = false;
+
+QStringList readableLines(const QString& text)
 {
-    QString shown;
-    for (const QChar c : text) {
-        const bool isShown = c == '\n' || (c.category() != QChar::Other_Control && c.category() != QChar::Other_Format);
-        shown += isShown ? QString(c) : QStringLiteral("\\u%1").arg(c.unicode(), 4, 16, QLatin1Char('0'));
-    }
-    return shown;
+    QStringList lines = text.split('\n');
+    for (QString& line : lines)
+        line = ConsentQuestion::readable(line);
+    return lines;
 }
 
 QPlainTextEdit* makeActView(const QString& act)
 {
-    auto* view = new QPlainTextEdit(readable(act));
+    const QStringList shown = readableLines(act);
+    auto* view = new QPlainTextEdit(shown.join('\n'));
     view->setObjectName(QStringLiteral("consentAct"));
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
@@ -40,7 +42,7 @@ QPlainTextEdit* makeActView(const QString& act)
     view->setFont(font);
     const QFontMetrics metrics(view->font());
     int lines = 1;
-    for (const QString& line : act.split('\n'))
+    for (const QString& line : shown)
         lines += 1 + line.size() / columns;
     view->setMinimumWidth(metrics.averageCharWidth() * columns + 2 * gap);
     view->setFixedHeight(metrics.lineSpacing() * qMin(lines, mostLines) + 2 * gap);
@@ -49,10 +51,48 @@ QPlainTextEdit* makeActView(const QString& act)
 
 } // namespace
 
-bool ConsentQuestion::ask(const QString& title, const QString& text, const QString& act)
+void ConsentQuestion::setUnattended(bool isUnattended)
 {
-    if (qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
-        return false;
+    unattended = isUnattended;
+}
+
+bool ConsentQuestion::isUnattended()
+{
+    return unattended || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr;
+}
+
+QString ConsentQuestion::readable(const QString& line)
+{
+    QString shown;
+    for (const uint c : line.toUcs4()) {
+        switch (QChar::category(c)) {
+        case QChar::Other_Control:
+        case QChar::Other_Format:
+        case QChar::Other_Surrogate:
+        case QChar::Other_PrivateUse:
+        case QChar::Other_NotAssigned:
+        case QChar::Separator_Line:
+        case QChar::Separator_Paragraph:
+            shown += QStringLiteral("\\u%1").arg(c, 4, 16, QLatin1Char('0'));
+            break;
+        default:
+            shown += QString::fromUcs4(&c, 1);
+        }
+    }
+    return shown;
+}
+
+ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QString& text, const QString& act)
+{
+    if (isUnattended()) {
+        QStringList lines = readableLines(act);
+        for (QString& line : lines)
+            line = line.trimmed();
+        std::fprintf(
+            stderr, "%s\n",
+            tr("%1: nobody can be asked, so this is not allowed: %2").arg(title, lines.join(' ')).toUtf8().constData());
+        return answerNobody;
+    }
     // On the heap, as its parent can be deleted while it is open, and deletes it.
     const QPointer<QDialog> dialog(new QDialog(QApplication::activeWindow()));
     dialog->setObjectName(QStringLiteral("consentQuestion"));
@@ -85,5 +125,5 @@ bool ConsentQuestion::ask(const QString& title, const QString& text, const QStri
 
     const bool allowed = dialog->exec() == QDialog::Accepted;
     delete dialog;
-    return allowed;
+    return allowed ? answerYes : answerNo;
 }

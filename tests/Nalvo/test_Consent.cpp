@@ -143,6 +143,30 @@ TEST_F(Consent, whatASourceNamesIsAskedFor)
     EXPECT_TRUE(isRefused());
 }
 
+// A folder of the project becomes a link while the user reads the question about another file.
+TEST_F(Consent, aPlaceThatChangesUnderTheQuestionIsNotWritten)
+{
+    makeWindow();
+    QTemporaryDir third;
+    ASSERT_TRUE(QFile::link(m_other.path(), projectDir() + "/link"));
+    ASSERT_TRUE(prj()->openPrj(makeProject(sourceWithDevice(projectDir() + "/sub/device.hex"), "link/out.hex")));
+    QDir(projectDir()).mkdir("sub");
+    const auto relink = [&](const QString& name) {
+        QFile::remove(projectDir() + '/' + name);
+        QDir(projectDir()).rmdir(name);
+        ASSERT_TRUE(QFile::link(third.path(), projectDir() + '/' + name));
+    };
+    ModalAnswers answers({[&](QDialog* dialog) {
+        relink("link");
+        relink("sub");
+        dialog->accept();
+    }});
+    run();
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_EQ(QDir(third.path()).entryList(QDir::Files), QStringList());
+    EXPECT_TRUE(isRefused()) << messageTexts().join('\n').toStdString();
+}
+
 TEST_F(Consent, insideNothingIsAsked)
 {
     makeWindow();
