@@ -44,8 +44,8 @@ void SyscallProcess::setOutputToStderr()
 bool SyscallProcess::start(const SyscallCommand& command)
 {
     setWorkingDirectory(command.folder);
-    // A name that was not found would be looked up again by the child, which stands in the folder of the project: with
-    // that folder in the search path, as "." is, it would find what nobody was asked about.
+    // A name that was not found is not left to QProcess: some releases of it have the child look once more, which
+    // stands in the folder of the project and would find there what nobody was asked about.
     const bool isFound = QDir::isAbsolutePath(command.program);
     QProcess::start(isFound ? command.program : QString(), command.arguments, ReadWrite | Unbuffered);
     return waitForStarted(startTime);

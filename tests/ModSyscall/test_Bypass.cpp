@@ -40,7 +40,8 @@ private:
 
 } // namespace
 
-// A search path with "." or an empty entry, as some users have: it means the folder in which the child stands.
+// Also with a search path with "." or an empty entry, which means the folder in which the child stands. What of the
+// system looks for a name there depends on its release.
 TEST_F(SyscallBypass, aNameIsNotFoundInTheFolderOfTheProject)
 {
     writeScript(folder.filePath("evil"));
