@@ -16,8 +16,8 @@
 namespace {
 
 const int gap = 8;
-const int columns = 72;  ///< of the text that shows the act, before it scrolls
-const int mostLines = 8; ///< likewise
+const int columns = 72;   ///< of the text that shows the act, before it scrolls
+const int mostLines = 16; ///< likewise
 const int iconSize = 48;
 
 bool unattended = false;
@@ -30,9 +30,17 @@ QStringList readableLines(const QString& text)
     return lines;
 }
 
-QPlainTextEdit* makeActView(const QString& act)
+/// Lines that the texts take when they are wrapped, at the most.
+int linesOf(const QStringList& texts)
 {
-    const QStringList shown = readableLines(act);
+    int lines = 1;
+    for (const QString& text : texts)
+        lines += 1 + text.size() / columns;
+    return lines;
+}
+
+QPlainTextEdit* makeActView(const QStringList& shown)
+{
     auto* view = new QPlainTextEdit(shown.join('\n'));
     view->setObjectName(QStringLiteral("consentAct"));
     view->setReadOnly(true);
@@ -41,11 +49,8 @@ QPlainTextEdit* makeActView(const QString& act)
     font.setStyleHint(QFont::Monospace);
     view->setFont(font);
     const QFontMetrics metrics(view->font());
-    int lines = 1;
-    for (const QString& line : shown)
-        lines += 1 + line.size() / columns;
     view->setMinimumWidth(metrics.averageCharWidth() * columns + 2 * gap);
-    view->setFixedHeight(metrics.lineSpacing() * qMin(lines, mostLines) + 2 * gap);
+    view->setFixedHeight(metrics.lineSpacing() * qMin(linesOf(shown), mostLines) + 2 * gap);
     return view;
 }
 
@@ -119,7 +124,14 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
     layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
     layout->setSpacing(2 * gap);
     layout->addLayout(head);
-    layout->addWidget(makeActView(act));
+    const QStringList shown = readableLines(act);
+    layout->addWidget(makeActView(shown));
+    if (linesOf(shown) > mostLines) {
+        auto* more = new QLabel(tr("The text is longer than it looks: scroll to read all of it before you allow it."));
+        more->setObjectName(QStringLiteral("consentMore"));
+        more->setWordWrap(true);
+        layout->addWidget(more);
+    }
     layout->addWidget(buttons);
     no->setFocus();
 

@@ -8,9 +8,11 @@
 #include "ModPrj.h"
 
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 using nsModAsmFe::AsmFeConfig;
 
@@ -212,6 +214,41 @@ TEST_F(Consent, aTypedPathIsNotAskedForButAForeignOneIs)
     EXPECT_EQ(none.seen(), 0);
     EXPECT_TRUE(QFile::exists(outside("typed.hex")));
     EXPECT_FALSE(QFile::exists(outside("foreign.hex")));
+}
+
+// What comes last must not hide below what looks harmless.
+TEST_F(Consent, aLongTextSaysThatItIsLonger)
+{
+    makeWindow();
+    const QString name = QString("harmless").repeated(25) + ".hex";
+    QByteArray devices;
+    for (int i = 0; i < 20; ++i) {
+        QByteArray device =
+            sourceWithDevice(outside(QString::number(i) + name)).replace("rom", "rom" + QByteArray::number(i));
+        devices += device.left(device.indexOf("        LOAD"));
+    }
+    ASSERT_TRUE(prj()->openPrj(makeProject(devices + source(), "inside.hex")));
+    bool saysSo = false;
+    bool scrolls = false;
+    QString act;
+    ModalAnswers answers({[&](QDialog* dialog) {
+        screenshot("consent-long", dialog);
+        act = actOf(dialog);
+        saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr;
+        scrolls = dialog->findChild<QPlainTextEdit*>("consentAct")->verticalScrollBar()->maximum() > 0;
+        EXPECT_LE(dialog->height(), 600);
+    }});
+    run();
+    EXPECT_EQ(act.count('\n'), 19);
+    EXPECT_TRUE(scrolls);
+    EXPECT_TRUE(saysSo);
+    {
+        ModalAnswers one({[&](QDialog* dialog) { saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr; }});
+        ASSERT_TRUE(prj()->openPrj(makeProject(source(), outside("short.hex"))));
+        run();
+        EXPECT_EQ(one.seen(), 1);
+    }
+    EXPECT_FALSE(saysSo);
 }
 
 TEST_F(Consent, controlCharactersAreShownByTheirNumbers)
