@@ -231,23 +231,24 @@ TEST_F(Consent, aLongTextSaysThatItIsLonger)
     bool saysSo = false;
     bool scrolls = false;
     QString act;
-    ModalAnswers answers({[&](QDialog* dialog) {
-        screenshot("consent-long", dialog);
-        act = actOf(dialog);
-        saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr;
-        scrolls = dialog->findChild<QPlainTextEdit*>("consentAct")->verticalScrollBar()->maximum() > 0;
-        EXPECT_LE(dialog->height(), 600);
-    }});
-    run();
+    {
+        ModalAnswers answers({[&](QDialog* dialog) {
+            screenshot("consent-long", dialog);
+            act = actOf(dialog);
+            saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr;
+            scrolls = dialog->findChild<QPlainTextEdit*>("consentAct")->verticalScrollBar()->maximum() > 0;
+            EXPECT_LE(dialog->height(), 600);
+        }});
+        run();
+    }
     EXPECT_EQ(act.count('\n'), 19);
     EXPECT_TRUE(scrolls);
     EXPECT_TRUE(saysSo);
-    {
-        ModalAnswers one({[&](QDialog* dialog) { saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr; }});
-        ASSERT_TRUE(prj()->openPrj(makeProject(source(), outside("short.hex"))));
-        run();
-        EXPECT_EQ(one.seen(), 1);
-    }
+    prj()->closePrj();
+    ASSERT_TRUE(prj()->openPrj(makeProject(source(), outside("short.hex"))));
+    ModalAnswers one({[&](QDialog* dialog) { saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr; }});
+    run();
+    EXPECT_EQ(one.seen(), 1);
     EXPECT_FALSE(saysSo);
 }
 
