@@ -10,6 +10,7 @@
 #include "ModGuiHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
 
 #include <QCoreApplication>
 
@@ -166,8 +167,13 @@ SyscallPrograms::eEnd_t ModSyscall::wait(int index)
 {
     const int openCount = m_openCount;
     const QPointer<SyscallMonWidget> monitor = monitors[index];
-    while (monitor != nullptr && !monitor->waitForFinished(waitTime))
-        QCoreApplication::processEvents();
+    while (monitor != nullptr && !monitor->waitForFinished(waitTime)) {
+        if (scriptGoesOn())
+            continue;
+        if (monitor != nullptr && monitor == monitors[index])
+            endPrograms({index});
+        return endGone;
+    }
     // The user may have done anything meanwhile.
     if (openCount != m_openCount)
         return endGone;
@@ -181,6 +187,16 @@ SyscallPrograms::eEnd_t ModSyscall::wait(int index)
     default:
         return endCrashed;
     }
+}
+
+/// Handles the events of the user. @return false: the user has stopped the script that waits for the program; it could
+/// not end, and the window could not close, before the program does
+bool ModSyscall::scriptGoesOn()
+{
+    if (modScriptHook != nullptr)
+        return modScriptHook->scriptGoesOn();
+    QCoreApplication::processEvents();
+    return true;
 }
 
 int ModSyscall::exitCode(int index)

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
+#include <QTextOption>
 #include <QVBoxLayout>
 
 #include <cstdio>
@@ -45,6 +46,8 @@ QPlainTextEdit* makeActView(const QStringList& shown)
     view->setObjectName(QStringLiteral("consentAct"));
     view->setReadOnly(true);
     view->setTabChangesFocus(true);
+    // A line that is broken at a blank would look like two.
+    view->setWordWrapMode(QTextOption::WrapAnywhere);
     QFont font(QStringLiteral("DejaVu Sans Mono"));
     font.setStyleHint(QFont::Monospace);
     view->setFont(font);
@@ -129,7 +132,6 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
     if (linesOf(shown) > mostLines) {
         auto* more = new QLabel(tr("The text is longer than it looks: scroll to read all of it before you allow it."));
         more->setObjectName(QStringLiteral("consentMore"));
-        more->setWordWrap(true);
         layout->addWidget(more);
     }
     layout->addWidget(buttons);

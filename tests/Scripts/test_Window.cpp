@@ -7,6 +7,7 @@
 #include "ModalAnswers.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -128,6 +129,57 @@ TEST_F(ScriptWindow, theWindowClosesWhenTheScriptHasEnded)
     EXPECT_TRUE(QFile::exists(settingsFile()));
     EXPECT_FALSE(run("test.note('after');"));
     EXPECT_TRUE(target.notes.isEmpty());
+}
+
+// The script waits for a program that is at work.
+class ScriptWithProgram : public ScriptWindow
+{
+protected:
+    ScriptWithProgram()
+    {
+        QFile file(project());
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        const QByteArray text =
+            file.readAll().replace("</project>", "<Syscall><syscall0ExecEventBut1>1</syscall0ExecEventBut1>"
+                                                 "<syscall0StoreRelToPrj>0</syscall0StoreRelToPrj>"
+                                                 "<syscall0Exe>/bin/sh</syscall0Exe><syscall0Arg>rest.sh</syscall0Arg>"
+                                                 "</Syscall></project>");
+        file.seek(0);
+        EXPECT_EQ(file.write(text), text.size());
+        writeFile("rest.sh", "echo ready\nsleep 60\ntouch ended\n");
+    }
+    /// Runs a script that waits for the program. @param action what the user does then
+    void wait(const std::function<void()>& action)
+    {
+        ModalAnswers answers({[](QDialog* dialog) { dialog->accept(); }});
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            const auto* output = window->findChild<QPlainTextEdit*>("syscallOutput");
+            if (output == nullptr || !output->toPlainText().contains("ready"))
+                return;
+            look.stop();
+            action();
+        });
+        look.start(1);
+        EXPECT_FALSE(run("open(); assembler.assemble(1); test.note('after');"));
+        EXPECT_FALSE(look.isActive());
+        EXPECT_TRUE(target.notes.isEmpty());
+        EXPECT_FALSE(QFile::exists(projectDir() + "/ended")) << "nobody has waited for its end";
+    }
+};
+
+TEST_F(ScriptWithProgram, aStopAlsoEndsTheProgram)
+{
+    wait([this] { trigger("Stop script"); });
+    EXPECT_TRUE(hasMessage("External program 1 was still running"));
+    EXPECT_TRUE(hasMessage("The script was stopped."));
+    EXPECT_EQ(window->findChild<QLabel*>("syscallStatus")->text().left(11), "Not running");
+}
+
+TEST_F(ScriptWithProgram, theWindowCloses)
+{
+    wait([this] { EXPECT_FALSE(closeWindow()); });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, patience));
 }
 
 TEST_F(ScriptWindow, theWindowClosesUnderAConnectedFunctionToo)
