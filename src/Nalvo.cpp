@@ -1,6 +1,5 @@
 #include "Nalvo.h"
 
-#include "ConsentQuestion.h"
 #include "Display.h"
 #include "ModAction.h"
 #include "ModArgs.h"
@@ -22,6 +21,7 @@
 #include "ModSwUpdate.h"
 #include "ModSyscall.h"
 #include "ModTemplates.h"
+#include "Unattended.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -88,9 +88,9 @@ void Nalvo::handleArgs()
         return;
     const QString project = m_modArgs->prjFile();
     const QString script = m_modArgs->scriptFile();
-    // A script without a display runs for itself: a question would wait for ever.
+    // A script without a display runs by itself: a question would wait for ever.
     if (!script.isEmpty() && !Display::isThere())
-        ConsentQuestion::setUnattended(true);
+        Unattended::setOn(true);
     // Keeps the messages of the start together with those of the project.
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;

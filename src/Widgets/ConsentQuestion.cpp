@@ -1,5 +1,7 @@
 #include "ConsentQuestion.h"
 
+#include "Unattended.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
@@ -20,8 +22,6 @@ const int gap = 8;
 const int columns = 72;   ///< of the text that shows the act, before it scrolls
 const int mostLines = 16; ///< likewise
 const int iconSize = 48;
-
-bool unattended = false;
 
 QStringList readableLines(const QString& text)
 {
@@ -59,14 +59,9 @@ QPlainTextEdit* makeActView(const QStringList& shown)
 
 } // namespace
 
-void ConsentQuestion::setUnattended(bool isUnattended)
-{
-    unattended = isUnattended;
-}
-
 bool ConsentQuestion::isUnattended()
 {
-    return unattended || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr;
+    return Unattended::isOn() || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr;
 }
 
 QString ConsentQuestion::readable(const QString& line)

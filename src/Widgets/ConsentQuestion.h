@@ -22,8 +22,7 @@ public:
     /// @param act what would happen, in full; shown as it is, to be read, scrolled and copied
     static eAnswer_t ask(const QString& title, const QString& text, const QString& act);
 
-    /// From now on nobody sits in front of the window, as when a script runs it without a display.
-    static void setUnattended(bool unattended);
+    /// Is there nobody to ask?
     static bool isUnattended();
 
     /// A line as it can be shown to who has to judge it: characters that would hide, move or break what stands beside

@@ -2,8 +2,8 @@
 
 #include "SyscallFixture.h"
 
-#include "ConsentQuestion.h"
 #include "ModalAnswers.h"
+#include "Unattended.h"
 
 #include <QDialogButtonBox>
 
@@ -17,7 +17,7 @@ protected:
     ~SyscallBypass() override
     {
         qputenv("PATH", m_path);
-        ConsentQuestion::setUnattended(false);
+        Unattended::setOn(false);
     }
 
     /// A script that leaves a file behind when it runs.
@@ -103,7 +103,7 @@ TEST_F(SyscallBypass, nothingHidesInTheQuestion)
 
 TEST_F(SyscallBypass, whereNobodyCanBeAskedTheAnswerIsNoForThisTime)
 {
-    ConsentQuestion::setUnattended(true);
+    Unattended::setOn(true);
     setHelper(0, "exit 0");
     prj.open(prjFile());
     for (int i = 0; i < 2; ++i) {
@@ -122,12 +122,12 @@ TEST_F(SyscallBypass, whereNobodyCanBeAskedTheAnswerIsNoForThisTime)
     module->programs[0].abortIfNoSuccess = true;
     EXPECT_FALSE(run());
     // With a user again, the user is asked.
-    ConsentQuestion::setUnattended(false);
+    Unattended::setOn(false);
     ModalAnswers answers({yes});
     EXPECT_TRUE(run());
     EXPECT_EQ(answers.seen(), 1);
     // And what was answered then holds for both.
-    ConsentQuestion::setUnattended(true);
+    Unattended::setOn(true);
     EXPECT_TRUE(run());
     EXPECT_EQ(keys().last(), "infoExitWithSuccess");
 }

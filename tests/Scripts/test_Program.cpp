@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -219,6 +220,24 @@ TEST_F(ScriptProgram, whatOnlyAUserCanAllowIsNotDone)
     EXPECT_FALSE(QFile::exists(folder.filePath("foreign/ran")));
     EXPECT_TRUE(QFile::exists(folder.filePath("home/Brelmont/Nalvo.ini")));
     EXPECT_FALSE(content("home/Brelmont/Nalvo.ini").contains("[Consent]")) << "nobody has answered";
+}
+
+// The question for a text that is not saved, at the end. The text is kept for the next start.
+TEST_F(ScriptProgram, aQuestionIsAnsweredAsByEsc)
+{
+    const QString script = write("editor.newFile('only here\\n');\napp.close();\n");
+    const ProgramResult result = run({"-s", script});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.err.contains("Nobody can answer this: File was modified: The file was changed."))
+        << qPrintable(result.err);
+    EXPECT_TRUE(QFile::exists(folder.filePath("home/Brelmont/Nalvo.ini")));
+    bool isKept = false;
+    QDirIterator files(folder.filePath("home"), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        isKept = (file.open(QIODevice::ReadOnly) && file.readAll().contains("only here")) || isKept;
+    }
+    EXPECT_TRUE(isKept);
 }
 
 TEST_F(ScriptProgram, anOutputThatTakesNothingIsAScriptError)

@@ -5,6 +5,7 @@
 #include "EditorWidget.h"
 #include "ModEditor.h"
 #include "ModalAnswers.h"
+#include "Unattended.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -180,6 +181,46 @@ TEST_F(ScriptWithProgram, theWindowCloses)
 {
     wait([this] { EXPECT_FALSE(closeWindow()); });
     EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, patience));
+}
+
+// With nobody there, nobody would ever stop trying again.
+TEST_F(ScriptWindow, aProjectThatCanNotBeSavedDoesNotHoldTheProgramWhereNobodyIs)
+{
+    ASSERT_TRUE(run("open();"));
+    // Nobody, not even root, can write a file where a folder has its name.
+    ASSERT_TRUE(QFile::remove(project()));
+    ASSERT_TRUE(QDir().mkpath(project() + "/inside"));
+    bool late = false;
+    QTimer::singleShot(patience, window.get(), [&] {
+        late = true;
+        QDir(project()).removeRecursively();
+    });
+    Unattended::setOn(true);
+    EXPECT_TRUE(closeWindow());
+    Unattended::setOn(false);
+    EXPECT_FALSE(late);
+}
+
+TEST_F(ScriptWindow, modalDialogsAreAnsweredWhereNobodyIs)
+{
+    Unattended::setOn(true);
+    testing::internal::CaptureStderr();
+    QMessageBox box(QMessageBox::Question, "A title", "<p>Shall <b>it</b> be?</p>", QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(box.exec(), QMessageBox::No);
+    // A box that has no answer for Esc.
+    QMessageBox stubborn(QMessageBox::Question, "Another", "Text", QMessageBox::Yes | QMessageBox::Retry);
+    EXPECT_NE(stubborn.exec(), QMessageBox::Yes);
+    trigger("Run script...");
+    Unattended::setOn(false);
+    const std::string err = testing::internal::GetCapturedStderr();
+    EXPECT_NE(err.find("Nobody can answer this: A title: Shall it be?\n"), std::string::npos) << err;
+    EXPECT_NE(err.find("Nobody can answer this: Another: Text\n"), std::string::npos) << err;
+    EXPECT_NE(err.find("Nobody can answer this: Run script\n"), std::string::npos) << err;
+    // With a user again, a dialog waits.
+    ModalAnswers answers({[](QDialog* dialog) {
+        QTest::mouseClick(static_cast<QMessageBox*>(dialog)->button(QMessageBox::Yes), Qt::LeftButton);
+    }});
+    EXPECT_EQ(box.exec(), QMessageBox::Yes);
 }
 
 TEST_F(ScriptWindow, theWindowClosesUnderAConnectedFunctionToo)
