@@ -131,6 +131,9 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
     }
     layout->addWidget(buttons);
     no->setFocus();
+    // The wrapped text needs its height at this width.
+    const int width = layout->sizeHint().width();
+    dialog->resize(width, layout->totalHeightForWidth(width));
 
     const bool allowed = dialog->exec() == QDialog::Accepted;
     delete dialog;
