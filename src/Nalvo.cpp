@@ -1,5 +1,6 @@
 #include "Nalvo.h"
 
+#include "Display.h"
 #include "HelpRef.h"
 #include "ModAction.h"
 #include "ModArgs.h"
@@ -22,6 +23,7 @@
 #include "ModSwUpdate.h"
 #include "ModSyscall.h"
 #include "ModTemplates.h"
+#include "Unattended.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -89,10 +91,13 @@ void Nalvo::handleArgs()
     if (m_modArgs->hasError())
         return;
     const QString project = m_modArgs->prjFile();
+    const QString script = m_modArgs->scriptFile();
+    // A script without a display runs by itself: a question would wait for ever.
+    if (!script.isEmpty() && !Display::isThere())
+        Unattended::setOn(true);
     // Keeps the messages of the start together with those of the project.
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
-    const QString script = m_modArgs->scriptFile();
     if (!script.isEmpty())
         m_modScript->executeScriptFile(script);
 }

@@ -34,6 +34,7 @@ constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(warnTerminated, "External program %1 was still running: it has been terminated."),
     NALVO_MSG(warnKilled, "External program %1 was still running and did not end when asked to: it has been killed."),
     NALVO_MSG(infoLeftOut, "The external programs of the event are left out; --external-programs runs them."),
+    NALVO_MSG(errNobodyToAsk, "Nobody can be asked whether this program may run, so it does not run: %1"),
 };
 static_assert(isIndexedBy(msgTexts, &sMsgText_t::type, SyscallMsgHndlr::msgCount), "each message has its row");
 
