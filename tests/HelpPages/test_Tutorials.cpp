@@ -343,13 +343,14 @@ void Tutorials::firstRuns()
     ASSERT_NO_FATAL_FAILURE(clickMargin("WRPRT   s0, PORT_LAMPS"));
     EXPECT_TRUE(document()->simBreakpoints().isEmpty());
     QTimer stop;
-    QObject::connect(&stop, &QTimer::timeout, window.get(), [this] {
-        if (clocks() > 2000)
-            QTest::keyClick(window.get(), Qt::Key_F9);
+    QObject::connect(&stop, &QTimer::timeout, window.get(), [this, &stop] {
+        if (clocks() <= 2000)
+            return;
+        stop.stop();
+        QTest::keyClick(window.get(), Qt::Key_F9);
     });
     stop.start(1);
     press(Qt::Key_F9);
-    stop.stop();
     EXPECT_GT(clocks(), 2000);
     screenshot("tutorial-first-waves");
 }
