@@ -31,6 +31,7 @@ public:
 
 private:
     static QString workingCopy(const QString& file);
+    bool openCopy(const QString& copy);
 
     std::unique_ptr<QHelpEngine> m_engine;
 };

@@ -14,7 +14,6 @@ namespace nsModHlp {
 
 namespace {
 
-const char* const pageTable = "/pageIdRefList/pageIdRefList.csv";
 const char* const unknownPage = "errmsginternalerror";
 
 /// A text for the inside of a script's string.
@@ -45,15 +44,10 @@ void HlpNetworkAccessManager::setEngine(QHelpEngineCore* engine)
     readPageTable();
 }
 
-QUrl HlpNetworkAccessManager::fileUrl(const QString& path) const
-{
-    return QUrl(schemeHelp + QStringLiteral("://") + hlpNamespace + '/' + virtualFolder + path);
-}
-
 void HlpNetworkAccessManager::readPageTable()
 {
     m_pages.clear();
-    for (const QByteArray& line : fileData(fileUrl(QLatin1String(pageTable))).split('\n')) {
+    for (const QByteArray& line : fileData(pageTableUrl()).split('\n')) {
         const QList<QByteArray> fields = line.trimmed().split(';');
         if (line.trimmed().isEmpty())
             break;

@@ -31,6 +31,8 @@ public:
     void setEngine(QHelpEngineCore* engine);
     /// Is there a page with this id, in any case?
     bool hasPage(const QString& pageId) const { return m_pages.contains(pageId.toLower()); }
+    /// The ids of all pages, in lower case, in no order.
+    QStringList pageIds() const { return m_pages.keys(); }
 
     /// The URL in the collection that a URL with a page id leads to; other URLs are returned as they are.
     QUrl resolved(const QUrl& url) const;
@@ -58,7 +60,6 @@ protected:
     QNetworkReply* createRequest(Operation operation, const QNetworkRequest& request, QIODevice* data) override;
 
 private:
-    QUrl fileUrl(const QString& path) const;
     QUrl unknownPageUrl() const;
     void readPageTable();
     QByteArray fileData(const QUrl& url) const;

@@ -137,7 +137,9 @@ void ModHlp::showIndexWidget()
     if (m_index != nullptr)
         modGuiHook->removeWidget(m_index);
     if (hlpIndexSideRight == indexDisabled) {
-        delete m_index;
+        // Not deleted: the engine has its lists only once.
+        if (m_index != nullptr)
+            m_index->hide();
         return;
     }
     if (m_index == nullptr) {
@@ -149,6 +151,7 @@ void ModHlp::showIndexWidget()
     // A panel that is added comes to the front: the one that the user has chosen stays there.
     QWidget* inFront = modGuiHook->currentWidget(location);
     modGuiHook->addWidget(this, location, m_index, tr("Help"));
+    m_index->show();
     if (inFront != nullptr && inFront != m_index)
         modGuiHook->setCurrentWidget(inFront);
 }

@@ -222,8 +222,8 @@ QUrl ModHlp::urlOfWord(const QString& word) const
     if (m_collection.engine() == nullptr || word.isEmpty())
         return QUrl();
     QList<QUrl> links;
-    for (const QString& id : {word, word.toUpper(), '#' + word.toUpper()}) {
-        for (const QHelpLink& link : m_collection.engine()->documentsForIdentifier(id)) {
+    for (const QString& name : {word, word.toUpper(), '#' + word.toUpper()}) {
+        for (const QHelpLink& link : m_collection.engine()->documentsForKeyword(name)) {
             if (explainsWord(link.url))
                 links.append(link.url);
         }

@@ -49,12 +49,12 @@ const QByteArray project =
 <toc><section title="Start page" ref="start.html"/><section title="About page" ref="about.html"/></toc>
 <keywords>
 <keyword name="errSyntax" id="errSyntax" ref="asmfemessages.html#errSyntax"/>
-<keyword name="LOAD" id="LOAD" ref="instrxpblze3.html#LOAD"/>
-<keyword name="LOAD" id="LOAD" ref="instrxpblze6.html#LOAD"/>
+<keyword name="LOAD" id="LOAD3" ref="instrxpblze3.html#LOAD"/>
+<keyword name="LOAD" id="LOAD6" ref="instrxpblze6.html#LOAD"/>
 <keyword name="#EQU" id="#EQU" ref="langdirectives.html#EQU"/>
 <keyword name="memory" id="memory" ref="about.html"/>
-<keyword name="Several" id="Several" ref="start.html"/>
-<keyword name="Several" id="Several" ref="about.html"/>
+<keyword name="Several" id="Several1" ref="start.html"/>
+<keyword name="Several" id="Several2" ref="about.html"/>
 </keywords><files>)";
 
 QMap<QString, QByteArray> files()
