@@ -90,6 +90,11 @@ bool HlpCollection::openCopy(const QString& copy)
            !m_engine->fileData(HlpCollectionDescription().pageTableUrl()).isEmpty();
 }
 
+void HlpCollection::close()
+{
+    m_engine.reset();
+}
+
 bool HlpCollection::open(const QString& file)
 {
     const QString copy = workingCopy(file);

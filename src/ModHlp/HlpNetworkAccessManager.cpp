@@ -10,6 +10,8 @@
 #include <QUrlQuery>
 #include <QWebFrame>
 
+#include <utility>
+
 namespace nsModHlp {
 
 namespace {
@@ -33,13 +35,28 @@ const QString schemeHelp = QStringLiteral("qthelp");
 
 } // namespace
 
-HlpNetworkAccessManager::HlpNetworkAccessManager(QObject* parent)
+HlpNetworkAccessManager::HlpNetworkAccessManager(std::function<void()> opener, QObject* parent)
     : QNetworkAccessManager(parent)
+    , m_opener(std::move(opener))
 {
+}
+
+void HlpNetworkAccessManager::makeReady()
+{
+    const std::function<void()> opener = std::exchange(m_opener, nullptr);
+    if (opener)
+        opener();
+}
+
+const QHash<QString, HlpNetworkAccessManager::hlpFile_t>& HlpNetworkAccessManager::pages()
+{
+    makeReady();
+    return m_pages;
 }
 
 void HlpNetworkAccessManager::setEngine(QHelpEngineCore* engine)
 {
+    m_opener = nullptr;
     m_engine = engine;
     readPageTable();
 }
@@ -56,16 +73,17 @@ void HlpNetworkAccessManager::readPageTable()
     }
 }
 
-QByteArray HlpNetworkAccessManager::fileData(const QUrl& url) const
+QByteArray HlpNetworkAccessManager::fileData(const QUrl& url)
 {
+    makeReady();
     return m_engine != nullptr ? m_engine->fileData(url) : QByteArray();
 }
 
-QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
+QUrl HlpNetworkAccessManager::resolved(const QUrl& url)
 {
     if (url.scheme() != schemePage)
         return url;
-    const auto page = m_pages.constFind(url.host().toLower());
+    const auto page = pages().constFind(url.host().toLower());
     if (page == m_pages.constEnd()) {
         qDebug() << "HlpNetworkAccessManager::createRequest - page not found:" << url;
         return unknownPageUrl();
@@ -80,9 +98,9 @@ QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
     return target;
 }
 
-QUrl HlpNetworkAccessManager::unknownPageUrl() const
+QUrl HlpNetworkAccessManager::unknownPageUrl()
 {
-    return fileUrl('/' + m_pages.value(QLatin1String(unknownPage)).path);
+    return fileUrl('/' + pages().value(QLatin1String(unknownPage)).path);
 }
 
 bool HlpNetworkAccessManager::isOfCollection(const QUrl& url) const
@@ -90,7 +108,7 @@ bool HlpNetworkAccessManager::isOfCollection(const QUrl& url) const
     return url.scheme() == schemeHelp && url.host().compare(hlpNamespace, Qt::CaseInsensitive) == 0;
 }
 
-QUrl HlpNetworkAccessManager::pageOf(const QUrl& url) const
+QUrl HlpNetworkAccessManager::pageOf(const QUrl& url)
 {
     const QUrl page = resolved(url);
     if (isOfCollection(page))
@@ -99,7 +117,7 @@ QUrl HlpNetworkAccessManager::pageOf(const QUrl& url) const
     return unknownPageUrl();
 }
 
-QString HlpNetworkAccessManager::titleOf(const QUrl& page) const
+QString HlpNetworkAccessManager::titleOf(const QUrl& page)
 {
     static const QRegularExpression title(QStringLiteral("<title>([^<]*)</title>"));
     // It stands at the start of each page; the end of a long one is not decoded.

@@ -3,6 +3,7 @@
 #include "QtPrinters.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -158,6 +159,9 @@ void HlpFixture::start(const QString& program)
     hlp->modInit();
     hlp->modInitIntermod();
     hlp->modRun();
+    // The collection is opened beside the event loop.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return hlp->network()->isReady(); }, 20000));
+    QApplication::processEvents();
 }
 
 void HlpFixture::stop()
