@@ -10,6 +10,7 @@
 #include "ModFindReplace.h"
 #include "ModFonts.h"
 #include "ModGui.h"
+#include "ModImport.h"
 #include "ModMsg.h"
 #include "ModNetwork.h"
 #include "ModPrj.h"
@@ -77,6 +78,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModGui::ModGui(this));
     m_phases.append(new nsModTemplates::ModTemplates(this));
     m_phases.append(m_modScript);
+    m_phases.append(new nsModImport::ModImport(this));
     m_phases.append(new nsModFonts::ModFonts(this));
 }
 
