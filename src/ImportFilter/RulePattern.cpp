@@ -45,7 +45,7 @@ void RulePattern::measure(const QString& pattern)
 {
     QVector<sGroup_t> groups(1);
     int lookaheads = 0;
-    m_anchored = pattern.startsWith('^') && !pattern.contains('|');
+    m_anchored = pattern.startsWith('^');
     const auto add = [&groups](double size) {
         groups.last().size += size;
         groups.last().last = size;
@@ -81,6 +81,9 @@ void RulePattern::measure(const QString& pattern)
             closeGroup();
         } else if (c == '*' || c == '+' || c == '?') {
             m_loops = true;
+        } else if (c == '|') {
+            // The other alternatives of the whole expression begin anywhere.
+            m_anchored = m_anchored && groups.size() > 1;
         } else if (c == '{') {
             const int end = pattern.indexOf('}', i);
             const double extra = groups.last().last * repetitions(pattern.mid(i + 1, end - i - 1));
