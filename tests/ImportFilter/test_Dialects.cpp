@@ -41,8 +41,11 @@ protected:
     {
         text = std::make_unique<AsmText>(processorOf(GetParam().filter));
         text->config.behaviorChkIntVector = nsModAsmFe::AsmFeConfig::intVectorSilent;
-        isAssembled = text->assemble("here: NOP\n" + converted.join('\n').toUtf8() + "\nNOP\n");
+        // Room for addresses of twelve bits.
+        const QByteArray end = isSix() ? "\n#SET INSTMEM::PAGESIZE, 4096\nNOP\n" : "\nNOP\n";
+        isAssembled = text->assemble("here: NOP\n" + converted.join('\n').toUtf8() + end);
     }
+    static bool isSix() { return qstrcmp(GetParam().filter, "KCPSM6") == 0; }
     QList<unsigned> words()
     {
         QList<unsigned> result;
