@@ -35,7 +35,6 @@ enum eColumn_t { columnSource = 0, columnGap = 2, columnDestination = 3, columnC
 const int gap = 8;
 const int halfGap = 24;       ///< pixels between the two sides
 const int dfltTabIndent = 4;  ///< characters
-const int sliceTime = 40;     ///< milliseconds of conversion between two looks at the user's events
 const int minViewHeight = 80; ///< pixels
 
 } // namespace
@@ -376,8 +375,9 @@ void ImportWidget::convertAll()
         QStringList lines;
         QElapsedTimer slice;
         slice.start();
-        while (step == stepConverted && slice.elapsed() < sliceTime)
+        do
             step = convertNext(&lines);
+        while (step == stepConverted && slice.elapsed() < m_sliceTime);
         showProgress(lines, step);
         if (step != stepConverted)
             break;

@@ -40,6 +40,8 @@ public:
     /// alone.
     /// @return whether the file is shown
     bool openFile(const QString& path);
+    /// Time of a conversion between two looks at the user's events, in milliseconds; with 0 one after each line.
+    void setSliceTime(int time) { m_sliceTime = time; }
 
 signals:
     /// The user wants the result. @param srcCode converted source
@@ -83,6 +85,7 @@ private:
     ImportFilterIf* filter = nullptr; ///< owned by the list; null for none
     int lineNo = 0;                   ///< of the next line
     QString prjPath;
+    int m_sliceTime = 40;
     bool m_hasSource = false;
     bool m_isConverting = false; ///< all lines
     int m_run = 0;               ///< number of the conversion; whatever begins anew makes it another one
