@@ -19,6 +19,26 @@ bool isKeptByTextWidgets(const QString& text)
     return true;
 }
 
+/// Makes all line ends line feeds. The text mode of files would drop a carriage return that ends a line alone, and so
+/// join an instruction to the comment above it.
+void takeLineEnds(QByteArray* bytes)
+{
+    int to = 0;
+    for (int from = 0; from < bytes->size();) {
+        int end = from;
+        while (end < bytes->size() && bytes->at(end) == '\r')
+            ++end;
+        const bool isFeed = end < bytes->size() && bytes->at(end) == '\n';
+        const int returns = end - from;
+        if (returns == 0 || isFeed)
+            (*bytes)[to++] = bytes->at(end);
+        for (int i = 0; !isFeed && i < returns; ++i)
+            (*bytes)[to++] = '\n';
+        from = returns == 0 || isFeed ? end + 1 : end;
+    }
+    bytes->truncate(to);
+}
+
 } // namespace
 
 eFileRead_t readTextFile(const QString& path, QByteArray* bytes)
@@ -26,13 +46,16 @@ eFileRead_t readTextFile(const QString& path, QByteArray* bytes)
     if (!QFileInfo(path).isFile())
         return fileUnreadable;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    if (!file.open(QIODevice::ReadOnly))
         return fileUnreadable;
     // The size that a file names need not be what it holds.
     *bytes = file.read(maxImportFileSize + 1);
     if (file.error() != QFileDevice::NoError)
         return fileUnreadable;
-    return bytes->size() > maxImportFileSize ? fileTooLarge : fileRead;
+    if (bytes->size() > maxImportFileSize)
+        return fileTooLarge;
+    takeLineEnds(bytes);
+    return fileRead;
 }
 
 QString importText(const QByteArray& bytes)

@@ -17,7 +17,7 @@ enum eFileRead_t {
     fileTooLarge = 2
 };
 
-/// Reads a regular file in text mode, so that all line ends are line feeds. Pipes and devices are not opened: reading
+/// Reads a regular file; line ends of all kinds become line feeds. Pipes and devices are not opened: reading
 /// them might never end.
 eFileRead_t readTextFile(const QString& path, QByteArray* bytes);
 

@@ -40,7 +40,7 @@ TEST_F(FilterBounds, anExpressionThatIsTooLargeNeverMatches)
     EXPECT_FALSE(RulePattern(QString(2000, 'a')).isValid());
     EXPECT_FALSE(RulePattern("(").isValid());
     EXPECT_TRUE(RulePattern("").isValid());
-    EXPECT_TRUE(RulePattern("[a{99}](b\\{99999}){3}").isValid());
+    EXPECT_TRUE(RulePattern("[a{99}](b\\{99999\\}){3}").isValid());
     make("tagRule: \"((a{1000}){1000}){1000}\" \"x\"\n");
     EXPECT_EQ(converted("a"), "a");
 }

@@ -91,6 +91,13 @@ TEST_F(FilterFiles, aHugeFileIsNone)
     EXPECT_EQ(readTextFile("/dev/zero", &bytes), fileUnreadable);
 }
 
+TEST_F(FilterFiles, allLineEndsAreLineFeeds)
+{
+    QByteArray bytes;
+    ASSERT_EQ(readTextFile(write("a", "a\r\nb\rc\n\r\r\nd\r\re\r"), &bytes), fileRead);
+    EXPECT_EQ(bytes, "a\nb\nc\n\nd\n\ne\n");
+}
+
 TEST_F(FilterFiles, theTextOfAFileIsCutAtItsFirstNul)
 {
     EXPECT_EQ(importText(QByteArray("a\nb\0c\n", 6)), "a\nb");

@@ -47,7 +47,7 @@ protected:
     {
         QString result;
         for (const char* name : {"importRestart", "importConvertLine", "importConvertAll", "importUse"})
-            result += button(name)->isEnabled() ? QString(name).mid(6, 8).remove("Convert") : QString();
+            result += button(name)->isEnabled() ? QString(name).mid(6).remove("Convert") : QString();
         return result;
     }
     /// A page with a source and a filter.

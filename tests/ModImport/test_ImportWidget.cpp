@@ -253,8 +253,7 @@ TEST_F(ImportPage, aFileIsChosen)
                               EXPECT_EQ(QFileInfo(files->directory().path()).canonicalFilePath(),
                                         QFileInfo(dir.path()).canonicalFilePath());
                               files->findChild<QLineEdit*>()->setText("\"source.psm\" \"source2.psm\"");
-                              files->findChild<QPushButton*>()->click();
-                              files->accept();
+                              dialog->accept();
                           },
                           [&](QDialog* dialog) {
                               qobject_cast<QFileDialog*>(dialog)->findChild<QLineEdit*>()->setText(path);
