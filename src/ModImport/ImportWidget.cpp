@@ -22,8 +22,10 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QShortcut>
 #include <QSpinBox>
+#include <QVBoxLayout>
 
 namespace nsModImport {
 
@@ -36,6 +38,7 @@ const int gap = 8;
 const int halfGap = 24;       ///< pixels between the two sides
 const int dfltTabIndent = 4;  ///< characters
 const int minViewHeight = 80; ///< pixels
+const int minProgressWidth = 60;
 
 } // namespace
 
@@ -43,7 +46,16 @@ ImportWidget::ImportWidget(QWidget* parent)
     : QWidget(parent)
 {
     setObjectName(QStringLiteral("importPage"));
-    auto* layout = new MyPageLayout(this, tr("Import files"));
+    // In a small window the page scrolls instead of taking the room of the docks.
+    auto* area = new QScrollArea(this);
+    area->setFrameStyle(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    auto* content = new QWidget;
+    area->setWidget(content);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
+    auto* layout = new MyPageLayout(content, tr("Import files"));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(gap);
     grid->setVerticalSpacing(gap);
@@ -158,6 +170,7 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("importProgress"));
     m_progress->setAccessibleName(tr("Converted lines"));
+    m_progress->setMinimumWidth(minProgressWidth);
     m_stop = button(QStringLiteral("importStop"), tr("&Stop"), tr("End the conversion here (Esc)"));
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap);

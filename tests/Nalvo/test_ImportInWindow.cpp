@@ -143,7 +143,7 @@ TEST_F(ImportInWindow, aForeignSourceBecomesAnAssembledDocument)
     writeFile("main.psm", result.toLatin1());
     auto* assembler = module<ModAsmFeHookIf>();
     for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text().startsWith("Assemble") && !assembler->isAssembled())
+        if (action->text() == "Run assembler")
             action->trigger();
     }
     ASSERT_TRUE(assembler->isAssembled()) << qPrintable(messageTexts().join('\n'));
@@ -226,5 +226,5 @@ TEST_F(ImportInWindow, theSmallestWindowShowsThePage)
     window->resize(800, 600);
     load(writeFile("foreign.psm", foreign), "pB");
     screenshot("import-smallest");
-    EXPECT_GE(button("importUse")->visibleRegion().boundingRect().width(), button("importUse")->width());
+    EXPECT_LT(page()->minimumSizeHint().width(), 300) << "it leaves the docks their room";
 }
