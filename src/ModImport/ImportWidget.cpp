@@ -38,7 +38,8 @@ const int gap = 8;
 const int halfGap = 24;       ///< pixels between the two sides
 const int dfltTabIndent = 4;  ///< characters
 const int minViewHeight = 80; ///< pixels
-const int minProgressWidth = 60;
+const int minWidth = 60;
+const int minFilterLength = 12; ///< characters
 
 } // namespace
 
@@ -124,8 +125,12 @@ void ImportWidget::layoutSource(QGridLayout* grid)
     m_filters = new QComboBox(this);
     m_filters->setObjectName(QStringLiteral("importFilters"));
     m_filters->setToolTip(tr("The language that the source is written in"));
+    // The longest name does not decide how wide the page is.
+    m_filters->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    m_filters->setMinimumContentsLength(minFilterLength);
+    m_filters->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     addTitled(grid, rowSyntax, columnSource, tr("Syntax:"), m_filters);
-    grid->addWidget(m_filters, rowSyntax, columnSource + 1, Qt::AlignLeft);
+    grid->addWidget(m_filters, rowSyntax, columnSource + 1);
 
     m_description = new QLabel(this);
     m_description->setObjectName(QStringLiteral("pageHint"));
@@ -139,7 +144,7 @@ void ImportWidget::layoutSource(QGridLayout* grid)
     m_source->setReadOnly(true);
     m_source->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     m_source->setCursorHighlightingEn(false);
-    m_source->setMinimumHeight(minViewHeight);
+    m_source->setMinimumSize(minWidth, minViewHeight);
     grid->addWidget(m_source, rowText, columnSource, 1, 2);
 
     m_restart = button(QStringLiteral("importRestart"), tr("&Restart"), tr("Begin again at the first line"));
@@ -164,29 +169,24 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
     m_destination = new ImportEditorWidget(this);
     m_destination->setObjectName(QStringLiteral("importDestination"));
     m_destination->setAccessibleName(tr("Destination file"));
-    m_destination->setMinimumHeight(minViewHeight);
+    m_destination->setMinimumSize(minWidth, minViewHeight);
     grid->addWidget(m_destination, rowText, columnDestination, 1, 2);
 
     m_progress = new QProgressBar(this);
     m_progress->setObjectName(QStringLiteral("importProgress"));
     m_progress->setAccessibleName(tr("Converted lines"));
-    m_progress->setMinimumWidth(minProgressWidth);
+    m_progress->setMinimumWidth(minWidth);
     m_stop = button(QStringLiteral("importStop"), tr("&Stop"), tr("End the conversion here (Esc)"));
+    // They take the place of the other button during a conversion.
+    m_progress->hide();
+    m_stop->hide();
+    m_useFile =
+        button(QStringLiteral("importUse"), tr("Use converted file"), tr("Open the converted file as a new document"));
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap);
     buttons->addWidget(m_progress, 1);
     buttons->addWidget(m_stop);
-    buttons->addStretch(1);
-    // They are there during a conversion alone, but nothing moves when they come.
-    for (QWidget* widget : {static_cast<QWidget*>(m_progress), static_cast<QWidget*>(m_stop)}) {
-        QSizePolicy policy = widget->sizePolicy();
-        policy.setRetainSizeWhenHidden(true);
-        widget->setSizePolicy(policy);
-        widget->hide();
-    }
-    m_useFile =
-        button(QStringLiteral("importUse"), tr("Use converted file"), tr("Open the converted file as a new document"));
-    buttons->addWidget(m_useFile);
+    buttons->addWidget(m_useFile, 0, Qt::AlignRight);
     grid->addLayout(buttons, rowButtons, columnDestination, 1, 2);
 }
 
@@ -416,6 +416,7 @@ void ImportWidget::showProgress(const QStringList& lines, eStep_t last)
         return;
     m_progress->setRange(0, m_source->blockCount());
     m_progress->setValue(lineNo);
+    m_useFile->hide();
     m_progress->show();
     m_stop->show();
 }
@@ -427,6 +428,7 @@ void ImportWidget::endOfRun(bool hadFocus)
     updateButtons();
     m_progress->hide();
     m_stop->hide();
+    m_useFile->show();
     // A button that is disabled loses the focus, and the user would have to look for it.
     if (giveBack && m_convertAll->isEnabled() && isVisible())
         m_convertAll->setFocus();
