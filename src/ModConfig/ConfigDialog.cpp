@@ -188,6 +188,7 @@ void ConfigDialog::showPage(QListWidgetItem* item)
     const bool enabled = item != nullptr && (item->flags() & Qt::ItemIsEnabled) != 0;
     m_setDefault->setEnabled(enabled);
     m_restore->setEnabled(enabled);
+    m_help->setEnabled(enabled);
     if (item == nullptr)
         return;
     QScrollArea* area = areaOf(item);
@@ -204,7 +205,7 @@ void ConfigDialog::putButtonsAfter(QWidget* page)
         if (page->isAncestorOf(widget))
             last = widget;
     }
-    for (QWidget* button : {m_setDefault, m_restore, m_apply, m_cancel}) {
+    for (QWidget* button : {m_setDefault, m_restore, m_help, m_apply, m_cancel}) {
         setTabOrder(last, button);
         last = button;
     }
