@@ -45,7 +45,6 @@ struct AssemblyResult
 };
 
 /// Assembles sources that are given as texts. No file is read or written.
-/// contents of their devices.
 class Assembly
 {
 public:

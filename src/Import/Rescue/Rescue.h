@@ -14,6 +14,8 @@ struct ProcTable;
 
 namespace nsImport {
 
+class RescueFlow;
+
 struct RescueOptions
 {
     /// What becomes of a word that is no instruction.
@@ -61,6 +63,10 @@ public:
     RescueResult run(const ProgramImage& image) const;
 
 private:
+    static void addFindings(const ProgramImage& image, const RescueFlow& flow, RescueResult* result);
+    bool check(const ProgramImage& image, const RescueFlow& flow, const QByteArray& source,
+               const nsProc::ProcCoreConfig& settings, QString* error) const;
+
     const nsProc::ProcTable& m_table;
     RescueOptions m_options;
 };
