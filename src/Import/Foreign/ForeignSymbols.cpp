@@ -37,7 +37,7 @@ QString valueTextOf(const ForeignStatement& statement)
 QString RegisterNames::keyOf(const QString& name) const
 {
     // The original names are written in any case.
-    return m_dialect.registerOf(name) >= 0 ? name.toLower() : name;
+    return m_dialect->registerOf(name) >= 0 ? name.toLower() : name;
 }
 
 int RegisterNames::registerOf(const QString& name) const
@@ -45,7 +45,7 @@ int RegisterNames::registerOf(const QString& name) const
     const auto renamed = m_names.constFind(keyOf(name));
     if (renamed != m_names.constEnd())
         return renamed.value();
-    const int original = m_dialect.registerOf(name);
+    const int original = m_dialect->registerOf(name);
     return original >= 0 && !m_free.at(original) ? original : -1;
 }
 
@@ -59,7 +59,7 @@ int RegisterNames::rename(const QString& from, const QString& to)
         return -2;
     if (m_names.remove(keyOf(from)) == 0)
         m_free[number] = true;
-    if (m_dialect.registerOf(to) == number)
+    if (m_dialect->registerOf(to) == number)
         m_free[number] = false;
     else
         m_names.insert(keyOf(to), number);
@@ -261,6 +261,7 @@ void ForeignSymbols::nameAll()
 void ForeignSymbols::setPlaced()
 {
     m_placed = true;
+    m_registers = RegisterNames(m_dialect);
     // Long chains are taken apart from their ends, wherever these are, so that none needs a deep recursion.
     const int count = m_program.symbols.size();
     for (int i = 0; i < 2 * count; ++i) {

@@ -24,7 +24,7 @@ class RegisterNames
 {
 public:
     explicit RegisterNames(const ForeignDialect& dialect)
-        : m_dialect(dialect)
+        : m_dialect(&dialect)
         , m_free(64, false)
     {
     }
@@ -38,7 +38,7 @@ public:
 private:
     QString keyOf(const QString& name) const;
 
-    const ForeignDialect& m_dialect;
+    const ForeignDialect* m_dialect;
     QHash<QString, int> m_names; ///< other than the original ones
     QVector<bool> m_free;        ///< by register: it does not have its original name
 };
@@ -54,7 +54,8 @@ public:
 
     /// Finds all definitions, and gives each a name in the result.
     void collect();
-    /// From now on labels have addresses, and constants can be calculated with them.
+    /// From now on labels have addresses, and constants can be calculated with them. The statements are gone through
+    /// once more from the first one.
     void setPlaced();
     /// The statement whose operands are looked at. To be called for all statements in their order.
     void enter(int statement);

@@ -9,6 +9,8 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace nsImport {
 
 ProgramWriter::ProgramWriter(const ForeignProgram& program, const ProgramLayout& layout)
@@ -71,7 +73,9 @@ QVector<ImportSource> ProgramWriter::write(bool replaceBroken) const
     const StatementWriter writer(m_program, m_layout);
     const QString filler = fillerText();
     QStringList head = knownConstants();
-    for (const LayoutSource& layout : m_layout.sources()) {
+    const QVector<LayoutSource>& all = m_layout.sources();
+    const bool hasMain = std::any_of(all.cbegin(), all.cend(), [](const LayoutSource& s) { return s.file == 0; });
+    for (const LayoutSource& layout : all) {
         ImportSource source;
         source.name = sourceName(layout, &taken);
         QString text;
@@ -82,8 +86,10 @@ QVector<ImportSource> ProgramWriter::write(bool replaceBroken) const
                 source.statements.append(statement);
             }
         };
-        append(head, -1);
-        head.clear();
+        if (hasMain ? layout.file == 0 : true) {
+            append(head, -1);
+            head.clear();
+        }
         for (const LayoutItem& item : layout.items) {
             switch (item.kind) {
             case LayoutItem::eStatement:

@@ -99,9 +99,14 @@ StatementWriter::Parts StatementWriter::columnsOf(const ForeignStatement& statem
         parts.labelColumn = columnAt(statement.text, statement.labels.first().pos);
     if (first.length > 0)
         parts.wordColumn = columnAt(statement.text, first.pos);
-    parts.operandColumn = statement.operands.isEmpty() || statement.name.length > 0
-                              ? parts.wordColumn + tabWidth
-                              : columnAt(statement.text, statement.operands.first().pos);
+    // Operands that stand in a column of their own stay there; others follow their word.
+    parts.operandColumn = statement.name.length > 0 ? parts.wordColumn + tabWidth : -1;
+    if (!statement.operands.isEmpty() && statement.name.length == 0) {
+        const int pos = statement.operands.first().pos;
+        const int wordEnd = statement.word.pos + statement.word.length;
+        if (pos - wordEnd > 1 || statement.text.mid(wordEnd, 1) == QLatin1String("\t"))
+            parts.operandColumn = columnAt(statement.text, pos);
+    }
     return parts;
 }
 
@@ -127,7 +132,7 @@ QString StatementWriter::line(const ForeignStatement& statement, const Parts& pa
         text += parts.word;
     }
     if (!parts.operands.isEmpty()) {
-        padTo(&text, parts.operandColumn);
+        padTo(&text, qMax(parts.operandColumn, 0));
         text += parts.operands;
     }
     if (!comment.isEmpty()) {

@@ -34,7 +34,7 @@ private:
         QString operands;
         int labelColumn = 0;
         int wordColumn = 8;
-        int operandColumn = 16;
+        int operandColumn = 16; ///< -1: a blank after the word
     };
 
     QStringList writeCode(const ForeignStatement& statement, bool replaceBroken) const;
