@@ -1,5 +1,9 @@
 #include "ImportFolder.h"
 
+#include "ImportReport.h"
+
+#include "BatchOutput.h"
+
 #include "SafeFile.h"
 
 #include <QDir>
@@ -31,6 +35,22 @@ ImportFolder::ImportFolder(const QString& path)
 {
 }
 
+bool ImportFolder::write(const QVector<ImportFile>& files, const QStringList& originals, bool force,
+                         ImportReport& report)
+{
+    bool isOriginal = false;
+    const QString taken = conflict(files, originals, force, &isOriginal);
+    if (!taken.isEmpty()) {
+        report.show(isOriginal ? nsImport::errImpOriginal : nsImport::errImpExists, {nsBatch::shownPath(taken)});
+        return false;
+    }
+    const QString failure = writeAll(files);
+    if (!failure.isEmpty())
+        report.show(nsImport::errImpCannotWrite, {nsBatch::shownPath(m_path), failure});
+    return failure.isEmpty();
+}
+
+/// A file or folder that is there already and must not be lost; empty if there is none.
 QString ImportFolder::conflict(const QVector<ImportFile>& files, const QStringList& originals, bool force,
                                bool* isOriginal) const
 {
@@ -49,7 +69,8 @@ QString ImportFolder::conflict(const QVector<ImportFile>& files, const QStringLi
     return m_path;
 }
 
-QString ImportFolder::write(const QVector<ImportFile>& files)
+/// @return why that failed, or an empty text
+QString ImportFolder::writeAll(const QVector<ImportFile>& files) const
 {
     const QString parent = QFileInfo(m_path).absolutePath();
     if (!QDir().mkpath(parent))

@@ -8,6 +8,8 @@
 
 namespace nsNalvoImport {
 
+class ImportReport;
+
 /// A file of a result.
 struct ImportFile
 {
@@ -24,17 +26,18 @@ public:
     /// @param path existing or not
     explicit ImportFolder(const QString& path);
 
-    /// A file of the result that is there already and must not be lost; empty if there is none.
+    /// Writes all files, unless one of them would be lost that must not be. It writes into a folder beside, which then
+    /// becomes this one; or, where this one exists, puts them in their places one by one, and back if one of them
+    /// fails.
     /// @param originals files that are never overwritten; absolute, without links
-    QString conflict(const QVector<ImportFile>& files, const QStringList& originals, bool force, bool* isOriginal) const;
-    /// Writes all files: first into a folder beside, which then becomes this one; or, where this one exists, puts them
-    /// in their places one by one, and back if one of them fails.
-    /// @return why that failed, or an empty text; then the folder is as it was
-    QString write(const QVector<ImportFile>& files);
-
-    const QString& path() const { return m_path; }
+    /// @param force other files that are there are overwritten
+    /// @return false: why was reported, and the folder is as it was
+    bool write(const QVector<ImportFile>& files, const QStringList& originals, bool force, ImportReport& report);
 
 private:
+    QString conflict(const QVector<ImportFile>& files, const QStringList& originals, bool force,
+                     bool* isOriginal) const;
+    QString writeAll(const QVector<ImportFile>& files) const;
     QString writeInto(const QString& folder, const QVector<ImportFile>& files) const;
     QString moveIn(const QString& folder, const QVector<ImportFile>& files) const;
 

@@ -49,7 +49,8 @@ void setup(QCommandLineParser* parser)
          tr("dialect"),
          "auto"},
         {{"o", "output"}, tr("Folder of the project; by default the name of the source."), tr("FOLDER")},
-        {"I", tr("Look for included files in FOLDER, too, and allow to read them there. Can be repeated."), tr("FOLDER")},
+        {"I", tr("Look for included files in FOLDER, too, and allow to read them there. Can be repeated."),
+         tr("FOLDER")},
         {"reference",
          tr("Compare the result with the image that the old tool has made: hex, mem, coe, mif, VHDL or Verilog with "
             "INIT strings, a log or a listing."),
@@ -133,8 +134,8 @@ bool ImportOptions::readImage(const QCommandLineParser& parser)
             return wrongUsage(tr("--image and --%1 exclude each other.").arg(QLatin1String(option)));
     }
     if (!parser.positionalArguments().isEmpty())
-        return wrongUsage(tr("--image and a source exclude each other: %1")
-                              .arg(parser.positionalArguments().join(", ")));
+        return wrongUsage(
+            tr("--image and a source exclude each other: %1").arg(parser.positionalArguments().join(", ")));
     if (!parser.isSet("processor"))
         return wrongUsage(tr("--image needs --processor."));
     const QString name = parser.value("processor");

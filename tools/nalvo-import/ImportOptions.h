@@ -23,14 +23,14 @@ struct ImportOptions : nsBatch::BatchOptions
     eParse_t parse(const QStringList& arguments);
 
     nsBatch::BatchMsgStyle style;
-    QString source;                                ///< main source; empty if an image is read
+    QString source;                                    ///< main source; empty if an image is read
     const nsImport::ForeignDialect* dialect = nullptr; ///< null: found by the words of the source
-    QString output;                                ///< folder of the project
-    QStringList folders;                           ///< of included files
-    QString reference;                             ///< image of the old tool; empty: none
-    bool force = false;                            ///< files of the output folder are overwritten
-    QString image;                                 ///< image to make sources from; empty: none
-    const nsProc::ProcTable* processor = nullptr;  ///< of the image
+    QString output;                                    ///< folder of the project
+    QStringList folders;                               ///< of included files
+    QString reference;                                 ///< image of the old tool; empty: none
+    bool force = false;                                ///< files of the output folder are overwritten
+    QString image;                                     ///< image to make sources from; empty: none
+    const nsProc::ProcTable* processor = nullptr;      ///< of the image
 
 private:
     bool readChoices(const QCommandLineParser& parser);

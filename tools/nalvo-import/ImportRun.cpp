@@ -10,7 +10,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
+#include <QJsonObject>
 
 namespace nsNalvoImport {
 
@@ -19,7 +19,7 @@ using namespace nsImport;
 
 ImportRun::ImportRun(const ImportOptions& options)
     : m_options(options)
-    , m_msg(options.style)
+    , m_report(options.style)
 {
 }
 
@@ -38,7 +38,7 @@ bool ImportRun::run()
     options.memorySize = m_hasReference ? m_reference.size() : 0;
     ForeignImport import(options);
     const bool isWhole = import.run();
-    showMessages(import.messages());
+    m_report.showAll(import.messages());
     if (!import.hasResult()) {
         showSummary(import);
         return false;
@@ -55,7 +55,7 @@ bool ImportRun::readReference()
     const ImageResult result = ImageReader().readFile(m_options.reference);
     if (!result.ok) {
         const QString place = result.errorLine > 0 ? tr("line %1: ").arg(result.errorLine) : QString();
-        show(errImpReference, {shownPath(m_options.reference), place + result.error});
+        m_report.show(errImpReference, {shownPath(m_options.reference), place + result.error});
         return false;
     }
     m_reference = result.image;
@@ -74,35 +74,10 @@ void ImportRun::setStamp(ForeignImport::Options* options) const
         options->stamp.moment = QDateTime(m_reference.date, m_reference.time);
 }
 
-void ImportRun::showMessages(const ImportMessages& messages)
-{
-    for (const ImportMessage& message : messages.all()) {
-        QUrl help;
-        help.setScheme(QStringLiteral("pageid"));
-        help.setHost(QStringLiteral("importMessages"));
-        help.setFragment(message.key());
-        nsModMsg::MsgUrl place;
-        if (!message.file.isEmpty()) {
-            place.setPath(message.file);
-            if (message.line > 0)
-                place.setFragment(QString::number(message.line - 1));
-        }
-        // What was renamed or made is for the summary, and for those who want to know all.
-        m_msg.showMessage(message.grade(), message.text, help, place);
-    }
-}
-
-void ImportRun::show(eImportMsg_t type, const QStringList& arguments)
-{
-    ImportMessages messages;
-    messages.add(type, arguments);
-    showMessages(messages);
-}
-
 void ImportRun::prove(const ForeignImport& import)
 {
     if (!m_hasReference) {
-        show(warnImpNoReference, {});
+        m_report.show(warnImpNoReference, {});
         m_proof = tr("not proved, as there is no reference");
         return;
     }
@@ -133,18 +108,18 @@ void ImportRun::showProof(const ForeignImport& import, const ImageProofResult& p
                                  {"equal", proof.equalCount},
                                  {"different", proof.differenceCount},
                                  {"differences", differences}};
-        printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
+        m_report.object(object);
         return;
     }
     const QStringList lines = proof.report();
     for (const QString& line : lines)
-        say(line);
+        m_report.say(line);
     for (const ImageDifference& difference : proof.first) {
         if (const ForeignStatement* origin = import.origin(difference.oursPlace.file, difference.oursPlace.line))
-            say(tr("%1 comes from %2:%3: %4")
-                    .arg(QString::number(difference.address, 16).toUpper().rightJustified(3, '0'),
-                         shownPath(import.program().files.at(origin->file).path), QString::number(origin->line),
-                         origin->text.trimmed()));
+            m_report.say(tr("%1 comes from %2:%3: %4")
+                             .arg(QString::number(difference.address, 16).toUpper().rightJustified(3, '0'),
+                                  shownPath(import.program().files.at(origin->file).path),
+                                  QString::number(origin->line), origin->text.trimmed()));
     }
 }
 
@@ -154,26 +129,10 @@ bool ImportRun::write(const ForeignImport& import)
     for (const ImportSource& source : import.sources())
         files.append({source.name, source.text});
     files.append({import.name() + QStringLiteral(".nalvo"), import.project()});
-    ImportFolder folder(m_folder);
     QStringList originals = import.filesRead();
     if (!m_options.reference.isEmpty())
         originals.append(QFileInfo(m_options.reference).canonicalFilePath());
-    bool isOriginal = false;
-    const QString conflict = folder.conflict(files, originals, m_options.force, &isOriginal);
-    if (!conflict.isEmpty()) {
-        show(isOriginal ? errImpOriginal : errImpExists, {shownPath(conflict)});
-        return false;
-    }
-    const QString failure = folder.write(files);
-    if (!failure.isEmpty())
-        show(errImpCannotWrite, {shownPath(folder.path()), failure});
-    return failure.isEmpty();
-}
-
-void ImportRun::say(const QString& line)
-{
-    if (!m_options.style.quiet)
-        printLine(stdout, oneLine(line).toLocal8Bit());
+    return ImportFolder(m_folder).write(files, originals, m_options.force, m_report);
 }
 
 void ImportRun::showSummary(const ForeignImport& import)
@@ -183,34 +142,36 @@ void ImportRun::showSummary(const ForeignImport& import)
     const int broken = import.hasResult() ? import.brokenCount() : 0;
     const QString project = m_isWritten ? m_folder + '/' + import.name() + QStringLiteral(".nalvo") : QString();
     if (m_options.style.json) {
-        const bool done = m_isWritten && m_msg.errors() == 0;
-        const QJsonObject object{{"result", done ? "imported" : m_isWritten ? "incomplete" : "failed"},
+        const bool done = m_isWritten && m_report.errors() == 0;
+        const QJsonObject object{{"result", done          ? "imported"
+                                            : m_isWritten ? "incomplete"
+                                                          : "failed"},
                                  {"project", project.isEmpty() ? QJsonValue() : QJsonValue(shownPath(project))},
                                  {"words", import.wordCount()},
                                  {"proved", m_isProved},
-                                 {"errors", m_msg.errors()},
-                                 {"warnings", m_msg.warnings()},
+                                 {"errors", m_report.errors()},
+                                 {"warnings", m_report.warnings()},
                                  {"renamed", renamed},
                                  {"left", broken}};
-        printLine(stdout, QJsonDocument(object).toJson(QJsonDocument::Compact));
+        m_report.object(object);
         return;
     }
     if (!import.hasResult()) {
-        say(tr("Not imported."));
+        m_report.say(tr("Not imported."));
         return;
     }
     const QString proof = m_proof.isEmpty() ? tr("not proved, as lines are left") : m_proof;
-    say(tr("%1 words from %2 files (%3), %4.")
-            .arg(QString::number(import.wordCount()), QString::number(import.filesRead().size()),
-                 QLatin1String(import.dialect().title), proof));
+    m_report.say(tr("%1 words from %2 files (%3), %4.")
+                     .arg(QString::number(import.wordCount()), QString::number(import.filesRead().size()),
+                          QLatin1String(import.dialect().title), proof));
     for (const ImportMessage& message : messages.all()) {
         const bool isTold = message.grade() == ModMsgHookIf::eMsgInfo && !m_options.style.verbose;
         if (isTold)
-            say(QStringLiteral("  ") + message.text);
+            m_report.say(QStringLiteral("  ") + message.text);
     }
     if (broken > 0)
-        say(tr("%1 lines are left to do: the assembler stops at each of them (NO_COUNTERPART).").arg(broken));
-    say(m_isWritten ? tr("Project: %1").arg(shownPath(project)) : tr("Nothing was written."));
+        m_report.say(tr("%1 lines are left to do: the assembler stops at each of them (NO_COUNTERPART).").arg(broken));
+    m_report.say(m_isWritten ? tr("Project: %1").arg(shownPath(project)) : tr("Nothing was written."));
 }
 
 } // namespace nsNalvoImport

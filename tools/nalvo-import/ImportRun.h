@@ -2,12 +2,12 @@
 
 #include "ImportFolder.h"
 #include "ImportOptions.h"
+#include "ImportReport.h"
 
 #include "ForeignImport.h"
 #include "ImageProof.h"
 
 #include <QCoreApplication>
-#include <QJsonObject>
 
 namespace nsNalvoImport {
 
@@ -25,16 +25,13 @@ public:
 private:
     bool readReference();
     void setStamp(nsImport::ForeignImport::Options* options) const;
-    void showMessages(const nsImport::ImportMessages& messages);
-    void show(nsImport::eImportMsg_t type, const QStringList& arguments);
     void prove(const nsImport::ForeignImport& import);
     void showProof(const nsImport::ForeignImport& import, const nsImport::ImageProofResult& proof);
     bool write(const nsImport::ForeignImport& import);
     void showSummary(const nsImport::ForeignImport& import);
-    void say(const QString& line);
 
     ImportOptions m_options;
-    nsBatch::BatchMsg m_msg;
+    ImportReport m_report;
     nsImport::ProgramImage m_reference;
     bool m_hasReference = false;
     bool m_isProved = false;

@@ -2,9 +2,12 @@
 
 #include "ImportOptions.h"
 #include "ImportRun.h"
+#include "RescueRun.h"
 
 #include "BatchOutput.h"
 #include "BatchProcess.h"
+
+#include <QCoreApplication>
 
 namespace {
 
@@ -36,7 +39,8 @@ int program(const QStringList& arguments)
     }
     if (!checkSourceDateEpoch())
         return exitWrongUsage;
-    return finish(ImportRun(options).run() ? exitImported : exitNotImported);
+    const bool done = options.image.isEmpty() ? ImportRun(options).run() : RescueRun(options).run();
+    return finish(done ? exitImported : exitNotImported);
 }
 
 } // namespace

@@ -67,9 +67,9 @@ struct sForeignWord_t
 
 /// How numbers are written.
 enum eForeignNumbers_t {
-    numHexPlain,   ///< `1F` is hexadecimal, `20'd` decimal, `0101'b` binary; also `$1F` and `%0101`
-    numDollar,     ///< `12` decimal, `$1F`, `%0101`
-    numC,          ///< `12`, `0x1F`, `017`, `0b101`, `'A'`
+    numHexPlain, ///< `1F` is hexadecimal, `20'd` decimal, `0101'b` binary; also `$1F` and `%0101`
+    numDollar,   ///< `12` decimal, `$1F`, `%0101`
+    numC,        ///< `12`, `0x1F`, `017`, `0b101`, `'A'`
 };
 
 /// A name that a dialect knows without a definition.

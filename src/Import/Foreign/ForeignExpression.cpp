@@ -189,8 +189,7 @@ ForeignValue ForeignExpression::combine(const ForeignValue& a, const QString& op
     // The result calculates in another order, so only what can not be misread is shown as a calculation.
     const auto canStand = [](const ForeignValue& v) { return v.isAtom && !v.isCharacter && !v.text.isEmpty(); };
     const bool isShown = canStand(a) && canStand(b) && !a.isAddress && !b.isAddress;
-    ForeignValue result =
-        ForeignValue::number(int(value), isShown ? a.text + ' ' + op + ' ' + b.text : QString());
+    ForeignValue result = ForeignValue::number(int(value), isShown ? a.text + ' ' + op + ' ' + b.text : QString());
     result.isAtom = false;
     result.isAddress = a.isAddress || b.isAddress;
     return result;

@@ -191,8 +191,8 @@ bool ForeignResolver::encodeRegisterForms(ForeignStatement* statement)
         return true;
     }
     const QString text = form == frmRegConst ? QString::fromLatin1(statement->meaning->arg) : statement->operand(1);
-    const bool isRegister = form == frmRegReg || form == frmRotate ||
-                            (form == frmRegAny && m_symbols.registerOf(text, &secondText) >= 0);
+    const bool isRegister =
+        form == frmRegReg || form == frmRotate || (form == frmRegAny && m_symbols.registerOf(text, &secondText) >= 0);
     if (isRegister ? !registerAt(text, &second, &secondText)
                    : !valueAt(text, m_encoder.maxNumber(opcode), false, &second, &secondText))
         return false;
@@ -277,8 +277,9 @@ bool ForeignResolver::encodeSequence(ForeignStatement* statement)
     int other = 0;
     QString otherText;
     const QString text = statement->operand(isPort ? 0 : 1);
-    if (isPort ? !valueAt(statement->operand(1), m_dialect.processor().layout.maxConstantPort, false, &other, &otherText)
-               : !registerAt(statement->operand(0), &other, &otherText))
+    if (isPort
+            ? !valueAt(statement->operand(1), m_dialect.processor().layout.maxConstantPort, false, &other, &otherText)
+            : !registerAt(statement->operand(0), &other, &otherText))
         return false;
     Bytes bytes;
     const Bytes* found = bytesOf(text);
@@ -340,11 +341,10 @@ bool ForeignResolver::encodeWord(ForeignStatement* statement)
     if (!value.ok())
         return reportValue(value, text);
     int target = 0;
-    const QString instruction =
-        m_disassembler.text(value.value, statement->address, [&](int address) {
-            target = address;
-            return address >= 0 && address <= m_dialect.maxAddress ? labelFor(address) : QString();
-        });
+    const QString instruction = m_disassembler.text(value.value, statement->address, [&](int address) {
+        target = address;
+        return address >= 0 && address <= m_dialect.maxAddress ? labelFor(address) : QString();
+    });
     if (instruction.isEmpty() || instruction.endsWith(' ') || instruction.endsWith(','))
         return report(errImpNoSuchWord, {text});
     m_program.highestTarget = qMax(m_program.highestTarget, target);

@@ -18,12 +18,12 @@ struct ForeignPiece
 /// One line of a foreign program, cut into its parts.
 struct ForeignStatement
 {
-    int file = 0;         ///< index in ForeignProgram::files
-    int line = 0;         ///< counted from 1
-    QString text;         ///< the whole line
-    QString code;         ///< the line with blanks in place of its comments, without what follows the last word
-    QString comment;      ///< without the characters that mark it
-    int commentPos = -1;  ///< column of the comment in the line; -1: there is none
+    int file = 0;        ///< index in ForeignProgram::files
+    int line = 0;        ///< counted from 1
+    QString text;        ///< the whole line
+    QString code;        ///< the line with blanks in place of its comments, without what follows the last word
+    QString comment;     ///< without the characters that mark it
+    int commentPos = -1; ///< column of the comment in the line; -1: there is none
 
     QVector<ForeignPiece> labels; ///< without their colons
     ForeignPiece name;            ///< what an equate defines

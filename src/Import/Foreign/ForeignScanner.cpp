@@ -155,8 +155,7 @@ void ForeignScanner::cutWord(ForeignStatement* statement, int* pos) const
     if (after < code.size() && code.at(after) != ',') {
         static const sForeignWord_t assignment{"=", opEquate};
         const bool isAssignment = m_dialect.expressions && statement->part(second) == QLatin1String("=");
-        const sForeignWord_t* meaning =
-            isAssignment ? &assignment : m_dialect.find(statement->part(second).toUpper());
+        const sForeignWord_t* meaning = isAssignment ? &assignment : m_dialect.find(statement->part(second).toUpper());
         if (meaning != nullptr && meaning->op == opEquate) {
             statement->name = word;
             statement->word = second;

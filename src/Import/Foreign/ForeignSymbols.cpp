@@ -190,8 +190,8 @@ int ForeignSymbols::add(ForeignSymbol::eKind_t kind, const QString& name, int st
         if (known.kind != kind || mayRepeat)
             continue;
         const ForeignStatement& place = m_program.statementOf(known);
-        report(errImpDuplicateName, {name, QString::number(place.line),
-                                     QFileInfo(m_program.files.at(place.file).path).fileName()});
+        report(errImpDuplicateName,
+               {name, QString::number(place.line), QFileInfo(m_program.files.at(place.file).path).fileName()});
         break;
     }
     ForeignSymbol symbol;
@@ -247,7 +247,7 @@ void ForeignSymbols::nameAll()
             symbol.ours = m_names.make(lastLabel + '_' + symbol.name, ImportNames::eLabel, &reason);
             continue;
         }
-        const ImportNames::eUse_t use = symbol.kind == ForeignSymbol::eLabel    ? ImportNames::eLabel
+        const ImportNames::eUse_t use = symbol.kind == ForeignSymbol::eLabel   ? ImportNames::eLabel
                                         : symbol.kind == ForeignSymbol::eValue ? ImportNames::eConstant
                                                                                : ImportNames::eRegister;
         symbol.ours = m_names.make(symbol.name, use, &reason);
@@ -361,7 +361,7 @@ int ForeignSymbols::known(const QString& name)
     if (m_dialect.stamps && value < 0) {
         const QTime time = m_stamp.moment.time();
         const QDate date = m_stamp.moment.date();
-        const QHash<QString, int> stamps{{"timestamp_hours", time.hour()},    {"timestamp_minutes", time.minute()},
+        const QHash<QString, int> stamps{{"timestamp_hours", time.hour()},     {"timestamp_minutes", time.minute()},
                                          {"timestamp_seconds", time.second()}, {"datestamp_year", date.year() % 100},
                                          {"datestamp_month", date.month()},    {"datestamp_day", date.day()}};
         value = stamps.value(name, -1);

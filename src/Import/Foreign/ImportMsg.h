@@ -62,6 +62,8 @@ enum eImportMsg_t {
     errImpOriginal,
     errImpReference,
     warnImpNoReference,
+    errImpNoInstruction,
+    errImpRescue,
     errImpTooManyMessages,
     eImportMsgCount, ///< number of messages, not a message
 };

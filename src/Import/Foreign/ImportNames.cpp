@@ -59,29 +59,36 @@ QString ImportNames::withAllowedCharacters(const QString& name)
 QString ImportNames::make(const QString& wanted, eUse_t use, QString* reason)
 {
     static const char* const uses[] = {"_label", "_const", "_reg"};
-    QString name = withAllowedCharacters(wanted);
+    const QString name = withAllowedCharacters(wanted);
     if (name != wanted)
         *reason = tr("characters that a name can not have");
+    QString suffix = QLatin1String(uses[use]);
     QString refused = refusal(name);
     if (refused.isEmpty()) {
         const auto other = m_taken.constFind(name.toLower());
         if (other == m_taken.constEnd()) {
-            m_taken.insert(name.toLower(), wanted);
+            m_taken.insert(name.toLower(), {wanted, use});
             return name;
         }
-        refused = other.value() == wanted ? tr("the same name is used for something else")
-                                          : tr("\"%1\" differs by case alone").arg(other.value());
-        if (other.value().compare(wanted, Qt::CaseInsensitive) != 0)
-            refused = tr("\"%1\" has this name").arg(other.value());
+        const QString& taker = other.value().wanted;
+        if (taker == wanted)
+            refused = tr("the same name is used for something else");
+        else if (taker.compare(wanted, Qt::CaseInsensitive) == 0)
+            refused = tr("\"%1\" differs by case alone").arg(taker);
+        else
+            refused = tr("\"%1\" has this name").arg(taker);
+        // What it is for does not tell it from another one of its kind.
+        if (other.value().use == use)
+            suffix = QStringLiteral("_2");
     }
     if (reason->isEmpty())
         *reason = refused;
-    const QString base = name + QLatin1String(uses[use]);
-    name = base;
-    for (int number = 2; m_taken.contains(name.toLower()) || !refusal(name).isEmpty(); ++number)
-        name = base + QString::number(number);
-    m_taken.insert(name.toLower(), wanted);
-    return name;
+    QString made = name + suffix;
+    for (int number = suffix.endsWith('2') ? 3 : 2; m_taken.contains(made.toLower()) || !refusal(made).isEmpty();
+         ++number)
+        made = name + (suffix.endsWith('2') ? QStringLiteral("_") : suffix) + QString::number(number);
+    m_taken.insert(made.toLower(), {wanted, use});
+    return made;
 }
 
 } // namespace nsImport

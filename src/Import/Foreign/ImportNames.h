@@ -28,7 +28,13 @@ private:
     QString refusal(const QString& name) const;
     static QString withAllowedCharacters(const QString& name);
 
-    QHash<QString, QString> m_taken; ///< by lower case
+    struct Taken
+    {
+        QString wanted;
+        eUse_t use = eLabel;
+    };
+
+    QHash<QString, Taken> m_taken; ///< by lower case
     QStringList m_registers;
     QStringList m_banks;
 };

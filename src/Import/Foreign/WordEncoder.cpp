@@ -65,7 +65,8 @@ quint32 WordEncoder::computedFlow(eOpcode_t opcode, int high, int low) const
 {
     const sInstr_t* row = m_table.assembled(opcode);
     const sInstrLayout_t& layout = m_table.layout;
-    return row == nullptr ? 0 : quint32(row->words[wordComputed] + (high << layout.dstShift) + (low << layout.srcShift));
+    return row == nullptr ? 0
+                          : quint32(row->words[wordComputed] + (high << layout.dstShift) + (low << layout.srcShift));
 }
 
 int WordEncoder::maxNumber(eOpcode_t opcode) const

@@ -121,8 +121,9 @@ bool ForeignImport::check(const ProgramWriter& writer)
             (result.image.contains(address) && result.image.word(address) == wanted.word(address)))
             continue;
         const QString found = result.image.contains(address) ? wordText(result.image.word(address)) : tr("nothing");
-        m_messages.add(errImpWrongResult, {tr("address %1 has %2 instead of %3")
-                                               .arg(hexNumber(address), found, wordText(wanted.word(address)))});
+        m_messages.add(
+            errImpWrongResult,
+            {tr("address %1 has %2 instead of %3").arg(hexNumber(address), found, wordText(wanted.word(address)))});
         return false;
     }
     const bool hasMore = isWhole && result.image.count() != wanted.count();

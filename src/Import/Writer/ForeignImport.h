@@ -21,11 +21,11 @@ public:
     /// Knobs.
     struct Options
     {
-        QString source;                          ///< the main source
-        const ForeignDialect* dialect = nullptr; ///< null: told by the words of the source
-        QStringList folders;                     ///< where included files are as well
-        ForeignStamp stamp;                      ///< when the old tool ran
-        int memorySize = 0;                      ///< words of the memory; 0: not known
+        QString source;                            ///< the main source
+        const ForeignDialect* dialect = nullptr;   ///< null: told by the words of the source
+        QStringList folders;                       ///< where included files are as well
+        ForeignStamp stamp;                        ///< when the old tool ran
+        int memorySize = 0;                        ///< words of the memory; 0: not known
         QString output = QStringLiteral("output"); ///< folder of the output files, relative to the project
     };
 

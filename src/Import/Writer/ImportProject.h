@@ -16,7 +16,7 @@ class ImportProject
 public:
     QString title;
     QString comment;
-    QStringList sources;             ///< paths relative to the project, in project order
+    QStringList sources; ///< paths relative to the project, in project order
     const nsProc::ProcTable* table = nullptr;
     nsProc::ProcCoreConfig settings; ///< of the processor
     QString hexFile;                 ///< output, relative to the project; empty: none

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ProgramLayout.h"
 #include "ProgramImage.h"
+#include "ProgramLayout.h"
 
 #include <QByteArray>
 
