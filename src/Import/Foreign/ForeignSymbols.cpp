@@ -160,8 +160,10 @@ void ForeignSymbols::collectRegister(int index)
     const QString name = statement.operand(1);
     const int number = m_registers.rename(statement.operand(0), name);
     if (number < 0) {
-        report(number == -1 ? errImpExpectRegister : errImpNoCounterpart,
-               {number == -1 ? statement.operand(0) : name, ForeignSymbols::tr("another register has this name")});
+        if (number == -1)
+            report(errImpExpectRegister, {statement.operand(0)});
+        else
+            report(errImpNoCounterpart, {name, tr("another register has this name")});
         statement.isBroken = true;
         return;
     }
@@ -462,6 +464,7 @@ ForeignValue ForeignSymbols::labelValue(const QString& name)
         return ForeignValue::failed(ForeignValue::eUnknownName, name);
     if (!m_placed)
         return ForeignValue::failed(ForeignValue::eNotANumber, name);
+    m_program.symbols[label].isUsed = true;
     ForeignValue value = ForeignValue::number(m_program.symbols.at(label).value, m_program.symbols.at(label).ours);
     value.isAddress = true;
     value.label = label;
