@@ -100,5 +100,5 @@ TEST(Mico8, whatIsDoubtfulIsRefused)
                                 ".data\n.byte 1\n", "/* no end\n", "x: nop\nx: nop\n", ".org 4096\nnop\n", "nop r1\n",
                                 "movi r1, 'AB'\n", "r1: nop\n"});
     expectRefused(Dialect::Mico8Vendor, {"x: nop\nX: nop\n", "1: nop\n", ".text\n", ".set x, 1\n"});
-    expectRefused(Dialect::Mico8Gnu, {"x equ 5\n", "x reg r1\n"});
+    expectRefused(Dialect::Mico8Gnu, {"x equ 5\n", "x reg r1\n", ".equ x, r1\nmov x, x\n"});
 }

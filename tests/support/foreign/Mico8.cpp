@@ -108,14 +108,15 @@ private:
     quint32 encodeBranch(const Statement& statement);
     int targetOf(const Statement& statement, const QString& operand);
     int localTarget(const Statement& statement, const QString& number, bool behind);
-    int registerNumber(const QString& operand, int depth = 0) const;
+    int registerNumber(const QString& operand) const;
     quint32 registerOf(const Line& line, const QString& operand);
     int valueOf(const QString& operand, int depth = 0) const;
     quint32 numberOf(const Line& line, const QString& operand, int highest);
 
     bool m_gnu;
     QVector<Statement> m_statements;
-    QMap<QString, QString> m_names; ///< value as written, by name: a number or a register
+    QMap<QString, QString> m_names; ///< value as written, by name
+    QMap<QString, int> m_registers; ///< number by the name that it was given
     QMap<QString, int> m_labels;
     QVector<LocalLabel> m_locals;
 };
@@ -197,7 +198,10 @@ bool Mico8::readDefinition(const Line& line, const QString& rest, Statement* sta
     const QString name = isInfix.hasMatch() ? isInfix.captured(1) : isDotted.captured(2);
     const QString value = isInfix.hasMatch() ? isInfix.captured(3) : isDotted.captured(3);
     define(line, name);
-    m_names.insert(name, value.trimmed());
+    if (isInfix.captured(2).toLower() == "reg")
+        m_registers.insert(name, int(registerOf(line, value.trimmed())));
+    else
+        m_names.insert(name, value.trimmed());
     statement->word = ".EQU";
     return true;
 }
@@ -205,7 +209,7 @@ bool Mico8::readDefinition(const Line& line, const QString& rest, Statement* sta
 void Mico8::define(const Line& line, const QString& name)
 {
     const Qt::CaseSensitivity sensitivity = m_gnu ? Qt::CaseSensitive : Qt::CaseInsensitive;
-    for (const QString& other : m_names.keys() + m_labels.keys()) {
+    for (const QString& other : m_names.keys() + m_registers.keys() + m_labels.keys()) {
         if (other.compare(name, sensitivity) == 0)
             fail(line, "defined twice: " + name);
     }
@@ -315,13 +319,13 @@ int Mico8::localTarget(const Statement& statement, const QString& number, bool b
     return qMax(found, 0);
 }
 
-int Mico8::registerNumber(const QString& operand, int depth) const
+int Mico8::registerNumber(const QString& operand) const
 {
     static const QRegularExpression plain("^[rR](\\d{1,2})$");
     const QRegularExpressionMatch match = plain.match(operand);
     if (match.hasMatch() && match.captured(1).toInt() <= 31)
         return match.captured(1).toInt();
-    return m_names.contains(operand) && depth < 20 ? registerNumber(m_names[operand], depth + 1) : -1;
+    return m_registers.value(operand, -1);
 }
 
 quint32 Mico8::registerOf(const Line& line, const QString& operand)
