@@ -27,6 +27,63 @@ protected:
     }
 };
 
+/// Patterns for the forms of the dialect.
+QStringList formsOf(Dialect dialect)
+{
+    const QStringList six = {"'upper",
+                             "'lower",
+                             "INST\\s",
+                             "DEFAULT_JUMP",
+                             "INCLUDE",
+                             "STRING",
+                             "TABLE",
+                             "\\]'d",
+                             "\\]'b",
+                             "~\"",
+                             "~[0-9]",
+                             "~[a-z]",
+                             "LOAD&RETURN\\s+\\w+\\s*,\\s*\\w+\\$",
+                             "OUTPUTK\\s+\\w+#",
+                             "timestamp_hours",
+                             "STAR",
+                             "JUMP@",
+                             "CALL@",
+                             "HWBUILD",
+                             "REGBANK",
+                             "\\bDCS"};
+    const QStringList kcpsm = {"NAMEREG",
+                               "ADDRESS",
+                               "CONSTANT",
+                               "'d",
+                               "'b",
+                               "\"[A-Z]\"",
+                               "RETURNI",
+                               "INTERRUPT",
+                               "JUMP\\s+[0-9A-F]{3}\\b",
+                               "INPUT\\s+\\w+\\s*,\\s*\\(",
+                               "\\x1A",
+                               "\\r\\n"};
+    const QStringList pBlazIde = {"DSIN", "DSOUT", "DSIO", "DSRAM", "DSROM",       "EQU",  "ORG",
+                                  "VHDL", "EINT",  "DINT", "RETI",  "\\$[0-9A-F]", "%[01]"};
+    const QStringList mico8 = {"\\.equ", "\\.org", "\\$\\+", "\\$-", "_lo\\(", "_hi\\(",
+                               "0b",     "'.'",    "/\\*",   "//",   "\\s#"};
+    const QStringList vendor = {"\\sequ\\s", "\\sreg\\s"};
+    const QStringList gnu = {"\\.set", "\\.text", "\\d:", "\\db\\b", "\\df\\b", "\\.L\\d"};
+    switch (dialect) {
+    case Dialect::Kcpsm3:
+        return kcpsm;
+    case Dialect::Kcpsm6:
+        return kcpsm + six;
+    case Dialect::PBlazIde:
+        return pBlazIde;
+    case Dialect::Mico8Vendor:
+        return mico8 + vendor;
+    case Dialect::Mico8Gnu:
+        return mico8 + gnu;
+    }
+    return {};
+}
+
 } // namespace
 
 TEST_P(RandomForeign, programsAreValidAndOfTheRightLength)
@@ -61,83 +118,7 @@ TEST_P(RandomForeign, allFormsOccur)
         QStringList errors;
         assembled(seed, &errors, &text);
     }
-    QStringList forms;
-    switch (GetParam()) {
-    case Dialect::Kcpsm6:
-        forms << "'upper"
-              << "'lower"
-              << "INST\\s"
-              << "DEFAULT_JUMP"
-              << "INCLUDE"
-              << "STRING"
-              << "TABLE"
-              << "\\]'d"
-              << "\\]'b"
-              << "~\""
-              << "~[0-9]"
-              << "~[a-z]"
-              << "LOAD&RETURN\\s+\\w+\\s*,\\s*\\w+\\$"
-              << "OUTPUTK\\s+\\w+#"
-              << "timestamp_hours"
-              << "STAR"
-              << "JUMP@"
-              << "CALL@"
-              << "HWBUILD"
-              << "REGBANK"
-              << "\\bDCS";
-        [[fallthrough]];
-    case Dialect::Kcpsm3:
-        forms << "NAMEREG"
-              << "ADDRESS"
-              << "CONSTANT"
-              << "'d"
-              << "'b"
-              << "\"[A-Z]\""
-              << "RETURNI"
-              << "INTERRUPT"
-              << "JUMP\\s+[0-9A-F]{3}\\b"
-              << "INPUT\\s+\\w+\\s*,\\s*\\("
-              << "\\x1A"
-              << "\\r\\n";
-        break;
-    case Dialect::PBlazIde:
-        forms << "DSIN"
-              << "DSOUT"
-              << "DSIO"
-              << "DSRAM"
-              << "DSROM"
-              << "EQU"
-              << "ORG"
-              << "VHDL"
-              << "EINT"
-              << "DINT"
-              << "RETI"
-              << "\\$[0-9A-F]"
-              << "%[01]";
-        break;
-    case Dialect::Mico8Gnu:
-        forms << "\\.set"
-              << "\\.text"
-              << "\\d:"
-              << "\\db\\b"
-              << "\\df\\b"
-              << "\\.L\\d";
-        [[fallthrough]];
-    case Dialect::Mico8Vendor:
-        forms << "\\.equ"
-              << "\\.org"
-              << "\\$\\+"
-              << "\\$-"
-              << "_lo\\("
-              << "_hi\\("
-              << "0b"
-              << "'.'"
-              << "/\\*"
-              << "//"
-              << "\\s#";
-        break;
-    }
-    for (const QString& form : forms) {
+    for (const QString& form : formsOf(GetParam())) {
         const QRegularExpression expression(form, QRegularExpression::CaseInsensitiveOption);
         EXPECT_TRUE(expression.match(text).hasMatch()) << form.toStdString();
     }
