@@ -1,0 +1,172 @@
+// Logs and listings: lines of an address, a word, and the source text, among other lines.
+
+#include "ImageBuilder.h"
+
+#include <QRegularExpression>
+
+namespace nsImport {
+
+namespace {
+
+/// Takes the pieces between blanks from a line, one after the other.
+class Pieces
+{
+public:
+    explicit Pieces(const QByteArray& line)
+        : m_line(line)
+    {
+    }
+
+    QByteArray next()
+    {
+        while (m_pos < m_line.size() && isBlank(m_line.at(m_pos)))
+            ++m_pos;
+        const int start = m_pos;
+        while (m_pos < m_line.size() && !isBlank(m_line.at(m_pos)))
+            ++m_pos;
+        return m_line.mid(start, m_pos - start);
+    }
+    QByteArray rest() const { return m_line.mid(m_pos).trimmed(); }
+
+private:
+    const QByteArray& m_line;
+    int m_pos = 0;
+};
+
+bool isNumber(const QByteArray& piece, int fewest, int most, quint64* value)
+{
+    const QByteArray digits = piece.startsWith("0x") || piece.startsWith("0X") ? piece.mid(2) : piece;
+    return digits.size() >= fewest && digits.size() <= most && !digits.contains('_') && toNumber(digits, 16, value);
+}
+
+struct sListingLine_t
+{
+    quint64 address = 0;
+    quint64 word = 0;
+    QByteArray text;
+};
+
+/// `3FF 34001 text`, or as our own assembler lists it: `03FF PAGE0 3FF 34001 file:line text`.
+bool parseLine(const QByteArray& line, sListingLine_t* result)
+{
+    Pieces pieces(line);
+    if (!isNumber(pieces.next(), 3, 6, &result->address))
+        return false;
+    QByteArray second = pieces.next();
+    if (second.startsWith("PAGE") || second == "SHARED") {
+        quint64 inPage = 0;
+        if (!isNumber(pieces.next(), 3, 6, &inPage))
+            return false;
+        second = pieces.next();
+    }
+    const int wordDigits = 5;
+    if (!isNumber(second, wordDigits, wordDigits, &result->word))
+        return false;
+    result->text = pieces.rest();
+    return true;
+}
+
+QTime timeIn(const QString& line)
+{
+    static const QRegularExpression form(QStringLiteral("\\b(\\d{1,2}):(\\d{2}):(\\d{2})\\b"));
+    const QRegularExpressionMatch match = form.match(line);
+    return match.hasMatch() ? QTime(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt())
+                            : QTime();
+}
+
+QDate dateIn(const QString& line)
+{
+    static const QRegularExpression numbers(QStringLiteral("\\b(\\d{4})[-/.](\\d{1,2})[-/.](\\d{1,2})\\b"));
+    static const QRegularExpression dayFirst(
+        QStringLiteral("\\b(\\d{1,2})(?:st|nd|rd|th)?[ -]+([A-Za-z]{3})[a-z]*\\.?,?[ -]+(\\d{4}|\\d{2})\\b"));
+    static const QRegularExpression monthFirst(QStringLiteral(
+        "\\b([A-Za-z]{3})[a-z]*\\.? +(\\d{1,2})(?:st|nd|rd|th)?,?(?: +\\d\\d:\\d\\d:\\d\\d)? +(\\d{4})\\b"));
+    static const QStringList months = {"jan", "feb", "mar", "apr", "may", "jun",
+                                       "jul", "aug", "sep", "oct", "nov", "dec"};
+    QRegularExpressionMatch match = numbers.match(line);
+    if (match.hasMatch())
+        return QDate(match.captured(1).toInt(), match.captured(2).toInt(), match.captured(3).toInt());
+    match = dayFirst.match(line);
+    const bool isDayFirst = match.hasMatch();
+    if (!isDayFirst)
+        match = monthFirst.match(line);
+    if (!match.hasMatch())
+        return QDate();
+    const int month = months.indexOf(match.captured(isDayFirst ? 2 : 1).toLower()) + 1;
+    const int year = match.captured(3).toInt();
+    const int century = 2000; // of a year with two digits
+    return QDate(year < 100 ? century + year : year, month, match.captured(isDayFirst ? 1 : 2).toInt());
+}
+
+/// Finds the moment of the run in the lines around the program. The tool's own date stands there, too: what has a time
+/// beside it, or in the next line, is the run's.
+class StampFinder
+{
+public:
+    void look(const QByteArray& bytes)
+    {
+        const int longest = 512;
+        if (time.isValid() && date.isValid())
+            return;
+        const QString line = QString::fromLatin1(bytes.left(longest));
+        const QTime foundTime = time.isValid() ? QTime() : timeIn(line);
+        const QDate foundDate = dateIn(line);
+        if (foundTime.isValid()) {
+            time = foundTime;
+            date = foundDate.isValid() ? foundDate : m_lastDate;
+        } else if (foundDate.isValid() && (m_lastHadTime || isDateOfRun(line))) {
+            date = foundDate;
+        }
+        m_lastHadTime = foundTime.isValid();
+        m_lastDate = foundDate;
+    }
+
+    QDate date;
+    QTime time;
+
+private:
+    static bool isDateOfRun(const QString& line)
+    {
+        static const QRegularExpression words(QStringLiteral("\\b(date|datestamp|assembled|created|generated on)\\b"),
+                                              QRegularExpression::CaseInsensitiveOption);
+        return words.match(line).hasMatch();
+    }
+
+    bool m_lastHadTime = false;
+    QDate m_lastDate;
+};
+
+} // namespace
+
+bool isListing(const QByteArray& content)
+{
+    LineCursor cursor(content);
+    sListingLine_t parsed;
+    while (cursor.next()) {
+        if (parseLine(cursor.line(), &parsed))
+            return true;
+    }
+    return false;
+}
+
+bool readListing(const QByteArray& content, ImageBuilder* image)
+{
+    LineCursor cursor(content);
+    StampFinder stamp;
+    while (cursor.next()) {
+        sListingLine_t line;
+        if (!parseLine(cursor.line(), &line)) {
+            stamp.look(cursor.line());
+            continue;
+        }
+        if (!image->add(qint64(line.address), line.word, cursor.number()))
+            return false;
+        if (!line.text.isEmpty())
+            image->setText(int(line.address), QString::fromLatin1(line.text));
+    }
+    image->image().date = stamp.date;
+    image->image().time = stamp.time;
+    return true;
+}
+
+} // namespace nsImport
