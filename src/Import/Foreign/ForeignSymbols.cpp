@@ -303,7 +303,8 @@ int ForeignSymbols::find(const QString& name, int kinds)
 {
     const auto exact = m_byName.constFind(name);
     int found = exact != m_byName.constEnd() ? version(exact.value(), kinds) : -1;
-    if (found >= 0 || m_dialect.namesDifferByCase)
+    // Another spelling counts where nothing at all has this one.
+    if (exact != m_byName.constEnd() || m_dialect.namesDifferByCase)
         return found;
     const auto similar = m_byLowerCase.constFind(name.toLower());
     found = similar != m_byLowerCase.constEnd() ? version(similar.value(), kinds) : -1;
