@@ -106,7 +106,8 @@ public:
     void look(const QByteArray& bytes)
     {
         const int longest = 512;
-        if (time.isValid() && date.isValid())
+        const int lines = 2000; // the moment stands near the start
+        if ((time.isValid() && date.isValid()) || ++m_lines > lines)
             return;
         const QString line = QString::fromLatin1(bytes.left(longest));
         const QTime foundTime = time.isValid() ? QTime() : timeIn(line);
@@ -132,6 +133,7 @@ private:
         return words.match(line).hasMatch();
     }
 
+    int m_lines = 0;
     bool m_lastHadTime = false;
     QDate m_lastDate;
 };

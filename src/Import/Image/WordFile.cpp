@@ -79,7 +79,6 @@ struct sWordFileLook_t
     bool wordsEndLf = true;         ///< all lines with words alone: our assembler writes decimal addresses then
     bool hasDigitAboveNine = false; ///< in a word
     bool isBinary = true;           ///< all words are long and of zeros and ones
-    bool isPaired = true;           ///< all lines are a short and a longer number: an address and a word
     int words = 0;
 };
 
@@ -100,7 +99,6 @@ sWordFileLook_t lookAt(const QByteArray& content)
             continue;
         }
         look.wordsEndLf = look.wordsEndLf && cursor.end() != LineCursor::endCrLf;
-        look.isPaired = look.isPaired && line.size() == 2 && line.at(0).size() < line.at(1).size();
         for (const QByteArray& word : line) {
             ++look.words;
             for (char c : withoutPrefix(word)) {
@@ -241,10 +239,11 @@ bool isWordFile(const QByteArray& content)
                 return false;
         }
         any = any || !line.isEmpty();
-        paired = paired && (line.isEmpty() || (line.size() == 2 && !line.first().startsWith('@') &&
+        paired = paired && (line.isEmpty() || (line.size() >= 2 && !line.first().startsWith('@') &&
                                                line.at(0).size() < line.at(1).size()));
     }
-    // Lines of an address and a word alone are a listing without texts.
+    // Where a short number stands in front of a longer one in each line, it is the address, and the rest happens to
+    // look like words.
     return any && !(paired && isListing(content));
 }
 
