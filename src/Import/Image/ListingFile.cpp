@@ -3,6 +3,8 @@
 #include "ImageBuilder.h"
 
 #include <QRegularExpression>
+#include <QSet>
+#include <QVector>
 
 namespace nsImport {
 
@@ -43,6 +45,9 @@ struct sListingLine_t
 {
     quint64 address = 0;
     quint64 word = 0;
+    quint64 pageAddress = 0; ///< in a listing of our own; else the address
+    bool isShared = false;   ///< each page has the word
+    int number = 0;          ///< of the line
     QByteArray text;
 };
 
@@ -53,9 +58,10 @@ bool parseLine(const QByteArray& line, sListingLine_t* result)
     if (!isNumber(pieces.next(), 3, 6, &result->address))
         return false;
     QByteArray second = pieces.next();
-    if (second.startsWith("PAGE") || second == "SHARED") {
-        quint64 inPage = 0;
-        if (!isNumber(pieces.next(), 3, 6, &inPage))
+    result->pageAddress = result->address;
+    result->isShared = second == "SHARED";
+    if (second.startsWith("PAGE") || result->isShared) {
+        if (!isNumber(pieces.next(), 3, 6, &result->pageAddress))
             return false;
         second = pieces.next();
     }
@@ -155,6 +161,8 @@ bool readListing(const QByteArray& content, ImageBuilder* image)
 {
     LineCursor cursor(content);
     StampFinder stamp;
+    QSet<quint64> pages; // where they begin, but for the first one
+    QVector<sListingLine_t> shared;
     while (cursor.next()) {
         sListingLine_t line;
         if (!parseLine(cursor.line(), &line)) {
@@ -163,8 +171,19 @@ bool readListing(const QByteArray& content, ImageBuilder* image)
         }
         if (!image->add(qint64(line.address), line.word, cursor.number()))
             return false;
+        line.number = cursor.number();
+        if (line.isShared)
+            shared.append(line);
+        else if (line.address > line.pageAddress)
+            pages.insert(line.address - line.pageAddress);
         if (!line.text.isEmpty())
             image->setText(int(line.address), QString::fromLatin1(line.text));
+    }
+    for (const sListingLine_t& line : qAsConst(shared)) {
+        for (quint64 page : qAsConst(pages)) {
+            if (!image->add(qint64(page + line.pageAddress), line.word, line.number))
+                return false;
+        }
     }
     image->image().date = stamp.date;
     image->image().time = stamp.time;

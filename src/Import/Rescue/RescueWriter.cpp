@@ -181,11 +181,7 @@ QByteArray RescueWriter::source(const QString& name, bool marksInvalid)
     for (int address = 0; address < m_end; ++address) {
         if (!isWritten(address))
             continue;
-        if (address != next) {
-            m_text += '\n';
-            writeLine(QStringLiteral("#ORG    ADDR, 0x") + address3(address), QString());
-        }
-        writeHeading(address);
+        writeHeading(address, address != next);
         writeAddress(address, marksInvalid);
         next = address + 1;
     }
@@ -216,12 +212,14 @@ void RescueWriter::writeConstants()
 }
 
 /// What stands in front of an address: empty lines, comments, its label.
-void RescueWriter::writeHeading(int address)
+/// @param isBehindGap the address is not the one behind the last line
+void RescueWriter::writeHeading(int address, bool isBehindGap)
 {
     const bool isWord = m_image.contains(address);
     const bool isUnreached = isWord && !m_flow.word(address).reachable;
     const QVector<int> callers = m_flow.targets().value(address);
-    if (isUnreached != m_inUnreached || !callers.isEmpty() || m_ended || address == m_vector || address == m_isr)
+    if (isUnreached != m_inUnreached || !callers.isEmpty() || m_ended || isBehindGap || address == m_vector ||
+        address == m_isr)
         m_text += '\n';
     if (isUnreached && !m_inUnreached)
         m_text += m_flow.hasComputedTargets()
@@ -242,6 +240,8 @@ void RescueWriter::writeHeading(int address)
             places.append(QStringLiteral("... (%1 in all)").arg(callers.size()));
         m_text += QStringLiteral("; Routine, called from ") + places.join(QLatin1String(", ")) + '\n';
     }
+    if (isBehindGap)
+        writeLine(QStringLiteral("#ORG    ADDR, 0x") + address3(address), QString());
     const QString label = m_names.value(address);
     if (!label.isEmpty())
         m_text += label + QStringLiteral(":\n");

@@ -46,7 +46,7 @@ private:
     void writeHead(const QString& name);
     void writeConstants();
     void writeAddress(int address, bool marksInvalid);
-    void writeHeading(int address);
+    void writeHeading(int address, bool isBehindGap);
     void writeLine(const QString& statement, const QString& comment);
 
     const nsProc::ProcTable& m_table;
