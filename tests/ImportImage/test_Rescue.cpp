@@ -211,6 +211,14 @@ TEST(Rescue, wordsThatAreNoInstructionAreReportedAndRefused)
     EXPECT_FALSE(Rescue(pb3).run(imageOf({0x34000, 0xfffff})).invalid.value(0).reachable);
 }
 
+TEST(Rescue, whatDoesNothingIsANop)
+{
+    EXPECT_TRUE(statements(Rescue(pb3).run(imageOf({0x01000, 0x34000}))).contains("NOP"));
+    EXPECT_TRUE(statements(Rescue(pb6).run(imageOf({0x00000, 0x22000}))).contains("NOP"));
+    EXPECT_TRUE(statements(Rescue(mico8).run(imageOf({0x10000, 0x3bfff}))).contains("NOP"));
+    EXPECT_TRUE(statements(Rescue(pb3).run(imageOf({0x01010, 0x34000}))).contains("LOAD s0, s1"));
+}
+
 TEST(Rescue, distancesOfTheMico8)
 {
     // JUMP to itself, backwards, and to an address in front of the memory.

@@ -39,6 +39,9 @@ RescueWriter::RescueWriter(const nsProc::ProcTable& table, const ProcDisassemble
     , m_flow(flow)
     , m_vector(vector)
 {
+    // The disassembler gives the more general instruction, which says less here.
+    if (const nsProc::sInstr_t* nop = m_table.assembled(ocNop))
+        m_nop = nop->words[0];
     if (m_vector >= 0 && m_image.word(m_vector) == 0)
         m_vector = -1;
     if (m_vector >= 0 && m_flow.word(m_vector).flow == rescueJump)
@@ -159,6 +162,8 @@ QStringList RescueWriter::operands(int address) const
 
 QString RescueWriter::instruction(int address) const
 {
+    if (int(m_image.word(address)) == m_nop)
+        return mnemonicOfOpcode(ocNop);
     const QString mnemonic = mnemonicOfOpcode(m_flow.word(address).pattern->opcode);
     const QString arguments = operands(address).join(QLatin1String(", "));
     return arguments.isEmpty() ? mnemonic : mnemonic.leftJustified(operandColumn - statementColumn) + arguments;

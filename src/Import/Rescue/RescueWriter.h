@@ -54,6 +54,7 @@ private:
     const ProgramImage& m_image;
     const RescueFlow& m_flow;
     int m_vector;
+    int m_nop = -1; ///< the word of a NOP
     int m_isr = -1; ///< where the instruction at the vector jumps to
 
     QMap<int, QString> m_names;
