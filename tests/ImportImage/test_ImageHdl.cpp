@@ -199,6 +199,52 @@ TEST(ImageHdl, alternativesForOtherDevicesMustAgree)
         << qPrintable(readText(vhdl(one + wrong)));
 }
 
+TEST(ImageHdl, aTemplateForManyDevicesAndSizes)
+{
+    // One program, filled into a memory for each device and size; the design takes the one that its generics choose.
+    Words program = words(4096);
+    const auto part = [&](int first, int count) { return program.mid(first, count); };
+    const auto vhdlOf = [](const QByteArray& label, const QByteArray& kind, const QByteArray& width,
+                           const QByteArray& generics) {
+        return "    gen_" + label + ": if (size = 1) generate\n  begin\n    " + label + ": " + kind +
+               "\n    --synthesis translate_off\n    generic map ( " + width +
+               "INIT_A => X\"000000000\",\n INIT_FILE => \"NONE\",\n" + generics +
+               "      SRVAL_A => X\"000000000\")\n    --synthesis translate_on\n    port map(ADDRA => address_a(13 "
+               "downto 0),\n"
+               "      DOA => data_out_a(31 downto 0),\n      DOPA => data_out_a(35 downto 32));\n  end generate;\n";
+    };
+    const QByteArray width9 = "DATA_WIDTH_A => 9,\n";
+    QByteArray text = vhdlOf("rom", "RAMB16", "DATA_WIDTH_A => 18,\n", whole(part(0, 1024), vhdlForm));
+    text += vhdlOf("rom", "RAMB18", "READ_WIDTH_A => 18, WRITE_WIDTH_A => 18,\n", whole(part(0, 1024), vhdlForm));
+    text += vhdlOf("rom_l", "RAMB16", width9, half(part(0, 2048), 0, vhdlForm));
+    text += vhdlOf("rom_h", "RAMB16", width9, half(part(0, 2048), 9, vhdlForm));
+    text += vhdlOf("rom", "RAMB36", "READ_WIDTH_A => 18,\n", whole(part(0, 2048), vhdlForm));
+    text += vhdlOf("rom_ll", "RAMB16", width9, half(part(0, 2048), 0, vhdlForm));
+    text += vhdlOf("rom_lh", "RAMB16", width9, half(part(0, 2048), 9, vhdlForm));
+    text += vhdlOf("rom_hl", "RAMB16", width9, half(part(2048, 2048), 0, vhdlForm));
+    text += vhdlOf("rom_hh", "RAMB16", width9, half(part(2048, 2048), 9, vhdlForm));
+    text += vhdlOf("rom_l", "RAMB36", "READ_WIDTH_A => 9,\n", half(program, 0, vhdlForm));
+    text += vhdlOf("rom_h", "RAMB36", "READ_WIDTH_A => 9,\n", half(program, 9, vhdlForm));
+    EXPECT_EQ(readText(vhdl(text)), textOf(program));
+    // One bit of one of them is another.
+    const int digit = text.lastIndexOf("INIT_7F") + 20;
+    text[digit] = text.at(digit) == '0' ? '1' : '0';
+    EXPECT_TRUE(readText(vhdl(text)).contains("The memories hold different words")) << qPrintable(readText(vhdl(text)));
+
+    const QByteArray start = "module rom (input [11:0] address);\n generate if (size == 1) begin : r1\n";
+    const auto verilogOf = [](const QByteArray& label, const QByteArray& kind, const QByteArray& width,
+                              const QByteArray& parameters) {
+        return kind + " #( .READ_WIDTH_A (" + width + "),\n .INIT_A (36'h000000000),\n.INIT_FILE(\"NONE\"),\n" +
+               parameters + ".SRVAL_A(9'h0), .SIM_DEVICE(\"X\"))\n" + label +
+               "( .ADDRA (address_a[13:0]),\n .DOA (data_out_a[31:0]));\n";
+    };
+    EXPECT_EQ(readText(start + verilogOf("rom", "RAMB18", "18", whole(part(0, 1024), verilogForm)) +
+                       verilogOf("rom_h", "RAMB18", "9", half(part(0, 2048), 9, verilogForm)) +
+                       verilogOf("rom_l", "RAMB18", "9", half(part(0, 2048), 0, verilogForm)) +
+                       "end endgenerate\nendmodule\n"),
+              textOf(part(0, 2048)));
+}
+
 TEST(ImageHdl, numberedMemoriesFollowOneAnother)
 {
     const Words program = words(2048);
