@@ -258,6 +258,10 @@ TEST(ImageListing, addressesAndWordsAlone)
     EXPECT_EQ(read("000 00001\n001 34000\n").format, imageListing);
     EXPECT_EQ(readText("000 00001 a\n000 00002 b\n"),
               "line 2: Address 000 has two words: 00001 in line 1, and 00002 here.");
+    // A word that is missing would be no less wrong than another one.
+    EXPECT_EQ(readText("000 00001 LOAD\n001 3400G JUMP\n"), "line 2: \"3400G\" is no word.");
+    EXPECT_EQ(readText("000 00001 LOAD\n001 340001 JUMP\n"), "line 2: \"340001\" is no word.");
+    EXPECT_EQ(readText("2014 08:05:01\n1024 36kbit\n000 ABCD: LOAD\n000 00001 LOAD\n"), "000: 00001");
     EXPECT_EQ(readText("000 40001 a\n"), "line 1: The word 40001 has more than 18 bits.");
 }
 
@@ -266,7 +270,10 @@ TEST(ImageReader, whatIsNoImageIsAnError)
     EXPECT_EQ(readText(""), "line 0: The file is empty.");
     EXPECT_EQ(readText(" \r\n\x1a"), "line 0: The file is empty.");
     EXPECT_EQ(readText("LOAD s0, 1\n"), "line 0: The content is no image of a kind that is known.");
-    EXPECT_EQ(readText("00001\nLOAD\n"), "line 0: The content is no image of a kind that is known.");
+    EXPECT_EQ(readText("00001\nLOAD\n"), "line 2: \"LOAD\" is no word.");
+    EXPECT_EQ(readText("@0\n00001\n0xxxx\n"), "line 3: \"0xxxx\" is no word.");
+    EXPECT_EQ(readText("@0\n00001\n@\n"), "line 3: \"\" is no address.");
+    EXPECT_EQ(readText("00001\n/* 2\n3\n"), "line 3: A comment is not ended.");
     EXPECT_EQ(readText("@0\n"), "line 0: The file has no word.");
     EXPECT_EQ(readText("; nothing\n"), "line 0: The content is no image of a kind that is known.");
     for (int format = imageHex; format <= imageLatticeMem; ++format)

@@ -176,9 +176,12 @@ eImageFormat_t ImageReader::format(const QByteArray& content)
         return imageMif;
     if (hasLatticeHeader(upper))
         return imageLatticeMem;
+    const eImageFormat_t words = upper.contains('@') ? imageMem : imageHex;
     if (isWordFile(content))
-        return upper.contains('@') ? imageMem : imageHex;
-    return isListing(content) ? imageListing : imageUnknown;
+        return words;
+    if (isListing(content))
+        return imageListing;
+    return startsAsWordFile(content) ? words : imageUnknown;
 }
 
 QString ImageReader::formatName(eImageFormat_t format)

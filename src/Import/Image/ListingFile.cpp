@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QVector>
 
+#include <algorithm>
+
 namespace nsImport {
 
 namespace {
@@ -49,7 +51,19 @@ struct sListingLine_t
     bool isShared = false;   ///< each page has the word
     int number = 0;          ///< of the line
     QByteArray text;
+    bool isDamaged = false; ///< there is an address, and something like a word
 };
+
+/// Is it a word with a digit too much or too little, or with a letter in place of a digit? A line without a word goes
+/// on with a label, an instruction or a comment, and none of these begins with a digit.
+bool isLikeWord(const QByteArray& piece)
+{
+    const int fewest = 4;
+    const int most = 6;
+    const auto digits = std::count_if(piece.begin(), piece.end(), isHexDigit);
+    return piece.size() >= fewest && piece.size() <= most && piece.at(0) >= '0' && piece.at(0) <= '9' &&
+           digits >= piece.size() - 1;
+}
 
 /// `3FF 34001 text`, or as our own assembler lists it: `03FF PAGE0 3FF 34001 file:line text`.
 bool parseLine(const QByteArray& line, sListingLine_t* result)
@@ -66,8 +80,11 @@ bool parseLine(const QByteArray& line, sListingLine_t* result)
         second = pieces.next();
     }
     const int wordDigits = 5;
-    if (!isNumber(second, wordDigits, wordDigits, &result->word))
+    if (!isNumber(second, wordDigits, wordDigits, &result->word)) {
+        result->isDamaged = isLikeWord(second);
+        result->text = second;
         return false;
+    }
     result->text = pieces.rest();
     return true;
 }
@@ -149,8 +166,8 @@ private:
 bool isListing(const QByteArray& content)
 {
     LineCursor cursor(content);
-    sListingLine_t parsed;
     while (cursor.next()) {
+        sListingLine_t parsed;
         if (parseLine(cursor.line(), &parsed))
             return true;
     }
@@ -166,6 +183,8 @@ bool readListing(const QByteArray& content, ImageBuilder* image)
     while (cursor.next()) {
         sListingLine_t line;
         if (!parseLine(cursor.line(), &line)) {
+            if (line.isDamaged)
+                return image->fail(cursor.number(), QStringLiteral("%1 is no word.").arg(shown(line.text)));
             stamp.look(cursor.line());
             continue;
         }
