@@ -183,6 +183,29 @@ TEST(Rescue, computedJumpsMayReachEverything)
     EXPECT_TRUE(Rescue(pb6).run(wrong).invalid.value(0).reachable);
 }
 
+TEST(Rescue, tablesAndTextsStandTogether)
+{
+    const ProgramImage image =
+        assembled(pb6, "JUMP (s1), (s0)\nLOADRET s0, 0x41\nLOADRET s0, 0x5C\nLOADRET s0, 0x0A\nRET\n"
+                       "x: JUMP x2\nJUMP x2\nJUMP x2\nx2: WRPRT 0x7E, 3\nWRPRT 0x20, 3\n");
+    const RescueResult result = Rescue(pb6).run(image);
+    ASSERT_TRUE(result.ok) << qPrintable(result.error);
+    EXPECT_TRUE(result.source.contains("; 001 21041 'A'\n"
+                                       "        LOADRET s0, 0x5C                        ; 002 2105C\n"
+                                       "        LOADRET s0, 0x0A                        ; 003 2100A\n"
+                                       "\n"
+                                       "        RET                                     ; 004 25000\n"
+                                       "\n"
+                                       "        JUMP    label_008                       ; 005 22008\n"
+                                       "        JUMP    label_008                       ; 006 22008\n"
+                                       "        JUMP    label_008                       ; 007 22008\n"
+                                       "\n"
+                                       "label_008:\n"
+                                       "        WRPRT   0x7E, CONST_PORT_3              ; 008 2B7E3 '~'\n"
+                                       "        WRPRT   0x20, CONST_PORT_3              ; 009 2B203\n"))
+        << result.source.constData();
+}
+
 TEST(Rescue, wordsThatAreNoInstructionAreReportedAndRefused)
 {
     const ProgramImage image = imageOf({0x34003, 0x3ffff, 0x00001, 0x34001});

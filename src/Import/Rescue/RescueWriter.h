@@ -43,6 +43,8 @@ private:
     QStringList operands(int address) const;
     QString instruction(int address) const;
     QString zeroInstruction(int address) const;
+    bool continuesTable(int address) const;
+    QString character(int address) const;
     void writeHead(const QString& name);
     void writeConstants();
     void writeAddress(int address, bool marksInvalid);
