@@ -17,7 +17,7 @@ using namespace nsImport;
 
 namespace {
 
-const int large = 8 << 20;
+const int large = 4 << 20;
 
 QByteArray repeated(const QByteArray& text, int size)
 {
@@ -110,9 +110,11 @@ TEST(ImageHostile, largeFilesOfEveryKind)
     for (const QByteArray& piece : pieces) {
         const ImageResult result = ImageReader().read(repeated(piece, large), "f");
         EXPECT_TRUE(result.ok || !result.error.isEmpty()) << piece.constData();
-        EXPECT_FALSE(result.ok && result.image.count() > 1) << piece.constData();
+        EXPECT_FALSE(result.ok && result.image.count() > 1 && piece != "00001\n") << piece.constData();
     }
     EXPECT_FALSE(ImageReader().read(QByteArray(33 << 20, '1'), "f").ok);
+    EXPECT_EQ(readText(repeated("00001\n", 7 << 20)),
+              "line 1048577: Address 100000 is beyond the 1048576 words that an image can have.");
 }
 
 TEST(ImageHostile, manyMemoriesAreRefused)
