@@ -4,12 +4,12 @@ namespace foreign {
 
 namespace {
 
-const QStringList traps = {"LOAD",    "COMP",      "JUMP",        "WRPRT", "RDPRT", "WRMEM",  "RDMEM",  "RETI",
-                           "INT",     "CLR",       "SET2",        "RET2",  "loop",  "LDRET",  "s0",     "sF",
-                           "Z",       "C",         "NZ",          "NC",    "A",     "ENABLE", "ADDR",   "ASCII",
-                           "LOADRET", "STAR",      "IFDEF",       "ENDIF", "PAGE0", "PROC",   "IODEV",  "SL0",
-                           "SRX",     "HWBUILD",   "REGBANK",     "r32",   "r010",  "DEFINE", "navSep", "addr_100",
-                           "loop_2",  "INT_label", "RDPRT_const", "x1b",   "f"};
+const QStringList traps = {"LOAD",    "COMP",    "JUMP",    "WRPRT",  "RDPRT",     "WRMEM",       "RDMEM",  "RETI",
+                           "INT",     "CLR",     "SET2",    "RET2",   "loop",      "LDRET",       "s0",     "sF",
+                           "Z",       "C",       "NZ",      "NC",     "A",         "ENABLE",      "ADDR",   "ASCII",
+                           "LOADRET", "STAR",    "IFDEF",   "ENDIF",  "PAGE0",     "PROC",        "IODEV",  "SL0",
+                           "SRX",     "HWBUILD", "REGBANK", "r32",    "r010",      "DEFINE",      "navSep", "addr_100",
+                           "b0",      "B12",     "a",       "loop_2", "INT_label", "RDPRT_const", "x1b",    "f"};
 
 class RandomMico8 : private RandomText
 {

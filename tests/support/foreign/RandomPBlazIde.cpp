@@ -4,12 +4,12 @@ namespace foreign {
 
 namespace {
 
-const QStringList traps = {"COMPARE",  "ADDCY",   "SUBCY",     "INPUT",      "OUTPUT", "RDPRT", "WRPRT",   "RDMEM",
-                           "WRMEM",    "INT",     "NOP2",      "ROL",        "ROR",    "ROLC",  "RORC",    "CLR",
-                           "SET",      "LDRET",   "TESTC",     "COMPC",      "ADDR",   "ASCII", "LOADRET", "STAR",
-                           "loop",     "r0",      "r31",       "IFDEF",      "ENDIF",  "PAGE0", "PROC",    "IODEV",
-                           "REGBANK",  "HWBUILD", "sG",        "FF",         "AD",     "B1",    "DEFINE",  "navSep",
-                           "addr_100", "loop_2",  "INT_label", "RDPRT_const"};
+const QStringList traps = {"COMPARE",  "ADDCY",   "SUBCY", "INPUT", "OUTPUT", "RDPRT",  "WRPRT",     "RDMEM",
+                           "WRMEM",    "INT",     "NOP2",  "ROL",   "ROR",    "ROLC",   "RORC",      "CLR",
+                           "SET",      "LDRET",   "TESTC", "COMPC", "ADDR",   "ASCII",  "LOADRET",   "STAR",
+                           "loop",     "r0",      "r31",   "IFDEF", "ENDIF",  "PAGE0",  "PROC",      "IODEV",
+                           "REGBANK",  "HWBUILD", "sG",    "FF",    "AD",     "B1",     "DEFINE",    "navSep",
+                           "addr_100", "b0",      "B12",   "a",     "B",      "loop_2", "INT_label", "RDPRT_const"};
 
 class RandomPBlazIde : private RandomText
 {
