@@ -81,11 +81,23 @@ void ImportRun::prove(const ForeignImport& import)
         m_proof = tr("not proved, as there is no reference");
         return;
     }
+    // A log lists the lines of the program: what the memory holds elsewhere is not in it.
+    ProgramImage reference = m_reference;
+    int unlisted = 0;
+    for (const int address : import.fillers()) {
+        if (!reference.contains(address)) {
+            reference.setWord(address, import.image().word(address));
+            ++unlisted;
+        }
+    }
     const ImageProof proof(import.dialect().processor());
-    const ImageProofResult result = proof.compare(import.image(), m_reference);
+    ImageProofResult result = proof.compare(import.image(), reference);
+    result.equalCount -= unlisted;
     m_isProved = result.equal;
     m_proof = result.equal ? tr("proved against %1").arg(shownPath(m_options.reference)) : tr("words differ");
     showProof(import, result);
+    if (unlisted > 0)
+        m_report.say(tr("%1 words that the program does not have itself are not in the reference.").arg(unlisted));
 }
 
 void ImportRun::showProof(const ForeignImport& import, const ImageProofResult& proof)

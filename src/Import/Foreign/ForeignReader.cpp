@@ -57,7 +57,7 @@ const ForeignReader::Content* ForeignReader::contentOf(const QString& path, cons
     if (known != m_contents.constEnd())
         return &known.value();
     const QFileInfo info(path);
-    if (info.exists() && !info.isFile()) {
+    if (path.isEmpty() || (info.exists() && !info.isFile())) {
         m_messages.add(errImpNotAFile, {shown}, from, line);
         return nullptr;
     }

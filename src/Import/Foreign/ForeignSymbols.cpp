@@ -160,8 +160,10 @@ void ForeignSymbols::collectRegister(int index)
     const QString name = statement.operand(1);
     const int number = m_registers.rename(statement.operand(0), name);
     if (number < 0) {
-        report(number == -1 ? errImpExpectRegister : errImpNoCounterpart,
-               {number == -1 ? statement.operand(0) : name, ForeignSymbols::tr("another register has this name")});
+        if (number == -1)
+            report(errImpExpectRegister, {statement.operand(0)});
+        else
+            report(errImpNoCounterpart, {name, tr("another register has this name")});
         statement.isBroken = true;
         return;
     }
@@ -187,7 +189,9 @@ int ForeignSymbols::add(ForeignSymbol::eKind_t kind, const QString& name, int st
     const int index = m_program.symbols.size();
     for (const int other : m_byName.value(name)) {
         const ForeignSymbol& known = m_program.symbols.at(other);
-        if (known.kind != kind || mayRepeat)
+        if (mayRepeat)
+            break;
+        if (known.kind != kind || known.statement < 0)
             continue;
         const ForeignStatement& place = m_program.statementOf(known);
         report(errImpDuplicateName,
@@ -283,25 +287,37 @@ void ForeignSymbols::enter(int index)
         m_registers.rename(statement.operand(0), statement.operand(1));
 }
 
-/// The symbol that counts at the present line, where there are several of one name.
+/// The place after the last symbol of a list that is defined up to the present line.
+QVector<int>::const_iterator ForeignSymbols::afterHere(const QVector<int>& symbols) const
+{
+    return std::upper_bound(symbols.cbegin(), symbols.cend(), m_statement, [&](int statement, int symbol) {
+        return statement < m_program.symbols.at(symbol).statement;
+    });
+}
+
+/// The symbol that counts at the present line, where there are several of one name: the last one before it, or the
+/// first one behind it.
 int ForeignSymbols::version(const QVector<int>& symbols, int kinds) const
 {
-    int found = -1;
-    for (const int index : symbols) {
-        const ForeignSymbol& symbol = m_program.symbols.at(index);
-        if ((bit(symbol.kind) & kinds) == 0)
-            continue;
-        if (found < 0 || symbol.statement <= m_statement)
-            found = index;
+    const auto here = afterHere(symbols);
+    for (auto symbol = here; symbol != symbols.cbegin();) {
+        --symbol;
+        if ((bit(m_program.symbols.at(*symbol).kind) & kinds) != 0)
+            return *symbol;
     }
-    return found;
+    for (auto symbol = here; symbol != symbols.cend(); ++symbol) {
+        if ((bit(m_program.symbols.at(*symbol).kind) & kinds) != 0)
+            return *symbol;
+    }
+    return -1;
 }
 
 int ForeignSymbols::find(const QString& name, int kinds)
 {
     const auto exact = m_byName.constFind(name);
     int found = exact != m_byName.constEnd() ? version(exact.value(), kinds) : -1;
-    if (found >= 0 || m_dialect.namesDifferByCase)
+    // Another spelling counts where nothing at all has this one.
+    if (exact != m_byName.constEnd() || m_dialect.namesDifferByCase)
         return found;
     const auto similar = m_byLowerCase.constFind(name.toLower());
     found = similar != m_byLowerCase.constEnd() ? version(similar.value(), kinds) : -1;
@@ -443,14 +459,10 @@ int ForeignSymbols::localLabel(const QString& name) const
         return -1;
     const QChar direction = name.at(name.size() - 1).toLower();
     const QVector<int> labels = m_locals.value(name.left(name.size() - 1));
-    int before = -1;
-    for (const int index : labels) {
-        if (m_program.symbols.at(index).statement <= m_statement)
-            before = index;
-        else if (direction == 'f')
-            return index;
-    }
-    return direction == 'b' ? before : -1;
+    const auto next = afterHere(labels);
+    if (direction == 'f')
+        return next != labels.cend() ? *next : -1;
+    return direction == 'b' && next != labels.cbegin() ? *(next - 1) : -1;
 }
 
 ForeignValue ForeignSymbols::labelValue(const QString& name)
@@ -462,6 +474,7 @@ ForeignValue ForeignSymbols::labelValue(const QString& name)
         return ForeignValue::failed(ForeignValue::eUnknownName, name);
     if (!m_placed)
         return ForeignValue::failed(ForeignValue::eNotANumber, name);
+    m_program.symbols[label].isUsed = true;
     ForeignValue value = ForeignValue::number(m_program.symbols.at(label).value, m_program.symbols.at(label).ours);
     value.isAddress = true;
     value.label = label;

@@ -88,6 +88,7 @@ private:
     void nameAll();
     int add(ForeignSymbol::eKind_t kind, const QString& name, int statement, bool mayRepeat);
     int find(const QString& name, int kinds);
+    QVector<int>::const_iterator afterHere(const QVector<int>& symbols) const;
     int version(const QVector<int>& symbols, int kinds) const;
     int localLabel(const QString& name) const;
     int known(const QString& name);

@@ -92,7 +92,8 @@ void ForeignImport::write(const ProgramLayout& layout)
     m_settings = importSettings(m_program, layout.size(), m_options.memorySize);
     const ProgramWriter writer(m_program, layout);
     m_sources = writer.write(false);
-    m_wordCount = writer.image().count();
+    m_fillers = layout.fillers();
+    m_wordCount = writer.image().count() - m_fillers.size();
     writeProject(layout.size());
     m_hasResult = check(writer);
 }

@@ -46,6 +46,8 @@ public:
     QString name() const;
     /// What the result assembles to; empty if it does not.
     const ProgramImage& image() const { return m_image; }
+    /// Addresses where the result has an instruction and the program has none: it is what the memory holds there.
+    const QVector<int>& fillers() const { return m_fillers; }
     /// The words of the program, those of lines without a counterpart left out.
     int wordCount() const { return m_wordCount; }
     /// Lines of the result that the assembler refuses.
@@ -73,6 +75,7 @@ private:
     nsProc::ProcCoreConfig m_settings;
     QByteArray m_project;
     ProgramImage m_image;
+    QVector<int> m_fillers;
     int m_wordCount = 0;
     bool m_hasResult = false;
 };

@@ -154,25 +154,21 @@ void ProgramLayout::attachDefinitions()
 {
     m_definitions.resize(m_blocks.size());
     m_remainders.resize(m_blocks.size());
+    QHash<int, QMap<int, int>> codeOf; // by file: blocks with code by their order in the program
+    for (int i = 0; i < m_blocks.size(); ++i)
+        codeOf[m_blocks.at(i).file].insert(m_blocks.at(i).order, i);
     QVector<Block> alone;
     for (const Block& block : qAsConst(m_standAlone)) {
-        int next = -1;
-        int before = -1;
-        for (int i = 0; i < m_blocks.size(); ++i) {
-            if (m_blocks.at(i).file != block.file)
-                continue;
-            const int order = m_blocks.at(i).order;
-            if (order > block.order && (next < 0 || order < m_blocks.at(next).order))
-                next = i;
-            if (order < block.order && (before < 0 || order > m_blocks.at(before).order))
-                before = i;
-        }
-        if (next >= 0)
-            m_definitions[next].append(block);
-        else if (before >= 0)
-            m_remainders[before].append(block);
-        else
+        const auto code = codeOf.constFind(block.file);
+        if (code == codeOf.constEnd()) {
             alone.append(block);
+            continue;
+        }
+        const auto next = code.value().lowerBound(block.order);
+        if (next != code.value().cend())
+            m_definitions[next.value()].append(block);
+        else
+            m_remainders[code.value().last()].append(block);
     }
     m_standAlone = alone;
 }

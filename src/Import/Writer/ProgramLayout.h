@@ -54,6 +54,8 @@ public:
     bool isInPlace(int symbol) const { return m_inPlace.at(symbol); }
     /// Does the line place code?
     bool placesCode(int statement) const { return m_placesCode.at(statement); }
+    /// Addresses where the result has an instruction and the program has none; ascending.
+    const QVector<int>& fillers() const { return m_fillers; }
     /// One more than the highest address with an instruction.
     int size() const { return m_size; }
 
