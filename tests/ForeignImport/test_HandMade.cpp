@@ -186,3 +186,9 @@ TEST(HandMade, endsAndMarksOfFiles)
     expectSame(Dialect::Kcpsm3, "LOAD s0, 01\rLOAD s1, 02\r");
     expectSame(Dialect::Kcpsm6, "INCLUDE \"a.psm\"\nLOAD s1, 02", {{"a.psm", "LOAD s0, 01\n\x1A"}});
 }
+
+/// A line of the log that has no word begins, behind its address, with what could be one.
+TEST(HandMade, aLogWithLabelsThatLookLikeWords)
+{
+    expectSame(Dialect::Kcpsm6, "ADDED: LOAD s0, timestamp_hours\nB1010:\nJUMP ADDED\nJUMP B1010\n");
+}

@@ -10,7 +10,12 @@ using foreign::Dialect;
 
 namespace {
 
-const int shortRun = 30; ///< programs a dialect
+/// Programs a dialect.
+#if defined(__SANITIZE_ADDRESS__)
+const unsigned shortRun = 6;
+#else
+const unsigned shortRun = 30;
+#endif
 
 class RandomPrograms : public ::testing::TestWithParam<Dialect>
 {

@@ -5,11 +5,11 @@ namespace foreign {
 
 namespace {
 
-const QStringList trapsOf3 = {"ADDC",  "SUBC",  "COMP",    "RDPRT",  "WRPRT",  "RDMEM", "WRMEM", "RET",  "RETI",
-                              "INT",   "NOP",   "ROL",     "ROR",    "ROLC",   "RORC",  "CLR",   "SET",  "LDRET",
-                              "TESTC", "COMPC", "LOADRET", "b1010",  "B10012", "EQU",   "ORG",   "ADDR", "ASCII",
-                              "IFDEF", "ENDIF", "PAGE0",   "PROC",   "IODEV",  "loop",  "r0",    "r31",  "HWBUILD2",
-                              "SETS",  "sG",    "s10",     "DEFINE", "navSep", "ADDCYX"};
+const QStringList trapsOf3 = {"ADDC",  "SUBC",     "COMP",    "RDPRT", "WRPRT", "RDMEM",  "WRMEM",  "RET",   "RETI",
+                              "INT",   "NOP",      "ROL",     "ROR",   "ROLC",  "RORC",   "CLR",    "SET",   "LDRET",
+                              "TESTC", "COMPC",    "LOADRET", "b1010", "FACE",  "BEEF0",  "B10012", "EQU",   "ORG",
+                              "ADDR",  "ASCII",    "IFDEF",   "ENDIF", "PAGE0", "PROC",   "IODEV",  "loop",  "r0",
+                              "r31",   "HWBUILD2", "SETS",    "sG",    "s10",   "DEFINE", "navSep", "ADDCYX"};
 
 /// A register's own name.
 bool isPlain(const QString& name)
