@@ -122,8 +122,7 @@ TEST(Kcpsm3, addressesAndLabelsAlone)
 TEST(Kcpsm3, fileEndsAndLineEnds)
 {
     ForeignCase program;
-    EXPECT_EQ(program.words(Dialect::Kcpsm3, "LOAD s0, 01 ; \xB5s\r\n\tLOAD s1, 02\r\n\x1Anothing here"),
-              "000:00001 001:00102");
+    EXPECT_EQ(program.words(Dialect::Kcpsm3, "LOAD s0, 01 ; \xB5s\r\n\tLOAD s1, 02\r\n\x1A"), "000:00001 001:00102");
 }
 
 TEST(Kcpsm3, whatIsDoubtfulIsRefused)

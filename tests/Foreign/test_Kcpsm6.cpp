@@ -189,7 +189,8 @@ TEST(Kcpsm6, whatIsDoubtfulIsRefused)
                    "TABLE t#, [1, 100]\nLOAD&RETURN s0, t#\n", "INST 40000\n", "INCLUDE \"missing.psm\"\n",
                    "INCLUDE \"main.psm\"\n", "CONSTANT CR, 0D\n", "JUMP 1000\n", "JUMP@ (s0)\n", "JUMP@ s1, s0\n",
                    "REGBANK C\n", "STRING a$, a$\nOUTPUTK a$, 1\n", "STRING a, \"x\"\n", "LOAD s0, nothing'upper\n",
-                   "ADDRESS 1000\n", "ADDRESS FFF\nLOAD s0, s1\nLOAD s0, s1\n"});
+                   "LOAD s0, ~~01\n", "LOAD s0, 01\n\x1A\nLOAD s0, 02\n", "ADDRESS 1000\n",
+                   "ADDRESS FFF\nLOAD s0, s1\nLOAD s0, s1\n"});
 }
 
 TEST(Kcpsm6, hexFileAndLog)

@@ -88,7 +88,7 @@ QStringList formsOf(Dialect dialect)
 
 TEST_P(RandomForeign, programsAreValidAndOfTheRightLength)
 {
-    for (unsigned seed = 0; seed < 300; ++seed) {
+    for (unsigned seed = 0; seed < 120; ++seed) {
         QStringList errors;
         QString text;
         const foreign::Image image = assembled(seed, &errors, &text);
@@ -114,7 +114,7 @@ TEST_P(RandomForeign, aSeedGivesTheSameProgram)
 TEST_P(RandomForeign, allFormsOccur)
 {
     QString text;
-    for (unsigned seed = 0; seed < 60; ++seed) {
+    for (unsigned seed = 0; seed < 40; ++seed) {
         QStringList errors;
         assembled(seed, &errors, &text);
     }

@@ -12,9 +12,8 @@ QVector<Line> readLines(const QString& file, bool* found)
     if (!*found)
         return {};
     QByteArray bytes = source.readAll();
-    const int end = bytes.indexOf('\x1A');
-    if (end >= 0)
-        bytes.truncate(end);
+    if (bytes.endsWith('\x1A'))
+        bytes.chop(1);
     bytes.replace("\r\n", "\n");
     bytes.replace('\r', '\n');
     QVector<Line> lines;

@@ -5,7 +5,7 @@
 /// What all dialects share: files, lines, operands, and the words by address.
 namespace foreign {
 
-/// The lines of one file. Bytes are taken as characters, one each; 0x1A ends the file.
+/// The lines of one file. Bytes are taken as characters, one each; an 0x1A at the end is none of them.
 /// @param found false if the file can not be read
 QVector<Line> readLines(const QString& file, bool* found);
 

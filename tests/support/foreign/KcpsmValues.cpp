@@ -40,7 +40,7 @@ int Kcpsm::numberOf(const Line& line, const QString& operand, int depth)
         fail(line, "a constant that names itself: " + operand);
         return 0;
     }
-    if (m_six && operand.startsWith('~'))
+    if (m_six && operand.startsWith('~') && !operand.startsWith("~~"))
         return 0xFF - numberOf(line, operand.mid(1).trimmed(), depth + 1);
     if (m_six && operand.contains("'upper", Qt::CaseInsensitive)) {
         const QString name = operand.left(operand.indexOf('\''));

@@ -5,11 +5,11 @@ namespace foreign {
 
 namespace {
 
-const QStringList trapsOf3 = {"ADDC",  "SUBC",     "COMP",  "RDPRT", "WRPRT",   "RDMEM",  "WRMEM",  "RET",
-                              "RETI",  "INT",      "NOP",   "ROL",   "ROR",     "ROLC",   "RORC",   "CLR",
-                              "SET",   "LDRET",    "TESTC", "COMPC", "LOADRET", "EQU",    "ORG",    "ADDR",
-                              "ASCII", "IFDEF",    "ENDIF", "PAGE0", "PROC",    "IODEV",  "loop",   "r0",
-                              "r31",   "HWBUILD2", "SETS",  "sG",    "s10",     "DEFINE", "navSep", "ADDCYX"};
+const QStringList trapsOf3 = {"ADDC",  "SUBC",     "COMP",    "RDPRT", "WRPRT", "RDMEM",  "WRMEM",  "RET",   "RETI",
+                              "INT",   "NOP",      "ROL",     "ROR",   "ROLC",  "RORC",   "CLR",    "SET",   "LDRET",
+                              "TESTC", "COMPC",    "LOADRET", "b1010", "FACE",  "BEEF0",  "B10012", "EQU",   "ORG",
+                              "ADDR",  "ASCII",    "IFDEF",   "ENDIF", "PAGE0", "PROC",   "IODEV",  "loop",  "r0",
+                              "r31",   "HWBUILD2", "SETS",    "sG",    "s10",   "DEFINE", "navSep", "ADDCYX"};
 
 /// A register's own name.
 bool isPlain(const QString& name)
@@ -17,14 +17,22 @@ bool isPlain(const QString& name)
     return name.size() == 2 && name[0] == 's' && QString("0123456789ABCDEF").contains(name[1]);
 }
 
+/// Names that a converter may come to by itself.
+const QStringList takenNames = {"COMP_const", "RDPRT_label", "ADDC_label", "loop_2",    "Loop_2",
+                                "addr_100",   "addr_3FF",    "NOP_2",      "ROL_label2"};
+
 class RandomKcpsm : private RandomText
 {
 public:
     RandomKcpsm(bool six, unsigned seed)
-        : RandomText(seed * 2 + (six ? 1 : 0), six ? trapsOf3 : trapsOf3 + QStringList{"STAR", "REGBANK", "HWBUILD"},
+        : RandomText(seed * 2 + (six ? 1 : 0),
+                     trapsOf3 + takenNames +
+                         (six ? QStringList{"cr", "Lf", "nul"} : QStringList{"STAR", "REGBANK", "HWBUILD"}),
                      true)
         , m_six(six)
     {
+        if (six)
+            reserve({"NUL", "BEL", "BS", "HT", "LF", "VT", "CR", "ESC", "DEL", "DCS", "ST"});
         for (int i = 0; i < 16; ++i)
             m_registers.append("s" + QString::number(i, 16).toUpper());
     }
@@ -47,6 +55,7 @@ private:
     void renameRegister();
     void moveOn();
     void include();
+    void includeAgain();
     void instruction();
     void emitInstruction(const QString& text, int size);
     void sequence();
@@ -65,6 +74,7 @@ private:
 
     bool m_six;
     bool m_large = false;
+    bool m_stamps = false; ///< reads the time of the run
     int m_address = 0;
     QStringList m_registers;       ///< the name of each one at this line
     QStringList m_freed;           ///< names that registers had before
@@ -74,6 +84,7 @@ private:
     QStringList m_unplaced;        ///< labels that wait for their line
     QVector<Sequence> m_sequences; ///< strings and tables that were defined
     QVector<SourceFile> m_files;
+    QString m_again;          ///< file of a few instructions that is included more than once; empty if there is none
     QVector<int> m_open;      ///< files that are being written, the innermost last
     QVector<int> m_linesLeft; ///< lines until an included file ends
 };
@@ -96,11 +107,14 @@ void RandomKcpsm::plan()
     for (int i = 4 + below(24); i > 0; --i)
         m_labels.append(newName());
     m_unplaced = m_labels;
+    if (m_six && m_stamps)
+        m_sequences << Sequence{"timestamp$", 8} << Sequence{"datestamp$", 11};
 }
 
 RandomProgram RandomKcpsm::run()
 {
     m_large = m_six && chance(15);
+    m_stamps = chance(25);
     m_files.append(SourceFile{"main.psm", QByteArray()});
     m_open.append(0);
     plan();
@@ -120,7 +134,7 @@ RandomProgram RandomKcpsm::run()
         else if (kind < 12)
             moveOn();
         else if (m_six && kind < 14)
-            include();
+            chance(70) ? include() : includeAgain();
         else if (m_six && kind < 17)
             sequence();
         else
@@ -202,7 +216,7 @@ void RandomKcpsm::defineTable(const QString& name)
 
 void RandomKcpsm::renameRegister()
 {
-    const int number = below(16);
+    const int number = below(15); // the last one keeps its name for the file that is included more than once
     const QString old = m_registers[number];
     const QString plain = "s" + QString::number(number, 16).toUpper();
     QString name;
@@ -226,6 +240,9 @@ void RandomKcpsm::moveOn()
     // Nothing is behind the first word, which has to stand at 0.
     if (m_address == 0 || m_address > (m_large ? 0xC00 : 0x280))
         return;
+    // A label may be left behind where no instruction follows.
+    if (!m_unplaced.isEmpty() && chance(25))
+        endLine(m_unplaced.takeAt(below(m_unplaced.size())) + ":");
     m_address += 1 + below(m_large ? 0x180 : 0x18);
     endLine(gap() + word("ADDRESS") + gap() + hex(m_address, 3));
 }
@@ -247,6 +264,16 @@ void RandomKcpsm::include()
     m_files.append(SourceFile{name, QByteArray()});
     m_open.append(m_files.size() - 1);
     m_linesLeft.append(1 + below(30));
+}
+
+void RandomKcpsm::includeAgain()
+{
+    if (m_again.isEmpty()) {
+        m_again = "again.psm";
+        m_files.append(SourceFile{m_again, "\tLOAD sF, 01 ; the same lines at each place\n\tADD sF, sF\n\tRETURN Z\n"});
+    }
+    addLine(gap() + word("INCLUDE") + gap() + "\"" + m_again + "\"");
+    m_address += 3;
 }
 
 void RandomKcpsm::instruction()
@@ -416,23 +443,9 @@ QString RandomKcpsm::literal()
 
 QString RandomKcpsm::number()
 {
-    static const QStringList predefined = {"NUL",
-                                           "BEL",
-                                           "BS",
-                                           "HT",
-                                           "LF",
-                                           "VT",
-                                           "CR",
-                                           "ESC",
-                                           "DEL",
-                                           "DCS",
-                                           "ST",
-                                           "timestamp_hours",
-                                           "timestamp_minutes",
-                                           "timestamp_seconds",
-                                           "datestamp_year",
-                                           "datestamp_month",
-                                           "datestamp_day"};
+    static const QStringList predefined = {"NUL", "BEL", "BS", "HT", "LF", "VT", "CR", "ESC", "DEL", "DCS", "ST"};
+    static const QStringList stamps = {"timestamp_hours", "timestamp_minutes", "timestamp_seconds",
+                                       "datestamp_year",  "datestamp_month",   "datestamp_day"};
     const int kind = below(10);
     if (kind < 5)
         return literal();
@@ -440,7 +453,7 @@ QString RandomKcpsm::number()
         return pick(m_constants);
     if (kind < 9)
         return "~" + (chance(50) ? literal() : pick(m_constants));
-    return pick(predefined);
+    return m_stamps && chance(50) ? pick(stamps) : pick(predefined);
 }
 
 QString RandomKcpsm::port()

@@ -4,11 +4,12 @@ namespace foreign {
 
 namespace {
 
-const QStringList traps = {"LOAD",  "COMP",   "JUMP",   "WRPRT",  "RDPRT", "WRMEM", "RDMEM",   "RETI",    "INT",
-                           "CLR",   "SET2",   "RET2",   "loop",   "LDRET", "s0",    "sF",      "Z",       "C",
-                           "NZ",    "NC",     "A",      "ENABLE", "ADDR",  "ASCII", "LOADRET", "STAR",    "IFDEF",
-                           "ENDIF", "PAGE0",  "PROC",   "IODEV",  "SL0",   "SRX",   "HWBUILD", "REGBANK", "r32",
-                           "r010",  "DEFINE", "navSep", "x1b",    "f"};
+const QStringList traps = {"LOAD",    "COMP",    "JUMP",    "WRPRT",  "RDPRT",     "WRMEM",       "RDMEM",  "RETI",
+                           "INT",     "CLR",     "SET2",    "RET2",   "loop",      "LDRET",       "s0",     "sF",
+                           "Z",       "C",       "NZ",      "NC",     "A",         "ENABLE",      "ADDR",   "ASCII",
+                           "LOADRET", "STAR",    "IFDEF",   "ENDIF",  "PAGE0",     "PROC",        "IODEV",  "SL0",
+                           "SRX",     "HWBUILD", "REGBANK", "r32",    "r010",      "DEFINE",      "navSep", "addr_100",
+                           "b0",      "B12",     "a",       "loop_2", "INT_label", "RDPRT_const", "x1b",    "f"};
 
 class RandomMico8 : private RandomText
 {
@@ -100,6 +101,9 @@ RandomProgram RandomMico8::run()
         } else if (kind < 9) {
             define(newName());
         } else if (kind < 10 && m_address > 0 && m_address < 0x280) {
+            // A label may be left behind where no instruction follows.
+            if (!m_unplaced.isEmpty() && chance(25))
+                m_text += m_unplaced.takeAt(below(m_unplaced.size())) + ":\n";
             m_address += 1 + below(0x18);
             endLine(gap() + ".org" + gap() + literal(m_address));
         } else if (m_gnu && kind < 14) {

@@ -4,11 +4,12 @@ namespace foreign {
 
 namespace {
 
-const QStringList traps = {"COMPARE", "ADDCY",   "SUBCY", "INPUT", "OUTPUT", "RDPRT", "WRPRT",   "RDMEM",
-                           "WRMEM",   "INT",     "NOP2",  "ROL",   "ROR",    "ROLC",  "RORC",    "CLR",
-                           "SET",     "LDRET",   "TESTC", "COMPC", "ADDR",   "ASCII", "LOADRET", "STAR",
-                           "loop",    "r0",      "r31",   "IFDEF", "ENDIF",  "PAGE0", "PROC",    "IODEV",
-                           "REGBANK", "HWBUILD", "sG",    "FF",    "AD",     "B1",    "DEFINE",  "navSep"};
+const QStringList traps = {"COMPARE",  "ADDCY",   "SUBCY", "INPUT", "OUTPUT", "RDPRT",  "WRPRT",     "RDMEM",
+                           "WRMEM",    "INT",     "NOP2",  "ROL",   "ROR",    "ROLC",   "RORC",      "CLR",
+                           "SET",      "LDRET",   "TESTC", "COMPC", "ADDR",   "ASCII",  "LOADRET",   "STAR",
+                           "loop",     "r0",      "r31",   "IFDEF", "ENDIF",  "PAGE0",  "PROC",      "IODEV",
+                           "REGBANK",  "HWBUILD", "sG",    "FF",    "AD",     "B1",     "DEFINE",    "navSep",
+                           "addr_100", "b0",      "B12",   "a",     "B",      "loop_2", "INT_label", "RDPRT_const"};
 
 class RandomPBlazIde : private RandomText
 {
@@ -84,6 +85,9 @@ RandomProgram RandomPBlazIde::run()
         } else if (kind < 8) {
             define(newName());
         } else if (kind < 9 && m_address > 0 && m_address < 0x280) {
+            // A label may be left behind where no instruction follows.
+            if (!m_unplaced.isEmpty() && chance(25))
+                m_text += m_unplaced.takeAt(below(m_unplaced.size())) + ":\n";
             m_address += 1 + below(0x18);
             endLine(gap() + word("ORG") + gap() + literal(m_address));
         } else {

@@ -29,6 +29,9 @@ protected:
     /// A name that no one has: a trap, a variant of an earlier one, or an innocent one.
     QString newName();
 
+    /// Names that newName() must not give.
+    void reserve(const QStringList& names) { m_used.unite(QSet<QString>(names.begin(), names.end())); }
+
     /// A word of the dialect in a spelling of its own.
     QString word(const QString& capitals);
 
