@@ -93,7 +93,7 @@ void ForeignSymbols::collect()
     for (int i = 0; i < m_program.statements.size(); ++i) {
         ForeignStatement& statement = m_program.statements[i];
         if (statement.op() == opSection && statement.hasWord())
-            inData = !statement.operand(0).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
+            inData = !statement.operand(0).remove(QLatin1Char('"')).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
         else if (statement.op() == opCode || statement.op() == opData)
             inData = statement.op() == opData;
         statement.isData = inData;
