@@ -488,10 +488,13 @@ void ForeignSymbols::setLabelAddress(int symbol, int address)
         m_labelAt.insert(address, symbol);
 }
 
-QString ForeignSymbols::labelAt(int address) const
+QString ForeignSymbols::useLabelAt(int address)
 {
     const int symbol = m_labelAt.value(address, -1);
-    return symbol >= 0 ? m_program.symbols.at(symbol).ours : QString();
+    if (symbol < 0)
+        return QString();
+    m_program.symbols[symbol].isUsed = true;
+    return m_program.symbols.at(symbol).ours;
 }
 
 QString ForeignSymbols::makeLabel(const QString& wanted)
