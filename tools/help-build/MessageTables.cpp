@@ -4,10 +4,13 @@
 #include "ProcAsmMsg.h"
 #include "ProcSimMsg.h"
 #include "ProcTables.h"
+#include "SyscallMsgHndlr.h"
 
 namespace nsHelpBuild {
 
 namespace {
+
+const char* const syscallPage = "syscallMessages";
 
 /// The prefix of a key is its grade.
 MessageText messageText(const char* key, const char* text)
@@ -33,6 +36,16 @@ void take(MessageTexts* messages, const Row* (*rowOf)(int))
         messages->insert(QString::fromLatin1(rowOf(i)->key), messageText(rowOf(i)->key, rowOf(i)->text));
 }
 
+void takeSyscall(MessageTexts* messages)
+{
+    using nsModSyscall::SyscallMsgHndlr;
+    for (int i = 0; i < SyscallMsgHndlr::msgCount; ++i) {
+        const auto type = SyscallMsgHndlr::eMsgType_t(i);
+        const char* key = SyscallMsgHndlr::msgKey(type);
+        messages->insert(QString::fromLatin1(key), messageText(key, SyscallMsgHndlr::msgText(type)));
+    }
+}
+
 } // namespace
 
 MessageTexts messagesOfPage(const QString& pageId)
@@ -43,6 +56,8 @@ MessageTexts messagesOfPage(const QString& pageId)
         take(&messages, nsModAsmFe::msgText);
         take(&messages, nsModAsmFe::msgGrpText);
     }
+    if (is(syscallPage))
+        takeSyscall(&messages);
     for (const nsProc::ProcTable* table : nsProc::procTables()) {
         if (is(table->asmHelpPage))
             take(&messages, nsProc::asmMsg);
@@ -57,7 +72,13 @@ QStringList messagePages()
     QStringList ids{QStringLiteral("asmFeMessages")};
     for (const nsProc::ProcTable* table : nsProc::procTables())
         ids << QString::fromLatin1(table->asmHelpPage) << QString::fromLatin1(table->simHelpPage);
-    return ids;
+    return ids << QString::fromLatin1(syscallPage);
+}
+
+QStringList entryPages()
+{
+    return messagePages() + QStringList{QStringLiteral("projectMessages"), QStringLiteral("otherMessages"),
+                                        QStringLiteral("errMsgInternalError")};
 }
 
 } // namespace nsHelpBuild
