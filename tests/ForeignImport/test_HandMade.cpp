@@ -190,5 +190,5 @@ TEST(HandMade, endsAndMarksOfFiles)
 /// A line of the log that has no word begins, behind its address, with what could be one.
 TEST(HandMade, aLogWithLabelsThatLookLikeWords)
 {
-    expectSame(Dialect::Kcpsm6, "ADDED: LOAD s0, timestamp_hours\nB1010:\nJUMP ADDED\nJUMP B1010\n");
+    expectSame(Dialect::Kcpsm6, "ADDED: LOAD s0, timestamp_hours\nB1010 :\nJUMP ADDED\nJUMP B1010\n");
 }
