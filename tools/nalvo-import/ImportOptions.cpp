@@ -91,6 +91,8 @@ bool ImportOptions::readChoices(const QCommandLineParser& parser)
     style.verbose = parser.isSet("v");
     if (style.quiet && style.verbose)
         return wrongUsage(tr("-q and -v exclude each other."));
+    // The text has them in its summary.
+    style.verbose = style.verbose || (style.json && !style.quiet);
     force = parser.isSet("force");
     for (const char* option : {"output", "I", "reference", "image"}) {
         if (parser.isSet(option) && parser.values(option).contains(QString()))

@@ -154,10 +154,13 @@ void ImportRun::showSummary(const ForeignImport& import)
     const int broken = import.hasResult() ? import.brokenCount() : 0;
     const QString project = m_isWritten ? m_folder + '/' + import.name() + QStringLiteral(".nalvo") : QString();
     if (m_options.style.json) {
-        const bool done = m_isWritten && m_report.errors() == 0;
-        const QJsonObject object{{"result", done          ? "imported"
-                                            : m_isWritten ? "incomplete"
-                                                          : "failed"},
+        const bool isDifferent = m_hasReference && !m_proof.isEmpty() && !m_isProved;
+        QString outcome = isDifferent ? QStringLiteral("different") : QStringLiteral("imported");
+        if (!m_isWritten)
+            outcome = QStringLiteral("failed");
+        else if (m_report.errors() > 0)
+            outcome = QStringLiteral("incomplete");
+        const QJsonObject object{{"result", outcome},
                                  {"project", project.isEmpty() ? QJsonValue() : QJsonValue(shownPath(project))},
                                  {"words", import.wordCount()},
                                  {"proved", m_isProved},

@@ -22,7 +22,7 @@ QByteArray withoutComments(const QByteArray& content)
             inComment = false;
             continue;
         }
-        if (atStart && !inComment && upper.mid(pos, 28) == "MEMORY_INITIALIZATION_VECTOR")
+        if (atStart && !inComment && upper.at(pos) == 'M' && upper.mid(pos, 28) == "MEMORY_INITIALIZATION_VECTOR")
             break;
         inComment = inComment || (atStart && c == ';');
         atStart = atStart && isBlank(c);

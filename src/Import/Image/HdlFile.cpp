@@ -253,19 +253,17 @@ private:
     void placeBanks(QVector<sPlace_t>* places) const
     {
         static const QRegularExpression number(QStringLiteral("^(.*?)(\\d+)$"));
-        QStringList names;
         for (int i = 0; i < m_memories.size(); ++i) {
             const QRegularExpressionMatch match = number.match(m_memories.at(i).label);
             const QString name = ending(m_memories.at(i).label);
             const int bank = match.hasMatch() ? match.captured(2).toInt() : halfOf(name);
             if (places->at(i).width != 18 || bank != i || m_memories.size() < 2)
                 return;
-            names.append(m_memories.at(i).label);
         }
         for (int i = 1; i < m_memories.size(); ++i) {
             (*places)[i].base = places->at(i - 1).base + capacity(m_memories.at(i - 1), 18);
             m_image.note(QStringLiteral("%1 is taken as the memory from address %2 on.")
-                             .arg(names.at(i), hexText(quint64(places->at(i).base), 3)));
+                             .arg(nameOf(m_memories.at(i)), hexText(quint64(places->at(i).base), 3)));
         }
     }
 

@@ -39,7 +39,7 @@ QByteArray withoutComments(const QByteArray& content, bool isVhdl)
 
 bool isVhdlText(const QByteArray& content)
 {
-    static const QRegularExpression words(QStringLiteral("^\\s*(entity|architecture|library)\\b"),
+    static const QRegularExpression words(QStringLiteral("^[ \\t]*+(entity|architecture|library)\\b"),
                                           QRegularExpression::CaseInsensitiveOption |
                                               QRegularExpression::MultilineOption);
     return words.match(QString::fromLatin1(content)).hasMatch();
@@ -57,6 +57,11 @@ QByteArray bytesOf(QByteArray digits, bool mayBeShort)
     return bytes;
 }
 
+// A file is not searched for more, or further, than a design can need.
+const int maxMemories = 64;
+const int maxInstanceText = 1 << 16;
+const int maxInstanceHead = 1 << 8;
+
 class HdlScanner
 {
 public:
@@ -73,15 +78,18 @@ public:
     {
         // An attribute of a label, an association of a generic, a parameter, or a value of defparam.
         static const QRegularExpression entry(
-            QStringLiteral("(?:([A-Za-z_]\\w*)\\s*\\.\\s*)?\\bINIT(P?)_([0-9A-F]{2})(?!\\w)\\s*"
-                           "(?:of\\s+(\\w+)\\s*(?::\\s*label\\s*)?is\\s*|=>\\s*|=\\s*|\\(\\s*)"
-                           "(?:x?\"([0-9A-F_]*)\"|256\\s*'\\s*h\\s*([0-9A-F_]+))?\\s*(&?)"),
+            QStringLiteral("\\b(?:([A-Za-z_]\\w*+)\\s*+\\.\\s*+)?INIT(P?)_([0-9A-F]{2})(?!\\w)\\s*+"
+                           "(?:of\\s++(\\w++)\\s*+(?::\\s*+label\\b\\s*+)?is\\s*+|=>\\s*+|=\\s*+|\\(\\s*+)"
+                           "(?:x?\"([0-9A-F_]*+)\"|256\\s*+'\\s*+h\\s*+([0-9A-F_]++))?\\s*+(&?)"),
             QRegularExpression::CaseInsensitiveOption);
         QRegularExpressionMatchIterator matches = entry.globalMatch(m_text);
         while (matches.hasNext()) {
             const QRegularExpressionMatch match = matches.next();
             if (!takeEntry(match))
                 return false;
+            if (m_memories.size() > maxMemories)
+                return m_image.fail(m_memories.last().line,
+                                    QStringLiteral("There are more than %1 memories.").arg(maxMemories));
             m_lastEnd = match.capturedEnd();
         }
         completeInstance();
@@ -126,8 +134,9 @@ private:
         memory.label = owner;
         memory.line = line;
         const QRegularExpression declaration(
-            m_isVhdl ? QStringLiteral("\\b%1\\s*:\\s*(?:entity\\s+|component\\s+)?([\\w.]+)[^;]*").arg(owner)
-                     : QStringLiteral("\\b(\\w+)\\s+(?:#\\s*\\([^;]*?\\)\\s*)?%1\\s*\\([^;]*").arg(owner),
+            m_isVhdl
+                ? QStringLiteral("\\b%1\\s*:\\s*(?:entity\\s+|component\\s+)?([\\w.]+)[^;]{0,65000}").arg(owner)
+                : QStringLiteral("\\b(\\w+)\\s+(?:#\\s*\\([^;]{0,4096}?\\)\\s*)?%1\\s*\\([^;]{0,65000}").arg(owner),
             QRegularExpression::CaseInsensitiveOption);
         QRegularExpressionMatchIterator matches = declaration.globalMatch(m_text);
         while (matches.hasNext()) {
@@ -160,7 +169,7 @@ private:
         m_instancePos = m_lastEnd + std::max(listPos, 0);
         HdlMemory memory;
         memory.line = m_lines.lineAt(match.capturedStart());
-        const QString before = between.left(std::max(listPos, 0));
+        const QString before = between.left(std::max(listPos, 0)).right(maxInstanceHead);
         static const QRegularExpression vhdlStart(
             QStringLiteral("(\\w+)\\s*:\\s*(?:entity\\s+|component\\s+)?([\\w.]+)\\s*(?:\\(\\s*\\w+\\s*\\)\\s*)?$"),
             QRegularExpression::CaseInsensitiveOption);
@@ -180,12 +189,12 @@ private:
         if (m_instance < 0)
             return;
         HdlMemory& memory = m_memories[m_instance];
-        const int end = m_text.indexOf(';', m_lastEnd);
-        const int stop = end < 0 ? m_text.size() : end;
-        memory.text = m_text.mid(m_instancePos, stop - m_instancePos);
+        const QString tail = m_text.mid(m_lastEnd, maxInstanceText);
+        const QString ports = tail.left(tail.indexOf(';'));
+        memory.text = m_text.mid(m_instancePos, std::min(m_lastEnd - m_instancePos, maxInstanceText)) + ports;
         static const QRegularExpression verilogName(QStringLiteral("\\)\\s*([A-Za-z_]\\w*)\\s*\\("));
         if (!m_isVhdl)
-            memory.label = verilogName.match(m_text.mid(m_lastEnd, stop - m_lastEnd)).captured(1);
+            memory.label = verilogName.match(ports).captured(1);
         m_instance = -1;
     }
 

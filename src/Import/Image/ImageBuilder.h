@@ -96,6 +96,8 @@ bool readListing(const QByteArray& content, ImageBuilder* image);
 
 /// Are all lines words, addresses behind `@`, and comments?
 bool isWordFile(const QByteArray& content);
+/// Is at least the first line with a word or an address like that? Then the reader tells what is wrong with the others.
+bool startsAsWordFile(const QByteArray& content);
 /// Does the content have lines of an address and a word?
 bool isListing(const QByteArray& content);
 

@@ -44,15 +44,13 @@ QStringList ImageProofResult::report() const
         lines.append(QStringLiteral("%1 differ, %2 equal").arg(words(differenceCount)).arg(words(equalCount)));
     }
     if (onlyOursCount > 0)
-        lines.append(words(onlyOursCount) +
-                     QStringLiteral(" of the program are at addresses that the reference lacks"));
+        lines.append(QStringLiteral("The reference lacks %1 of the program").arg(words(onlyOursCount)));
     if (onlyReferenceCount > 0)
-        lines.append(words(onlyReferenceCount) +
-                     QStringLiteral(" of the reference are at addresses that the program lacks"));
+        lines.append(QStringLiteral("The program lacks %1 of the reference").arg(words(onlyReferenceCount)));
     if (filledCount > 0)
         lines.append(
-            words(filledCount) +
-            QStringLiteral(" of the reference are zeros where the program has nothing, which is the same memory"));
+            QStringLiteral("The reference has zeros in %1 where the program has nothing, which is the same memory")
+                .arg(words(filledCount)));
     for (const ImageDifference& difference : first) {
         lines.append(
             QStringLiteral("%1: program   %2")

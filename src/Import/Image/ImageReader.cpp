@@ -51,6 +51,18 @@ QByteArray withoutMarks(const QByteArray& content)
     return content.mid(start, end - start);
 }
 
+const int maxLineLength = 1 << 20;
+
+bool hasLongLine(const QByteArray& content)
+{
+    LineCursor cursor(content);
+    while (cursor.next()) {
+        if (cursor.line().size() > maxLineLength)
+            return true;
+    }
+    return false;
+}
+
 /// First characters of the first line that has any.
 QByteArray firstWords(const QByteArray& content)
 {
@@ -140,6 +152,8 @@ ImageResult ImageReader::read(const QByteArray& content, const QString& name) co
         return failed(QStringLiteral("The image has more than %1 MB.").arg(maxFileSize >> 20));
     if (text.contains('\0'))
         return failed(QStringLiteral("This is a binary file, and not the text of an image."));
+    if (hasLongLine(text))
+        return failed(QStringLiteral("A line has more than %1 kB: this is no image.").arg(maxLineLength >> 10));
     const eImageFormat_t kind = format(text);
     const sFormat_t* row = formatRow(kind);
     if (row == nullptr)
@@ -162,9 +176,12 @@ eImageFormat_t ImageReader::format(const QByteArray& content)
         return imageMif;
     if (hasLatticeHeader(upper))
         return imageLatticeMem;
+    const eImageFormat_t words = upper.contains('@') ? imageMem : imageHex;
     if (isWordFile(content))
-        return upper.contains('@') ? imageMem : imageHex;
-    return isListing(content) ? imageListing : imageUnknown;
+        return words;
+    if (isListing(content))
+        return imageListing;
+    return startsAsWordFile(content) ? words : imageUnknown;
 }
 
 QString ImageReader::formatName(eImageFormat_t format)

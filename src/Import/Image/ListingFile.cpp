@@ -3,6 +3,10 @@
 #include "ImageBuilder.h"
 
 #include <QRegularExpression>
+#include <QSet>
+#include <QVector>
+
+#include <algorithm>
 
 namespace nsImport {
 
@@ -43,8 +47,23 @@ struct sListingLine_t
 {
     quint64 address = 0;
     quint64 word = 0;
+    quint64 pageAddress = 0; ///< in a listing of our own; else the address
+    bool isShared = false;   ///< each page has the word
+    int number = 0;          ///< of the line
     QByteArray text;
+    bool isDamaged = false; ///< there is an address, and something like a word
 };
+
+/// Is it a word with a digit too much or too little, or with a letter in place of a digit? A line without a word goes
+/// on with a label, an instruction or a comment, and none of these begins with a digit.
+bool isLikeWord(const QByteArray& piece)
+{
+    const int fewest = 4;
+    const int most = 6;
+    const auto digits = std::count_if(piece.begin(), piece.end(), isHexDigit);
+    return piece.size() >= fewest && piece.size() <= most && piece.at(0) >= '0' && piece.at(0) <= '9' &&
+           digits >= piece.size() - 1;
+}
 
 /// `3FF 34001 text`, or as our own assembler lists it: `03FF PAGE0 3FF 34001 file:line text`.
 bool parseLine(const QByteArray& line, sListingLine_t* result)
@@ -53,15 +72,19 @@ bool parseLine(const QByteArray& line, sListingLine_t* result)
     if (!isNumber(pieces.next(), 3, 6, &result->address))
         return false;
     QByteArray second = pieces.next();
-    if (second.startsWith("PAGE") || second == "SHARED") {
-        quint64 inPage = 0;
-        if (!isNumber(pieces.next(), 3, 6, &inPage))
+    result->pageAddress = result->address;
+    result->isShared = second == "SHARED";
+    if (second.startsWith("PAGE") || result->isShared) {
+        if (!isNumber(pieces.next(), 3, 6, &result->pageAddress))
             return false;
         second = pieces.next();
     }
     const int wordDigits = 5;
-    if (!isNumber(second, wordDigits, wordDigits, &result->word))
+    if (!isNumber(second, wordDigits, wordDigits, &result->word)) {
+        result->isDamaged = isLikeWord(second);
+        result->text = second;
         return false;
+    }
     result->text = pieces.rest();
     return true;
 }
@@ -106,7 +129,8 @@ public:
     void look(const QByteArray& bytes)
     {
         const int longest = 512;
-        if (time.isValid() && date.isValid())
+        const int lines = 2000; // the moment stands near the start
+        if ((time.isValid() && date.isValid()) || ++m_lines > lines)
             return;
         const QString line = QString::fromLatin1(bytes.left(longest));
         const QTime foundTime = time.isValid() ? QTime() : timeIn(line);
@@ -132,6 +156,7 @@ private:
         return words.match(line).hasMatch();
     }
 
+    int m_lines = 0;
     bool m_lastHadTime = false;
     QDate m_lastDate;
 };
@@ -141,8 +166,8 @@ private:
 bool isListing(const QByteArray& content)
 {
     LineCursor cursor(content);
-    sListingLine_t parsed;
     while (cursor.next()) {
+        sListingLine_t parsed;
         if (parseLine(cursor.line(), &parsed))
             return true;
     }
@@ -153,16 +178,31 @@ bool readListing(const QByteArray& content, ImageBuilder* image)
 {
     LineCursor cursor(content);
     StampFinder stamp;
+    QSet<quint64> pages; // where they begin, but for the first one
+    QVector<sListingLine_t> shared;
     while (cursor.next()) {
         sListingLine_t line;
         if (!parseLine(cursor.line(), &line)) {
+            if (line.isDamaged)
+                return image->fail(cursor.number(), QStringLiteral("%1 is no word.").arg(shown(line.text)));
             stamp.look(cursor.line());
             continue;
         }
         if (!image->add(qint64(line.address), line.word, cursor.number()))
             return false;
+        line.number = cursor.number();
+        if (line.isShared)
+            shared.append(line);
+        else if (line.address > line.pageAddress)
+            pages.insert(line.address - line.pageAddress);
         if (!line.text.isEmpty())
             image->setText(int(line.address), QString::fromLatin1(line.text));
+    }
+    for (const sListingLine_t& line : qAsConst(shared)) {
+        for (quint64 page : qAsConst(pages)) {
+            if (!image->add(qint64(page + line.pageAddress), line.word, line.number))
+                return false;
+        }
     }
     image->image().date = stamp.date;
     image->image().time = stamp.time;

@@ -2,9 +2,7 @@
 
 #include "ImageBuilder.h"
 
-#include <QList>
-
-#include <algorithm>
+#include <vector>
 
 namespace nsImport {
 
@@ -30,13 +28,6 @@ QByteArray withoutComments(const QByteArray& content)
             text[pos] = ' ';
     }
     return text;
-}
-
-QList<QByteArray> pieces(const QByteArray& text)
-{
-    QList<QByteArray> list = text.simplified().replace(',', ' ').split(' ');
-    list.removeAll(QByteArray());
-    return list;
 }
 
 class MifReader
@@ -126,24 +117,38 @@ private:
         if (!readAddresses(statement.left(colon).trimmed(), &from, &to, &isRange))
             return fail(pos,
                         QStringLiteral("%1 is no address of the memory.").arg(shown(statement.left(colon).trimmed())));
-        QList<quint64> words;
-        for (const QByteArray& piece : pieces(statement.mid(colon + 1))) {
-            quint64 word = 0;
-            if (!toNumber(piece, m_dataRadix, &word))
-                return fail(pos, QStringLiteral("%1 is no word.").arg(shown(piece)));
-            words.append(word);
-        }
-        if (words.isEmpty())
-            return fail(pos, QStringLiteral("There is an address without a word."));
+        std::vector<quint64> words;
+        if (!readEntryWords(statement, colon + 1, pos, &words))
+            return false;
         const int line = m_lines.lineAt(pos);
         const quint64 count = isRange ? to - from + 1 : quint64(words.size());
         if (from + count > limit())
             return fail(pos, QStringLiteral("The words go beyond the end of the memory."));
         for (quint64 i = 0; i < count; ++i) {
-            if (!m_image.add(qint64(from + i), words.at(int(i % quint64(words.size()))), line))
+            if (!m_image.add(qint64(from + i), words[size_t(i % words.size())], line))
                 return false;
         }
         return true;
+    }
+
+    bool readEntryWords(const QByteArray& statement, int at, int pos, std::vector<quint64>* words)
+    {
+        const auto isBetween = [&statement](int i) { return isBlank(statement.at(i)) || statement.at(i) == ','; };
+        while (at < statement.size()) {
+            const int start = at;
+            while (at < statement.size() && !isBetween(at))
+                ++at;
+            if (at == start) {
+                ++at;
+                continue;
+            }
+            const QByteArray piece = statement.mid(start, at - start);
+            quint64 word = 0;
+            if (!toNumber(piece, m_dataRadix, &word))
+                return fail(pos, QStringLiteral("%1 is no word.").arg(shown(piece)));
+            words->push_back(word);
+        }
+        return !words->empty() || fail(pos, QStringLiteral("There is an address without a word."));
     }
 
     bool readAddresses(const QByteArray& text, quint64* from, quint64* to, bool* isRange) const

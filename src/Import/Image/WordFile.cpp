@@ -71,6 +71,13 @@ bool isHexWord(const QByteArray& piece)
            std::all_of(digits.begin(), digits.end(), [](char c) { return isHexDigit(c) || c == '_'; });
 }
 
+bool isWordLine(const QList<QByteArray>& pieces)
+{
+    return std::all_of(pieces.begin(), pieces.end(), [](const QByteArray& piece) {
+        return piece.startsWith('@') ? piece.size() == 1 || isHexWord(piece.mid(1)) : isHexWord(piece);
+    });
+}
+
 /// What a look at the whole file tells of how it is written.
 struct sWordFileLook_t
 {
@@ -79,7 +86,6 @@ struct sWordFileLook_t
     bool wordsEndLf = true;         ///< all lines with words alone: our assembler writes decimal addresses then
     bool hasDigitAboveNine = false; ///< in a word
     bool isBinary = true;           ///< all words are long and of zeros and ones
-    bool isPaired = true;           ///< all lines are a short and a longer number: an address and a word
     int words = 0;
 };
 
@@ -100,7 +106,6 @@ sWordFileLook_t lookAt(const QByteArray& content)
             continue;
         }
         look.wordsEndLf = look.wordsEndLf && cursor.end() != LineCursor::endCrLf;
-        look.isPaired = look.isPaired && line.size() == 2 && line.at(0).size() < line.at(1).size();
         for (const QByteArray& word : line) {
             ++look.words;
             for (char c : withoutPrefix(word)) {
@@ -236,16 +241,27 @@ bool isWordFile(const QByteArray& content)
     bool paired = true;
     while (cursor.next()) {
         const QList<QByteArray> line = pieces.of(cursor.line());
-        for (const QByteArray& piece : line) {
-            if (piece.startsWith('@') ? piece.size() > 1 && !isHexWord(piece.mid(1)) : !isHexWord(piece))
-                return false;
-        }
+        if (!isWordLine(line))
+            return false;
         any = any || !line.isEmpty();
-        paired = paired && (line.isEmpty() || (line.size() == 2 && !line.first().startsWith('@') &&
+        paired = paired && (line.isEmpty() || (line.size() >= 2 && !line.first().startsWith('@') &&
                                                line.at(0).size() < line.at(1).size()));
     }
-    // Lines of an address and a word alone are a listing without texts.
+    // Where a short number stands in front of a longer one in each line, it is the address, and the rest happens to
+    // look like words.
     return any && !(paired && isListing(content));
+}
+
+bool startsAsWordFile(const QByteArray& content)
+{
+    LineCursor cursor(content);
+    LinePieces pieces;
+    while (cursor.next()) {
+        const QList<QByteArray> line = pieces.of(cursor.line());
+        if (!line.isEmpty())
+            return isWordLine(line);
+    }
+    return false;
 }
 
 bool readWordFile(const QByteArray& content, ImageBuilder* image)

@@ -124,10 +124,12 @@ void Rescue::addFindings(const ProgramImage& image, const RescueFlow& flow, Resc
     unreached -= result->filledCount;
     if (unreached > 0)
         result->notes.append(
-            QStringLiteral("%1 words are not reached from the start or the interrupt vector.").arg(unreached));
+            QStringLiteral("Number of words that are not reached from the start or the interrupt vector: %1.")
+                .arg(unreached));
     if (result->filledCount > 0)
-        result->notes.append(QStringLiteral("%1 zeros that nothing reaches were left out: unused memory is zero.")
-                                 .arg(result->filledCount));
+        result->notes.append(
+            QStringLiteral("Number of zeros that nothing reaches, and that were left out as unused memory is zero: %1.")
+                .arg(result->filledCount));
 }
 
 /// Assembles the source and compares the memory, in which unused addresses are zero.

@@ -39,6 +39,9 @@ RescueWriter::RescueWriter(const nsProc::ProcTable& table, const ProcDisassemble
     , m_flow(flow)
     , m_vector(vector)
 {
+    // The disassembler gives the more general instruction, which says less here.
+    if (const nsProc::sInstr_t* nop = m_table.assembled(ocNop))
+        m_nop = nop->words[0];
     if (m_vector >= 0 && m_image.word(m_vector) == 0)
         m_vector = -1;
     if (m_vector >= 0 && m_flow.word(m_vector).flow == rescueJump)
@@ -159,6 +162,8 @@ QStringList RescueWriter::operands(int address) const
 
 QString RescueWriter::instruction(int address) const
 {
+    if (int(m_image.word(address)) == m_nop)
+        return mnemonicOfOpcode(ocNop);
     const QString mnemonic = mnemonicOfOpcode(m_flow.word(address).pattern->opcode);
     const QString arguments = operands(address).join(QLatin1String(", "));
     return arguments.isEmpty() ? mnemonic : mnemonic.leftJustified(operandColumn - statementColumn) + arguments;
@@ -181,11 +186,7 @@ QByteArray RescueWriter::source(const QString& name, bool marksInvalid)
     for (int address = 0; address < m_end; ++address) {
         if (!isWritten(address))
             continue;
-        if (address != next) {
-            m_text += '\n';
-            writeLine(QStringLiteral("#ORG    ADDR, 0x") + address3(address), QString());
-        }
-        writeHeading(address);
+        writeHeading(address, address != next);
         writeAddress(address, marksInvalid);
         next = address + 1;
     }
@@ -215,13 +216,43 @@ void RescueWriter::writeConstants()
                   QString());
 }
 
+/// Does the word belong together with the one before, although that never goes on to it? Tables are such words, and
+/// memory that is filled up with jumps.
+bool RescueWriter::continuesTable(int address) const
+{
+    if (!m_image.contains(address) || !m_image.contains(address - 1))
+        return false;
+    const ProcDisassembler::sPattern_t* pattern = m_flow.word(address).pattern;
+    const bool isTable =
+        pattern != nullptr && pattern->opcode == ocLoadret && pattern == m_flow.word(address - 1).pattern;
+    return isTable || m_image.word(address) == m_image.word(address - 1);
+}
+
+/// The character that a word of a table or of a text holds, for its comment; else nothing.
+QString RescueWriter::character(int address) const
+{
+    const ProcDisassembler::sPattern_t& pattern = *m_flow.word(address).pattern;
+    const bool isText =
+        pattern.opcode == ocLoadret || (pattern.opcode == ocWrprt && pattern.operands.first().kind == Operand::number);
+    const auto value = [&](const Operand& operand) {
+        return ProcDisassembler::field(operand, int(m_image.word(address)));
+    };
+    const int code =
+        isText ? value(pattern.opcode == ocLoadret ? pattern.operands.last() : pattern.operands.first()) : 0;
+    // A backslash could begin a command for the navigator.
+    return code > ' ' && code <= '~' && code != '\\' ? QStringLiteral(" '%1'").arg(QChar(code)) : QString();
+}
+
 /// What stands in front of an address: empty lines, comments, its label.
-void RescueWriter::writeHeading(int address)
+/// @param isBehindGap the address is not the one behind the last line
+void RescueWriter::writeHeading(int address, bool isBehindGap)
 {
     const bool isWord = m_image.contains(address);
     const bool isUnreached = isWord && !m_flow.word(address).reachable;
     const QVector<int> callers = m_flow.targets().value(address);
-    if (isUnreached != m_inUnreached || !callers.isEmpty() || m_ended || address == m_vector || address == m_isr)
+    const bool isIsr = address == m_vector || address == m_isr;
+    if (isIsr || isUnreached != m_inUnreached || !callers.isEmpty() || isBehindGap ||
+        (m_ended && !continuesTable(address)) || address == m_vector || address == m_isr)
         m_text += '\n';
     if (isUnreached && !m_inUnreached)
         m_text += m_flow.hasComputedTargets()
@@ -242,6 +273,8 @@ void RescueWriter::writeHeading(int address)
             places.append(QStringLiteral("... (%1 in all)").arg(callers.size()));
         m_text += QStringLiteral("; Routine, called from ") + places.join(QLatin1String(", ")) + '\n';
     }
+    if (isBehindGap)
+        writeLine(QStringLiteral("#ORG    ADDR, 0x") + address3(address), QString());
     const QString label = m_names.value(address);
     if (!label.isEmpty())
         m_text += label + QStringLiteral(":\n");
@@ -264,7 +297,7 @@ void RescueWriter::writeAddress(int address, bool marksInvalid)
         writeLine(QStringLiteral("NO_INSTRUCTION 0x") + value, address3(address) + ' ' + value + ' ' + word.reason);
         return;
     }
-    writeLine(instruction(address), address3(address) + ' ' + value);
+    writeLine(instruction(address), address3(address) + ' ' + value + character(address));
     m_ended = word.flow == rescueJump || word.flow == rescueReturn || word.flow == rescueComputedJump;
 }
 

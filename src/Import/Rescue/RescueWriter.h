@@ -43,10 +43,12 @@ private:
     QStringList operands(int address) const;
     QString instruction(int address) const;
     QString zeroInstruction(int address) const;
+    bool continuesTable(int address) const;
+    QString character(int address) const;
     void writeHead(const QString& name);
     void writeConstants();
     void writeAddress(int address, bool marksInvalid);
-    void writeHeading(int address);
+    void writeHeading(int address, bool isBehindGap);
     void writeLine(const QString& statement, const QString& comment);
 
     const nsProc::ProcTable& m_table;
@@ -54,6 +56,7 @@ private:
     const ProgramImage& m_image;
     const RescueFlow& m_flow;
     int m_vector;
+    int m_nop = -1; ///< the word of a NOP
     int m_isr = -1; ///< where the instruction at the vector jumps to
 
     QMap<int, QString> m_names;

@@ -136,7 +136,10 @@ QString StatementWriter::line(const ForeignStatement& statement, const Parts& pa
         text += parts.operands;
     }
     if (!comment.isEmpty()) {
-        padTo(&text, statement.commentPos >= 0 ? columnAt(statement.text, statement.commentPos) : 0);
+        // As operands: in a column of its own, or a blank behind the code.
+        const int pos = statement.commentPos;
+        const bool follows = pos < 2 || (statement.text.at(pos - 1) == ' ' && !statement.text.at(pos - 2).isSpace());
+        padTo(&text, follows ? 0 : columnAt(statement.text, pos));
         text += comment;
     }
     return text;
