@@ -42,7 +42,7 @@ bool ForeignResolver::report(eImportMsg_t type, const QStringList& arguments)
 
 QString ForeignResolver::labelFor(int address)
 {
-    const QString known = m_symbols.labelAt(address);
+    const QString known = m_symbols.useLabelAt(address);
     if (!known.isEmpty())
         return known;
     QString& made = m_program.targets[address];

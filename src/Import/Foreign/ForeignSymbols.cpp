@@ -93,7 +93,7 @@ void ForeignSymbols::collect()
     for (int i = 0; i < m_program.statements.size(); ++i) {
         ForeignStatement& statement = m_program.statements[i];
         if (statement.op() == opSection && statement.hasWord())
-            inData = !statement.operand(0).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
+            inData = !statement.operand(0).remove(QLatin1Char('"')).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
         else if (statement.op() == opCode || statement.op() == opData)
             inData = statement.op() == opData;
         statement.isData = inData;
@@ -488,10 +488,13 @@ void ForeignSymbols::setLabelAddress(int symbol, int address)
         m_labelAt.insert(address, symbol);
 }
 
-QString ForeignSymbols::labelAt(int address) const
+QString ForeignSymbols::useLabelAt(int address)
 {
     const int symbol = m_labelAt.value(address, -1);
-    return symbol >= 0 ? m_program.symbols.at(symbol).ours : QString();
+    if (symbol < 0)
+        return QString();
+    m_program.symbols[symbol].isUsed = true;
+    return m_program.symbols.at(symbol).ours;
 }
 
 QString ForeignSymbols::makeLabel(const QString& wanted)

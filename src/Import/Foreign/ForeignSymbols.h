@@ -69,8 +69,8 @@ public:
     QString makeLabel(const QString& wanted);
     /// The time or date as text; null if this is not the name of one.
     QString stampText(const QString& name);
-    bool isLabelAt(int address) const { return m_labelAt.contains(address); }
-    QString labelAt(int address) const;
+    /// A label of the program at this address; empty if there is none. It is used from now on.
+    QString useLabelAt(int address);
     void setLabelAddress(int symbol, int address);
 
     // ForeignScope

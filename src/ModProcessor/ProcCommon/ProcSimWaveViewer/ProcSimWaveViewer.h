@@ -97,6 +97,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void addWhatsThis();
     QWidget* makeTools();
     static QWidget* makeToolGroup(QWidget* parent);
     void addPortTools();
