@@ -159,7 +159,7 @@ TEST(HandMade, namesThatAreSetAgain)
 {
     expectSame(
         Dialect::Mico8Gnu,
-        "movi r0, late\n.set x, 1\nmovi r1, x\n.set x, 2\n.set y, 5\nmovi r2, x\n.equ x, 3\nmovi r3, x\n.equ late, 9\n"
+        "movi r0, late\n.set x, 1\nmovi r1, x\n.set x, 2\n.set y, 5\nmovi r2, x\n.set x, 3\nmovi r3, x\n.equ late, 9\n"
         "movi r4, y\n.set X, 7\nmovi r5, _lo(x)\nmovi r6, #X\n");
 }
 
