@@ -77,6 +77,17 @@ TEST(Mico8, definitionsAndLinesOfTheGnuStyle)
               "000:2E428 001:3B000 002:2E431");
 }
 
+TEST(Mico8, aNameIsSetAgainInTheGnuStyle)
+{
+    ForeignCase program;
+    EXPECT_EQ(program.words(Dialect::Mico8Gnu,
+                            "movi r0, late\n.set x, 1\nmovi r1, x\n.set x, 2\nmovi r2, x\n.equ x, 3\nmovi r3, x\n"
+                            ".equ late, 9\n"),
+              "000:12009 001:12101 002:12202 003:12303");
+    expectRefused(Dialect::Mico8Gnu, {"movi r0, x\n.set x, 1\n.set x, 2\n", "x: nop\n.set x, 1\n"});
+    expectRefused(Dialect::Mico8Vendor, {".equ x, 1\n.equ x, 2\n"});
+}
+
 TEST(Mico8, numericLocalLabels)
 {
     ForeignCase program;

@@ -110,13 +110,22 @@ private:
     int localTarget(const Statement& statement, const QString& number, bool behind);
     int registerNumber(const QString& operand) const;
     quint32 registerOf(const Line& line, const QString& operand);
+    QString valueHere(const QString& name) const;
     int valueOf(const QString& operand, int depth = 0) const;
     quint32 numberOf(const Line& line, const QString& operand, int highest);
 
     bool m_gnu;
     QVector<Statement> m_statements;
-    QMap<QString, QString> m_names; ///< value as written, by name
-    QMap<QString, int> m_registers; ///< number by the name that it was given
+    /// A value as it is written, and the line from which on it holds.
+    struct Value
+    {
+        int line;
+        QString text;
+    };
+
+    QMap<QString, QVector<Value>> m_names; ///< in the order of the lines; more than one if a name is set again
+    int m_line = 0;                        ///< the line that is being looked at
+    QMap<QString, int> m_registers;        ///< number by the name that it was given
     QMap<QString, int> m_labels;
     QVector<LocalLabel> m_locals;
 };
@@ -197,11 +206,13 @@ bool Mico8::readDefinition(const Line& line, const QString& rest, Statement* sta
         fail(line, "not in this style: " + rest);
     const QString name = isInfix.hasMatch() ? isInfix.captured(1) : isDotted.captured(2);
     const QString value = isInfix.hasMatch() ? isInfix.captured(3) : isDotted.captured(3);
-    define(line, name);
+    // In the GNU style a name can be set again, and has the new value from there on.
+    if (!m_gnu || !m_names.contains(name))
+        define(line, name);
     if (isInfix.captured(2).toLower() == "reg")
         m_registers.insert(name, int(registerOf(line, value.trimmed())));
     else
-        m_names.insert(name, value.trimmed());
+        m_names[name].append({line.number, value.trimmed()});
     statement->word = ".EQU";
     return true;
 }
@@ -222,6 +233,7 @@ void Mico8::layOut()
     int address = 0;
     for (int i = 0; i < m_statements.size(); ++i) {
         Statement& statement = m_statements[i];
+        m_line = statement.line.number;
         if (statement.word == ".ORG" && hasOperands(statement, 1)) {
             address = valueOf(statement.operands[0]);
             if (address < 0)
@@ -247,6 +259,7 @@ void Mico8::layOut()
 quint32 Mico8::encode(const Statement& statement)
 {
     const Line& line = statement.line;
+    m_line = line.number;
     const QString& word = statement.word;
     const QStringList& operands = statement.operands;
     if (alone().contains(word) && hasOperands(statement, 0))
@@ -336,6 +349,20 @@ quint32 Mico8::registerOf(const Line& line, const QString& operand)
     return quint32(qMax(number, 0));
 }
 
+/// What the name stands for at this line; empty if it is set more than once, and the first time further down.
+QString Mico8::valueHere(const QString& name) const
+{
+    const QVector<Value>& values = m_names[name];
+    if (values.size() == 1)
+        return values[0].text;
+    QString text;
+    for (const Value& value : values) {
+        if (value.line < m_line)
+            text = value.text;
+    }
+    return text;
+}
+
 /// @return -1 for what is no number
 int Mico8::valueOf(const QString& operand, int depth) const
 {
@@ -353,7 +380,7 @@ int Mico8::valueOf(const QString& operand, int depth) const
     if (operand.startsWith('#'))
         return valueOf(operand.mid(1).trimmed(), depth + 1);
     if (m_names.contains(operand))
-        return valueOf(m_names[operand], depth + 1);
+        return valueOf(valueHere(operand), depth + 1);
     if (operand.size() == 3 && operand.startsWith('\'') && operand.endsWith('\'') && operand[1] != '\\')
         return operand[1].unicode();
     if (operand.size() == 4 && operand.startsWith("'\\") && operand.endsWith('\'')) {

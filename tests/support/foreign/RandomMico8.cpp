@@ -26,6 +26,7 @@ private:
     void endLine(const QString& text);
     void plan();
     void define(const QString& name);
+    void setAgain();
     void lineWithoutWord();
     void instruction();
     void localLabel();
@@ -41,6 +42,7 @@ private:
     QString m_text;
     int m_address = 0;
     QStringList m_constants;
+    QStringList m_late;  ///< constants that are defined at the end
     QStringList m_small; ///< constants up to 31
     QStringList m_registers;
     QStringList m_labels;
@@ -67,6 +69,9 @@ void RandomMico8::plan()
 {
     for (int i = 3 + below(20); i > 0; --i)
         define(newName());
+    for (int i = below(4); i > 0; --i)
+        m_late.append(newName());
+    m_constants += m_late;
     for (int i = 4 + below(24); i > 0; --i)
         m_labels.append(m_gnu && chance(30) ? ".L" + QString::number(i) : newName());
     m_unplaced = m_labels;
@@ -89,6 +94,14 @@ void RandomMico8::define(const QString& name)
     (small ? m_small : m_constants).append(name);
 }
 
+/// Gives a constant another value from here on.
+void RandomMico8::setAgain()
+{
+    const QString name = pick(m_constants);
+    if (!m_late.contains(name))
+        endLine(gap() + ".set" + gap() + name + comma() + literal(below(256)));
+}
+
 RandomProgram RandomMico8::run()
 {
     if (m_gnu && chance(60))
@@ -99,7 +112,7 @@ RandomProgram RandomMico8::run()
         if (kind < 6) {
             lineWithoutWord();
         } else if (kind < 9) {
-            define(newName());
+            m_gnu && !m_constants.isEmpty() && chance(30) ? setAgain() : define(newName());
         } else if (kind < 10 && m_address > 0 && m_address < 0x280) {
             // A label may be left behind where no instruction follows.
             if (!m_unplaced.isEmpty() && chance(25))
@@ -117,6 +130,9 @@ RandomProgram RandomMico8::run()
     m_behind.clear();
     for (const QString& label : rest)
         m_text += label + ":" + gap() + word("NOP") + "\n";
+    for (const QString& name : m_late)
+        endLine(m_gnu ? gap() + ".equ" + gap() + name + comma() + literal(below(256))
+                      : name + gap() + "equ" + gap() + literal(below(256)));
     if (m_gnu && chance(50))
         m_text += "\t.size main, .-main\n";
     if (chance(30))

@@ -1,6 +1,6 @@
 // Random programs in foreign dialects: generated, converted, assembled, and compared with the words that the original
 // makes. A long run, which tells every program that differs:
-//   NALVO_FOREIGN_PROGRAMS=1000 build/release/test_ForeignImport --gtest_filter='*Random*'
+//   NALVO_FOREIGN_PROGRAMS=1000 build/release/test_ImportReference --gtest_filter='*Random*'
 
 #include "ImportCase.h"
 

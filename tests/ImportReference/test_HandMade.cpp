@@ -155,6 +155,14 @@ TEST(HandMade, localLabels)
                "1: b 1b\nb 1f\n1: b 1f\nb 1b\n1:\n1: b 1b\n12: b 12b\nb 1f\nb 2f\n2: b 2b\n1: ret\nb 12b\n");
 }
 
+TEST(HandMade, namesThatAreSetAgain)
+{
+    expectSame(
+        Dialect::Mico8Gnu,
+        "movi r0, late\n.set x, 1\nmovi r1, x\n.set x, 2\n.set y, 5\nmovi r2, x\n.set x, 3\nmovi r3, x\n.equ late, 9\n"
+        "movi r4, y\n.set X, 7\nmovi r5, _lo(x)\nmovi r6, #X\n");
+}
+
 TEST(HandMade, relativeTargets)
 {
     for (const Dialect dialect : {Dialect::Mico8Vendor, Dialect::Mico8Gnu})
@@ -190,5 +198,5 @@ TEST(HandMade, endsAndMarksOfFiles)
 /// A line of the log that has no word begins, behind its address, with what could be one.
 TEST(HandMade, aLogWithLabelsThatLookLikeWords)
 {
-    expectSame(Dialect::Kcpsm6, "ADDED: LOAD s0, timestamp_hours\nB1010:\nJUMP ADDED\nJUMP B1010\n");
+    expectSame(Dialect::Kcpsm6, "ADDED: LOAD s0, timestamp_hours\nB1010 :\nJUMP ADDED\nJUMP B1010\n");
 }
