@@ -55,7 +55,8 @@ QString ImportFolder::conflict(const QVector<ImportFile>& files, const QStringLi
     for (const ImportFile& file : files) {
         const QString path = m_path + '/' + file.name;
         *isOriginal = originals.contains(withoutLinks(path));
-        if (*isOriginal)
+        // A folder in place of a file could hold anything.
+        if (*isOriginal || (exists(path) && !QFileInfo(path).isFile()))
             return path;
     }
     const QFileInfo info(m_path);
