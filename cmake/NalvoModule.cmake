@@ -29,7 +29,7 @@ function(nalvo_setup_pch)
 endfunction()
 
 # What the ground floor consists of, the highest library first.
-set(NALVO_CORES NalvoSim NalvoProc NalvoAsm NalvoSyscall NalvoFilter NalvoBase)
+set(NALVO_CORES NalvoImport NalvoSim NalvoProc NalvoAsm NalvoSyscall NalvoFilter NalvoBase)
 
 # The modules of the program, in the order in which the window creates them. Faces without a module are found by their folders.
 set(NALVO_MODULES ModMsg ModPrj ModSources ModProcessor ModAsmFe ModSyscall ModEditor ModSrcNavi ModHlp ModNetwork ModSwUpdate ModAction

@@ -1,6 +1,7 @@
 #include "MessageTables.h"
 
 #include "AsmFeMsgCatalogue.h"
+#include "ImportMsg.h"
 #include "ProcAsmMsg.h"
 #include "ProcSimMsg.h"
 #include "ProcTables.h"
@@ -11,6 +12,7 @@ namespace nsHelpBuild {
 namespace {
 
 const char* const syscallPage = "syscallMessages";
+const char* const importPage = "importMessages";
 
 /// The prefix of a key is its grade.
 MessageText messageText(const char* key, const char* text)
@@ -58,6 +60,8 @@ MessageTexts messagesOfPage(const QString& pageId)
     }
     if (is(syscallPage))
         takeSyscall(&messages);
+    if (is(importPage))
+        take(&messages, nsImport::importMsg);
     for (const nsProc::ProcTable* table : nsProc::procTables()) {
         if (is(table->asmHelpPage))
             take(&messages, nsProc::asmMsg);
@@ -72,7 +76,7 @@ QStringList messagePages()
     QStringList ids{QStringLiteral("asmFeMessages")};
     for (const nsProc::ProcTable* table : nsProc::procTables())
         ids << QString::fromLatin1(table->asmHelpPage) << QString::fromLatin1(table->simHelpPage);
-    return ids << QString::fromLatin1(syscallPage);
+    return ids << QString::fromLatin1(syscallPage) << QString::fromLatin1(importPage);
 }
 
 QStringList entryPages()
