@@ -262,6 +262,7 @@ TEST(ImageListing, addressesAndWordsAlone)
     EXPECT_EQ(readText("000 00001 LOAD\n001 3400G JUMP\n"), "line 2: \"3400G\" is no word.");
     EXPECT_EQ(readText("000 00001 LOAD\n001 340001 JUMP\n"), "line 2: \"340001\" is no word.");
     EXPECT_EQ(readText("2014 08:05:01\n1024 36kbit\n000 ABCD: LOAD\n000 00001 LOAD\n"), "000: 00001");
+    EXPECT_EQ(readText("000 BEEF0 EQU $1F\n000 ADDED LOAD\n000 00001 LOAD\n"), "000: 00001");
     EXPECT_EQ(readText("000 40001 a\n"), "line 1: The word 40001 has more than 18 bits.");
 }
 

@@ -128,7 +128,7 @@ TEST(Rescue, targetsOutsideOfTheImageGetAnInstructionWithTheWordOfUnusedMemory)
     const RescueResult result = Rescue(pb3).run(imageOf({0x34010}));
     ASSERT_TRUE(result.ok) << qPrintable(result.error);
     EXPECT_EQ(result.addedCount, 1);
-    EXPECT_TRUE(result.notes.first().endsWith(": 010.")) << qPrintable(result.notes.first());
+    EXPECT_TRUE(result.notes.value(0).endsWith(": 010.")) << qPrintable(result.notes.value(0));
     EXPECT_EQ(imageText(again(pb3, result).image), "000: 34010 | 010: 00000");
     // Without a word at the start, too.
     EXPECT_EQ(imageText(again(pb3, Rescue(pb3).run(imageOf({0x00105}, 5))).image), "000: 00000 | 005: 00105");

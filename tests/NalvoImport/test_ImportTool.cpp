@@ -135,6 +135,11 @@ TEST_F(ImportTool, NothingIsOverwritten)
     EXPECT_EQ(run({"-o", "file", "p.psm"}).status, 1);
     EXPECT_EQ(run({"-o", "file", "--force", "p.psm"}).status, 1);
     EXPECT_EQ(read("file"), "x");
+    // A folder where a file should be.
+    write("other/p.nalvo/mine.txt", "mine");
+    EXPECT_EQ(run({"-o", "other", "--force", "p.psm"}).status, 1);
+    EXPECT_EQ(read("other/p.nalvo/mine.txt"), "mine");
+    EXPECT_FALSE(exists("other/src"));
 }
 
 TEST_F(ImportTool, AnEmptyFolderIsFilled)

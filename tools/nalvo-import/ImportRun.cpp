@@ -34,7 +34,7 @@ bool ImportRun::run()
         m_folder = ForeignImport(options).name();
     if (!m_options.reference.isEmpty() && !readReference())
         return false;
-    setStamp(&options);
+    options.stamp = m_hasReference ? ForeignStamp::ofImage(m_reference) : ForeignStamp();
     options.memorySize = m_hasReference ? m_reference.size() : 0;
     ForeignImport import(options);
     const bool isWhole = import.run();
@@ -63,17 +63,6 @@ bool ImportRun::readReference()
     return true;
 }
 
-/// The moment when the old tool ran, as its log or listing says; else that of this run.
-void ImportRun::setStamp(ForeignImport::Options* options) const
-{
-    bool isSet = false;
-    const qint64 epoch = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isSet);
-    options->stamp.moment = isSet ? QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC) : QDateTime::currentDateTime();
-    options->stamp.isKnown = m_hasReference && m_reference.date.isValid() && m_reference.time.isValid();
-    if (options->stamp.isKnown)
-        options->stamp.moment = QDateTime(m_reference.date, m_reference.time);
-}
-
 void ImportRun::prove(const ForeignImport& import)
 {
     if (!m_hasReference) {
@@ -81,18 +70,8 @@ void ImportRun::prove(const ForeignImport& import)
         m_proof = tr("not proved, as there is no reference");
         return;
     }
-    // A log lists the lines of the program: what the memory holds elsewhere is not in it.
-    ProgramImage reference = m_reference;
     int unlisted = 0;
-    for (const int address : import.fillers()) {
-        if (!reference.contains(address)) {
-            reference.setWord(address, import.image().word(address));
-            ++unlisted;
-        }
-    }
-    const ImageProof proof(import.dialect().processor());
-    ImageProofResult result = proof.compare(import.image(), reference);
-    result.equalCount -= unlisted;
+    const ImageProofResult result = import.prove(m_reference, &unlisted);
     m_isProved = result.equal;
     m_proof = result.equal ? tr("proved against %1").arg(shownPath(m_options.reference)) : tr("words differ");
     showProof(import, result);
@@ -144,7 +123,10 @@ bool ImportRun::write(const ForeignImport& import)
     QStringList originals = import.filesRead();
     if (!m_options.reference.isEmpty())
         originals.append(QFileInfo(m_options.reference).canonicalFilePath());
-    return ImportFolder(m_folder).write(files, originals, m_options.force, m_report);
+    ImportMessages messages;
+    const bool isWritten = ImportFolder(m_folder).write(files, originals, m_options.force, messages);
+    m_report.showAll(messages);
+    return isWritten;
 }
 
 void ImportRun::showSummary(const ForeignImport& import)

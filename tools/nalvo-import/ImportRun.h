@@ -24,7 +24,6 @@ public:
 
 private:
     bool readReference();
-    void setStamp(nsImport::ForeignImport::Options* options) const;
     void prove(const nsImport::ForeignImport& import);
     void showProof(const nsImport::ForeignImport& import, const nsImport::ImageProofResult& proof);
     bool write(const nsImport::ForeignImport& import);

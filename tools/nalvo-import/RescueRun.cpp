@@ -82,8 +82,11 @@ bool RescueRun::write(const RescueResult& result)
     project.settings = result.settings;
     project.hexFile = QStringLiteral("output/") + name() + QStringLiteral(".hex");
     const QVector<ImportFile> files{{source, result.source}, {name() + QStringLiteral(".nalvo"), project.text()}};
-    return ImportFolder(m_folder).write(files, {QFileInfo(m_options.image).canonicalFilePath()}, m_options.force,
-                                        m_report);
+    ImportMessages messages;
+    const QStringList originals{QFileInfo(m_options.image).canonicalFilePath()};
+    const bool isWritten = ImportFolder(m_folder).write(files, originals, m_options.force, messages);
+    m_report.showAll(messages);
+    return isWritten;
 }
 
 void RescueRun::showSummary(const RescueResult& result, bool isWritten)

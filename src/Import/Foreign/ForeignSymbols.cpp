@@ -34,6 +34,22 @@ QString valueTextOf(const ForeignStatement& statement)
 
 } // namespace
 
+ForeignStamp::ForeignStamp()
+{
+    bool isSet = false;
+    const qint64 epoch = qEnvironmentVariable("SOURCE_DATE_EPOCH").toLongLong(&isSet);
+    moment = isSet ? QDateTime::fromSecsSinceEpoch(epoch, Qt::UTC) : QDateTime::currentDateTime();
+}
+
+ForeignStamp ForeignStamp::ofImage(const ProgramImage& image)
+{
+    ForeignStamp stamp;
+    stamp.isKnown = image.date.isValid() && image.time.isValid();
+    if (stamp.isKnown)
+        stamp.moment = QDateTime(image.date, image.time);
+    return stamp;
+}
+
 QString RegisterNames::keyOf(const QString& name) const
 {
     // The original names are written in any case.
@@ -93,7 +109,8 @@ void ForeignSymbols::collect()
     for (int i = 0; i < m_program.statements.size(); ++i) {
         ForeignStatement& statement = m_program.statements[i];
         if (statement.op() == opSection && statement.hasWord())
-            inData = !statement.operand(0).remove(QLatin1Char('"')).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
+            inData =
+                !statement.operand(0).remove(QLatin1Char('"')).startsWith(QLatin1String(".text"), Qt::CaseInsensitive);
         else if (statement.op() == opCode || statement.op() == opData)
             inData = statement.op() == opData;
         statement.isData = inData;

@@ -4,6 +4,7 @@
 #include "ForeignProgram.h"
 #include "ImportMsg.h"
 #include "ImportNames.h"
+#include "ProgramImage.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -15,6 +16,11 @@ namespace nsImport {
 /// The moment when the old tool ran, for names that stand for it.
 struct ForeignStamp
 {
+    /// That of this run: a guess. SOURCE_DATE_EPOCH is taken instead, in UTC, if it is set.
+    ForeignStamp();
+    /// As the log or listing of the old tool says; a guess if the image does not tell it.
+    static ForeignStamp ofImage(const ProgramImage& image);
+
     QDateTime moment;
     bool isKnown = false; ///< else it is a guess
 };

@@ -79,8 +79,10 @@ bool parseLine(const QByteArray& line, sListingLine_t* result)
             return false;
         second = pieces.next();
     }
+    // A name can look like a word, but no word of 18 bits begins with a letter.
     const int wordDigits = 5;
-    if (!isNumber(second, wordDigits, wordDigits, &result->word)) {
+    const bool isName = second.isEmpty() || second.at(0) < '0' || second.at(0) > '9';
+    if (isName || !isNumber(second, wordDigits, wordDigits, &result->word)) {
         result->isDamaged = isLikeWord(second);
         result->text = second;
         return false;

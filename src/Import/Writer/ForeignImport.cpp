@@ -184,6 +184,21 @@ void ForeignImport::takeVhdl(const ForeignStatement& statement, ImportProject* p
            statement);
 }
 
+ImageProofResult ForeignImport::prove(const ProgramImage& reference, int* unlisted) const
+{
+    ProgramImage whole = reference;
+    *unlisted = 0;
+    for (const int address : m_fillers) {
+        if (whole.contains(address))
+            continue;
+        whole.setWord(address, m_image.word(address));
+        ++*unlisted;
+    }
+    ImageProofResult result = ImageProof(dialect().processor()).compare(m_image, whole);
+    result.equalCount -= *unlisted;
+    return result;
+}
+
 const ForeignStatement* ForeignImport::origin(const QString& source, int line) const
 {
     for (const ImportSource& own : m_sources) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ForeignSymbols.h"
+#include "ImageProof.h"
 #include "ProgramWriter.h"
 
 #include "ProcCoreConfig.h"
@@ -46,6 +47,10 @@ public:
     QString name() const;
     /// What the result assembles to; empty if it does not.
     const ProgramImage& image() const { return m_image; }
+    /// Compares the result with the image that the old tool has made.
+    /// @param unlisted addresses of fillers() that the reference does not have, which is no difference: a log lists the
+    /// lines of the program alone
+    ImageProofResult prove(const ProgramImage& reference, int* unlisted) const;
     /// Addresses where the result has an instruction and the program has none: it is what the memory holds there.
     const QVector<int>& fillers() const { return m_fillers; }
     /// The words of the program, those of lines without a counterpart left out.

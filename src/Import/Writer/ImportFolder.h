@@ -1,14 +1,14 @@
 #pragma once
 
+#include "ImportMsg.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 #include <QVector>
 
-namespace nsNalvoImport {
-
-class ImportReport;
+namespace nsImport {
 
 /// A file of a result.
 struct ImportFile
@@ -20,7 +20,7 @@ struct ImportFile
 /// The folder of a result: it gets all files or none.
 class ImportFolder
 {
-    Q_DECLARE_TR_FUNCTIONS(nsNalvoImport::ImportFolder)
+    Q_DECLARE_TR_FUNCTIONS(nsImport::ImportFolder)
 
 public:
     /// @param path existing or not
@@ -32,7 +32,7 @@ public:
     /// @param originals files that are never overwritten; absolute, without links
     /// @param force other files that are there are overwritten
     /// @return false: why was reported, and the folder is as it was
-    bool write(const QVector<ImportFile>& files, const QStringList& originals, bool force, ImportReport& report);
+    bool write(const QVector<ImportFile>& files, const QStringList& originals, bool force, ImportMessages& messages);
 
 private:
     QString conflict(const QVector<ImportFile>& files, const QStringList& originals, bool force,
@@ -41,7 +41,8 @@ private:
     QString writeInto(const QString& folder, const QVector<ImportFile>& files) const;
     QString moveIn(const QString& folder, const QVector<ImportFile>& files) const;
 
-    QString m_path; ///< absolute
+    QString m_path;  ///< absolute
+    QString m_shown; ///< as the user has named it
 };
 
-} // namespace nsNalvoImport
+} // namespace nsImport

@@ -1,9 +1,5 @@
 #include "ImportFolder.h"
 
-#include "ImportReport.h"
-
-#include "BatchOutput.h"
-
 #include "SafeFile.h"
 
 #include <QDir>
@@ -11,7 +7,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-namespace nsNalvoImport {
+namespace nsImport {
 
 namespace {
 
@@ -32,21 +28,22 @@ bool exists(const QString& path)
 
 ImportFolder::ImportFolder(const QString& path)
     : m_path(QDir::cleanPath(QFileInfo(path).absoluteFilePath()))
+    , m_shown(path)
 {
 }
 
 bool ImportFolder::write(const QVector<ImportFile>& files, const QStringList& originals, bool force,
-                         ImportReport& report)
+                         ImportMessages& messages)
 {
     bool isOriginal = false;
     const QString taken = conflict(files, originals, force, &isOriginal);
     if (!taken.isEmpty()) {
-        report.show(isOriginal ? nsImport::errImpOriginal : nsImport::errImpExists, {nsBatch::shownPath(taken)});
+        messages.add(isOriginal ? errImpOriginal : errImpExists, {m_shown + taken.mid(m_path.size())});
         return false;
     }
     const QString failure = writeAll(files);
     if (!failure.isEmpty())
-        report.show(nsImport::errImpCannotWrite, {nsBatch::shownPath(m_path), failure});
+        messages.add(errImpCannotWrite, {m_shown, failure});
     return failure.isEmpty();
 }
 
@@ -58,7 +55,8 @@ QString ImportFolder::conflict(const QVector<ImportFile>& files, const QStringLi
     for (const ImportFile& file : files) {
         const QString path = m_path + '/' + file.name;
         *isOriginal = originals.contains(withoutLinks(path));
-        if (*isOriginal)
+        // A folder in place of a file could hold anything.
+        if (*isOriginal || (exists(path) && !QFileInfo(path).isFile()))
             return path;
     }
     const QFileInfo info(m_path);
@@ -135,4 +133,4 @@ QString ImportFolder::moveIn(const QString& folder, const QVector<ImportFile>& f
     return failure;
 }
 
-} // namespace nsNalvoImport
+} // namespace nsImport
