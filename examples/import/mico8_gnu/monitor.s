@@ -189,7 +189,7 @@ error:  movi    r0, 'E'
         call    putc
         movi    r14, _hi(text)
         movi    r13, _lo(text)
-        xori    r14, 0x55
+        xori    r14, LATE_MASK          // defined at the end
         ori     r14, 1
         addi    r13, COMP
         addic   r14, comp
@@ -232,3 +232,4 @@ copy:   importi r15, r13
         RET
         .org    0x1FF
         b       copy
+        .equ    LATE_MASK, 0x55
