@@ -13,6 +13,7 @@
 #include "ModFonts.h"
 #include "ModGui.h"
 #include "ModHlp.h"
+#include "ModImport.h"
 #include "ModMsg.h"
 #include "ModNetwork.h"
 #include "ModPrj.h"
@@ -83,6 +84,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModGui::ModGui(this));
     m_phases.append(new nsModTemplates::ModTemplates(this));
     m_phases.append(m_modScript);
+    m_phases.append(new nsModImport::ModImport(this));
     m_phases.append(new nsModFonts::ModFonts(this));
 }
 

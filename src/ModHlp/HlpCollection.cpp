@@ -1,5 +1,7 @@
 #include "HlpCollection.h"
 
+#include "HlpCollectionDescription.h"
+
 #include <QCryptographicHash>
 #include <QDateTime>
 #include <QDir>
@@ -80,11 +82,30 @@ QString HlpCollection::workingCopy(const QString& file)
     return QFileInfo(copy).isFile() ? copy : QString();
 }
 
+/// @return false: it can not be read, or it is not ours
+bool HlpCollection::openCopy(const QString& copy)
+{
+    m_engine = std::make_unique<QHelpEngine>(copy);
+    return !copy.isEmpty() && m_engine->setupData() &&
+           !m_engine->fileData(HlpCollectionDescription().pageTableUrl()).isEmpty();
+}
+
+void HlpCollection::close()
+{
+    m_engine.reset();
+}
+
 bool HlpCollection::open(const QString& file)
 {
     const QString copy = workingCopy(file);
-    m_engine = std::make_unique<QHelpEngine>(copy);
-    return !copy.isEmpty() && m_engine->setupData() && !m_engine->registeredDocumentations().isEmpty();
+    if (openCopy(copy))
+        return true;
+    if (copy.isEmpty())
+        return false;
+    // The copy may be damaged, and what was shipped may not.
+    m_engine.reset();
+    QFileInfo(copy).dir().removeRecursively();
+    return openCopy(workingCopy(file));
 }
 
 } // namespace nsModHlp

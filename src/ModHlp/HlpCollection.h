@@ -26,11 +26,14 @@ public:
     /// Opens a collection. @return false: it is missing, damaged or none; there is an engine then, too, which has no
     /// pages
     bool open(const QString& file);
-    /// Null before open().
+    /// Deletes the engine. The widgets that show its lists are deleted after it.
+    void close();
+    /// Null before open() and after close().
     QHelpEngine* engine() const { return m_engine.get(); }
 
 private:
     static QString workingCopy(const QString& file);
+    bool openCopy(const QString& copy);
 
     std::unique_ptr<QHelpEngine> m_engine;
 };

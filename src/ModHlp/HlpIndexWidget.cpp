@@ -18,6 +18,8 @@
 #include <QTabWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace nsModHlp {
 
 namespace {
@@ -26,9 +28,9 @@ const int gap = 8;
 
 } // namespace
 
-HlpIndexWidget::HlpIndexWidget(QHelpEngine* engine, QWidget* parent)
+HlpIndexWidget::HlpIndexWidget(std::function<QHelpEngine*()> engine, QWidget* parent)
     : QWidget(parent)
-    , m_engine(engine)
+    , m_openEngine(std::move(engine))
     , m_tabs(new QTabWidget)
 {
     setObjectName(QStringLiteral("hlpIndex"));
@@ -47,6 +49,9 @@ void HlpIndexWidget::showEvent(QShowEvent* event)
 
 void HlpIndexWidget::makeTabs()
 {
+    m_engine = m_openEngine();
+    if (m_engine == nullptr)
+        return;
     QHelpContentWidget* content = m_engine->contentWidget();
     connect(content, &QHelpContentWidget::linkActivated, this, &HlpIndexWidget::linkActivated);
     connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, content,

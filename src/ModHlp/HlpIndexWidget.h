@@ -4,6 +4,8 @@
 #include <QUrl>
 #include <QWidget>
 
+#include <functional>
+
 class QHelpEngine;
 class QLineEdit;
 class QTabWidget;
@@ -18,8 +20,8 @@ class HlpIndexWidget : public QWidget
     Q_OBJECT
 
 public:
-    /// @param engine with an opened collection; not owned, must outlive the widget
-    explicit HlpIndexWidget(QHelpEngine* engine, QWidget* parent = nullptr);
+    /// @param engine with an opened collection, asked for at the first show; not owned, must outlive the widget
+    explicit HlpIndexWidget(std::function<QHelpEngine*()> engine, QWidget* parent = nullptr);
 
 signals:
     void linkActivated(QUrl url);
@@ -33,7 +35,8 @@ private:
     QWidget* makeSearchTab();
     void choose(const QMap<QString, QUrl>& links, const QString& keyword);
 
-    QHelpEngine* m_engine;
+    std::function<QHelpEngine*()> m_openEngine;
+    QHelpEngine* m_engine = nullptr;
     QTabWidget* m_tabs;
     QLineEdit* m_filter = nullptr;
 };

@@ -10,11 +10,12 @@
 #include <QUrlQuery>
 #include <QWebFrame>
 
+#include <utility>
+
 namespace nsModHlp {
 
 namespace {
 
-const char* const pageTable = "/pageIdRefList/pageIdRefList.csv";
 const char* const unknownPage = "errmsginternalerror";
 
 /// A text for the inside of a script's string.
@@ -34,26 +35,36 @@ const QString schemeHelp = QStringLiteral("qthelp");
 
 } // namespace
 
-HlpNetworkAccessManager::HlpNetworkAccessManager(QObject* parent)
+HlpNetworkAccessManager::HlpNetworkAccessManager(std::function<void()> opener, QObject* parent)
     : QNetworkAccessManager(parent)
+    , m_opener(std::move(opener))
 {
+}
+
+void HlpNetworkAccessManager::makeReady()
+{
+    const std::function<void()> opener = std::exchange(m_opener, nullptr);
+    if (opener)
+        opener();
+}
+
+const QHash<QString, HlpNetworkAccessManager::hlpFile_t>& HlpNetworkAccessManager::pages()
+{
+    makeReady();
+    return m_pages;
 }
 
 void HlpNetworkAccessManager::setEngine(QHelpEngineCore* engine)
 {
+    m_opener = nullptr;
     m_engine = engine;
     readPageTable();
-}
-
-QUrl HlpNetworkAccessManager::fileUrl(const QString& path) const
-{
-    return QUrl(schemeHelp + QStringLiteral("://") + hlpNamespace + '/' + virtualFolder + path);
 }
 
 void HlpNetworkAccessManager::readPageTable()
 {
     m_pages.clear();
-    for (const QByteArray& line : fileData(fileUrl(QLatin1String(pageTable))).split('\n')) {
+    for (const QByteArray& line : fileData(pageTableUrl()).split('\n')) {
         const QList<QByteArray> fields = line.trimmed().split(';');
         if (line.trimmed().isEmpty())
             break;
@@ -62,16 +73,17 @@ void HlpNetworkAccessManager::readPageTable()
     }
 }
 
-QByteArray HlpNetworkAccessManager::fileData(const QUrl& url) const
+QByteArray HlpNetworkAccessManager::fileData(const QUrl& url)
 {
+    makeReady();
     return m_engine != nullptr ? m_engine->fileData(url) : QByteArray();
 }
 
-QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
+QUrl HlpNetworkAccessManager::resolved(const QUrl& url)
 {
     if (url.scheme() != schemePage)
         return url;
-    const auto page = m_pages.constFind(url.host().toLower());
+    const auto page = pages().constFind(url.host().toLower());
     if (page == m_pages.constEnd()) {
         qDebug() << "HlpNetworkAccessManager::createRequest - page not found:" << url;
         return unknownPageUrl();
@@ -86,9 +98,9 @@ QUrl HlpNetworkAccessManager::resolved(const QUrl& url) const
     return target;
 }
 
-QUrl HlpNetworkAccessManager::unknownPageUrl() const
+QUrl HlpNetworkAccessManager::unknownPageUrl()
 {
-    return fileUrl('/' + m_pages.value(QLatin1String(unknownPage)).path);
+    return fileUrl('/' + pages().value(QLatin1String(unknownPage)).path);
 }
 
 bool HlpNetworkAccessManager::isOfCollection(const QUrl& url) const
@@ -96,7 +108,7 @@ bool HlpNetworkAccessManager::isOfCollection(const QUrl& url) const
     return url.scheme() == schemeHelp && url.host().compare(hlpNamespace, Qt::CaseInsensitive) == 0;
 }
 
-QUrl HlpNetworkAccessManager::pageOf(const QUrl& url) const
+QUrl HlpNetworkAccessManager::pageOf(const QUrl& url)
 {
     const QUrl page = resolved(url);
     if (isOfCollection(page))
@@ -105,7 +117,7 @@ QUrl HlpNetworkAccessManager::pageOf(const QUrl& url) const
     return unknownPageUrl();
 }
 
-QString HlpNetworkAccessManager::titleOf(const QUrl& page) const
+QString HlpNetworkAccessManager::titleOf(const QUrl& page)
 {
     static const QRegularExpression title(QStringLiteral("<title>([^<]*)</title>"));
     // It stands at the start of each page; the end of a long one is not decoded.

@@ -29,6 +29,16 @@ HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
 }
 
+HlpWidget::~HlpWidget()
+{
+    // The page reports changes while it is deleted.
+    if (m_view == nullptr)
+        return;
+    m_view->page()->disconnect(this);
+    m_view->disconnect(this);
+    delete m_view;
+}
+
 QWebView* HlpWidget::view()
 {
     if (m_view == nullptr)
@@ -58,32 +68,35 @@ void HlpWidget::makeView()
         if (!title.isEmpty())
             emit titleChanged(this, title);
     });
+    // By its real name, to which the links in the page are relative.
     if (!m_target.isEmpty())
-        view->load(m_target);
+        view->load(m_manager->pageOf(m_target));
 }
 
-void HlpWidget::showEvent(QShowEvent* event)
+void HlpWidget::paintEvent(QPaintEvent* event)
 {
-    QWidget::showEvent(event);
-    // The window is painted first.
+    QWidget::paintEvent(event);
+    // The rest of the window is painted first.
     if (m_view == nullptr)
         QTimer::singleShot(0, this, [this] { view(); });
 }
 
 void HlpWidget::setSource(const QUrl& url)
 {
-    // By its real name, to which the links in the page are relative.
-    m_target = m_manager->pageOf(url);
+    m_target = url;
     if (m_view != nullptr)
-        m_view->load(m_target);
-    const QString name = m_manager->titleOf(m_target);
+        m_view->load(m_manager->pageOf(url));
+    // At the start of the program, the collection is opened after the window is seen.
+    const QString name = m_manager->isReady() ? m_manager->titleOf(m_manager->pageOf(url)) : QString();
     if (!name.isEmpty())
         emit titleChanged(this, name);
 }
 
 QUrl HlpWidget::source() const
 {
-    return m_view == nullptr || m_view->url().isEmpty() ? m_target : m_view->url();
+    if (m_view != nullptr && !m_view->url().isEmpty())
+        return m_view->url();
+    return m_target.isEmpty() ? QUrl() : m_manager->pageOf(m_target);
 }
 
 QString HlpWidget::title() const

@@ -22,6 +22,7 @@ class HlpWidget : public QWidget
 public:
     /// @param manager loads the pages; not owned, must outlive the widget
     explicit HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent = nullptr);
+    ~HlpWidget() override;
 
     /// Goes to a page. The first page is the start of the history. What is no page of the help leads to the page about
     /// internal errors.
@@ -55,7 +56,7 @@ signals:
     void linkClicked(QUrl url);
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
 private:
@@ -64,7 +65,7 @@ private:
 
     HlpNetworkAccessManager* m_manager;
     QWebView* m_view = nullptr; ///< null until it is needed
-    QUrl m_target;              ///< of setSource(), by its name in the collection
+    QUrl m_target;              ///< of setSource(), as it was given
 };
 
 } // namespace nsModHlp

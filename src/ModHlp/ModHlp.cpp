@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QHelpEngine>
 #include <QNetworkProxy>
+#include <QTimer>
 
 namespace nsModHlp {
 
@@ -24,7 +25,7 @@ const QUrl pageAbout(QStringLiteral("pageid://about"));
 
 ModHlp::ModHlp(QObject* parent)
     : QObject(parent)
-    , m_network(new HlpNetworkAccessManager(this))
+    , m_network(new HlpNetworkAccessManager([this] { openCollection(); }, this))
     , m_closedPages(new QWidget)
 {
     connect(m_network, &HlpNetworkAccessManager::callScript, this, &ModHlp::callScript);
@@ -32,11 +33,14 @@ ModHlp::ModHlp(QObject* parent)
 
 ModHlp::~ModHlp()
 {
+    emit vanishing();
     // If the window is deleted without the exit phases, the network manager must outlive what loads through it.
     for (QWidget* page : QList<HlpWidget*>(m_pages) + m_dialogPages.values()) {
         page->disconnect(this);
         delete page;
     }
+    m_network->setEngine(nullptr);
+    m_collection.close();
     delete m_index;
     delete m_configPage;
 }
@@ -53,7 +57,7 @@ void ModHlp::registerPlugin(ModHlpPluginIf* plugin)
     plugin->modHlpHook = this;
     // If the window is deleted without the exit phases, modules outlive this one and still have dialogs to close.
     if (auto* client = dynamic_cast<QObject*>(plugin))
-        connect(this, &QObject::destroyed, client, [plugin] { plugin->modHlpHook = nullptr; });
+        connect(this, &ModHlp::vanishing, client, [plugin] { plugin->modHlpHook = nullptr; });
 }
 
 void ModHlp::modInit()
@@ -81,10 +85,23 @@ bool ModHlp::setupData()
     return success;
 }
 
-void ModHlp::modInitIntermod()
+void ModHlp::openCollection()
 {
     if (!setupData() && modMsgHook != nullptr)
         modMsgHook->showErrorMessage(tr("Cannot setup help data!"));
+}
+
+QHelpEngine* ModHlp::openedEngine()
+{
+    m_network->makeReady();
+    return m_collection.engine();
+}
+
+void ModHlp::modInitIntermod()
+{
+    // The window is seen first; without one, what is in progress goes first.
+    if (parent() == nullptr)
+        QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
     if (modMsgHook != nullptr)
         modMsgHook->registerPluginUrlHndlr(ModMsgHookIf::eUrlHndlrHelp, this);
     showIndexWidget();
@@ -92,8 +109,13 @@ void ModHlp::modInitIntermod()
 
 void ModHlp::modRun()
 {
-    if (showGettingStarted)
-        openFile(pageStart);
+    if (!showGettingStarted)
+        return;
+    QTimer::singleShot(0, this, [this] {
+        // The program may have ended.
+        if (!m_lastPages.has_value())
+            openFile(pageStart);
+    });
 }
 
 void ModHlp::modExitIntermod()
@@ -106,7 +128,9 @@ void ModHlp::modExitIntermod()
         closeDialogHlp(dialog);
     if (m_index != nullptr && modGuiHook != nullptr)
         modGuiHook->removeWidget(m_index);
-    delete m_index;
+    // Not deleted yet: the engine fills its lists beside the event loop, and does not notice when they are gone.
+    if (m_index != nullptr)
+        m_index->hide();
 }
 
 void ModHlp::modExit()
@@ -131,17 +155,19 @@ void ModHlp::wrAppCfg()
 /// Puts contents and index where the settings want them.
 void ModHlp::showIndexWidget()
 {
-    // Before the collection is open there is nothing to show.
-    if (modGuiHook == nullptr || m_collection.engine() == nullptr)
+    // Not before the modules know each other.
+    if (modGuiHook == nullptr || m_actionsHelp == nullptr)
         return;
     if (m_index != nullptr)
         modGuiHook->removeWidget(m_index);
     if (hlpIndexSideRight == indexDisabled) {
-        delete m_index;
+        // Not deleted: the engine has its lists only once.
+        if (m_index != nullptr)
+            m_index->hide();
         return;
     }
     if (m_index == nullptr) {
-        m_index = new HlpIndexWidget(m_collection.engine());
+        m_index = new HlpIndexWidget([this] { return openedEngine(); });
         connect(m_index, &HlpIndexWidget::linkActivated, this, [this](const QUrl& url) { openFile(url); });
     }
     const bool isRight = hlpIndexSideRight == indexRight;
@@ -149,6 +175,7 @@ void ModHlp::showIndexWidget()
     // A panel that is added comes to the front: the one that the user has chosen stays there.
     QWidget* inFront = modGuiHook->currentWidget(location);
     modGuiHook->addWidget(this, location, m_index, tr("Help"));
+    m_index->show();
     if (inFront != nullptr && inFront != m_index)
         modGuiHook->setCurrentWidget(inFront);
 }

@@ -28,6 +28,7 @@
 #include <memory>
 #include <optional>
 
+class QHelpEngine;
 class QWebView;
 
 namespace nsModHlp {
@@ -60,7 +61,8 @@ public:
     explicit ModHlp(QObject* parent = nullptr);
     ~ModHlp() override;
 
-    /// Opens the collection that belongs to the program file. @return false: there is none that can be used
+    /// Opens the collection that belongs to the program file. Done after the window is seen, or when the first page is
+    /// wanted. @return false: there is none that can be used
     bool setupData();
     /// The program file beside which the collection lies, instead of the running one. Before modInitIntermod().
     void setProgramFile(const QString& file) { m_programFile = file; }
@@ -131,8 +133,12 @@ public:
     /// what is explained.
     void whatsThis(QWidget* widget);
 
-    /// Opens the pages that the links of these short texts name.
+    /// Opens the pages that the links of these short texts name, and the collection once the window is painted.
     bool eventFilter(QObject* watched, QEvent* event) override;
+
+signals:
+    /// The module is about to be deleted.
+    void vanishing();
 
 public slots:
     /// Opens a page: "pageid://" and the id of a page, or a file of the collection. A link to the web opens in the
@@ -166,9 +172,11 @@ private:
     HlpWidget* addPage();
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
+    void openCollection();
+    QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
     void find(bool backwards);
-    QUrl urlOfWord(const QString& word) const;
+    QUrl urlOfWord(const QString& word);
 
     PluginList<ModHlpPluginIf> m_plugins;
     QString m_programFile; ///< empty: the running program

@@ -16,6 +16,7 @@
 #include <QPlainTextEdit>
 #include <QRegularExpression>
 #include <QTextBlock>
+#include <QTimer>
 #include <QWebView>
 #include <QWhatsThis>
 #include <QWhatsThisClickedEvent>
@@ -217,13 +218,13 @@ QString wordAt(const QPlainTextEdit& text)
 } // namespace
 
 /// @return an empty URL if no page explains the word
-QUrl ModHlp::urlOfWord(const QString& word) const
+QUrl ModHlp::urlOfWord(const QString& word)
 {
-    if (m_collection.engine() == nullptr || word.isEmpty())
+    if (openedEngine() == nullptr || word.isEmpty())
         return QUrl();
     QList<QUrl> links;
-    for (const QString& id : {word, word.toUpper(), '#' + word.toUpper()}) {
-        for (const QHelpLink& link : m_collection.engine()->documentsForIdentifier(id)) {
+    for (const QString& name : {word, word.toUpper(), '#' + word.toUpper()}) {
+        for (const QHelpLink& link : m_collection.engine()->documentsForKeyword(name)) {
             if (explainsWord(link.url))
                 links.append(link.url);
         }
@@ -264,6 +265,7 @@ void ModHlp::explain(QWidget* widget)
         HlpWidget* beside = m_dialogPages.value(part);
         if (beside != nullptr && modGuiHook != nullptr) {
             modGuiHook->setCurrentWidget(beside);
+            modGuiHook->setWidgetVisible(ModGuiHookIf::eLocationDockRight, true);
             return;
         }
         const QString ref = part->property(HelpRef::property).toString();
@@ -288,6 +290,8 @@ void ModHlp::whatsThis(QWidget* widget)
 
 bool ModHlp::eventFilter(QObject* watched, QEvent* event)
 {
+    if (event->type() == QEvent::Paint && !m_network->isReady())
+        QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
     if (event->type() != QEvent::WhatsThisClicked)
         return QObject::eventFilter(watched, event);
     openFile(QUrl(static_cast<QWhatsThisClickedEvent*>(event)->href()));

@@ -7,6 +7,7 @@
 #include "HlpWidget.h"
 #include "ModHlp.h"
 
+#include <QPainter>
 #include <QWebElement>
 #include <QWebFrame>
 #include <QWebPage>
@@ -24,6 +25,7 @@ class HelpLook : public MainWindowFixture
 protected:
     HelpLook()
     {
+        writeSetting("ModHlp/showGettingStarted", "0");
         makeWindow();
         widget = std::make_unique<nsModHlp::HlpWidget>(module<nsModHlp::ModHlp>()->network());
         widget->resize(pageSize);
@@ -50,6 +52,26 @@ protected:
     int overflow() const
     {
         return view()->page()->mainFrame()->contentsSize().width() - view()->page()->viewportSize().width();
+    }
+
+    /// The points of a picture that are dark, of a thousand.
+    static int darkness(const QImage& picture)
+    {
+        int count = 0;
+        for (int x = 0; x < picture.width(); ++x) {
+            for (int y = 0; y < picture.height(); ++y)
+                count += qGray(picture.pixel(x, y)) < 160 ? 1 : 0;
+        }
+        return int(qint64(count) * 1000 / (picture.width() * picture.height()));
+    }
+    /// What an element shows.
+    static QImage shownBy(QWebElement element)
+    {
+        QImage shown(element.geometry().size(), QImage::Format_RGB32);
+        shown.fill(Qt::white);
+        QPainter painter(&shown);
+        element.render(&painter);
+        return shown;
     }
 
     std::unique_ptr<nsModHlp::HlpWidget> widget;
@@ -88,6 +110,10 @@ TEST_F(HelpLook, EveryPictureIsShownAtItsSize)
             const int room = root().findFirst("main").geometry().width();
             EXPECT_NEAR(shown.width(), qMin(full, room), 3);
             EXPECT_NEAR(shown.height(), shown.width() * file.height() / file.width(), 3);
+            // In place of a picture that did not come there is a frame with a text.
+            const QImage seen = shownBy(pictures.at(i));
+            const QImage expected = file.scaled(seen.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+            EXPECT_GT(2 * darkness(seen), darkness(expected)) << page.pictures.at(i).toStdString();
             ++count;
         }
     }

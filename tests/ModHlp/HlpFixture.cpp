@@ -3,6 +3,7 @@
 #include "QtPrinters.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -49,12 +50,12 @@ const QByteArray project =
 <toc><section title="Start page" ref="start.html"/><section title="About page" ref="about.html"/></toc>
 <keywords>
 <keyword name="errSyntax" id="errSyntax" ref="asmfemessages.html#errSyntax"/>
-<keyword name="LOAD" id="LOAD" ref="instrxpblze3.html#LOAD"/>
-<keyword name="LOAD" id="LOAD" ref="instrxpblze6.html#LOAD"/>
+<keyword name="LOAD" id="LOAD3" ref="instrxpblze3.html#LOAD"/>
+<keyword name="LOAD" id="LOAD6" ref="instrxpblze6.html#LOAD"/>
 <keyword name="#EQU" id="#EQU" ref="langdirectives.html#EQU"/>
 <keyword name="memory" id="memory" ref="about.html"/>
-<keyword name="Several" id="Several" ref="start.html"/>
-<keyword name="Several" id="Several" ref="about.html"/>
+<keyword name="Several" id="Several1" ref="start.html"/>
+<keyword name="Several" id="Several2" ref="about.html"/>
 </keywords><files>)";
 
 QMap<QString, QByteArray> files()
@@ -158,6 +159,9 @@ void HlpFixture::start(const QString& program)
     hlp->modInit();
     hlp->modInitIntermod();
     hlp->modRun();
+    // The collection is opened beside the event loop.
+    EXPECT_TRUE(QTest::qWaitFor([this] { return hlp->network()->isReady(); }, 20000));
+    QApplication::processEvents();
 }
 
 void HlpFixture::stop()

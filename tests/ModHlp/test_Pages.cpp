@@ -72,7 +72,7 @@ TEST_F(Pages, theTableEndsAtTheFirstEmptyLine)
 TEST_F(Pages, theURLOfAPageHasPathAndFragment)
 {
     start();
-    const HlpNetworkAccessManager* network = hlp->network();
+    HlpNetworkAccessManager* network = hlp->network();
     EXPECT_EQ(network->resolved(QUrl("pageid://about")).toString(), "qthelp://nv/Nalvo/about.html");
     EXPECT_EQ(network->resolved(QUrl("pageid://about#a")).toString(), "qthelp://nv/Nalvo/about.html#a");
     EXPECT_EQ(network->resolved(QUrl("pageid://folder/inner.html#a")).path(), "/Nalvo/sub/inner.html");
@@ -172,6 +172,7 @@ TEST_F(Pages, gettingStartedIsShownAtTheStartIfItIsSet)
 {
     hlp->showGettingStarted = true;
     start();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !pages().isEmpty(); }, 20000));
     EXPECT_EQ(pages().size(), 1);
     EXPECT_TRUE(shows("Start page"));
 }

@@ -30,6 +30,7 @@ void writeContents(QXmlStreamWriter* xml, const QVector<ContentsEntry>& contents
     }
 }
 
+/// @param id of its own: of several keywords with one id, the collection would keep the first alone
 void writeKeyword(QXmlStreamWriter* xml, const QString& name, const QString& id, const QString& ref)
 {
     xml->writeEmptyElement("keyword");
@@ -43,10 +44,10 @@ void writeKeywords(QXmlStreamWriter* xml, const QVector<HelpPage>& pages)
     for (const HelpPage& page : pages) {
         writeKeyword(xml, page.title, page.id, page.file());
         for (const QString& keyword : page.keywords)
-            writeKeyword(xml, keyword, keyword, page.file());
+            writeKeyword(xml, keyword, page.id + '/' + keyword, page.file());
         for (const HelpAnchor& anchor : page.anchors) {
             if (anchor.isWord)
-                writeKeyword(xml, anchor.title, anchor.title, page.file() + '#' + anchor.name);
+                writeKeyword(xml, anchor.title, page.id + '#' + anchor.name, page.file() + '#' + anchor.name);
         }
     }
 }

@@ -126,6 +126,12 @@ void PictureWindow::setBottomHeight(int height)
     settle();
 }
 
+void PictureWindow::setRightWidth(int width)
+{
+    m_window->resizeDocks({m_window->findChild<QDockWidget*>(QStringLiteral("dockRight"))}, {width}, Qt::Horizontal);
+    settle();
+}
+
 void PictureWindow::settle()
 {
     // A layout that changes a size posts the events of the next one.

@@ -49,8 +49,9 @@ public:
     /// Of the whole window.
     static const QSize fullSize;
     void resize(const QSize& size);
-    /// Gives the dock at the bottom this height.
+    /// Gives the dock at the bottom this height, the one at the right this width.
     void setBottomHeight(int height);
+    void setRightWidth(int width);
     /// Lets layouts come to rest.
     static void settle();
     /// Lets animations end, too: branches of a tree that unfold, buttons that fade in.

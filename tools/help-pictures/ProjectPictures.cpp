@@ -22,6 +22,7 @@ const ModGuiHookIf::eLocation_t docks[] = {ModGuiHookIf::eLocationDockLeft, ModG
 /// Of the window when it shows nothing but a page.
 const QSize pageSize(880, 640);
 const int messagesHeight = 260;
+const int mapsWidth = 340;
 
 void showDocks(PictureWindow& stage, bool visible)
 {
@@ -130,6 +131,7 @@ void takeDeviceMaps(PictureWindow& stage)
     auto* maps = stage.window()->findChild<QWidget*>(QStringLiteral("ioDevViewerList"));
     stage.module<ModGuiHookIf>()->setCurrentWidget(maps);
     stage.module<ModGuiHookIf>()->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, false);
+    stage.setRightWidth(mapsWidth);
     stage.take(QStringLiteral("deviceMaps"), maps);
     stage.module<ModGuiHookIf>()->setWidgetVisible(ModGuiHookIf::eLocationDockBottom, true);
 }

@@ -70,20 +70,6 @@ ProcSimWaveViewer::ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, doub
         rows->setValue(rows->value() - event->angleDelta().y() * rows->singleStep() * 3 / 120);
     });
     setBase(m_base);
-    addWhatsThis();
-    setupOrder();
-    updateButtons();
-    showMoment(-1);
-}
-
-ProcSimWaveViewer::~ProcSimWaveViewer()
-{
-    // The rows are deleted before the data that they show.
-    m_tree->clear();
-}
-
-void ProcSimWaveViewer::addWhatsThis()
-{
     HelpRef::setWhatsThis(this,
                           tr("The values that pass through ports against simulated time. A port is recorded from the "
                              "moment at which you add it."),
@@ -103,6 +89,15 @@ void ProcSimWaveViewer::addWhatsThis()
                           tr("A value is drawn from its access to the next one. A click sets the marker; Ctrl and the "
                              "wheel show a longer or a shorter time."),
                           QStringLiteral("pageId://simulatorWaves#waves"));
+    setupOrder();
+    updateButtons();
+    showMoment(-1);
+}
+
+ProcSimWaveViewer::~ProcSimWaveViewer()
+{
+    // The rows are deleted before the data that they show.
+    m_tree->clear();
 }
 
 QSize ProcSimWaveViewer::sizeHint() const

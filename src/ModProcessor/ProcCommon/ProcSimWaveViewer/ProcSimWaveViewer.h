@@ -97,7 +97,6 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
-    void addWhatsThis();
     QWidget* makeTools();
     static QWidget* makeToolGroup(QWidget* parent);
     void addPortTools();

@@ -4,9 +4,7 @@
 
 class QPlainTextEdit;
 
-namespace nsModEditor {
-
-/// The coloured lines of a document: the one of the cursor, and one that is flagged or none.
+/// The coloured lines of a text: the one of the cursor, and one that is flagged or none.
 class LineHighlights
 {
 public:
@@ -14,6 +12,8 @@ public:
 
     void setCursorColor(const QColor& color);
     void setFlagColor(const QColor& color);
+    /// Whether the line of the cursor is coloured; it is at first.
+    void setCursorShown(bool shown);
     /// The cursor has moved.
     void followCursor();
     /// Flags the line, counted from 0; a line that there is not takes the flag away.
@@ -30,6 +30,5 @@ private:
     QTextEdit::ExtraSelection m_cursorLine;
     QTextEdit::ExtraSelection m_flag;
     bool m_isFlagged = false;
+    bool m_isCursorShown = true;
 };
-
-} // namespace nsModEditor

@@ -3,8 +3,6 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
-namespace nsModEditor {
-
 LineHighlights::LineHighlights(QPlainTextEdit* edit)
     : m_edit(edit)
 {
@@ -23,6 +21,12 @@ void LineHighlights::setCursorColor(const QColor& color)
 void LineHighlights::setFlagColor(const QColor& color)
 {
     m_flag.format.setBackground(color);
+    show();
+}
+
+void LineHighlights::setCursorShown(bool shown)
+{
+    m_isCursorShown = shown;
     show();
 }
 
@@ -50,10 +54,10 @@ void LineHighlights::clearFlag()
 
 void LineHighlights::show()
 {
-    QList<QTextEdit::ExtraSelection> selections{m_cursorLine};
+    QList<QTextEdit::ExtraSelection> selections;
+    if (m_isCursorShown)
+        selections.append(m_cursorLine);
     if (m_isFlagged)
         selections.append(m_flag);
     m_edit->setExtraSelections(selections);
 }
-
-} // namespace nsModEditor
