@@ -158,8 +158,9 @@ void ImportRun::showSummary(const ForeignImport& import)
         return;
     }
     const QString proof = m_proof.isEmpty() ? tr("not proved, as lines are left") : m_proof;
-    m_report.say(tr("%1 words from %2 files (%3), %4.")
-                     .arg(QString::number(import.wordCount()), QString::number(import.filesRead().size()),
+    const int files = import.filesRead().size();
+    m_report.say(tr("%1 words from %2 (%3), %4.")
+                     .arg(QString::number(import.wordCount()), files == 1 ? tr("1 file") : tr("%1 files").arg(files),
                           QLatin1String(import.dialect().title), proof));
     for (const ImportMessage& message : messages.all()) {
         const bool isTold = message.grade() == ModMsgHookIf::eMsgInfo && !m_options.style.verbose;
@@ -167,7 +168,10 @@ void ImportRun::showSummary(const ForeignImport& import)
             m_report.say(QStringLiteral("  ") + message.text);
     }
     if (broken > 0)
-        m_report.say(tr("%1 lines are left to do: the assembler stops at each of them (NO_COUNTERPART).").arg(broken));
+        m_report.say(
+            broken == 1
+                ? tr("1 line is left to do: the assembler stops there (NO_COUNTERPART).")
+                : tr("%1 lines are left to do: the assembler stops at each of them (NO_COUNTERPART).").arg(broken));
     m_report.say(m_isWritten ? tr("Project: %1").arg(shownPath(project)) : tr("Nothing was written."));
 }
 

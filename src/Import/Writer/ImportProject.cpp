@@ -65,6 +65,11 @@ QByteArray ImportProject::text() const
     vhdl.entityName = vhdlEntity;
     vhdl.templateFile = vhdlTemplate;
     vhdl.outputFile = vhdlFile;
+    for (nsModAsmFe::TargetConfig& target : config.targets) {
+        // An event of an output that is off would cause a warning in each run.
+        target.writeFileEventBut1 = target.en;
+        target.writeFileEventBut2 = target.en;
+    }
     config.wrAsmFeConfig(&settingsOfProject);
     return nsModPrj::PrjFile::format(&tree, nullptr);
 }
