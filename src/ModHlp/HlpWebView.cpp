@@ -3,7 +3,10 @@
 #include "HlpNetworkAccessManager.h"
 
 #include <QDesktopServices>
+#include <QEvent>
 #include <QNetworkRequest>
+#include <QWebElement>
+#include <QWebFrame>
 
 namespace nsModHlp {
 
@@ -36,6 +39,35 @@ bool HlpWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest
     if (type == NavigationTypeLinkClicked)
         emit linkFollowed(url);
     return true;
+}
+
+HlpWebView::HlpWebView(QWidget* parent)
+    : QWebView(parent)
+{
+}
+
+void HlpWebView::usePage(HlpWebPage* page)
+{
+    setPage(page);
+    connect(page->mainFrame(), &QWebFrame::initialLayoutCompleted, this, &HlpWebView::followPalette);
+    connect(this, &QWebView::loadFinished, this, &HlpWebView::followPalette);
+}
+
+void HlpWebView::changeEvent(QEvent* event)
+{
+    QWebView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        followPalette();
+}
+
+void HlpWebView::followPalette()
+{
+    const int middle = 128;
+    QWebElement root = page()->mainFrame()->documentElement();
+    if (palette().color(QPalette::Base).lightness() < middle)
+        root.addClass(QStringLiteral("dark"));
+    else
+        root.removeClass(QStringLiteral("dark"));
 }
 
 QWebView* HlpWebView::createWindow(QWebPage::WebWindowType)

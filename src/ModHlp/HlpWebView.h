@@ -29,19 +29,26 @@ private:
     HlpNetworkAccessManager* m_manager;
 };
 
-/// A view that asks for another one when a link wants it.
+/// A view that asks for another one when a link wants it. Its pages are dark where the palette is.
 class HlpWebView : public QWebView
 {
     Q_OBJECT
 
 public:
-    using QWebView::QWebView;
+    explicit HlpWebView(QWidget* parent = nullptr);
+
+    /// Shows pages that are made by a page object. @param page owned by the caller
+    void usePage(HlpWebPage* page);
 
 signals:
     void newPage(QWebView** view);
 
 protected:
     QWebView* createWindow(QWebPage::WebWindowType type) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void followPalette();
 };
 
 } // namespace nsModHlp

@@ -50,7 +50,7 @@ void HlpWidget::makeView()
 {
     auto* view = new HlpWebView(this);
     auto* page = new HlpWebPage(m_manager, view);
-    view->setPage(page);
+    view->usePage(page);
     view->setContextMenuPolicy(Qt::NoContextMenu);
     m_view = view;
     layout()->addWidget(view);

@@ -30,6 +30,27 @@ TEST_F(Pages, aPageIsOpenedByItsIdInAnyCase)
     EXPECT_TRUE(script.scripts.isEmpty());
 }
 
+TEST_F(Pages, aPageIsDarkWhereThePaletteIs)
+{
+    start();
+    hlp->openFile(QUrl("pageId://about"));
+    ASSERT_TRUE(shows("About page"));
+    const auto isDark = [this] {
+        const QWebElement root = page()->findChild<QWebView*>()->page()->mainFrame()->documentElement();
+        return root.hasClass("dark");
+    };
+    EXPECT_FALSE(isDark());
+    QPalette dark = page()->palette();
+    dark.setColor(QPalette::Base, Qt::black);
+    page()->setPalette(dark);
+    EXPECT_TRUE(isDark());
+    page()->setSource(QUrl("pageId://gettingStarted"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return page()->title() != "About page"; }));
+    EXPECT_TRUE(QTest::qWaitFor(isDark));
+    page()->setPalette(QPalette());
+    EXPECT_FALSE(isDark());
+}
+
 TEST_F(Pages, theNameOfTheTabIsThereBeforeThePageIs)
 {
     gui.showsPages = false;
