@@ -195,8 +195,12 @@ void ModHlp::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
 
 void ModHlp::configPageClose(bool accepted)
 {
-    if (m_configPage != nullptr && accepted)
+    if (m_configPage != nullptr && accepted) {
         m_configPage->config(this);
+        // The dialog saves the settings tree, so the new values are written to it first.
+        if (modCfgAppHook != nullptr)
+            wrHlpConfig(modCfgAppHook);
+    }
     delete m_configPage;
 }
 

@@ -151,8 +151,9 @@ TEST_F(AllKeys, theTableSaysWhatItMeans)
     for (const sKey_t& key : keys) {
         EXPECT_TRUE(isOfType(key, key.dflt)) << key.key << ' ' << key.dflt;
         EXPECT_TRUE(isOfType(key, key.other)) << key.key << ' ' << key.other;
-        if (QByteArray(key.key) != alwaysEmpty)
+        if (QByteArray(key.key) != alwaysEmpty) {
             EXPECT_STRNE(key.dflt, key.other) << key.key << " would not show whether it is read";
+        }
     }
     EXPECT_EQ(std::size_t(defaults(settingsKeys()).size()), settingsKeys().size()) << "no key twice";
     EXPECT_EQ(std::size_t(defaults(projectKeys()).size()), projectKeys().size());
