@@ -7,6 +7,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <utility>
 
 class QHelpEngineCore;
 class QWebFrame;
@@ -32,6 +33,8 @@ public:
 
     /// The engine with an opened collection, of which the page table is read; null: every page is empty. Not owned.
     void setEngine(QHelpEngineCore* engine);
+    /// As in the constructor, once more.
+    void setOpener(std::function<void()> opener) { m_opener = std::move(opener); }
     /// Is there a page with this id, in any case?
     bool hasPage(const QString& pageId) { return pages().contains(pageId.toLower()); }
     /// The ids of all pages, in lower case, in no order.

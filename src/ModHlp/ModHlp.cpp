@@ -29,6 +29,8 @@ ModHlp::ModHlp(QObject* parent)
     , m_closedPages(new QWidget)
 {
     connect(m_network, &HlpNetworkAccessManager::callScript, this, &ModHlp::callScript);
+    // The engine's threads must not run into the end of the process, which does not delete its windows.
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &ModHlp::closeCollection);
 }
 
 ModHlp::~ModHlp()
@@ -89,6 +91,16 @@ void ModHlp::openCollection()
 {
     if (!setupData() && modMsgHook != nullptr)
         modMsgHook->showErrorMessage(tr("Cannot setup help data!"));
+}
+
+void ModHlp::closeCollection()
+{
+    if (m_collection.engine() == nullptr)
+        return;
+    m_network->setEngine(nullptr);
+    m_collection.close();
+    // Another event loop may follow.
+    m_network->setOpener([this] { openCollection(); });
 }
 
 QHelpEngine* ModHlp::openedEngine()

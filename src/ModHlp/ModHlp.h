@@ -173,6 +173,7 @@ private:
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
     void openCollection();
+    void closeCollection();
     QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
     void find(bool backwards);
