@@ -39,8 +39,8 @@ public:
         fieldCount = 13
     };
 
-    static const int maxLineLength = 10000; ///< characters, of a line before and after its conversion
-    static const int dfltTimeLimit = 2000;  ///< milliseconds
+    static constexpr int maxLineLength = 10000; ///< characters, of a line before and after its conversion
+    static constexpr int dfltTimeLimit = 2000;  ///< milliseconds
 
     explicit ImportFilterT001(const QString& path, QObject* parent = nullptr);
 
@@ -65,7 +65,7 @@ public:
 
 private:
     /// The four fields that line tag rules test and change.
-    static const int tagCount = 4;
+    static constexpr int tagCount = 4;
     static const std::array<eField_t, tagCount> tagFields;
 
     /// What becomes of a field.

@@ -14,8 +14,8 @@ class ImportEditorWidget : public QPlainTextEdit
     Q_OBJECT
 
 public:
-    static const int minFontSize = 4; ///< points, as in a document
-    static const int maxFontSize = 72;
+    static constexpr int minFontSize = 4; ///< points, as in a document
+    static constexpr int maxFontSize = 72;
 
     explicit ImportEditorWidget(QWidget* parent = nullptr);
 

@@ -26,9 +26,9 @@ class ImportWidget : public QWidget, public ModMsgPluginIf
     Q_OBJECT
 
 public:
-    static const int maxLineLength = 10000; ///< characters of a source's line
-    static const int minTabIndent = 1;      ///< characters
-    static const int maxTabIndent = 16;
+    static constexpr int maxLineLength = 10000; ///< characters of a source's line
+    static constexpr int minTabIndent = 1;      ///< characters
+    static constexpr int maxTabIndent = 16;
 
     explicit ImportWidget(QWidget* parent = nullptr);
 

@@ -96,7 +96,7 @@ struct ImportMessage
 class ImportMessages
 {
 public:
-    static const int maxMessages = 2000;
+    static constexpr int maxMessages = 2000;
 
     /// @param line counted from 1; 0 if there is none
     void add(eImportMsg_t type, const QStringList& arguments, const QString& file = QString(), int line = 0);

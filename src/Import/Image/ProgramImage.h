@@ -16,7 +16,7 @@ class ProgramImage
 {
 public:
     /// Most addresses of an image, so that a typing error in a file can not use up the memory of the machine.
-    static const int maxSize = 1 << 20;
+    static constexpr int maxSize = 1 << 20;
 
     /// Where a word comes from.
     struct Place
