@@ -46,6 +46,13 @@ HlpWebView::HlpWebView(QWidget* parent)
 {
 }
 
+HlpWebView::~HlpWebView()
+{
+    // What is loading ends with the base class, and reports it.
+    page()->mainFrame()->disconnect(this);
+    disconnect(this, nullptr, this, nullptr);
+}
+
 void HlpWebView::usePage(HlpWebPage* page)
 {
     setPage(page);

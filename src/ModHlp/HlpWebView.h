@@ -36,6 +36,7 @@ class HlpWebView : public QWebView
 
 public:
     explicit HlpWebView(QWidget* parent = nullptr);
+    ~HlpWebView() override;
 
     /// Shows pages that are made by a page object. @param page owned by the caller
     void usePage(HlpWebPage* page);
