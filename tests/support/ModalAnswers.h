@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPointer>
 #include <QTimer>
 
 #include <functional>
@@ -28,14 +29,15 @@ public:
 private:
     void look()
     {
-        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-        if (dialog == nullptr || !dialog->isVisible() || m_busy)
+        // The answer may delete the dialog with all that it stands on.
+        const QPointer<QDialog> dialog(qobject_cast<QDialog*>(QApplication::activeModalWidget()));
+        if (!dialog || !dialog->isVisible() || m_busy)
             return;
         m_busy = true;
         const auto index = static_cast<std::size_t>(m_seen++);
         if (index < m_answers.size())
             m_answers[index](dialog);
-        if (dialog->isVisible())
+        if (dialog && dialog->isVisible())
             dialog->reject();
         m_busy = false;
     }
