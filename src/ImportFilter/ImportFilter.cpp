@@ -6,7 +6,6 @@
 #include "ShippedFolder.h"
 
 #include <QDebug>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QRegExp>
 
@@ -30,13 +29,7 @@ QString ImportFilter::filterDir(const QString& programDir)
 
 QStringList ImportFilter::scanDirectory(const QString& dir)
 {
-    QStringList files;
-    // Links to folders are not followed, so a circle of them does no harm.
-    QDirIterator it(dir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        files.append(it.next());
-    files.sort();
-    return files;
+    return ShippedFolder::filesBelow(dir);
 }
 
 void ImportFilter::initFilterList(const QString& dir)

@@ -1,6 +1,7 @@
 #include "HlpCollection.h"
 
 #include "HlpCollectionDescription.h"
+#include "ShippedFolder.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -46,9 +47,7 @@ HlpCollection::~HlpCollection() = default;
 
 QString HlpCollection::find(const QString& programDir)
 {
-    // Beside the folder of an installed program, one further up, and in the source tree seen from a build tree.
-    for (const char* place : {"/../hlp/", "/../../hlp/", "/../../Common/hlp/"}) {
-        const QString file = QDir::cleanPath(programDir + QLatin1String(place) + QLatin1String("hlpCollection.qhc"));
+    for (const QString& file : ShippedFolder::candidates(programDir, QStringLiteral("hlp/hlpCollection.qhc"))) {
         if (QFileInfo(file).isFile())
             return file;
     }

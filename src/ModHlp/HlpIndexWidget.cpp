@@ -49,19 +49,19 @@ void HlpIndexWidget::showEvent(QShowEvent* event)
 
 void HlpIndexWidget::makeTabs()
 {
-    m_engine = m_openEngine();
-    if (m_engine == nullptr)
+    QHelpEngine* engine = m_openEngine();
+    if (engine == nullptr)
         return;
-    QHelpContentWidget* content = m_engine->contentWidget();
+    QHelpContentWidget* content = engine->contentWidget();
     connect(content, &QHelpContentWidget::linkActivated, this, &HlpIndexWidget::linkActivated);
-    connect(m_engine->contentModel(), &QHelpContentModel::contentsCreated, content,
+    connect(engine->contentModel(), &QHelpContentModel::contentsCreated, content,
             [content] { content->expandToDepth(0); });
     m_tabs->addTab(content, tr("Content"));
-    m_tabs->addTab(makeIndexTab(), tr("Index"));
-    m_tabs->addTab(makeSearchTab(), tr("Search"));
+    m_tabs->addTab(makeIndexTab(engine->indexWidget()), tr("Index"));
+    m_tabs->addTab(makeSearchTab(engine->searchEngine()), tr("Search"));
 }
 
-QWidget* HlpIndexWidget::makeIndexTab()
+QWidget* HlpIndexWidget::makeIndexTab(QHelpIndexWidget* index)
 {
     auto* tab = new QWidget;
     auto* layout = new QVBoxLayout(tab);
@@ -76,7 +76,6 @@ QWidget* HlpIndexWidget::makeIndexTab()
     row->addWidget(label);
     row->addWidget(m_filter, 1);
     layout->addLayout(row);
-    QHelpIndexWidget* index = m_engine->indexWidget();
     layout->addWidget(index, 1);
     connect(m_filter, &QLineEdit::textChanged, index, [index](const QString& text) { index->filterIndices(text); });
     connect(m_filter, &QLineEdit::returnPressed, index, &QHelpIndexWidget::activateCurrentItem);
@@ -85,13 +84,12 @@ QWidget* HlpIndexWidget::makeIndexTab()
     return tab;
 }
 
-QWidget* HlpIndexWidget::makeSearchTab()
+QWidget* HlpIndexWidget::makeSearchTab(QHelpSearchEngine* search)
 {
     auto* tab = new QWidget;
     auto* layout = new QVBoxLayout(tab);
     layout->setContentsMargins(gap, gap, gap, gap);
     layout->setSpacing(gap);
-    QHelpSearchEngine* search = m_engine->searchEngine();
     layout->addWidget(search->queryWidget());
     layout->addWidget(search->resultWidget(), 1);
     connect(search->queryWidget(), &QHelpSearchQueryWidget::search, search,

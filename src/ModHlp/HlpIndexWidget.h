@@ -7,6 +7,8 @@
 #include <functional>
 
 class QHelpEngine;
+class QHelpIndexWidget;
+class QHelpSearchEngine;
 class QLineEdit;
 class QTabWidget;
 
@@ -31,12 +33,11 @@ protected:
 
 private:
     void makeTabs();
-    QWidget* makeIndexTab();
-    QWidget* makeSearchTab();
+    QWidget* makeIndexTab(QHelpIndexWidget* index);
+    QWidget* makeSearchTab(QHelpSearchEngine* search);
     void choose(const QMap<QString, QUrl>& links, const QString& keyword);
 
     std::function<QHelpEngine*()> m_openEngine;
-    QHelpEngine* m_engine = nullptr;
     QTabWidget* m_tabs;
     QLineEdit* m_filter = nullptr;
 };

@@ -7,9 +7,9 @@
 #include "ModMsgHookIf.h"
 #include "ModNetworkHookIf.h"
 #include "ModScriptHookIf.h"
+#include "ShippedFolder.h"
 
 #include <QApplication>
-#include <QFileInfo>
 #include <QHelpEngine>
 #include <QNetworkProxy>
 #include <QTimer>
@@ -78,11 +78,7 @@ void ModHlp::modInit()
 
 bool ModHlp::setupData()
 {
-    // A link to the program leads to the folder that the help was shipped with.
-    const QString file = m_programFile.isEmpty() ? QCoreApplication::applicationFilePath() : m_programFile;
-    const QString program = QFileInfo(file).canonicalFilePath();
-    const QString dir = QFileInfo(program.isEmpty() ? file : program).path();
-    const bool success = m_collection.open(HlpCollection::find(dir));
+    const bool success = m_collection.open(HlpCollection::find(ShippedFolder::programDir(m_programFile)));
     m_network->setEngine(m_collection.engine());
     return success;
 }

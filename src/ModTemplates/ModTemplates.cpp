@@ -5,7 +5,6 @@
 #include "ModMsgHookIf.h"
 #include "ShippedFolder.h"
 
-#include <QDirIterator>
 #include <QFile>
 #include <QRegExp>
 
@@ -23,12 +22,7 @@ QString ModTemplates::templateDir(const QString& programDir)
 
 QStringList ModTemplates::scanDirectory(const QString& dir)
 {
-    QStringList files;
-    QDirIterator it(dir, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        files.append(it.next());
-    files.sort();
-    return files;
+    return ShippedFolder::filesBelow(dir);
 }
 
 void ModTemplates::initTemplates(const QString& dir)

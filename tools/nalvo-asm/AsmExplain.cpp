@@ -1,7 +1,8 @@
 #include "AsmExplain.h"
 
+#include "ShippedFolder.h"
+
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -10,10 +11,6 @@
 namespace nsNalvoAsm {
 
 namespace {
-
-const char* const fileName = "messages.txt";
-// The window looks for the collection in the same places.
-const char* const places[] = {"../hlp", "../../hlp", "../../Common/hlp"};
 
 const int maxSimilar = 5;
 const int maxNameLength = 100; ///< of a name that is compared with the keys
@@ -57,10 +54,10 @@ QString compared(const QString& name)
 
 bool AsmExplain::read(const QString& programDir)
 {
-    QStringList tried;
-    for (const char* place : places) {
-        QFile file(QDir::cleanPath(programDir + '/' + QLatin1String(place) + '/' + QLatin1String(fileName)));
-        tried.append(file.fileName());
+    // It lies beside the collection of the window.
+    const QStringList places = ShippedFolder::candidates(programDir, QStringLiteral("hlp/messages.txt"));
+    for (const QString& place : places) {
+        QFile file(place);
         if (!file.exists())
             continue;
         if (!file.open(QIODevice::ReadOnly)) {
@@ -72,7 +69,7 @@ bool AsmExplain::read(const QString& programDir)
             m_error = tr("No entries of messages in %1").arg(file.fileName());
         return !m_entries.isEmpty();
     }
-    m_error = tr("The help of the messages is not installed. Looked for: %1").arg(tried.join(QStringLiteral(", ")));
+    m_error = tr("The help of the messages is not installed. Looked for: %1").arg(places.join(QStringLiteral(", ")));
     return false;
 }
 

@@ -9,6 +9,7 @@
 #include "BatchOutput.h"
 #include "BatchProcess.h"
 #include "BatchProject.h"
+#include "ShippedFolder.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -127,7 +128,7 @@ int run(const AsmOptions& options)
 int explain(const QString& key)
 {
     AsmExplain help;
-    if (!help.read(QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath())) {
+    if (!help.read(ShippedFolder::programDir())) {
         printError(help.errorText());
         return exitWrongUsage;
     }

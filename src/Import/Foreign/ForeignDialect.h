@@ -116,6 +116,9 @@ struct ForeignDialect
     static const ForeignDialect* ofKey(const QString& key);
 };
 
+/// No dialect: the words alone that KCPSM3 and pBlazIDE have in common, as the base of both.
+const ForeignDialect& picoBlazeWords();
+
 // The dialects, a file each.
 const ForeignDialect& kcpsm3Dialect();
 const ForeignDialect& kcpsm6Dialect();
