@@ -1,8 +1,9 @@
 #include "FilterText.h"
 
+#include "Utf8.h"
+
 #include <QFile>
 #include <QFileInfo>
-#include <QTextCodec>
 
 namespace nsModImport {
 
@@ -62,9 +63,10 @@ QString importText(const QByteArray& bytes)
 {
     const int end = bytes.indexOf('\0');
     const QByteArray used = end < 0 ? bytes : bytes.left(end);
-    QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForName("UTF-8")->toUnicode(used.constData(), used.size(), &state);
-    const bool isUtf8 = state.invalidChars == 0 && state.remainingChars == 0 && isKeptByTextWidgets(text);
+    QString text;
+    const bool isUtf8 = Utf8::decode(used, &text) && isKeptByTextWidgets(text);
+    if (text.startsWith(QChar(QChar::ByteOrderMark)))
+        text.remove(0, 1);
     return isUtf8 ? text : QString::fromLatin1(used);
 }
 

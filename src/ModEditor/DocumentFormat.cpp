@@ -1,6 +1,7 @@
 #include "DocumentFormat.h"
 
 #include "LineDiff.h"
+#include "Utf8.h"
 
 #include <QCoreApplication>
 #include <QTextCodec>
@@ -16,15 +17,6 @@ const QByteArray utf8Mark("\xEF\xBB\xBF");
 const QByteArray utf16Marks[] = {QByteArray("\xFF\xFE"), QByteArray("\xFE\xFF")};
 const std::array<const char*, 4> lineEndNames = {"LF", "CRLF", "CR", "mixed"};
 const std::array<const char*, 3> lineEndTexts = {"\n", "\r\n", "\r"};
-
-/// @return false when the bytes are no UTF-8
-bool decodeUtf8(const QByteArray& bytes, QString* text)
-{
-    // A byte order mark inside of the text is an ordinary character.
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    *text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), bytes.size(), &state);
-    return state.invalidChars == 0 && state.remainingChars == 0;
-}
 
 QString lineEndText(DocumentFormat::eLineEnd_t lineEnd)
 {
@@ -61,7 +53,7 @@ DocumentFormat DocumentFormat::decode(const QByteArray& bytes, QString* text)
         body.truncate(nul);
     }
     format.m_mark = body.startsWith(utf8Mark);
-    if (!decodeUtf8(format.m_mark ? body.mid(utf8Mark.size()) : body, text)) {
+    if (!Utf8::decode(format.m_mark ? body.mid(utf8Mark.size()) : body, text)) {
         format.m_encoding = eEncodingLatin1;
         format.m_mark = false;
         *text = QString::fromLatin1(body);

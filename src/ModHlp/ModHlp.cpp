@@ -122,8 +122,13 @@ void ModHlp::modRun()
     QTimer::singleShot(0, this, [this] {
         // The program may have ended.
         if (!m_lastPages.has_value())
-            openFile(pageStart);
+            openStart();
     });
+}
+
+void ModHlp::openStart()
+{
+    openFile(pageStart);
 }
 
 void ModHlp::modExitIntermod()
@@ -240,7 +245,7 @@ void ModHlp::handleActions(HlpActionsHelp::eAction_t action)
 {
     switch (action) {
     case HlpActionsHelp::eActionOnlineHelp:
-        openFile(pageStart);
+        openStart();
         break;
     case HlpActionsHelp::eActionAbout:
         openFile(pageAbout);

@@ -174,6 +174,7 @@ private:
     void showIndexWidget();
     void openCollection();
     void closeCollection();
+    void openStart();
     QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
     void find(bool backwards);

@@ -173,7 +173,6 @@ void ModHlp::setFileName(QWidget* widget, QString title)
 namespace {
 
 const QUrl pageNames(QStringLiteral("pageid://langnames"));
-const QUrl pageStart(QStringLiteral("pageid://gettingstarted"));
 
 /// The pages of the instruction sets, by the names of the processors.
 const struct
@@ -274,7 +273,7 @@ void ModHlp::explain(QWidget* widget)
             return;
         }
     }
-    openFile(pageStart);
+    openStart();
 }
 
 void ModHlp::whatsThis(QWidget* widget)

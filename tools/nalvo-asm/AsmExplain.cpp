@@ -1,5 +1,6 @@
 #include "AsmExplain.h"
 
+#include "EditDistance.h"
 #include "ShippedFolder.h"
 
 #include <QCoreApplication>
@@ -19,24 +20,6 @@ const int minPartLength = 3;   ///< of a name that may be a part of a key
 QString tr(const char* text)
 {
     return QCoreApplication::translate("nalvo-asm", text);
-}
-
-/// How many characters must be added, removed or replaced to make one word of the other.
-int distance(const QString& a, const QString& b)
-{
-    QVector<int> row(b.size() + 1);
-    for (int j = 0; j <= b.size(); ++j)
-        row[j] = j;
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row.at(0);
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int replaced = diagonal + (a.at(i - 1) == b.at(j - 1) ? 0 : 1);
-            diagonal = row.at(j);
-            row[j] = std::min({replaced, row.at(j) + 1, row.at(j - 1) + 1});
-        }
-    }
-    return row.last();
 }
 
 /// A name as it is compared: the colon at its end and the brackets of the messages do not count.
@@ -128,7 +111,7 @@ QStringList AsmExplain::similarKeys(const QString& name) const
             continue;
         keys.append(entry.key);
         const QString key = compared(entry.key);
-        const int changes = distance(wanted, key);
+        const int changes = nsBatch::editDistance(wanted, key);
         const bool isPart = wanted.size() >= minPartLength && key.contains(wanted);
         if (isPart || changes <= std::max(2, wanted.size() / 3))
             found.insert({changes, entry.key});

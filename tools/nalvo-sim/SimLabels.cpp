@@ -2,6 +2,7 @@
 
 #include "AsmProgram.h"
 #include "BatchOutput.h"
+#include "EditDistance.h"
 #include "LabelTarget.h"
 #include "SimProject.h"
 #include "SymbolHash.h"
@@ -9,7 +10,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <numeric>
 #include <vector>
 
 namespace nsNalvoSim {
@@ -24,23 +24,6 @@ const int longestName = 64; ///< names beyond that are only compared as a whole
 QString tr(const char* text)
 {
     return QCoreApplication::translate("nalvo-sim", text);
-}
-
-/// How many characters have to be inserted, deleted or replaced to make one text of the other.
-int distance(const QString& a, const QString& b)
-{
-    std::vector<int> row(size_t(b.size()) + 1);
-    std::iota(row.begin(), row.end(), 0);
-    for (int i = 1; i <= a.size(); ++i) {
-        int diagonal = row[0];
-        row[0] = i;
-        for (int j = 1; j <= b.size(); ++j) {
-            const int replaced = diagonal + int(a.at(i - 1) != b.at(j - 1));
-            diagonal = row[size_t(j)];
-            row[size_t(j)] = std::min({replaced, diagonal + 1, row[size_t(j) - 1] + 1});
-        }
-    }
-    return row.back();
 }
 
 QString withoutNameSpace(const QString& name)
@@ -63,7 +46,7 @@ QStringList nearNames(const QStringList& names, const QString& wanted)
         int rank = otherLocal == local ? int(other != lower) : limit + 1;
         const bool isComparable = lower.size() <= longestName && other.size() <= longestName;
         if (rank > limit && isComparable)
-            rank = 1 + std::min(distance(lower, other), distance(local, otherLocal));
+            rank = 1 + std::min(nsBatch::editDistance(lower, other), nsBatch::editDistance(local, otherLocal));
         if (rank <= limit + 1 && (isComparable || rank <= 1))
             ranked.emplace_back(rank, name);
     }

@@ -2,10 +2,11 @@
 
 #include "ForeignScanner.h"
 
+#include "Utf8.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QTextCodec>
 
 namespace nsImport {
 
@@ -96,9 +97,8 @@ bool ForeignReader::decode(const QByteArray& bytes, const QString& path, Content
             return false;
         }
     }
-    QTextCodec::ConverterState state(QTextCodec::IgnoreHeader);
-    QString text = QTextCodec::codecForName("UTF-8")->toUnicode(bytes.constData(), size, &state);
-    content->isUtf8 = state.invalidChars == 0 && state.remainingChars == 0;
+    QString text;
+    content->isUtf8 = Utf8::decode(QByteArray::fromRawData(bytes.constData(), size), &text);
     if (!content->isUtf8)
         text = QString::fromLatin1(bytes.constData(), size);
     if (text.startsWith(QChar(QChar::ByteOrderMark)))

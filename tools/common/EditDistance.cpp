@@ -1,0 +1,21 @@
+#include "EditDistance.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+int nsBatch::editDistance(const QString& a, const QString& b)
+{
+    std::vector<int> row(size_t(b.size()) + 1);
+    std::iota(row.begin(), row.end(), 0);
+    for (int i = 1; i <= a.size(); ++i) {
+        int diagonal = row[0];
+        row[0] = i;
+        for (int j = 1; j <= b.size(); ++j) {
+            const int replaced = diagonal + int(a.at(i - 1) != b.at(j - 1));
+            diagonal = row[size_t(j)];
+            row[size_t(j)] = std::min({replaced, diagonal + 1, row[size_t(j) - 1] + 1});
+        }
+    }
+    return row.back();
+}
