@@ -18,6 +18,10 @@ struct ProcCoreConfig
     double clkFreq = 80000000; ///< Hz
     int regCount = 16;         ///< registers, where the hardware can be built with more or less
     int instrClkCnt = 2;       ///< clock cycles of an instruction
+    bool isExact = false;      ///< the simulation does what the core does, where the two differ
+    /// What ends an exact simulation although the core goes on.
+    enum eExactStop_t { eStopAtStack = 1, eStopAtScrpd = 2, eStopAtEmpty = 4 };
+    int exactStops = 0; ///< of these, added
 };
 
 } // namespace nsProc

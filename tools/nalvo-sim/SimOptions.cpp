@@ -41,6 +41,8 @@ const char* const description = "Assembles a Nalvo project in memory and runs it
                                 "    W pp vv      port written: port, value\n"
                                 "    S aa vv      scratchpad written: address, value\n"
                                 "    INT          interrupt entered\n"
+                                "    K pp vv      exact: constant written, with all eight address lines\n"
+                                "    RESET        exact: the core has reset itself\n"
                                 "\n"
                                 "Messages go to standard error, one a line:\n"
                                 "    path:line: error: text [key]\n"
@@ -75,6 +77,12 @@ void setup(QCommandLineParser* parser)
          tr("Raise an interrupt before the instructions N, 2N, 3N and so on, if interrupts are enabled then."),
          tr("N")},
         {"interrupt-at", tr("The same before the Nth instruction, counted from 1."), tr("N[,N...]")},
+        {"exact", tr("Simulate exactly what the core does, where that differs from the simulation of the window.")},
+        {"interrupt-at-clock",
+         tr("Exact: the interrupt input is up in the clocks C to C+LENGTH-1; clock 0 is the first of the first "
+            "instruction. LENGTH is 1 where left out. Can be given for several requests."),
+         tr("C[:LENGTH]")},
+        {"trace-clocks", tr("Exact: each I line of the trace has its first clock as a fourth, decimal field.")},
         {"trace", tr("Write the trace to FILE. - is standard output."), tr("FILE")},
         {"vcd",
          tr("Write the values at all ports as waves (VCD) to FILE. - is standard output. They are kept in memory until "
@@ -159,6 +167,23 @@ bool SimOptions::readInterrupts(const QCommandLineParser& parser)
     }
     std::sort(interruptAt.begin(), interruptAt.end());
     interruptAt.erase(std::unique(interruptAt.begin(), interruptAt.end()), interruptAt.end());
+    return readRequests(parser);
+}
+
+bool SimOptions::readRequests(const QCommandLineParser& parser)
+{
+    isExact = parser.isSet("exact");
+    tracesClocks = parser.isSet("trace-clocks");
+    for (const QString& text : parser.values("interrupt-at-clock")) {
+        const int colon = text.indexOf(':');
+        qint64 clock = 0;
+        qint64 length = 1;
+        if (!toNumber(text.left(colon), 0, unbounded, &clock) ||
+            (colon >= 0 && !toNumber(text.mid(colon + 1), 1, unbounded, &length)))
+            return wrongUsage(
+                tr("--interrupt-at-clock takes a clock from 0 on, and after : a length from 1 on: %1").arg(text));
+        interruptClocks.push_back({clock, length});
+    }
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <QtGlobal>
 
 #include <limits>
+#include <utility>
 #include <vector>
 
 class QCommandLineParser;
@@ -35,7 +36,11 @@ struct SimOptions : nsBatch::BatchOptions
     int hwbuild = 0;
     qint64 interruptEvery = 0;       ///< 0: never
     std::vector<qint64> interruptAt; ///< numbers of instructions from 1, ascending, each once
-    QString traceFile;               ///< empty: none; "-": standard output; the same for those below
+    bool isExact = false; ///< as the core does; else as the project says
+    /// Requests at the interrupt input of an exact simulation: clocks from and length.
+    std::vector<std::pair<qint64, qint64>> interruptClocks;
+    bool tracesClocks = false;
+    QString traceFile; ///< empty: none; "-": standard output; the same for those below
     QString vcdFile;
     QString dumpFile;
     bool quiet = false; ///< errors alone
@@ -43,6 +48,7 @@ struct SimOptions : nsBatch::BatchOptions
 private:
     bool readBounds(const QCommandLineParser& parser);
     bool readInterrupts(const QCommandLineParser& parser);
+    bool readRequests(const QCommandLineParser& parser);
     bool readLabels(const QCommandLineParser& parser);
     bool readInputs(const QCommandLineParser& parser);
     bool readPort(const QString& text);

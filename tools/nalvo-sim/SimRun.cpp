@@ -6,6 +6,7 @@
 #include "Opcode.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimIntLine.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
@@ -69,6 +70,8 @@ int SimRun::run()
             printError(tr("not assembled"));
         return exitNotAssembled;
     }
+    if (!m_wrongUsage.isEmpty())
+        return wrongUsage(m_wrongUsage) ? exitReached : exitWrongUsage;
     if (!findLabels() || !openReads() || !openOutputs(project))
         return exitWrongUsage;
     const bool started = startSim();
@@ -95,6 +98,9 @@ bool SimRun::assemble()
     }
     m_project = {&m_batch.assembler().program(), &m_batch.sources(), &m_batch.asmMsg(), &processor->table(),
                  *processor->runConfig()};
+    m_project.config.isExact = m_project.config.isExact || m_options.isExact;
+    if (!m_project.config.isExact && (m_options.tracesClocks || !m_options.interruptClocks.empty()))
+        m_wrongUsage = tr("--trace-clocks and --interrupt-at-clock need --exact.");
     return true;
 }
 
@@ -159,7 +165,7 @@ bool SimRun::startSim()
     show(outcome);
     if (success) {
         outcome = nsProc::SimOutcome();
-        success = m_engine->setProgramCounter(m_project.program->opcodes.opcodeOfMemAddr(0), &outcome);
+        success = m_engine->moveToStart(&outcome);
         show(outcome);
     }
     if (!success) {
@@ -169,10 +175,12 @@ bool SimRun::startSim()
     }
     if (m_start != nullptr)
         m_engine->setProgramCounter(m_start, &outcome);
+    for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
+        m_engine->intLine()->request(request.first, request.second);
     m_engine->core()->setHwbld(m_options.hwbuild);
     m_engine->addObserver(&m_reads);
     if (m_trace.isOpen()) {
-        m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get());
+        m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get(), m_options.tracesClocks);
         m_reads.setTrace(m_tracer.get());
         m_engine->addObserver(m_tracer.get());
     }
@@ -246,7 +254,9 @@ qint64 SimRun::nextBlock() const
     count = std::min(count, m_options.instructions - m_instructions);
     const qint64 clocks = m_options.clocks - m_engine->clock()->clocks;
     const qint64 perInstr = std::max(m_engine->clocksOfInstr(), 1);
-    count = std::min(count, clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0));
+    // With instructions that differ in their clocks, each of the last few is a block.
+    const qint64 bounded = clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0);
+    count = std::min(count, m_engine->intLine() != nullptr ? std::max(bounded - 1, qint64(1)) : bounded);
     // The instruction that takes the interrupt starts a block.
     return std::min(count, m_nextInterrupt - m_instructions - 1);
 }
@@ -254,7 +264,7 @@ qint64 SimRun::nextBlock() const
 void SimRun::raiseInterrupt()
 {
     // A second call would withdraw a pending interrupt.
-    if (m_engine->core()->interrupt() == nsProc::eIntEnabled)
+    if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() == nsProc::eIntEnabled)
         m_engine->toggleInterrupt();
     const std::vector<qint64>& list = m_options.interruptAt;
     while (m_interruptAt < list.size() && list[m_interruptAt] <= m_nextInterrupt)
@@ -314,8 +324,11 @@ void SimRun::show(const nsProc::sSimReport_t& report) const
     case nsProc::sSimReport_t::eKindMessage: {
         QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
         help.setFragment(report.key());
+        // Where the core goes on, the program counter has left the place.
+        const Opcode* place = report.coreGoesOn ? m_engine->program().opcode(std::max(m_engine->begun(), 0))
+                                                : m_engine->programCounter();
         msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
-                        link(m_engine->programCounter()));
+                        link(place));
         break;
     }
     }

@@ -74,6 +74,7 @@ private:
     nsBatch::OutputFile m_vcd;
     nsBatch::OutputFile m_dump;
     SimEnd m_end;
+    QString m_wrongUsage; ///< of options that the project does not fit; empty if it fits
     qint64 m_instructions = 0;
     qint64 m_nextInterrupt = SimOptions::unbounded; ///< number of the instruction
     size_t m_interruptAt = 0;                       ///< index of the next one of the list
