@@ -4,6 +4,7 @@
 
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
+#include "ProcSimCoreCheck.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimDevices.h"
 #include "ProcSimExact.h"
@@ -39,6 +40,8 @@ ProcSimEngine::ProcSimEngine(const ProcTable* table, const ProcCoreConfig& confi
         m_pageNames.append(QStringLiteral("PAGE%1").arg(page));
     if (config.isExact)
         m_exact = std::make_unique<Exact>(this);
+    else if (config.warnsOfCore)
+        m_check = std::make_unique<ProcSimCoreCheck>(*table, m_config, *m_core, *m_callStack);
 }
 
 ProcSimEngine::~ProcSimEngine() = default;
@@ -74,6 +77,8 @@ void ProcSimEngine::ensureDecoded()
         m_program.decodeMemory(*m_opcodes, m_core->regCount(), m_exact->pageSize(), std::max(m_config.pageCount, 1));
     else
         m_program.decode(*m_opcodes, m_core->regCount(), m_pageNames.size());
+    if (m_check != nullptr)
+        m_program.leaveToStep([this](const sSimInstr_t& in) { return m_check->looksAt(in); });
     m_isDecoded = true;
 }
 
@@ -167,6 +172,8 @@ void ProcSimEngine::toggleInterrupt()
         m_core->setInterrupt(eIntPending);
     else if (m_core->interrupt() == eIntPending)
         m_core->setInterrupt(eIntEnabled);
+    else if (m_check != nullptr)
+        m_check->requestLost();
 }
 
 void ProcSimEngine::reset()
@@ -177,6 +184,8 @@ void ProcSimEngine::reset()
         m_core->clear();
         m_callStack->clear();
     }
+    if (m_check != nullptr)
+        m_check->clear();
     m_ports->clear();
     m_question = sQuestion_t();
 }

@@ -17,6 +17,7 @@ class IODevList;
 namespace nsProc {
 
 class ProcSimCallStackData;
+class ProcSimCoreCheck;
 class ProcSimCoreData;
 class ProcSimIntLine;
 class ProcSimObserver;
@@ -192,6 +193,7 @@ private:
     std::shared_ptr<ProcSimCallStackData> m_callStack;
     std::shared_ptr<ProcSimPorts> m_ports;
     std::shared_ptr<ProcSimClock> m_clock;
+    std::unique_ptr<ProcSimCoreCheck> m_check; ///< null unless it warns where the core would do otherwise
     std::unique_ptr<Exact> m_exact; ///< null unless the simulation is exact
 };
 

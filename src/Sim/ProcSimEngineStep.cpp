@@ -4,6 +4,7 @@
 
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
+#include "ProcSimCoreCheck.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimExact.h"
 #include "ProcSimInstr.h"
@@ -322,6 +323,8 @@ void ProcSimEngine::executeOne(SimOutcome* outcome)
     m_begun = m_pc;
     for (ProcSimObserver* observer : m_followers)
         observer->instruction(m_begun, m_clock->clocks);
+    if (m_check != nullptr && !m_isHalted)
+        m_check->beforeInstruction(m_program, m_begun, outcome);
     finishStep(!m_isHalted && Step(this, outcome).execute(), outcome);
 }
 
@@ -344,6 +347,8 @@ void ProcSimEngine::finishStep(bool executed, SimOutcome* outcome)
 bool ProcSimEngine::enterInterrupt(SimOutcome* outcome)
 {
     const Opcode* opcode = programCounter();
+    if (m_check != nullptr)
+        m_check->beforeEntry(m_program, m_pc, outcome);
     m_core->setInterrupt(eIntService);
     // If the call stack is full, the interrupt is lost; the program can continue at the present instruction.
     if (!m_callStack->push(QStringLiteral("ISR"), m_core->carryBit() != 0, m_core->zeroBit() != 0, opcode->pageAddr,

@@ -26,6 +26,8 @@ struct sSimReport_t
 
     /// The key of the message; "internal" for an internal error.
     QString key() const;
+    /// It is about what the core would do otherwise: the place is the instruction that was executed.
+    bool isOfCore() const { return kind == eKindMessage && (coreGoesOn || msg >= warnCoreStart); }
     /// What a person reads. Not for what is not supported: that has the text of the front end's message.
     QString text() const;
     bool isWarning() const { return kind == eKindMessage && (coreGoesOn || key().startsWith(QLatin1String("warn"))); }

@@ -332,6 +332,14 @@ void ProcSimProgram::decode(const OpcodeList& opcodes, int regCount, int rangeCo
         Decoder(this, position, regCount).decode();
 }
 
+void ProcSimProgram::leaveToStep(const std::function<bool(const sSimInstr_t&)>& isLeft)
+{
+    for (sSimInstr_t& instr : m_instrs) {
+        if (isLeft(instr))
+            instr.op |= sSimInstr_t::leftToStep;
+    }
+}
+
 int ProcSimProgram::positionOf(const Opcode* opcode) const
 {
     return m_positions.value(opcode, sSimInstr_t::none);

@@ -7,6 +7,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <vector>
 
 namespace nsModAsmFe {
@@ -83,6 +84,8 @@ public:
     /// @param pageSize words of a page, above 0
     /// @param pageCount pages, above 0; instructions of the shared range stand in each
     void decodeMemory(const nsModAsmFe::OpcodeList& opcodes, int regCount, int pageSize, int pageCount);
+    /// Marks instructions for the single step. The next decode() forgets that.
+    void leaveToStep(const std::function<bool(const sSimInstr_t&)>& isLeft);
     void clear();
 
     int count() const { return int(m_instrs.size()); }

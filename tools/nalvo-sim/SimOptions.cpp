@@ -89,6 +89,7 @@ void setup(QCommandLineParser* parser)
             "the end: 16 bytes a value."),
          tr("FILE")},
         {"dump", tr("Write the final state as JSON to FILE. - is standard output."), tr("FILE")},
+        {"v", tr("Warn at each instruction that the core would execute with another outcome.")},
         {"q", tr("Show errors alone, and no summary.")},
         {{"h", "help"}, tr("Show this help.")},
         {"version", tr("Show the version.")},
@@ -136,6 +137,7 @@ SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
     if (parsed != parseRun)
         return parsed;
     quiet = parser.isSet("q");
+    verbose = parser.isSet("v");
     const bool isRight = readProject(parser) && readBounds(parser) && readInterrupts(parser) && readLabels(parser) &&
                          readInputs(parser) && readOutputs(parser) && checkFiles();
     return isRight ? parseRun : parseWrong;

@@ -43,7 +43,8 @@ struct SimOptions : nsBatch::BatchOptions
     QString traceFile; ///< empty: none; "-": standard output; the same for those below
     QString vcdFile;
     QString dumpFile;
-    bool quiet = false; ///< errors alone
+    bool quiet = false;   ///< errors alone
+    bool verbose = false; ///< warns where the core would do otherwise
 
 private:
     bool readBounds(const QCommandLineParser& parser);

@@ -98,6 +98,7 @@ bool SimRun::assemble()
     }
     m_project = {&m_batch.assembler().program(), &m_batch.sources(), &m_batch.asmMsg(), &processor->table(),
                  *processor->runConfig()};
+    m_project.config.warnsOfCore = m_project.config.warnsOfCore || m_options.verbose;
     m_project.config.isExact = m_project.config.isExact || m_options.isExact;
     if (!m_project.config.isExact && (m_options.tracesClocks || !m_options.interruptClocks.empty()))
         m_wrongUsage = tr("--trace-clocks and --interrupt-at-clock need --exact.");
@@ -264,7 +265,7 @@ qint64 SimRun::nextBlock() const
 void SimRun::raiseInterrupt()
 {
     // A second call would withdraw a pending interrupt.
-    if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() == nsProc::eIntEnabled)
+    if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() != nsProc::eIntPending)
         m_engine->toggleInterrupt();
     const std::vector<qint64>& list = m_options.interruptAt;
     while (m_interruptAt < list.size() && list[m_interruptAt] <= m_nextInterrupt)
@@ -325,7 +326,7 @@ void SimRun::show(const nsProc::sSimReport_t& report) const
         QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
         help.setFragment(report.key());
         // Where the core goes on, the program counter has left the place.
-        const Opcode* place = report.coreGoesOn ? m_engine->program().opcode(std::max(m_engine->begun(), 0))
+        const Opcode* place = report.isOfCore() ? m_engine->program().opcode(std::max(m_engine->begun(), 0))
                                                 : m_engine->programCounter();
         msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
                         link(place));
