@@ -18,10 +18,10 @@ struct ProcCoreConfig
     double clkFreq = 80000000; ///< Hz
     int regCount = 16;         ///< registers, where the hardware can be built with more or less
     int instrClkCnt = 2;       ///< clock cycles of an instruction
-    bool isExact = false;      ///< the simulation does what the core does, where the two differ
-    bool warnsOfCore = false;  ///< the simulation warns where the core would do otherwise
+    int exactSimulation = 0;   ///< not 0: the simulation does what the core does, where the two differ
+    int coreWarnings = 0;      ///< not 0: a simulation that is not exact warns where the core would do otherwise
     /// What ends an exact simulation although the core goes on.
-    enum eExactStop_t { eStopAtStack = 1, eStopAtScrpd = 2, eStopAtEmpty = 4 };
+    enum eExactStop_t { eStopAtStack = 1, eStopAtScrpd = 2, eStopAtEmpty = 4, allExactStops = 7 };
     int exactStops = 0; ///< of these, added
 };
 

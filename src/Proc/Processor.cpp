@@ -29,6 +29,23 @@ QString keyOf(const ProcTable& table, const sSettingField_t& field)
     return QLatin1String(table.cfgSection) + '/' + QLatin1String(field.key);
 }
 
+/// How the simulation is done. These keys are in a project only after one of them was set.
+struct sSimKey_t
+{
+    const char* key;
+    int ProcCoreConfig::*value;
+};
+const sSimKey_t simKeys[] = {
+    {"simExact", &ProcCoreConfig::exactSimulation},
+    {"simExactStops", &ProcCoreConfig::exactStops},
+    {"simCoreWarnings", &ProcCoreConfig::coreWarnings},
+};
+
+QString keyOf(const ProcTable& table, const sSimKey_t& option)
+{
+    return QLatin1String(table.cfgSection) + '/' + QLatin1String(option.key);
+}
+
 } // namespace
 
 Processor::Processor(const ProcTable& table, ProcCoreConfig* run)
@@ -76,6 +93,8 @@ void Processor::readSettings(PrjSettings* project)
         else
             config.*field.value = qBound(row.storedMin, project->value(key, config.*field.value), row.storedMax);
     }
+    for (const sSimKey_t& option : simKeys)
+        config.*option.value = qBound(0, project->value(keyOf(table(), option), 0), int(ProcCoreConfig::allExactStops));
     setSettings(config);
 }
 
@@ -88,6 +107,12 @@ void Processor::writeSettings(PrjSettings* project) const
             project->setValue(key, textOf(m_settings.clkFreq));
         else
             project->setValue(key, m_settings.*field.value);
+    }
+    const int missing = -1;
+    for (const sSimKey_t& option : simKeys) {
+        const QString key = keyOf(table(), option);
+        if (m_settings.*option.value != 0 || project->value(key, missing) != missing)
+            project->setValue(key, m_settings.*option.value);
     }
 }
 

@@ -38,9 +38,9 @@ ProcSimEngine::ProcSimEngine(const ProcTable* table, const ProcCoreConfig& confi
 {
     for (int page = 0; page < config.pageCount; ++page)
         m_pageNames.append(QStringLiteral("PAGE%1").arg(page));
-    if (config.isExact)
+    if (config.exactSimulation != 0)
         m_exact = std::make_unique<Exact>(this);
-    else if (config.warnsOfCore)
+    else if (config.coreWarnings != 0)
         m_check = std::make_unique<ProcSimCoreCheck>(*table, m_config, *m_core, *m_callStack);
 }
 
@@ -105,12 +105,22 @@ bool ProcSimEngine::moveToStart(SimOutcome* outcome)
     return setProgramCounter(m_opcodes != nullptr ? m_opcodes->opcodeOfMemAddr(0) : nullptr, outcome);
 }
 
+bool ProcSimEngine::moveToAddr(int addr, SimOutcome* outcome)
+{
+    m_question = sQuestion_t();
+    ensureDecoded();
+    if (m_exact != nullptr)
+        return m_exact->moveToAddr(addr);
+    const Opcode* target = opcodeOfPage(addr, page());
+    return target != nullptr && setProgramCounter(target, outcome);
+}
+
 void ProcSimEngine::setConfig(const ProcCoreConfig& config)
 {
     // What the simulation was built as stays.
-    const bool isExact = m_config.isExact;
+    const int exactSimulation = m_config.exactSimulation;
     m_config = config;
-    m_config.isExact = isExact;
+    m_config.exactSimulation = exactSimulation;
 }
 
 int ProcSimEngine::clocksOfInstr() const

@@ -114,6 +114,9 @@ public:
     /// Goes to the instruction that the processor executes first.
     /// @return false after a reported error
     bool moveToStart(SimOutcome* outcome);
+    /// To an address of the present page.
+    /// @return false, with nothing changed, if there is no instruction, or no memory in an exact simulation
+    bool moveToAddr(int addr, SimOutcome* outcome);
     /// Ends all highlights.
     void clearHighlights();
     /// Clock cycles of an instruction, or the most that one can take in an exact simulation.
@@ -194,7 +197,7 @@ private:
     std::shared_ptr<ProcSimPorts> m_ports;
     std::shared_ptr<ProcSimClock> m_clock;
     std::unique_ptr<ProcSimCoreCheck> m_check; ///< null unless it warns where the core would do otherwise
-    std::unique_ptr<Exact> m_exact; ///< null unless the simulation is exact
+    std::unique_ptr<Exact> m_exact;            ///< null unless the simulation is exact
 };
 
 } // namespace nsProc

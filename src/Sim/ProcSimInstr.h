@@ -52,7 +52,8 @@ public:
         case ocTestc:
             return simOpcode_testWithCarry(m, in);
         case ocRol:
-            return simOpcode_sl(m, in, [](Machine&, int before) { return before >> 7; }, m.rotateKeepsCarry);
+            return simOpcode_sl(
+                m, in, [](Machine&, int before) { return before >> 7; }, m.rotateKeepsCarry);
         case ocRolc:
             return simOpcode_sl(m, in, [](Machine& machine, int) { return int(machine.carry()); });
         case ocSl0:
@@ -62,7 +63,8 @@ public:
         case ocSlx:
             return simOpcode_sl(m, in, [](Machine&, int before) { return before & 1; });
         case ocRor:
-            return simOpcode_sr(m, in, [](Machine&, int before) { return before & 1; }, m.rotateKeepsCarry);
+            return simOpcode_sr(
+                m, in, [](Machine&, int before) { return before & 1; }, m.rotateKeepsCarry);
         case ocRorc:
             return simOpcode_sr(m, in, [](Machine& machine, int) { return int(machine.carry()); });
         case ocSr0:
@@ -219,7 +221,8 @@ private:
     Q_ALWAYS_INLINE static bool simOpcode_sr(Machine& m, sInstr in, Incoming incoming, bool keepsCarry = false)
     {
         const int before = m.shiftedReg(in);
-        return finishShift(m, in, (before >> 1) + (incoming(m, before) << 7), keepsCarry ? m.carry() : (before & 1) != 0);
+        return finishShift(m, in, (before >> 1) + (incoming(m, before) << 7),
+                           keepsCarry ? m.carry() : (before & 1) != 0);
     }
     Q_ALWAYS_INLINE static bool finishShift(Machine& m, sInstr in, int result, bool outgoing)
     {

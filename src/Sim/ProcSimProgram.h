@@ -94,8 +94,8 @@ public:
     /// Not owned. Null for a cell of the memory without an instruction.
     /// @param position may be sSimInstr_t::none: null then
     nsModAsmFe::Opcode* opcode(int position) const { return position < 0 ? nullptr : m_opcodes[size_t(position)]; }
-    /// sSimInstr_t::none for null, and for an instruction of another program. In a memory of several pages an instruction
-    /// of the shared range is found in the first page.
+    /// sSimInstr_t::none for null, and for an instruction of another program. In a memory of several pages an
+    /// instruction of the shared range is found in the first page.
     int positionOf(const nsModAsmFe::Opcode* opcode) const;
     /// Address within its page, and machine word, of a position.
     int address(int position) const;

@@ -36,7 +36,7 @@ struct SimOptions : nsBatch::BatchOptions
     int hwbuild = 0;
     qint64 interruptEvery = 0;       ///< 0: never
     std::vector<qint64> interruptAt; ///< numbers of instructions from 1, ascending, each once
-    bool isExact = false; ///< as the core does; else as the project says
+    bool isExact = false;            ///< as the core does; else as the project says
     /// Requests at the interrupt input of an exact simulation: clocks from and length.
     std::vector<std::pair<qint64, qint64>> interruptClocks;
     bool tracesClocks = false;

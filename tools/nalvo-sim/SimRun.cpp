@@ -98,9 +98,11 @@ bool SimRun::assemble()
     }
     m_project = {&m_batch.assembler().program(), &m_batch.sources(), &m_batch.asmMsg(), &processor->table(),
                  *processor->runConfig()};
-    m_project.config.warnsOfCore = m_project.config.warnsOfCore || m_options.verbose;
-    m_project.config.isExact = m_project.config.isExact || m_options.isExact;
-    if (!m_project.config.isExact && (m_options.tracesClocks || !m_options.interruptClocks.empty()))
+    if (m_options.verbose)
+        m_project.config.coreWarnings = 1;
+    if (m_options.isExact)
+        m_project.config.exactSimulation = 1;
+    if (m_project.config.exactSimulation == 0 && (m_options.tracesClocks || !m_options.interruptClocks.empty()))
         m_wrongUsage = tr("--trace-clocks and --interrupt-at-clock need --exact.");
     return true;
 }
@@ -326,8 +328,8 @@ void SimRun::show(const nsProc::sSimReport_t& report) const
         QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
         help.setFragment(report.key());
         // Where the core goes on, the program counter has left the place.
-        const Opcode* place = report.isOfCore() ? m_engine->program().opcode(std::max(m_engine->begun(), 0))
-                                                : m_engine->programCounter();
+        const Opcode* place =
+            report.isOfCore() ? m_engine->program().opcode(std::max(m_engine->begun(), 0)) : m_engine->programCounter();
         msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
                         link(place));
         break;

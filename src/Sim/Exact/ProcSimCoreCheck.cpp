@@ -175,7 +175,8 @@ void ProcSimCoreCheck::checkRotate(int position, const sSimInstr_t& in, int word
     const int source = (word >> m_table.layout.srcShift) & ((1 << m_table.layout.regBits) - 1);
     const int value = m_core.regValue(m_core.bank(), in.dst);
     const int op = in.opcode();
-    if (m_table.core.rotatesSource && source != in.dst)
+    // Two registers with one value are as good as one.
+    if (m_table.core.rotatesSource && m_core.regValue(m_core.bank(), source % m_core.regCount()) != value)
         warn(warnCoreRotateSource, position, outcome);
     const int outgoing = op == ocRol ? value >> 7 : value & 1;
     if (m_table.core.rotateKeepsCarry && (op == ocRol || op == ocRor) && outgoing != m_core.carryBit())

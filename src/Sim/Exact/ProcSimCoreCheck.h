@@ -14,11 +14,11 @@ class ProcSimCoreData;
 struct ProcCoreConfig;
 struct ProcTable;
 
-/// Warns, in a simulation that is not exact, of instructions whose outcome on the core would be another one. Each warning
-/// comes once for each instruction.
+/// Warns, in a simulation that is not exact, of instructions whose outcome on the core would be another one. Each
+/// warning comes once for each instruction.
 ///
-/// It is told of each instruction before it is executed, and of each interrupt entry, and keeps what the core would know
-/// beside the state of the simulation.
+/// It is told of each instruction before it is executed, and of each interrupt entry, and keeps what the core would
+/// know beside the state of the simulation.
 class ProcSimCoreCheck
 {
 public:

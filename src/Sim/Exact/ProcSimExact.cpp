@@ -45,10 +45,38 @@ void ProcSimEngine::Exact::reset()
     m_isDue = false;
     m_isResetting = false;
     m_wasEmpty = false;
-    m_seen = m_engine.m_clock->clocks;
+    m_clock = m_engine.m_clock->clocks;
+    m_seen = m_clock;
     m_line.clear();
     m_reported.clear();
     showState();
+}
+
+ProcSimIntLine& ProcSimEngine::Exact::line()
+{
+    followClock();
+    return m_line;
+}
+
+/// The user may have set the clock count to 0.
+void ProcSimEngine::Exact::followClock()
+{
+    const qint64 shift = m_engine.m_clock->clocks - m_clock;
+    if (shift == 0)
+        return;
+    m_line.shift(shift);
+    m_seen = std::max(m_seen + shift, qint64(0));
+    m_clock = m_engine.m_clock->clocks;
+}
+
+bool ProcSimEngine::Exact::moveToAddr(int addr)
+{
+    if (program().count() == 0 || addr < 0 || addr >= m_pageSize)
+        return false;
+    m_isDue = false;
+    m_isResetting = false;
+    place((std::max(m_engine.m_lastPage, 1) - 1) * m_pageSize + addr);
+    return true;
 }
 
 bool ProcSimEngine::Exact::moveToStart(SimOutcome* outcome)
@@ -146,8 +174,8 @@ bool ProcSimEngine::Exact::enterInterrupt(SimOutcome* outcome)
     const bool isFull = m_depth >= stackLimit();
     if (isFull && !mayGoOn(errCallStackOverflow, ProcCoreConfig::eStopAtStack, position, outcome))
         return false;
-    if (program().opcode(vector) == nullptr && !mayGoOn(errNoOpcodeAtIntVect, ProcCoreConfig::eStopAtEmpty, vector,
-                                                        outcome, m_engine.m_config.intVectorAddr))
+    if (program().opcode(vector) == nullptr &&
+        !mayGoOn(errNoOpcodeAtIntVect, ProcCoreConfig::eStopAtEmpty, vector, outcome, m_engine.m_config.intVectorAddr))
         return false;
     m_isDue = false;
     const ProcSimCoreData& core = *m_engine.m_core;
@@ -292,7 +320,9 @@ void ProcSimEngine::Exact::endInstruction(int opcode, int condition, bool isTake
 
 SimOutcome ProcSimEngine::Exact::step()
 {
+    followClock();
     SimOutcome outcome = oneStep();
+    m_clock = m_engine.m_clock->clocks;
     showState();
     return outcome;
 }
@@ -347,8 +377,8 @@ void ProcSimEngine::Exact::showStack()
         const bool isKnown = program().count() > 0;
         const Opcode* opcode = isKnown ? program().opcode(cell.position) : nullptr;
         const Opcode* call = isKnown && cell.caller >= 0 ? program().opcode(cell.caller) : nullptr;
-        const QString label = cell.caller < 0                    ? QStringLiteral("ISR")
-                              : call == nullptr                  ? QString()
+        const QString label = cell.caller < 0                  ? QStringLiteral("ISR")
+                              : call == nullptr                ? QString()
                               : call->arg0->type == Arg::label ? call->arg0->name
                                                                : call->arg1->name;
         shown.push(label, cell.carry, cell.zero, isKnown ? program().address(cell.position) : 0,

@@ -7,13 +7,13 @@
 
 namespace nsProc {
 
-/// The engine exactly as the core: it executes the words of the memory clock by clock where that can be seen, and goes on
-/// where a core goes on.
+/// The engine exactly as the core: it executes the words of the memory clock by clock where that can be seen, and goes
+/// on where a core goes on.
 ///
 /// The program counter is a cell of the memory. A stack holds positions, not lines, and its cells keep what was written
 /// last; the list that views show is made from them after each step or run. With the stack eStackOfCalls each
-/// instruction writes its address to the cell at the pointer: that cell is read only after the pointer has moved, so it is
-/// enough that the instruction that moves the pointer writes it.
+/// instruction writes its address to the cell at the pointer: that cell is read only after the pointer has moved, so it
+/// is enough that the instruction that moves the pointer writes it.
 class ProcSimEngine::Exact
 {
 public:
@@ -25,11 +25,14 @@ public:
 
     /// Words of a page.
     int pageSize() const { return m_pageSize; }
-    ProcSimIntLine& line() { return m_line; }
+    /// Its times are those of the clock count.
+    ProcSimIntLine& line();
 
     /// The reset input of the core: what it keeps stays. The requests go.
     void reset();
     bool moveToStart(SimOutcome* outcome);
+    /// To a cell of the present page, which may be empty.
+    bool moveToAddr(int addr);
     bool moveTo(const nsModAsmFe::Opcode* opcode, SimOutcome* outcome);
     SimOutcome step();
     qint64 run(qint64 count, int until, SimOutcome* outcome);
@@ -76,6 +79,7 @@ private:
 
     // Parts of a step. Those that answer false have reported why and changed nothing.
     SimOutcome oneStep();
+    void followClock();
     bool enterInterrupt(SimOutcome* outcome);
     void preempt(int position);
     void resetByCore(bool isHalfLost);
@@ -98,19 +102,20 @@ private:
     ProcSimIntLine m_line;
     sCell_t m_cells[maxCells];
     int m_pointer = 0;
-    int m_depth = 0;        ///< calls in progress, as far as the stack holds them
-    sCell_t m_flagCopy;     ///< C and Z of the last interrupt, where they are kept once
+    int m_depth = 0;    ///< calls in progress, as far as the stack holds them
+    sCell_t m_flagCopy; ///< C and Z of the last interrupt, where they are kept once
     bool m_isEnabled = false;
     bool m_isInRoutine = false; ///< from an entry to a return from interrupt, where that keeps entries off
     bool m_isLatched = false;
-    bool m_isDue = false;        ///< the next step begins with an interrupt entry
-    bool m_isResetting = false;  ///< the instruction at the position is half executed, then the core is reset
-    bool m_isHalfLost = false;   ///< an interrupt request takes away what it would still do
-    bool m_isExecuted = false;   ///< the last step has executed its instruction
-    bool m_hasRun = false;       ///< since power-up
-    bool m_wasEmpty = false;     ///< the last cell had no instruction
-    qint64 m_seen = 0;           ///< clock up to which requests are latched
-    QSet<quint64> m_reported;    ///< messages with their places
+    bool m_isDue = false;       ///< the next step begins with an interrupt entry
+    bool m_isResetting = false; ///< the instruction at the position is half executed, then the core is reset
+    bool m_isHalfLost = false;  ///< an interrupt request takes away what it would still do
+    bool m_isExecuted = false;  ///< the last step has executed its instruction
+    bool m_hasRun = false;      ///< since power-up
+    bool m_wasEmpty = false;    ///< the last cell had no instruction
+    qint64 m_clock = 0;         ///< the clock count as this has left it
+    qint64 m_seen = 0;          ///< clock up to which requests are latched
+    QSet<quint64> m_reported;   ///< messages with their places
 };
 
 } // namespace nsProc

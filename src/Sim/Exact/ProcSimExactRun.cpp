@@ -89,7 +89,8 @@ public:
     {
         if (m_exact.m_depth >= m_exact.stackLimit())
             return false;
-        m_exact.push(stack == sCoreTraits_t::eStackOfReturns ? m_instrs[m_pc].next : m_pc, m_pc, m_carry, m_zero, m_bank);
+        m_exact.push(stack == sCoreTraits_t::eStackOfReturns ? m_instrs[m_pc].next : m_pc, m_pc, m_carry, m_zero,
+                     m_bank);
         return true;
     }
     Q_ALWAYS_INLINE bool mayReturn() const { return m_exact.m_depth > 0; }
@@ -233,6 +234,7 @@ qint64 ProcSimEngine::Exact::quietCount(qint64 count) const
 qint64 ProcSimEngine::Exact::run(qint64 count, int until, SimOutcome* outcome)
 {
     qint64 executed = 0;
+    followClock();
     while (executed < count) {
         const qint64 quiet = m_engine.m_pc != sSimInstr_t::none ? quietCount(count - executed) : 0;
         if (quiet > 0) {
@@ -247,6 +249,7 @@ qint64 ProcSimEngine::Exact::run(qint64 count, int until, SimOutcome* outcome)
         if (!outcome->wentOn() || !outcome->reports.empty() || m_engine.m_pc == until || m_engine.m_isHalted)
             break;
     }
+    m_clock = m_engine.m_clock->clocks;
     showState();
     return executed;
 }

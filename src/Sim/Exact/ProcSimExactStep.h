@@ -116,7 +116,7 @@ private:
     ProcSimEngine& m_engine;
     ProcSimCoreData& m_core;
     SimOutcome& m_outcome;
-    const sSimInstr_t m_instr; ///< a copy: an observer may change the program
+    const sSimInstr_t m_instr;          ///< a copy: an observer may change the program
     const nsModAsmFe::Opcode* m_opcode; ///< null for an empty cell
     int m_position;
     ePart_t m_part;

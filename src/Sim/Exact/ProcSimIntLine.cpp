@@ -36,6 +36,16 @@ void ProcSimIntLine::clear()
     m_heldFrom = never;
 }
 
+void ProcSimIntLine::shift(qint64 clocks)
+{
+    const auto moved = [clocks](qint64 at) { return at == never ? never : std::max(at + clocks, qint64(0)); };
+    m_pulses.erase(m_pulses.begin(), m_pulses.begin() + qptrdiff(m_first));
+    m_first = 0;
+    for (sPulse_t& pulse : m_pulses)
+        pulse = {moved(pulse.from), moved(pulse.to)};
+    m_heldFrom = moved(m_heldFrom);
+}
+
 qint64 ProcSimIntLine::nextUp(qint64 clock) const
 {
     qint64 next = isHeld() ? std::max(clock, m_heldFrom) : never;

@@ -24,6 +24,10 @@ public:
     /// No requests, and the switch is open.
     void clear();
 
+    /// The clock is counted from elsewhere: all times are later by so many clocks. What comes before clock 0 then is
+    /// gone.
+    void shift(qint64 clocks);
+
     bool isUp(qint64 clock) const { return nextUp(clock) == clock; }
     /// The first clock from this one on at which the input is up; `never` if there is none.
     qint64 nextUp(qint64 clock) const;

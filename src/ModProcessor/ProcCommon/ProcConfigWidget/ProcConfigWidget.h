@@ -6,6 +6,7 @@
 #include <QVector>
 #include <QWidget>
 
+class QCheckBox;
 class QGridLayout;
 class QTabWidget;
 
@@ -45,6 +46,8 @@ private:
     QGridLayout* addPage(const QString& title);
     void addField(QGridLayout* grid, int row, const sProcSetting_t& field);
     QWidget* createControl(const sProcSetting_t& field);
+    void addSimPage();
+    QCheckBox* addOption(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip);
 
     struct sField_t
     {
@@ -54,7 +57,16 @@ private:
 
     const ProcTable& m_table;
     QVector<sField_t> m_fields; ///< in the order of the rows
+    /// An option of the simulation: a bit of a member.
+    struct sOption_t
+    {
+        QCheckBox* box;
+        int ProcCoreConfig::*value;
+        int bit;
+    };
+
     QTabWidget* m_tabs = nullptr;
+    QVector<sOption_t> m_options;
 };
 
 } // namespace nsProc
