@@ -61,6 +61,7 @@ module kcpsm6_bench;
     reg [11:0] here;
     reg        enabled;    // the memory was read for the slot
     reg        in_reset;
+    reg        was_read;
     integer    slot_clock; // counts from the first clock of the first slot after a reset; negative before it
 
     task observe;
@@ -107,9 +108,10 @@ module kcpsm6_bench;
         for (clock = -start - 4; clock < clocks; clock = clock + 1) begin
             drive;
             #5 observe;
-            count_read(read_strobe && !reset);
+            was_read = read_strobe && !reset;
             clk = 1'b1;
-            #5 clk = 1'b0;
+            #5 count_read(was_read);
+            clk = 1'b0;
         end
         $finish;
     end
