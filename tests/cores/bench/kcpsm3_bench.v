@@ -4,9 +4,6 @@
 module kcpsm3_bench;
     parameter integer words = 1024;
 
-    localparam integer MAX_PULSES = 65536;
-    localparam integer MAX_READS  = 1048576;
-
     wire [9:0]  address;
     reg  [17:0] instruction;
     wire [7:0]  in_port;
@@ -41,7 +38,7 @@ module kcpsm3_bench;
     always @(posedge clk)
         instruction <= memory[address];
 
-    assign in_port = read_values[reads_done];
+    assign in_port = read_value;
 
     // The events. The address of a slot is the one in the clock before it; whether it was executed is known at its end.
     reg [9:0]  fetched;
@@ -90,8 +87,9 @@ module kcpsm3_bench;
             #5 observe;
             was_read = read_strobe && !reset;
             clk = 1'b1;
-            #5 count_read(was_read);
-            clk = 1'b0;
+            #5 clk = 1'b0;
+            if (was_read)
+                next_read;
         end
         $finish;
     end

@@ -7,9 +7,6 @@ module kcpsm6_bench;
     parameter integer scratchpad_size = 64;
     parameter integer words           = 4096;
 
-    localparam integer MAX_PULSES = 65536;
-    localparam integer MAX_READS  = 1048576;
-
     wire [11:0] address;
     reg  [17:0] instruction;
     wire        bram_enable;
@@ -54,7 +51,7 @@ module kcpsm6_bench;
         if (bram_enable)
             instruction <= memory[address % words];
 
-    assign in_port = read_values[reads_done];
+    assign in_port = read_value;
 
     // The events. The address of a slot is the one in the clock before it; whether it was executed is known at its end.
     reg [11:0] fetched;
@@ -110,8 +107,9 @@ module kcpsm6_bench;
             #5 observe;
             was_read = read_strobe && !reset;
             clk = 1'b1;
-            #5 count_read(was_read);
-            clk = 1'b0;
+            #5 clk = 1'b0;
+            if (was_read)
+                next_read;
         end
         $finish;
     end
