@@ -1,0 +1,257 @@
+#include "RandomWords.h"
+
+namespace {
+
+class Generator
+{
+public:
+    Generator(Core core, const CoreBuild& build, Flavour flavour, std::mt19937* random)
+        : m_core(core)
+        , m_build(build)
+        , m_flavour(flavour)
+        , m_random(random)
+    {
+    }
+
+    std::vector<quint32> program()
+    {
+        // Now and then the program ends early, and the core runs into empty memory.
+        m_size = pick(3) == 0 ? 40 + pick(200) : memorySize(m_core);
+        std::vector<quint32> words;
+        for (m_at = 0; m_at < m_size; ++m_at)
+            words.push_back(instruction());
+        start(&words);
+        return words;
+    }
+
+    int pick(int count) { return int((*m_random)() % unsigned(count)); }
+
+private:
+    /// The program often comes back to its start. It shall then go on in another way: with values from outside,
+    /// interrupts on, and some calls deep.
+    void start(std::vector<quint32>* words)
+    {
+        static const quint32 read[] = {0x04000, 0x09000, 0x2E001};
+        static const quint32 enable[] = {0x3C001, 0x28001, 0x2C005};
+        static const quint32 call[] = {0x30000, 0x20000, 0x38000};
+        auto at = words->begin() + 1; // where a Mico8 starts
+        for (quint32 number = 0; number < 4; ++number)
+            *at++ = read[int(m_core)] + (number << 8);
+        *at++ = enable[int(m_core)];
+        for (int n = m_flavour == Flavour::returns ? 2 : 8; n > 0; --n, ++at)
+            *at = call[int(m_core)] + (m_core == Core::Mico8 ? 1 : quint32(at - words->begin() + 1));
+    }
+
+    quint32 instruction()
+    {
+        switch (m_core) {
+        case Core::PicoBlaze3:
+            return picoBlaze3();
+        case Core::PicoBlaze6:
+            return picoBlaze6();
+        case Core::Mico8:
+            return mico8();
+        }
+        return 0;
+    }
+
+    quint32 one(std::initializer_list<quint32> words) { return words.begin()[pick(int(words.size()))]; }
+    /// Values at the edges come more often than they would by chance.
+    quint32 byte() { return pick(3) == 0 ? one({0, 1, 0x7F, 0x80, 0xFE, 0xFF}) : quint32(pick(256)); }
+    /// A few registers are used more than others, so that values meet again.
+    quint32 reg(int count) { return quint32(pick(3) == 0 ? pick(count) : pick(4)); }
+
+    enum class Group { compute, port, memory, jump, call, ret, interrupt, bank };
+    Group group()
+    {
+        const int n = pick(100);
+        switch (m_flavour) {
+        case Flavour::mixed:
+            return n < 50   ? Group::compute
+                   : n < 68 ? Group::port
+                   : n < 76 ? Group::memory
+                   : n < 82 ? Group::jump
+                   : n < 87 ? Group::call
+                   : n < 92 ? Group::ret
+                   : n < 97 ? Group::interrupt
+                            : Group::bank;
+        case Flavour::calls:
+            return n < 30   ? Group::compute
+                   : n < 50 ? Group::port
+                   : n < 90 ? Group::call
+                   : n < 95 ? Group::interrupt
+                            : Group::bank;
+        case Flavour::returns:
+            return n < 30   ? Group::compute
+                   : n < 50 ? Group::port
+                   : n < 70 ? Group::ret
+                   : n < 90 ? Group::call
+                   : n < 95 ? Group::interrupt
+                            : Group::bank;
+        case Flavour::ports:
+            return n < 30   ? Group::compute
+                   : n < 80 ? Group::port
+                   : n < 90 ? Group::memory
+                   : n < 95 ? Group::interrupt
+                            : Group::jump;
+        }
+        return Group::compute;
+    }
+
+    quint32 target() { return quint32(pick(m_size)); }
+
+    quint32 picoBlaze3()
+    {
+        const quint32 x = reg(16) << 8;
+        const quint32 y = reg(16) << 4;
+        const bool immediate = pick(2) == 0;
+        const quint32 source = immediate ? byte() : y;
+        const quint32 other = immediate ? 0 : 0x1000;
+        const quint32 condition = 0x1000 + (quint32(pick(4)) << 10);
+        const quint32 when = pick(3) == 0 ? 0 : condition;
+        switch (group()) {
+        case Group::compute:
+            if (pick(4) == 0)
+                return 0x20000 + x + one({0, 2, 4, 6, 7, 8, 10, 12, 14, 15});
+            return one({0, 0x0A000, 0x0C000, 0x0E000, 0x12000, 0x14000, 0x18000, 0x1A000, 0x1C000, 0x1E000}) + other +
+                   x + source;
+        case Group::port:
+            return one({0x04000, 0x2C000}) + other + x + source;
+        case Group::memory:
+            return one({0x06000, 0x2E000}) + other + x + (immediate ? quint32(pick(64)) : y);
+        case Group::jump:
+            return 0x34000 + (pick(6) == 0 ? 0 : condition) + target();
+        case Group::call:
+            return 0x30000 + when + target();
+        case Group::ret:
+            return pick(3) == 0 ? one({0x38000, 0x38001}) : 0x2A000 + when;
+        case Group::interrupt:
+            return pick(5) == 0 ? 0x3C000 : 0x3C001;
+        case Group::bank:
+            return 0;
+        }
+        return 0;
+    }
+
+    quint32 picoBlaze6()
+    {
+        const quint32 x = reg(16) << 8;
+        const quint32 y = reg(16) << 4;
+        const bool immediate = pick(2) == 0;
+        const quint32 source = immediate ? byte() : y;
+        const quint32 other = immediate ? 0x1000 : 0;
+        const quint32 condition = 0x10000 + (quint32(pick(4)) << 14);
+        const quint32 when = pick(3) == 0 ? 0 : condition;
+        switch (group()) {
+        case Group::compute:
+            if (pick(4) == 0)
+                return 0x14000 + x + one({0, 2, 4, 6, 7, 8, 10, 12, 14, 15, 0x80});
+            return one({0, 0x02000, 0x04000, 0x06000, 0x0C000, 0x0E000, 0x10000, 0x12000, 0x16000, 0x18000, 0x1A000,
+                        0x1C000, 0x1E000}) +
+                   other + x + source;
+        case Group::port:
+            if (pick(4) == 0)
+                return 0x2B000 + (byte() << 4) + quint32(pick(16));
+            return one({0x08000, 0x2C000}) + other + x + source;
+        case Group::memory:
+            return one({0x0A000, 0x2E000}) + other + x + (immediate ? quint32(pick(m_build.scratchpadSize)) : y);
+        case Group::jump:
+            return pick(6) == 0 ? 0x26000 + x + y : 0x22000 + (pick(6) == 0 ? 0 : condition) + target();
+        case Group::call:
+            return pick(6) == 0 ? 0x24000 + x + y : 0x20000 + when + target();
+        case Group::ret:
+            if (pick(4) == 0)
+                return 0x21000 + x + byte();
+            // The conditional form has another number in the middle.
+            return pick(3) == 0 ? one({0x29000, 0x29001}) : when == 0 ? 0x25000 : 0x21000 + when;
+        case Group::interrupt:
+            return pick(5) == 0 ? 0x28000 : 0x28001;
+        case Group::bank:
+            return one({0x37000, 0x37001});
+        }
+        return 0;
+    }
+
+    quint32 mico8()
+    {
+        const quint32 d = reg(32) << 8;
+        const quint32 s = reg(32) << 3;
+        const bool immediate = pick(2) == 0;
+        const quint32 source = immediate ? byte() : s;
+        const quint32 other = immediate ? 0x2000 : 0;
+        const quint32 number = quint32(pick(32)) << 3;
+        const quint32 where = immediate ? number : s + 2;
+        const quint32 offset = (target() - quint32(m_at)) & 0xFFF;
+        switch (group()) {
+        case Group::compute:
+            if (pick(4) == 0)
+                return 0x28000 + d + s + quint32(pick(4));
+            if (pick(8) == 0)
+                return 0x2C000 + quint32(pick(4));
+            return (quint32(pick(10)) << 14) + other + d + source;
+        case Group::port:
+            return 0x2E000 + d + where + quint32(pick(2));
+        case Group::memory:
+            return 0x2E004 + d + where + quint32(pick(2));
+        case Group::jump:
+            return one({0x30000, 0x31000, 0x32000, 0x33000, 0x30000, 0x33000, 0x3B000}) + offset;
+        case Group::call:
+            return one({0x34000, 0x35000, 0x36000, 0x37000, 0x38000}) + offset;
+        case Group::ret:
+            return one({0x39000, 0x3A000});
+        case Group::interrupt:
+            return pick(5) == 0 ? 0x2C004 : 0x2C005;
+        case Group::bank:
+            return 0x10000;
+        }
+        return 0;
+    }
+
+    Core m_core;
+    CoreBuild m_build;
+    Flavour m_flavour;
+    std::mt19937* m_random;
+    int m_size = 0;
+    int m_at = 0;
+};
+
+} // namespace
+
+std::vector<quint32> randomProgram(Core core, const CoreBuild& build, Flavour flavour, std::mt19937* random)
+{
+    return Generator(core, build, flavour, random).program();
+}
+
+Stimulus randomStimulus(Core core, const CoreBuild& build, Flavour flavour, qint64 clocks, std::mt19937* random)
+{
+    Generator generator(core, build, flavour, random);
+    Stimulus stimulus;
+    stimulus.program = generator.program();
+    stimulus.clocks = clocks;
+    stimulus.waitStates = generator.pick(3);
+    for (qint64 n = 0; n < clocks / 2; ++n)
+        stimulus.reads.push_back(quint8(generator.pick(256)));
+    // Some requests last for one or two clocks, some are held.
+    for (qint64 clock = generator.pick(40); clock < clocks; clock += 1 + generator.pick(60)) {
+        const qint64 length = generator.pick(2) == 0 ? 1 + generator.pick(3) : 1 + generator.pick(30);
+        stimulus.interrupts.push_back({clock, length});
+        clock += length;
+    }
+    return stimulus;
+}
+
+CoreBuild randomBuild(Core core, std::mt19937* random)
+{
+    Generator pick(core, {}, Flavour::mixed, random);
+    CoreBuild build;
+    if (core == Core::PicoBlaze6) {
+        build.scratchpadSize = 64 << pick.pick(3);
+        build.vector = pick.pick(2) == 0 ? 0x3FF : pick.pick(4096);
+        build.hwBuild = pick.pick(3) == 0 ? 0 : pick.pick(256);
+    } else if (core == Core::Mico8) {
+        build.scratchpadSize = 32 << pick.pick(4);
+        build.registers = pick.pick(2) == 0 ? 16 : 32;
+        build.addressBits = 8 << pick.pick(3);
+    }
+    return build;
+}

@@ -1,0 +1,46 @@
+#include "RandomWords.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using Where = std::tuple<Core, Language>;
+
+class RandomWords : public testing::TestWithParam<Where>
+{
+};
+
+std::string nameOfCase(const testing::TestParamInfo<Where>& info)
+{
+    return std::string(nameOf(std::get<0>(info.param))) + nameOf(std::get<1>(info.param));
+}
+
+} // namespace
+
+// The model in HDL and the one in C++ were written from the same tables, one clock by clock, the other instruction by
+// instruction.
+TEST_P(RandomWords, theHdlModelDoesWhatTheNaiveModelDoes)
+{
+    const auto [core, language] = GetParam();
+    if (!HdlCore::isToolThere(language))
+        GTEST_SKIP() << qPrintable(HdlCore::toolOf(language)) << " is not installed";
+    int events = 0;
+    for (unsigned seed = 0; seed < 6; ++seed) {
+        std::mt19937 random(1000 * unsigned(core) + seed);
+        const CoreBuild build = seed == 0 ? CoreBuild() : randomBuild(core, &random);
+        const HdlCore hdl(core, language, build);
+        ASSERT_TRUE(hdl.isCompiled()) << qPrintable(hdl.error());
+        for (const Flavour flavour : allFlavours) {
+            const Stimulus stimulus = randomStimulus(core, build, flavour, 3000, &random);
+            const ModelRun model = runModel(core, build, stimulus);
+            const QStringList lines = hdl.run(stimulus);
+            ASSERT_EQ(difference("model", model.lines, nameOf(language), lines), std::string())
+                << "seed " << seed << ", flavour " << int(flavour);
+            events += lines.size();
+        }
+    }
+    EXPECT_GT(events, 6 * 4 * 1000);
+}
+
+INSTANTIATE_TEST_SUITE_P(Cores, RandomWords,
+                         testing::Combine(testing::ValuesIn(allCores), testing::ValuesIn(allLanguages)), nameOfCase);
