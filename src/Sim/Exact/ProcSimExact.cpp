@@ -246,7 +246,9 @@ bool ProcSimEngine::Exact::finishReset(SimOutcome* outcome)
     if (!m_isHalfLost && !Step(this, position, Step::eHalf, outcome).execute())
         return false;
     ProcSimCoreData& core = *m_engine.m_core;
-    m_cells[0] = {position, core.carryBit() != 0, core.zeroBit() != 0, core.bank(), sSimInstr_t::none};
+    // The flags and the bank are cleared when the lowest cell takes the address.
+    m_cells[0] = sCell_t();
+    m_cells[0].position = position;
     core.setCarryBit(0);
     core.setZeroBit(0);
     core.setBank(0);
