@@ -1,5 +1,6 @@
 #include "CoreRun.h"
 
+#include "ExactMico8.h"
 #include "ExactPicoBlaze3.h"
 #include "ExactPicoBlaze6.h"
 
@@ -70,11 +71,11 @@ std::unique_ptr<ExactModel> makeModel(Core core, const CoreBuild& build, const s
 {
     if (core == Core::PicoBlaze3)
         return std::make_unique<ExactPicoBlaze3>(program);
-    ExactPicoBlaze6::Build own;
-    own.scratchpadSize = build.scratchpadSize;
-    own.vector = build.vector;
-    own.hwBuild = build.hwBuild;
-    return std::make_unique<ExactPicoBlaze6>(program, own);
+    if (core == Core::PicoBlaze6)
+        return std::make_unique<ExactPicoBlaze6>(
+            program, ExactPicoBlaze6::Build{build.scratchpadSize, build.vector, build.hwBuild, memorySize(core)});
+    return std::make_unique<ExactMico8>(program, ExactMico8::Build{build.registers, build.scratchpadSize,
+                                                                   build.addressBits, waitStates, memorySize(core)});
 }
 
 ModelRun runModel(Core core, const CoreBuild& build, const Stimulus& stimulus)
