@@ -150,6 +150,7 @@ constexpr ProcTable table()
     t.core.latchesRequests = true;
     t.core.rotatesSource = true;
     t.core.rotateKeepsCarry = true;
+    t.core.hasLongAddresses = true;
     t.core.takesRegModulo = true;
     t.core.accessClocks = 3;
 

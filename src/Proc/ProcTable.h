@@ -50,6 +50,7 @@ struct sCoreTraits_t
     bool rotatesSource = false;      ///< rotations take the second register
     bool rotateKeepsCarry = false;   ///< `ROL` and `ROR` leave carry alone
     bool constantWriteHasLines = false; ///< a write of a constant shows its low four bits above the port
+    bool hasLongAddresses = false;      ///< ports and the scratchpad can have more than 256 addresses, and wait
     bool takesRegModulo = false;        ///< registers that the core is built without are those below
     int accessClocks = 2;               ///< clock cycles of an access to a port or the scratchpad
 };

@@ -34,11 +34,15 @@ struct sSimKey_t
 {
     const char* key;
     int ProcCoreConfig::*value;
+    int minimum;
+    int maximum;
 };
 const sSimKey_t simKeys[] = {
-    {"simExact", &ProcCoreConfig::exactSimulation},
-    {"simExactStops", &ProcCoreConfig::exactStops},
-    {"simCoreWarnings", &ProcCoreConfig::coreWarnings},
+    {"simExact", &ProcCoreConfig::exactSimulation, 0, 1},
+    {"simExactStops", &ProcCoreConfig::exactStops, 0, ProcCoreConfig::allExactStops},
+    {"simCoreWarnings", &ProcCoreConfig::coreWarnings, 0, 1},
+    {"simAddressBits", &ProcCoreConfig::addressBits, 8, 32},
+    {"simWaitStates", &ProcCoreConfig::waitStates, 0, 255},
 };
 
 QString keyOf(const ProcTable& table, const sSimKey_t& option)
@@ -94,7 +98,8 @@ void Processor::readSettings(PrjSettings* project)
             config.*field.value = qBound(row.storedMin, project->value(key, config.*field.value), row.storedMax);
     }
     for (const sSimKey_t& option : simKeys)
-        config.*option.value = qBound(0, project->value(keyOf(table(), option), 0), int(ProcCoreConfig::allExactStops));
+        config.*option.value =
+            qBound(option.minimum, project->value(keyOf(table(), option), config.*option.value), option.maximum);
     setSettings(config);
 }
 
@@ -109,9 +114,10 @@ void Processor::writeSettings(PrjSettings* project) const
             project->setValue(key, m_settings.*field.value);
     }
     const int missing = -1;
+    const ProcCoreConfig defaults;
     for (const sSimKey_t& option : simKeys) {
         const QString key = keyOf(table(), option);
-        if (m_settings.*option.value != 0 || project->value(key, missing) != missing)
+        if (m_settings.*option.value != defaults.*option.value || project->value(key, missing) != missing)
             project->setValue(key, m_settings.*option.value);
     }
 }

@@ -3,6 +3,7 @@
 #include "CoreRun.h"
 
 #include "OpcodeList.h"
+#include "ProcSimCoreData.h"
 #include "ProcSimEngine.h"
 #include "ProcSimObserver.h"
 
@@ -24,6 +25,8 @@ public:
     void forgetEvents() { m_events.clear(); }
     nsProc::ProcSimEngine& engine() { return *m_engine; }
     qint64 clock() const;
+    /// The next instruction is that at the vector; the entry is not seen yet, and may cost no clock.
+    bool isEntryDue() const { return m_engine->core()->interrupt() == nsProc::eIntPending; }
 
 private:
     bool followsInstructions() const override { return m_follows; }

@@ -41,7 +41,7 @@ protected:
         const Flavour flavour = allFlavours[seed % 4];
         const Stimulus stimulus = randomStimulus(core, build, flavour, clocks, &random);
         ExactSide side(core, build, stimulus);
-        const std::unique_ptr<ExactModel> model = makeModel(core, build, stimulus.program);
+        const std::unique_ptr<ExactModel> model = makeModel(core, build, stimulus.program, stimulus.waitStates);
         size_t read = 0;
         model->setRead([&](int) { return read < stimulus.reads.size() ? stimulus.reads[read++] : quint8(0); });
         model->setInterrupt([&](qint64 clock) {

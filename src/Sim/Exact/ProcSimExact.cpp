@@ -304,8 +304,10 @@ void ProcSimEngine::Exact::latchRequests(qint64 end)
 /// Counts the clocks of an instruction, and looks at the interrupt input.
 void ProcSimEngine::Exact::endInstruction(int opcode, int condition, bool isTaken, qint64 start)
 {
-    const bool isAccess = opcode == ocRdprt || opcode == ocWrprt || opcode == ocRdmem || opcode == ocWrmem;
-    const qint64 end = start + (isAccess ? traits().accessClocks : slotClocks);
+    const bool isPort = opcode == ocRdprt || opcode == ocWrprt;
+    const bool isAccess = isPort || opcode == ocRdmem || opcode == ocWrmem;
+    const int waits = isPort && traits().hasLongAddresses ? m_engine.m_config.waitStates : 0;
+    const qint64 end = start + waits + (isAccess ? traits().accessClocks : slotClocks);
     m_engine.m_clock->clocks = end;
     if (!traits().latchesRequests) {
         // The input counts in the first clock alone.

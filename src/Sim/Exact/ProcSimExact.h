@@ -18,7 +18,7 @@ class ProcSimEngine::Exact
 {
 public:
     /// The most clocks that one step can take: an entry, a reset, and an access.
-    static constexpr int maxClocks = 12;
+    static constexpr int maxClocks = 300;
 
     /// @param engine whose state this works on; not owned
     explicit Exact(ProcSimEngine* engine);
@@ -62,6 +62,8 @@ private:
     const ProcSimProgram& program() const { return m_engine.m_program; }
     /// Calls in progress from which on the next one loses an address.
     int stackLimit() const;
+    /// Registers of their own are the upper bytes of an address.
+    bool hasLongAddresses() const { return traits().hasLongAddresses && m_engine.m_config.addressBits > 8; }
     int wrapped(int pointer) const { return pointer & (traits().stackCells - 1); }
     /// The position of an address in the page of another position.
     int positionFrom(int position, int addr) const { return position - position % m_pageSize + addr % m_pageSize; }

@@ -31,7 +31,7 @@ public:
         , m_engine(exact->m_engine)
         , m_instrs(exact->program().instrs())
         , m_scrpd(exact->m_engine.m_core->scrpdValues())
-        , m_scrpdCount(unsigned(exact->m_engine.m_core->scrpdValueCount()))
+        , m_scrpdCount(exact->hasLongAddresses() ? 0 : unsigned(exact->m_engine.m_core->scrpdValueCount()))
         , m_bank(exact->m_engine.m_core->bank())
         , m_carry(exact->m_engine.m_core->carryBit() != 0)
         , m_zero(exact->m_engine.m_core->zeroBit() != 0)

@@ -118,14 +118,27 @@ bool ProcSimEngine::Exact::Step::readHwbld(int* value)
     return m_core.readHwbld(value) || refuse(errHwBuildRd);
 }
 
+int ProcSimEngine::Exact::Step::longAddress(int addr) const
+{
+    const int bits = m_engine.m_config.addressBits;
+    if (!m_exact.traits().hasLongAddresses || bits <= 8 || m_instr.mode != sSimInstr_t::byRegister)
+        return addr;
+    // The registers r13, r14 and r15 are the upper bytes.
+    quint32 result = quint32(addr);
+    for (int byte = 1; byte < 4; ++byte)
+        result |= quint32(m_core.regValue(m_core.bank(), 12 + byte)) << (8 * byte);
+    return int(bits >= 32 ? result : result & ((quint32(1) << bits) - 1));
+}
+
 bool ProcSimEngine::Exact::Step::selectScrpd(int* addr, eSimMsg_t msg)
 {
+    *addr = longAddress(*addr);
     const int size = m_core.scrpdSize();
-    if (*addr < size)
+    if (quint32(*addr) < quint32(size))
         return true;
     if (m_part == eWhole && !m_exact.mayGoOn(msg, ProcCoreConfig::eStopAtScrpd, m_position, &m_outcome))
         return false;
-    *addr = size > 0 ? *addr % size : 0;
+    *addr = size > 0 ? int(quint32(*addr) % quint32(size)) : 0;
     return true;
 }
 
@@ -145,18 +158,21 @@ bool ProcSimEngine::Exact::Step::writeScrpd(int addr, int value)
 
 bool ProcSimEngine::Exact::Step::readPort(int addr, int* value)
 {
-    return m_engine.readPort(addr, alias(1), value, &m_outcome);
+    // What is read may go to a register that is part of the address.
+    m_port = longAddress(addr);
+    return m_engine.readPort(m_port, alias(1), value, &m_outcome);
 }
 
-void ProcSimEngine::Exact::Step::notePortRead(int addr, int value)
+void ProcSimEngine::Exact::Step::notePortRead(int, int value)
 {
     m_outcome.port = -1;
     for (ProcSimObserver* observer : m_engine.m_observers)
-        observer->portRead(addr, value);
+        observer->portRead(m_port, value);
 }
 
 bool ProcSimEngine::Exact::Step::writePort(int addr, int value)
 {
+    addr = longAddress(addr);
     const bool isConstant = m_instr.mode == sSimInstr_t::constantPort;
     m_engine.m_ports->setValue(addr, alias(1), value);
     for (ProcSimObserver* observer : m_engine.m_observers) {

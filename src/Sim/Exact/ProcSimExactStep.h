@@ -109,6 +109,8 @@ private:
         m_outcome.report(msg);
         return false;
     }
+    /// A port or scratchpad address with what other registers add to one in a register.
+    int longAddress(int addr) const;
     /// The cell of the scratchpad that an address selects.
     bool selectScrpd(int* addr, eSimMsg_t msg);
 
@@ -120,6 +122,7 @@ private:
     const nsModAsmFe::Opcode* m_opcode; ///< null for an empty cell
     int m_position;
     ePart_t m_part;
+    int m_port = 0; ///< that is read
     int m_next = sSimInstr_t::none;
     bool m_isTaken = false;
     bool m_resets = false;

@@ -96,7 +96,35 @@ void ProcConfigWidget::addSimPage()
         connect(m_options.first().box, &QCheckBox::toggled, option.box, &QCheckBox::setEnabled);
     }
     connect(m_options.first().box, &QCheckBox::toggled, m_options.last().box, &QCheckBox::setDisabled);
+    if (m_table.core.hasLongAddresses) {
+        addNumber(
+            grid, "addressBits", tr("Address bits of ports and scratchpad:"),
+            tr("Address lines that the core is built with; registers r13 to r15 are the upper bytes of an address "
+               "in a register"),
+            &ProcCoreConfig::addressBits, 8, 32);
+        addNumber(grid, "waitStates", tr("Wait states of ports:"),
+                  tr("Clock cycles that each access to a port waits for its device"), &ProcCoreConfig::waitStates, 0,
+                  255);
+    }
     grid->setRowStretch(grid->rowCount(), 1);
+}
+
+void ProcConfigWidget::addNumber(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip,
+                                 int ProcCoreConfig::*value, int minimum, int maximum)
+{
+    auto* box = new QSpinBox(this);
+    box->setObjectName(QLatin1String(name));
+    box->setRange(minimum, maximum);
+    box->setAlignment(Qt::AlignRight);
+    box->setToolTip(toolTip);
+    auto* title = new MyFieldTitle(text, this);
+    title->setToolTip(toolTip);
+    title->setBuddy(box);
+    box->setAccessibleName(text);
+    const int row = grid->rowCount();
+    grid->addWidget(title, row, 0);
+    grid->addWidget(box, row, 1);
+    m_numbers.append({box, value});
 }
 
 QCheckBox* ProcConfigWidget::addOption(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip)
@@ -148,6 +176,8 @@ QWidget* ProcConfigWidget::createControl(const sProcSetting_t& field)
 
 void ProcConfigWidget::setConfig(const ProcCoreConfig* config)
 {
+    for (const sNumber_t& number : qAsConst(m_numbers))
+        number.box->setValue(config->*number.value);
     for (const sOption_t& option : qAsConst(m_options))
         option.box->setChecked((config->*option.value & option.bit) != 0);
     for (const sField_t& field : m_fields) {
@@ -170,6 +200,8 @@ void ProcConfigWidget::setConfig(const ProcCoreConfig* config)
 
 void ProcConfigWidget::config(ProcCoreConfig* config) const
 {
+    for (const sNumber_t& number : m_numbers)
+        config->*number.value = number.box->value();
     for (const sOption_t& option : m_options) {
         int& value = config->*option.value;
         value = option.box->isChecked() ? value | option.bit : value & ~option.bit;

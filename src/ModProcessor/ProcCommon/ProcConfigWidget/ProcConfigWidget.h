@@ -8,6 +8,7 @@
 
 class QCheckBox;
 class QGridLayout;
+class QSpinBox;
 class QTabWidget;
 
 namespace nsProc {
@@ -47,6 +48,8 @@ private:
     void addField(QGridLayout* grid, int row, const sProcSetting_t& field);
     QWidget* createControl(const sProcSetting_t& field);
     void addSimPage();
+    void addNumber(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip,
+                   int ProcCoreConfig::*value, int minimum, int maximum);
     QCheckBox* addOption(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip);
 
     struct sField_t
@@ -67,6 +70,13 @@ private:
 
     QTabWidget* m_tabs = nullptr;
     QVector<sOption_t> m_options;
+    /// A number that the simulation needs.
+    struct sNumber_t
+    {
+        QSpinBox* box;
+        int ProcCoreConfig::*value;
+    };
+    QVector<sNumber_t> m_numbers;
 };
 
 } // namespace nsProc
