@@ -2,7 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 namespace {
+
+int countAddresses(const QStringList& lines)
+{
+    QSet<QString> addresses;
+    for (const QString& line : lines) {
+        if (line.startsWith("I "))
+            addresses += line.section(' ', 1, 1);
+    }
+    return addresses.size();
+}
 
 using Where = std::tuple<Core, Language>;
 
@@ -40,6 +52,21 @@ TEST_P(RandomWords, theHdlModelDoesWhatTheNaiveModelDoes)
         }
     }
     EXPECT_GT(events, 6 * 4 * 1000);
+}
+
+// Programs that turn in a small circle show little.
+TEST(RandomWords, theProgramsGoFar)
+{
+    for (const Core core : allCores) {
+        for (const Flavour flavour : allFlavours) {
+            int addresses = 0;
+            for (unsigned seed = 0; seed < 10; ++seed) {
+                std::mt19937 random(seed);
+                addresses += countAddresses(runModel(core, {}, randomStimulus(core, {}, flavour, 3000, &random)).lines);
+            }
+            EXPECT_GT(addresses / 10, 80) << nameOf(core) << ", flavour " << int(flavour);
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Cores, RandomWords,
