@@ -17,6 +17,8 @@ public:
 
     std::vector<quint32> program()
     {
+        if (m_core == Core::PicoBlaze6 && m_flavour == Flavour::resets)
+            return resetProgram();
         // Now and then the program ends early, and the core runs into empty memory.
         m_size = pick(3) == 0 ? 100 + pick(200) : memorySize(m_core);
         m_words.resize(std::size_t(m_size));
@@ -47,24 +49,68 @@ private:
         return 0;
     }
 
+    quint32 enable() const
+    {
+        static const quint32 words[] = {p3::INT_ENABLE, p6::INT_ENABLE, m8::INT_ENABLE};
+        return words[int(m_core)];
+    }
+
     /// The program often comes back to its start. It shall then go on in another way: with values from outside,
     /// interrupts on, some calls deep, and to a place that depends on these values.
     void start()
     {
         static const quint32 read[] = {p3::RDPRT, p6::withK(p6::RDPRT, 0, 0), m8::RDPRT};
-        static const quint32 enable[] = {p3::INT_ENABLE, p6::INT_ENABLE, m8::INT_ENABLE};
         static const quint32 call[] = {p3::call(0), p6::call(0), m8::call(1)};
         static const quint32 compare[] = {p3::COMP, p6::withK(p6::COMP, 0, 0), m8::withK(m8::COMP, 0, 0)};
         m_at = 1; // where a Mico8 starts
+        if (pick(2) == 0)
+            put(jumpTo(3, When(1 + pick(4))));
         for (quint32 number = 0; number < 4; ++number)
             put(read[int(m_core)] + (number << 8));
-        put(enable[int(m_core)]);
+        put(enable());
         for (int n = m_flavour == Flavour::returns ? 2 : 8; n > 0; --n)
             put(call[int(m_core)] + (m_core == Core::Mico8 ? 0 : quint32(m_at + 1)));
         for (quint32 n = 0; n < 12; ++n) {
             put(compare[int(m_core)] + (n % 4 << 8) + quint32(pick(100)));
             put(jumpTo(pick(m_size), When::C));
         }
+    }
+
+    /// On and on: puts out registers and scratchpad, takes new values, calls until the core resets itself. The 31st
+    /// call goes to one of 256 words that a value from outside selects, and which is half executed.
+    std::vector<quint32> resetProgram()
+    {
+        m_size = 0x300;
+        m_words.resize(std::size_t(m_size));
+        m_at = 0;
+        for (int cell = 0; cell < 8; ++cell) {
+            put(p6::withK(p6::RDMEM, 9, cell));
+            put(p6::withK(p6::WRPRT, 9, cell));
+        }
+        for (const quint32 bank : {p6::BANK_B, p6::BANK_A}) {
+            put(bank);
+            for (int number = 0; number < 4; ++number)
+                put(p6::withK(p6::WRPRT, number, number));
+        }
+        for (const quint32 bank : {p6::BANK_A, p6::BANK_B}) {
+            put(bank);
+            for (int number = 0; number < 4; ++number) {
+                put(p6::withK(p6::RDPRT, number, number));
+                put(p6::withK(p6::AND, number, 7));
+            }
+            put(p6::withK(p6::RDPRT, 13, 13));
+            put(p6::withK(p6::LOAD, 12, 2));
+        }
+        put(pick(2) == 0 ? p6::INT_ENABLE : p6::INT_DISABLE);
+        put(pick(2) == 0 ? p6::BANK_A : p6::BANK_B);
+        put(p6::withY(p6::ADD, 14, 13));
+        for (int level = 0; level < 30; ++level)
+            put(p6::call(m_at + 1));
+        put(p6::callRegs(12, 13));
+        for (m_at = 0x200; m_at < m_size;)
+            put(instruction(Group(pick(8))));
+        routine();
+        return m_words;
     }
 
     /// What an interrupt comes to: a few instructions without a jump, and the return.
@@ -74,9 +120,14 @@ private:
         if (vector >= m_size)
             m_words.resize(std::size_t(vector) + 1);
         m_at = vector;
-        const int first = 40 + pick(m_size - 60);
+        // The program of resets has nothing from here on.
+        const int first = m_flavour == Flavour::resets ? 0x100 : 40 + pick(m_size - 60);
         put(jumpTo(first, When::always));
         m_at = first;
+        if (m_core == Core::PicoBlaze6 && pick(2) == 0)
+            put(pick(2) == 0 ? p6::BANK_A : p6::BANK_B);
+        if (pick(3) == 0)
+            put(enable());
         for (int n = pick(8); n > 0; --n)
             put(instruction(pick(3) == 0 ? Group::port : Group::compute));
         put(instruction(Group::ret, true));
@@ -109,6 +160,7 @@ private:
             {30, 20, 2, 4, 36, 2, 4, 2},  // calls
             {34, 24, 2, 4, 14, 16, 4, 2}, // returns
             {30, 50, 10, 4, 1, 1, 3, 1},  // ports
+            {44, 24, 8, 8, 7, 4, 3, 2},   // resets, where the core has none of its own
         };
         int n = pick(100);
         int group = 0;
@@ -273,6 +325,103 @@ Stimulus randomStimulus(Core core, const CoreBuild& build, Flavour flavour, qint
         stimulus.resets.push_back({runModel(core, build, before).model->clock(), 1 + 2 * generator.pick(2)});
     }
     return stimulus;
+}
+
+namespace {
+
+struct Operation
+{
+    quint32 word;
+    bool hasConstant;
+};
+
+/// Those that change flags, on register 0; without a constant on what the register holds.
+std::vector<Operation> operations(Core core)
+{
+    std::vector<Operation> all;
+    if (core == Core::Mico8) {
+        for (const quint32 op :
+             {m8::SUB, m8::SUBC, m8::ADD, m8::ADDC, m8::AND, m8::OR, m8::XOR, m8::COMP, m8::TEST, m8::LOAD})
+            all.push_back({m8::withK(op, 0, 0), true});
+        for (const quint32 op : {m8::ROR, m8::ROL, m8::RORC, m8::ROLC})
+            all.push_back({op, false});
+        return all;
+    }
+    const bool isSix = core == Core::PicoBlaze6;
+    for (const quint32 op : {p6::AND, p6::OR, p6::XOR, p6::TEST, p6::TESTC, p6::ADD, p6::ADDC, p6::SUB, p6::SUBC,
+                             p6::COMP, p6::COMPC, p6::LOAD})
+        if (isSix)
+            all.push_back({p6::withK(op, 0, 0), true});
+    for (const quint32 op :
+         {p3::AND, p3::OR, p3::XOR, p3::TEST, p3::ADD, p3::ADDC, p3::SUB, p3::SUBC, p3::COMP, p3::LOAD})
+        if (!isSix)
+            all.push_back({op, true});
+    for (const quint32 low : {0, 2, 4, 6, 7, 8, 10, 12, 14, 15})
+        all.push_back({(isSix ? 0x14000 : 0x20000) + low, false});
+    return all;
+}
+
+/// The flags, the register and the instruction; what has become of register and flags is put out.
+void appendCase(Core core, const Operation& operation, int flags, int a, int b, std::vector<quint32>* words)
+{
+    const quint32 word = operation.word + (operation.hasConstant ? quint32(b) : 0);
+    const int at = int(words->size());
+    std::vector<quint32> part;
+    if (core == Core::Mico8)
+        part = {m8::withK(m8::LOAD, 0, a),
+                m8::CLR_C + quint32(flags & 1),
+                m8::CLR_Z + quint32(flags >> 1),
+                word,
+                m8::jump(2, When::Z),
+                m8::access(m8::WRPRT, 0, 1),
+                m8::jump(2, When::C),
+                m8::access(m8::WRPRT, 0, 2),
+                m8::access(m8::WRPRT, 0, 3)};
+    // A shift of 0 to 3 to the right leaves all four pairs of flags.
+    else if (core == Core::PicoBlaze3)
+        part = {p3::withK(p3::LOAD, 0, a),
+                p3::withK(p3::LOAD, 1, flags),
+                p3::SR0(1),
+                word,
+                p3::jump(at + 6, When::Z),
+                p3::withK(p3::WRPRT, 0, 1),
+                p3::jump(at + 8, When::C),
+                p3::withK(p3::WRPRT, 0, 2),
+                p3::withK(p3::WRPRT, 0, 3)};
+    else
+        part = {p6::withK(p6::LOAD, 0, a),
+                p6::withK(p6::LOAD, 1, flags),
+                p6::SR0(1),
+                word,
+                p6::jump(at + 6, When::Z),
+                p6::withK(p6::WRPRT, 0, 1),
+                p6::jump(at + 8, When::C),
+                p6::withK(p6::WRPRT, 0, 2),
+                p6::withK(p6::WRPRT, 0, 3)};
+    words->insert(words->end(), part.begin(), part.end());
+}
+
+} // namespace
+
+std::vector<Stimulus> flagPrograms(Core core)
+{
+    static const int edges[] = {0, 1, 0x80, 0xFE, 0xFF};
+    std::vector<Stimulus> all;
+    for (const Operation& operation : operations(core)) {
+        Stimulus stimulus;
+        stimulus.program = {core == Core::Mico8 ? m8::NOP : core == Core::PicoBlaze3 ? p3::NOP : p6::NOP};
+        for (int flags = 0; flags < 4; ++flags) {
+            for (const int a : edges) {
+                for (const int b : edges) {
+                    if (operation.hasConstant || b == 0)
+                        appendCase(core, operation, flags, a, b, &stimulus.program);
+                }
+            }
+        }
+        stimulus.clocks = 2 * qint64(stimulus.program.size());
+        all.push_back(stimulus);
+    }
+    return all;
 }
 
 CoreBuild randomBuild(Core core, std::mt19937* random)

@@ -51,7 +51,20 @@ TEST_P(RandomWords, theHdlModelDoesWhatTheNaiveModelDoes)
             events += lines.size();
         }
     }
-    EXPECT_GT(events, 6 * 4 * 1000);
+    EXPECT_GT(events, 6 * 5 * 1000);
+}
+
+TEST_P(RandomWords, flagsAreTheSameForAllValuesAtTheEdges)
+{
+    const auto [core, language] = GetParam();
+    if (!HdlCore::isToolThere(language))
+        GTEST_SKIP() << qPrintable(HdlCore::toolOf(language)) << " is not installed";
+    const HdlCore hdl(core, language);
+    for (const Stimulus& stimulus : flagPrograms(core)) {
+        const QStringList lines = hdl.run(stimulus);
+        ASSERT_EQ(difference("model", runModel(core, {}, stimulus).lines, nameOf(language), lines), std::string());
+        EXPECT_GT(lines.filter("W 03 ").size(), 4);
+    }
 }
 
 // Programs that turn in a small circle show little.
@@ -64,7 +77,7 @@ TEST(RandomWords, theProgramsGoFar)
                 std::mt19937 random(seed);
                 addresses += countAddresses(runModel(core, {}, randomStimulus(core, {}, flavour, 3000, &random)).lines);
             }
-            EXPECT_GT(addresses / 10, 80) << nameOf(core) << ", flavour " << int(flavour);
+            EXPECT_GT(addresses / 10, 50) << nameOf(core) << ", flavour " << int(flavour);
         }
     }
 }
