@@ -2,7 +2,19 @@
 
 #include <gtest/gtest.h>
 
+#include <QSet>
+
 namespace {
+
+int countAddresses(const QStringList& lines)
+{
+    QSet<QString> addresses;
+    for (const QString& line : lines) {
+        if (line.startsWith("I "))
+            addresses += line.section(' ', 1, 1);
+    }
+    return addresses.size();
+}
 
 using Where = std::tuple<Core, Language>;
 
@@ -39,7 +51,35 @@ TEST_P(RandomWords, theHdlModelDoesWhatTheNaiveModelDoes)
             events += lines.size();
         }
     }
-    EXPECT_GT(events, 6 * 4 * 1000);
+    EXPECT_GT(events, 6 * 5 * 1000);
+}
+
+TEST_P(RandomWords, flagsAreTheSameForAllValuesAtTheEdges)
+{
+    const auto [core, language] = GetParam();
+    if (!HdlCore::isToolThere(language))
+        GTEST_SKIP() << qPrintable(HdlCore::toolOf(language)) << " is not installed";
+    const HdlCore hdl(core, language);
+    for (const Stimulus& stimulus : flagPrograms(core)) {
+        const QStringList lines = hdl.run(stimulus);
+        ASSERT_EQ(difference("model", runModel(core, {}, stimulus).lines, nameOf(language), lines), std::string());
+        EXPECT_GT(lines.filter("W 03 ").size(), 4);
+    }
+}
+
+// Programs that turn in a small circle show little.
+TEST(RandomWords, theProgramsGoFar)
+{
+    for (const Core core : allCores) {
+        for (const Flavour flavour : allFlavours) {
+            int addresses = 0;
+            for (unsigned seed = 0; seed < 10; ++seed) {
+                std::mt19937 random(seed);
+                addresses += countAddresses(runModel(core, {}, randomStimulus(core, {}, flavour, 3000, &random)).lines);
+            }
+            EXPECT_GT(addresses / 10, 50) << nameOf(core) << ", flavour " << int(flavour);
+        }
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Cores, RandomWords,
