@@ -117,15 +117,15 @@ HdlCore::HdlCore(Core core, Language language, const CoreBuild& build, const QSt
     , m_build(build)
 {
     const QString name = nameOf(core);
-    const QString bench = folder + "/bench/" + name + "_bench";
+    const QString bench = folder + "/../../tools/nalvo-prove/hdl/" + name + "_bench";
     const QString path = source.isEmpty() ? sourceOf(core, language) : source;
     m_dir.setAutoRemove(!qEnvironmentVariableIsSet("NALVO_KEEP_CORES"));
     if (language == Language::Vhdl) {
-        call("ghdl", {"-a", "--std=93", folder + "/bench/bench_stimulus.vhd"}) &&
+        call("ghdl", {"-a", "--std=93", folder + "/../../tools/nalvo-prove/hdl/bench_stimulus.vhd"}) &&
             call("ghdl", {"-a", "--std=93", path}) && call("ghdl", {"-a", "--std=93", bench + ".vhd"});
         return;
     }
-    QStringList args = {"-g2001",        "-Wall", "-Wno-timescale", "-I", folder + "/bench", "-s",
+    QStringList args = {"-g2001",        "-Wall", "-Wno-timescale", "-I", folder + "/../../tools/nalvo-prove/hdl", "-s",
                         name + "_bench", "-o",    "bench.vvp"};
     if (core == Core::PicoBlaze6)
         args += {QString("-P%1_bench.hwbuild=%2").arg(name).arg(build.hwBuild),

@@ -1,13 +1,13 @@
 #include "SimOptions.h"
 
 #include "BatchFiles.h"
+#include "BatchNumbers.h"
 #include "BatchOutput.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cctype>
 
 namespace nsNalvoSim {
 
@@ -97,36 +97,6 @@ void setup(QCommandLineParser* parser)
     parser->addPositionalArgument("PROJECT.nalvo", tr("The project to run."), "[--] PROJECT.nalvo");
 }
 
-/// A number, decimal or with 0x hexadecimal.
-/// @return false, with nothing changed, if the text is anything else or the number is out of range
-bool toNumber(const QString& text, qint64 minimum, qint64 maximum, qint64* value)
-{
-    const bool isHex = text.startsWith("0x", Qt::CaseInsensitive);
-    const QString digits = isHex ? text.mid(2) : text;
-    const bool isClean = std::all_of(digits.cbegin(), digits.cend(), [isHex](QChar c) {
-        const char ascii = c.toLatin1();
-        return (ascii >= '0' && ascii <= '9') || (isHex && std::isxdigit(static_cast<unsigned char>(ascii)) != 0);
-    });
-    bool ok = false;
-    const qint64 number = digits.toLongLong(&ok, isHex ? 16 : 10);
-    if (!isClean || !ok || number < minimum || number > maximum)
-        return false;
-    *value = number;
-    return true;
-}
-
-/// Reads the value of an option, if that is given.
-bool readNumber(const QCommandLineParser& parser, const QString& name, qint64 minimum, qint64 maximum, qint64* value)
-{
-    if (!parser.isSet(name) || toNumber(parser.value(name), minimum, maximum, value))
-        return true;
-    return wrongUsage(
-        maximum == SimOptions::unbounded
-            ? tr("--%1 takes a number from %2 on: %3").arg(name, QString::number(minimum), parser.value(name))
-            : tr("--%1 takes a number from %2 to %3: %4")
-                  .arg(name, QString::number(minimum), QString::number(maximum), parser.value(name)));
-}
-
 } // namespace
 
 SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
@@ -159,34 +129,9 @@ bool SimOptions::readInterrupts(const QCommandLineParser& parser)
 {
     if (!readNumber(parser, "interrupt-every", 1, unbounded, &interruptEvery))
         return false;
-    for (const QString& list : parser.values("interrupt-at")) {
-        for (const QString& text : list.split(',')) {
-            qint64 number = 0;
-            if (!toNumber(text, 1, unbounded, &number))
-                return wrongUsage(tr("--interrupt-at takes numbers from 1 on, with commas between: %1").arg(list));
-            interruptAt.push_back(number);
-        }
-    }
-    std::sort(interruptAt.begin(), interruptAt.end());
-    interruptAt.erase(std::unique(interruptAt.begin(), interruptAt.end()), interruptAt.end());
-    return readRequests(parser);
-}
-
-bool SimOptions::readRequests(const QCommandLineParser& parser)
-{
     isExact = parser.isSet("exact");
     tracesClocks = parser.isSet("trace-clocks");
-    for (const QString& text : parser.values("interrupt-at-clock")) {
-        const int colon = text.indexOf(':');
-        qint64 clock = 0;
-        qint64 length = 1;
-        if (!toNumber(text.left(colon), 0, unbounded, &clock) ||
-            (colon >= 0 && !toNumber(text.mid(colon + 1), 1, unbounded, &length)))
-            return wrongUsage(
-                tr("--interrupt-at-clock takes a clock from 0 on, and after : a length from 1 on: %1").arg(text));
-        interruptClocks.push_back({clock, length});
-    }
-    return true;
+    return readInterruptNumbers(parser, &interruptAt) && readInterruptClocks(parser, &interruptClocks);
 }
 
 bool SimOptions::readLabels(const QCommandLineParser& parser)
@@ -217,15 +162,13 @@ bool SimOptions::readInputs(const QCommandLineParser& parser)
 
 bool SimOptions::readPort(const QString& text)
 {
-    const int equals = text.indexOf('=');
-    qint64 port = 0;
-    if (equals < 0 || !toNumber(text.left(equals), 0, 255, &port))
-        return wrongUsage(tr("--port takes an address from 0 to 255, = and a file: %1").arg(text));
-    if (text.size() == equals + 1)
-        return wrongUsage(tr("The name of the file of a port is empty: %1").arg(text));
-    if (portFiles.contains(int(port)))
+    int port = 0;
+    QString file;
+    if (!readPortFile(text, &port, &file))
+        return false;
+    if (portFiles.contains(port))
         return wrongUsage(tr("Two files for one port: %1").arg(text));
-    portFiles.insert(int(port), text.mid(equals + 1));
+    portFiles.insert(port, file);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BatchNumbers.h"
 #include "BatchOptions.h"
 
 #include <QMap>
@@ -7,7 +8,6 @@
 #include <QStringList>
 #include <QtGlobal>
 
-#include <limits>
 #include <utility>
 #include <vector>
 
@@ -18,7 +18,7 @@ namespace nsNalvoSim {
 /// What the command line asks for.
 struct SimOptions : nsBatch::BatchOptions
 {
-    static constexpr qint64 unbounded = std::numeric_limits<qint64>::max();
+    static constexpr qint64 unbounded = nsBatch::unbounded;
 
     /// Reads the arguments, and shows help, version or what is wrong with them.
     eParse_t parse(const QStringList& arguments);
@@ -49,7 +49,6 @@ struct SimOptions : nsBatch::BatchOptions
 private:
     bool readBounds(const QCommandLineParser& parser);
     bool readInterrupts(const QCommandLineParser& parser);
-    bool readRequests(const QCommandLineParser& parser);
     bool readLabels(const QCommandLineParser& parser);
     bool readInputs(const QCommandLineParser& parser);
     bool readPort(const QString& text);

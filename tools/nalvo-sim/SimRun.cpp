@@ -184,7 +184,7 @@ bool SimRun::startSim()
     m_engine->addObserver(&m_reads);
     if (m_trace.isOpen()) {
         m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get(), m_options.tracesClocks);
-        m_reads.setTrace(m_tracer.get());
+        m_reads.setBeforeWait([this] { m_tracer->flushExecuted(); });
         m_engine->addObserver(m_tracer.get());
     }
     if (m_vcd.isOpen()) {

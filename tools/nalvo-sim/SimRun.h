@@ -63,7 +63,7 @@ private:
     SimOptions m_options;
     nsBatch::BatchProject& m_batch;
     SimProject m_project;
-    SimPortReads m_reads;
+    nsBatch::SimPortReads m_reads;
     std::unique_ptr<SimTrace> m_tracer; ///< null without a trace
     std::shared_ptr<nsProc::ProcSimWaveData> m_waves;
     std::unique_ptr<nsProc::ProcSimWaveRecorder> m_recorder; ///< null without waves

@@ -42,14 +42,16 @@ module lm8_bench;
         .intr_ack (intr_ack)
     );
 
-    // What the arguments and files say
+    localparam integer full_size = 4096; // words that the core can address
+
+    // What the arguments and files say, and the course of the run
 `include "stimulus.vh"
 
     // The program memory: a synchronous block RAM, whose register is 0 at power-up
-    reg [17:0] memory [0:words-1];
+    reg [17:0] memory [0:4095];
     always @(posedge clk)
         if (prom_en)
-            prom_data <= memory[prom_addr % words];
+            prom_data <= memory[prom_addr % modulus];
 
     assign rst_n = !reset;
     assign ext_io_din = read_value;
@@ -92,28 +94,40 @@ module lm8_bench;
         end
     endtask
 
-    initial begin
-        if (!$value$plusargs("waits=%d", waits))
-            waits = 0;
-        load_stimulus;
-        clk = 1'b0;
-        prom_data = 18'h00000;
-        in_reset = 1'b1;
-        begins = 1'b0;
-        waited = 0;
-        // Four clocks of reset, then clock -start.
-        for (clock = -start - 4; clock < clocks; clock = clock + 1) begin
-            drive;
+    // An instruction has come to its end: the next one is read.
+    wire has_advanced = prom_en && prom_addr == 12'h002;
+
+    task clear_bench;
+        begin
+            prom_data = 18'h00000;
+            if (!$value$plusargs("waits=%d", waits))
+                waits = 0;
+        end
+    endtask
+
+    task begin_observing;
+        begin
+            in_reset = 1'b1;
+            begins = 1'b0;
+            waited = 0;
+        end
+    endtask
+
+    task prepare_clock;
+        ext_ready = 1'b1;
+    endtask
+
+    task run_clock;
+        begin
             ext_ready = waited >= waits;
             if (ext_io_rd || ext_io_wr)
                 waited = ext_ready ? 0 : waited + 1;
             #5 observe;
-            was_read = ext_io_rd && ext_ready && !reset;
+            was_read = ext_io_rd && ext_ready && !reset && !aside;
             clk = 1'b1;
             #5 clk = 1'b0;
             if (was_read)
                 next_read;
         end
-        $finish;
-    end
+    endtask
 endmodule

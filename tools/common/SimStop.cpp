@@ -7,7 +7,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace nsNalvoSim {
+namespace nsBatch {
 
 namespace {
 
@@ -58,4 +58,4 @@ bool waitForInput(int fd)
     return false;
 }
 
-} // namespace nsNalvoSim
+} // namespace nsBatch

@@ -42,14 +42,16 @@ module kcpsm6_bench;
         .clk (clk)
     );
 
-    // What the arguments and files say
+    localparam integer full_size = 4096; // words that the core can address
+
+    // What the arguments and files say, and the course of the run
 `include "stimulus.vh"
 
     // The program memory: a synchronous block RAM
-    reg [17:0] memory [0:words-1];
+    reg [17:0] memory [0:4095];
     always @(posedge clk)
         if (bram_enable)
-            instruction <= memory[address % words];
+            instruction <= memory[address % modulus];
 
     assign in_port = read_value;
 
@@ -95,22 +97,32 @@ module kcpsm6_bench;
         end
     endtask
 
-    initial begin
-        load_stimulus;
-        clk = 1'b0;
+    // The first instruction has found the address of the second one.
+    wire has_advanced = address == 12'h001;
+
+    task clear_bench;
         instruction = 18'h00000;
-        in_reset = 1'b1;
-        slot_clock = -start;
-        // Four clocks of reset, then clock -start.
-        for (clock = -start - 4; clock < clocks; clock = clock + 1) begin
-            drive;
+    endtask
+
+    task begin_observing;
+        begin
+            in_reset = 1'b1;
+            slot_clock = -start;
+        end
+    endtask
+
+    task prepare_clock;
+        ;
+    endtask
+
+    task run_clock;
+        begin
             #5 observe;
-            was_read = read_strobe && !reset;
+            was_read = read_strobe && !reset && !aside;
             clk = 1'b1;
             #5 clk = 1'b0;
             if (was_read)
                 next_read;
         end
-        $finish;
-    end
+    endtask
 endmodule

@@ -1,6 +1,6 @@
 #pragma once
 
-namespace nsNalvoSim {
+namespace nsBatch {
 
 /// From here on, an interrupt signal asks the run to end, instead of killing the process. A second signal kills the
 /// process.
@@ -13,4 +13,4 @@ bool isStopRequested();
 /// @return false if the signal has come
 bool waitForInput(int fd);
 
-} // namespace nsNalvoSim
+} // namespace nsBatch
