@@ -12,6 +12,7 @@
 #include "ProcSimVcd.h"
 #include "ProcTable.h"
 #include "SimLabels.h"
+#include "SimMessages.h"
 #include "SimStop.h"
 
 #include <QCoreApplication>
@@ -217,12 +218,10 @@ void SimRun::setEnd(SimEnd::eReason_t reason, const QString& text, const QString
 
 void SimRun::execute()
 {
-    m_nextInterrupt = m_options.interruptEvery > 0 ? m_options.interruptEvery : SimOptions::unbounded;
-    if (!m_options.interruptAt.empty())
-        m_nextInterrupt = std::min(m_nextInterrupt, m_options.interruptAt.front());
+    m_interrupts = nsBatch::InterruptNumbers(m_options.interruptEvery, m_options.interruptAt);
     const int until = m_until != nullptr ? m_engine->program().positionOf(m_until) : nsProc::sSimInstr_t::none;
     while (!isBoundReached()) {
-        if (m_instructions + 1 == m_nextInterrupt)
+        if (m_instructions + 1 == m_interrupts.next())
             raiseInterrupt();
         nsProc::SimOutcome outcome;
         m_instructions += m_engine->run(nextBlock(), until, &outcome);
@@ -261,7 +260,7 @@ qint64 SimRun::nextBlock() const
     const qint64 bounded = clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0);
     count = std::min(count, m_engine->intLine() != nullptr ? std::max(bounded - 1, qint64(1)) : bounded);
     // The instruction that takes the interrupt starts a block.
-    return std::min(count, m_nextInterrupt - m_instructions - 1);
+    return std::min(count, m_interrupts.next() - m_instructions - 1);
 }
 
 void SimRun::raiseInterrupt()
@@ -269,14 +268,7 @@ void SimRun::raiseInterrupt()
     // A second call would withdraw a pending interrupt.
     if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() != nsProc::eIntPending)
         m_engine->toggleInterrupt();
-    const std::vector<qint64>& list = m_options.interruptAt;
-    while (m_interruptAt < list.size() && list[m_interruptAt] <= m_nextInterrupt)
-        ++m_interruptAt;
-    const qint64 listed = m_interruptAt < list.size() ? list[m_interruptAt] : SimOptions::unbounded;
-    const qint64 every = m_options.interruptEvery;
-    const qint64 rounds = every > 0 ? m_nextInterrupt / every + 1 : 0;
-    const bool isRegular = every > 0 && rounds <= SimOptions::unbounded / every;
-    m_nextInterrupt = isRegular ? std::min(listed, rounds * every) : listed;
+    m_interrupts.pass();
 }
 
 bool SimRun::goesOn(const nsProc::SimOutcome& outcome)
@@ -309,32 +301,12 @@ bool SimRun::goesOn(const nsProc::SimOutcome& outcome)
 
 void SimRun::show(const nsProc::SimOutcome& outcome) const
 {
-    for (const nsProc::sSimReport_t& report : outcome.reports)
-        show(report);
+    showReports(&m_batch.msg(), *m_project.links, *m_engine, outcome);
 }
 
 void SimRun::show(const nsProc::sSimReport_t& report) const
 {
-    BatchMsg& msg = m_batch.msg();
-    switch (report.kind) {
-    case nsProc::sSimReport_t::eKindUnsupported:
-        nsModAsmFe::AsmFeMsgHndlr::showMsg(&msg, nsModAsmFe::errOcUnsupported, link(m_engine->programCounter()),
-                                           report.arg);
-        break;
-    case nsProc::sSimReport_t::eKindInternal:
-        msg.showErrorMessage(report.text(), QUrl(), {});
-        break;
-    case nsProc::sSimReport_t::eKindMessage: {
-        QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
-        help.setFragment(report.key());
-        // Where the core goes on, the program counter has left the place.
-        const Opcode* place =
-            report.isOfCore() ? m_engine->program().opcode(std::max(m_engine->begun(), 0)) : m_engine->programCounter();
-        msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
-                        link(place));
-        break;
-    }
-    }
+    showReport(&m_batch.msg(), *m_project.links, *m_engine, report);
 }
 
 nsModMsg::MsgUrl SimRun::link(const Opcode* opcode) const

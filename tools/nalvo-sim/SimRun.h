@@ -2,6 +2,7 @@
 
 #include "BatchFiles.h"
 #include "BatchProject.h"
+#include "InterruptNumbers.h"
 #include "ProcSimEngine.h"
 #include "ProcSimWaveRecorder.h"
 #include "SimDump.h"
@@ -76,8 +77,7 @@ private:
     SimEnd m_end;
     QString m_wrongUsage; ///< of options that the project does not fit; empty if it fits
     qint64 m_instructions = 0;
-    qint64 m_nextInterrupt = SimOptions::unbounded; ///< number of the instruction
-    size_t m_interruptAt = 0;                       ///< index of the next one of the list
+    nsBatch::InterruptNumbers m_interrupts;
 };
 
 } // namespace nsNalvoSim

@@ -1,0 +1,302 @@
+#include "ProveRun.h"
+
+#include "BatchOutput.h"
+#include "ProcTable.h"
+#include "SimStop.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+#include <algorithm>
+
+#include <unistd.h>
+
+namespace nsNalvoProve {
+
+using namespace nsBatch;
+
+namespace {
+
+const size_t eventsShown = 10;
+
+QString tr(const char* text)
+{
+    return QCoreApplication::translate("nalvo-prove", text);
+}
+
+BatchMsgStyle style(const ProveOptions& options)
+{
+    BatchMsgStyle result;
+    result.quiet = options.quiet;
+    result.json = options.json;
+    return result;
+}
+
+QStringList lastTexts(const std::vector<ProveEvent>& events, size_t end)
+{
+    QStringList texts;
+    for (size_t i = end > eventsShown ? end - eventsShown : 0; i < std::min(end, events.size()); ++i)
+        texts.append(events[i].text());
+    return texts;
+}
+
+qint64 fetchesIn(const std::vector<ProveEvent>& events, size_t end)
+{
+    return std::count_if(events.begin(), events.begin() + long(std::min(end, events.size())),
+                         [](const ProveEvent& event) { return event.kind == ProveEvent::eFetch; });
+}
+
+} // namespace
+
+ProveRun::ProveRun(const ProveOptions& options)
+    : m_options(options)
+    , m_batch(BatchProject::create(style(options)))
+{
+}
+
+int ProveRun::run()
+{
+    int status = assemble();
+    // What is wrong with the core is said before a long simulation.
+    for (const auto step : {&ProveRun::prepareCore, &ProveRun::simulate, &ProveRun::compare}) {
+        if (status == exitEqual)
+            status = (this->*step)();
+    }
+    hideProgress();
+    return status;
+}
+
+int ProveRun::fail(const QString& text) const
+{
+    printError(text);
+    return exitNothingProved;
+}
+
+void ProveRun::note(const QString& text) const
+{
+    if (!m_options.quiet && !m_options.json)
+        printError(text);
+}
+
+int ProveRun::assemble()
+{
+    const QString project = m_options.project.isEmpty() ? QString() : QFileInfo(m_options.project).absoluteFilePath();
+    if (!m_batch.open(project))
+        return exitNothingProved;
+    m_batch.assemble(nsModAsmFe::AsmFeConfig::eEventNone);
+    if (!m_batch.assembler().isAssembled())
+        return fail(tr("not assembled"));
+    const nsProc::Processor* processor = m_batch.processor();
+    m_kind = processor != nullptr ? CoreKind::find(processor->table().cfgSection) : nullptr;
+    if (m_kind == nullptr)
+        return fail(tr("The project has no processor that can be simulated."));
+    m_project = {&m_batch.assembler().program(), &m_batch.asmMsg(), &m_batch.msg(), &processor->table(),
+                 *processor->runConfig()};
+    m_project.config.exactSimulation = 1;
+    if (m_project.config.pageCount <= 1)
+        m_project.config.pageSize = std::max(m_project.config.pageSize, m_kind->fullSize);
+    if (m_project.config.pageSize > m_kind->fullSize)
+        return fail(tr("A page of the memory is larger than what %1 can address: %2 words")
+                        .arg(m_kind->shown, QString::number(m_project.config.pageSize)));
+    return exitEqual;
+}
+
+int ProveRun::prepareCore()
+{
+    const QString failure = m_source.find(*m_kind, m_options.core, m_options.language);
+    if (!failure.isEmpty())
+        return fail(failure);
+    m_core = std::make_unique<CoreRun>(*m_kind, m_source, m_project.config, m_options.hwbuild);
+    m_result.core = shownPath(m_source.files().first());
+    m_result.tool = m_core->toolName();
+    return endOf(m_core->prepare());
+}
+
+/// @return exitEqual for an end that is none
+int ProveRun::endOf(CoreRun::eEnd_t end)
+{
+    if (end == CoreRun::endStopped) {
+        hideProgress();
+        printError(tr("interrupted"));
+        return exitSignal;
+    }
+    if (end != CoreRun::endFailed)
+        return exitEqual;
+    hideProgress();
+    return fail(m_core->failure());
+}
+
+int ProveRun::simulate()
+{
+    m_exact = std::make_unique<ExactRun>(m_project, m_options);
+    if (!m_exact->start())
+        return exitNothingProved;
+    m_exact->run(m_options.instructions, m_options.clocks);
+    if (m_exact->end() == ExactRun::endSignal) {
+        printError(tr("interrupted"));
+        return exitSignal;
+    }
+    if (m_exact->end() == ExactRun::endStopped || m_exact->end() == ExactRun::endFile)
+        return fail(tr("nothing proved: %1").arg(m_exact->endText()));
+    if (m_exact->instructions() == 0)
+        return fail(tr("nothing proved: no instruction was executed: %1").arg(m_exact->endText()));
+    m_trace = m_exact->trace();
+    m_result.end = m_exact->endText();
+    m_result.banks = m_kind->core == CoreKind::corePicoBlaze6 ? 2 : 1;
+    return exitEqual;
+}
+
+CoreStimulus ProveRun::stimulusOf(const ExactRun& exact) const
+{
+    return {exact.words(), m_exact->scratchpad(), exact.reads(), exact.requests(), exact.clocks(), true};
+}
+
+int ProveRun::compareEvents(std::vector<ProveEvent>* seen, ProveState* state, bool* isEqual)
+{
+    const std::vector<ProveEvent>& ours = m_trace.events;
+    const auto take = [&](const ProveEvent& event) {
+        seen->push_back(event);
+        showProgress(event.clock);
+        return seen->size() <= ours.size() && ours[seen->size() - 1].equals(event);
+    };
+    const CoreRun::eEnd_t end = m_core->run(stimulusOf(*m_exact), take, state);
+    *isEqual = end == CoreRun::endDone && seen->size() == ours.size();
+    return endOf(end);
+}
+
+int ProveRun::compare()
+{
+    std::vector<ProveEvent> seen;
+    ProveState state;
+    bool isEqual = false;
+    const int status = compareEvents(&seen, &state, &isEqual);
+    if (status != exitEqual)
+        return status;
+    if (!isEqual)
+        return showDifference(seen);
+    m_result.instructions = m_exact->instructions();
+    m_result.events = qint64(m_trace.events.size());
+    m_result.clocks = m_exact->clocks();
+    m_result.compared = QStringList{tr("fetches, accesses, interrupt entries and resets, with their clocks")};
+    const auto noteState = [this](bool isThere, const QString& name) {
+        (isThere ? m_result.compared : m_result.notCompared).append(name);
+    };
+    noteState(!state.registers.empty(), tr("%1 registers").arg(m_trace.state.registers.size()));
+    noteState(!state.scratchpad.empty(), tr("%1 cells of the scratchpad").arg(state.scratchpad.size()));
+    noteState(state.carry >= 0 && state.zero >= 0, tr("C and Z at the end"));
+    m_result.what = stateDifference(m_trace.state, state, m_result.banks);
+    return m_result.what.isEmpty() ? report() : findState();
+}
+
+/// The instruction that leaves the first difference of the states, while all events are equal.
+int ProveRun::findState()
+{
+    qint64 same = 0;
+    qint64 different = m_exact->instructions();
+    ProveState ours;
+    ProveState others;
+    qint64 clock = 0;
+    int position = -1;
+    while (different - same > 1) {
+        const qint64 middle = same + (different - same) / 2;
+        const int status = statesAfter(middle, &ours, &others, &clock, &position);
+        if (status != exitEqual)
+            return status;
+        (stateDifference(ours, others, m_result.banks).isEmpty() ? same : different) = middle;
+    }
+    const int status = statesAfter(different, &ours, &others, &clock, &position);
+    if (status != exitEqual)
+        return status;
+    m_result.isEqual = false;
+    m_result.what = stateDifference(ours, others, m_result.banks);
+    m_result.place = m_exact->place(position);
+    m_result.simulationState = ours;
+    m_result.coreState = others;
+    m_result.stateClock = clock;
+    m_result.instructions = same;
+    const auto end = std::find_if(m_trace.events.begin(), m_trace.events.end(),
+                                  [clock](const ProveEvent& event) { return event.clock >= clock; });
+    m_result.events = end - m_trace.events.begin();
+    m_result.simulationEvents = lastTexts(m_trace.events, size_t(m_result.events));
+    m_result.coreEvents = m_result.simulationEvents;
+    return report();
+}
+
+int ProveRun::showDifference(const std::vector<ProveEvent>& seen)
+{
+    const std::vector<ProveEvent>& ours = m_trace.events;
+    size_t at = 0;
+    while (at < ours.size() && at < seen.size() && ours[at].equals(seen[at]))
+        ++at;
+    const qint64 begun = fetchesIn(ours, at + 1);
+    m_result.isEqual = false;
+    m_result.instructions = std::max(begun - 1, qint64(0));
+    m_result.events = qint64(at);
+    m_result.clocks = at < ours.size() ? ours[at].clock : m_exact->clocks();
+    m_result.simulationEvents = lastTexts(ours, at + 1);
+    m_result.coreEvents = lastTexts(seen, at + 1);
+    m_result.what = tr("%1 in the simulation, %2 in the core")
+                        .arg(at < ours.size() ? ours[at].text() : tr("nothing more"),
+                             at < seen.size() ? seen[at].text() : tr("nothing more"));
+    // An entry or a reset belongs to what came before it.
+    for (size_t i = std::min(at + 1, ours.size()); i > 0 && m_result.place.isEmpty(); --i)
+        m_result.place = m_exact->place(ours[i - 1].position);
+    int position = -1;
+    const int status = statesAfter(m_result.instructions, &m_result.simulationState, &m_result.coreState,
+                                   &m_result.stateClock, &position);
+    return status == exitEqual ? report() : status;
+}
+
+int ProveRun::statesAfter(qint64 instructions, ProveState* ours, ProveState* others, qint64* clock, int* position)
+{
+    ExactRun again(m_project, m_options);
+    if (!again.startAgain(*m_exact))
+        return exitNothingProved;
+    again.run(instructions, unbounded);
+    const ProveTrace trace = again.trace();
+    *ours = trace.state;
+    *clock = again.clocks();
+    *position = -1;
+    for (const ProveEvent& event : trace.events)
+        *position = event.kind == ProveEvent::eFetch ? event.position : *position;
+    *others = ProveState();
+    return endOf(m_core->run(
+        stimulusOf(again), [](const ProveEvent&) { return true; }, others));
+}
+
+int ProveRun::report()
+{
+    hideProgress();
+    print(stdout, m_options.json ? m_result.json() : m_result.text());
+    note(tr("%1 under %2").arg(m_result.core, m_result.tool));
+    if (!m_result.compared.isEmpty())
+        note(tr("compared: %1").arg(m_result.compared.join(", ")));
+    if (!m_result.notCompared.isEmpty())
+        note(tr("not compared, as the source does not show it: %1").arg(m_result.notCompared.join(", ")));
+    if (!m_result.end.isEmpty())
+        note(tr("the run ended early: %1").arg(m_result.end));
+    const QString failure = stdoutFailure();
+    if (!failure.isEmpty())
+        return fail(tr("Can not write standard output: %1").arg(failure));
+    return m_result.isEqual ? exitEqual : exitDifferent;
+}
+
+void ProveRun::showProgress(qint64 clock)
+{
+    const int percent = int(clock * 100 / std::max(m_exact->clocks(), qint64(1)));
+    if (percent == m_percent || m_options.quiet || isatty(STDERR_FILENO) == 0)
+        return;
+    m_percent = percent;
+    print(stderr,
+          '\r' +
+              tr("%1 % of %2 clocks").arg(QString::number(percent), QString::number(m_exact->clocks())).toLocal8Bit());
+}
+
+void ProveRun::hideProgress()
+{
+    if (m_percent >= 0)
+        print(stderr, "\r\033[K");
+    m_percent = -1;
+}
+
+} // namespace nsNalvoProve

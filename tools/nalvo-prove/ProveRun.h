@@ -1,0 +1,58 @@
+#pragma once
+
+#include "BatchProject.h"
+#include "CoreRun.h"
+#include "CoreSource.h"
+#include "ExactRun.h"
+#include "ProveOptions.h"
+#include "ProveResult.h"
+
+#include <memory>
+
+namespace nsNalvoProve {
+
+enum eExitStatus_t { exitEqual = 0, exitDifferent = 1, exitNothingProved = 2, exitSignal = 130 };
+
+/// One proof, from the project to the result that is shown.
+class ProveRun
+{
+public:
+    explicit ProveRun(const ProveOptions& options);
+
+    /// @return exit status; failures have been reported
+    int run();
+
+private:
+    // Each of these returns exitEqual to go on, or the exit status after a reported error.
+    int assemble();
+    int simulate();
+    int prepareCore();
+    int compare();
+
+    int endOf(CoreRun::eEnd_t end);
+    CoreStimulus stimulusOf(const ExactRun& exact) const;
+    /// The events and then the states of both sides.
+    int compareEvents(std::vector<ProveEvent>* seen, ProveState* state, bool* isEqual);
+    int showDifference(const std::vector<ProveEvent>& seen);
+    /// Both states after so many instructions, where the events of that many are equal.
+    int statesAfter(qint64 instructions, ProveState* ours, ProveState* others, qint64* clock, int* position);
+    int findState();
+    int report();
+    void showProgress(qint64 clock);
+    void hideProgress();
+    int fail(const QString& text) const;
+    void note(const QString& text) const;
+
+    ProveOptions m_options;
+    nsBatch::BatchProject& m_batch;
+    ProveProject m_project;
+    const CoreKind* m_kind = nullptr;
+    CoreSource m_source;
+    std::unique_ptr<ExactRun> m_exact;
+    std::unique_ptr<CoreRun> m_core;
+    ProveTrace m_trace; ///< of the simulation
+    ProveResult m_result;
+    int m_percent = -1; ///< that is shown
+};
+
+} // namespace nsNalvoProve
