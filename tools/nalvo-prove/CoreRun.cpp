@@ -115,15 +115,24 @@ bool CoreRun::copySources()
     return true;
 }
 
-bool CoreRun::copyBench()
+bool CoreRun::copyBench(bool showsFlags)
 {
     const QString bench = QString("%1_bench").arg(m_kind.name);
     const QStringList names = m_source.isVhdl() ? QStringList{"bench_stimulus.vhd", bench + ".vhd", "unisim.vhd"}
                                                 : QStringList{"stimulus.vh", bench + ".v", "primitives.v"};
-    return std::all_of(names.cbegin(), names.cend(), [this](const QString& name) {
+    return std::all_of(names.cbegin(), names.cend(), [&](const QString& name) {
         QFile file(":/prove/" + name);
-        // The last one is not there for each language.
-        return !file.open(QIODevice::ReadOnly) || write(name, file.readAll());
+        if (!file.open(QIODevice::ReadOnly))
+            return false;
+        QByteArray text = file.readAll();
+        // In Verilog the flags are named on the command line.
+        if (showsFlags)
+            text.replace("-- FLAGS",
+                         QString("report_event(\"FLAGS \" & hex(\"\" & << signal core.%1 : std_logic >>) & ' ' & "
+                                 "hex(\"\" & << signal core.%2 : std_logic >>), 0);")
+                             .arg(m_source.carryName(), m_source.zeroName())
+                             .toLatin1());
+        return write(name, text);
     });
 }
 
@@ -207,27 +216,28 @@ CoreRun::eEnd_t CoreRun::prepare()
     }
     if (!m_folder.isValid())
         return fail(tr("Can not make a temporary folder: %1").arg(m_folder.errorString()));
-    if (!copySources() || !copyBench())
+    if (!copySources())
+        return endFailed;
+    // First with the flags, whose names in the core may mean something else.
+    const QStringList standards = m_source.isVhdl() ? QStringList{"08", "93", "08"} : QStringList{"", ""};
+    eEnd_t end = endFailed;
+    for (int i = m_source.carryName().isEmpty() ? 1 : 0; i < standards.size() && end == endFailed; ++i)
+        end = make(standards[i], i == 0);
+    return end;
+}
+
+/// Compiles in one way.
+CoreRun::eEnd_t CoreRun::make(const QString& standard, bool showsFlags)
+{
+    if (!copyBench(showsFlags))
         return endFailed;
     bool isCompiled = false;
-    eEnd_t end = endDone;
-    if (m_source.isVhdl()) {
-        for (const char* standard : {"93", "08"}) {
-            end = isCompiled ? end : compileVhdl(standard, &isCompiled);
-            if (end != endDone)
-                return end;
-        }
-    } else {
-        const bool hasFlags = !m_source.carryName().isEmpty();
-        end = hasFlags ? compileVerilog(true, &isCompiled) : endDone;
-        if (end == endDone && !isCompiled)
-            end = compileVerilog(false, &isCompiled);
-        if (end != endDone)
-            return end;
-    }
-    if (!isCompiled)
-        return fail(tr("%1 does not compile %2:").arg(toolName(), shownPath(m_source.files().first())) + m_said);
-    return findStart();
+    const eEnd_t end = m_source.isVhdl() ? compileVhdl(standard, &isCompiled) : compileVerilog(showsFlags, &isCompiled);
+    if (end != endDone)
+        return end;
+    return isCompiled
+               ? findStart()
+               : fail(tr("%1 does not compile %2:").arg(toolName(), shownPath(m_source.files().first())) + m_said);
 }
 
 QString CoreRun::option(const QString& name, const QString& value) const
@@ -330,7 +340,7 @@ QStringList CoreRun::options(const CoreStimulus& stimulus)
     }
     if (stimulus.showsState) {
         const Words words = wordsThatShow(m_kind, m_config.regCount, m_config.scrpdSize);
-        isWritten = isWritten && file("after", hexLines(words));
+        isWritten = isWritten && file(m_source.isVhdl() ? "after_that" : "after", hexLines(words));
         options.append(option("after_clocks", clocksOf(m_kind, words, waits)));
     }
     return isWritten ? options : QStringList();
@@ -351,7 +361,7 @@ CoreRun::eEnd_t CoreRun::run(const CoreStimulus& stimulus, const std::function<b
         ProveEvent event;
         if (words.first() == "BEGIN" && phase == before)
             phase = running;
-        else if (words.first() == "FLAGS" && words.size() == 3) {
+        else if (words.first() == "FLAGS" && words.size() >= 3) {
             state->carry = bitOf(words[1]);
             state->zero = bitOf(words[2]);
         } else if (words.first() == "STATE" && phase == running)

@@ -149,10 +149,11 @@ void ExactRun::endBy(const nsProc::SimOutcome& outcome)
     }
     const SimReads* source = m_source.source();
     const QString port = "0x" + QString::number(outcome.port, 16).toUpper().rightJustified(2, '0');
+    const QString where = place(m_engine->position());
     if (source == nullptr)
         return stop(endStopped,
-                    tr("port %1 has no source of values (--reads, --port, or a device of the project)").arg(port) +
-                        place(m_engine->position()).prepend(m_isAgain ? "" : " "));
+                    tr("port %1, which is read%2, has no source of values: --reads, --port, or a device of the project")
+                        .arg(port, where.isEmpty() ? QString() : tr(" at %1").arg(where)));
     if (m_source.result() == SimReads::resultStopped)
         return stop(endSignal, tr("interrupted"));
     if (m_source.result() == SimReads::resultFailed)

@@ -106,7 +106,13 @@ QByteArray ProveResult::text() const
     if (isEqual)
         return (counts + tr("all equal") + '\n').toLocal8Bit();
     QString text = tr("different%1: %2\n").arg(place.isEmpty() ? QString() : tr(" at %1").arg(place), what);
-    text += counts + tr("equal before that") + "\n\n";
+    text += counts + tr("equal before that") + '\n';
+    if (!origin.isEmpty())
+        text +=
+            tr("The states differ from clock %1 on, after %2: %3")
+                .arg(QString::number(originClock), originPlace.isEmpty() ? tr("an empty word") : originPlace, origin) +
+            '\n';
+    text += '\n';
     text += "  " + tr("simulation").leftJustified(eventColumn) + tr("core") + '\n';
     const int rows = std::max(simulationEvents.size(), coreEvents.size());
     for (int i = 0; i < rows; ++i) {

@@ -25,7 +25,11 @@ struct ProveResult
     QString place;                ///< file and line of the source; empty if none filled the place
     QStringList simulationEvents; ///< the last ones, that which differs at the end
     QStringList coreEvents;
-    QString what;          ///< differs, where it is no event
+    QString what; ///< differs, where it is no event
+    // The first difference of what is in the core, if it came before that.
+    QString origin;
+    QString originPlace;
+    qint64 originClock = 0;
     qint64 stateClock = 0; ///< of the states: the beginning of the instruction
     ProveState simulationState;
     ProveState coreState;

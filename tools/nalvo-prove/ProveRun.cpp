@@ -185,41 +185,49 @@ int ProveRun::compare()
     noteState(!state.scratchpad.empty(), tr("%1 cells of the scratchpad").arg(state.scratchpad.size()));
     noteState(state.carry >= 0 && state.zero >= 0, tr("C and Z at the end"));
     m_result.what = stateDifference(m_trace.state, state, m_result.banks);
-    return m_result.what.isEmpty() ? report() : findState();
+    return m_result.what.isEmpty() ? report() : showStateDifference();
 }
 
-/// The instruction that leaves the first difference of the states, while all events are equal.
-int ProveRun::findState()
+/// Finds the instruction that leaves the first difference of the states.
+/// @param different instructions after which they differ
+int ProveRun::findState(qint64 different, sStates_t* states)
 {
     qint64 same = 0;
-    qint64 different = m_exact->instructions();
-    ProveState ours;
-    ProveState others;
-    qint64 clock = 0;
-    int position = -1;
     while (different - same > 1) {
         const qint64 middle = same + (different - same) / 2;
-        const int status = statesAfter(middle, &ours, &others, &clock, &position);
+        const int status = statesAfter(middle, states);
         if (status != exitEqual)
             return status;
-        (stateDifference(ours, others, m_result.banks).isEmpty() ? same : different) = middle;
+        (states->difference.isEmpty() ? same : different) = middle;
     }
-    const int status = statesAfter(different, &ours, &others, &clock, &position);
+    return statesAfter(different, states);
+}
+
+/// All events are equal, but not what is in the core at the end.
+int ProveRun::showStateDifference()
+{
+    sStates_t states;
+    const int status = findState(m_exact->instructions(), &states);
     if (status != exitEqual)
         return status;
     m_result.isEqual = false;
-    m_result.what = stateDifference(ours, others, m_result.banks);
-    m_result.place = m_exact->place(position);
-    m_result.simulationState = ours;
-    m_result.coreState = others;
-    m_result.stateClock = clock;
-    m_result.instructions = same;
+    m_result.what = states.difference;
+    m_result.place = m_exact->place(states.position);
+    m_result.instructions = states.instructions - 1;
+    setStates(states);
     const auto end = std::find_if(m_trace.events.begin(), m_trace.events.end(),
-                                  [clock](const ProveEvent& event) { return event.clock >= clock; });
+                                  [&states](const ProveEvent& event) { return event.clock >= states.clock; });
     m_result.events = end - m_trace.events.begin();
     m_result.simulationEvents = lastTexts(m_trace.events, size_t(m_result.events));
     m_result.coreEvents = m_result.simulationEvents;
     return report();
+}
+
+void ProveRun::setStates(const sStates_t& states)
+{
+    m_result.simulationState = states.ours;
+    m_result.coreState = states.others;
+    m_result.stateClock = states.clock;
 }
 
 int ProveRun::showDifference(const std::vector<ProveEvent>& seen)
@@ -228,9 +236,8 @@ int ProveRun::showDifference(const std::vector<ProveEvent>& seen)
     size_t at = 0;
     while (at < ours.size() && at < seen.size() && ours[at].equals(seen[at]))
         ++at;
-    const qint64 begun = fetchesIn(ours, at + 1);
     m_result.isEqual = false;
-    m_result.instructions = std::max(begun - 1, qint64(0));
+    m_result.instructions = std::max(fetchesIn(ours, at + 1) - 1, qint64(0));
     m_result.events = qint64(at);
     m_result.clocks = at < ours.size() ? ours[at].clock : m_exact->clocks();
     m_result.simulationEvents = lastTexts(ours, at + 1);
@@ -241,27 +248,39 @@ int ProveRun::showDifference(const std::vector<ProveEvent>& seen)
     // An entry or a reset belongs to what came before it.
     for (size_t i = std::min(at + 1, ours.size()); i > 0 && m_result.place.isEmpty(); --i)
         m_result.place = m_exact->place(ours[i - 1].position);
-    int position = -1;
-    const int status = statesAfter(m_result.instructions, &m_result.simulationState, &m_result.coreState,
-                                   &m_result.stateClock, &position);
+    sStates_t states;
+    int status = statesAfter(m_result.instructions, &states);
+    if (status != exitEqual)
+        return status;
+    setStates(states);
+    if (!states.difference.isEmpty()) {
+        // Something went wrong before it could be seen from outside.
+        status = findState(m_result.instructions, &states);
+        m_result.origin = states.difference;
+        m_result.originPlace = m_exact->place(states.position);
+        m_result.originClock = states.clock;
+    }
     return status == exitEqual ? report() : status;
 }
 
-int ProveRun::statesAfter(qint64 instructions, ProveState* ours, ProveState* others, qint64* clock, int* position)
+/// Both states after so many instructions.
+int ProveRun::statesAfter(qint64 instructions, sStates_t* states)
 {
     ExactRun again(m_project, m_options);
     if (!again.startAgain(*m_exact))
         return exitNothingProved;
     again.run(instructions, unbounded);
     const ProveTrace trace = again.trace();
-    *ours = trace.state;
-    *clock = again.clocks();
-    *position = -1;
+    *states = sStates_t();
+    states->instructions = instructions;
+    states->clock = again.clocks();
+    states->ours = trace.state;
     for (const ProveEvent& event : trace.events)
-        *position = event.kind == ProveEvent::eFetch ? event.position : *position;
-    *others = ProveState();
-    return endOf(m_core->run(
-        stimulusOf(again), [](const ProveEvent&) { return true; }, others));
+        states->position = event.kind == ProveEvent::eFetch ? event.position : states->position;
+    const int status = endOf(m_core->run(
+        stimulusOf(again), [](const ProveEvent&) { return true; }, &states->others));
+    states->difference = stateDifference(states->ours, states->others, m_result.banks);
+    return status;
 }
 
 int ProveRun::report()

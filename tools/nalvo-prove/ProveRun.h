@@ -23,6 +23,17 @@ public:
     int run();
 
 private:
+    /// Both sides after a number of instructions.
+    struct sStates_t
+    {
+        ProveState ours;
+        ProveState others;
+        QString difference; ///< empty if there is none
+        qint64 instructions = 0;
+        qint64 clock = 0;
+        int position = -1; ///< of the last one
+    };
+
     // Each of these returns exitEqual to go on, or the exit status after a reported error.
     int assemble();
     int simulate();
@@ -34,9 +45,10 @@ private:
     /// The events and then the states of both sides.
     int compareEvents(std::vector<ProveEvent>* seen, ProveState* state, bool* isEqual);
     int showDifference(const std::vector<ProveEvent>& seen);
-    /// Both states after so many instructions, where the events of that many are equal.
-    int statesAfter(qint64 instructions, ProveState* ours, ProveState* others, qint64* clock, int* position);
-    int findState();
+    int showStateDifference();
+    int statesAfter(qint64 instructions, sStates_t* states);
+    int findState(qint64 different, sStates_t* states);
+    void setStates(const sStates_t& states);
     int report();
     void showProgress(qint64 clock);
     void hideProgress();

@@ -18,7 +18,15 @@ entity kcpsm6_bench is
         hwbuild         : integer := 0;
         vector          : integer := 1023;
         scratchpad_size : integer := 64;
-        words           : integer := 4096
+        words           : integer := 4096;
+        -- Beside the program, two others may run: one before it that prepares the core, and one after it that shows what is
+        -- in the core. Both run from a reset, which keeps registers and scratchpad, without any stimulus.
+        before          : string  := "";
+        before_clocks   : integer := 0;
+        after_that      : string  := "";
+        after_clocks    : integer := 0;
+        -- Only find out how many clocks after a reset the first instruction begins, with an empty memory.
+        probe           : boolean := false
     );
 end entity kcpsm6_bench;
 
@@ -37,7 +45,10 @@ architecture test of kcpsm6_bench is
     signal reset          : std_logic := '1';
     signal clk            : std_logic := '0';
 
-    signal memory : word_array(0 to words - 1) := load_words(program, words);
+    constant full_size : integer := 4096; -- words that the core can address
+
+    signal memory  : word_array(0 to full_size - 1) := (others => (others => '0'));
+    signal modulus : integer := words; -- words of the memory
 begin
     core : entity work.kcpsm6
         generic map (
@@ -66,7 +77,7 @@ begin
     process (clk)
     begin
         if rising_edge(clk) and bram_enable = '1' then
-            instruction <= memory(known(address) mod words);
+            instruction <= memory(known(address) mod modulus);
         end if;
     end process;
 
@@ -128,6 +139,58 @@ begin
             end if;
             slot_clock := slot_clock + 1;
         end procedure observe;
+
+        -- Four clocks of reset, then the clocks from -start on.
+        procedure run_to(last : in integer; aside : in boolean) is
+        begin
+            in_reset := true;
+            slot_clock := -start;
+            for clock in -start - 4 to last - 1 loop
+                while not aside and request.past <= clock loop
+                    next_pulse(pulses_file, has_pulses, request);
+                end loop;
+                while not aside and resetting.past <= clock loop
+                    next_pulse(resets_file, has_resets, resetting);
+                end loop;
+                interrupt <= '0';
+                if not aside and request.first <= clock then
+                    interrupt <= '1';
+                end if;
+                reset <= '0';
+                if clock < -start or (not aside and resetting.first <= clock) then
+                    reset <= '1';
+                end if;
+                in_port <= read_value;
+                wait for 5 ns;
+                observe(clock);
+                was_read := read_strobe = '1' and reset = '0';
+                clk <= '1';
+                wait for 5 ns;
+                clk <= '0';
+                if was_read and not aside then
+                    next_read(reads_file, has_reads, read_value);
+                end if;
+            end loop;
+        end procedure run_to;
+
+        procedure find_start is
+            variable found : integer := -1;
+        begin
+            for clock in 0 to 67 loop
+                reset <= '0';
+                if clock < 4 then
+                    reset <= '1';
+                end if;
+                wait for 5 ns;
+                if clock >= 4 and found < 0 and known(address) = 1 then
+                    found := clock - 5;
+                end if;
+                clk <= '1';
+                wait for 5 ns;
+                clk <= '0';
+            end loop;
+            report_event("START", found);
+        end procedure find_start;
     begin
         if reads'length > 0 then
             file_open(status, reads_file, reads, read_mode);
@@ -145,33 +208,28 @@ begin
         next_pulse(pulses_file, has_pulses, request);
         next_pulse(resets_file, has_resets, resetting);
 
-        -- Four clocks of reset, then clock -start.
-        for clock in -start - 4 to clocks - 1 loop
-            while request.past <= clock loop
-                next_pulse(pulses_file, has_pulses, request);
-            end loop;
-            while resetting.past <= clock loop
-                next_pulse(resets_file, has_resets, resetting);
-            end loop;
-            interrupt <= '0';
-            if request.first <= clock then
-                interrupt <= '1';
-            end if;
-            reset <= '0';
-            if clock < -start or resetting.first <= clock then
-                reset <= '1';
-            end if;
-            in_port <= read_value;
-            wait for 5 ns;
-            observe(clock);
-            was_read := read_strobe = '1' and reset = '0';
-            clk <= '1';
-            wait for 5 ns;
-            clk <= '0';
-            if was_read then
-                next_read(reads_file, has_reads, read_value);
-            end if;
-        end loop;
+        if probe then
+            find_start;
+            wait;
+        end if;
+        if before'length > 0 then
+            memory <= load_words(before, full_size);
+            modulus <= full_size;
+            run_to(before_clocks, true);
+            report_event("BEGIN", 0);
+        end if;
+        memory <= (others => (others => '0'));
+        memory(0 to words - 1) <= load_words(program, words);
+        modulus <= words;
+        run_to(clocks, false);
+        -- FLAGS
+        if after_that'length > 0 then
+            report_event("STATE", 0);
+            memory <= load_words(after_that, full_size);
+            modulus <= full_size;
+            run_to(after_clocks, true);
+            report_event("END", 0);
+        end if;
         wait;
     end process;
 end architecture test;
