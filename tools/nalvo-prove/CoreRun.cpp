@@ -115,7 +115,7 @@ bool CoreRun::copySources()
     return true;
 }
 
-bool CoreRun::copyBench(bool showsFlags)
+bool CoreRun::copyBench()
 {
     const QString bench = QString("%1_bench").arg(m_kind.name);
     const QStringList names = m_source.isVhdl() ? QStringList{"bench_stimulus.vhd", bench + ".vhd", "unisim.vhd"}
@@ -124,15 +124,7 @@ bool CoreRun::copyBench(bool showsFlags)
         QFile file(":/prove/" + name);
         if (!file.open(QIODevice::ReadOnly))
             return false;
-        QByteArray text = file.readAll();
-        // In Verilog the flags are named on the command line.
-        if (showsFlags)
-            text.replace("-- FLAGS",
-                         QString("report_event(\"FLAGS \" & hex(\"\" & << signal core.%1 : std_logic >>) & ' ' & "
-                                 "hex(\"\" & << signal core.%2 : std_logic >>), 0);")
-                             .arg(m_source.carryName(), m_source.zeroName())
-                             .toLatin1());
-        return write(name, text);
+        return write(name, file.readAll());
     });
 }
 
@@ -216,21 +208,20 @@ CoreRun::eEnd_t CoreRun::prepare()
     }
     if (!m_folder.isValid())
         return fail(tr("Can not make a temporary folder: %1").arg(m_folder.errorString()));
-    if (!copySources())
+    if (!copySources() || !copyBench())
         return endFailed;
+    if (m_source.isVhdl()) {
+        const eEnd_t end = make("93", false);
+        return end == endFailed ? make("08", false) : end;
+    }
     // First with the flags, whose names in the core may mean something else.
-    const QStringList standards = m_source.isVhdl() ? QStringList{"08", "93", "08"} : QStringList{"", ""};
-    eEnd_t end = endFailed;
-    for (int i = m_source.carryName().isEmpty() ? 1 : 0; i < standards.size() && end == endFailed; ++i)
-        end = make(standards[i], i == 0);
-    return end;
+    const eEnd_t end = m_source.carryName().isEmpty() ? endFailed : make(QString(), true);
+    return end == endFailed ? make(QString(), false) : end;
 }
 
 /// Compiles in one way.
 CoreRun::eEnd_t CoreRun::make(const QString& standard, bool showsFlags)
 {
-    if (!copyBench(showsFlags))
-        return endFailed;
     bool isCompiled = false;
     const eEnd_t end = m_source.isVhdl() ? compileVhdl(standard, &isCompiled) : compileVerilog(showsFlags, &isCompiled);
     if (end != endDone)
@@ -361,7 +352,7 @@ CoreRun::eEnd_t CoreRun::run(const CoreStimulus& stimulus, const std::function<b
         ProveEvent event;
         if (words.first() == "BEGIN" && phase == before)
             phase = running;
-        else if (words.first() == "FLAGS" && words.size() >= 3) {
+        else if (words.first() == "FLAGS" && words.size() == 3) {
             state->carry = bitOf(words[1]);
             state->zero = bitOf(words[2]);
         } else if (words.first() == "STATE" && phase == running)

@@ -54,7 +54,7 @@ private:
     eEnd_t fail(const QString& text);
     bool write(const QString& name, const QByteArray& text);
     bool copySources();
-    bool copyBench(bool showsFlags);
+    bool copyBench();
     eEnd_t make(const QString& standard, bool showsFlags);
     eEnd_t compileVerilog(bool showsFlags, bool* isCompiled);
     eEnd_t compileVhdl(const QString& standard, bool* isCompiled);

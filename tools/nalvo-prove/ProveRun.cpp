@@ -68,7 +68,8 @@ int ProveRun::run()
 
 int ProveRun::fail(const QString& text) const
 {
-    printError(text);
+    for (const QString& line : text.split('\n'))
+        printError(line);
     return exitNothingProved;
 }
 
@@ -93,8 +94,11 @@ int ProveRun::assemble()
     m_project = {&m_batch.assembler().program(), &m_batch.asmMsg(), &m_batch.msg(), &processor->table(),
                  *processor->runConfig()};
     m_project.config.exactSimulation = 1;
-    if (m_project.config.pageCount <= 1)
-        m_project.config.pageSize = std::max(m_project.config.pageSize, m_kind->fullSize);
+    if (m_project.config.pageCount > 1)
+        return fail(
+            tr("The program has %1 pages: what switches them is outside of the core, which is all that runs here.")
+                .arg(m_project.config.pageCount));
+    m_project.config.pageSize = std::max(m_project.config.pageSize, m_kind->fullSize);
     if (m_project.config.pageSize > m_kind->fullSize)
         return fail(tr("A page of the memory is larger than what %1 can address: %2 words")
                         .arg(m_kind->shown, QString::number(m_project.config.pageSize)));
@@ -103,13 +107,27 @@ int ProveRun::assemble()
 
 int ProveRun::prepareCore()
 {
-    const QString failure = m_source.find(*m_kind, m_options.core, m_options.language);
+    CoreSource any;
+    QString failure = any.find(*m_kind, m_options.core, m_options.language);
     if (!failure.isEmpty())
         return fail(failure);
-    m_core = std::make_unique<CoreRun>(*m_kind, m_source, m_project.config, m_options.hwbuild);
-    m_result.core = shownPath(m_source.files().first());
-    m_result.tool = m_core->toolName();
-    return endOf(m_core->prepare());
+    // Where the core is there in both languages, the second one is taken if the first one does not do.
+    for (const ProveOptions::eLanguage_t language : {ProveOptions::languageVerilog, ProveOptions::languageVhdl}) {
+        if (m_options.language != ProveOptions::languageAny && m_options.language != language)
+            continue;
+        m_source = CoreSource();
+        if (!m_source.find(*m_kind, m_options.core, language).isEmpty())
+            continue;
+        m_core = std::make_unique<CoreRun>(*m_kind, m_source, m_project.config, m_options.hwbuild);
+        const CoreRun::eEnd_t end = m_core->prepare();
+        if (end != CoreRun::endFailed) {
+            m_result.core = shownPath(m_source.files().first());
+            m_result.tool = m_core->toolName();
+            return endOf(end);
+        }
+        failure += (failure.isEmpty() ? QString() : QStringLiteral("\n")) + m_core->failure();
+    }
+    return fail(failure);
 }
 
 /// @return exitEqual for an end that is none

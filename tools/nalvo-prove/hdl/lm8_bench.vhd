@@ -232,7 +232,6 @@ begin
         memory(0 to words - 1) <= load_words(program, words);
         modulus <= words;
         run_to(clocks, false);
-        -- FLAGS
         if after_that'length > 0 then
             report_event("STATE", 0);
             memory <= load_words(after_that, full_size);
