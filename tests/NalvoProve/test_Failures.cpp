@@ -69,7 +69,7 @@ TEST_F(ProveFailures, TheFirstDifferenceIsShownWithItsLineEventsAndStates)
     EXPECT_TRUE(result.out.contains("The states differ from clock 44 on, after a.psm:3: register 1 is 01 in the "
                                     "simulation, 00 in the core\n"))
         << result.out.constData();
-    EXPECT_TRUE(result.out.contains("\n> W 20 01 @45                W 20 00 @45\n")) << result.out.constData();
+    EXPECT_TRUE(result.out.contains("\n> W 20 01 @45               W 20 00 @45\n")) << result.out.constData();
     EXPECT_TRUE(result.out.contains("  registers 00: 26 01 00")) << result.out.constData();
 }
 
@@ -131,7 +131,8 @@ TEST_F(ProveFailures, TheCoreIsNotWhatItShouldBe)
     expectNothing({"--core", "k.v", "p.nalvo"},
                   "kcpsm3 in k.v is not the core of PicoBlaze 3 as it is known: it has no port instruction, in_port, ");
     write("k.v", shell("  assign address = ;\n"));
-    expectNothing({"--core", "k.v", "p.nalvo"}, "Icarus Verilog does not compile k.v:\nnalvo-prove:     k.v:4: syntax error");
+    expectNothing({"--core", "k.v", "p.nalvo"},
+                  "Icarus Verilog does not compile k.v:\nnalvo-prove:     k.v:4: syntax error");
     write("k.v", shell("  other part(.clk(clk));\n"));
     expectNothing({"--core", "k.v", "p.nalvo"}, "Unknown module type: other");
     write("k.v", shell(""));

@@ -49,8 +49,32 @@ protected:
     {
         const auto [core, language] = GetParam();
         SKIP_WITHOUT(language);
-        for (const Trial& trial : trials(core))
-            addProgram(core, trial);
+        const std::vector<Trial> all = trials(core);
+        // The first ones are of all kinds, the last ones for single instructions: by turns, so that most faults show
+        // soon.
+        for (size_t n = 0; n < all.size(); ++n)
+            addProgram(core, all[n % 2 == 0 ? n / 2 : all.size() - 1 - n / 2]);
+        if (core == Core::PicoBlaze6)
+            addPreemptedReturn();
+    }
+
+    /// A return from interrupt that is pre-empted in bank A, where the newest cell of the stack holds bank B.
+    void addPreemptedReturn()
+    {
+        writeProgram(Core::PicoBlaze6, "        LOAD    s0, 1\n"
+                                       "        REGBANK B\n"
+                                       "        LOAD    s0, 2\n"
+                                       "        INT     ENABLE\n"
+                                       "loop:\n"
+                                       "        JUMP    loop\n"
+                                       "isr:\n"
+                                       "        WRPRT   s0, 1\n"
+                                       "        REGBANK A\n"
+                                       "        INT     ENABLE\n"
+                                       "        RETI    ENABLE\n"
+                                       "#ORG    ADDR, 0x3FF\n"
+                                       "        JUMP    isr\n");
+        keepProgram({"-q", "-n", "60", "--interrupt-at-clock", "20:60"});
     }
 
     void addProgram(Core core, const Trial& trial)
@@ -63,23 +87,29 @@ protected:
                       {"regCount", QString::number(build.registers)},
                       {"simAddressBits", QString::number(build.addressBits)},
                       {"simWaitStates", QString::number(trial.stimulus.waitStates)}});
-        const QString folder = QString("p%1/").arg(m_programs.size());
-        mkdir(folder);
-        for (const char* name : {"p.nalvo", "a.psm"})
-            QFile::rename(path(name), path(folder + name));
         QByteArray reads;
         for (const quint8 value : trial.stimulus.reads)
             reads += QByteArray::number(value, 16) + '\n';
-        write(folder + "reads", reads + QByteArray("0\n").repeated(2000));
+        write("reads" + QString::number(m_programs.size()), reads + QByteArray("0\n").repeated(2000));
         QStringList options = {"-q",
                                "--hwbuild",
                                QString::number(build.hwBuild),
                                "--reads",
-                               folder + "reads",
+                               "reads" + QString::number(m_programs.size()),
                                "--max-clocks",
                                QString::number(trial.stimulus.clocks)};
         for (const Pulse& pulse : trial.stimulus.interrupts)
             options += {"--interrupt-at-clock", QString("%1:%2").arg(pulse.clock).arg(pulse.length)};
+        keepProgram(options);
+    }
+
+    /// What writeProgram() has written.
+    void keepProgram(const QStringList& options)
+    {
+        const QString folder = QString("p%1/").arg(m_programs.size());
+        mkdir(folder);
+        for (const char* name : {"p.nalvo", "a.psm"})
+            QFile::rename(path(name), path(folder + name));
         m_programs.push_back({folder, options});
     }
 

@@ -149,8 +149,12 @@ QByteArray ProveResult::json() const
                        {"compared", QJsonArray::fromStringList(compared)},
                        {"notCompared", QJsonArray::fromStringList(notCompared)},
                        {"end", end.isEmpty() ? QJsonValue() : QJsonValue(end)}};
+    const QJsonObject from{{"what", origin},
+                           {"place", originPlace.isEmpty() ? QJsonValue() : QJsonValue(originPlace)},
+                           {"clock", originClock}};
     if (!isEqual)
         object.insert("difference", QJsonObject{{"what", what},
+                                                {"origin", origin.isEmpty() ? QJsonValue() : QJsonValue(from)},
                                                 {"place", place.isEmpty() ? QJsonValue() : QJsonValue(place)},
                                                 {"stateClock", stateClock},
                                                 {"simulation", sideOf(simulationEvents, simulationState)},
