@@ -1,5 +1,6 @@
 #include "Faults.h"
 
+#include "CoreWords.h"
 #include "RandomWords.h"
 
 #include <QFile>
@@ -19,6 +20,34 @@ void append(QString* text, const QString& line)
     if (!text->isEmpty())
         *text += '\n';
     *text += line;
+}
+
+/// What random programs for a PicoBlaze 6 seldom meet.
+std::vector<Stimulus> byHand()
+{
+    using namespace p6;
+    const auto stimulus = [](const std::vector<Block>& blocks, const std::vector<Pulse>& interrupts) {
+        Stimulus result;
+        result.program = program(blocks);
+        result.interrupts = interrupts;
+        result.clocks = 60;
+        return result;
+    };
+    return {
+        // The return of a routine in bank B is pre-empted; the routine of the second interrupt runs in bank A.
+        stimulus({{0, {withK(LOAD, 1, 0x11), withK(STAR, 1, 0x21), INT_ENABLE}},
+                  {0x3FF, {withK(WRPRT, 1, 2), BANK_B, INT_ENABLE, RETI_DISABLE}}},
+                 {{4}, {12}}),
+        // STAR from bank to bank, both ways.
+        stimulus({{0,
+                   {withK(LOAD, 1, 0x11), BANK_B, withK(LOAD, 1, 0x21), withY(STAR, 2, 1), withK(WRPRT, 2, 1), BANK_A,
+                    withK(WRPRT, 2, 2), withY(STAR, 3, 1), BANK_B, withK(WRPRT, 3, 3)}}},
+                 {}),
+        // Zero is set at the entry, not in the routine.
+        stimulus({{0, {INT_ENABLE, withK(SUB, 0, 0), NOP, NOP, jump(8, When::Z), withK(WRPRT, 0, 1)}},
+                  {0x3FF, {withK(OR, 1, 1), RETI_ENABLE}}},
+                 {{4}}),
+    };
 }
 
 } // namespace
@@ -52,9 +81,14 @@ std::vector<Trial> trials(Core core)
         std::mt19937 random(500 + seed);
         const CoreBuild build = seed % 2 == 0 ? CoreBuild() : randomBuild(core, &random);
         for (const Flavour flavour : allFlavours)
-            all.push_back({build, randomStimulus(core, build, flavour, 3000, &random)});
+            all.push_back(
+                {build, randomStimulus(core, build, flavour, flavour == Flavour::resets ? 8000 : 3000, &random)});
     }
     for (const Stimulus& stimulus : flagPrograms(core))
         all.push_back({{}, stimulus});
+    if (core == Core::PicoBlaze6) {
+        for (const Stimulus& stimulus : byHand())
+            all.push_back({{}, stimulus});
+    }
     return all;
 }
