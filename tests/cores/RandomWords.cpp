@@ -26,7 +26,7 @@ public:
             m_words[std::size_t(m_at)] = instruction(group());
         start();
         if (pick(4) != 0)
-            routine();
+            routine(-1);
         return m_words;
     }
 
@@ -35,7 +35,7 @@ public:
 private:
     enum class Group { compute, port, memory, jump, call, ret, interrupt, bank };
 
-    void put(quint32 word) { m_words[std::size_t(m_at++)] = word; }
+    void put(quint32 word) { m_words.at(std::size_t(m_at++)) = word; }
     quint32 jumpTo(int target, When when)
     {
         switch (m_core) {
@@ -117,19 +117,19 @@ private:
         put(p6::callRegs(12, 13));
         for (m_at = 0x200; m_at < m_size;)
             put(instruction(pick(2) == 0 ? Group::memory : Group(pick(8))));
-        routine();
+        routine(0x100);
         return m_words;
     }
 
     /// What an interrupt comes to: a few instructions without a jump, and the return.
-    void routine()
+    /// @param place a free one; a random one where it is negative
+    void routine(int place)
     {
         const int vector = m_core == Core::Mico8 ? 0 : m_core == Core::PicoBlaze3 ? 0x3FF : m_build.vector;
         if (vector >= m_size)
             m_words.resize(std::size_t(vector) + 1);
         m_at = vector;
-        // The program of resets has nothing from here on.
-        const int first = m_flavour == Flavour::resets ? 0x100 : 40 + pick(m_size - 60);
+        const int first = place >= 0 ? place : 40 + pick(m_size - 60);
         put(jumpTo(first, When::always));
         m_at = first;
         if (m_core == Core::PicoBlaze6 && pick(2) == 0) {
