@@ -1,8 +1,8 @@
 # Sourced by the commands of the root: installs what is missing on a bare Debian 12, and does nothing when all is there.
 
-NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev libcmark-gfm-dev libcmark-gfm-extensions-dev
-libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-NALVO_TEST_PACKAGES="ghdl iverilog clang-format"
+NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
+ libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
+NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell"
 
 # need_packages NAME ...
 need_packages() {

@@ -1,5 +1,7 @@
 #include "Nalvo.h"
 
+#include "Display.h"
+#include "HelpRef.h"
 #include "ModAction.h"
 #include "ModArgs.h"
 #include "ModAsmFe.h"
@@ -10,6 +12,8 @@
 #include "ModFindReplace.h"
 #include "ModFonts.h"
 #include "ModGui.h"
+#include "ModHlp.h"
+#include "ModImport.h"
 #include "ModMsg.h"
 #include "ModNetwork.h"
 #include "ModPrj.h"
@@ -20,6 +24,7 @@
 #include "ModSwUpdate.h"
 #include "ModSyscall.h"
 #include "ModTemplates.h"
+#include "Unattended.h"
 
 #include <QCloseEvent>
 #include <QCoreApplication>
@@ -36,6 +41,7 @@ Nalvo::Nalvo(int, char**)
     : QMainWindow(nullptr)
 {
     initResources();
+    HelpRef::set(this, QStringLiteral("pageId://mainWindow"));
     QCoreApplication::setOrganizationName(QStringLiteral("Brelmont"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("brelmont.example"));
     QCoreApplication::setApplicationName(QStringLiteral("Nalvo"));
@@ -66,6 +72,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModSyscall::ModSyscall(this));
     m_phases.append(new nsModEditor::ModEditor(this));
     m_phases.append(new nsModSrcNavi::ModSrcNavi(this));
+    m_phases.append(new nsModHlp::ModHlp(this));
     m_phases.append(new nsModNetwork::ModNetwork(this));
     m_phases.append(new nsModSwUpdate::ModSwUpdate(this));
     m_phases.append(new nsModAction::ModAction(this));
@@ -77,6 +84,7 @@ void Nalvo::makeModules()
     m_phases.append(new nsModGui::ModGui(this));
     m_phases.append(new nsModTemplates::ModTemplates(this));
     m_phases.append(m_modScript);
+    m_phases.append(new nsModImport::ModImport(this));
     m_phases.append(new nsModFonts::ModFonts(this));
 }
 
@@ -85,10 +93,13 @@ void Nalvo::handleArgs()
     if (m_modArgs->hasError())
         return;
     const QString project = m_modArgs->prjFile();
+    const QString script = m_modArgs->scriptFile();
+    // A script without a display runs by itself: a question would wait for ever.
+    if (!script.isEmpty() && !Display::isThere())
+        Unattended::setOn(true);
     // Keeps the messages of the start together with those of the project.
     if (!project.isEmpty() && !m_modPrj->openPrj(project, nsModMsg::MsgGroup::eKeepEarlier))
         return;
-    const QString script = m_modArgs->scriptFile();
     if (!script.isEmpty())
         m_modScript->executeScriptFile(script);
 }

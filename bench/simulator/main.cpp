@@ -18,7 +18,6 @@
 #include "ProcSim.h"
 #include "ProcSimClock.h"
 #include "ProcSimPorts.h"
-#include "Release.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -260,7 +259,6 @@ int main(int argc, char** argv)
     QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path() + "/settings");
     QApplication application(argc, argv);
     QApplication::setStyle("fusion");
-    QCoreApplication::setApplicationVersion(QStringLiteral(NALVO_RELEASE));
     Nalvo window(1, argv);
     window.resize(1400, 900);
     Bench bench(&window, folder.path());

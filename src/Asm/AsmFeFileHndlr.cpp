@@ -1,6 +1,8 @@
 #include "AsmFeFileHndlr.h"
 
+#include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace nsModAsmFe {
@@ -52,6 +54,21 @@ QString AsmFeFileHndlr::convToRelPath(QString path) const
 int AsmFeFileHndlr::fileNo(QString path) const
 {
     return m_files.indexOf(path);
+}
+
+std::unique_ptr<QIODevice> AsmFeFileHndlr::open(const QString& path) const
+{
+    const auto text = m_texts.constFind(path);
+    std::unique_ptr<QIODevice> device;
+    if (text != m_texts.constEnd()) {
+        auto buffer = std::make_unique<QBuffer>();
+        buffer->setData(*text);
+        device = std::move(buffer);
+    } else if (QFileInfo(path).isFile()) {
+        // Reading a folder, a pipe or a device instead of a source might never end.
+        device = std::make_unique<QFile>(path);
+    }
+    return device != nullptr && device->open(QIODevice::ReadOnly) ? std::move(device) : nullptr;
 }
 
 } // namespace nsModAsmFe

@@ -2,8 +2,14 @@
 
 #include "ModMsgPluginIf.h"
 
+#include <QByteArray>
+#include <QHash>
 #include <QObject>
 #include <QStringList>
+
+#include <memory>
+
+class QIODevice;
 
 namespace nsModAsmFe {
 
@@ -34,9 +40,17 @@ public:
     /// Number of the file with exactly this path, -1 if there is none.
     int fileNo(QString path) const;
 
+    /// Gives a source a text that is read instead of the file with its path, in all runs from now on.
+    /// @param path absolute; no such file need exist
+    void setText(const QString& path, const QByteArray& text) { m_texts.insert(path, text); }
+    /// Opens a source for reading: its text, or the file, which must be a regular one.
+    /// @return null if there is nothing that can be read
+    std::unique_ptr<QIODevice> open(const QString& path) const;
+
 private:
     QString m_prjDir;
     QStringList m_files;
+    QHash<QString, QByteArray> m_texts; ///< by path
 };
 
 } // namespace nsModAsmFe

@@ -5,6 +5,7 @@
 #include "AsmFeStatusBar.h"
 #include "AsmScriptApi.h"
 #include "FilePath.h"
+#include "HelpRef.h"
 
 #include "EquListView.h"
 #include "IODevViewerList.h"
@@ -61,6 +62,8 @@ void ModAsmFe::modInitIntermod()
     if (modGuiHook != nullptr) {
         m_statusBar = new AsmFeStatusBar;
         m_equListView = new EquListView;
+        HelpRef::set(m_statusBar, QStringLiteral("pageId://mainWindow#status-bar"));
+        HelpRef::set(m_equListView, QStringLiteral("pageId://equList"));
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
@@ -92,6 +95,7 @@ void ModAsmFe::addIODevViewer()
     if (modGuiHook == nullptr || m_ioDevViewer != nullptr)
         return;
     m_ioDevViewer = new IODevViewerList;
+    HelpRef::set(m_ioDevViewer, QStringLiteral("pageId://deviceMaps"));
     connect(m_ioDevViewer, &IODevViewerList::srcRefRequest, this, &ModAsmFe::showSrcReference);
     // An added panel comes to the front: so the panel that was in front before is brought to the front again.
     QWidget* inFront = modGuiHook->currentWidget(ModGuiHookIf::eLocationDockRight);

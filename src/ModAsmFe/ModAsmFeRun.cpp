@@ -19,6 +19,18 @@
 
 namespace nsModAsmFe {
 
+namespace {
+
+/// A line for each file, whatever characters its name holds.
+QString shownFiles(QStringList files)
+{
+    for (QString& file : files)
+        file = ConsentQuestion::readable(file);
+    return files.join('\n');
+}
+
+} // namespace
+
 void ModAsmFe::assemble(eAssembleEvent_t event)
 {
     if (modPrjHook == nullptr || !modPrjHook->isValid())
@@ -180,14 +192,15 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
         m_busy->rests();
     const QPointer<ModAsmFe> self(this);
     const QString project = modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName());
-    const bool allowed = ConsentQuestion::ask(
+    const ConsentQuestion::eAnswer_t answer = ConsentQuestion::ask(
         tr("Output files outside of the project"),
         tr("The project \"%1\" wants to write files outside of its folder. What is in them now will be lost.\n\nShall "
            "this run and later ones of the project write them?")
-            .arg(modPrjHook->prjFileName()),
-        unknown.join('\n'));
+            .arg(ConsentQuestion::readable(modPrjHook->prjFileName())),
+        shownFiles(unknown));
     // The program may have been closed under the question. The answer is about the project that was open then.
-    if (self) {
+    const bool allowed = answer == ConsentQuestion::answerYes;
+    if (self && answer != ConsentQuestion::answerNobody) {
         ProjectConsent kept(modCfgAppHook, project);
         for (const QString& file : qAsConst(unknown))
             kept.setAnswer(ProjectConsent::kindOutput, {file}, allowed);
@@ -197,6 +210,8 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
 
 QString ModAsmFe::refusalHint()
 {
+    if (ConsentQuestion::isUnattended())
+        return tr("nobody can be asked");
     return tr("to allow it, enter it on the settings page of the assembler");
 }
 

@@ -1,6 +1,7 @@
 #include "ConfigDialog.h"
 
 #include "ConfigListDelegate.h"
+#include "HelpRef.h"
 
 #include "MyButton.h"
 #include "MyButtonCancel.h"
@@ -33,6 +34,7 @@ ConfigDialog::ConfigDialog(QWidget* parent)
 {
     setObjectName(QStringLiteral("configDialog"));
     setAttribute(Qt::WA_StyledBackground);
+    HelpRef::set(this, QStringLiteral("pageId://configDialog"));
     setupList();
     m_stack->setObjectName(QStringLiteral("configPages"));
     m_stack->setMinimumWidth(stackMinimumWidth);
@@ -81,6 +83,8 @@ QWidget* ConfigDialog::makeButtons()
     m_setDefault->setToolTip(tr("Fills the page that is shown with its default values"));
     m_restore = new MyButton(tr("Restore values"), frame);
     m_restore->setToolTip(tr("Undoes the changes on the page that is shown"));
+    m_help = new MyButton(tr("Help"), frame);
+    m_help->setToolTip(tr("Shows the help of this page beside it"));
     m_apply = new MyButton(tr("Apply and close"), frame);
     m_apply->setToolTip(tr("Takes over and saves the values of all pages"));
     m_cancel = new MyButtonCancel(frame);
@@ -89,11 +93,13 @@ QWidget* ConfigDialog::makeButtons()
     connect(m_restore, &QPushButton::clicked, this, &ConfigDialog::restoreRequested);
     connect(m_apply, &QPushButton::clicked, this, &ConfigDialog::closeRequested);
     connect(m_cancel, &QPushButton::clicked, this, &ConfigDialog::cancelRequested);
+    connect(m_help, &QPushButton::clicked, this, &ConfigDialog::helpRequested);
 
     auto* pageButtons = new QHBoxLayout;
     pageButtons->setSpacing(gap);
     pageButtons->addWidget(m_setDefault);
     pageButtons->addWidget(m_restore);
+    pageButtons->addWidget(m_help);
     pageButtons->addStretch(1);
     auto* dialogButtons = new QHBoxLayout;
     dialogButtons->setSpacing(gap);
@@ -114,8 +120,9 @@ QWidget* ConfigDialog::makeButtons()
 void ConfigDialog::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const int oneLine = 4 * gap + m_setDefault->sizeHint().width() + m_restore->sizeHint().width() +
-                        m_apply->sizeHint().width() + m_cancel->sizeHint().width() + 4 * gap;
+    int oneLine = 9 * gap;
+    for (const QPushButton* button : {m_setDefault, m_restore, m_help, m_apply, m_cancel})
+        oneLine += button->sizeHint().width();
     m_buttons->setDirection(width() >= oneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
@@ -181,6 +188,7 @@ void ConfigDialog::showPage(QListWidgetItem* item)
     const bool enabled = item != nullptr && (item->flags() & Qt::ItemIsEnabled) != 0;
     m_setDefault->setEnabled(enabled);
     m_restore->setEnabled(enabled);
+    m_help->setEnabled(enabled);
     if (item == nullptr)
         return;
     QScrollArea* area = areaOf(item);
@@ -197,7 +205,7 @@ void ConfigDialog::putButtonsAfter(QWidget* page)
         if (page->isAncestorOf(widget))
             last = widget;
     }
-    for (QWidget* button : {m_setDefault, m_restore, m_apply, m_cancel}) {
+    for (QWidget* button : {m_setDefault, m_restore, m_help, m_apply, m_cancel}) {
         setTabOrder(last, button);
         last = button;
     }

@@ -43,6 +43,7 @@ signals:
     void restoreRequested();
     void closeRequested();
     void cancelRequested();
+    void helpRequested();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -60,6 +61,7 @@ private:
     QPushButton* m_restore = nullptr;
     QPushButton* m_apply = nullptr;
     QPushButton* m_cancel = nullptr;
+    QPushButton* m_help = nullptr;
 };
 
 } // namespace nsModConfig

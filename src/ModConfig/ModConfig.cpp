@@ -85,6 +85,7 @@ void ModConfig::makeDialog()
     connect(m_dialog, &ConfigDialog::restoreRequested, this, &ModConfig::hndlEventRestore);
     connect(m_dialog, &ConfigDialog::closeRequested, this, &ModConfig::hndlEventClose);
     connect(m_dialog, &ConfigDialog::cancelRequested, this, &ModConfig::hndlEventCancel);
+    connect(m_dialog, &ConfigDialog::helpRequested, this, &ModConfig::hndlEventHelp);
 }
 
 void ModConfig::addPages(ModConfigPluginIf* plugin)
@@ -210,6 +211,17 @@ void ModConfig::showDialogPageHelp(ModConfigPagePluginIf* page)
     const auto current = m_items.constFind(m_list->currentItem());
     if (current != m_items.cend() && current.value().page == page)
         modHlpHook->showDialogHlpRef(m_dialog, page->pageHelpRef());
+}
+
+void ModConfig::hndlEventHelp()
+{
+    const auto current = m_items.constFind(m_list->currentItem());
+    if (modHlpHook == nullptr || current == m_items.cend())
+        return;
+    // Shown anew, it is in front of the other panels of its dock.
+    modHlpHook->closeDialogHlp(m_dialog);
+    modHlpHook->showDialogHlpRef(m_dialog, current.value().page->pageHelpRef());
+    setDockRightVisible(true);
 }
 
 // --- close ---

@@ -88,6 +88,8 @@ private slots:
     void hndlEventRestore();
     void hndlEventClose();
     void hndlEventCancel();
+    /// Shows the help of the current page beside the dialog.
+    void hndlEventHelp();
     void forgetDialog();
     void changeDlgPage(QListWidgetItem* next, QListWidgetItem* prev);
 

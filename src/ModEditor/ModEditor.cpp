@@ -15,6 +15,7 @@
 #include "EditorTipManager.h"
 #include "EditorWidget.h"
 #include "EditorWidgetLeftMargin.h"
+#include "HelpRef.h"
 #include "OpenDocuments.h"
 #include "RecoveryOffer.h"
 
@@ -122,6 +123,7 @@ void ModEditor::modInitIntermod()
         modScriptHook->registerObject(this, "editor");
     if (modMsgHook != nullptr)
         modMsgHook->registerPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
+    HelpRef::set(m_statusBar, QStringLiteral("pageId://mainWindow#status-bar"));
     if (modGuiHook != nullptr)
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusFirst, m_statusBar, QString());
 }

@@ -8,6 +8,7 @@
 #include "EditorRecovery.h"
 #include "EditorServices.h"
 #include "EditorWidget.h"
+#include "HelpRef.h"
 #include "OpenDocuments.h"
 
 #include "ModClipboardHookIf.h"
@@ -29,6 +30,7 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
     m_documents->add(widget);
     if (m_keeper->recovery() != nullptr)
         m_keeper->recovery()->add(widget);
+    HelpRef::set(widget, QStringLiteral("pageId://editor"));
     widget->setSyntaxHighlighterConfig(m_syntaxHighlighterConfig);
     widget->setTipManager(m_tipManager);
     widget->setSupportMenu(m_supportMenu);

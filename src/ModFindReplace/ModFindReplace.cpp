@@ -1,5 +1,6 @@
 #include "ModFindReplace.h"
 
+#include "HelpRef.h"
 #include "PluginList.h"
 
 #include <QAction>
@@ -126,6 +127,7 @@ void ModFindReplace::modInitIntermod()
 {
     if (modGuiHook == nullptr || m_widget == nullptr)
         return;
+    HelpRef::set(m_widget, QStringLiteral("pageId://editorFindReplace"));
     modGuiHook->addWidget(this, ModGuiHookIf::eLocationCenterBelow, m_widget, QString());
     hideWidget();
 }

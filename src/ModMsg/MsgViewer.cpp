@@ -1,5 +1,6 @@
 #include "MsgViewer.h"
 
+#include "HelpRef.h"
 #include "MsgItemDelegate.h"
 
 #include <QHeaderView>
@@ -15,6 +16,8 @@ const char* const iconPaths[] = {
     ":/ModMsg/img/msgWarning.png",
     ":/ModMsg/img/msgError.png",
 };
+
+const QString helpPage = QStringLiteral("pageId://messageView");
 
 /// An update that takes longer than this (milliseconds) is not repeated for every message.
 const qint64 cheapUpdate = 30;
@@ -36,6 +39,13 @@ MsgViewer::MsgViewer(QWidget* parent)
         m_icons[grade] = QIcon(QLatin1String(iconPaths[grade]));
     setupColumns();
     resetGroups();
+
+    // F1 opens the page about the message that is current.
+    HelpRef::set(this, helpPage);
+    connect(this, &QTreeWidget::currentItemChanged, this, [this](const QTreeWidgetItem* item) {
+        const QUrl url = item != nullptr ? item->data(eColumnHelpLink, urlRole).toUrl() : QUrl();
+        HelpRef::set(this, url.isEmpty() ? helpPage : url.toString());
+    });
 
     m_updateTimer.setSingleShot(true);
     connect(&m_updateTimer, &QTimer::timeout, this, &MsgViewer::updateView);

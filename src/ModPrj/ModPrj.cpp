@@ -7,6 +7,7 @@
 #include "ModGuiHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModScriptHookIf.h"
+#include "Unattended.h"
 
 #include <QApplication>
 #include <QFileInfo>
@@ -320,6 +321,9 @@ bool ModPrj::modExitRequest()
 /// Neither Enter nor Esc loses the changes of the project.
 bool ModPrj::askToTryAgain()
 {
+    // Nobody would ever give up; the failure has been reported.
+    if (Unattended::isOn())
+        return false;
     QMessageBox box(QMessageBox::Warning, tr("Project can not be saved"),
                     QLatin1String("<p>") + tr("The project file can not be written:") + QLatin1String("</p><p><b>") +
                         m_project.path().toHtmlEscaped() + QLatin1String("</b><p><p>") +

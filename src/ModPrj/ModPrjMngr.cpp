@@ -2,6 +2,7 @@
 
 #include "ModPrj.h"
 
+#include "HelpRef.h"
 #include "PrjMngrListWidget.h"
 #include "PrjMngrNewWidget.h"
 #include "PrjMngrOpenWidget.h"
@@ -18,6 +19,7 @@ namespace nsModPrj {
 
 namespace {
 
+const QString helpPage = QStringLiteral("pageId://projectManager");
 const QString keyCollection = QStringLiteral("PrjMngr/collection");
 
 /// Do both paths name the same file? Links are resolved.
@@ -55,9 +57,10 @@ void ModPrj::prjMngrSetup()
             prjMngrAddToCollection(file);
         // A script can bring the page up while the settings dialog is open.
         m_prjMngr->setTabsEnabled(m_page.isNull());
+        HelpRef::set(m_prjMngr, helpPage);
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, m_prjMngr, tr("Project Manager"));
         if (modHlpHook != nullptr)
-            modHlpHook->showDialogHlpRef(m_prjMngr, QStringLiteral("pageId://projectManager"));
+            modHlpHook->showDialogHlpRef(m_prjMngr, helpPage);
         updateCloseAction();
         spinEvents();
     }

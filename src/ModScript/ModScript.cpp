@@ -2,6 +2,7 @@
 
 #include "ScriptEngine.h"
 
+#include "Display.h"
 #include "ModMsgHookIf.h"
 
 #include <QApplication>
@@ -204,7 +205,7 @@ void ModScript::error(const QString& text, const nsModMsg::MsgUrl& place)
     if (modMsgHook != nullptr)
         modMsgHook->showErrorMessage(text, QUrl(), place);
     // Without a display, nobody can see the message view.
-    if (!ScriptEngine::hasDisplay())
+    if (!Display::isThere())
         std::fprintf(stderr, "%s\n", text.left(longestLine).toUtf8().constData());
 }
 

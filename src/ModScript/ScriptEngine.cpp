@@ -1,7 +1,8 @@
 #include "ScriptEngine.h"
 
+#include "Display.h"
+
 #include <QAction>
-#include <QGuiApplication>
 #include <QScriptContext>
 #include <QScriptEngineDebugger>
 #include <QTimer>
@@ -37,15 +38,8 @@ ScriptEngine* engineOf(void* self)
 
 } // namespace
 
-bool ScriptEngine::hasDisplay()
-{
-    const QString platform = QGuiApplication::platformName();
-    return !platform.isEmpty() && platform != QLatin1String("offscreen") &&
-           !platform.startsWith(QLatin1String("minimal"));
-}
-
 ScriptEngine::ScriptEngine(eScriptDebugger_t debugger)
-    : m_hasDebugger(debugger == eDebuggerAlways || (debugger == eDebuggerOnDisplay && hasDisplay()))
+    : m_hasDebugger(debugger == eDebuggerAlways || (debugger == eDebuggerOnDisplay && Display::isThere()))
 {
     m_engine.setProcessEventsInterval(eventInterval);
     qScriptRegisterMetaType<QUrl>(

@@ -31,9 +31,6 @@ public:
     explicit ScriptEngine(eScriptDebugger_t debugger);
     ~ScriptEngine() override;
 
-    /// Somebody can see the windows of the program.
-    static bool hasDisplay();
-
     /// Deletes the engine: at once, or when the script on the stack, which is stopped, has ended. Nothing is reported
     /// any more.
     static void dispose(ScriptEngine* engine);

@@ -1,5 +1,6 @@
 #include "ModSrcNavi.h"
 
+#include "HelpRef.h"
 #include "NaviWidget.h"
 #include "SrcNaviConfigPage.h"
 
@@ -141,6 +142,7 @@ void ModSrcNavi::configureNaviWidget()
     if (modGuiHook->hasWidget(location, m_naviWidget))
         return;
     modGuiHook->removeWidget(m_naviWidget);
+    HelpRef::set(m_naviWidget, QStringLiteral("pageId://navigator"));
     modGuiHook->addWidget(this, location, m_naviWidget, tr("Source Navigator"));
     m_naviWidget->show();
 }

@@ -1,5 +1,6 @@
 #include "ModSyscall.h"
 
+#include "HelpRef.h"
 #include "SyscallConfigPage.h"
 #include "SyscallMonWidget.h"
 #include "SyscallMsgHndlr.h"
@@ -10,6 +11,7 @@
 #include "ModGuiHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
 
 #include <QCoreApplication>
 
@@ -28,7 +30,7 @@ QString shown(const SyscallCommand& command)
 {
     QStringList lines = command.texts();
     for (QString& line : lines)
-        line.replace('\n', QLatin1String("\\u000a"));
+        line = ConsentQuestion::readable(line);
     for (int i = 1; i < lines.size(); ++i)
         lines[i] = '"' + lines.at(i) + '"';
     // An empty line of arguments is one empty argument, which says nothing to a reader.
@@ -166,8 +168,13 @@ SyscallPrograms::eEnd_t ModSyscall::wait(int index)
 {
     const int openCount = m_openCount;
     const QPointer<SyscallMonWidget> monitor = monitors[index];
-    while (monitor != nullptr && !monitor->waitForFinished(waitTime))
-        QCoreApplication::processEvents();
+    while (monitor != nullptr && !monitor->waitForFinished(waitTime)) {
+        if (scriptGoesOn())
+            continue;
+        if (monitor != nullptr && monitor == monitors[index])
+            endPrograms({index});
+        return endGone;
+    }
     // The user may have done anything meanwhile.
     if (openCount != m_openCount)
         return endGone;
@@ -181,6 +188,16 @@ SyscallPrograms::eEnd_t ModSyscall::wait(int index)
     default:
         return endCrashed;
     }
+}
+
+/// Handles the events of the user. @return false: the user has stopped the script that waits for the program; it could
+/// not end, and the window could not close, before the program does
+bool ModSyscall::scriptGoesOn()
+{
+    if (modScriptHook != nullptr)
+        return modScriptHook->scriptGoesOn();
+    QCoreApplication::processEvents();
+    return true;
 }
 
 int ModSyscall::exitCode(int index)
@@ -225,7 +242,7 @@ SyscallCommand ModSyscall::commandOf(int index) const
 bool ModSyscall::isKnown(const SyscallCommand& command) const
 {
     return !QDir::isAbsolutePath(command.program) ||
-           consent().answer(ProjectConsent::kindProgram, command.texts()) == ProjectConsent::answerYes;
+           consent().answer(ProjectConsent::kindProgram, command.act()) == ProjectConsent::answerYes;
 }
 
 SyscallPrograms::ePermission_t ModSyscall::mayRun(int index)
@@ -237,7 +254,7 @@ SyscallPrograms::ePermission_t ModSyscall::mayRun(int index)
         monitors[index]->setCommand(command);
         return permissionGiven;
     }
-    if (consent().answer(ProjectConsent::kindProgram, command.texts()) == ProjectConsent::answerNo)
+    if (consent().answer(ProjectConsent::kindProgram, command.act()) == ProjectConsent::answerNo)
         return permissionRefused;
     return ask(index, command);
 }
@@ -248,18 +265,22 @@ SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& 
     const QPointer<ModSyscall> self(this);
     const QPointer<SyscallMonWidget> monitor = monitors[index];
     monitor->setBusy(true);
-    const bool allowed = ConsentQuestion::ask(
+    const ConsentQuestion::eAnswer_t answer = ConsentQuestion::ask(
         tr("External program of the project"),
         tr("The project \"%1\" wants to run a program on this computer, with these arguments.\n\nShall this command be "
            "run, now and whenever the project asks for it?")
-            .arg(modPrjHook->prjFileName()),
+            .arg(ConsentQuestion::readable(modPrjHook->prjFileName())),
         shown(command));
     if (monitor != nullptr)
         monitor->setBusy(false);
     if (!self || monitor == nullptr || monitor != monitors[index] || commandOf(index) != command)
         return permissionGone;
-    consent().setAnswer(ProjectConsent::kindProgram, command.texts(), allowed);
-    if (!allowed)
+    if (answer == ConsentQuestion::answerNobody) {
+        m_msgHndlr->signMsg(SyscallMsgHndlr::errNobodyToAsk, shown(command).replace(QLatin1String("\n   "), QString()));
+        return permissionUnasked;
+    }
+    consent().setAnswer(ProjectConsent::kindProgram, command.act(), answer == ConsentQuestion::answerYes);
+    if (answer == ConsentQuestion::answerNo)
         return permissionRefused;
     monitor->setCommand(command);
     return permissionGiven;
@@ -293,6 +314,7 @@ void ModSyscall::addMonitor(int index)
     if (modGuiHook == nullptr)
         return;
     auto* monitor = new SyscallMonWidget;
+    HelpRef::set(monitor, QStringLiteral("pageId://externalPrograms#monitor"));
     monitors[index] = monitor;
     connect(monitor, &SyscallMonWidget::configRequest, this, &ModSyscall::handleConfigRequest);
     connect(monitor, &SyscallMonWidget::startRequest, this, &ModSyscall::handleStartRequest);
@@ -378,7 +400,7 @@ void ModSyscall::takePage()
     for (int index : allPrograms) {
         const SyscallRecord& old = before.programs[index];
         if (programs[index].exe != old.exe || programs[index].arg != old.arg)
-            consent().setAnswer(ProjectConsent::kindProgram, commandOf(index).texts(), true);
+            consent().setAnswer(ProjectConsent::kindProgram, commandOf(index).act(), true);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "ModMsgPluginIf.h"
 #include "ModPluginIf.h"
 #include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
 #include "ModSyscallHookIf.h"
 #include "ModSyscallPluginIf.h"
 #include "PluginList.h"
@@ -34,6 +35,7 @@ class ModSyscall : public QObject,
                    public ModGuiPluginIf,
                    public ModConfigPluginIfDflt,
                    public ModCfgAppPluginIfInterMod,
+                   public ModScriptPluginIf,
                    public SyscallConfig,
                    public ModSyscallHookIf,
                    private SyscallPrograms
@@ -95,6 +97,7 @@ private:
     int exitCode(int index) override;
 
     bool hasProject() const;
+    bool scriptGoesOn();
     ProjectConsent consent() const;
     SyscallCommand commandOf(int index) const;
     bool isKnown(const SyscallCommand& command) const;

@@ -44,39 +44,55 @@ ProcDisassembler::ProcDisassembler(const ProcTable& table)
 
 QString ProcDisassembler::text(int word, int address, const TargetName& targetName) const
 {
-    if ((word & ~allBits) != 0)
+    const sPattern_t* found = pattern(word);
+    if (found == nullptr)
         return QString();
+    QStringList operands;
+    for (const sOperand_t& operand : found->operands)
+        operands.append(operandText(operand, word, address, targetName));
+    const QString mnemonic = mnemonicOfOpcode(found->opcode);
+    return operands.isEmpty() ? mnemonic : mnemonic + ' ' + operands.join(QLatin1String(", "));
+}
+
+const ProcDisassembler::sPattern_t* ProcDisassembler::pattern(int word) const
+{
+    if ((word & ~allBits) != 0)
+        return nullptr;
     for (const sPattern_t& pattern : m_patterns) {
-        if ((word & pattern.mask) != pattern.match)
-            continue;
-        QStringList operands;
-        for (const sOperand_t& operand : pattern.operands)
-            operands.append(operandText(operand, word, address, targetName));
-        const QString mnemonic = mnemonicOfOpcode(pattern.opcode);
-        return operands.isEmpty() ? mnemonic : mnemonic + ' ' + operands.join(QLatin1String(", "));
+        if ((word & pattern.mask) == pattern.match)
+            return &pattern;
     }
-    return QString();
+    return nullptr;
+}
+
+int ProcDisassembler::field(const sOperand_t& operand, int word)
+{
+    return (word >> operand.shift) & fieldMask(operand.bits);
+}
+
+int ProcDisassembler::targetAddress(const sOperand_t& operand, int word, int address) const
+{
+    const int value = field(operand, word);
+    if (!m_table.layout.relativeFlow)
+        return value;
+    const bool isBackwards = value >> (operand.bits - 1) != 0;
+    return address + value - (isBackwards ? 1 << operand.bits : 0);
 }
 
 QString ProcDisassembler::operandText(const sOperand_t& operand, int word, int address,
                                       const TargetName& targetName) const
 {
-    const int value = (word >> operand.shift) & fieldMask(operand.bits);
     switch (operand.kind) {
     case sOperand_t::word:
         break;
     case sOperand_t::reg:
-        return m_table.regName(value);
+        return m_table.regName(field(operand, word));
     case sOperand_t::regRef:
-        return '(' + m_table.regName(value) + ')';
+        return '(' + m_table.regName(field(operand, word)) + ')';
     case sOperand_t::number:
-        return QString::number(value);
-    case sOperand_t::target: {
-        if (!m_table.layout.relativeFlow)
-            return targetName(value);
-        const bool isBackwards = value >> (operand.bits - 1) != 0;
-        return targetName(address + value - (isBackwards ? 1 << operand.bits : 0));
-    }
+        return QString::number(field(operand, word));
+    case sOperand_t::target:
+        return targetName(targetAddress(operand, word, address));
     }
     return operand.text;
 }

@@ -49,13 +49,21 @@ public:
     QString text(int word, int address, const TargetName& targetName) const;
     /// All words that the assembler can make, the more general ones first.
     const QVector<sPattern_t>& patterns() const { return m_patterns; }
+    /// The pattern of a word; null if the assembler makes no such word. Lives as long as the disassembler.
+    const sPattern_t* pattern(int word) const;
+    /// The text of an operand of the word's pattern.
+    QString operandText(const sOperand_t& operand, int word, int address, const TargetName& targetName) const;
+    /// What the word holds in the field of an operand.
+    static int field(const sOperand_t& operand, int word);
+    /// Where a target leads to; that may lie outside of the memory.
+    /// @param address of the word
+    int targetAddress(const sOperand_t& operand, int word, int address) const;
 
 private:
     void addPatterns(const sInstr_t& instr);
     void addOperandForms(const sInstr_t& instr);
     void addFlow(const sInstr_t& instr);
     void addPattern(const sInstr_t& instr, int word, const QVector<sOperand_t>& operands);
-    QString operandText(const sOperand_t& operand, int word, int address, const TargetName& targetName) const;
 
     sOperand_t dst() const;
     sOperand_t src() const;

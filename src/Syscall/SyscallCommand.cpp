@@ -29,6 +29,11 @@ SyscallCommand SyscallCommand::of(const SyscallRecord& record, const QDir& prjDi
     return command;
 }
 
+QStringList SyscallCommand::act() const
+{
+    return texts() + QStringList(QDir(folder).canonicalPath());
+}
+
 QStringList SyscallCommand::splitArguments(const QString& line)
 {
     return line.split(' ', Qt::KeepEmptyParts);

@@ -18,8 +18,11 @@ struct SyscallCommand
     /// empty argument between them, and an empty line is one empty argument.
     static QStringList splitArguments(const QString& line);
 
-    /// Program and arguments, for one who asks whether they may be run.
+    /// Program and arguments.
     QStringList texts() const { return QStringList(program) + arguments; }
+    /// What is allowed when somebody allows the command: program and arguments, and the folder without links, as the
+    /// same arguments name other files in another folder.
+    QStringList act() const;
     bool operator==(const SyscallCommand& other) const
     {
         return program == other.program && arguments == other.arguments && folder == other.folder;
@@ -27,7 +30,7 @@ struct SyscallCommand
     bool operator!=(const SyscallCommand& other) const { return !(*this == other); }
 
     /// Absolute path of the program; a name without a slash that is not in the search path stays as it is, and so does
-    /// an empty one.
+    /// an empty one. These two can not be started.
     QString program;
     QStringList arguments;
     QString folder; ///< working folder, absolute

@@ -34,10 +34,11 @@ constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(warnTerminated, "External program %1 was still running: it has been terminated."),
     NALVO_MSG(warnKilled, "External program %1 was still running and did not end when asked to: it has been killed."),
     NALVO_MSG(infoLeftOut, "The external programs of the event are left out; --external-programs runs them."),
+    NALVO_MSG(errNobodyToAsk, "Nobody can be asked whether this program may run, so it does not run: %1"),
 };
 static_assert(isIndexedBy(msgTexts, &sMsgText_t::type, SyscallMsgHndlr::msgCount), "each message has its row");
 
-const sMsgText_t* msgText(SyscallMsgHndlr::eMsgType_t type)
+const sMsgText_t* rowOf(SyscallMsgHndlr::eMsgType_t type)
 {
     return type >= 0 && type < SyscallMsgHndlr::msgCount ? &msgTexts[type] : nullptr;
 }
@@ -52,7 +53,7 @@ SyscallMsgHndlr::SyscallMsgHndlr(QObject* parent)
 
 void SyscallMsgHndlr::signMsg(eMsgType_t type, const QString& arg)
 {
-    const sMsgText_t* text = msgText(type);
+    const sMsgText_t* text = rowOf(type);
     if (text == nullptr) {
         signInternalError(tr("Unsupported simulator message."));
         return;
@@ -93,8 +94,14 @@ void SyscallMsgHndlr::signInternalError(const QString& text)
 
 const char* SyscallMsgHndlr::msgKey(eMsgType_t type)
 {
-    const sMsgText_t* text = msgText(type);
+    const sMsgText_t* text = rowOf(type);
     return text != nullptr ? text->key : nullptr;
+}
+
+const char* SyscallMsgHndlr::msgText(eMsgType_t type)
+{
+    const sMsgText_t* row = rowOf(type);
+    return row != nullptr ? row->text : nullptr;
 }
 
 QUrl SyscallMsgHndlr::helpUrl(const char* key) const

@@ -22,10 +22,11 @@ public:
         errExeAlreadyRunning = 3,
         errCanNotStart = 4,
         errExitWithoutSuccess = 5,
-        errNotAllowed = 6,  ///< the user did not allow the program to run; argument: number
-        warnTerminated = 7, ///< it was ended with its project or its setting; argument: number
-        warnKilled = 8,     ///< the same, by force
-        infoLeftOut = 9,    ///< a batch run leaves the programs of the event out
+        errNotAllowed = 6,   ///< the user did not allow the program to run; argument: number
+        warnTerminated = 7,  ///< it was ended with its project or its setting; argument: number
+        warnKilled = 8,      ///< the same, by force
+        infoLeftOut = 9,     ///< a batch run leaves the programs of the event out
+        errNobodyToAsk = 10, ///< nobody is there who could allow it; argument: the command
         msgCount
     };
     enum eMsgGrp_t : int { grpSyscall = 0 };
@@ -46,6 +47,8 @@ public:
 
     /// Key of a message, as its help page knows it; null for an unknown value.
     static const char* msgKey(eMsgType_t type);
+    /// Its text as it is in the catalogue, with %1 for the argument; null for an unknown value.
+    static const char* msgText(eMsgType_t type);
 
 private:
     QUrl helpUrl(const char* key) const;

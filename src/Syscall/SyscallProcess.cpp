@@ -44,7 +44,10 @@ void SyscallProcess::setOutputToStderr()
 bool SyscallProcess::start(const SyscallCommand& command)
 {
     setWorkingDirectory(command.folder);
-    QProcess::start(command.program, command.arguments, ReadWrite | Unbuffered);
+    // A name that was not found is not left to QProcess: some releases of it have the child look once more, which
+    // stands in the folder of the project and would find there what nobody was asked about.
+    const bool isFound = QDir::isAbsolutePath(command.program);
+    QProcess::start(isFound ? command.program : QString(), command.arguments, ReadWrite | Unbuffered);
     return waitForStarted(startTime);
 }
 
@@ -86,12 +89,14 @@ bool SyscallProcess::hasDied() const
 QList<SyscallProcess*> SyscallProcess::endAll(const QList<SyscallProcess*>& processes, int grace)
 {
     QList<SyscallProcess*> running;
+    QList<pid_t> groups;
     std::copy_if(processes.cbegin(), processes.cend(), std::back_inserter(running),
                  [](const SyscallProcess* process) { return process->isRunning(); });
     for (SyscallProcess* process : qAsConst(running)) {
         // What they still write is read and dropped, so that they can not fill the memory.
         process->closeReadChannel(StandardOutput);
         process->closeReadChannel(StandardError);
+        groups.append(pid_t(process->processId()));
         process->terminateGroup();
     }
     // QProcess::waitForFinished() would not come back from a program that writes without end.
@@ -112,6 +117,14 @@ QList<SyscallProcess*> SyscallProcess::endAll(const QList<SyscallProcess*>& proc
     }
     for (SyscallProcess* process : qAsConst(running))
         process->waitForFinished(reapTime);
+    // Children that their program has not waited for have the rest of the time, as nobody could end them any more.
+    const auto isLeft = [](pid_t group) { return group > 0 && ::kill(-group, 0) == 0; };
+    while (std::any_of(groups.cbegin(), groups.cend(), isLeft) && timer.elapsed() < grace)
+        QThread::msleep(pollTime);
+    for (pid_t group : qAsConst(groups)) {
+        if (isLeft(group))
+            ::kill(-group, SIGKILL);
+    }
     return killed;
 }
 

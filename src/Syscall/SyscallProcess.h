@@ -33,7 +33,8 @@ public:
     void terminateGroup();
     void killGroup();
     /// Ends programs: asks them all first, and kills those that have not ended in time. Their output is lost. It
-    /// returns after the grace time at the latest, however much they write.
+    /// returns after the grace time at the latest, however much they write. Children that they have left behind end
+    /// with them.
     /// @param grace milliseconds, for all of them together
     /// @return those that had to be killed
     static QList<SyscallProcess*> endAll(const QList<SyscallProcess*>& processes, int grace = usualGrace);

@@ -54,6 +54,8 @@ bool SyscallSequence::runProgram(int index)
     case SyscallPrograms::permissionRefused:
         m_messages.signMsg(SyscallMsgHndlr::errNotAllowed, QString::number(index + 1));
         return !record.abortIfNoSuccess;
+    case SyscallPrograms::permissionUnasked:
+        return !record.abortIfNoSuccess;
     case SyscallPrograms::permissionGone:
         break;
     }

@@ -18,7 +18,8 @@ public:
     enum ePermission_t {
         permissionGiven,
         permissionRefused,
-        permissionGone ///< the project, or the program, is no longer there
+        permissionUnasked, ///< nobody could be asked, which has been reported
+        permissionGone     ///< the project, or the program, is no longer there
     };
     enum eEnd_t {
         endExited,  ///< it ended by itself: exitCode() has its return value

@@ -80,6 +80,21 @@ TEST_F(Stages, theReaderOnlyRecords)
     EXPECT_NE(program.equs.find("ns", "a"), nullptr);
 }
 
+TEST_F(Stages, aSourceCanBeATextInPlaceOfItsFile)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("a.psm");
+    charsets.resetDefaultCodec("UTF-8");
+    files.setText(path, "\xef\xbb\xbfx: load s0, 1\r\nload s1, 2");
+    ASSERT_TRUE(SourceReader(program, files, charsets, config, messages, nobody).parseFiles({path}));
+    ASSERT_EQ(program.opcodes.count(), 2);
+    EXPECT_EQ(program.opcodes.first()->next->arg1->name, "2");
+    // It has no file, and needs none; of others the file is read.
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_FALSE(SourceReader(program, files, charsets, config, messages, nobody).parseFiles({dir.filePath("b.psm")}));
+    EXPECT_EQ(files.open(dir.path()), nullptr);
+}
+
 TEST_F(Stages, constantsAreResolvedInTheOrderOfTheirDependence)
 {
     addEqu("sum", "last + 1");

@@ -107,7 +107,7 @@ TEST_F(Dialog, hasTheLayoutOfItsParts)
         EXPECT_FALSE(button->toolTip().isEmpty());
     }
     EXPECT_EQ(QStringList(buttons.values()),
-              QStringList({"Set page default values", "Restore values", "Apply and close", "&Cancel"}));
+              QStringList({"Set page default values", "Restore values", "Help", "Apply and close", "&Cancel"}));
 }
 
 TEST_F(Dialog, noTitleInTheListIsCutOff)
@@ -413,15 +413,15 @@ TEST_F(Dialog, theKeyboardReachesEverythingInReadingOrder)
     QTest::keyClick(list(), Qt::Key_Down);
     EXPECT_EQ(current(), "App");
     QStringList order;
-    for (int i = 0; i < 6; ++i) {
+    for (int i = 0; i < 7; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QWidget* focus = QApplication::focusWidget();
         ASSERT_NE(focus, nullptr);
         auto* button = qobject_cast<QPushButton*>(focus);
         order.append(button != nullptr ? button->text() : focus == appClient.page()->field ? "field" : "list");
     }
-    EXPECT_EQ(order, QStringList(
-                         {"field", "Set page default values", "Restore values", "Apply and close", "&Cancel", "list"}));
+    EXPECT_EQ(order, QStringList({"field", "Set page default values", "Restore values", "Help", "Apply and close",
+                                  "&Cancel", "list"}));
     QTest::keyClick(list(), Qt::Key_Up);
     EXPECT_EQ(current(), "Prj");
     QTest::keyClick(list(), Qt::Key_Tab);

@@ -101,11 +101,13 @@ protected:
     {
         ProjectConsent(&cfgApp, prjFile())
             .setAnswer(ProjectConsent::kindProgram,
-                       nsModSyscall::SyscallCommand::of(program, QDir(folder.path())).texts(), true);
+                       nsModSyscall::SyscallCommand::of(program, QDir(folder.path())).act(), true);
     }
+    /// The answer for program and arguments in the folder of the project.
     ProjectConsent::eAnswer_t answer(const QStringList& command)
     {
-        return ProjectConsent(&cfgApp, prjFile()).answer(ProjectConsent::kindProgram, command);
+        return ProjectConsent(&cfgApp, prjFile())
+            .answer(ProjectConsent::kindProgram, command + QStringList(QDir(folder.path()).canonicalPath()));
     }
     nsModSyscall::SyscallMonWidget* monitor(int index)
     {

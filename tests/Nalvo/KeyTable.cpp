@@ -76,6 +76,9 @@ const KeyTable& settingsKeys()
         {"ModEditor/font/keyWords/weight", "int", "75", "50"},
         {"ModEditor/font/keyWords/italic", "bool", "0", "1"},
         {"ModEditor/font/keyWords/color", "color", "#000000", "#26629e"},
+        {"ModHlp/hlpIndexSideRight", "int", "2", "0"},
+        {"ModHlp/showGettingStarted", "bool", "1", "0"},
+        {"ModHlp/showOnlyOneHelpPage", "bool", "1", "0"},
         {"ModNetwork/proxyType", "int", "0", "3"},
         {"ModNetwork/proxyPort", "int", "0", "8080"},
         {"ModSwUpdate/updateCheckInterval", "int", "1", "3"},
@@ -182,6 +185,9 @@ const KeyTable& documentKeys()
         {"ModEditor/openFiles", "list", "", "more.psm:main.psm"},
         {"ModEditor/lastFile", "path", "", "main.psm"},
         {"ModEditor/lastCursorPos", "int", "0", "3"},
+        {"ModHlp/openFiles", "list", "", "qthelp&amp;#58;&#47;&#47;nv&#47;Nalvo&#47;about.html"},
+        // Only one page of the centre is the current one, which is a document here.
+        {"ModHlp/currentFile", "string", "", ""},
     };
     return keys;
 }

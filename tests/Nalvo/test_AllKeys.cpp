@@ -15,6 +15,8 @@
 namespace {
 
 const char* const processors[] = {"", "Xilinx PicoBlaze 3", "Xilinx PicoBlaze 6", "Lattice Mico8 v3.x"};
+/// Only one page of the centre is the current one: here it is a document, and no help page.
+const char* const alwaysEmpty = "ModHlp/currentFile";
 const char* const keyProcessor = "ModProcessor/processor";
 
 KeyTable joined(const KeyTable& first, const KeyTable& second)
@@ -149,7 +151,8 @@ TEST_F(AllKeys, theTableSaysWhatItMeans)
     for (const sKey_t& key : keys) {
         EXPECT_TRUE(isOfType(key, key.dflt)) << key.key << ' ' << key.dflt;
         EXPECT_TRUE(isOfType(key, key.other)) << key.key << ' ' << key.other;
-        EXPECT_STRNE(key.dflt, key.other) << key.key << " would not show whether it is read";
+        if (QByteArray(key.key) != alwaysEmpty)
+            EXPECT_STRNE(key.dflt, key.other) << key.key << " would not show whether it is read";
     }
     EXPECT_EQ(std::size_t(defaults(settingsKeys()).size()), settingsKeys().size()) << "no key twice";
     EXPECT_EQ(std::size_t(defaults(projectKeys()).size()), projectKeys().size());

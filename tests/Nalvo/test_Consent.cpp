@@ -8,9 +8,11 @@
 #include "ModPrj.h"
 
 #include <QDialogButtonBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollBar>
 
 using nsModAsmFe::AsmFeConfig;
 
@@ -143,6 +145,30 @@ TEST_F(Consent, whatASourceNamesIsAskedFor)
     EXPECT_TRUE(isRefused());
 }
 
+// A folder of the project becomes a link while the user reads the question about another file.
+TEST_F(Consent, aPlaceThatChangesUnderTheQuestionIsNotWritten)
+{
+    makeWindow();
+    QTemporaryDir third;
+    ASSERT_TRUE(QFile::link(m_other.path(), projectDir() + "/link"));
+    ASSERT_TRUE(prj()->openPrj(makeProject(sourceWithDevice(projectDir() + "/sub/device.hex"), "link/out.hex")));
+    QDir(projectDir()).mkdir("sub");
+    const auto relink = [&](const QString& name) {
+        QFile::remove(projectDir() + '/' + name);
+        QDir(projectDir()).rmdir(name);
+        ASSERT_TRUE(QFile::link(third.path(), projectDir() + '/' + name));
+    };
+    ModalAnswers answers({[&](QDialog* dialog) {
+        relink("link");
+        relink("sub");
+        dialog->accept();
+    }});
+    run();
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_EQ(QDir(third.path()).entryList(QDir::Files), QStringList());
+    EXPECT_TRUE(isRefused()) << messageTexts().join('\n').toStdString();
+}
+
 TEST_F(Consent, insideNothingIsAsked)
 {
     makeWindow();
@@ -188,6 +214,42 @@ TEST_F(Consent, aTypedPathIsNotAskedForButAForeignOneIs)
     EXPECT_EQ(none.seen(), 0);
     EXPECT_TRUE(QFile::exists(outside("typed.hex")));
     EXPECT_FALSE(QFile::exists(outside("foreign.hex")));
+}
+
+// What comes last must not hide below what looks harmless.
+TEST_F(Consent, aLongTextSaysThatItIsLonger)
+{
+    makeWindow();
+    const QString name = QString("harmless").repeated(25) + ".hex";
+    QByteArray devices;
+    for (int i = 0; i < 20; ++i) {
+        QByteArray device =
+            sourceWithDevice(outside(QString::number(i) + name)).replace("rom", "rom" + QByteArray::number(i));
+        devices += device.left(device.indexOf("        LOAD"));
+    }
+    ASSERT_TRUE(prj()->openPrj(makeProject(devices + source(), "inside.hex")));
+    bool saysSo = false;
+    bool scrolls = false;
+    QString act;
+    {
+        ModalAnswers answers({[&](QDialog* dialog) {
+            screenshot("consent-long", dialog);
+            act = actOf(dialog);
+            saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr;
+            scrolls = dialog->findChild<QPlainTextEdit*>("consentAct")->verticalScrollBar()->maximum() > 0;
+            EXPECT_LE(dialog->height(), 600);
+        }});
+        run();
+    }
+    EXPECT_EQ(act.count('\n'), 19);
+    EXPECT_TRUE(scrolls);
+    EXPECT_TRUE(saysSo);
+    prj()->closePrj();
+    ASSERT_TRUE(prj()->openPrj(makeProject(source(), outside("short.hex"))));
+    ModalAnswers one({[&](QDialog* dialog) { saysSo = dialog->findChild<QLabel*>("consentMore") != nullptr; }});
+    run();
+    EXPECT_EQ(one.seen(), 1);
+    EXPECT_FALSE(saysSo);
 }
 
 TEST_F(Consent, controlCharactersAreShownByTheirNumbers)

@@ -207,14 +207,16 @@ TEST_P(EditorMonkey, survives)
 {
     for (int i = 0; i < 150; ++i)
         act();
-    // What stands is consistent: each page of the centre is a document, but for the configuration and the project
-    // manager, and each document has a page.
+    // What stands is consistent: each page of the centre is a document, but for the configuration, the project
+    // manager and the help, and each document has a page.
     auto* gui = module<ModGuiHookIf>();
     for (EditorWidget* widget : editor()->editorWidgets())
         EXPECT_TRUE(gui->hasWidget(ModGuiHookIf::eLocationTabs, widget));
     QList<QWidget*> pages = gui->centerWidgetList();
     pages.removeAll(window->findChild<QWidget*>("configDialog"));
     pages.removeAll(window->findChild<QWidget*>("prjMngr"));
+    for (QWidget* page : window->findChildren<QWidget*>("hlpPage"))
+        pages.removeAll(page);
     for (QWidget* page : pages) {
         EXPECT_TRUE(editor()->editorWidgets().contains(qobject_cast<EditorWidget*>(page)))
             << page->metaObject()->className() << ' ' << qPrintable(page->objectName());

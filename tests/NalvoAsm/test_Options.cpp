@@ -36,6 +36,7 @@ TEST_F(AsmToolOptions, HelpFitsAnEightyColumnTerminalAndNamesEverything)
                                  "-l, --listing",
                                  "-s, --symbols",
                                  "-W, --werror",
+                                 "--explain",
                                  "  -q ",
                                  "  -v ",
                                  "-h, --help",
@@ -81,6 +82,9 @@ TEST_F(AsmToolOptions, WrongUsageIsTold)
     expectWrongUsage({"-f", "xml", "p.nalvo"}, "Unknown format: xml");
     expectWrongUsage({"-q", "-v", "p.nalvo"}, "-q and -v exclude each other.");
     expectWrongUsage({"-l", "", "p.nalvo"}, "The name of the listing file is empty.");
+    expectWrongUsage({"--explain"}, "Missing value after '--explain'.");
+    expectWrongUsage({"--explain", ""}, "The key of the message is empty.");
+    expectWrongUsage({"--explain", "errSyntax", "p.nalvo"}, "--explain takes one key and no project: p.nalvo");
     expectWrongUsage({"--symbols=", "p.nalvo"}, "The name of the symbols file is empty.");
 }
 

@@ -18,6 +18,7 @@ class WindowTarget : public QObject
 
 public:
     Q_INVOKABLE void note(const QString& text) { notes.append(text); }
+    Q_INVOKABLE void take(QObject* object) { objects.append(object); }
     /// Calls what the test wants to happen while the script is on the stack.
     Q_INVOKABLE void meanwhile()
     {
@@ -26,6 +27,7 @@ public:
     }
 
     QStringList notes;
+    QList<QObject*> objects;
     std::function<void()> during;
 };
 

@@ -28,6 +28,7 @@ TEST_F(ScriptWindow, everyObjectHasItsOperations)
           "closeAllFiles", "closeOtherFiles", "closeFile", "printFile", "setCursorToLine", "clearLineHighlited",
           "setLineHighlighted", "insertText"}},
         {"config", {"openDialog", "closeDialog", "selectDialogPageByTitle"}},
+        {"importFiles", {"openImportDialog", "closeImportDialog", "importFile", "useFile"}},
         {"assembler", {"assemble", "isAssembled", "writtenFiles", "instructionCount", "labels", "labelAddress"}},
         {"simulator",
          {"isEnabled", "enable",         "disable",    "reset",         "step",      "run",       "runTo",
@@ -83,6 +84,19 @@ TEST_F(ScriptWindow, theSettingsDialogIsDriven)
                     "test.note(config.selectDialogPageByTitle('Editor'));\n"
                     "config.openDialog(); config.closeDialog(true); config.closeDialog(false);"),
               QStringList({"true", "false", "false"}));
+}
+
+TEST_F(ScriptWindow, foreignSourcesAreImported)
+{
+    writeFile("foreign.psm", "LOAD s0, 1F");
+    EXPECT_EQ(notes("open(); importFiles.importFile('foreign.psm', 'KCPSM3'); importFiles.openImportDialog();\n"
+                    "test.note(failure(function() { importFiles.importFile('foreign.psm', 'None'); }));\n"
+                    "test.note(failure(function() { importFiles.importFile('none.psm', 'KCPSM6'); }));\n"
+                    "importFiles.closeImportDialog(); importFiles.closeImportDialog(); importFiles.useFile('RET');"),
+              QStringList({"Error: There is no import filter: None", "Error: Can not open file: none.psm"}));
+    const QList<nsModEditor::EditorWidget*> documents = module<nsModEditor::ModEditor>()->editorWidgets();
+    ASSERT_EQ(documents.size(), 1);
+    EXPECT_EQ(documents.first()->text(), "RET");
 }
 
 TEST_F(ScriptWindow, filesAreEdited)

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDirIterator>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -178,6 +179,65 @@ TEST_F(ScriptProgram, theWindowCanBeClosedByAScript)
     EXPECT_EQ(result.status, 0);
     // Unlike an exit, a close saves the settings.
     EXPECT_TRUE(QFile::exists(folder.filePath("home/Brelmont/Nalvo.ini"))) << qPrintable(result.err);
+}
+
+// Without a display nobody answers a question: the script must not wait for it.
+TEST_F(ScriptProgram, whatOnlyAUserCanAllowIsNotDone)
+{
+    QDir(folder.path()).mkpath("other");
+    QDir(folder.path()).mkpath("foreign");
+    write("start: JUMP start\n", "foreign/p.psm");
+    const QString outside = QDir(folder.filePath("other")).canonicalPath() + "/out.hex";
+    write("<project version=\"3\"><sources><srcFiles>p.psm</srcFiles></sources><AsmFe><target>"
+          "<vhdl><en>0</en></vhdl><verilog><en>0</en></verilog><mem><en>0</en></mem><hex><en>1</en>"
+          "<writeFileEventBut1>1</writeFileEventBut1><writeFileEventBut2>0</writeFileEventBut2>"
+          "<outputFile>../other/out.hex</outputFile></hex></target></AsmFe>"
+          "<ModProcessor><processor>Xilinx PicoBlaze 3</processor></ModProcessor><Syscall>"
+          "<syscall0ExecEventBut2>1</syscall0ExecEventBut2><syscall0StoreRelToPrj>0</syscall0StoreRelToPrj>"
+          "<syscall0Exe>/bin/touch</syscall0Exe><syscall0Arg>ran by-the-project</syscall0Arg></Syscall></project>\n",
+          "foreign/p.nalvo");
+    const QString script = write("project.open(scriptDir + '/foreign/p.nalvo');\n"
+                                 "[1, 2, 1, 2].forEach(function(button) {\n"
+                                 "    assembler.assemble(button);\n"
+                                 "    msg.messages().forEach(function(message) {\n"
+                                 "        if (message.grade === 'error') print(message.text);\n"
+                                 "    });\n"
+                                 "});\n"
+                                 "app.close();\n");
+    const ProgramResult result = run({"-s", script});
+    EXPECT_EQ(result.status, 0);
+    const QString command = "/bin/touch \"ran\" \"by-the-project\"\n";
+    const QString shown =
+        "Output file outside of the project's folder is not allowed: " + folder.filePath("foreign/../other/out.hex") +
+        " (nobody can be asked)\n"
+        "Nobody can be asked whether this program may run, so it does not run: " +
+        command;
+    EXPECT_EQ(result.out, shown + shown) << qPrintable(result.err);
+    const QString start = ": nobody can be asked, so this is not allowed: ";
+    EXPECT_EQ(result.err.count(start + outside + '\n'), 2) << qPrintable(result.err);
+    EXPECT_EQ(result.err.count(start + command), 2) << qPrintable(result.err);
+    EXPECT_FALSE(QFile::exists(outside));
+    EXPECT_FALSE(QFile::exists(folder.filePath("foreign/ran")));
+    EXPECT_TRUE(QFile::exists(folder.filePath("home/Brelmont/Nalvo.ini")));
+    EXPECT_FALSE(content("home/Brelmont/Nalvo.ini").contains("[Consent]")) << "nobody has answered";
+}
+
+// The question for a text that is not saved, at the end. The text is kept for the next start.
+TEST_F(ScriptProgram, aQuestionIsAnsweredAsByEsc)
+{
+    const QString script = write("editor.newFile('only here\\n');\napp.close();\n");
+    const ProgramResult result = run({"-s", script});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.err.contains("Nobody can answer this: File was modified: The file was changed."))
+        << qPrintable(result.err);
+    EXPECT_TRUE(QFile::exists(folder.filePath("home/Brelmont/Nalvo.ini")));
+    bool isKept = false;
+    QDirIterator files(folder.filePath("home"), QDir::Files, QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+        QFile file(files.next());
+        isKept = (file.open(QIODevice::ReadOnly) && file.readAll().contains("only here")) || isKept;
+    }
+    EXPECT_TRUE(isKept);
 }
 
 TEST_F(ScriptProgram, anOutputThatTakesNothingIsAScriptError)

@@ -5,8 +5,10 @@
 #include "EditorWidget.h"
 #include "ModEditor.h"
 #include "ModalAnswers.h"
+#include "Unattended.h"
 
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPlainTextEdit>
@@ -128,6 +130,97 @@ TEST_F(ScriptWindow, theWindowClosesWhenTheScriptHasEnded)
     EXPECT_TRUE(QFile::exists(settingsFile()));
     EXPECT_FALSE(run("test.note('after');"));
     EXPECT_TRUE(target.notes.isEmpty());
+}
+
+// The script waits for a program that is at work.
+class ScriptWithProgram : public ScriptWindow
+{
+protected:
+    ScriptWithProgram()
+    {
+        QFile file(project());
+        EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+        const QByteArray text =
+            file.readAll().replace("</project>", "<Syscall><syscall0ExecEventBut1>1</syscall0ExecEventBut1>"
+                                                 "<syscall0StoreRelToPrj>0</syscall0StoreRelToPrj>"
+                                                 "<syscall0Exe>/bin/sh</syscall0Exe><syscall0Arg>rest.sh</syscall0Arg>"
+                                                 "</Syscall></project>");
+        file.seek(0);
+        EXPECT_EQ(file.write(text), text.size());
+        writeFile("rest.sh", "echo ready\nsleep 60\ntouch ended\n");
+    }
+    /// Runs a script that waits for the program. @param action what the user does then
+    void wait(const std::function<void()>& action)
+    {
+        ModalAnswers answers({[](QDialog* dialog) { dialog->accept(); }});
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            const auto* output = window->findChild<QPlainTextEdit*>("syscallOutput");
+            if (output == nullptr || !output->toPlainText().contains("ready"))
+                return;
+            look.stop();
+            action();
+        });
+        look.start(1);
+        EXPECT_FALSE(run("open(); assembler.assemble(1); test.note('after');"));
+        EXPECT_FALSE(look.isActive());
+        EXPECT_TRUE(target.notes.isEmpty());
+        EXPECT_FALSE(QFile::exists(projectDir() + "/ended")) << "nobody has waited for its end";
+    }
+};
+
+TEST_F(ScriptWithProgram, aStopAlsoEndsTheProgram)
+{
+    wait([this] { trigger("Stop script"); });
+    EXPECT_TRUE(hasMessage("External program 1 was still running"));
+    EXPECT_TRUE(hasMessage("The script was stopped."));
+    EXPECT_EQ(window->findChild<QLabel*>("syscallStatus")->text().left(11), "Not running");
+}
+
+TEST_F(ScriptWithProgram, theWindowCloses)
+{
+    wait([this] { EXPECT_FALSE(closeWindow()); });
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !window->isVisible(); }, patience));
+}
+
+// With nobody there, nobody would ever stop trying again.
+TEST_F(ScriptWindow, aProjectThatCanNotBeSavedDoesNotHoldTheProgramWhereNobodyIs)
+{
+    ASSERT_TRUE(run("open();"));
+    // Nobody, not even root, can write a file where a folder has its name.
+    ASSERT_TRUE(QFile::remove(project()));
+    ASSERT_TRUE(QDir().mkpath(project() + "/inside"));
+    bool late = false;
+    QTimer::singleShot(patience, window.get(), [&] {
+        late = true;
+        QDir(project()).removeRecursively();
+    });
+    Unattended::setOn(true);
+    EXPECT_TRUE(closeWindow());
+    Unattended::setOn(false);
+    EXPECT_FALSE(late);
+}
+
+TEST_F(ScriptWindow, modalDialogsAreAnsweredWhereNobodyIs)
+{
+    Unattended::setOn(true);
+    testing::internal::CaptureStderr();
+    QMessageBox box(QMessageBox::Question, "A title", "<p>Shall <b>it</b> be?</p>", QMessageBox::Yes | QMessageBox::No);
+    EXPECT_EQ(box.exec(), QMessageBox::No);
+    // A box that has no answer for Esc.
+    QMessageBox stubborn(QMessageBox::Question, "Another", "Text", QMessageBox::Yes | QMessageBox::Retry);
+    EXPECT_NE(stubborn.exec(), QMessageBox::Yes);
+    trigger("Run script...");
+    Unattended::setOn(false);
+    const std::string err = testing::internal::GetCapturedStderr();
+    EXPECT_NE(err.find("Nobody can answer this: A title: Shall it be?\n"), std::string::npos) << err;
+    EXPECT_NE(err.find("Nobody can answer this: Another: Text\n"), std::string::npos) << err;
+    EXPECT_NE(err.find("Nobody can answer this: Run script\n"), std::string::npos) << err;
+    // With a user again, a dialog waits.
+    ModalAnswers answers({[](QDialog* dialog) {
+        QTest::mouseClick(static_cast<QMessageBox*>(dialog)->button(QMessageBox::Yes), Qt::LeftButton);
+    }});
+    EXPECT_EQ(box.exec(), QMessageBox::Yes);
 }
 
 TEST_F(ScriptWindow, theWindowClosesUnderAConnectedFunctionToo)

@@ -26,7 +26,7 @@ public:
             m_words[std::size_t(m_at)] = instruction(group());
         start();
         if (pick(4) != 0)
-            routine();
+            routine(-1);
         return m_words;
     }
 
@@ -35,7 +35,7 @@ public:
 private:
     enum class Group { compute, port, memory, jump, call, ret, interrupt, bank };
 
-    void put(quint32 word) { m_words[std::size_t(m_at++)] = word; }
+    void put(quint32 word) { m_words.at(std::size_t(m_at++)) = word; }
     quint32 jumpTo(int target, When when)
     {
         switch (m_core) {
@@ -55,16 +55,19 @@ private:
         return words[int(m_core)];
     }
 
-    /// The program often comes back to its start. It shall then go on in another way: with values from outside,
-    /// interrupts on, some calls deep, and to a place that depends on these values.
+    /// The program often comes back to its start. It shall then show what it has, and go on in another way: with values
+    /// from outside, interrupts on, some calls deep, and to a place that depends on these values.
     void start()
     {
+        static const quint32 write[] = {p3::WRPRT, p6::withK(p6::WRPRT, 0, 0), m8::WRPRT};
         static const quint32 read[] = {p3::RDPRT, p6::withK(p6::RDPRT, 0, 0), m8::RDPRT};
         static const quint32 call[] = {p3::call(0), p6::call(0), m8::call(1)};
         static const quint32 compare[] = {p3::COMP, p6::withK(p6::COMP, 0, 0), m8::withK(m8::COMP, 0, 0)};
         m_at = 1; // where a Mico8 starts
         if (pick(2) == 0)
             put(jumpTo(3, When(1 + pick(4))));
+        for (quint32 number = 0; number < 4; ++number)
+            put(write[int(m_core)] + (number << 8));
         for (quint32 number = 0; number < 4; ++number)
             put(read[int(m_core)] + (number << 8));
         put(enable());
@@ -101,31 +104,38 @@ private:
             put(p6::withK(p6::RDPRT, 13, 13));
             put(p6::withK(p6::LOAD, 12, 2));
         }
-        put(pick(2) == 0 ? p6::INT_ENABLE : p6::INT_DISABLE);
-        put(pick(2) == 0 ? p6::BANK_A : p6::BANK_B);
+        // Either bank, by a value from outside.
+        put(p6::withK(p6::COMP, 0, 4));
+        put(p6::jump(m_at + 2, When::C));
+        put(p6::BANK_A);
         put(p6::withY(p6::ADD, 14, 13));
         for (int level = 0; level < 30; ++level)
             put(p6::call(m_at + 1));
+        // An interrupt is entered before the last call, or pre-empts what the call would half execute, or comes too
+        // late.
+        put(pick(3) == 0 ? p6::INT_DISABLE : p6::INT_ENABLE);
         put(p6::callRegs(12, 13));
         for (m_at = 0x200; m_at < m_size;)
-            put(instruction(Group(pick(8))));
-        routine();
+            put(instruction(pick(2) == 0 ? Group::memory : Group(pick(8))));
+        routine(0x100);
         return m_words;
     }
 
     /// What an interrupt comes to: a few instructions without a jump, and the return.
-    void routine()
+    /// @param place a free one; a random one where it is negative
+    void routine(int place)
     {
         const int vector = m_core == Core::Mico8 ? 0 : m_core == Core::PicoBlaze3 ? 0x3FF : m_build.vector;
         if (vector >= m_size)
             m_words.resize(std::size_t(vector) + 1);
         m_at = vector;
-        // The program of resets has nothing from here on.
-        const int first = m_flavour == Flavour::resets ? 0x100 : 40 + pick(m_size - 60);
+        const int first = place >= 0 ? place : 40 + pick(m_size - 60);
         put(jumpTo(first, When::always));
         m_at = first;
-        if (m_core == Core::PicoBlaze6 && pick(2) == 0)
+        if (m_core == Core::PicoBlaze6 && pick(2) == 0) {
+            put(p6::withK(p6::WRPRT, 0, 0));
             put(pick(2) == 0 ? p6::BANK_A : p6::BANK_B);
+        }
         if (pick(3) == 0)
             put(enable());
         for (int n = pick(8); n > 0; --n)
@@ -310,10 +320,11 @@ Stimulus randomStimulus(Core core, const CoreBuild& build, Flavour flavour, qint
     stimulus.clocks = clocks;
     stimulus.waitStates = generator.pick(3);
     for (qint64 n = 0; n < clocks / 2; ++n)
-        stimulus.reads.push_back(quint8(generator.pick(256)));
+        stimulus.reads.push_back(quint8(generator.pick(4) == 0 ? 0 : generator.pick(256)));
     // Some requests last for one or two clocks, some are held.
-    for (qint64 clock = generator.pick(40); clock < clocks; clock += 1 + generator.pick(60)) {
-        const qint64 length = generator.pick(2) == 0 ? 1 + generator.pick(3) : 1 + generator.pick(30);
+    const bool isDense = flavour == Flavour::resets;
+    for (qint64 clock = generator.pick(40); clock < clocks; clock += 1 + generator.pick(isDense ? 8 : 60)) {
+        const qint64 length = isDense ? 1 : 1 + generator.pick(generator.pick(2) == 0 ? 3 : 30);
         stimulus.interrupts.push_back({clock, length});
         clock += length;
     }

@@ -42,6 +42,16 @@ protected:
         char* arguments[] = {name, nullptr};
         window.reset();
         window = std::make_unique<Nalvo>(1, arguments);
+        if (!keepsFirstHelpPage)
+            closeHelpPages();
+    }
+    /// The first page of the help has tests of its own; in all others the window begins without it.
+    void closeHelpPages() const
+    {
+        for (QObject* child : window->children()) {
+            if (child->inherits("nsModHlp::ModHlp"))
+                QMetaObject::invokeMethod(child, "closeAllFiles");
+        }
     }
     /// Closes the window as its user does: the exit phases run.
     bool closeWindow() { return window->close(); }
@@ -115,5 +125,6 @@ protected:
     }
 
     QTemporaryDir folder;
+    bool keepsFirstHelpPage = false;
     std::unique_ptr<Nalvo> window;
 };

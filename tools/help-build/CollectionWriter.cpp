@@ -1,7 +1,7 @@
 #include "CollectionWriter.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include "MessageEntries.h"
+
 #include <QHash>
 #include <QXmlStreamWriter>
 
@@ -13,6 +13,7 @@ namespace {
 const char* const helpNamespace = "nv";
 const char* const virtualFolder = "Nalvo";
 const char* const pageTable = "pageIdRefList/pageIdRefList.csv";
+const QString styleSheet = QStringLiteral("style.css");
 
 using PagesById = QHash<QString, const HelpPage*>;
 
@@ -29,6 +30,7 @@ void writeContents(QXmlStreamWriter* xml, const QVector<ContentsEntry>& contents
     }
 }
 
+/// @param id of its own: of several keywords with one id, the collection would keep the first alone
 void writeKeyword(QXmlStreamWriter* xml, const QString& name, const QString& id, const QString& ref)
 {
     xml->writeEmptyElement("keyword");
@@ -42,26 +44,15 @@ void writeKeywords(QXmlStreamWriter* xml, const QVector<HelpPage>& pages)
     for (const HelpPage& page : pages) {
         writeKeyword(xml, page.title, page.id, page.file());
         for (const QString& keyword : page.keywords)
-            writeKeyword(xml, keyword, keyword, page.file());
+            writeKeyword(xml, keyword, page.id + '/' + keyword, page.file());
         for (const HelpAnchor& anchor : page.anchors) {
             if (anchor.isWord)
-                writeKeyword(xml, anchor.title, anchor.title, page.file() + '#' + anchor.name);
+                writeKeyword(xml, anchor.title, page.id + '#' + anchor.name, page.file() + '#' + anchor.name);
         }
     }
 }
 
 } // namespace
-
-bool CollectionWriter::writeFile(const QString& name, const QByteArray& bytes)
-{
-    const QString path = m_out.filePath(name);
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush())
-        return true;
-    m_error = path + QStringLiteral(": ") + file.errorString();
-    return false;
-}
 
 QByteArray CollectionWriter::htmlOf(const HelpPage& page)
 {
@@ -71,11 +62,10 @@ QByteArray CollectionWriter::htmlOf(const HelpPage& page)
            page.title.toHtmlEscaped().toUtf8() + "</h1>\n" + page.html + "</main>\n</body>\n</html>\n";
 }
 
-QByteArray CollectionWriter::project(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
-                                     const QStringList& otherFiles) const
+QByteArray CollectionWriter::project(const HelpSources& help, const QStringList& otherFiles)
 {
     PagesById byId;
-    for (const HelpPage& page : pages)
+    for (const HelpPage& page : help.pages())
         byId.insert(page.id.toLower(), &page);
     QByteArray text;
     QXmlStreamWriter xml(&text);
@@ -87,13 +77,13 @@ QByteArray CollectionWriter::project(const QVector<HelpPage>& pages, const QVect
     xml.writeTextElement("virtualFolder", virtualFolder);
     xml.writeStartElement("filterSection");
     xml.writeStartElement("toc");
-    writeContents(&xml, contents, byId);
+    writeContents(&xml, help.contents(), byId);
     xml.writeEndElement();
     xml.writeStartElement("keywords");
-    writeKeywords(&xml, pages);
+    writeKeywords(&xml, help.pages());
     xml.writeEndElement();
     xml.writeStartElement("files");
-    for (const HelpPage& page : pages)
+    for (const HelpPage& page : help.pages())
         xml.writeTextElement("file", page.file());
     for (const QString& file : otherFiles)
         xml.writeTextElement("file", file);
@@ -105,13 +95,12 @@ QByteArray CollectionWriter::project(const QVector<HelpPage>& pages, const QVect
     return text;
 }
 
-bool CollectionWriter::write(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
-                             const QStringList& otherFiles)
+bool CollectionWriter::write(const HelpSources& help, const QStringList& pictures)
 {
     QByteArray table;
-    for (const HelpPage& page : pages) {
+    for (const HelpPage& page : help.pages()) {
         table += page.id.toLower().toUtf8() + ';' + page.file().toUtf8() + ";\n";
-        if (!writeFile(page.file(), htmlOf(page)))
+        if (!m_out.write(page.file(), htmlOf(page)))
             return false;
     }
     static const QByteArray collection =
@@ -122,9 +111,11 @@ bool CollectionWriter::write(const QVector<HelpPage>& pages, const QVector<Conte
         "<register><file>nalvo.qch</file></register>\n"
         "</docFiles>\n"
         "</QHelpCollectionProject>\n";
-    return writeFile(pageTable, table) &&
-           writeFile(QStringLiteral("nalvo.qhp"), project(pages, contents, otherFiles)) &&
-           writeFile(QStringLiteral("hlpCollection.qhcp"), collection);
+    const QStringList otherFiles = QStringList(styleSheet) + pictures;
+    return m_out.copy(help.folder() + '/' + styleSheet, styleSheet) && m_out.write(pageTable, table) &&
+           m_out.write(QStringLiteral("messages.txt"), messageEntries(help.pages())) &&
+           m_out.write(QStringLiteral("nalvo.qhp"), project(help, otherFiles)) &&
+           m_out.write(QStringLiteral("hlpCollection.qhcp"), collection);
 }
 
 } // namespace nsHelpBuild

@@ -1,13 +1,12 @@
 #pragma once
 
-#include "Contents.h"
-#include "HelpPage.h"
-
-#include <QDir>
+#include "HelpSources.h"
+#include "OutputFolder.h"
 
 namespace nsHelpBuild {
 
-/// Writes the pages and what the help compiler needs to make the program's collection of them.
+/// Writes the pages and what the help compiler needs to make the program's collection of them, and beside it the
+/// entries of the messages as a text.
 class CollectionWriter
 {
 public:
@@ -17,20 +16,18 @@ public:
     {
     }
 
+    /// @param pictures names of the files that already are in the folder
     /// @return false: errorText() says why
-    bool write(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents, const QStringList& otherFiles);
-    QString errorText() const { return m_error; }
+    bool write(const HelpSources& help, const QStringList& pictures);
+    QString errorText() const { return m_out.errorText(); }
 
     /// A whole HTML file of a page's body.
     static QByteArray htmlOf(const HelpPage& page);
 
 private:
-    bool writeFile(const QString& name, const QByteArray& bytes);
-    QByteArray project(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
-                       const QStringList& otherFiles) const;
+    static QByteArray project(const HelpSources& help, const QStringList& otherFiles);
 
-    QDir m_out;
-    QString m_error;
+    OutputFolder m_out;
 };
 
 } // namespace nsHelpBuild

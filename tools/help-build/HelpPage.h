@@ -14,6 +14,7 @@ struct HelpAnchor
     QString title;
     bool isWord = false; ///< a word that a reader looks up: a message key, a mnemonic, a directive
     QString text;        ///< what stands there up to the next heading, as plain text
+    QString above;       ///< the heading that it is below; empty for those right below the title
 };
 
 /// A link from a page to another one, or to a place in it.
@@ -21,6 +22,14 @@ struct HelpLink
 {
     QString pageId;
     QString anchor; ///< may be empty
+};
+
+/// A fenced block of a page.
+struct HelpExample
+{
+    QString info; ///< what stands behind the fence: the kind, and what is expected
+    QString text; ///< its lines, each with its end
+    int line = 0; ///< of the fence in the source, from 1
 };
 
 /// One page of the help: as written, and, once it is converted, as HTML.
@@ -31,6 +40,7 @@ struct HelpPage
     QString title;
     QStringList keywords;
     QByteArray markdown;
+    int headLines = 0; ///< lines of the source in front of the Markdown
 
     // By MarkdownConverter.
     QByteArray html; ///< the body
@@ -39,6 +49,8 @@ struct HelpPage
     QVector<HelpLink> links;
     QStringList pictures; ///< names of files below the folder of pictures
     QStringList webLinks;
+    QVector<HelpExample> examples;
+    QString prose;        ///< what a spelling checker is to read: no code, no words that are looked up
     QStringList problems; ///< what the page must not hold
 
     /// Name of its file.

@@ -192,6 +192,12 @@ QByteArray sectionOf(eOpcode_t opcode, const ProcTable& table, const ProcDisasse
 
 } // namespace
 
+QString instructionPageId(const ProcTable& table)
+{
+    const sProcessor_t* processor = processorOf(table);
+    return processor != nullptr ? QString::fromLatin1(processor->pageId) : QString();
+}
+
 QVector<HelpPage> instructionPages(const QString& folder, QStringList* errors)
 {
     const QHash<QString, Manual> manuals = readManuals(folder, errors);

@@ -5,7 +5,14 @@
 #include <QString>
 #include <QVector>
 
+namespace nsProc {
+struct ProcTable;
+}
+
 namespace nsHelpBuild {
+
+/// The id of the page of a processor's instructions; empty for a processor that the help does not know.
+QString instructionPageId(const nsProc::ProcTable& table);
 
 /// The pages of the instruction sets, one for each processor: forms and words from the processors' tables, the rest
 /// from a file for each mnemonic.

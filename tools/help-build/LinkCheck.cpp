@@ -22,9 +22,8 @@ void takePageIds(const QVector<ContentsEntry>& contents, QStringList* ids)
 class Check
 {
 public:
-    Check(const QVector<HelpPage>& pages, const QString& pictureDir)
+    explicit Check(const QVector<HelpPage>& pages)
         : m_pages(pages)
-        , m_pictureDir(pictureDir)
     {
         for (const HelpPage& page : pages) {
             QSet<QString>& anchors = m_anchors[page.id.toLower()];
@@ -58,10 +57,6 @@ private:
                 report(page, QStringLiteral("no page has the id ") + link.pageId);
             else if (!link.anchor.isEmpty() && !target->contains(link.anchor))
                 report(page, QStringLiteral("no place has the name %1#%2").arg(link.pageId, link.anchor));
-        }
-        for (const QString& picture : page.pictures) {
-            if (!QFileInfo(m_pictureDir + '/' + picture).isFile())
-                report(page, QStringLiteral("no picture has the name ") + picture);
         }
         for (const QString& url : page.webLinks) {
             if (!url.startsWith(QLatin1String("https://")))
@@ -99,17 +94,27 @@ private:
     }
 
     const QVector<HelpPage>& m_pages;
-    const QString& m_pictureDir;
     QHash<QString, QSet<QString>> m_anchors; ///< by page id in lower case
     QStringList m_problems;
 };
 
 } // namespace
 
-QStringList checkPages(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents,
-                       const QString& pictureDir)
+QStringList checkPages(const QVector<HelpPage>& pages, const QVector<ContentsEntry>& contents)
 {
-    return Check(pages, pictureDir).run(contents);
+    return Check(pages).run(contents);
+}
+
+QStringList checkPictures(const QVector<HelpPage>& pages, const QString& pictureDir)
+{
+    QStringList problems;
+    for (const HelpPage& page : pages) {
+        for (const QString& picture : page.pictures) {
+            if (!QFileInfo(pictureDir + '/' + picture).isFile())
+                problems.append(page.id + QStringLiteral(": no picture has the name ") + picture);
+        }
+    }
+    return problems;
 }
 
 } // namespace nsHelpBuild

@@ -6,6 +6,7 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
 #include <cstdlib>
 #include <memory>
 
@@ -25,6 +26,23 @@ struct NodeDeleter
 };
 using NodePtr = std::unique_ptr<cmark_node, NodeDeleter>;
 
+/// Code as it stands in a text: set apart, and indented by four blanks instead of those that all its lines have.
+QString indented(const QString& code)
+{
+    QStringList lines = code.split('\n');
+    while (!lines.isEmpty() && lines.last().trimmed().isEmpty())
+        lines.removeLast();
+    int common = code.size();
+    for (const QString& line : qAsConst(lines)) {
+        if (!line.trimmed().isEmpty())
+            common = std::min(common, int(line.indexOf(line.trimmed().at(0))));
+    }
+    QString text = QStringLiteral("\n");
+    for (const QString& line : qAsConst(lines))
+        text += QStringLiteral("    ") + line.mid(common) + '\n';
+    return text + '\n';
+}
+
 /// The characters that a node and those below it show.
 QString plainText(cmark_node* top)
 {
@@ -37,9 +55,7 @@ QString plainText(cmark_node* top)
         if (event == CMARK_EVENT_ENTER && (type == CMARK_NODE_TEXT || type == CMARK_NODE_CODE))
             text += QString::fromUtf8(cmark_node_get_literal(node));
         else if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_CODE_BLOCK)
-            text += QStringLiteral("\n    ") +
-                    QString::fromUtf8(cmark_node_get_literal(node)).trimmed().replace('\n', QStringLiteral("\n    ")) +
-                    QStringLiteral("\n\n");
+            text += indented(QString::fromUtf8(cmark_node_get_literal(node)));
         else if (type == CMARK_NODE_SOFTBREAK || type == CMARK_NODE_LINEBREAK)
             text += event == CMARK_EVENT_ENTER ? QStringLiteral(" ") : QString();
         else if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_ITEM)
@@ -53,6 +69,39 @@ QString plainText(cmark_node* top)
             text += QStringLiteral("\n");
         else if (event == CMARK_EVENT_EXIT && QByteArray(cmark_node_get_type_string(node)) == "table")
             text += QStringLiteral("\n");
+    }
+    cmark_iter_free(it);
+    return text;
+}
+
+/// Whether a node of this kind ends a word and a sentence before it.
+bool isBlock(cmark_node* node)
+{
+    const cmark_node_type type = cmark_node_get_type(node);
+    return type == CMARK_NODE_PARAGRAPH || type == CMARK_NODE_ITEM || type == CMARK_NODE_HEADING ||
+           QByteArray(cmark_node_get_type_string(node)).startsWith("table");
+}
+
+/// What is written in words: the text without code and without bold parts, which are names as they stand on the
+/// screen; a blank takes their place.
+QString proseOf(cmark_node* top)
+{
+    QString text;
+    int bold = 0;
+    cmark_iter* it = cmark_iter_new(top);
+    cmark_event_type event = CMARK_EVENT_NONE;
+    while ((event = cmark_iter_next(it)) != CMARK_EVENT_DONE) {
+        cmark_node* node = cmark_iter_get_node(it);
+        const cmark_node_type type = cmark_node_get_type(node);
+        if (type == CMARK_NODE_STRONG)
+            bold += event == CMARK_EVENT_ENTER ? 1 : -1;
+        if (event == CMARK_EVENT_ENTER && type == CMARK_NODE_TEXT && bold == 0)
+            text += QString::fromUtf8(cmark_node_get_literal(node));
+        else if (type == CMARK_NODE_STRONG || type == CMARK_NODE_CODE || type == CMARK_NODE_SOFTBREAK ||
+                 type == CMARK_NODE_LINEBREAK)
+            text += ' ';
+        else if (event == CMARK_EVENT_EXIT && isBlock(node))
+            text += '\n';
     }
     cmark_iter_free(it);
     return text;
@@ -81,12 +130,17 @@ QString takeAnchor(cmark_node* heading)
     return match.captured(1);
 }
 
+QString gradeName(MessageText::eGrade_t grade)
+{
+    static const char* const grades[] = {"Group", "Info", "Warning", "Error"};
+    return QString::fromLatin1(grades[grade]);
+}
+
 QString messageHtml(const MessageText& message)
 {
     static const char* const classes[] = {"group", "info", "warning", "error"};
-    static const char* const grades[] = {"Group", "Info", "Warning", "Error"};
     return QStringLiteral("<p class=\"message %1\"><span>%2</span> %3</p>")
-        .arg(QLatin1String(classes[message.grade]), QLatin1String(grades[message.grade]), message.text.toHtmlEscaped());
+        .arg(QLatin1String(classes[message.grade]), gradeName(message.grade), message.text.toHtmlEscaped());
 }
 
 /// Goes over the top-level blocks of a page.
@@ -101,15 +155,13 @@ public:
 
     void run(cmark_node* document)
     {
+        // First what the author wrote, as the blocks are given HTML around them.
+        visitAll(document);
         cmark_node* next = nullptr;
         for (cmark_node* node = cmark_node_first_child(document); node != nullptr; node = next) {
             next = cmark_node_next(node);
-            if (cmark_node_get_type(node) == CMARK_NODE_HTML_BLOCK)
-                m_page->problems.append(QStringLiteral("holds HTML: ") +
-                                        QString::fromUtf8(cmark_node_get_literal(node)));
             visit(node);
         }
-        visitInlines(document);
     }
 
 private:
@@ -121,11 +173,34 @@ private:
             return;
         }
         QString& text = m_page->anchors.isEmpty() ? m_page->intro : m_page->anchors.last().text;
-        text += plainText(node);
+        text += exampleLabel(node) + plainText(node);
+        m_afterProvoking = isProvoking(node);
+        m_page->prose += proseOf(node);
         if (type == CMARK_NODE_CODE_BLOCK)
             visitExample(node);
         else if (type == CMARK_NODE_PARAGRAPH)
             visitParagraph(node);
+        else if (QByteArray(cmark_node_get_type_string(node)) == "table")
+            wrap(node, "scroll");
+    }
+
+    /// In an entry of a message: does this example provoke it?
+    bool isProvoking(cmark_node* node) const
+    {
+        if (node == nullptr || cmark_node_get_type(node) != CMARK_NODE_CODE_BLOCK || m_page->anchors.isEmpty())
+            return false;
+        const QString info = QString::fromUtf8(cmark_node_get_fence_info(node));
+        return info.contains(' ' + m_page->anchors.last().title + '@');
+    }
+
+    /// What takes the place of the colours of an example where there is only text.
+    QString exampleLabel(cmark_node* node) const
+    {
+        if (isProvoking(node))
+            return QStringLiteral("Provokes it:\n");
+        const bool isMended = m_afterProvoking && cmark_node_get_type(node) == CMARK_NODE_CODE_BLOCK &&
+                              QByteArray(cmark_node_get_fence_info(node)).startsWith("psm");
+        return isMended ? QStringLiteral("Mended:\n") : QString();
     }
 
     void visitHeading(cmark_node* node)
@@ -135,14 +210,21 @@ private:
         anchor.title = plainText(node).trimmed();
         static const QRegularExpression word(QStringLiteral("^#?[A-Za-z][A-Za-z0-9_]*$"));
         anchor.isWord = word.match(anchor.title).hasMatch() && cmark_node_get_heading_level(node) == 2;
+        if (cmark_node_get_heading_level(node) > 2)
+            anchor.above = m_section;
+        else
+            m_section = anchor.title;
         if (anchor.name.isEmpty())
             anchor.name = MarkdownConverter::anchorOf(anchor.title);
         cmark_node_insert_before(node, htmlBlock(QStringLiteral("<a id=\"%1\"></a>").arg(anchor.name.toHtmlEscaped())));
         const auto message = m_messages.constFind(anchor.title);
         if (message != m_messages.constEnd()) {
             cmark_node_insert_after(node, htmlBlock(messageHtml(*message)));
-            anchor.text = message->text + QStringLiteral("\n\n");
+            anchor.text = gradeName(message->grade) + QStringLiteral(": ") + message->text + QStringLiteral("\n\n");
         }
+        // The name of a message, an instruction or a directive is no word for a spelling checker.
+        if (message == m_messages.constEnd() && anchor.title != anchor.title.toUpper())
+            m_page->prose += proseOf(node);
         m_page->anchors.append(anchor);
     }
 
@@ -172,7 +254,7 @@ private:
             wrap(node, "wrong");
     }
 
-    void visitInlines(cmark_node* document)
+    void visitAll(cmark_node* document)
     {
         cmark_iter* it = cmark_iter_new(document);
         cmark_event_type event = CMARK_EVENT_NONE;
@@ -180,15 +262,31 @@ private:
             cmark_node* node = cmark_iter_get_node(it);
             if (event != CMARK_EVENT_ENTER)
                 continue;
-            if (cmark_node_get_type(node) == CMARK_NODE_HTML_INLINE)
+            const cmark_node_type type = cmark_node_get_type(node);
+            if (type == CMARK_NODE_HTML_INLINE || type == CMARK_NODE_HTML_BLOCK)
                 m_page->problems.append(QStringLiteral("holds HTML: ") +
-                                        QString::fromUtf8(cmark_node_get_literal(node)));
-            if (cmark_node_get_type(node) == CMARK_NODE_LINK)
+                                        QString::fromUtf8(cmark_node_get_literal(node)).trimmed());
+            else if (type == CMARK_NODE_CODE_BLOCK)
+                takeExample(node);
+            else if (type == CMARK_NODE_LINK)
                 visitLink(node);
-            else if (cmark_node_get_type(node) == CMARK_NODE_IMAGE)
+            else if (type == CMARK_NODE_IMAGE)
                 visitPicture(node);
         }
         cmark_iter_free(it);
+    }
+
+    void takeExample(cmark_node* node)
+    {
+        HelpExample example;
+        example.info = QString::fromUtf8(cmark_node_get_fence_info(node));
+        example.text = QString::fromUtf8(cmark_node_get_literal(node));
+        example.line = m_page->headLines + cmark_node_get_start_line(node);
+        static const QStringList kinds{"psm", "session", "text", "sh", "vhdl", "verilog", "js", "ini"};
+        if (!kinds.contains(example.info.section(' ', 0, 0)))
+            m_page->problems.append(QStringLiteral("line %1: an example of unknown kind: \"%2\"")
+                                        .arg(QString::number(example.line), example.info));
+        m_page->examples.append(example);
     }
 
     void visitLink(cmark_node* node)
@@ -224,6 +322,8 @@ private:
 
     HelpPage* m_page;
     const MessageTexts& m_messages;
+    QString m_section;             ///< the last heading right below the title
+    bool m_afterProvoking = false; ///< the block before provokes the message of the entry
 };
 
 } // namespace

@@ -1,13 +1,18 @@
 #include "MessageTables.h"
 
 #include "AsmFeMsgCatalogue.h"
+#include "ImportMsg.h"
 #include "ProcAsmMsg.h"
 #include "ProcSimMsg.h"
 #include "ProcTables.h"
+#include "SyscallMsgHndlr.h"
 
 namespace nsHelpBuild {
 
 namespace {
+
+const char* const syscallPage = "syscallMessages";
+const char* const importPage = "importMessages";
 
 /// The prefix of a key is its grade.
 MessageText messageText(const char* key, const char* text)
@@ -33,6 +38,16 @@ void take(MessageTexts* messages, const Row* (*rowOf)(int))
         messages->insert(QString::fromLatin1(rowOf(i)->key), messageText(rowOf(i)->key, rowOf(i)->text));
 }
 
+void takeSyscall(MessageTexts* messages)
+{
+    using nsModSyscall::SyscallMsgHndlr;
+    for (int i = 0; i < SyscallMsgHndlr::msgCount; ++i) {
+        const auto type = SyscallMsgHndlr::eMsgType_t(i);
+        const char* key = SyscallMsgHndlr::msgKey(type);
+        messages->insert(QString::fromLatin1(key), messageText(key, SyscallMsgHndlr::msgText(type)));
+    }
+}
+
 } // namespace
 
 MessageTexts messagesOfPage(const QString& pageId)
@@ -43,6 +58,10 @@ MessageTexts messagesOfPage(const QString& pageId)
         take(&messages, nsModAsmFe::msgText);
         take(&messages, nsModAsmFe::msgGrpText);
     }
+    if (is(syscallPage))
+        takeSyscall(&messages);
+    if (is(importPage))
+        take(&messages, nsImport::importMsg);
     for (const nsProc::ProcTable* table : nsProc::procTables()) {
         if (is(table->asmHelpPage))
             take(&messages, nsProc::asmMsg);
@@ -57,7 +76,13 @@ QStringList messagePages()
     QStringList ids{QStringLiteral("asmFeMessages")};
     for (const nsProc::ProcTable* table : nsProc::procTables())
         ids << QString::fromLatin1(table->asmHelpPage) << QString::fromLatin1(table->simHelpPage);
-    return ids;
+    return ids << QString::fromLatin1(syscallPage) << QString::fromLatin1(importPage);
+}
+
+QStringList entryPages()
+{
+    return messagePages() + QStringList{QStringLiteral("projectMessages"), QStringLiteral("otherMessages"),
+                                        QStringLiteral("errMsgInternalError")};
 }
 
 } // namespace nsHelpBuild

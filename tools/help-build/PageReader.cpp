@@ -14,7 +14,8 @@ bool HeadedText::read(const QString& path, QString* error)
         *error = path + QStringLiteral(": ") + file.errorString();
         return false;
     }
-    int number = 0;
+    int& number = headLines;
+    number = 0;
     while (!file.atEnd()) {
         const QString line = QString::fromUtf8(file.readLine()).trimmed();
         ++number;
@@ -42,6 +43,7 @@ bool readPage(const QString& path, HelpPage* page, QString* error)
     page->id = text.head.value(QStringLiteral("id"));
     page->title = text.head.value(QStringLiteral("title"));
     page->markdown = text.body;
+    page->headLines = text.headLines;
     for (const QString& keyword : text.head.value(QStringLiteral("keywords")).split(',')) {
         if (!keyword.trimmed().isEmpty())
             page->keywords.append(keyword.trimmed());

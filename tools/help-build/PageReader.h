@@ -11,6 +11,7 @@ struct HeadedText
 {
     QHash<QString, QString> head;
     QByteArray body;
+    int headLines = 0; ///< with the line `---`
 
     /// @return false: error says what is wrong
     bool read(const QString& path, QString* error);

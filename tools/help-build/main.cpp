@@ -1,20 +1,19 @@
-// Turns the sources of the help into what the help compiler makes the program's collection of.
+// Turns the sources of the help into what the help compiler makes the program's collection of, or into a web site.
 //
-//     nalvo-help-build [--check] <folder of the sources> <change log> <folder of the pictures> <output folder>
+//     nalvo-help-build [--check | --site] <folder of the sources> <change log> <folder of the pictures> <output folder>
 //
 // Ends with 0 if all is written, with 1 and messages on the error stream otherwise. What is wrong between the pages is
-// reported; with --check it is a failure, and nothing is written.
+// reported; with --check it is a failure, nothing is written, and figures of the help are printed. A picture that is
+// missing is always a failure, except that --check does not look for pictures, which come from a run of the program.
 
 #include "CollectionWriter.h"
-#include "Contents.h"
-#include "InstructionPages.h"
+#include "HelpSources.h"
 #include "LinkCheck.h"
-#include "MarkdownConverter.h"
 #include "MessageTables.h"
-#include "PageReader.h"
+#include "Pictures.h"
+#include "SiteWriter.h"
 
 #include <QCoreApplication>
-#include <QFile>
 
 #include <cstdio>
 
@@ -29,39 +28,31 @@ int fail(const QStringList& lines)
     return 1;
 }
 
-/// The change log as a page.
-HelpPage releaseNotes(const QString& path, QStringList* errors)
+/// Prints how much there is.
+void printFigures(const HelpSources& help)
 {
-    HelpPage page;
-    page.source = path;
-    page.id = QStringLiteral("releaseNotes");
-    page.title = QStringLiteral("Release notes");
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        errors->append(path + QStringLiteral(": ") + file.errorString());
-    file.readLine(); // its title
-    page.markdown = file.readAll();
-    return page;
+    int places = 0;
+    int links = 0;
+    int examples = 0;
+    int keys = 0;
+    for (const HelpPage& page : help.pages()) {
+        places += page.anchors.size();
+        links += page.links.size();
+        examples += page.examples.size();
+    }
+    for (const QString& id : messagePages())
+        keys += messagesOfPage(id).size();
+    std::printf("%d pages, %d places, %d links, %d messages with a key, %d examples\n", int(help.pages().size()),
+                places, links, keys, examples);
 }
 
-/// Copies the style sheet and the pictures that pages show. @return their names in the output folder
-QStringList copyFiles(const QString& source, const QString& pictureDir, const QVector<HelpPage>& pages, const QDir& out)
+template <class Writer>
+int write(const HelpSources& help, const QString& pictureDir, const QDir& out)
 {
-    QStringList names{QStringLiteral("style.css")};
-    const auto copy = [&](const QString& from, const QString& name) {
-        QFile::remove(out.filePath(name));
-        return QFile::copy(from, out.filePath(name));
-    };
-    copy(source + QStringLiteral("/style.css"), names.first());
-    out.mkpath(QStringLiteral("pictures"));
-    for (const HelpPage& page : pages) {
-        for (const QString& picture : page.pictures) {
-            const QString name = QStringLiteral("pictures/") + picture;
-            if (!names.contains(name) && copy(pictureDir + '/' + picture, name))
-                names.append(name);
-        }
-    }
-    return names;
+    if (!out.mkpath(QStringLiteral(".")))
+        return fail({out.path() + QStringLiteral(": the folder can not be made")});
+    Writer writer(out);
+    return writer.write(help, copyPictures(pictureDir, help.pages(), out)) ? 0 : fail({writer.errorText()});
 }
 
 } // namespace
@@ -72,29 +63,24 @@ int main(int argc, char* argv[])
     QCoreApplication app(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
     const bool onlyCheck = arguments.removeAll(QStringLiteral("--check")) > 0;
-    if (arguments.size() != 4)
-        return fail({QStringLiteral("usage: nalvo-help-build [--check] <sources> <change log> <pictures> <output>")});
-    const QString source = arguments.at(0);
+    const bool isSite = arguments.removeAll(QStringLiteral("--site")) > 0;
+    if (arguments.size() != 4 || (onlyCheck && isSite))
+        return fail(
+            {QStringLiteral("usage: nalvo-help-build [--check | --site] <sources> <change log> <pictures> <output>")});
 
-    QStringList errors;
-    QVector<HelpPage> pages = readPages(source + QStringLiteral("/pages"), &errors);
-    pages += instructionPages(source + QStringLiteral("/instructions"), &errors);
-    pages.append(releaseNotes(arguments.at(1), &errors));
-    for (HelpPage& page : pages) {
-        const MessageTexts messages = messagesOfPage(page.id);
-        MarkdownConverter(messages).convert(&page);
+    HelpSources help;
+    help.read(arguments.at(0), arguments.at(1));
+    const QString pictureDir = arguments.at(2);
+    const QStringList problems = help.errors() + checkPages(help.pages(), help.contents());
+    if (onlyCheck) {
+        printFigures(help);
+        return problems.isEmpty() ? 0 : fail(problems);
     }
-    const QVector<ContentsEntry> contents = readContents(source + QStringLiteral("/contents.txt"), &errors);
-    errors += checkPages(pages, contents, arguments.at(2));
-    if (onlyCheck)
-        return errors.isEmpty() ? 0 : fail(errors);
-    fail(errors);
-
+    fail(problems);
+    const QStringList missing = checkPictures(help.pages(), pictureDir);
+    if (!missing.isEmpty())
+        return fail(missing);
+    help.setPictureWidths(pictureDir);
     const QDir out(arguments.at(3));
-    if (!out.mkpath(QStringLiteral(".")))
-        return fail({out.path() + QStringLiteral(": the folder can not be made")});
-    CollectionWriter writer(out);
-    if (!writer.write(pages, contents, copyFiles(source, arguments.at(2), pages, out)))
-        return fail({writer.errorText()});
-    return 0;
+    return isSite ? write<SiteWriter>(help, pictureDir, out) : write<CollectionWriter>(help, pictureDir, out);
 }

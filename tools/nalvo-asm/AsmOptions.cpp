@@ -52,6 +52,10 @@ void setup(QCommandLineParser* parser)
         {"allow-outside",
          tr("Write output files outside of the project's folder also where a source names them, not the "
             "project.")},
+        {"explain",
+         tr("Show what the help says about the message KEY: what it means, what causes it, an example. KEY is what "
+            "stands in brackets behind a message. No project is assembled."),
+         tr("KEY")},
         {"external-programs",
          tr("Run the project's external programs of the event, in the folder of the project, with their output on "
             "standard error and an empty input. A program without success counts as an error.")},
@@ -72,7 +76,19 @@ AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
     const eParse_t parsed = parseArguments(&parser, arguments);
     if (parsed != parseRun)
         return parsed;
+    if (parser.isSet("explain"))
+        return readExplained(parser) ? parseRun : parseWrong;
     return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
+}
+
+bool AsmOptions::readExplained(const QCommandLineParser& parser)
+{
+    explainedKey = parser.value("explain");
+    if (explainedKey.trimmed().isEmpty())
+        return wrongUsage(tr("The key of the message is empty."));
+    const QStringList projects = parser.positionalArguments();
+    return projects.isEmpty() ? true
+                              : wrongUsage(tr("--explain takes one key and no project: %1").arg(projects.join(", ")));
 }
 
 bool AsmOptions::readChoices(const QCommandLineParser& parser)

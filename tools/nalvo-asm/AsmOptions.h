@@ -23,8 +23,10 @@ struct AsmOptions : nsBatch::BatchOptions
     bool externalPrograms = false; ///< the project's programs are run
     QString listingFile;           ///< empty: none; "-": standard output
     QString symbolsFile;           ///< empty: none; "-": standard output
+    QString explainedKey;          ///< the message to explain; empty: a project is assembled
 
 private:
+    bool readExplained(const QCommandLineParser& parser);
     bool readChoices(const QCommandLineParser& parser);
     bool readFiles(const QCommandLineParser& parser);
 };

@@ -1,5 +1,6 @@
 // nalvo-asm: assembles a project as the window does, for makefiles and continuous integration.
 
+#include "AsmExplain.h"
 #include "AsmOptions.h"
 #include "AsmPermissions.h"
 #include "AsmPrograms.h"
@@ -122,6 +123,25 @@ int run(const AsmOptions& options)
     return success ? exitAssembled : exitNotAssembled;
 }
 
+/// Prints what the help says about a message.
+int explain(const QString& key)
+{
+    AsmExplain help;
+    if (!help.read(QFileInfo(QCoreApplication::applicationFilePath()).canonicalPath())) {
+        printError(help.errorText());
+        return exitWrongUsage;
+    }
+    const QByteArray text = help.explanation(key);
+    if (!text.isEmpty()) {
+        print(stdout, QString::fromUtf8(text).toLocal8Bit());
+        return exitAssembled;
+    }
+    const QStringList similar = help.similarKeys(key);
+    wrongUsage(similar.isEmpty() ? tr("No message has the key %1.").arg(key)
+                                 : tr("No message has the key %1. Similar: %2").arg(key, similar.join(", ")));
+    return exitWrongUsage;
+}
+
 /// The exit status; a failure if standard output could not be written.
 int finish(const AsmOptions& options, int status)
 {
@@ -145,6 +165,8 @@ int program(const QStringList& arguments)
     case AsmOptions::parseRun:
         break;
     }
+    if (!options.explainedKey.isEmpty())
+        return finish(options, explain(options.explainedKey));
     return finish(options, checkSourceDateEpoch() ? run(options) : exitWrongUsage);
 }
 

@@ -80,8 +80,13 @@ void OutputWriter::askForOutsideFiles(AsmFeConfig::eAssembleEvent_t event)
             }
         }
     }
-    if (!outside.isEmpty())
-        m_refused = m_listener.refusedOutputs(outside);
+    if (outside.isEmpty())
+        return;
+    const QStringList refused = m_listener.refusedOutputs(outside);
+    for (const QString& path : qAsConst(paths)) {
+        if (!refused.contains(path))
+            m_allowed.append(path);
+    }
 }
 
 /// @return where the file is really written, if that is outside of the project's folder; else an empty text
@@ -99,7 +104,9 @@ QString OutputWriter::outsidePath(const QString& file) const
 /// written it, so that it would be lost
 bool OutputWriter::checkTargetFile(const QString& file)
 {
-    if (!m_refused.isEmpty() && m_refused.contains(outsidePath(file))) {
+    // Looked at again, as a link can have changed since.
+    const QString outside = outsidePath(file);
+    if (!outside.isEmpty() && !m_allowed.contains(outside)) {
         m_messages.signMsg(errTargetOutside, file, m_listener.refusalHint());
         return false;
     }

@@ -42,7 +42,7 @@ private:
     const AsmProjectInfo& m_project;
     AsmFeMsgHndlr& m_messages;
     AsmRunListener& m_listener;
-    QStringList m_refused; ///< files that must not be written, without links
+    QStringList m_allowed; ///< files outside of the project's folder that may be written, without links
 };
 
 } // namespace nsModAsmFe

@@ -9,10 +9,10 @@
 #include "LineReader.h"
 #include "Opcode.h"
 
-#include <QFile>
-#include <QFileInfo>
+#include <QIODevice>
 
 #include <algorithm>
+#include <memory>
 
 namespace nsModAsmFe {
 
@@ -79,16 +79,15 @@ bool SourceReader::checkEndOfFile(SrcReference end)
 bool SourceReader::parseFile(SrcReference* srcRef, const QString& file)
 {
     srcRef->lineNo = 0;
-    // Reading a folder, a pipe or a device instead of a source might never end.
-    QFile source(file);
-    if (!QFileInfo(file).isFile() || !source.open(QIODevice::ReadOnly)) {
+    const std::unique_ptr<QIODevice> source = m_files.open(file);
+    if (source == nullptr) {
         m_messages.signMsg(errFileRead, file);
         return false;
     }
     bool success = true;
     bool hasWarned = false;
     m_lastLineEnded = true;
-    LineReader reader(&source, AsmLimits::maxLineLength);
+    LineReader reader(source.get(), AsmLimits::maxLineLength);
     QString line;
     while (reader.readLine(&line)) {
         m_lastLineEnded = reader.wasEnded();

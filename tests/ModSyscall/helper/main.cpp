@@ -86,6 +86,19 @@ int waitForChild()
     return 0;
 }
 
+/// A child that ignores all requests to end, of a program that does not.
+int stubbornChild()
+{
+    std::signal(SIGTERM, SIG_IGN);
+    const pid_t child = fork();
+    if (child == 0)
+        rest();
+    std::signal(SIGTERM, SIG_DFL);
+    std::printf("child %d\n", int(child));
+    std::fflush(stdout);
+    rest();
+}
+
 void echoInput()
 {
     char buffer[256];
@@ -136,6 +149,8 @@ int main(int argc, char** argv)
         printBytes(argument);
     else if (mode == "leaveChild")
         return leaveChild();
+    else if (mode == "stubbornChild")
+        return stubbornChild();
     else if (mode == "waitForChild")
         return waitForChild();
     else if (mode == "echo")

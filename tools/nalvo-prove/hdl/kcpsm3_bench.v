@@ -65,6 +65,8 @@ module kcpsm3_bench;
                         $display("INT %h %0d", here, clock - 1);
                     else
                         $display("I %h %0d", here, clock - 1);
+                end
+                if (slot_clock >= 0) begin
                     if (read_strobe)
                         $display("R %h %h %0d", port_id, in_port, clock);
                     if (write_strobe)

@@ -81,6 +81,8 @@ module kcpsm6_bench;
                         $display("RESET %h %0d", here, clock - 1);
                     else if (enabled)
                         $display("I %h %0d", here, clock - 1);
+                end
+                if (slot_clock >= 0) begin
                     if (read_strobe)
                         $display("R %h %h %0d", port_id, in_port, clock);
                     if (write_strobe)

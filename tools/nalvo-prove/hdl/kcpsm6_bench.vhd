@@ -123,6 +123,8 @@ begin
                 elsif enabled then
                     report_event("I " & hex(here), clock - 1);
                 end if;
+            end if;
+            if slot_clock >= 0 then
                 if read_strobe = '1' then
                     report_event("R " & hex(port_id) & ' ' & hex(in_port), clock);
                 end if;

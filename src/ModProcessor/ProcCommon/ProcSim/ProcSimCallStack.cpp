@@ -1,5 +1,7 @@
 #include "ProcSimCallStack.h"
 
+#include "HelpRef.h"
+
 #include <QHeaderView>
 #include <QStandardItemModel>
 
@@ -40,6 +42,10 @@ ProcSimCallStack::ProcSimCallStack(int capacity, QWidget* parent)
 void ProcSimCallStack::setup()
 {
     setObjectName(QStringLiteral("procSimCallStack"));
+    HelpRef::setWhatsThis(this,
+                          tr("The calls and interrupts that have not returned, the innermost at the bottom: where each "
+                             "was made, the flags at that moment, and the label that was called."),
+                          QStringLiteral("pageId://simulatorState#callstack"));
     m_model->setHorizontalHeaderLabels(
         {tr("Level"), tr("Program counter"), tr("Carry flag"), tr("Zero flag"), tr("Called label")});
     setModel(m_model);

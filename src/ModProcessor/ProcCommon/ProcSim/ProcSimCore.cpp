@@ -1,5 +1,6 @@
 #include "ProcSimCore.h"
 
+#include "HelpRef.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimCoreReg.h"
 #include "ProcSimEdtBit.h"
@@ -80,6 +81,8 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     m_carry->setToolTip(tr("Carry flag, toggled with a click"));
     m_zero->setToolTip(tr("Zero flag, toggled with a click"));
 
+    addWhatsThis();
+
     m_head->setHorizontalSpacing(6);
     m_head->setVerticalSpacing(4);
     m_head->addWidget(title(tr("PC:"), m_pc, m_pc->toolTip()), 0, 0);
@@ -128,11 +131,48 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
 
 ProcSimCore::~ProcSimCore() = default;
 
+void ProcSimCore::addWhatsThis()
+{
+    HelpRef::setWhatsThis(
+        this,
+        tr("The state of the processor: program counter, flags, registers and scratchpad. What you type or click "
+           "counts from the next instruction on. Red is what an instruction has changed."),
+        QStringLiteral("pageId://simulatorState"));
+    HelpRef::setWhatsThis(m_pc,
+                          tr("The address of the next instruction within its page. Another one can be typed while no "
+                             "program runs; it takes effect with Return, or when the field is left."),
+                          QStringLiteral("pageId://simulatorState#pc"));
+    HelpRef::setWhatsThis(
+        m_carry,
+        tr("The carry flag. A click, Space or Return toggles it, and the next instruction sees the new value."),
+        QStringLiteral("pageId://simulatorState#flags"));
+    HelpRef::setWhatsThis(
+        m_zero, tr("The zero flag. A click, Space or Return toggles it, and the next instruction sees the new value."),
+        QStringLiteral("pageId://simulatorState#flags"));
+    HelpRef::setWhatsThis(
+        m_interrupt,
+        tr("The state of interrupts: E enabled, D disabled, P pending, S in service. A click on E makes one pending, "
+           "which is taken before the next instruction; a click on P takes it back."),
+        QStringLiteral("pageId://simulatorState#interrupt"));
+    HelpRef::setWhatsThis(m_regs,
+                          tr("The registers: name, value, and the name that the program last used for it. A value that "
+                             "is typed counts from the next instruction on."),
+                          QStringLiteral("pageId://simulatorState#registers"));
+    HelpRef::setWhatsThis(m_scrpd,
+                          tr("The scratchpad: rows of cells, with the address of the first one at the left. Each cell "
+                             "can be changed; the one that was written last is red."),
+                          QStringLiteral("pageId://simulatorState#scratchpad"));
+}
+
 void ProcSimCore::addHwbld()
 {
     m_hwbld = new ProcSimEdtNumeric(this);
     setTabOrder(m_pc, m_hwbld);
     m_hwbld->setToolTip(tr("Value that the instruction HWBUILD reads"));
+    HelpRef::setWhatsThis(m_hwbld,
+                          tr("The value that HWBUILD reads into a register. While the field is empty there is none, "
+                             "and the instruction stops with an error."),
+                          QStringLiteral("pageId://simulatorState#hwbuild"));
     m_head->addWidget(title(tr("HWBuild:"), m_hwbld, m_hwbld->toolTip()), 1, 0);
     m_head->addWidget(m_hwbld, 1, 1, Qt::AlignLeft);
     // An empty field means that there is no value: the instruction then reports an error.

@@ -77,6 +77,7 @@ protected:
 
 private:
     QFrame* hLine();
+    void addWhatsThis();
     QLabel* title(const QString& text, QWidget* buddy, const QString& toolTip);
 
     std::shared_ptr<ProcSimCoreData> m_data;

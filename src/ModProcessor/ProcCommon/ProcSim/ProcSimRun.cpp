@@ -15,6 +15,7 @@
 #include "ModEditorHookIf.h"
 #include "Opcode.h"
 #include "OpcodeList.h"
+#include "Unattended.h"
 
 #include <QApplication>
 #include <QMap>
@@ -313,7 +314,9 @@ bool ProcSim::getOpcodeOfAddr(int addr, Opcode** result)
 {
     *result = nullptr;
     int memRange = m_engine->page();
-    if (modGuiHook != nullptr && programCounter()->memRange == 0 && !resolvePage(&memRange))
+    // Without anybody to ask, the page is the one that was executed last.
+    const bool canAsk = modGuiHook != nullptr && !Unattended::isOn();
+    if (canAsk && programCounter()->memRange == 0 && !resolvePage(&memRange))
         return false;
     *result = m_engine->opcodeOfPage(addr, memRange);
     return *result != nullptr;

@@ -1,5 +1,6 @@
 #include "ProcSimStatusBar.h"
 
+#include "HelpRef.h"
 #include "MyButton.h"
 #include "MyStatusBarTitle.h"
 #include "ProcSimClock.h"
@@ -82,6 +83,10 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     layout->addWidget(new MyStatusBarTitle(tr("Time count:"), this));
     m_time = addValue(QStringLiteral("procSimTime"), fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")));
     layout->addWidget(new QLabel(QString::fromLatin1(unit), this));
+    HelpRef::setWhatsThis(this,
+                          tr("Whether the program runs, the base of the numbers in the panels, and the clock cycles "
+                             "since the simulator was enabled or Clear was pressed, also as a time."),
+                          QStringLiteral("pageId://simulatorState#counters"));
     auto* button = new MyButton(tr("Clear"), this);
     button->setToolTip(tr("Set the clock count to zero"));
     layout->addWidget(button);

@@ -1,5 +1,6 @@
 #include "ProcSimIO.h"
 
+#include "HelpRef.h"
 #include "ProcSimIODeviceView.h"
 #include "ProcSimIOViewFactory.h"
 
@@ -38,6 +39,10 @@ ProcSimIO::ProcSimIO(std::shared_ptr<ProcSimPorts> ports, QWidget* parent)
     , m_ports(std::move(ports))
 {
     setObjectName(QStringLiteral("procSimIO"));
+    HelpRef::setWhatsThis(this,
+                          tr("The devices that answer when the program reads and writes ports. A port that no device "
+                             "answers gets one by itself; Add adds one by hand."),
+                          QStringLiteral("pageId://simulatorDevices"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 8);
     layout->setSpacing(8);

@@ -1,5 +1,6 @@
 #include "ProcSimIODeviceView.h"
 
+#include "HelpRef.h"
 #include "ProcSimEdtDirection.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIOAddrLine.h"
@@ -22,6 +23,13 @@ ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, const QColor& 
 {
     setObjectName(QStringLiteral("procSimIODevice"));
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+    HelpRef::setWhatsThis(m_addrLine,
+                          tr("The port at which the device answers; of a memory the first one. It can be changed at "
+                             "any time. The name is that which the program used for the port last."),
+                          QStringLiteral("pageId://simulatorDevices#common"));
+    HelpRef::setWhatsThis(m_direction,
+                          tr("The accesses that the device answers: reads of the program, its writes, or both."),
+                          QStringLiteral("pageId://simulatorDevices#common"));
 
     m_addrRow->setSpacing(4);
     m_addrRow->addWidget(m_addrLine, 1);

@@ -1,5 +1,6 @@
 #include "ProcSimWaveViewer.h"
 
+#include "HelpRef.h"
 #include "ProcSimVcd.h"
 #include "ProcSimWaveTree.h"
 #include "ProcSimWavesWidget.h"
@@ -69,6 +70,25 @@ ProcSimWaveViewer::ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, doub
         rows->setValue(rows->value() - event->angleDelta().y() * rows->singleStep() * 3 / 120);
     });
     setBase(m_base);
+    HelpRef::setWhatsThis(this,
+                          tr("The values that pass through ports against simulated time. A port is recorded from the "
+                             "moment at which you add it."),
+                          QStringLiteral("pageId://simulatorWaves"));
+    HelpRef::setWhatsThis(m_addr, tr("The port to watch: a constant of the program, or a number in the present base."),
+                          QStringLiteral("pageId://simulatorWaves#tools"));
+    HelpRef::setWhatsThis(m_access,
+                          tr("Whether to watch what the program reads from the port, or what it writes to it."),
+                          QStringLiteral("pageId://simulatorWaves#tools"));
+    HelpRef::setWhatsThis(m_unit, tr("The unit of the time axis. Seconds need the clock frequency of the processor."),
+                          QStringLiteral("pageId://simulatorWaves#tools"));
+    HelpRef::setWhatsThis(m_tree,
+                          tr("The ports that are watched. Unfold one to see its eight bits; Delete removes it. The "
+                             "value is the one at the marker, or the last one."),
+                          QStringLiteral("pageId://simulatorWaves#list"));
+    HelpRef::setWhatsThis(m_wavesWidget,
+                          tr("A value is drawn from its access to the next one. A click sets the marker; Ctrl and the "
+                             "wheel show a longer or a shorter time."),
+                          QStringLiteral("pageId://simulatorWaves#waves"));
     setupOrder();
     updateButtons();
     showMoment(-1);

@@ -1,5 +1,6 @@
 #include "ProcSimIOFifoView.h"
 
+#include "HelpRef.h"
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIOFifo.h"
@@ -20,6 +21,10 @@ ProcSimIOFifoView::ProcSimIOFifoView(ProcSimIOFifo* device)
     , m_list(new ProcSimEdtFifo(device, this))
     , m_expand(addButton(QStringLiteral("procSimIOExpand")))
 {
+    HelpRef::setWhatsThis(this,
+                          tr("A FIFO: a list of values, one a line. The triangle shows which line the next read takes, "
+                             "and where the next write goes. Values can be typed, pasted and deleted."),
+                          QStringLiteral("pageId://simulatorDevices#device-fifo"));
     m_access->setObjectName(QStringLiteral("procSimIOAccess"));
     m_access->setToolTip(tr("Last access: rd for a read, wr for a write"));
     m_lastValue->setToolTip(tr("Last value"));

@@ -1,5 +1,6 @@
 #include "ProcSimIOMemView.h"
 
+#include "HelpRef.h"
 #include "ProcSimEdtMemArray.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimFont.h"
@@ -26,6 +27,10 @@ ProcSimIOMemView::ProcSimIOMemView(ProcSimIOMem* device)
     , m_array(new ProcSimEdtMemArray(device, m_arrayPart))
     , m_expand(addButton(QStringLiteral("procSimIOExpand")))
 {
+    HelpRef::setWhatsThis(this,
+                          tr("A memory: words of 8 bits at consecutive ports. The list shows them by their ports; a "
+                             "double click changes one."),
+                          QStringLiteral("pageId://simulatorDevices#device-memory"));
     addLastAccess();
     addArray();
     connect(m_size, &QLineEdit::editingFinished, this, &ProcSimIOMemView::takeSize);

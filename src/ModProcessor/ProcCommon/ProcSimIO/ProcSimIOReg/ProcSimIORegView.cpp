@@ -1,5 +1,6 @@
 #include "ProcSimIORegView.h"
 
+#include "HelpRef.h"
 #include "ProcSimEdtBitField.h"
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimIOReg8Bit.h"
@@ -15,6 +16,10 @@ ProcSimIORegView::ProcSimIORegView(ProcSimIOReg8Bit* device)
     , m_value(new ProcSimEdtNumeric(this))
     , m_bits(new ProcSimEdtBitField(8, this))
 {
+    HelpRef::setWhatsThis(this,
+                          tr("A register: one value of 8 bits, which reads see and writes change. Type it as a number, "
+                             "or click its bits."),
+                          QStringLiteral("pageId://simulatorDevices#device-register"));
     m_value->setToolTip(tr("Value"));
     m_value->setRange(0, ProcSimIODevice::maxValue);
     m_bits->setObjectName(QStringLiteral("procSimIOBits"));

@@ -1,0 +1,48 @@
+#include "HlpWebView.h"
+
+#include "HlpNetworkAccessManager.h"
+
+#include <QDesktopServices>
+#include <QNetworkRequest>
+
+namespace nsModHlp {
+
+HlpWebPage::HlpWebPage(HlpNetworkAccessManager* manager, QObject* parent)
+    : QWebPage(parent)
+    , m_manager(manager)
+{
+    setNetworkAccessManager(manager);
+    settings()->setAttribute(QWebSettings::JavascriptEnabled, false);
+    settings()->setAttribute(QWebSettings::PluginsEnabled, false);
+    settings()->setAttribute(QWebSettings::LocalContentCanAccessFileUrls, false);
+}
+
+bool HlpWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest& request, NavigationType type)
+{
+    const QUrl url = request.url();
+    if (url.scheme() == QLatin1String("script")) {
+        // The user has followed a link; nothing that is opened by its name calls a script.
+        if (type == NavigationTypeLinkClicked)
+            m_manager->runScriptLink(url, frame);
+        return false;
+    }
+    if (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https")) {
+        if (type == NavigationTypeLinkClicked)
+            QDesktopServices::openUrl(url);
+        return false;
+    }
+    if (url.scheme() != QLatin1String("pageid") && !m_manager->isOfCollection(url))
+        return false;
+    if (type == NavigationTypeLinkClicked)
+        emit linkFollowed(url);
+    return true;
+}
+
+QWebView* HlpWebView::createWindow(QWebPage::WebWindowType)
+{
+    QWebView* view = nullptr;
+    emit newPage(&view);
+    return view;
+}
+
+} // namespace nsModHlp

@@ -1,0 +1,153 @@
+#include "ModImport.h"
+
+#include "ImportWidget.h"
+
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModHlpHookIf.h"
+#include "ModMsgHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModScriptHookIf.h"
+
+namespace nsModImport {
+
+ModImport::ModImport(QObject* parent)
+    : QObject(parent)
+{
+}
+
+ModImport::~ModImport()
+{
+    // A page in the window is deleted with it.
+    if (m_widget != nullptr && m_widget->parent() == nullptr)
+        delete m_widget;
+}
+
+// --- the page ---
+
+void ModImport::openImportDialog()
+{
+    if (m_widget != nullptr || modGuiHook == nullptr)
+        return;
+    m_widget = new ImportWidget;
+    if (modPrjHook != nullptr)
+        m_widget->setPrjPath(modPrjHook->prjDir().absolutePath());
+    connect(m_widget, QOverload<QString>::of(&ImportWidget::useFile), this, &ModImport::useFile);
+    // Whoever deletes the window's widgets deletes the page, too.
+    connect(m_widget, &QObject::destroyed, this, [this](QObject* page) {
+        if (page == m_widget)
+            m_widget = nullptr;
+    });
+    if (modHlpHook != nullptr)
+        modHlpHook->showDialogHlpRef(m_widget, QStringLiteral("pageId://filesImport"));
+    modGuiHook->addWidget(this, ModGuiHookIf::eLocationTabs, m_widget, tr("Import files"));
+    if (modMsgHook != nullptr)
+        modMsgHook->registerPlugin(m_widget);
+    m_widget->setFocus();
+}
+
+void ModImport::closeImportDialog()
+{
+    if (m_widget == nullptr)
+        return;
+    ImportWidget* page = m_widget;
+    m_widget = nullptr;
+    // A conversion that is in progress ends.
+    page->stop();
+    if (modMsgHook != nullptr)
+        modMsgHook->unregisterPlugin(page);
+    if (modGuiHook != nullptr)
+        modGuiHook->removeWidget(page);
+    if (modHlpHook != nullptr)
+        modHlpHook->closeDialogHlp(page);
+    page->disconnect(this);
+    // Deleted later, as the call may come from within one of its operations.
+    page->hide();
+    page->deleteLater();
+}
+
+void ModImport::importFile(QString srcFile, QString filterName)
+{
+    openImportDialog();
+    if (m_widget == nullptr)
+        return;
+    QString problem;
+    if (!m_widget->setImportFilter(filterName))
+        problem = tr("There is no import filter: ") + filterName;
+    if (!m_widget->openFile(srcFile) && problem.isEmpty())
+        problem = tr("Can not open file: ") + srcFile;
+    if (!problem.isEmpty() && modScriptHook != nullptr)
+        modScriptHook->throwError(problem);
+}
+
+void ModImport::useFile(QString srcCode)
+{
+    if (modEditorHook != nullptr)
+        modEditorHook->newFile(srcCode);
+}
+
+// --- life cycle ---
+
+void ModImport::modInit()
+{
+    m_actions = new ImportActions(this);
+    m_actions->setEnabled(false);
+    connect(m_actions, QOverload<ImportActions::eAction_t>::of(&ImportActions::triggered), this,
+            &ModImport::openImportDialog);
+}
+
+void ModImport::modInitIntermod()
+{
+    if (modScriptHook != nullptr)
+        modScriptHook->registerObject(this, QStringLiteral("importFiles"));
+}
+
+void ModImport::modExitIntermod()
+{
+    closeImportDialog();
+}
+
+void ModImport::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
+// --- project ---
+
+void ModImport::prjOpen()
+{
+    if (m_actions != nullptr)
+        m_actions->setEnabled(true);
+    if (m_widget != nullptr && modPrjHook != nullptr)
+        m_widget->setPrjPath(modPrjHook->prjDir().absolutePath());
+}
+
+void ModImport::prjClose()
+{
+    closeImportDialog();
+    if (m_actions != nullptr)
+        m_actions->setEnabled(false);
+}
+
+// --- main window ---
+
+void ModImport::removeWidgetRequest(QWidget* widget)
+{
+    if (m_widget != nullptr && widget == m_widget)
+        closeImportDialog();
+}
+
+QList<QAction*> ModImport::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassFile && m_actions != nullptr;
+    return isOurs ? m_actions->menuActions() : QList<QAction*>();
+}
+
+QList<QAction*> ModImport::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    const bool isOurs = actionClass == ModActionHookIf::eActionClassFile && m_actions != nullptr;
+    return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
+}
+
+} // namespace nsModImport

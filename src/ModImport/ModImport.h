@@ -1,0 +1,75 @@
+#pragma once
+
+#include "ImportActions.h"
+#include "ModActionPluginIf.h"
+#include "ModEditorPluginIf.h"
+#include "ModGuiPluginIf.h"
+#include "ModHlpPluginIf.h"
+#include "ModMsgPluginIf.h"
+#include "ModPluginIf.h"
+#include "ModPrjPluginIf.h"
+#include "ModScriptPluginIf.h"
+
+#include <QObject>
+
+namespace nsModImport {
+
+class ImportWidget;
+
+/// Opens and closes the import page, and gives its result to the editor. Scripts know this object as "importFiles".
+class ModImport : public QObject,
+                  public ModPluginIf,
+                  public ModEditorPluginIf,
+                  public ModMsgPluginIf,
+                  public ModPrjPluginIf,
+                  public ModHlpPluginIf,
+                  public ModGuiPluginIf,
+                  public ModScriptPluginIf,
+                  public ModActionPluginIf
+{
+    Q_OBJECT
+
+public:
+    explicit ModImport(QObject* parent = nullptr);
+    ~ModImport() override;
+
+    /// Opens the page; does nothing while it is open.
+    Q_INVOKABLE void openImportDialog();
+    Q_INVOKABLE void closeImportDialog();
+    /// Opens the page with a source and a filter. What can not be done is an error of the script that calls.
+    /// @param srcFile absolute, or relative to the project's folder
+    Q_INVOKABLE void importFile(QString srcFile, QString filterName);
+
+    // ModPluginIf
+    void modRegisterPlugins(QList<ModPluginIf*>) override {}
+    void modInit() override;
+    void modInitIntermod() override;
+    void modRun() override {}
+    bool modExitRequest() override { return true; }
+    void modExitIntermod() override;
+    void modExit() override;
+
+    // ModPrjPluginIf
+    void prjOpen() override;
+    void prjOpened() override {}
+    void prjSave() override {}
+    void prjClose() override;
+
+    // ModGuiPluginIf
+    void removeWidgetRequest(QWidget* widget) override;
+    void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
+
+    // ModActionPluginIf
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
+    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
+
+public slots:
+    /// Opens the text as a new document; the page stays open.
+    void useFile(QString srcCode);
+
+private:
+    ImportActions* m_actions = nullptr;
+    ImportWidget* m_widget = nullptr; ///< null while the page is closed
+};
+
+} // namespace nsModImport
