@@ -86,6 +86,22 @@ TEST_P(ProveEqual, StacksOverflowAndResetTheCore)
     }
 }
 
+TEST_P(ProveEqual, ACoreMayGoOnReadingItsMemoryInAReset)
+{
+    if (GetParam() != Language::Verilog)
+        return; // the model in one language shows it
+    const QByteArray model = changed(Core::PicoBlaze6, Language::Verilog,
+                                     "second && !reset && slot != HALF && slot != HALF_PREEMPTED", "second && !reset");
+    write("kcpsm6.v", model);
+    writeProgram(Core::PicoBlaze6, deepCalls);
+    const AsmToolResult result = run({"--core", "kcpsm6.v", "-n", "400", "p.nalvo"});
+    EXPECT_EQ(result.status, 0) << result.out.constData() << result.err.constData();
+    // But not beyond it.
+    write("kcpsm6.v", QByteArray(model).replace("slot <= NOTHING;\n                stack_address[0]",
+                                                "slot <= HALF_PREEMPTED;\n                stack_address[0]"));
+    EXPECT_EQ(run({"--core", "kcpsm6.v", "-n", "400", "p.nalvo"}).status, 1);
+}
+
 TEST_P(ProveEqual, TheCoreHasTheInitialScratchpad)
 {
     for (const Core core : allCores) {

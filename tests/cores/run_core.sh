@@ -8,7 +8,7 @@ if [ $# -lt 2 ]; then
     sed -n '3,5s/^# *//p' "$0" >&2
     exit 2
 fi
-bench=$(cd "$(dirname "$0")" && pwd)/bench
+bench=$(cd "$(dirname "$0")/../../tools/nalvo-prove/hdl" && pwd)
 core=$(cd "$(dirname "$1")" && pwd)/$(basename "$1")
 mkdir -p "$2" && cd "$2" || exit 2
 shift 2

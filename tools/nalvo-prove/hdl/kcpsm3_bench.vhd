@@ -22,7 +22,7 @@ entity kcpsm3_bench is
         before_clocks   : integer := 0;
         after_that      : string  := "";
         after_clocks    : integer := 0;
-        -- Only find out how many clocks after a reset the first instruction begins, with an empty memory.
+        -- Only find out how many clocks after a reset the first instruction begins, by a memory full of writes.
         probe           : boolean := false
     );
 end entity kcpsm3_bench;
@@ -41,6 +41,7 @@ architecture test of kcpsm3_bench is
     signal clk            : std_logic := '0';
 
     constant full_size : integer := 1024; -- words that the core can address
+    constant write_word : std_logic_vector(17 downto 0) := "10" & X"c000"; -- writes register 0 to port 0
 
     signal memory  : word_array(0 to full_size - 1) := (others => (others => '0'));
     signal modulus : integer := words; -- words of the memory
@@ -158,13 +159,14 @@ begin
         procedure find_start is
             variable found : integer := -1;
         begin
+            memory <= (others => write_word);
             for clock in 0 to 67 loop
                 reset <= '0';
                 if clock < 4 then
                     reset <= '1';
                 end if;
                 wait for 5 ns;
-                if clock >= 4 and found < 0 and known(address) = 1 then
+                if clock >= 4 and found < 0 and write_strobe = '1' then
                     found := clock - 5;
                 end if;
                 clk <= '1';

@@ -43,6 +43,7 @@ module lm8_bench;
     );
 
     localparam integer full_size = 4096; // words that the core can address
+    localparam [17:0] write_word = 18'h2e000; // writes register 0 to port 0
 
     // What the arguments and files say, and the course of the run
 `include "stimulus.vh"
@@ -94,8 +95,7 @@ module lm8_bench;
         end
     endtask
 
-    // An instruction has come to its end: the next one is read.
-    wire has_advanced = prom_en && prom_addr == 12'h002;
+    wire writes = ext_io_wr;
 
     task clear_bench;
         begin

@@ -26,7 +26,7 @@ entity lm8_bench is
         before_clocks   : integer := 0;
         after_that      : string  := "";
         after_clocks    : integer := 0;
-        -- Only find out how many clocks after a reset the first instruction begins, with an empty memory.
+        -- Only find out how many clocks after a reset the first instruction begins, by a memory full of writes.
         probe           : boolean := false
     );
 end entity lm8_bench;
@@ -47,6 +47,7 @@ architecture test of lm8_bench is
     signal intr_ack   : std_logic;
 
     constant full_size : integer := 4096; -- words that the core can address
+    constant write_word : std_logic_vector(17 downto 0) := "10" & X"e000"; -- writes register 0 to port 0
 
     signal memory  : word_array(0 to full_size - 1) := (others => (others => '0'));
     signal modulus : integer := words; -- words of the memory
@@ -185,6 +186,7 @@ begin
         procedure find_start is
             variable found : integer := -1;
         begin
+            memory <= (others => write_word);
             ext_ready <= '1';
             for clock in 0 to 67 loop
                 rst_n <= '1';
@@ -192,7 +194,7 @@ begin
                     rst_n <= '0';
                 end if;
                 wait for 5 ns;
-                if clock >= 4 and found < 0 and prom_en = '1' and known(prom_addr) = 2 then
+                if clock >= 4 and found < 0 and ext_io_wr = '1' then
                     found := clock - 5;
                 end if;
                 clk <= '1';

@@ -128,16 +128,19 @@
         end
     endtask
 
-    // How many clocks after a reset the first instruction begins, with an empty memory.
+    // How many clocks after a reset the first instruction begins: each one of the memory writes to a port, which can be seen in
+    // the second clock.
     task probe;
         begin
             aside = 1'b1;
             interrupt = 1'b0;
             found = -1;
+            for (item = 0; item < 4096; item = item + 1)
+                memory[item] = write_word;
             for (clock = -4; clock < 64; clock = clock + 1) begin
                 reset = clock < 0;
                 prepare_clock;
-                #5 if (clock >= 0 && found < 0 && has_advanced)
+                #5 if (clock >= 0 && found < 0 && writes)
                     found = clock - 1;
                 clk = 1'b1;
                 #5 clk = 1'b0;
