@@ -34,9 +34,10 @@ TEST_P(ProvePrimitives, DoWhatTheirDocumentsSay)
         return;
     }
     ASSERT_EQ(call("ghdl", {"-a", "--std=93", "--work=unisim", models + "unisim.vhd"}).status, 0);
-    const AsmToolResult compiled = call("ghdl", {"-a", "--std=93", "-P.", benches + "primitives_tb.vhd"});
+    const AsmToolResult compiled =
+        call("ghdl", {"-a", "--std=93", "-P.", "--syn-binding", benches + "primitives_tb.vhd"});
     ASSERT_EQ(compiled.status, 0) << compiled.err.constData();
-    EXPECT_EQ(call("ghdl", {"-r", "--std=93", "-P.", "primitives_tb"}).out, "PASSED\n");
+    EXPECT_EQ(call("ghdl", {"-r", "--std=93", "-P.", "--syn-binding", "primitives_tb"}).out, "PASSED\n");
 }
 
 TEST_P(ProvePrimitives, ACoreMayBeMadeOfThem)
@@ -44,7 +45,7 @@ TEST_P(ProvePrimitives, ACoreMayBeMadeOfThem)
     writeProgram(Core::PicoBlaze3, "loop:\n        ADD     s0, 7\n        WRPRT   s0, 2\n        JUMP    loop\n");
     // The address goes through truth tables; an inverter in one of their places must show.
     const bool isVerilog = GetParam() == Language::Verilog;
-    const QByteArray direct = isVerilog ? "assign address        = pc;" : "address        <= std_logic_vector(pc);";
+    const QByteArray direct = isVerilog ? "assign address       = pc;" : "address       <= std_logic_vector(pc);";
     const QByteArray table = isVerilog ? "genvar n; generate for (n = 0; n < 10; n = n + 1) begin : through LUT1 "
                                          "#(.INIT (2'b10)) l (.O (address[n]), "
                                          ".I0 (pc[n])); end endgenerate"
@@ -60,6 +61,11 @@ TEST_P(ProvePrimitives, ACoreMayBeMadeOfThem)
     EXPECT_EQ(result.status, 0) << result.out.constData() << result.err.constData();
     write(name, core.replace(isVerilog ? "2'b10" : "\"10\"", isVerilog ? "2'b01" : "\"01\""));
     EXPECT_NE(run({"--core", name, "-n", "50", "p.nalvo"}).status, 0);
+    // One that there is no model of is a hole in the core.
+    write(name, QByteArray(core).replace("LUT1", "LUT9"));
+    const AsmToolResult hole = run({"--core", name, "-n", "50", "p.nalvo"});
+    EXPECT_EQ(hole.status, 2) << hole.out.constData();
+    EXPECT_TRUE(hole.err.toUpper().contains("LUT9")) << hole.err.constData();
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, ProvePrimitives, testing::ValuesIn(allLanguages),

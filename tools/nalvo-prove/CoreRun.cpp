@@ -185,7 +185,7 @@ CoreRun::eEnd_t CoreRun::compileVhdl(const QString& standard, bool* isCompiled)
 {
     const QString bench = QString("%1_bench").arg(m_kind.name);
     m_standard = "--std=" + standard;
-    const QStringList common = {m_standard, "-fsynopsys", "-fexplicit", "-P."};
+    const QStringList common = {m_standard, "-fsynopsys", "-fexplicit", "--syn-binding", "-P."};
     *isCompiled = true;
     eEnd_t end = endDone;
     if (m_source.usesPrimitives())
@@ -195,6 +195,8 @@ CoreRun::eEnd_t CoreRun::compileVhdl(const QString& standard, bool* isCompiled)
                    isCompiled);
     if (end == endDone && *isCompiled)
         end = call("ghdl", QStringList{"-m"} + common + QStringList{bench}, isCompiled);
+    // ghdl runs a core with holes in it.
+    *isCompiled = *isCompiled && !m_said.contains(QLatin1String(" is not bound"));
     return end;
 }
 
@@ -247,6 +249,7 @@ CoreRun::eEnd_t CoreRun::simulate(const QStringList& options, qint64 clocks,
                                 m_standard,
                                 "-fsynopsys",
                                 "-fexplicit",
+                                "--syn-binding",
                                 "-P.",
                                 QString("%1_bench").arg(m_kind.name),
                                 option("words", m_config.pageSize)};
