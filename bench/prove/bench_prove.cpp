@@ -62,9 +62,8 @@ int main(int argc, char** argv)
         double best[2] = {1e9, 1e9};
         for (int i = 0; i < runs; ++i) {
             for (const int isLong : {0, 1}) {
-                const double time =
-                    run({argv[1], "-q", "-n", std::to_string(isLong != 0 ? longRun : shortRun), "--core",
-                         root + "/tests/cores/" + core[0] + ".v", root + example});
+                const double time = run({argv[1], "-q", "-n", std::to_string(isLong != 0 ? longRun : shortRun),
+                                         "--core", root + "/tests/cores/" + core[0] + ".v", root + example});
                 if (time < 0) {
                     std::fprintf(stderr, "%s fails\n", core[0]);
                     return 1;

@@ -7,6 +7,8 @@
 
 #include <csignal>
 
+#include <sys/resource.h>
+
 namespace {
 
 class ProveFailures : public ProveToolTest
@@ -139,6 +141,41 @@ TEST_F(ProveFailures, TheCoreIsNotWhatItShouldBe)
     expectNothing({"--core", "k.v", "p.nalvo"}, "The core does not execute any instruction after a reset");
     write("k.v", shell("  initial $finish;\n"));
     expectNothing({"--core", "k.v", "p.nalvo"}, "does not run the core");
+}
+
+TEST_F(ProveFailures, ACoreThatHangsIsEnded)
+{
+    write("k.v", shell("  integer n; initial begin n = 0; forever n = n + 1; end\n"));
+    AsmToolSetup own = setup();
+    // The tools inherit what is less than their own limit of processor time.
+    own.inChild = [] {
+        const rlimit time = {2, 2};
+        setrlimit(RLIMIT_CPU, &time);
+    };
+    expectNothing(run({"--core", "k.v", "p.nalvo"}, own), "The core does not get on: Icarus Verilog has taken ");
+}
+
+TEST_F(ProveFailures, APortOfAMico8MayHaveAnotherName)
+{
+    writeProgram(Core::Mico8,
+                 "        NOP\nloop:\n        ADD     r1, 1\n        WRPRT   r1, 3\n        RDPRT   r2, 4\n"
+                 "        JUMP    loop\n");
+    write("reads.txt", QByteArray("5\n").repeated(100));
+    QByteArray core = changed(Core::Mico8, Language::Verilog, "", "");
+    core.replace("module lm8 ", "module isp8_core ");
+    for (const auto& [from, to] : std::vector<std::pair<const char*, const char*>>{
+             {"prom_data", "instr"}, {"prom_en", "prom_enable"}, {"ext_ready", "ext_mem_ready"}, {"rst_n", "resetn"}})
+        core.replace(from, to);
+    core.replace("input  wire                    intr,",
+                 "input  wire                    intr,\n    input wire [3:0] spare,");
+    write("k.v", core);
+    const QStringList options = {"--core", "k.v", "-n", "60", "--reads", "reads.txt", "--interrupt-at", "7", "p.nalvo"};
+    const AsmToolResult result = run(options);
+    EXPECT_EQ(result.status, 0) << result.out.constData() << result.err.constData();
+    EXPECT_TRUE(result.err.contains("C and Z at the end")) << result.err.constData();
+    // What can not be guessed is named.
+    write("k.v", QByteArray(core).replace("ext_io_din", "what"));
+    expectNothing(options, "isp8_core in k.v is not the core of Mico8 as it is known: it has no port ext_io_din");
 }
 
 TEST_F(ProveFailures, ACoreThatEndsOrPrintsIsNoProof)

@@ -120,12 +120,17 @@ bool CoreRun::copyBench()
     const QString bench = QString("%1_bench").arg(m_kind.name);
     const QStringList names = m_source.isVhdl() ? QStringList{"bench_stimulus.vhd", bench + ".vhd", "unisim.vhd"}
                                                 : QStringList{"stimulus.vh", bench + ".v", "primitives.v"};
-    return std::all_of(names.cbegin(), names.cend(), [&](const QString& name) {
-        QFile file(":/prove/" + name);
-        if (!file.open(QIODevice::ReadOnly))
-            return false;
-        return write(name, file.readAll());
-    });
+    return std::all_of(names.cbegin(), names.cend(),
+                       [&](const QString& name) {
+                           QFile file(":/prove/" + name);
+                           if (!file.open(QIODevice::ReadOnly))
+                               return false;
+                           QByteArray text = file.readAll();
+                           if (!m_source.adapter().isEmpty())
+                               text.replace("    lm8 #(", "    lm8_as_known #(");
+                           return write(name, text);
+                       }) &&
+           write("adapter.v", m_source.adapter());
 }
 
 CoreRun::eEnd_t CoreRun::call(const QString& program, const QStringList& arguments, bool* isGood)
@@ -172,10 +177,13 @@ CoreRun::eEnd_t CoreRun::compileVerilog(bool showsFlags, bool* isCompiled)
         set("registers", m_config.regCount);
         set("address_bits", m_config.addressBits);
     }
+    const QString inside = m_source.adapter().isEmpty() ? "" : "part.";
     if (showsFlags)
-        arguments += {"-DNALVO_FLAGS", "-DNALVO_CARRY=" + m_source.carryName(), "-DNALVO_ZERO=" + m_source.zeroName()};
+        arguments += {"-DNALVO_FLAGS", "-DNALVO_CARRY=" + inside + m_source.carryName(),
+                      "-DNALVO_ZERO=" + inside + m_source.zeroName()};
     arguments += m_copies;
     arguments.append(bench + ".v");
+    arguments.append("adapter.v");
     if (m_source.usesPrimitives())
         arguments.append("primitives.v");
     return call("iverilog", arguments, isCompiled);

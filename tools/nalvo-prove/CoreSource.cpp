@@ -1,5 +1,7 @@
 #include "CoreSource.h"
 
+#include "PortMap.h"
+
 #include "BatchOutput.h"
 
 #include <QCoreApplication>
@@ -161,15 +163,20 @@ QString CoreSource::choose(const CoreKind& kind, const QString& path, eLanguage_
             if (file.isVhdl == isVhdl && file.units.contains(kind.name))
                 tops.append(&file);
         }
-        if (tops.isEmpty())
+        if (tops.isEmpty()) {
+            const QString why = chooseMapped(kind, isVhdl);
+            if (!m_files.isEmpty())
+                return QString();
+            failure = why.isEmpty() ? failure : why;
+            isThere = isThere || !why.isEmpty();
             continue;
+        }
         isThere = true;
         if (tops.size() > 1) {
             failure = tr("Several files have a %1 in %2; name the one: %3, %4")
                           .arg(kind.name, languageName(isVhdl), shownPath(tops[0]->path), shownPath(tops[1]->path));
             continue;
         }
-        m_language = isVhdl ? ProveOptions::languageVhdl : ProveOptions::languageVerilog;
         const QString why = take(kind, *tops.first());
         if (why.isEmpty())
             return QString();
@@ -183,18 +190,63 @@ QString CoreSource::choose(const CoreKind& kind, const QString& path, eLanguage_
     return tr("The project is for %1, but no %2 %3 is in %4").arg(kind.shown, wanted, kind.name, path);
 }
 
+/// Looks for a Mico8 whose module has a name of its own.
+/// @return why it can not be used; empty if it can, or if there is none
+QString CoreSource::chooseMapped(const CoreKind& kind, bool isVhdl)
+{
+    if (kind.core != CoreKind::coreMico8 || isVhdl)
+        return QString();
+    static const QRegularExpression likely("lm8|isp8|mico8", QRegularExpression::CaseInsensitiveOption);
+    QString failure;
+    QStringList found;
+    for (const sFile_t& file : m_read) {
+        for (const QString& unit : file.units) {
+            if (file.isVhdl || !likely.match(unit).hasMatch())
+                continue;
+            const PortMap ports(unit, file.text);
+            if (!ports.missing().isEmpty()) {
+                failure = lacks(unit, file, kind, ports.missing());
+                continue;
+            }
+            takeFile(file);
+            m_adapter = ports.adapter();
+            found.append(unit);
+        }
+    }
+    if (found.size() < 2)
+        return found.isEmpty() ? failure : QString();
+    m_files.clear();
+    return tr("Several modules look like a %1; name the file of the one: %2").arg(kind.shown, found.join(", "));
+}
+
+QString CoreSource::lacks(const QString& unit, const sFile_t& file, const CoreKind& kind, const QStringList& ports)
+{
+    return tr("%1 in %2 is not the core of %3 as it is known: it has no port %4")
+        .arg(unit, shownPath(file.path), kind.shown, ports.join(", "));
+}
+
 QString CoreSource::take(const CoreKind& kind, const sFile_t& top)
 {
-    const QString missing = missingPorts(kind, top);
+    QStringList missing = missingPorts(kind, top);
+    if (!missing.isEmpty() && kind.core == CoreKind::coreMico8 && !top.isVhdl) {
+        const PortMap ports(kind.name, top.text);
+        missing = ports.missing();
+        m_adapter = missing.isEmpty() ? ports.adapter() : QByteArray();
+    }
     if (!missing.isEmpty())
-        return tr("%1 in %2 is not the core of %3 as it is known: it has no port %4")
-            .arg(kind.name, shownPath(top.path), kind.shown, missing);
-    follow(top);
-    findFlags(top.text);
+        return lacks(kind.name, top, kind, missing);
+    takeFile(top);
     return QString();
 }
 
-QString CoreSource::missingPorts(const CoreKind& kind, const sFile_t& top)
+void CoreSource::takeFile(const sFile_t& top)
+{
+    m_language = top.isVhdl ? ProveOptions::languageVhdl : ProveOptions::languageVerilog;
+    follow(top);
+    findFlags(top.text);
+}
+
+QStringList CoreSource::missingPorts(const CoreKind& kind, const sFile_t& top)
 {
     // From the name to the end of the unit: old Verilog declares the ports behind the header.
     const QRegularExpression unit(
@@ -207,7 +259,7 @@ QString CoreSource::missingPorts(const CoreKind& kind, const sFile_t& top)
         if (!words.contains(port))
             missing.append(port);
     }
-    return missing.join(", ");
+    return missing;
 }
 
 /// Takes the file, and those that declare what a taken one names.
@@ -221,7 +273,7 @@ void CoreSource::follow(const sFile_t& top)
         }
     }
     QList<const sFile_t*> taken = {&top};
-    m_usesPrimitives = false;
+    m_usesPrimitives = wordsOf(top.text).contains("unisim");
     for (int i = 0; i < taken.size(); ++i) {
         const QSet<QString> words = wordsOf(taken[i]->text);
         for (const QString& word : words) {

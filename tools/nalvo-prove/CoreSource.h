@@ -2,7 +2,7 @@
 
 #include "ProveOptions.h"
 
-#include <QMap>
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -41,6 +41,8 @@ public:
     const QStringList& files() const { return m_files; }
     /// The source uses the models of the vendor's primitives, which are not among its files.
     bool usesPrimitives() const { return m_usesPrimitives; }
+    /// Verilog: a module lm8_as_known between bench and core, whose ports have other names; empty where none is needed.
+    const QByteArray& adapter() const { return m_adapter; }
     /// Names of the flags in the core; empty where it has none that are known.
     const QString& carryName() const { return m_carryName; }
     const QString& zeroName() const { return m_zeroName; }
@@ -62,12 +64,16 @@ private:
     QString take(const CoreKind& kind, const sFile_t& top);
     void follow(const sFile_t& top);
     void findFlags(const QString& text);
-    static QString missingPorts(const CoreKind& kind, const sFile_t& top);
+    QString chooseMapped(const CoreKind& kind, bool isVhdl);
+    void takeFile(const sFile_t& top);
+    static QString lacks(const QString& unit, const sFile_t& file, const CoreKind& kind, const QStringList& ports);
+    static QStringList missingPorts(const CoreKind& kind, const sFile_t& top);
 
     QList<sFile_t> m_read;
     eLanguage_t m_language = ProveOptions::languageAny;
     QStringList m_files;
     bool m_usesPrimitives = false;
+    QByteArray m_adapter;
     QString m_carryName;
     QString m_zeroName;
 };
