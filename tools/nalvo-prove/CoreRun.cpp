@@ -36,11 +36,11 @@ QByteArray hexLines(const std::vector<int>& values)
 }
 
 /// A hexadecimal number of an event; one with unknown bits is none that a simulation has.
-int hexNumber(const QByteArray& text)
+qint64 hexNumber(const QByteArray& text)
 {
     bool ok = false;
     const uint number = text.toUInt(&ok, 16);
-    return ok ? int(number) : -2;
+    return ok ? qint64(number) : -2;
 }
 
 /// @return false if the line is no event
@@ -57,7 +57,7 @@ bool toEvent(const QList<QByteArray>& words, ProveEvent* event)
         return false;
     if (isAccess || event->kind == ProveEvent::eFetch)
         event->address = hexNumber(words[1]);
-    event->value = isAccess ? hexNumber(words[2]) : 0;
+    event->value = isAccess ? int(hexNumber(words[2])) : 0;
     bool ok = false;
     event->clock = words.last().toLongLong(&ok);
     return ok;

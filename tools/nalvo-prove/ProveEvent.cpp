@@ -6,6 +6,9 @@ namespace {
 
 QString hexText(qint64 value, int digits)
 {
+    // A core may show what is no number.
+    if (value < 0)
+        return QString(digits, QLatin1Char('x'));
     return QString::number(value, 16).toUpper().rightJustified(digits, '0');
 }
 
