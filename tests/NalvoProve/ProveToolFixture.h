@@ -56,6 +56,11 @@ protected:
     }
 };
 
+inline std::string nameOfLanguage(const testing::TestParamInfo<Language>& param)
+{
+    return nameOf(param.param);
+}
+
 #define SKIP_WITHOUT(language)                                                                                         \
     do {                                                                                                               \
         if (!HdlCore::isToolThere(language))                                                                           \

@@ -114,6 +114,19 @@ TEST_P(ProveEqual, TheCoreHasTheInitialScratchpad)
     }
 }
 
+TEST_P(ProveEqual, ALargeScratchpadIsComparedAsFarAsItGoes)
+{
+    writeProgram(
+        Core::Mico8,
+        "        NOP\n        LOAD    r13, 1\n        LOAD    r1, 0x34\n        LOAD    r2, 0x56\n"
+        "        WRMEM   r2, (r1)\n        LOAD    r13, 9\n        WRMEM   r2, (r1)\nloop:\n        JUMP    loop\n",
+        {{"scrpdSize", "4096"}, {"simAddressBits", "16"}});
+    const AsmToolResult result = prove(Core::Mico8, GetParam(), {"-n", "20"});
+    EXPECT_EQ(result.status, 0) << result.out.constData() << result.err.constData();
+    EXPECT_TRUE(result.err.contains("512 cells of the scratchpad")) << result.err.constData();
+    EXPECT_TRUE(result.err.contains("the cells of the scratchpad from 512 on")) << result.err.constData();
+}
+
 TEST_P(ProveEqual, InterruptsAtAnyClock)
 {
     const QByteArray body = "        INT     ENABLE\n"
@@ -173,5 +186,4 @@ TEST_P(ProveEqual, SettingsOfTheCoreAreTheProjects)
     equal(Core::Mico8, {"-n", "30"});
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, ProveEqual, testing::ValuesIn(allLanguages),
-                         [](const testing::TestParamInfo<Language>& info) { return nameOf(info.param); });
+INSTANTIATE_TEST_SUITE_P(Languages, ProveEqual, testing::ValuesIn(allLanguages), nameOfLanguage);

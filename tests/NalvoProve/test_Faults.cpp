@@ -37,6 +37,11 @@ QByteArray sourceOf(Core core, const std::vector<quint32>& words)
     return text.toLatin1();
 }
 
+std::string nameOfCase(const testing::TestParamInfo<Where>& param)
+{
+    return std::string(nameOf(std::get<0>(param.param))) + nameOf(std::get<1>(param.param));
+}
+
 class ProveFaults : public ProveToolTest, public testing::WithParamInterface<Where>
 {
 protected:
@@ -157,7 +162,4 @@ TEST_P(ProveFaults, EachIsFound)
 }
 
 INSTANTIATE_TEST_SUITE_P(Cores, ProveFaults,
-                         testing::Combine(testing::ValuesIn(allCores), testing::ValuesIn(allLanguages)),
-                         [](const testing::TestParamInfo<Where>& info) {
-                             return std::string(nameOf(std::get<0>(info.param))) + nameOf(std::get<1>(info.param));
-                         });
+                         testing::Combine(testing::ValuesIn(allCores), testing::ValuesIn(allLanguages)), nameOfCase);

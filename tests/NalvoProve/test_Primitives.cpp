@@ -68,5 +68,4 @@ TEST_P(ProvePrimitives, ACoreMayBeMadeOfThem)
     EXPECT_TRUE(hole.err.toUpper().contains("LUT9")) << hole.err.constData();
 }
 
-INSTANTIATE_TEST_SUITE_P(Languages, ProvePrimitives, testing::ValuesIn(allLanguages),
-                         [](const testing::TestParamInfo<Language>& info) { return nameOf(info.param); });
+INSTANTIATE_TEST_SUITE_P(Languages, ProvePrimitives, testing::ValuesIn(allLanguages), nameOfLanguage);

@@ -335,13 +335,11 @@ QStringList CoreRun::options(const CoreStimulus& stimulus)
         options.append(option("waits", waits));
     if (std::any_of(stimulus.scratchpad.cbegin(), stimulus.scratchpad.cend(), [](int value) { return value != 0; })) {
         const Words words = wordsThatFill(m_kind, stimulus.scratchpad);
-        if (int(words.size()) >= m_kind.fullSize)
-            m_failure = tr("The scratchpad is too large for its initial contents to be given to the core");
-        isWritten = isWritten && int(words.size()) < m_kind.fullSize && file("before", hexLines(words));
+        isWritten = isWritten && file("before", hexLines(words));
         options.append(option("before_clocks", clocksOf(m_kind, words, waits)));
     }
     if (stimulus.showsState) {
-        const Words words = wordsThatShow(m_kind, m_config.regCount, m_config.scrpdSize);
+        const Words words = wordsThatShow(m_kind, m_config.regCount, std::min(m_config.scrpdSize, cellsReached));
         isWritten = isWritten && file(m_source.isVhdl() ? "after_that" : "after", hexLines(words));
         options.append(option("after_clocks", clocksOf(m_kind, words, waits)));
     }

@@ -1,6 +1,7 @@
 #include "ExactRun.h"
 
 #include "ProveOptions.h"
+#include "StateWords.h"
 
 #include "AsmFeMsgHndlr.h"
 #include "AsmProgram.h"
@@ -94,10 +95,14 @@ bool ExactRun::makeEngine()
     const int first = m_engine->position() - m_engine->position() % size;
     for (int i = 0; i < size; ++i)
         m_words.push_back(program.word(first + i));
-    for (int i = 0; i < m_engine->core()->scrpdSize(); ++i) {
-        int value = 0;
-        m_engine->core()->scrpd(i, &value);
-        m_scratchpad.push_back(value & 0xFF);
+    m_scratchpad = cells();
+    const quint8* values = m_engine->core()->scrpdValues();
+    const int count = m_engine->core()->scrpdValueCount();
+    if (count > cellsReached &&
+        std::any_of(values + cellsReached, values + count, [](quint8 value) { return value != 0; })) {
+        printError(tr("The core can not be given the initial contents of the scratchpad from address %1 on.")
+                       .arg(cellsReached));
+        return false;
     }
     for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
         m_engine->intLine()->request(request.first, request.second);
@@ -166,6 +171,17 @@ qint64 ExactRun::clocks() const
     return m_engine->clock()->clocks;
 }
 
+std::vector<int> ExactRun::cells() const
+{
+    std::vector<int> values;
+    for (int i = 0; i < std::min(m_engine->core()->scrpdSize(), cellsReached); ++i) {
+        int value = 0;
+        m_engine->core()->scrpd(i, &value);
+        values.push_back(value & 0xFF);
+    }
+    return values;
+}
+
 ProveTrace ExactRun::trace() const
 {
     ProveTrace trace;
@@ -178,11 +194,7 @@ ProveTrace ExactRun::trace() const
         for (int i = 0; i < core.regCount(); ++i)
             trace.state.registers.push_back(core.regValue(bank, i));
     }
-    for (int i = 0; i < core.scrpdSize(); ++i) {
-        int value = 0;
-        core.scrpd(i, &value);
-        trace.state.scratchpad.push_back(value & 0xFF);
-    }
+    trace.state.scratchpad = cells();
     trace.state.carry = core.carryBit();
     trace.state.zero = core.zeroBit();
     return trace;

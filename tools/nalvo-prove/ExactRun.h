@@ -81,6 +81,8 @@ public:
 
 private:
     bool makeEngine();
+    /// The cells of the scratchpad that can be compared.
+    std::vector<int> cells() const;
     bool openReads();
     void raiseInterrupt();
     void endBy(const nsProc::SimOutcome& outcome);

@@ -54,11 +54,12 @@ bool isOfReset(const ProveEvent& reset, const ProveEvent& event)
 }
 
 /// The reset that only the accesses of its half executed instruction follow; null if there is none.
-const ProveEvent* lastReset(const std::vector<ProveEvent>& events)
+/// @param end number of the events that count
+const ProveEvent* lastReset(const std::vector<ProveEvent>& events, size_t end)
 {
-    for (auto it = events.rbegin(); it != events.rend() && it->kind != ProveEvent::eFetch; ++it) {
-        if (it->kind == ProveEvent::eReset)
-            return &*it;
+    for (size_t i = end; i > 0 && events[i - 1].kind != ProveEvent::eFetch; --i) {
+        if (events[i - 1].kind == ProveEvent::eReset)
+            return &events[i - 1];
     }
     return nullptr;
 }
@@ -186,36 +187,36 @@ CoreStimulus ProveRun::stimulusOf(const ExactRun& exact) const
     return {exact.words(), m_exact->scratchpad(), exact.reads(), exact.requests(), exact.clocks(), true};
 }
 
-int ProveRun::compareEvents(std::vector<ProveEvent>* seen, ProveState* state, bool* isEqual)
+int ProveRun::compareEvents(sSeen_t* seen, ProveState* state)
 {
     const std::vector<ProveEvent>& ours = m_trace.events;
     const auto take = [&](const ProveEvent& event) {
         showProgress(event.clock);
-        const size_t at = seen->size();
-        if (at < ours.size() && ours[at].kind == ProveEvent::eReset && isOfReset(ours[at], event)) {
-            seen->push_back(ours[at]);
+        const size_t at = seen->equal;
+        const bool isReset = at < ours.size() && ours[at].kind == ProveEvent::eReset && isOfReset(ours[at], event);
+        if (isReset || (at < ours.size() && ours[at].equals(event))) {
+            ++seen->equal;
             return true;
         }
         // What follows of the same reset.
-        if (lastReset(*seen) != nullptr && isOfReset(*lastReset(*seen), event))
+        const ProveEvent* reset = lastReset(ours, at);
+        if (reset != nullptr && isOfReset(*reset, event))
             return true;
-        seen->push_back(event);
-        return at < ours.size() && ours[at].equals(event);
+        seen->other = event;
+        seen->hasOther = true;
+        return false;
     };
-    const CoreRun::eEnd_t end = m_core->run(stimulusOf(*m_exact), take, state);
-    *isEqual = end == CoreRun::endDone && seen->size() == ours.size();
-    return endOf(end);
+    return endOf(m_core->run(stimulusOf(*m_exact), take, state));
 }
 
 int ProveRun::compare()
 {
-    std::vector<ProveEvent> seen;
+    sSeen_t seen;
     ProveState state;
-    bool isEqual = false;
-    const int status = compareEvents(&seen, &state, &isEqual);
+    const int status = compareEvents(&seen, &state);
     if (status != exitEqual)
         return status;
-    if (!isEqual)
+    if (seen.hasOther || seen.equal < m_trace.events.size())
         return showDifference(seen);
     m_result.instructions = m_exact->instructions();
     m_result.events = qint64(m_trace.events.size());
@@ -224,8 +225,11 @@ int ProveRun::compare()
     const auto noteState = [this](bool isThere, const QString& name) {
         (isThere ? m_result.compared : m_result.notCompared).append(name);
     };
+    const size_t cells = state.scratchpad.size();
     noteState(!state.registers.empty(), tr("%1 registers").arg(m_trace.state.registers.size()));
-    noteState(!state.scratchpad.empty(), tr("%1 cells of the scratchpad").arg(state.scratchpad.size()));
+    noteState(cells > 0, tr("%1 cells of the scratchpad").arg(cells));
+    if (int(cells) < m_project.config.scrpdSize)
+        noteState(false, tr("the cells of the scratchpad from %1 on").arg(cells));
     noteState(state.carry >= 0 && state.zero >= 0, tr("C and Z at the end"));
     m_result.what = stateDifference(m_trace.state, state, m_result.banks);
     return m_result.what.isEmpty() ? report() : showStateDifference();
@@ -273,21 +277,22 @@ void ProveRun::setStates(const sStates_t& states)
     m_result.stateClock = states.clock;
 }
 
-int ProveRun::showDifference(const std::vector<ProveEvent>& seen)
+int ProveRun::showDifference(const sSeen_t& seen)
 {
     const std::vector<ProveEvent>& ours = m_trace.events;
-    size_t at = 0;
-    while (at < ours.size() && at < seen.size() && ours[at].equals(seen[at]))
-        ++at;
+    const size_t at = seen.equal;
     m_result.isEqual = false;
     m_result.instructions = std::max(fetchesIn(ours, at + 1) - 1, qint64(0));
     m_result.events = qint64(at);
     m_result.clocks = at < ours.size() ? ours[at].clock : m_exact->clocks();
     m_result.simulationEvents = lastTexts(ours, at + 1);
-    m_result.coreEvents = lastTexts(seen, at + 1);
+    m_result.coreEvents = at < ours.size() ? m_result.simulationEvents.mid(0, m_result.simulationEvents.size() - 1)
+                                           : m_result.simulationEvents;
+    if (seen.hasOther)
+        m_result.coreEvents.append(seen.other.text());
     m_result.what = tr("%1 in the simulation, %2 in the core")
                         .arg(at < ours.size() ? ours[at].text() : tr("nothing more"),
-                             at < seen.size() ? seen[at].text() : tr("nothing more"));
+                             seen.hasOther ? seen.other.text() : tr("nothing more"));
     // An entry or a reset belongs to what came before it.
     for (size_t i = std::min(at + 1, ours.size()); i > 0 && m_result.place.isEmpty(); --i)
         m_result.place = m_exact->place(ours[i - 1].position);

@@ -23,6 +23,13 @@ public:
     int run();
 
 private:
+    /// What the core has done.
+    struct sSeen_t
+    {
+        size_t equal = 0; ///< events that are those of the simulation
+        bool hasOther = false;
+        ProveEvent other; ///< the next one, which is not
+    };
     /// Both sides after a number of instructions.
     struct sStates_t
     {
@@ -42,9 +49,8 @@ private:
 
     int endOf(CoreRun::eEnd_t end);
     CoreStimulus stimulusOf(const ExactRun& exact) const;
-    /// The events and then the states of both sides.
-    int compareEvents(std::vector<ProveEvent>* seen, ProveState* state, bool* isEqual);
-    int showDifference(const std::vector<ProveEvent>& seen);
+    int compareEvents(sSeen_t* seen, ProveState* state);
+    int showDifference(const sSeen_t& seen);
     int showStateDifference();
     int statesAfter(qint64 instructions, sStates_t* states);
     int findState(qint64 different, sStates_t* states);

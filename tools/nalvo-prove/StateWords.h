@@ -9,6 +9,9 @@ namespace nsNalvoProve {
 /// A program for a core, from its first address on.
 using Words = std::vector<int>;
 
+/// Cells of the scratchpad that these programs reach: more are not compared.
+constexpr int cellsReached = 512;
+
 /// A program that fills the scratchpad and leaves all else as after power-up. What follows it must be the word 0 and
 /// then a reset.
 /// @param cells values from address 0 on
