@@ -58,16 +58,17 @@ const char* const deepCallsOfMico8 = "        NOP\n"
 
 } // namespace
 
-TEST_P(ProveEqual, AllExamplesOfOnePage)
+TEST_P(ProveEqual, AllExamples)
 {
     write("reads.txt", manyReads());
     const struct
     {
         const char* name;
         Core core;
-    } examples[] = {{"uart_monitor", Core::PicoBlaze3},  {"split_rams", Core::PicoBlaze3},
-                    {"check_hex", Core::PicoBlaze3},     {"check_vhdl", Core::PicoBlaze3},
-                    {"motor_control", Core::PicoBlaze6}, {"keypad_lock", Core::Mico8}};
+    } examples[] = {{"uart_monitor", Core::PicoBlaze3}, {"split_rams", Core::PicoBlaze3},
+                    {"two_pages", Core::PicoBlaze3},    {"check_hex", Core::PicoBlaze3},
+                    {"check_vhdl", Core::PicoBlaze3},   {"motor_control", Core::PicoBlaze6},
+                    {"keypad_lock", Core::Mico8}};
     for (const auto& each : examples) {
         const AsmToolResult result =
             run({"--core", HdlCore::sourceOf(each.core, GetParam()), "-n", "1500", "--reads", "reads.txt",

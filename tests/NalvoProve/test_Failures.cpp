@@ -270,8 +270,6 @@ TEST_F(ProveFailures, ASignalEndsARunWithItsChildren)
 
 TEST_F(ProveFailures, ProgramsThatTheBenchCanNotRunAreRefused)
 {
-    expectNothing({"--core", core(), NALVO_SOURCE_DIR "/examples/two_pages/two_pages.nalvo"},
-                  "The program has 2 pages");
     write("a.psm", "        NONSENSE\n");
     expectNothing({"--core", core(), "p.nalvo"}, "not assembled");
 }

@@ -167,6 +167,7 @@ CoreRun::eEnd_t CoreRun::compileVerilog(bool showsFlags, bool* isCompiled)
         arguments.append(QString("-P%1.%2=%3").arg(bench, name).arg(value));
     };
     set("words", m_config.pageSize);
+    set("pages", m_config.pageCount);
     if (m_kind.core == CoreKind::corePicoBlaze6) {
         set("hwbuild", m_hwbuild);
         set("vector", m_config.intVectorAddr);
@@ -260,7 +261,8 @@ CoreRun::eEnd_t CoreRun::simulate(const QStringList& options, qint64 clocks,
                                 "--syn-binding",
                                 "-P.",
                                 QString("%1_bench").arg(m_kind.name),
-                                option("words", m_config.pageSize)};
+                                option("words", m_config.pageSize),
+                                option("pages", m_config.pageCount)};
         if (m_kind.core == CoreKind::corePicoBlaze6)
             arguments += {option("hwbuild", m_hwbuild), option("vector", m_config.intVectorAddr)};
         if (m_kind.core != CoreKind::corePicoBlaze3)
@@ -328,6 +330,11 @@ QStringList CoreRun::options(const CoreStimulus& stimulus)
             pulses += QByteArray::number(request.first) + ' ' +
                       QByteArray::number(std::min(request.second, stimulus.clocks + 1) - request.first) + '\n';
     }
+    QByteArray pages;
+    for (const std::pair<qint64, int>& change : stimulus.pageChanges)
+        pages += QByteArray::number(change.first) + ' ' + QByteArray::number(change.second) + '\n';
+    if (!pages.isEmpty())
+        isWritten = isWritten && file("page_changes", pages);
     if (!pulses.isEmpty())
         isWritten = isWritten && file("pulses", pulses);
     const int waits = m_kind.core == CoreKind::coreMico8 ? m_config.waitStates : 0;

@@ -18,6 +18,7 @@ struct CoreStimulus
 {
     Words words;
     std::vector<int> scratchpad; ///< at the start; empty or all 0: as after power-up
+    std::vector<std::pair<qint64, int>> pageChanges;
     std::vector<int> reads;
     std::vector<std::pair<qint64, qint64>> requests; ///< from, and the first clock after it
     qint64 clocks = 0;                               ///< of the run

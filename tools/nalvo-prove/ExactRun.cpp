@@ -28,6 +28,7 @@ using nsModAsmFe::Opcode;
 
 namespace {
 
+const qint64 firstClock = -100;   ///< the core is in its reset, or earlier
 const qint64 blockSize = 1 << 12; ///< instructions between two looks at the signal
 
 QString tr(const char* text)
@@ -91,10 +92,8 @@ bool ExactRun::makeEngine()
             return wrongUsage(tr("A device of the project answers at the port already: %1").arg(it.key()));
     }
     const nsProc::ProcSimProgram& program = m_engine->program();
-    const int size = program.pageSize();
-    const int first = m_engine->position() - m_engine->position() % size;
-    for (int i = 0; i < size; ++i)
-        m_words.push_back(program.word(first + i));
+    for (int i = 0; i < program.count(); ++i)
+        m_words.push_back(program.word(i));
     m_scratchpad = cells();
     const quint8* values = m_engine->core()->scrpdValues();
     const int count = m_engine->core()->scrpdValueCount();
@@ -215,6 +214,26 @@ std::vector<std::pair<qint64, qint64>> ExactRun::requests() const
             merged.push_back(span);
     }
     return merged;
+}
+
+std::vector<std::pair<qint64, int>> ExactRun::pageChanges() const
+{
+    std::vector<std::pair<qint64, int>> changes;
+    const int size = m_engine->program().pageSize();
+    if (m_engine->program().count() <= size)
+        return changes;
+    for (const ProveEvent& event : m_events) {
+        if (event.kind != ProveEvent::eFetch)
+            continue;
+        const int page = event.position / size;
+        // The memory is read in the clock before.
+        if (changes.empty() || changes.back().second != page)
+            changes.push_back({event.clock - 1, page});
+    }
+    // From power-up on, too.
+    if (!changes.empty())
+        changes.front().first = firstClock;
+    return changes;
 }
 
 QString ExactRun::place(int position) const

@@ -70,11 +70,14 @@ public:
     ProveTrace trace() const;
 
     // What the core is given.
-    const std::vector<int>& words() const { return m_words; }           ///< the memory of the page that runs
+    const std::vector<int>& words() const { return m_words; }           ///< the memory, page by page
     const std::vector<int>& scratchpad() const { return m_scratchpad; } ///< at the start
     const std::vector<int>& reads() const { return m_reads; }
     /// Clocks at which the interrupt input is up: from, and the first one after it; ascending, with gaps between.
     std::vector<std::pair<qint64, qint64>> requests() const;
+
+    /// In a memory of several pages, the clock of each change and the page, counted from 0, that is read from then on.
+    std::vector<std::pair<qint64, int>> pageChanges() const;
 
     /// File and line of the source; empty if no source filled the place.
     QString place(int position) const;

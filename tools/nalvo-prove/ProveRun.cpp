@@ -112,11 +112,9 @@ int ProveRun::assemble()
     m_project = {&m_batch.assembler().program(), &m_batch.asmMsg(), &m_batch.msg(), &processor->table(),
                  *processor->runConfig()};
     m_project.config.exactSimulation = 1;
-    if (m_project.config.pageCount > 1)
-        return fail(
-            tr("The program has %1 pages: what switches them is outside of the core, which is all that runs here.")
-                .arg(m_project.config.pageCount));
-    m_project.config.pageSize = std::max(m_project.config.pageSize, m_kind->fullSize);
+    m_project.config.pageCount = std::max(m_project.config.pageCount, 1);
+    if (m_project.config.pageCount == 1)
+        m_project.config.pageSize = std::max(m_project.config.pageSize, m_kind->fullSize);
     if (m_project.config.pageSize > m_kind->fullSize)
         return fail(tr("A page of the memory is larger than what %1 can address: %2 words")
                         .arg(m_kind->shown, QString::number(m_project.config.pageSize)));
@@ -184,7 +182,8 @@ int ProveRun::simulate()
 
 CoreStimulus ProveRun::stimulusOf(const ExactRun& exact) const
 {
-    return {exact.words(), m_exact->scratchpad(), exact.reads(), exact.requests(), exact.clocks(), true};
+    return {exact.words(), m_exact->scratchpad(), exact.pageChanges(), exact.reads(), exact.requests(), exact.clocks(),
+            true};
 }
 
 int ProveRun::compareEvents(sSeen_t* seen, ProveState* state)

@@ -3,6 +3,7 @@
 
 module kcpsm3_bench;
     parameter integer words = 1024;
+    parameter integer pages = 1;
 
     wire [9:0]  address;
     reg  [17:0] instruction;
@@ -37,9 +38,9 @@ module kcpsm3_bench;
 `include "stimulus.vh"
 
     // The program memory: a synchronous block RAM
-    reg [17:0] memory [0:4095];
+    reg [17:0] memory [0:4096*pages-1];
     always @(posedge clk)
-        instruction <= memory[address % modulus];
+        instruction <= memory[page * modulus + address % modulus];
 
     assign in_port = read_value;
 

@@ -16,6 +16,9 @@ entity kcpsm3_bench is
         clocks          : integer := 1000;
         start           : integer := 1;     -- clocks from the end of a reset to the first clock of the first instruction
         words           : integer := 1024;
+        -- Several pages, which something outside of the core switches: a file says which one is read in which clock.
+        pages           : integer := 1;
+        page_changes    : string  := "";
         -- Beside the program, two others may run: one before it that prepares the core, and one after it that shows what is
         -- in the core. Both run from a reset, which keeps registers and scratchpad, without any stimulus.
         before          : string  := "";
@@ -43,8 +46,9 @@ architecture test of kcpsm3_bench is
     constant full_size : integer := 1024; -- words that the core can address
     constant write_word : std_logic_vector(17 downto 0) := "10" & X"c000"; -- writes register 0 to port 0
 
-    signal memory  : word_array(0 to full_size - 1) := (others => (others => '0'));
-    signal modulus : integer := words; -- words of the memory
+    signal memory  : word_array(0 to full_size * pages - 1) := (others => (others => '0'));
+    signal modulus : integer := words; -- words of a page
+    signal page    : integer := 0;
 begin
     core : entity work.kcpsm3
         port map (
@@ -65,7 +69,7 @@ begin
     process (clk)
     begin
         if rising_edge(clk) then
-            instruction <= memory(known(address) mod modulus);
+            instruction <= memory(page * modulus + known(address) mod modulus);
         end if;
     end process;
 
@@ -73,10 +77,13 @@ begin
         file reads_file     : text;
         file pulses_file    : text;
         file resets_file    : text;
+        file pages_file     : text;
         variable status     : file_open_status;
         variable has_reads  : boolean := false;
         variable has_pulses : boolean := false;
         variable has_resets : boolean := false;
+        variable has_pages  : boolean := false;
+        variable paging     : pulse; -- the number of the next page is its length
         variable read_value : std_logic_vector(7 downto 0);
         variable request    : pulse;
         variable resetting  : pulse;
@@ -129,6 +136,13 @@ begin
             in_reset := true;
             slot_clock := -start;
             for clock in -start - 4 to last - 1 loop
+                if aside then
+                    page <= 0;
+                end if;
+                while not aside and paging.first <= clock loop
+                    page <= paging.past - paging.first;
+                    next_pulse(pages_file, has_pages, paging);
+                end loop;
                 while not aside and request.past <= clock loop
                     next_pulse(pulses_file, has_pulses, request);
                 end loop;
@@ -188,6 +202,11 @@ begin
             file_open(status, resets_file, resets, read_mode);
             has_resets := status = open_ok;
         end if;
+        if page_changes'length > 0 then
+            file_open(status, pages_file, page_changes, read_mode);
+            has_pages := status = open_ok;
+        end if;
+        next_pulse(pages_file, has_pages, paging);
         next_read(reads_file, has_reads, read_value);
         next_pulse(pulses_file, has_pulses, request);
         next_pulse(resets_file, has_resets, resetting);
@@ -197,18 +216,18 @@ begin
             wait;
         end if;
         if before'length > 0 then
-            memory <= load_words(before, full_size);
+            memory <= load_words(before, full_size * pages);
             modulus <= full_size;
             run_to(before_clocks, true);
             report_event("BEGIN", 0);
         end if;
         memory <= (others => (others => '0'));
-        memory(0 to words - 1) <= load_words(program, words);
+        memory(0 to words * pages - 1) <= load_words(program, words * pages);
         modulus <= words;
         run_to(clocks, false);
         if after_that'length > 0 then
             report_event("STATE", 0);
-            memory <= load_words(after_that, full_size);
+            memory <= load_words(after_that, full_size * pages);
             modulus <= full_size;
             run_to(after_clocks, true);
             report_event("END", 0);

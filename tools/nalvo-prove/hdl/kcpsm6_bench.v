@@ -6,6 +6,7 @@ module kcpsm6_bench;
     parameter [11:0]  vector          = 12'h3FF;
     parameter integer scratchpad_size = 64;
     parameter integer words           = 4096;
+    parameter integer pages           = 1;
 
     wire [11:0] address;
     reg  [17:0] instruction;
@@ -49,10 +50,10 @@ module kcpsm6_bench;
 `include "stimulus.vh"
 
     // The program memory: a synchronous block RAM
-    reg [17:0] memory [0:4095];
+    reg [17:0] memory [0:4096*pages-1];
     always @(posedge clk)
         if (bram_enable)
-            instruction <= memory[address % modulus];
+            instruction <= memory[page * modulus + address % modulus];
 
     assign in_port = read_value;
 

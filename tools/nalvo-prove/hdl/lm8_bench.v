@@ -6,6 +6,7 @@ module lm8_bench;
     parameter integer scratchpad_size = 32;
     parameter integer address_bits    = 8;
     parameter integer words           = 4096;
+    parameter integer pages           = 1;
 
     reg                     clk;
     wire                    rst_n;
@@ -49,10 +50,10 @@ module lm8_bench;
 `include "stimulus.vh"
 
     // The program memory: a synchronous block RAM, whose register is 0 at power-up
-    reg [17:0] memory [0:4095];
+    reg [17:0] memory [0:4096*pages-1];
     always @(posedge clk)
         if (prom_en)
-            prom_data <= memory[prom_addr % modulus];
+            prom_data <= memory[page * modulus + prom_addr % modulus];
 
     assign rst_n = !reset;
     assign ext_io_din = read_value;

@@ -19,6 +19,12 @@
     integer    modulus;     // words of the memory
     integer    found;
 
+    // A memory of several pages, which something outside of the core switches: a file says which one is read in which clock.
+    integer    page;
+    integer    pages_file;
+    integer    page_begin; // of the next page; its number is what the end is later
+    integer    page_end;
+
     reg [8*4096-1:0] file_name;
     integer          file;
     integer          length;
@@ -53,7 +59,7 @@
     task load_words(input integer count);
         begin
             modulus = count;
-            for (item = 0; item < 4096; item = item + 1)
+            for (item = 0; item < 4096 * pages; item = item + 1)
                 memory[item] = 18'h00000;
             file = $fopen(file_name, "r");
             if (file == 0)
@@ -69,10 +75,11 @@
     task load_program;
         begin
             modulus = words;
-            for (item = 0; item < 4096; item = item + 1)
+            for (item = 0; item < 4096 * pages; item = item + 1)
                 memory[item] = 18'h00000;
             if ($value$plusargs("program=%s", file_name))
-                load_words(words);
+                load_words(words * pages);
+            modulus = words;
         end
     endtask
 
@@ -95,7 +102,11 @@
             resets_file = 0;
             if ($value$plusargs("resets=%s", file_name))
                 resets_file = $fopen(file_name, "r");
+            pages_file = 0;
+            if ($value$plusargs("page_changes=%s", file_name))
+                pages_file = $fopen(file_name, "r");
             next_read;
+            next_pulse(pages_file, page_begin, page_end);
             next_pulse(pulses_file, pulse_begin, pulse_end);
             next_pulse(resets_file, reset_begin, reset_end);
         end
@@ -106,7 +117,13 @@
         begin
             interrupt = 1'b0;
             reset = clock < -start;
-            if (!aside) begin
+            if (aside)
+                page = 0;
+            else begin
+                while (page_begin <= clock) begin
+                    page = page_end - page_begin;
+                    next_pulse(pages_file, page_begin, page_end);
+                end
                 while (pulse_end <= clock)
                     next_pulse(pulses_file, pulse_begin, pulse_end);
                 interrupt = pulse_begin <= clock;
@@ -133,9 +150,10 @@
     task probe;
         begin
             aside = 1'b1;
+            page = 0;
             interrupt = 1'b0;
             found = -1;
-            for (item = 0; item < 4096; item = item + 1)
+            for (item = 0; item < 4096 * pages; item = item + 1)
                 memory[item] = write_word;
             for (clock = -4; clock < 64; clock = clock + 1) begin
                 reset = clock < 0;
@@ -152,6 +170,7 @@
     initial begin
         clk = 1'b0;
         aside = 1'b0;
+        page = 0;
         load_stimulus;
         load_program;
         clear_bench;
