@@ -8,6 +8,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <cstdio>
 
 #include <unistd.h>
 
@@ -334,6 +335,8 @@ int ProveRun::report()
 {
     hideProgress();
     print(stdout, m_options.json ? m_result.json() : m_result.text());
+    // In front of what is said about it, where both go to one place.
+    std::fflush(stdout);
     note(tr("%1 under %2").arg(m_result.core, m_result.tool));
     if (!m_result.compared.isEmpty())
         note(tr("compared: %1").arg(m_result.compared.join(", ")));
