@@ -201,9 +201,11 @@ private:
 };
 
 /// Seconds of a run of the batch simulator.
-double batchTime(const QString& program, const QString& project, int instructions, const QString& trace)
+double batchTime(const QString& program, const QString& project, int instructions, const QString& trace, bool isExact)
 {
     QStringList arguments = {"-q", "-n", QString::number(instructions)};
+    if (isExact)
+        arguments += "--exact";
     if (!trace.isEmpty())
         arguments += {"--trace", trace};
     QElapsedTimer time;
@@ -215,10 +217,11 @@ double batchTime(const QString& program, const QString& project, int instruction
 
 /// Instructions a second of the batch simulator, without the start of the process.
 /// @param trace file for a trace; empty for none
-double batchRate(const QString& program, const QString& project, int instructions, const QString& trace)
+double batchRate(const QString& program, const QString& project, int instructions, const QString& trace,
+                 bool isExact = false)
 {
-    const double start = batchTime(program, project, 1, trace);
-    return (instructions - 1) / (batchTime(program, project, instructions, trace) - start);
+    const double start = batchTime(program, project, 1, trace, isExact);
+    return (instructions - 1) / (batchTime(program, project, instructions, trace, isExact) - start);
 }
 
 /// The figures of the batch simulator; the naive model takes turns with it.
@@ -229,15 +232,18 @@ void printBatch(const QString& program, const QString& project, const QString& t
     std::vector<double> rates;
     std::vector<double> traceRates;
     std::vector<double> ratios;
+    std::vector<double> exactRatios;
     for (int round = 0; round < 5; ++round) {
         const double naive = naiveRate(mixed);
         rates.push_back(batchRate(program, project, 400000000, QString()));
         ratios.push_back(rates.back() / naive);
+        exactRatios.push_back(batchRate(program, project, 400000000, QString(), true) / rates.back());
         traceRates.push_back(batchRate(program, project, 20000000, traceFile));
     }
     print("batch_rate_per_second", median(rates), 0);
     print("batch_trace_rate_per_second", median(traceRates), 0);
     print("batch_vs_naive", median(ratios), 0);
+    print("exact_ratio", median(exactRatios), 2);
 }
 
 void print(const char* name, double value, int decimals)

@@ -142,6 +142,18 @@ constexpr ProcTable table()
     t.sim.logicClearsCarry = false;
     t.sim.takesPortConstants = true;
 
+    t.core.stack = sCoreTraits_t::eStackOfReturns;
+    t.core.stackCells = 16;
+    t.core.memorySize = 4096;
+    t.core.startAddr = 1;
+    t.core.startZero = true;
+    t.core.latchesRequests = true;
+    t.core.rotatesSource = true;
+    t.core.rotateKeepsCarry = true;
+    t.core.hasLongAddresses = true;
+    t.core.takesRegModulo = true;
+    t.core.accessClocks = 3;
+
     t.storedSettings = {settingScrpdSize, settingClkFreq, settingInstrClkCnt, settingRegCount, settingPageSize};
     t.fixedSettings = {settingScrpdSize, settingPageSize, settingClkFreq, settingInstrClkCnt, settingRegCount};
     t.setInstrs(instrs);

@@ -18,6 +18,13 @@ struct ProcCoreConfig
     double clkFreq = 80000000; ///< Hz
     int regCount = 16;         ///< registers, where the hardware can be built with more or less
     int instrClkCnt = 2;       ///< clock cycles of an instruction
+    int exactSimulation = 0;   ///< not 0: the simulation does what the core does, where the two differ
+    int coreWarnings = 0;      ///< not 0: a simulation that is not exact warns where the core would do otherwise
+    /// What ends an exact simulation although the core goes on.
+    enum eExactStop_t { eStopAtStack = 1, eStopAtScrpd = 2, eStopAtEmpty = 4, allExactStops = 7 };
+    int exactStops = 0;  ///< of these, added
+    int addressBits = 8; ///< of a port or scratchpad address in a register, where the core can be built so: 8 to 32
+    int waitStates = 0;  ///< clock cycles that an access to a port waits, where the core can: up to 255
 };
 
 } // namespace nsProc

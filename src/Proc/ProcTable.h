@@ -28,6 +28,33 @@ struct sSimTraits_t
     bool takesPortConstants = false;   ///< `WRPRT` takes a constant
 };
 
+/// What the hardware of a processor does at the edges, where the simulation leaves the words of the text: for the
+/// simulation exactly as the core.
+struct sCoreTraits_t
+{
+    enum eStack_t {
+        eStackOfCalls, ///< wraps; each instruction writes its address to the cell at the pointer, a return goes behind
+                       ///< it
+        eStackOfReturns, ///< wraps; calls and entries alone write a cell, which holds the address to return to
+        eStackResets,    ///< beyond its ends the core resets itself
+    };
+
+    eStack_t stack = eStackOfCalls;
+    int stackCells = 32;             ///< cells of a stack that wraps, levels of one that resets
+    int memorySize = 1024;           ///< words, of an instruction memory of one page
+    int startAddr = 0;               ///< of the first instruction after power-up
+    bool startZero = false;          ///< zero flag after power-up
+    bool hasFlagCopy = false;        ///< C and Z of an interrupt are kept once, and not with the return address
+    bool entryKeepsNewFlags = false; ///< the routine sees C and Z as the pre-empted instruction would leave them
+    bool latchesRequests = false;    ///< a request stays for good; entries come between instructions and cost nothing
+    bool rotatesSource = false;      ///< rotations take the second register
+    bool rotateKeepsCarry = false;   ///< `ROL` and `ROR` leave carry alone
+    bool constantWriteHasLines = false; ///< a write of a constant shows its low four bits above the port
+    bool hasLongAddresses = false;      ///< ports and the scratchpad can have more than 256 addresses, and wait
+    bool takesRegModulo = false;        ///< registers that the core is built without are those below
+    int accessClocks = 2;               ///< clock cycles of an access to a port or the scratchpad
+};
+
 /// The page of a processor: all that distinguishes it from the others. Back end, simulator, settings, register names
 /// and disassembler read it.
 struct ProcTable
@@ -55,6 +82,7 @@ struct ProcTable
     bool everyPageHasIntVector = false; ///< the vector is at an address that each page has, whatever its size
 
     sSimTraits_t sim;
+    sCoreTraits_t core;
 
     const sProcSetting_t* settings = nullptr; ///< in the order of the settings page
     int settingRowCount = 0;

@@ -29,6 +29,27 @@ QString keyOf(const ProcTable& table, const sSettingField_t& field)
     return QLatin1String(table.cfgSection) + '/' + QLatin1String(field.key);
 }
 
+/// How the simulation is done. These keys are in a project only after one of them was set.
+struct sSimKey_t
+{
+    const char* key;
+    int ProcCoreConfig::*value;
+    int minimum;
+    int maximum;
+};
+const sSimKey_t simKeys[] = {
+    {"simExact", &ProcCoreConfig::exactSimulation, 0, 1},
+    {"simExactStops", &ProcCoreConfig::exactStops, 0, ProcCoreConfig::allExactStops},
+    {"simCoreWarnings", &ProcCoreConfig::coreWarnings, 0, 1},
+    {"simAddressBits", &ProcCoreConfig::addressBits, 8, 32},
+    {"simWaitStates", &ProcCoreConfig::waitStates, 0, 255},
+};
+
+QString keyOf(const ProcTable& table, const sSimKey_t& option)
+{
+    return QLatin1String(table.cfgSection) + '/' + QLatin1String(option.key);
+}
+
 } // namespace
 
 Processor::Processor(const ProcTable& table, ProcCoreConfig* run)
@@ -76,6 +97,9 @@ void Processor::readSettings(PrjSettings* project)
         else
             config.*field.value = qBound(row.storedMin, project->value(key, config.*field.value), row.storedMax);
     }
+    for (const sSimKey_t& option : simKeys)
+        config.*option.value =
+            qBound(option.minimum, project->value(keyOf(table(), option), config.*option.value), option.maximum);
     setSettings(config);
 }
 
@@ -88,6 +112,13 @@ void Processor::writeSettings(PrjSettings* project) const
             project->setValue(key, textOf(m_settings.clkFreq));
         else
             project->setValue(key, m_settings.*field.value);
+    }
+    const int missing = -1;
+    const ProcCoreConfig defaults;
+    for (const sSimKey_t& option : simKeys) {
+        const QString key = keyOf(table(), option);
+        if (m_settings.*option.value != defaults.*option.value || project->value(key, missing) != missing)
+            project->setValue(key, m_settings.*option.value);
     }
 }
 

@@ -81,6 +81,9 @@ constexpr ProcTable table()
     t.layout.maxPort = 255;
     t.layout.flowBits = 10;
 
+    t.core.hasFlagCopy = true;
+    t.core.entryKeepsNewFlags = true;
+
     t.storedSettings = {settingClkFreq, settingPageSize};
     t.fixedSettings = {settingPageSize, settingClkFreq};
     t.setInstrs(instrs);

@@ -112,6 +112,11 @@ constexpr ProcTable table()
     t.sim.takesComputedTargets = true;
     t.sim.takesPortConstants = true;
 
+    t.core.stack = sCoreTraits_t::eStackResets;
+    t.core.stackCells = 30;
+    t.core.memorySize = 4096;
+    t.core.constantWriteHasLines = true;
+
     t.storedSettings = {settingScrpdSize, settingIntVectorAddr, settingClkFreq, settingPageSize};
     t.fixedSettings = {settingScrpdSize, settingPageSize, settingClkFreq};
     t.setInstrs(instrs);

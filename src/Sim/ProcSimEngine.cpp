@@ -4,8 +4,10 @@
 
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
+#include "ProcSimCoreCheck.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimDevices.h"
+#include "ProcSimExact.h"
 #include "ProcSimObserver.h"
 #include "ProcSimPorts.h"
 
@@ -36,6 +38,10 @@ ProcSimEngine::ProcSimEngine(const ProcTable* table, const ProcCoreConfig& confi
 {
     for (int page = 0; page < config.pageCount; ++page)
         m_pageNames.append(QStringLiteral("PAGE%1").arg(page));
+    if (config.exactSimulation != 0)
+        m_exact = std::make_unique<Exact>(this);
+    else if (config.coreWarnings != 0)
+        m_check = std::make_unique<ProcSimCoreCheck>(*table, m_config, *m_core, *m_callStack);
 }
 
 ProcSimEngine::~ProcSimEngine() = default;
@@ -67,7 +73,12 @@ void ProcSimEngine::ensureDecoded()
 {
     if (m_isDecoded || m_opcodes == nullptr)
         return;
-    m_program.decode(*m_opcodes, m_core->regCount(), m_pageNames.size());
+    if (m_exact != nullptr)
+        m_program.decodeMemory(*m_opcodes, m_core->regCount(), m_exact->pageSize(), std::max(m_config.pageCount, 1));
+    else
+        m_program.decode(*m_opcodes, m_core->regCount(), m_pageNames.size());
+    if (m_check != nullptr)
+        m_program.leaveToStep([this](const sSimInstr_t& in) { return m_check->looksAt(in); });
     m_isDecoded = true;
 }
 
@@ -80,7 +91,46 @@ bool ProcSimEngine::setProgramCounter(const Opcode* opcode, SimOutcome* outcome)
 {
     m_question = sQuestion_t();
     ensureDecoded();
+    if (m_exact != nullptr)
+        return m_exact->moveTo(opcode, outcome);
     return moveTo(m_program.positionOf(opcode), outcome);
+}
+
+bool ProcSimEngine::moveToStart(SimOutcome* outcome)
+{
+    m_question = sQuestion_t();
+    ensureDecoded();
+    if (m_exact != nullptr)
+        return m_exact->moveToStart(outcome);
+    return setProgramCounter(m_opcodes != nullptr ? m_opcodes->opcodeOfMemAddr(0) : nullptr, outcome);
+}
+
+bool ProcSimEngine::moveToAddr(int addr, SimOutcome* outcome)
+{
+    m_question = sQuestion_t();
+    ensureDecoded();
+    if (m_exact != nullptr)
+        return m_exact->moveToAddr(addr);
+    const Opcode* target = opcodeOfPage(addr, page());
+    return target != nullptr && setProgramCounter(target, outcome);
+}
+
+void ProcSimEngine::setConfig(const ProcCoreConfig& config)
+{
+    // What the simulation was built as stays.
+    const int exactSimulation = m_config.exactSimulation;
+    m_config = config;
+    m_config.exactSimulation = exactSimulation;
+}
+
+int ProcSimEngine::clocksOfInstr() const
+{
+    return m_exact != nullptr ? Exact::maxClocks : m_clocksOfInstr;
+}
+
+ProcSimIntLine* ProcSimEngine::intLine()
+{
+    return m_exact != nullptr ? &m_exact->line() : nullptr;
 }
 
 bool ProcSimEngine::moveTo(int position, SimOutcome* outcome)
@@ -124,16 +174,28 @@ int ProcSimEngine::positionOfPage(int addr, int memRange) const
 
 void ProcSimEngine::toggleInterrupt()
 {
+    if (m_exact != nullptr) {
+        m_exact->line().request(m_clock->clocks, 1);
+        return;
+    }
     if (m_core->interrupt() == eIntEnabled)
         m_core->setInterrupt(eIntPending);
     else if (m_core->interrupt() == eIntPending)
         m_core->setInterrupt(eIntEnabled);
+    else if (m_check != nullptr)
+        m_check->requestLost();
 }
 
 void ProcSimEngine::reset()
 {
-    m_core->clear();
-    m_callStack->clear();
+    if (m_exact != nullptr) {
+        m_exact->reset();
+    } else {
+        m_core->clear();
+        m_callStack->clear();
+    }
+    if (m_check != nullptr)
+        m_check->clear();
     m_ports->clear();
     m_question = sQuestion_t();
 }

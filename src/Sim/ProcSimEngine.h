@@ -17,7 +17,9 @@ class IODevList;
 namespace nsProc {
 
 class ProcSimCallStackData;
+class ProcSimCoreCheck;
 class ProcSimCoreData;
+class ProcSimIntLine;
 class ProcSimObserver;
 class ProcSimPorts;
 struct ProcSimClock;
@@ -49,7 +51,7 @@ public:
     /// Decodes the present instructions of the list anew, after they have changed in place. The position stays.
     void decode();
     /// Takes over the settings of a later run. Those that can not change during a simulation must be as they were.
-    void setConfig(const ProcCoreConfig& config) { m_config = config; }
+    void setConfig(const ProcCoreConfig& config);
     /// Makes the devices that the program declares, and fills the scratchpad.
     /// @return false after a reported error
     bool initIODevices(const nsModAsmFe::IODevList& devices, SimOutcome* outcome);
@@ -101,14 +103,24 @@ public:
     /// For observers: the program must not go on, from now on and for good. The instruction that is being notified is
     /// not executed.
     void halt() { m_isHalted = true; }
-    /// Sets or takes back a pending interrupt, if interrupts are enabled.
+    /// Sets or takes back a pending interrupt, if interrupts are enabled. In an exact simulation the interrupt input is
+    /// up for one clock.
     void toggleInterrupt();
-    /// State and devices as they are at the start; the clock count goes on. Program counter and observers stay.
+    /// The interrupt input of an exact simulation; null in any other.
+    ProcSimIntLine* intLine();
+    /// State and devices as they are at the start, or as the core's reset leaves them; the clock count goes on. Program
+    /// counter and observers stay.
     void reset();
+    /// Goes to the instruction that the processor executes first.
+    /// @return false after a reported error
+    bool moveToStart(SimOutcome* outcome);
+    /// To an address of the present page.
+    /// @return false, with nothing changed, if there is no instruction, or no memory in an exact simulation
+    bool moveToAddr(int addr, SimOutcome* outcome);
     /// Ends all highlights.
     void clearHighlights();
-    /// Clock cycles of an instruction.
-    int clocksOfInstr() const { return m_clocksOfInstr; }
+    /// Clock cycles of an instruction, or the most that one can take in an exact simulation.
+    int clocksOfInstr() const;
 
     /// @param observer not owned, must outlive its entry
     void addObserver(ProcSimObserver* observer);
@@ -121,6 +133,7 @@ public:
     const std::shared_ptr<ProcSimClock>& clock() const { return m_clock; }
 
 private:
+    class Exact;
     class Step;
     template <bool isObserved, bool isPaged>
     class Loop;
@@ -152,6 +165,7 @@ private:
     bool pageToLookIn(int* memRange) const;
     bool enterInterrupt(SimOutcome* outcome);
     bool enterVector(int memRange, SimOutcome* outcome);
+    bool readPort(int addr, const QString& name, int* value, SimOutcome* outcome);
     void executeOne(SimOutcome* outcome);
     void finishStep(bool executed, SimOutcome* outcome);
     template <bool isObserved>
@@ -182,6 +196,8 @@ private:
     std::shared_ptr<ProcSimCallStackData> m_callStack;
     std::shared_ptr<ProcSimPorts> m_ports;
     std::shared_ptr<ProcSimClock> m_clock;
+    std::unique_ptr<ProcSimCoreCheck> m_check; ///< null unless it warns where the core would do otherwise
+    std::unique_ptr<Exact> m_exact;            ///< null unless the simulation is exact
 };
 
 } // namespace nsProc

@@ -5,6 +5,7 @@
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimExact.h"
 #include "ProcSimInstr.h"
 #include "ProcSimObserver.h"
 
@@ -44,8 +45,11 @@ public:
 
     const bool logicClearsCarry;
     const bool chainsZero;
+    static constexpr bool chainsLowByte = false;
+    static constexpr bool rotateKeepsCarry = false;
 
     // For the instructions.
+    Q_ALWAYS_INLINE int shiftedReg(const sSimInstr_t& in) const { return m_regs[in.dst]; }
     Q_ALWAYS_INLINE int dstReg(const sSimInstr_t& in) const { return m_regs[in.dst]; }
     Q_ALWAYS_INLINE int srcReg(const sSimInstr_t& in) const { return m_regs[in.src]; }
     Q_ALWAYS_INLINE bool setReg(const sSimInstr_t& in, int value)
@@ -171,7 +175,7 @@ qint64 ProcSimEngine::Loop<isObserved, isPaged>::run(ProcSimEngine* engine, qint
             if (instr.isLeftToStep())
                 break;
             for (ProcSimObserver* observer : engine->m_followers)
-                observer->instruction(m.m_pc);
+                observer->instruction(m.m_pc, engine->m_clock->clocks + (count - left) * engine->m_clocksOfInstr);
         }
         if ((isObserved && engine->m_isHalted) || !ProcSimInstr<Loop>::execute(m, instr.op, instr)) {
             if constexpr (isObserved) {
@@ -218,6 +222,8 @@ qint64 ProcSimEngine::run(qint64 count, int until, SimOutcome* outcome)
         outcome->end = SimOutcome::eEndStopped;
         return 0;
     }
+    if (m_exact != nullptr)
+        return m_exact->run(count, until, outcome);
     while (executed < count) {
         if (m_program.isPlaced() && m_pc != sSimInstr_t::none && m_core->interrupt() != eIntPending) {
             const qint64 fast =

@@ -4,7 +4,9 @@
 
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
+#include "ProcSimCoreCheck.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimExact.h"
 #include "ProcSimInstr.h"
 #include "ProcSimObserver.h"
 #include "ProcSimPorts.h"
@@ -65,8 +67,11 @@ public:
 
     const bool logicClearsCarry;
     const bool chainsZero;
+    static constexpr bool chainsLowByte = false;
+    static constexpr bool rotateKeepsCarry = false;
 
     // For the instructions.
+    int shiftedReg(const sSimInstr_t& in) { return dstReg(in); }
     int dstReg(const sSimInstr_t& in) { return reg(in.dst, m_opcode.arg0); }
     int srcReg(const sSimInstr_t& in) { return reg(in.src, m_opcode.arg1); }
     bool setReg(const sSimInstr_t& in, int value)
@@ -109,7 +114,7 @@ public:
     bool writePort(int addr, int value);
     bool simOpcode_unsupported()
     {
-        m_outcome.reports.push_back({sSimReport_t::eKindUnsupported, errNoOpcodeToExec, m_opcode.name, 0});
+        m_outcome.reports.push_back({sSimReport_t::eKindUnsupported, errNoOpcodeToExec, m_opcode.name, 0, false});
         return false;
     }
 
@@ -229,24 +234,7 @@ bool ProcSimEngine::Step::writeScrpd(int addr, int value)
 
 bool ProcSimEngine::Step::readPort(int addr, int* value)
 {
-    if (m_engine.m_ports->deviceToRead(addr) == nullptr) {
-        for (ProcSimObserver* observer : m_engine.m_observers) {
-            bool handled = false;
-            const bool supplied = observer->portSource(addr, value, &handled);
-            if (!handled)
-                continue;
-            if (supplied)
-                return true;
-            m_outcome.end = SimOutcome::eEndNoPortValue;
-            m_outcome.port = addr;
-            return false;
-        }
-    }
-    const QString& name = m_opcode.arg1->dispName;
-    m_outcome.port = addr;
-    if (!m_engine.m_ports->chkIOPluginToRd(addr, name))
-        return refuse(warnIODevAddedToRd);
-    return m_engine.m_ports->value(addr, name, value) || refuse(errIODevRd);
+    return m_engine.readPort(addr, m_opcode.arg1->dispName, value, &m_outcome);
 }
 
 void ProcSimEngine::Step::notePortRead(int addr, int value)
@@ -264,8 +252,40 @@ bool ProcSimEngine::Step::writePort(int addr, int value)
     return true;
 }
 
+/// The value that a program reads at a port: of a device, or else of the first observer that is its source.
+/// @param name that the program uses for the port
+/// @return false after a report, or with the end set
+bool ProcSimEngine::readPort(int addr, const QString& name, int* value, SimOutcome* outcome)
+{
+    if (m_ports->deviceToRead(addr) == nullptr) {
+        for (ProcSimObserver* observer : m_observers) {
+            bool handled = false;
+            const bool supplied = observer->portSource(addr, value, &handled);
+            if (!handled)
+                continue;
+            if (supplied)
+                return true;
+            outcome->end = SimOutcome::eEndNoPortValue;
+            outcome->port = addr;
+            return false;
+        }
+    }
+    outcome->port = addr;
+    if (!m_ports->chkIOPluginToRd(addr, name)) {
+        outcome->report(warnIODevAddedToRd);
+        return false;
+    }
+    if (!m_ports->value(addr, name, value)) {
+        outcome->report(errIODevRd);
+        return false;
+    }
+    return true;
+}
+
 SimOutcome ProcSimEngine::step()
 {
+    if (m_exact != nullptr)
+        return m_exact->step();
     SimOutcome outcome;
     m_question = sQuestion_t();
     m_begun = sSimInstr_t::none;
@@ -302,7 +322,9 @@ void ProcSimEngine::executeOne(SimOutcome* outcome)
 {
     m_begun = m_pc;
     for (ProcSimObserver* observer : m_followers)
-        observer->instruction(m_begun);
+        observer->instruction(m_begun, m_clock->clocks);
+    if (m_check != nullptr && !m_isHalted)
+        m_check->beforeInstruction(m_program, m_begun, outcome);
     finishStep(!m_isHalted && Step(this, outcome).execute(), outcome);
 }
 
@@ -325,6 +347,8 @@ void ProcSimEngine::finishStep(bool executed, SimOutcome* outcome)
 bool ProcSimEngine::enterInterrupt(SimOutcome* outcome)
 {
     const Opcode* opcode = programCounter();
+    if (m_check != nullptr)
+        m_check->beforeEntry(m_program, m_pc, outcome);
     m_core->setInterrupt(eIntService);
     // If the call stack is full, the interrupt is lost; the program can continue at the present instruction.
     if (!m_callStack->push(QStringLiteral("ISR"), m_core->carryBit() != 0, m_core->zeroBit() != 0, opcode->pageAddr,

@@ -11,7 +11,8 @@ namespace nsProc {
 /// registers, flags, scratchpad, call stack and ports.
 ///
 /// An operation of a machine that returns false ends the instruction. Up to then the instruction has changed nothing,
-/// or what the processor changes in this case, too. `logicClearsCarry` and `chainsZero` are those of the processor.
+/// or what the processor changes in this case, too. `logicClearsCarry` and `chainsZero` are those of the processor,
+/// `chainsLowByte` and `rotateKeepsCarry` of an exact simulation.
 template <class Machine>
 class ProcSimInstr
 {
@@ -51,7 +52,8 @@ public:
         case ocTestc:
             return simOpcode_testWithCarry(m, in);
         case ocRol:
-            return simOpcode_sl(m, in, [](Machine&, int before) { return before >> 7; });
+            return simOpcode_sl(
+                m, in, [](Machine&, int before) { return before >> 7; }, m.rotateKeepsCarry);
         case ocRolc:
             return simOpcode_sl(m, in, [](Machine& machine, int) { return int(machine.carry()); });
         case ocSl0:
@@ -61,7 +63,8 @@ public:
         case ocSlx:
             return simOpcode_sl(m, in, [](Machine&, int before) { return before & 1; });
         case ocRor:
-            return simOpcode_sr(m, in, [](Machine&, int before) { return before & 1; });
+            return simOpcode_sr(
+                m, in, [](Machine&, int before) { return before & 1; }, m.rotateKeepsCarry);
         case ocRorc:
             return simOpcode_sr(m, in, [](Machine& machine, int) { return int(machine.carry()); });
         case ocSr0:
@@ -144,7 +147,7 @@ private:
         // As an unsigned number, so that a borrow counts.
         m.setCarry(quint32(result) > 255);
         if (withCarry && m.chainsZero)
-            m.setZero(m.zero() && isZeroResult(result));
+            m.setZero(m.zero() && (isZeroResult(result) || (m.chainsLowByte && result == -256)));
         else
             m.setZero(isZeroResult(result) || result == -256);
         return m.goTo(in.next);
@@ -154,7 +157,8 @@ private:
         const int value = m.dstReg(in);
         const int difference = value - source(m, in) - (withCarry ? int(m.carry()) : 0);
         m.setCarry(difference < 0);
-        m.setZero(difference == 0 && (!withCarry || m.zero()));
+        m.setZero((difference == 0 || (withCarry && m.chainsLowByte && difference == -256)) &&
+                  (!withCarry || m.zero()));
         return m.goTo(in.next);
     }
 
@@ -207,17 +211,18 @@ private:
 
     /// Shifts and rotations to the left. @param incoming the bit that comes in, 0 or 1
     template <class Incoming>
-    Q_ALWAYS_INLINE static bool simOpcode_sl(Machine& m, sInstr in, Incoming incoming)
+    Q_ALWAYS_INLINE static bool simOpcode_sl(Machine& m, sInstr in, Incoming incoming, bool keepsCarry = false)
     {
-        const int before = m.dstReg(in);
-        return finishShift(m, in, (before << 1) + incoming(m, before), (before & 0x80) != 0);
+        const int before = m.shiftedReg(in);
+        return finishShift(m, in, (before << 1) + incoming(m, before), keepsCarry ? m.carry() : (before & 0x80) != 0);
     }
     /// The same to the right.
     template <class Incoming>
-    Q_ALWAYS_INLINE static bool simOpcode_sr(Machine& m, sInstr in, Incoming incoming)
+    Q_ALWAYS_INLINE static bool simOpcode_sr(Machine& m, sInstr in, Incoming incoming, bool keepsCarry = false)
     {
-        const int before = m.dstReg(in);
-        return finishShift(m, in, (before >> 1) + (incoming(m, before) << 7), (before & 1) != 0);
+        const int before = m.shiftedReg(in);
+        return finishShift(m, in, (before >> 1) + (incoming(m, before) << 7),
+                           keepsCarry ? m.carry() : (before & 1) != 0);
     }
     Q_ALWAYS_INLINE static bool finishShift(Machine& m, sInstr in, int result, bool outgoing)
     {

@@ -34,6 +34,21 @@ constexpr sSimMsg_t simMsgs[] = {
     NALVO_MSG(errPcRestore, "Can not restore program counter. Please set manually from cursor."),
     NALVO_MSG(errPcNoPrjFile, "The current file not part of the project."),
     NALVO_MSG(warnIODevNoPort, "The address of IO device %1 does not fit into 16 bits. It answers at no port."),
+    NALVO_MSG(warnCoreStart, "The core starts elsewhere."),
+    NALVO_MSG(warnCoreRequestKept, "The core would keep the interrupt request that was lost here."),
+    NALVO_MSG(warnCoreNoSecondLevel, "The core takes no second interrupt before the return from this one."),
+    NALVO_MSG(warnCoreConstantWrite, "The core writes constants by a strobe of their own here."),
+    NALVO_MSG(warnCoreAccessClocks, "The core takes another number of clock cycles here."),
+    NALVO_MSG(warnCoreChainedZero, "The core keeps the zero flag set here."),
+    NALVO_MSG(warnCoreRotateSource, "The core rotates the second register into the first here."),
+    NALVO_MSG(warnCoreRotateCarry, "The core leaves carry alone here."),
+    NALVO_MSG(warnCoreStackWraps, "The core overwrites its oldest return address here."),
+    NALVO_MSG(warnCoreReset, "The core resets itself here."),
+    NALVO_MSG(warnCoreReturnedFlags, "The core returns with other flags here."),
+    NALVO_MSG(warnCoreReturnedBank, "The core returns to the other register bank here."),
+    NALVO_MSG(warnCoreStaysEnabled, "The core leaves interrupts enabled here."),
+    NALVO_MSG(warnCoreEntryFlags, "The core enters the interrupt with other flags here."),
+    NALVO_MSG(warnCoreEntryClocks, "The core takes two clock cycles to enter the interrupt here."),
 };
 
 static_assert(isIndexedBy(simMsgs, &sSimMsg_t::type, eSimMsgCount), "the rows are indexed by eSimMsg_t");

@@ -21,6 +21,22 @@ enum eSimMsg_t {
     errPcRestore,
     errPcNoPrjFile,
     warnIODevNoPort,
+    // What the core would do otherwise.
+    warnCoreStart,
+    warnCoreRequestKept,
+    warnCoreNoSecondLevel,
+    warnCoreConstantWrite,
+    warnCoreAccessClocks,
+    warnCoreChainedZero,
+    warnCoreRotateSource,
+    warnCoreRotateCarry,
+    warnCoreStackWraps,
+    warnCoreReset,
+    warnCoreReturnedFlags,
+    warnCoreReturnedBank,
+    warnCoreStaysEnabled,
+    warnCoreEntryFlags,
+    warnCoreEntryClocks,
     eSimMsgCount, ///< number of messages, not a message
 };
 

@@ -28,12 +28,12 @@ QString sSimReport_t::text() const
 
 void SimOutcome::report(eSimMsg_t msg, const QString& arg, int value)
 {
-    reports.push_back({sSimReport_t::eKindMessage, msg, arg, value});
+    reports.push_back({sSimReport_t::eKindMessage, msg, arg, value, false});
 }
 
 void SimOutcome::reportInternal(const QString& text)
 {
-    reports.push_back({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0});
+    reports.push_back({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0, false});
 }
 
 } // namespace nsProc

@@ -21,12 +21,16 @@ struct sSimReport_t
     eSimMsg_t msg = errNoOpcodeToExec;
     QString arg;   ///< of the message, the text of an internal error, the mnemonic that is not supported
     int value = 0; ///< of a message whose argument is empty
+    /// The core goes on where the simulator would have stopped: the message of an error is a warning.
+    bool coreGoesOn = false;
 
     /// The key of the message; "internal" for an internal error.
     QString key() const;
+    /// It is about what the core would do otherwise: the place is the instruction that was executed.
+    bool isOfCore() const { return kind == eKindMessage && (coreGoesOn || msg >= warnCoreStart); }
     /// What a person reads. Not for what is not supported: that has the text of the front end's message.
     QString text() const;
-    bool isWarning() const { return kind == eKindMessage && key().startsWith(QLatin1String("warn")); }
+    bool isWarning() const { return kind == eKindMessage && (coreGoesOn || key().startsWith(QLatin1String("warn"))); }
 };
 
 /// What a step of the simulated processor, or a change of its program counter, came to.

@@ -44,7 +44,7 @@ private:
     void decodeFlag();
     void decodeWrPrt();
 
-    void fail(const QString& text) { fail({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0}); }
+    void fail(const QString& text) { fail({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0, false}); }
     void fail(const sSimReport_t& report);
     void getValueReg(const Arg* arg, quint8* reg, Arg::eArgType_t type = Arg::reg);
     void setValueReg(const Arg* arg);
@@ -236,7 +236,7 @@ void ProcSimProgram::Decoder::getValueReg(const Arg* arg, quint8* reg, Arg::eArg
     else if (arg->iValue >= m_regCount || arg->iValue > maxRegIndex)
         fail(tr("Register index exceeds register count: %1").arg(arg->name));
     else if (arg->iValue < 0)
-        fail({sSimReport_t::eKindMessage, errRegRd, arg->name, 0});
+        fail({sSimReport_t::eKindMessage, errRegRd, arg->name, 0, false});
     else
         *reg = quint8(arg->iValue);
     m_read = arg;
@@ -313,6 +313,7 @@ void ProcSimProgram::clear()
     m_faults.clear();
     m_isPlaced = true;
     m_hasShared = false;
+    m_pageSize = 0;
 }
 
 void ProcSimProgram::decode(const OpcodeList& opcodes, int regCount, int rangeCount)
@@ -331,9 +332,28 @@ void ProcSimProgram::decode(const OpcodeList& opcodes, int regCount, int rangeCo
         Decoder(this, position, regCount).decode();
 }
 
+void ProcSimProgram::leaveToStep(const std::function<bool(const sSimInstr_t&)>& isLeft)
+{
+    for (sSimInstr_t& instr : m_instrs) {
+        if (isLeft(instr))
+            instr.op |= sSimInstr_t::leftToStep;
+    }
+}
+
 int ProcSimProgram::positionOf(const Opcode* opcode) const
 {
     return m_positions.value(opcode, sSimInstr_t::none);
+}
+
+int ProcSimProgram::address(int position) const
+{
+    return m_pageSize > 0 ? position % m_pageSize : m_opcodes[size_t(position)]->pageAddr;
+}
+
+int ProcSimProgram::word(int position) const
+{
+    const Opcode* opcode = m_opcodes[size_t(position)];
+    return opcode != nullptr ? opcode->instWord : 0;
 }
 
 const ProcSimProgram::sFault_t* ProcSimProgram::fault(int position) const

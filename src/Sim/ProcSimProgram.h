@@ -7,6 +7,7 @@
 #include <QString>
 #include <QtGlobal>
 
+#include <functional>
 #include <vector>
 
 namespace nsModAsmFe {
@@ -50,7 +51,8 @@ struct sSimInstr_t
 };
 static_assert(sizeof(sSimInstr_t) == 16, "an instruction has no gaps");
 
-/// The instructions of an assembler run, decoded for one processor. A position is an index in source order.
+/// The instructions of an assembler run, decoded for one processor. A position is an index in source order, or in the
+/// instruction memory if that was decoded.
 ///
 /// Reads the elements once, in decode(); what an argument can not be is kept as a fault, which the instruction reports
 /// when it is executed.
@@ -77,15 +79,29 @@ public:
     /// @param regCount registers of a bank
     /// @param rangeCount ranges of the instruction memory, the shared one included
     void decode(const nsModAsmFe::OpcodeList& opcodes, int regCount, int rangeCount);
+    /// The same from the words of the instruction memory: each of its cells is a position, page after page. Cells
+    /// without an instruction hold the word 0.
+    /// @param pageSize words of a page, above 0
+    /// @param pageCount pages, above 0; instructions of the shared range stand in each
+    void decodeMemory(const nsModAsmFe::OpcodeList& opcodes, int regCount, int pageSize, int pageCount);
+    /// Marks instructions for the single step. The next decode() forgets that.
+    void leaveToStep(const std::function<bool(const sSimInstr_t&)>& isLeft);
     void clear();
 
     int count() const { return int(m_instrs.size()); }
     const sSimInstr_t* instrs() const { return m_instrs.data(); }
     const sSimInstr_t& instr(int position) const { return m_instrs[size_t(position)]; }
-    /// Not owned. @param position may be sSimInstr_t::none: null then
+    /// Not owned. Null for a cell of the memory without an instruction.
+    /// @param position may be sSimInstr_t::none: null then
     nsModAsmFe::Opcode* opcode(int position) const { return position < 0 ? nullptr : m_opcodes[size_t(position)]; }
-    /// sSimInstr_t::none for null, and for an instruction of another program.
+    /// sSimInstr_t::none for null, and for an instruction of another program. In a memory of several pages an
+    /// instruction of the shared range is found in the first page.
     int positionOf(const nsModAsmFe::Opcode* opcode) const;
+    /// Address within its page, and machine word, of a position.
+    int address(int position) const;
+    int word(int position) const;
+    /// Words of a page if the memory was decoded, else 0.
+    int pageSize() const { return m_pageSize; }
     /// Null if the arguments are as they should be.
     const sFault_t* fault(int position) const;
     /// All instructions stand in ranges that exist.
@@ -97,6 +113,7 @@ public:
 
 private:
     class Decoder;
+    class MemoryDecoder;
 
     const ProcTable* m_table;
     std::vector<sSimInstr_t> m_instrs;
@@ -105,6 +122,7 @@ private:
     QHash<int, sFault_t> m_faults; ///< by position
     bool m_isPlaced = true;
     bool m_hasShared = false;
+    int m_pageSize = 0;
 };
 
 } // namespace nsProc

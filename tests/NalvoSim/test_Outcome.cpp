@@ -2,9 +2,24 @@
 
 #include "SimToolFixture.h"
 
+#include <QDir>
+
 #include "Release.h"
 
 namespace {
+
+/// All examples that are projects.
+QStringList exampleProjects()
+{
+    const QDir examples(NALVO_SOURCE_DIR "/examples");
+    QStringList projects;
+    for (const QString& name : examples.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QString project = examples.filePath(name + '/' + name + ".nalvo");
+        if (QFile::exists(project))
+            projects << project;
+    }
+    return projects;
+}
 
 class SimToolOutcome : public SimToolTest
 {
@@ -310,6 +325,21 @@ TEST_F(SimToolOutcome, TheExamplesRun)
         EXPECT_EQ(result.status, 0) << name << result.err.constData();
         EXPECT_EQ(result.errLines(),
                   QStringList("nalvo-sim: bound of instructions reached, 100000 instructions, 200000 clocks"));
+    }
+}
+
+// What the examples do, the core does, too: an exact simulation has nothing to warn of.
+TEST_F(SimToolOutcome, TheExamplesRunExactlyWithoutAWarning)
+{
+    QByteArray values;
+    for (int i = 0; i < 20000; ++i)
+        values += QByteArray::number(i * 37 % 256, 16) + '\n';
+    write("reads", values);
+    for (const QString& project : exampleProjects()) {
+        const AsmToolResult result =
+            run({"--exact", "-n", "15000", "--reads", "reads", "--interrupt-every", "700", project});
+        EXPECT_EQ(result.status, 0) << qPrintable(project) << result.err.constData();
+        EXPECT_EQ(result.errLines().size(), 1) << qPrintable(project) << result.err.constData();
     }
 }
 

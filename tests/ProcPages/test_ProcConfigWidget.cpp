@@ -59,9 +59,10 @@ TEST_F(ProcConfigWidgetTest, EachHasTheTabsOfCoreAndMemory)
          {static_cast<QWidget*>(&blaze3), static_cast<QWidget*>(&blaze6), static_cast<QWidget*>(&mico8)}) {
         auto* tabs = widget->findChild<QTabWidget*>();
         ASSERT_NE(tabs, nullptr);
-        ASSERT_EQ(tabs->count(), 2);
+        ASSERT_EQ(tabs->count(), 3);
         EXPECT_EQ(tabs->tabText(0), "Processor core");
         EXPECT_EQ(tabs->tabText(1), "Instruction memory");
+        EXPECT_EQ(tabs->tabText(2), "Simulation");
         EXPECT_EQ(tabs->widget(0)->objectName(), "configWidget");
         EXPECT_EQ(tabs->widget(1)->objectName(), "configWidget");
         expectToolTips(widget);

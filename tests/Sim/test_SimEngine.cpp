@@ -39,7 +39,7 @@ public:
     }
 
     bool followsInstructions() const override { return m_follows; }
-    void instruction(int position) override
+    void instruction(int position, qint64) override
     {
         positions.push_back(position);
         if (engine != nullptr && position == haltAt)

@@ -45,7 +45,7 @@ public:
 
 private:
     bool followsInstructions() const override { return m_isFollowed; }
-    void instruction(int position) override { m_executed.push_back(position); }
+    void instruction(int position, qint64) override { m_executed.push_back(position); }
     void refused(int) override { m_executed.pop_back(); }
     void portWritten(int addr, int value) override;
     bool portSource(int addr, int* value, bool* handled) override;

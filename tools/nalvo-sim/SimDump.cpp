@@ -43,8 +43,9 @@ QJsonObject programCounter(const SimProject& project, const nsProc::ProcSimEngin
 {
     const Opcode* opcode = engine.programCounter();
     QJsonObject object = place(project, opcode);
-    object.insert("address", opcode != nullptr ? QJsonValue(opcode->pageAddr) : QJsonValue());
-    object.insert("page", opcode != nullptr ? QJsonValue(engine.core()->pageName()) : QJsonValue());
+    const bool isKnown = engine.position() != nsProc::sSimInstr_t::none;
+    object.insert("address", isKnown ? QJsonValue(engine.program().address(engine.position())) : QJsonValue());
+    object.insert("page", isKnown ? QJsonValue(engine.core()->pageName()) : QJsonValue());
     return object;
 }
 

@@ -1,13 +1,13 @@
 #include "SimOptions.h"
 
 #include "BatchFiles.h"
+#include "BatchNumbers.h"
 #include "BatchOutput.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <cctype>
 
 namespace nsNalvoSim {
 
@@ -41,6 +41,8 @@ const char* const description = "Assembles a Nalvo project in memory and runs it
                                 "    W pp vv      port written: port, value\n"
                                 "    S aa vv      scratchpad written: address, value\n"
                                 "    INT          interrupt entered\n"
+                                "    K pp vv      exact: constant written, with all eight address lines\n"
+                                "    RESET        exact: the core has reset itself\n"
                                 "\n"
                                 "Messages go to standard error, one a line:\n"
                                 "    path:line: error: text [key]\n"
@@ -75,47 +77,24 @@ void setup(QCommandLineParser* parser)
          tr("Raise an interrupt before the instructions N, 2N, 3N and so on, if interrupts are enabled then."),
          tr("N")},
         {"interrupt-at", tr("The same before the Nth instruction, counted from 1."), tr("N[,N...]")},
+        {"exact", tr("Simulate exactly what the core does, where that differs from the simulation of the window.")},
+        {"interrupt-at-clock",
+         tr("Exact: the interrupt input is up in the clocks C to C+LENGTH-1; clock 0 is the first of the first "
+            "instruction. LENGTH is 1 where left out. Can be given for several requests."),
+         tr("C[:LENGTH]")},
+        {"trace-clocks", tr("Exact: each I line of the trace has its first clock as a fourth, decimal field.")},
         {"trace", tr("Write the trace to FILE. - is standard output."), tr("FILE")},
         {"vcd",
          tr("Write the values at all ports as waves (VCD) to FILE. - is standard output. They are kept in memory until "
             "the end: 16 bytes a value."),
          tr("FILE")},
         {"dump", tr("Write the final state as JSON to FILE. - is standard output."), tr("FILE")},
+        {"v", tr("Warn at each instruction that the core would execute with another outcome.")},
         {"q", tr("Show errors alone, and no summary.")},
         {{"h", "help"}, tr("Show this help.")},
         {"version", tr("Show the version.")},
     });
     parser->addPositionalArgument("PROJECT.nalvo", tr("The project to run."), "[--] PROJECT.nalvo");
-}
-
-/// A number, decimal or with 0x hexadecimal.
-/// @return false, with nothing changed, if the text is anything else or the number is out of range
-bool toNumber(const QString& text, qint64 minimum, qint64 maximum, qint64* value)
-{
-    const bool isHex = text.startsWith("0x", Qt::CaseInsensitive);
-    const QString digits = isHex ? text.mid(2) : text;
-    const bool isClean = std::all_of(digits.cbegin(), digits.cend(), [isHex](QChar c) {
-        const char ascii = c.toLatin1();
-        return (ascii >= '0' && ascii <= '9') || (isHex && std::isxdigit(static_cast<unsigned char>(ascii)) != 0);
-    });
-    bool ok = false;
-    const qint64 number = digits.toLongLong(&ok, isHex ? 16 : 10);
-    if (!isClean || !ok || number < minimum || number > maximum)
-        return false;
-    *value = number;
-    return true;
-}
-
-/// Reads the value of an option, if that is given.
-bool readNumber(const QCommandLineParser& parser, const QString& name, qint64 minimum, qint64 maximum, qint64* value)
-{
-    if (!parser.isSet(name) || toNumber(parser.value(name), minimum, maximum, value))
-        return true;
-    return wrongUsage(
-        maximum == SimOptions::unbounded
-            ? tr("--%1 takes a number from %2 on: %3").arg(name, QString::number(minimum), parser.value(name))
-            : tr("--%1 takes a number from %2 to %3: %4")
-                  .arg(name, QString::number(minimum), QString::number(maximum), parser.value(name)));
 }
 
 } // namespace
@@ -128,6 +107,7 @@ SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
     if (parsed != parseRun)
         return parsed;
     quiet = parser.isSet("q");
+    verbose = parser.isSet("v");
     const bool isRight = readProject(parser) && readBounds(parser) && readInterrupts(parser) && readLabels(parser) &&
                          readInputs(parser) && readOutputs(parser) && checkFiles();
     return isRight ? parseRun : parseWrong;
@@ -149,17 +129,9 @@ bool SimOptions::readInterrupts(const QCommandLineParser& parser)
 {
     if (!readNumber(parser, "interrupt-every", 1, unbounded, &interruptEvery))
         return false;
-    for (const QString& list : parser.values("interrupt-at")) {
-        for (const QString& text : list.split(',')) {
-            qint64 number = 0;
-            if (!toNumber(text, 1, unbounded, &number))
-                return wrongUsage(tr("--interrupt-at takes numbers from 1 on, with commas between: %1").arg(list));
-            interruptAt.push_back(number);
-        }
-    }
-    std::sort(interruptAt.begin(), interruptAt.end());
-    interruptAt.erase(std::unique(interruptAt.begin(), interruptAt.end()), interruptAt.end());
-    return true;
+    isExact = parser.isSet("exact");
+    tracesClocks = parser.isSet("trace-clocks");
+    return readInterruptNumbers(parser, &interruptAt) && readInterruptClocks(parser, &interruptClocks);
 }
 
 bool SimOptions::readLabels(const QCommandLineParser& parser)
@@ -190,15 +162,13 @@ bool SimOptions::readInputs(const QCommandLineParser& parser)
 
 bool SimOptions::readPort(const QString& text)
 {
-    const int equals = text.indexOf('=');
-    qint64 port = 0;
-    if (equals < 0 || !toNumber(text.left(equals), 0, 255, &port))
-        return wrongUsage(tr("--port takes an address from 0 to 255, = and a file: %1").arg(text));
-    if (text.size() == equals + 1)
-        return wrongUsage(tr("The name of the file of a port is empty: %1").arg(text));
-    if (portFiles.contains(int(port)))
+    int port = 0;
+    QString file;
+    if (!readPortFile(text, &port, &file))
+        return false;
+    if (portFiles.contains(port))
         return wrongUsage(tr("Two files for one port: %1").arg(text));
-    portFiles.insert(int(port), text.mid(equals + 1));
+    portFiles.insert(port, file);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BatchNumbers.h"
 #include "BatchOptions.h"
 
 #include <QMap>
@@ -7,7 +8,7 @@
 #include <QStringList>
 #include <QtGlobal>
 
-#include <limits>
+#include <utility>
 #include <vector>
 
 class QCommandLineParser;
@@ -17,7 +18,7 @@ namespace nsNalvoSim {
 /// What the command line asks for.
 struct SimOptions : nsBatch::BatchOptions
 {
-    static constexpr qint64 unbounded = std::numeric_limits<qint64>::max();
+    static constexpr qint64 unbounded = nsBatch::unbounded;
 
     /// Reads the arguments, and shows help, version or what is wrong with them.
     eParse_t parse(const QStringList& arguments);
@@ -35,10 +36,15 @@ struct SimOptions : nsBatch::BatchOptions
     int hwbuild = 0;
     qint64 interruptEvery = 0;       ///< 0: never
     std::vector<qint64> interruptAt; ///< numbers of instructions from 1, ascending, each once
-    QString traceFile;               ///< empty: none; "-": standard output; the same for those below
+    bool isExact = false;            ///< as the core does; else as the project says
+    /// Requests at the interrupt input of an exact simulation: clocks from and length.
+    std::vector<std::pair<qint64, qint64>> interruptClocks;
+    bool tracesClocks = false;
+    QString traceFile; ///< empty: none; "-": standard output; the same for those below
     QString vcdFile;
     QString dumpFile;
-    bool quiet = false; ///< errors alone
+    bool quiet = false;   ///< errors alone
+    bool verbose = false; ///< warns where the core would do otherwise
 
 private:
     bool readBounds(const QCommandLineParser& parser);

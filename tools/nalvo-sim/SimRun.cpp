@@ -6,11 +6,13 @@
 #include "Opcode.h"
 #include "ProcSimClock.h"
 #include "ProcSimCoreData.h"
+#include "ProcSimIntLine.h"
 #include "ProcSimPortNames.h"
 #include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
 #include "ProcTable.h"
 #include "SimLabels.h"
+#include "SimMessages.h"
 #include "SimStop.h"
 
 #include <QCoreApplication>
@@ -69,6 +71,8 @@ int SimRun::run()
             printError(tr("not assembled"));
         return exitNotAssembled;
     }
+    if (!m_wrongUsage.isEmpty())
+        return wrongUsage(m_wrongUsage) ? exitReached : exitWrongUsage;
     if (!findLabels() || !openReads() || !openOutputs(project))
         return exitWrongUsage;
     const bool started = startSim();
@@ -95,6 +99,12 @@ bool SimRun::assemble()
     }
     m_project = {&m_batch.assembler().program(), &m_batch.sources(), &m_batch.asmMsg(), &processor->table(),
                  *processor->runConfig()};
+    if (m_options.verbose)
+        m_project.config.coreWarnings = 1;
+    if (m_options.isExact)
+        m_project.config.exactSimulation = 1;
+    if (m_project.config.exactSimulation == 0 && (m_options.tracesClocks || !m_options.interruptClocks.empty()))
+        m_wrongUsage = tr("--trace-clocks and --interrupt-at-clock need --exact.");
     return true;
 }
 
@@ -159,7 +169,7 @@ bool SimRun::startSim()
     show(outcome);
     if (success) {
         outcome = nsProc::SimOutcome();
-        success = m_engine->setProgramCounter(m_project.program->opcodes.opcodeOfMemAddr(0), &outcome);
+        success = m_engine->moveToStart(&outcome);
         show(outcome);
     }
     if (!success) {
@@ -169,11 +179,13 @@ bool SimRun::startSim()
     }
     if (m_start != nullptr)
         m_engine->setProgramCounter(m_start, &outcome);
+    for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
+        m_engine->intLine()->request(request.first, request.second);
     m_engine->core()->setHwbld(m_options.hwbuild);
     m_engine->addObserver(&m_reads);
     if (m_trace.isOpen()) {
-        m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get());
-        m_reads.setTrace(m_tracer.get());
+        m_tracer = std::make_unique<SimTrace>(&m_trace, m_engine.get(), m_options.tracesClocks);
+        m_reads.setBeforeWait([this] { m_tracer->flushExecuted(); });
         m_engine->addObserver(m_tracer.get());
     }
     if (m_vcd.isOpen()) {
@@ -206,12 +218,10 @@ void SimRun::setEnd(SimEnd::eReason_t reason, const QString& text, const QString
 
 void SimRun::execute()
 {
-    m_nextInterrupt = m_options.interruptEvery > 0 ? m_options.interruptEvery : SimOptions::unbounded;
-    if (!m_options.interruptAt.empty())
-        m_nextInterrupt = std::min(m_nextInterrupt, m_options.interruptAt.front());
+    m_interrupts = nsBatch::InterruptNumbers(m_options.interruptEvery, m_options.interruptAt);
     const int until = m_until != nullptr ? m_engine->program().positionOf(m_until) : nsProc::sSimInstr_t::none;
     while (!isBoundReached()) {
-        if (m_instructions + 1 == m_nextInterrupt)
+        if (m_instructions + 1 == m_interrupts.next())
             raiseInterrupt();
         nsProc::SimOutcome outcome;
         m_instructions += m_engine->run(nextBlock(), until, &outcome);
@@ -246,24 +256,19 @@ qint64 SimRun::nextBlock() const
     count = std::min(count, m_options.instructions - m_instructions);
     const qint64 clocks = m_options.clocks - m_engine->clock()->clocks;
     const qint64 perInstr = std::max(m_engine->clocksOfInstr(), 1);
-    count = std::min(count, clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0));
+    // With instructions that differ in their clocks, each of the last few is a block.
+    const qint64 bounded = clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0);
+    count = std::min(count, m_engine->intLine() != nullptr ? std::max(bounded - 1, qint64(1)) : bounded);
     // The instruction that takes the interrupt starts a block.
-    return std::min(count, m_nextInterrupt - m_instructions - 1);
+    return std::min(count, m_interrupts.next() - m_instructions - 1);
 }
 
 void SimRun::raiseInterrupt()
 {
     // A second call would withdraw a pending interrupt.
-    if (m_engine->core()->interrupt() == nsProc::eIntEnabled)
+    if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() != nsProc::eIntPending)
         m_engine->toggleInterrupt();
-    const std::vector<qint64>& list = m_options.interruptAt;
-    while (m_interruptAt < list.size() && list[m_interruptAt] <= m_nextInterrupt)
-        ++m_interruptAt;
-    const qint64 listed = m_interruptAt < list.size() ? list[m_interruptAt] : SimOptions::unbounded;
-    const qint64 every = m_options.interruptEvery;
-    const qint64 rounds = every > 0 ? m_nextInterrupt / every + 1 : 0;
-    const bool isRegular = every > 0 && rounds <= SimOptions::unbounded / every;
-    m_nextInterrupt = isRegular ? std::min(listed, rounds * every) : listed;
+    m_interrupts.pass();
 }
 
 bool SimRun::goesOn(const nsProc::SimOutcome& outcome)
@@ -296,29 +301,12 @@ bool SimRun::goesOn(const nsProc::SimOutcome& outcome)
 
 void SimRun::show(const nsProc::SimOutcome& outcome) const
 {
-    for (const nsProc::sSimReport_t& report : outcome.reports)
-        show(report);
+    showReports(&m_batch.msg(), *m_project.links, *m_engine, outcome);
 }
 
 void SimRun::show(const nsProc::sSimReport_t& report) const
 {
-    BatchMsg& msg = m_batch.msg();
-    switch (report.kind) {
-    case nsProc::sSimReport_t::eKindUnsupported:
-        nsModAsmFe::AsmFeMsgHndlr::showMsg(&msg, nsModAsmFe::errOcUnsupported, link(m_engine->programCounter()),
-                                           report.arg);
-        break;
-    case nsProc::sSimReport_t::eKindInternal:
-        msg.showErrorMessage(report.text(), QUrl(), {});
-        break;
-    case nsProc::sSimReport_t::eKindMessage: {
-        QUrl help("pageid://" + QLatin1String(m_project.processor->simHelpPage));
-        help.setFragment(report.key());
-        msg.showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
-                        link(m_engine->programCounter()));
-        break;
-    }
-    }
+    showReport(&m_batch.msg(), *m_project.links, *m_engine, report);
 }
 
 nsModMsg::MsgUrl SimRun::link(const Opcode* opcode) const

@@ -2,6 +2,7 @@
 
 #include "BatchFiles.h"
 #include "BatchProject.h"
+#include "InterruptNumbers.h"
 #include "ProcSimEngine.h"
 #include "ProcSimWaveRecorder.h"
 #include "SimDump.h"
@@ -63,7 +64,7 @@ private:
     SimOptions m_options;
     nsBatch::BatchProject& m_batch;
     SimProject m_project;
-    SimPortReads m_reads;
+    nsBatch::SimPortReads m_reads;
     std::unique_ptr<SimTrace> m_tracer; ///< null without a trace
     std::shared_ptr<nsProc::ProcSimWaveData> m_waves;
     std::unique_ptr<nsProc::ProcSimWaveRecorder> m_recorder; ///< null without waves
@@ -74,9 +75,9 @@ private:
     nsBatch::OutputFile m_vcd;
     nsBatch::OutputFile m_dump;
     SimEnd m_end;
+    QString m_wrongUsage; ///< of options that the project does not fit; empty if it fits
     qint64 m_instructions = 0;
-    qint64 m_nextInterrupt = SimOptions::unbounded; ///< number of the instruction
-    size_t m_interruptAt = 0;                       ///< index of the next one of the list
+    nsBatch::InterruptNumbers m_interrupts;
 };
 
 } // namespace nsNalvoSim

@@ -1,23 +1,25 @@
 #include "SimTrace.h"
 
 #include "BatchFiles.h"
-#include "Opcode.h"
 #include "ProcSimEngine.h"
+
+#include <QByteArray>
 
 #include <cstring>
 
 namespace nsNalvoSim {
 
-SimTrace::SimTrace(nsBatch::OutputFile* file, nsProc::ProcSimEngine* engine)
+SimTrace::SimTrace(nsBatch::OutputFile* file, nsProc::ProcSimEngine* engine, bool hasClocks)
     : m_file(file)
     , m_engine(engine)
     , m_lines(size_t(engine->program().count()))
     , m_text(pieceSize + reserve)
+    , m_hasClocks(hasClocks)
 {
     for (int position = 0; position < engine->program().count(); ++position) {
-        const nsModAsmFe::Opcode* opcode = engine->program().opcode(position);
+        const nsProc::ProcSimProgram& program = engine->program();
         sLine_t& target = m_lines[size_t(position)];
-        target.size = char(line(target.text, 'I', opcode->pageAddr, 3, opcode->instWord, 5));
+        target.size = char(line(target.text, 'I', program.address(position), 3, program.word(position), 5));
     }
 }
 
@@ -48,7 +50,7 @@ int SimTrace::line(char* text, char kind, int first, int firstDigits, int second
     return used;
 }
 
-void SimTrace::instruction(int position)
+void SimTrace::instruction(int position, qint64 clock)
 {
     if (m_used >= pieceSize)
         flush();
@@ -57,6 +59,18 @@ void SimTrace::instruction(int position)
     // All of it, as a copy of a fixed size is much quicker than one of the size of the text.
     std::memcpy(m_text.data() + m_used, source.text, sizeof(source.text));
     m_used += source.size;
+    if (m_hasClocks)
+        addClock(clock);
+}
+
+void SimTrace::addClock(qint64 clock)
+{
+    // In the place of the end of the line.
+    m_text[size_t(m_used - 1)] = ' ';
+    const QByteArray digits = QByteArray::number(clock);
+    std::memcpy(m_text.data() + m_used, digits.constData(), size_t(digits.size()));
+    m_used += digits.size();
+    m_text[size_t(m_used++)] = '\n';
 }
 
 void SimTrace::refused(int)
@@ -64,10 +78,11 @@ void SimTrace::refused(int)
     m_used = m_mark;
 }
 
-void SimTrace::interruptEntered()
+void SimTrace::line(const char* text)
 {
-    std::memcpy(m_text.data() + m_used, "INT\n", 4);
-    m_used += 4;
+    const size_t size = std::strlen(text);
+    std::memcpy(m_text.data() + m_used, text, size);
+    m_used += int(size);
 }
 
 void SimTrace::flush(int end)

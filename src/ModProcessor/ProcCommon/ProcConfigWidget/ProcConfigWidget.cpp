@@ -5,6 +5,7 @@
 
 #include "MyFieldTitle.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QLabel>
@@ -42,6 +43,7 @@ ProcConfigWidget::ProcConfigWidget(const ProcTable& table, QWidget* parent)
     }
     for (QGridLayout* grid : grids)
         grid->setRowStretch(grid->rowCount(), 1);
+    addSimPage();
     connect(m_tabs, &QTabWidget::currentChanged, this, &ProcConfigWidget::tabChanged);
 }
 
@@ -55,6 +57,83 @@ QGridLayout* ProcConfigWidget::addPage(const QString& title)
     grid->setColumnStretch(3, 1);
     m_tabs->addTab(page, title);
     return grid;
+}
+
+/// How a simulation is done.
+void ProcConfigWidget::addSimPage()
+{
+    QGridLayout* grid = addPage(tr("Simulation"));
+    const struct
+    {
+        const char* name;
+        QString text;
+        QString toolTip;
+        int ProcCoreConfig::*value;
+        int bit;
+    } options[] = {
+        {"exactSimulation", tr("Exactly as the core"),
+         tr("Simulate what the core in the FPGA does, also where it differs from what this simulator does else"),
+         &ProcCoreConfig::exactSimulation, 1},
+        {"stopAtStack", tr("Stop where the call stack overflows or is empty"),
+         tr("The core goes on there with another address, or resets itself"), &ProcCoreConfig::exactStops,
+         ProcCoreConfig::eStopAtStack},
+        {"stopAtScrpd", tr("Stop at addresses beyond the scratchpad"),
+         tr("The core takes the address modulo the size of its scratchpad"), &ProcCoreConfig::exactStops,
+         ProcCoreConfig::eStopAtScrpd},
+        {"stopAtEmpty", tr("Stop where the memory holds no instruction"), tr("The core executes the word 0 there"),
+         &ProcCoreConfig::exactStops, ProcCoreConfig::eStopAtEmpty},
+        {"coreWarnings", tr("Else warn where the core would do otherwise"),
+         tr("While the simulation is not exact, a warning comes at each instruction that the core would execute with "
+            "another outcome"),
+         &ProcCoreConfig::coreWarnings, 1},
+    };
+    for (const auto& option : options)
+        m_options.append({addOption(grid, option.name, option.text, option.toolTip), option.value, option.bit});
+    for (const sOption_t& option : qAsConst(m_options)) {
+        if (option.value != &ProcCoreConfig::exactStops)
+            continue;
+        option.box->setEnabled(false);
+        connect(m_options.first().box, &QCheckBox::toggled, option.box, &QCheckBox::setEnabled);
+    }
+    connect(m_options.first().box, &QCheckBox::toggled, m_options.last().box, &QCheckBox::setDisabled);
+    if (m_table.core.hasLongAddresses) {
+        addNumber(
+            grid, "addressBits", tr("Address bits of ports and scratchpad:"),
+            tr("Address lines that the core is built with; registers r13 to r15 are the upper bytes of an address "
+               "in a register"),
+            &ProcCoreConfig::addressBits, 8, 32);
+        addNumber(grid, "waitStates", tr("Wait states of ports:"),
+                  tr("Clock cycles that each access to a port waits for its device"), &ProcCoreConfig::waitStates, 0,
+                  255);
+    }
+    grid->setRowStretch(grid->rowCount(), 1);
+}
+
+void ProcConfigWidget::addNumber(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip,
+                                 int ProcCoreConfig::*value, int minimum, int maximum)
+{
+    auto* box = new QSpinBox(this);
+    box->setObjectName(QLatin1String(name));
+    box->setRange(minimum, maximum);
+    box->setAlignment(Qt::AlignRight);
+    box->setToolTip(toolTip);
+    auto* title = new MyFieldTitle(text, this);
+    title->setToolTip(toolTip);
+    title->setBuddy(box);
+    box->setAccessibleName(text);
+    const int row = grid->rowCount();
+    grid->addWidget(title, row, 0);
+    grid->addWidget(box, row, 1);
+    m_numbers.append({box, value});
+}
+
+QCheckBox* ProcConfigWidget::addOption(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip)
+{
+    auto* box = new QCheckBox(text, this);
+    box->setObjectName(QLatin1String(name));
+    box->setToolTip(toolTip);
+    grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount());
+    return box;
 }
 
 void ProcConfigWidget::addField(QGridLayout* grid, int row, const sProcSetting_t& field)
@@ -97,6 +176,10 @@ QWidget* ProcConfigWidget::createControl(const sProcSetting_t& field)
 
 void ProcConfigWidget::setConfig(const ProcCoreConfig* config)
 {
+    for (const sNumber_t& number : qAsConst(m_numbers))
+        number.box->setValue(config->*number.value);
+    for (const sOption_t& option : qAsConst(m_options))
+        option.box->setChecked((config->*option.value & option.bit) != 0);
     for (const sField_t& field : m_fields) {
         int ProcCoreConfig::*member = settingField(field.setting->setting).value;
         if (field.setting->control == sProcSetting_t::eControlFrequency) {
@@ -117,6 +200,12 @@ void ProcConfigWidget::setConfig(const ProcCoreConfig* config)
 
 void ProcConfigWidget::config(ProcCoreConfig* config) const
 {
+    for (const sNumber_t& number : m_numbers)
+        config->*number.value = number.box->value();
+    for (const sOption_t& option : m_options) {
+        int& value = config->*option.value;
+        value = option.box->isChecked() ? value | option.bit : value & ~option.bit;
+    }
     for (const sField_t& field : m_fields) {
         int ProcCoreConfig::*member = settingField(field.setting->setting).value;
         if (field.setting->control == sProcSetting_t::eControlFrequency) {

@@ -6,7 +6,9 @@
 #include <QVector>
 #include <QWidget>
 
+class QCheckBox;
 class QGridLayout;
+class QSpinBox;
 class QTabWidget;
 
 namespace nsProc {
@@ -45,6 +47,10 @@ private:
     QGridLayout* addPage(const QString& title);
     void addField(QGridLayout* grid, int row, const sProcSetting_t& field);
     QWidget* createControl(const sProcSetting_t& field);
+    void addSimPage();
+    void addNumber(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip,
+                   int ProcCoreConfig::*value, int minimum, int maximum);
+    QCheckBox* addOption(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip);
 
     struct sField_t
     {
@@ -54,7 +60,23 @@ private:
 
     const ProcTable& m_table;
     QVector<sField_t> m_fields; ///< in the order of the rows
+    /// An option of the simulation: a bit of a member.
+    struct sOption_t
+    {
+        QCheckBox* box;
+        int ProcCoreConfig::*value;
+        int bit;
+    };
+
     QTabWidget* m_tabs = nullptr;
+    QVector<sOption_t> m_options;
+    /// A number that the simulation needs.
+    struct sNumber_t
+    {
+        QSpinBox* box;
+        int ProcCoreConfig::*value;
+    };
+    QVector<sNumber_t> m_numbers;
 };
 
 } // namespace nsProc

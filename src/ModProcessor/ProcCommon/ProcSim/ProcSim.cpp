@@ -60,7 +60,7 @@ bool ProcSim::simInit(const ProcCoreConfig* config)
     m_watch.watch(modAsmFeHook->opcodeList());
     if (modGuiHook != nullptr)
         createWidgets();
-    if (!initIODevices() || !setProgramCounter(simStartPointer()))
+    if (!initIODevices() || !goToStart())
         return false;
     m_breakpointsTaken = false;
     setBreakpoints();
@@ -84,6 +84,8 @@ void ProcSim::createWidgets()
     m_widgets->callStack = new ProcSimCallStack(m_engine->callStack());
     m_widgets->io = new ProcSimIO(m_engine->ports());
     m_widgets->statusBar = new ProcSimStatusBar(m_engine->clock(), m_engine->config().clkFreq);
+    m_widgets->statusBar->setExact(m_engine->config().exactSimulation != 0);
+    connect(m_widgets->statusBar, &ProcSimStatusBar::interruptHeld, this, &ProcSim::holdInterrupt);
     m_widgets->lastBottom = m_widgets->callStack.data();
     // The waves must be updated at once: later, the clock count may have reached its old value again.
     connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);

@@ -97,6 +97,8 @@ public:
     bool setPcFromAddr(int addr);
     /// Sets or takes back a pending interrupt, if interrupts are enabled.
     void simInt();
+    /// Holds the interrupt input of an exact simulation up, or lets go of it.
+    void holdInterrupt(bool up);
     void setBase(eBase_t base);
     /// Takes the breakpoints of the editor over into the instructions.
     void setBreakpoints();
@@ -159,6 +161,7 @@ protected:
 private:
     // Life and widgets.
     bool initIODevices();
+    bool goToStart();
     void createWidgets();
     void addWidgets();
     void dropWidget(QWidget* widget);

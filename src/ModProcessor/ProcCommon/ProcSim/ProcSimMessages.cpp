@@ -2,6 +2,7 @@
 
 #include "ProcSim.h"
 
+#include "ProcSimEngine.h"
 #include "ProcSimOutcome.h"
 #include "ProcTable.h"
 
@@ -24,7 +25,7 @@ void ProcSim::show(const sSimReport_t& report)
 {
     // Updates the widgets first, as one of them may come to the front and would cover the message.
     updateWidgets();
-    const Opcode* opcode = programCounter();
+    const Opcode* opcode = report.isOfCore() ? m_engine->program().opcode(m_engine->begun()) : programCounter();
     if (report.kind == sSimReport_t::eKindUnsupported) {
         modAsmFeHook->msgHndlr()->signMsg(nsModAsmFe::errOcUnsupported, &opcode->srcRef, report.arg);
         return;

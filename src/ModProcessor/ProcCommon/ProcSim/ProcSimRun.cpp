@@ -4,7 +4,9 @@
 
 #include "ProcSimBoundedRun.h"
 #include "ProcSimCallStackData.h"
+#include "ProcSimClock.h"
 #include "ProcSimEngine.h"
+#include "ProcSimIntLine.h"
 #include "ProcSimResolvePageDialog.h"
 #include "ProcSimWidgets.h"
 
@@ -190,16 +192,18 @@ bool ProcSim::setPcFromAddr(int addr)
         signMsg(errNoOpcodeAssembled);
         return false;
     }
-    Opcode* target = m_engine->opcodeOfPage(addr, m_engine->page());
-    if (target == nullptr) {
-        signMsg(errNoOpcodeToExec);
+    SimOutcome outcome;
+    if (!m_engine->moveToAddr(addr, &outcome)) {
+        if (outcome.reports.empty())
+            signMsg(errNoOpcodeToExec);
+        else
+            show(outcome);
         return false;
     }
-    const bool success = setProgramCounter(target);
+    show(outcome);
     showHighlight();
-    if (success)
-        emit programCounterTyped();
-    return success;
+    emit programCounterTyped();
+    return true;
 }
 
 bool ProcSim::takeTypedPc()
@@ -230,7 +234,7 @@ void ProcSim::simRst()
         m_engine->dropProgramCounter();
         signMsg(errNoOpcodeAssembled);
     } else {
-        setProgramCounter(simStartPointer());
+        goToStart();
     }
     showHighlight();
 }
@@ -241,6 +245,27 @@ bool ProcSim::setProgramCounter(Opcode* opcode)
     const bool success = m_engine->setProgramCounter(opcode, &outcome);
     show(outcome);
     return success;
+}
+
+/// To the start mark of the editor, or else to where the processor starts.
+bool ProcSim::goToStart()
+{
+    Opcode* start = simStartPointer();
+    if (start != modAsmFeHook->opcodeList()->opcodeOfMemAddr(0))
+        return setProgramCounter(start);
+    SimOutcome outcome;
+    const bool success = m_engine->moveToStart(&outcome);
+    show(outcome);
+    return success;
+}
+
+void ProcSim::holdInterrupt(bool up)
+{
+    if (m_engine == nullptr || m_engine->intLine() == nullptr)
+        return;
+    m_engine->intLine()->hold(up, m_engine->clock()->clocks);
+    if (m_running == 0)
+        updateWidgets();
 }
 
 Opcode* ProcSim::programCounter() const

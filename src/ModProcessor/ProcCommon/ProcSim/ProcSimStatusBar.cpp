@@ -5,6 +5,7 @@
 #include "MyStatusBarTitle.h"
 #include "ProcSimClock.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -64,6 +65,16 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     m_state = addValue(QStringLiteral("procSimState"), stateWidth);
     m_state->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     m_state->setToolTip(tr("Whether the program is running"));
+    m_exact = new QLabel(tr("Exact"), this);
+    m_exact->setObjectName(QStringLiteral("procSimExact"));
+    m_exact->setToolTip(tr("The simulation does exactly what the core does"));
+    layout->addWidget(m_exact);
+    m_hold = new QCheckBox(tr("Hold interrupt"), this);
+    m_hold->setObjectName(QStringLiteral("procSimHoldInterrupt"));
+    m_hold->setToolTip(tr("Keep the interrupt input up; the interrupt button lifts it for one clock"));
+    layout->addWidget(m_hold);
+    connect(m_hold, &QCheckBox::toggled, this, &ProcSimStatusBar::interruptHeld);
+    setExact(false);
     layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
@@ -113,6 +124,12 @@ void ProcSimStatusBar::updateValues()
     // 0 clocks take no time, even if the time of one clock is infinite.
     m_time->setText(QStringLiteral("%1").arg(m_shown == 0 ? 0.0 : double(m_shown) * m_timeFactor));
     m_time->setToolTip(m_clkFreq > 0 ? readableTime(double(m_shown) / m_clkFreq) : tr("No clock frequency is set."));
+}
+
+void ProcSimStatusBar::setExact(bool isExact)
+{
+    m_exact->setVisible(isExact);
+    m_hold->setVisible(isExact);
 }
 
 void ProcSimStatusBar::setRunning(bool running)

@@ -4,6 +4,7 @@
 
 #include <memory>
 
+class QCheckBox;
 class QLabel;
 
 namespace nsProc {
@@ -27,6 +28,8 @@ public:
     void setBase(const QString& base);
     /// Shows whether a command that takes more than one instruction is in progress.
     void setRunning(bool running);
+    /// Shows that the simulation is exactly as the core, with a switch for its interrupt input.
+    void setExact(bool isExact);
     /// Shows what has changed in the clock.
     void refresh();
 
@@ -37,6 +40,8 @@ public slots:
 signals:
     /// The count has been set to 0.
     void cleared();
+    /// The interrupt input is held up, or no longer.
+    void interruptHeld(bool up);
 
 private:
     QLabel* addValue(const QString& name, int width);
@@ -45,6 +50,8 @@ private:
     double m_clkFreq;
     double m_timeFactor;
     QLabel* m_state;
+    QLabel* m_exact;
+    QCheckBox* m_hold;
     QLabel* m_base;
     QLabel* m_clocks;
     QLabel* m_time;

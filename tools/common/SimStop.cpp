@@ -7,7 +7,7 @@
 #include <poll.h>
 #include <unistd.h>
 
-namespace nsNalvoSim {
+namespace nsBatch {
 
 namespace {
 
@@ -26,18 +26,22 @@ void handleStop(int)
 
 } // namespace
 
-void catchStopSignal()
+void catchStopSignal(bool andTermination)
 {
-    struct sigaction present = {};
-    if (sigaction(SIGINT, nullptr, &present) != 0 || present.sa_handler == SIG_IGN)
-        return;
-    if (pipe2(stopPipe, O_CLOEXEC | O_NONBLOCK) != 0)
-        return;
-    struct sigaction action = {};
-    action.sa_handler = handleStop;
-    sigemptyset(&action.sa_mask);
-    action.sa_flags = int(SA_RESETHAND);
-    sigaction(SIGINT, &action, nullptr);
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+        struct sigaction present = {};
+        if (signal != SIGINT && !andTermination)
+            return;
+        if (sigaction(signal, nullptr, &present) != 0 || present.sa_handler == SIG_IGN)
+            continue;
+        if (stopPipe[1] < 0 && pipe2(stopPipe, O_CLOEXEC | O_NONBLOCK) != 0)
+            return;
+        struct sigaction action = {};
+        action.sa_handler = handleStop;
+        sigemptyset(&action.sa_mask);
+        action.sa_flags = int(SA_RESETHAND);
+        sigaction(signal, &action, nullptr);
+    }
 }
 
 bool isStopRequested()
@@ -58,4 +62,4 @@ bool waitForInput(int fd)
     return false;
 }
 
-} // namespace nsNalvoSim
+} // namespace nsBatch

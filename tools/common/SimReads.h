@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace nsNalvoSim {
+namespace nsBatch {
 
 /// A source of values for the reads of the program: a text with one hexadecimal byte a line. Blank lines and the text
 /// after `;` or `#` are ignored.
@@ -66,4 +66,4 @@ private:
     QString m_failure;
 };
 
-} // namespace nsNalvoSim
+} // namespace nsBatch

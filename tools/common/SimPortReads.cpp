@@ -1,8 +1,6 @@
 #include "SimPortReads.h"
 
-#include "SimTrace.h"
-
-namespace nsNalvoSim {
+namespace nsBatch {
 
 QString SimPortReads::open(const QString& file)
 {
@@ -28,10 +26,10 @@ bool SimPortReads::portSource(int addr, int* value, bool* handled)
     if (source == nullptr)
         return false;
     // The user or program that provides the value may want to see the trace first.
-    if (m_trace != nullptr && source->mayWait())
-        m_trace->flushExecuted();
+    if (m_beforeWait && source->mayWait())
+        m_beforeWait();
     m_result = source->next(value);
     return m_result == SimReads::resultValue;
 }
 
-} // namespace nsNalvoSim
+} // namespace nsBatch

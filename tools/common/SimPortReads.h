@@ -5,12 +5,11 @@
 
 #include <QString>
 
+#include <functional>
 #include <map>
 #include <memory>
 
-namespace nsNalvoSim {
-
-class SimTrace;
+namespace nsBatch {
 
 /// Supplies the values that the program reads from ports without a device.
 class SimPortReads : public nsProc::ProcSimObserver
@@ -20,8 +19,8 @@ public:
     /// @return why that failed, or an empty text
     QString open(const QString& file);
     QString openPort(int port, const QString& file);
-    /// @param trace is written before a wait for a value; null for none, not owned
-    void setTrace(SimTrace* trace) { m_trace = trace; }
+    /// @param prepare is called before a wait for a value
+    void setBeforeWait(const std::function<void()>& prepare) { m_beforeWait = prepare; }
 
     /// Result of the last read of a source.
     SimReads::eResult_t result() const { return m_result; }
@@ -33,11 +32,11 @@ public:
     bool portSource(int addr, int* value, bool* handled) override;
 
 private:
-    SimTrace* m_trace = nullptr;
+    std::function<void()> m_beforeWait;
     std::unique_ptr<SimReads> m_reads;
     std::map<int, std::unique_ptr<SimReads>> m_portReads;
     SimReads::eResult_t m_result = SimReads::resultValue;
     const SimReads* m_source = nullptr;
 };
 
-} // namespace nsNalvoSim
+} // namespace nsBatch

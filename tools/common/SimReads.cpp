@@ -15,7 +15,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace nsNalvoSim {
+namespace nsBatch {
 
 namespace {
 
@@ -24,7 +24,7 @@ const int wordMax = 4; ///< 0xFF
 
 QString tr(const char* text)
 {
-    return QCoreApplication::translate("nalvo-sim", text);
+    return QCoreApplication::translate("nsBatch", text);
 }
 
 QString systemError(int error)
@@ -141,4 +141,4 @@ SimReads::eResult_t SimReads::next(int* value)
     return resultValue;
 }
 
-} // namespace nsNalvoSim
+} // namespace nsBatch
