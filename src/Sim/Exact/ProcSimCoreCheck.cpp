@@ -10,7 +10,11 @@ using namespace nsModAsmFe;
 
 namespace {
 
-const int anyPlace = -1; ///< of a warning that is true of so many instructions that it comes once
+/// A warning that is true of so many instructions that it comes at the first of them alone.
+bool comesOnce(eSimMsg_t msg)
+{
+    return msg == warnCoreAccessClocks || msg == warnCoreEntryClocks;
+}
 
 } // namespace
 
@@ -109,11 +113,12 @@ void ProcSimCoreCheck::clear()
 
 void ProcSimCoreCheck::warn(eSimMsg_t msg, int position, SimOutcome* outcome)
 {
-    const quint64 place = (quint64(msg) << 32) + quint64(position);
+    const quint64 place = (quint64(msg) << 32) + (comesOnce(msg) ? 0 : quint64(position));
     if (m_reported.contains(place))
         return;
     m_reported.insert(place);
     outcome->report(msg);
+    outcome->reports.back().position = position;
 }
 
 int ProcSimCoreCheck::source(const sSimInstr_t& in) const
@@ -155,7 +160,7 @@ void ProcSimCoreCheck::beforeInstruction(const ProcSimProgram& program, int posi
     case ocRdmem:
     case ocWrmem:
         if (m_table.core.accessClocks != m_table.instrClkCntOf(m_config))
-            warn(warnCoreAccessClocks, anyPlace, outcome);
+            warn(warnCoreAccessClocks, position, outcome);
         return;
     default:
         return;

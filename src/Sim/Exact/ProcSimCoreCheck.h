@@ -28,6 +28,8 @@ public:
 
     /// Must the run loop leave the instruction to the step, so that it is looked at?
     bool looksAt(const sSimInstr_t& in) const;
+    /// The same for the next instruction, whichever it is: the first one, and one that a lost request came before.
+    bool looksAtNext() const { return !m_hasBegun || m_isRequestLost; }
     void beforeInstruction(const ProcSimProgram& program, int position, SimOutcome* outcome);
     /// @param position that the entry pre-empts
     void beforeEntry(const ProcSimProgram& program, int position, SimOutcome* outcome);

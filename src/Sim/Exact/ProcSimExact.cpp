@@ -155,6 +155,7 @@ bool ProcSimEngine::Exact::mayGoOn(eSimMsg_t msg, int stop, int position, SimOut
 {
     if ((m_engine.m_config.exactStops & stop) != 0) {
         outcome->report(msg, QString(), value);
+        outcome->reports.back().position = position;
         return false;
     }
     const quint64 place = (quint64(msg) << 32) + quint64(position);
@@ -163,6 +164,7 @@ bool ProcSimEngine::Exact::mayGoOn(eSimMsg_t msg, int stop, int position, SimOut
     m_reported.insert(place);
     outcome->report(msg, QString(), value);
     outcome->reports.back().coreGoesOn = true;
+    outcome->reports.back().position = position;
     return true;
 }
 
