@@ -84,8 +84,9 @@ private:
         QStringList messages;
         for (const QString& line : result.errLines()) {
             const QRegularExpressionMatch match = form.match(line);
-            // An interrupt vector without instruction is the assembler's affair.
-            if (match.captured(3) == "warnMissingInstrAtIntVectorAddr")
+            // What the assembler has to say is no affair of the simulation.
+            static const QStringList ofAssembler = {"warnMissingInstrAtIntVectorAddr", "warnSetOverwriteGuiSettings"};
+            if (ofAssembler.contains(match.captured(3)))
                 continue;
             if (match.hasMatch())
                 messages

@@ -270,10 +270,10 @@ bool ProcSimEngine::Exact::executeOne(SimOutcome* outcome)
     const int position = m_engine.m_pc;
     const qint64 start = m_engine.m_clock->clocks;
     const bool isEmpty = program().opcode(position) == nullptr;
-    m_engine.m_begun = position;
     // A gap is one place.
     if (isEmpty && !m_wasEmpty && !mayGoOn(errNoOpcodeToExec, ProcCoreConfig::eStopAtEmpty, position, outcome))
         return false;
+    m_engine.m_begun = position;
     for (ProcSimObserver* observer : m_engine.m_followers)
         observer->instruction(position, start);
     if (m_engine.m_isHalted)
