@@ -74,7 +74,7 @@ void ProcSimEngine::ensureDecoded()
     if (m_isDecoded || m_opcodes == nullptr)
         return;
     if (m_exact != nullptr)
-        m_program.decodeMemory(*m_opcodes, m_core->regCount(), m_exact->pageSize(), std::max(m_config.pageCount, 1));
+        m_exact->decode(*m_opcodes);
     else
         m_program.decode(*m_opcodes, m_core->regCount(), m_pageNames.size());
     if (m_check != nullptr) {
