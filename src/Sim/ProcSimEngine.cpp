@@ -74,11 +74,13 @@ void ProcSimEngine::ensureDecoded()
     if (m_isDecoded || m_opcodes == nullptr)
         return;
     if (m_exact != nullptr)
-        m_program.decodeMemory(*m_opcodes, m_core->regCount(), m_exact->pageSize(), std::max(m_config.pageCount, 1));
+        m_exact->decode(*m_opcodes);
     else
         m_program.decode(*m_opcodes, m_core->regCount(), m_pageNames.size());
-    if (m_check != nullptr)
+    if (m_check != nullptr) {
+        m_check->forgetPlaces();
         m_program.leaveToStep([this](const sSimInstr_t& in) { return m_check->looksAt(in); });
+    }
     m_isDecoded = true;
 }
 

@@ -78,6 +78,11 @@ public:
     nsModAsmFe::Opcode* programCounter() const { return m_program.opcode(m_pc); }
     /// Position of the instruction that the last step has begun, sSimInstr_t::none if it has not got as far.
     int begun() const { return m_begun; }
+    /// The instruction that a report of the last step or run is about; null where there is none.
+    const nsModAsmFe::Opcode* placeOf(const sSimReport_t& report) const
+    {
+        return m_program.opcode(report.position != sSimReport_t::atProgramCounter ? report.position : m_pc);
+    }
     /// Absolute source line of the next instruction, or of the last one that there was.
     int lineIndex() const { return m_lineIndex; }
     /// Range of the page that the program is in, or was in last.

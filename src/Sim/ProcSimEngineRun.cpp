@@ -4,6 +4,7 @@
 
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
+#include "ProcSimCoreCheck.h"
 #include "ProcSimCoreData.h"
 #include "ProcSimExact.h"
 #include "ProcSimInstr.h"
@@ -225,7 +226,8 @@ qint64 ProcSimEngine::run(qint64 count, int until, SimOutcome* outcome)
     if (m_exact != nullptr)
         return m_exact->run(count, until, outcome);
     while (executed < count) {
-        if (m_program.isPlaced() && m_pc != sSimInstr_t::none && m_core->interrupt() != eIntPending) {
+        const bool isLookedAt = m_check != nullptr && m_check->looksAtNext();
+        if (m_program.isPlaced() && m_pc != sSimInstr_t::none && m_core->interrupt() != eIntPending && !isLookedAt) {
             const qint64 fast =
                 m_followers.empty() ? loop<false>(count - executed, until) : loop<true>(count - executed, until);
             executed += fast;

@@ -114,7 +114,7 @@ public:
     bool writePort(int addr, int value);
     bool simOpcode_unsupported()
     {
-        m_outcome.reports.push_back({sSimReport_t::eKindUnsupported, errNoOpcodeToExec, m_opcode.name, 0, false});
+        m_outcome.reports.push_back({sSimReport_t::eKindUnsupported, errNoOpcodeToExec, m_opcode.name, 0});
         return false;
     }
 

@@ -35,7 +35,7 @@ constexpr sSimMsg_t simMsgs[] = {
     NALVO_MSG(errPcNoPrjFile, "The current file not part of the project."),
     NALVO_MSG(warnIODevNoPort, "The address of IO device %1 does not fit into 16 bits. It answers at no port."),
     NALVO_MSG(warnCoreStart, "The core starts elsewhere."),
-    NALVO_MSG(warnCoreRequestKept, "The core would keep the interrupt request that was lost here."),
+    NALVO_MSG(warnCoreRequestKept, "An interrupt request was lost here that the core can keep."),
     NALVO_MSG(warnCoreNoSecondLevel, "The core takes no second interrupt before the return from this one."),
     NALVO_MSG(warnCoreConstantWrite, "The core writes constants by a strobe of their own here."),
     NALVO_MSG(warnCoreAccessClocks, "The core takes another number of clock cycles here."),
@@ -49,6 +49,9 @@ constexpr sSimMsg_t simMsgs[] = {
     NALVO_MSG(warnCoreStaysEnabled, "The core leaves interrupts enabled here."),
     NALVO_MSG(warnCoreEntryFlags, "The core enters the interrupt with other flags here."),
     NALVO_MSG(warnCoreEntryClocks, "The core takes two clock cycles to enter the interrupt here."),
+    NALVO_MSG(warnCoreEntryBank, "The core enters the interrupt in the other register bank here."),
+    NALVO_MSG(warnCoreAddress, "The core takes another address here."),
+    NALVO_MSG(warnCoreStartZero, "The core still has the zero flag set from its start here."),
 };
 
 static_assert(isIndexedBy(simMsgs, &sSimMsg_t::type, eSimMsgCount), "the rows are indexed by eSimMsg_t");

@@ -37,6 +37,9 @@ enum eSimMsg_t {
     warnCoreStaysEnabled,
     warnCoreEntryFlags,
     warnCoreEntryClocks,
+    warnCoreEntryBank,
+    warnCoreAddress,
+    warnCoreStartZero,
     eSimMsgCount, ///< number of messages, not a message
 };
 

@@ -28,12 +28,12 @@ QString sSimReport_t::text() const
 
 void SimOutcome::report(eSimMsg_t msg, const QString& arg, int value)
 {
-    reports.push_back({sSimReport_t::eKindMessage, msg, arg, value, false});
+    reports.push_back({sSimReport_t::eKindMessage, msg, arg, value});
 }
 
 void SimOutcome::reportInternal(const QString& text)
 {
-    reports.push_back({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0, false});
+    reports.push_back({sSimReport_t::eKindInternal, errNoOpcodeToExec, text, 0});
 }
 
 } // namespace nsProc

@@ -23,11 +23,12 @@ struct sSimReport_t
     int value = 0; ///< of a message whose argument is empty
     /// The core goes on where the simulator would have stopped: the message of an error is a warning.
     bool coreGoesOn = false;
+    /// The position in the program that it is about; atProgramCounter where it says nothing of its own.
+    int position = atProgramCounter;
+    static constexpr int atProgramCounter = -1;
 
     /// The key of the message; "internal" for an internal error.
     QString key() const;
-    /// It is about what the core would do otherwise: the place is the instruction that was executed.
-    bool isOfCore() const { return kind == eKindMessage && (coreGoesOn || msg >= warnCoreStart); }
     /// What a person reads. Not for what is not supported: that has the text of the front end's message.
     QString text() const;
     bool isWarning() const { return kind == eKindMessage && (coreGoesOn || key().startsWith(QLatin1String("warn"))); }

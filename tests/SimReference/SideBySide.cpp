@@ -76,7 +76,7 @@ bool isExecuted(Outcome outcome)
 
 } // namespace
 
-SideBySide::SideBySide(Family family, const Program& program, const Build& build, bool isFollowed)
+SideBySide::SideBySide(Family family, const Program& program, const Build& build, bool isFollowed, bool warns)
     : m_family(family)
     , m_program(program)
     , m_isFollowed(isFollowed)
@@ -95,7 +95,9 @@ SideBySide::SideBySide(Family family, const Program& program, const Build& build
         return;
     }
     const auto* shell = dynamic_cast<nsProc::ProcShell*>(m_run.processor.currentProcessor());
-    m_sim = std::make_unique<nsProc::ProcSimEngine>(nsProc::procTable(processorName(family)), *shell->runConfig());
+    nsProc::ProcCoreConfig config = *shell->runConfig();
+    config.coreWarnings = int(warns);
+    m_sim = std::make_unique<nsProc::ProcSimEngine>(nsProc::procTable(processorName(family)), config);
     m_sim->load(m_run.asmFe.opcodeList());
     m_sim->addObserver(this);
     nsProc::SimOutcome outcome;
@@ -211,7 +213,8 @@ std::string SideBySide::stepQuickly()
 {
     m_writes.clear();
     m_readPorts.clear();
-    const nsProc::SimOutcome simulated = m_sim->step();
+    nsProc::SimOutcome simulated = m_sim->step();
+    takeWarnings(&simulated);
     m_outcome = m_model->step();
     return compareOutcome(simulated) + comparePorts(m_model->writes, m_model->readPorts) + compareState();
 }
@@ -222,7 +225,15 @@ std::string SideBySide::run(int count)
     m_readPorts.clear();
     m_executed.clear();
     nsProc::SimOutcome simulated;
-    const qint64 executed = m_sim->run(count, nsProc::sSimInstr_t::none, &simulated);
+    qint64 executed = 0;
+    // A warning ends a run, which goes on behind it.
+    for (size_t before = m_warnings.size() + 1; before != m_warnings.size() && executed < count;) {
+        before = m_warnings.size();
+        executed += m_sim->run(count - executed, nsProc::sSimInstr_t::none, &simulated);
+        takeWarnings(&simulated);
+        if (!simulated.wentOn() || !simulated.reports.empty() || m_sim->position() == nsProc::sSimInstr_t::none)
+            break;
+    }
     std::vector<NaiveProcessor::PortWrite> writes;
     std::vector<int> reads;
     std::vector<int> positions;
@@ -242,6 +253,19 @@ std::string SideBySide::run(int count)
     if (m_isFollowed && m_executed != positions)
         text << " other instructions were notified";
     return text.str() + compareOutcome(simulated) + comparePorts(writes, reads) + compareState() + compareTheRest();
+}
+
+/// The model knows no core, and no warnings about it.
+void SideBySide::takeWarnings(nsProc::SimOutcome* simulated)
+{
+    std::vector<nsProc::sSimReport_t> rest;
+    for (const nsProc::sSimReport_t& report : simulated->reports) {
+        if (report.kind == nsProc::sSimReport_t::eKindMessage && report.msg >= nsProc::warnCoreStart)
+            m_warnings.emplace_back(report.msg, report.position);
+        else
+            rest.push_back(report);
+    }
+    simulated->reports = rest;
 }
 
 std::string SideBySide::compareOutcome(const nsProc::SimOutcome& simulated)

@@ -10,6 +10,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 /// A simulator and the naive model on the same program, step by step.
@@ -18,7 +19,9 @@ class SideBySide : private nsProc::ProcSimObserver
 public:
     /// Assembles the program and starts both sides at address 0.
     /// @param isFollowed the simulator notifies each instruction
-    SideBySide(Family family, const Program& program, const Build& build = Build(), bool isFollowed = true);
+    /// @param warns the simulator warns where the core would do otherwise
+    SideBySide(Family family, const Program& program, const Build& build = Build(), bool isFollowed = true,
+               bool warns = false);
     ~SideBySide() override;
 
     /// Not empty: why the comparison can not start.
@@ -30,6 +33,8 @@ public:
     std::string stepQuickly();
     /// Up to so many instructions, which the simulator executes in its loop.
     std::string run(int count);
+    /// What the simulator has warned of: messages with the positions in the program.
+    const std::vector<std::pair<int, int>>& warnings() const { return m_warnings; }
     /// What the last step came to.
     Outcome outcome() const { return m_outcome; }
 
@@ -51,6 +56,7 @@ private:
     bool portSource(int addr, int* value, bool* handled) override;
 
     QStringList source();
+    void takeWarnings(nsProc::SimOutcome* simulated);
     std::string compareOutcome(const nsProc::SimOutcome& simulated);
     std::string comparePorts(const std::vector<NaiveProcessor::PortWrite>& writes, const std::vector<int>& reads) const;
     std::string compareState();
@@ -70,7 +76,8 @@ private:
     QHash<const nsModAsmFe::Opcode*, int> m_positions;
     std::vector<NaiveProcessor::PortWrite> m_writes; ///< the simulator's, of the last step
     std::vector<int> m_readPorts;                    ///< the simulator's, of the last step
-    std::vector<int> m_executed;                     ///< positions, the simulator's, of the last step
+    std::vector<std::pair<int, int>> m_warnings;
+    std::vector<int> m_executed; ///< positions, the simulator's, of the last step
     std::uint32_t m_reads = 0;
     Outcome m_outcome = Outcome::done;
     State m_before;

@@ -10,6 +10,9 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <string>
+#include <utility>
 
 namespace {
 
@@ -47,9 +50,9 @@ protected:
             both->clearCalls();
     }
 
-    void run(const Machine& machine, long long count)
+    void run(const Machine& machine, long long count, bool warns = false)
     {
-        SideBySide both(GetParam(), machine.program, machine.build);
+        SideBySide both(GetParam(), machine.program, machine.build, true, warns);
         ASSERT_EQ(both.problem(), "");
         for (long long i = 0; i < count; ++i) {
             if (i % instructionsOfStretch == 0 || both.model().pc < 0)
@@ -66,12 +69,13 @@ protected:
             if (both.model().pc == position)
                 both.goTo((position + 1) % machine.program.size());
         }
+        takeWarnings(both);
     }
 
     /// The same in the run loop, in stretches of any length.
-    void runLoop(const Machine& machine, long long count, bool isFollowed)
+    void runLoop(const Machine& machine, long long count, bool isFollowed, bool warns = false)
     {
-        SideBySide both(GetParam(), machine.program, machine.build, isFollowed);
+        SideBySide both(GetParam(), machine.program, machine.build, isFollowed, warns);
         ASSERT_EQ(both.problem(), "");
         for (long long i = 0; i < count; i += instructionsOfStretch) {
             shuffle(&both, machine);
@@ -90,6 +94,19 @@ protected:
                 if (both.outcome() != Outcome::done)
                     both.goTo(both.model().pc < 0 ? int(m_random() % unsigned(size)) : (both.model().pc + 1) % size);
             }
+        }
+        takeWarnings(both);
+    }
+
+    /// Each warning has come once for each place.
+    void takeWarnings(const SideBySide& both)
+    {
+        std::set<std::pair<int, int>> places;
+        for (const std::pair<int, int>& warning : both.warnings()) {
+            EXPECT_TRUE(places.insert(warning).second)
+                << "twice: " << nsProc::simMsg(warning.first)->key << " at position " << warning.second;
+            EXPECT_GE(warning.second, 0);
+            m_warnings.insert(nsProc::simMsg(warning.first)->key);
         }
     }
 
@@ -134,6 +151,7 @@ protected:
     QHash<QString, long long> m_executed;
     QHash<QString, long long> m_computed; ///< with a target that was found
     std::array<long long, outcomeCount> m_outcomes{};
+    std::set<std::string> m_warnings; ///< keys that have come
 };
 
 TEST_P(RandomPrograms, AgreeWithTheModel)
@@ -172,6 +190,32 @@ TEST_P(RandomPrograms, AgreeInTheRunLoop)
     }
     // A comparison of stretches that all end at once says nothing.
     EXPECT_TRUE(HasFatalFailure() || m_outcomes[size_t(Outcome::done)] > programs);
+}
+
+TEST_P(RandomPrograms, AreTheSameWithWarningsOfTheCore)
+{
+    const long long total = number("NALVO_SIM_INSTRUCTIONS", defaultInstructions) / 3;
+    const long long instructionsOfProgram = std::max<long long>(total / 12, 1);
+    for (unsigned program = 0; program < 12 && !HasFatalFailure(); ++program) {
+        m_random.seed(program * 15485863 + unsigned(GetParam()));
+        SCOPED_TRACE("program " + std::to_string(program));
+        const Machine machine = randomMachine(GetParam(), Layout(program / 4 % layoutCount), &m_random);
+        if (program % 2 == 0)
+            run(machine, instructionsOfProgram, true);
+        else
+            runLoop(machine, instructionsOfProgram, program % 4 == 1, true);
+    }
+    // A comparison without warnings says nothing.
+    std::set<std::string> wanted = {"warnCoreStart", "warnCoreRequestKept"};
+    if (GetParam() == Family::PicoBlaze3)
+        wanted.insert({"warnCoreReturnedFlags", "warnCoreEntryFlags", "warnCoreEntryClocks"});
+    else if (GetParam() == Family::PicoBlaze6)
+        wanted.insert({"warnCoreConstantWrite", "warnCoreReturnedBank", "warnCoreEntryBank", "warnCoreEntryClocks"});
+    else
+        wanted.insert({"warnCoreNoSecondLevel", "warnCoreAccessClocks", "warnCoreRotateSource", "warnCoreRotateCarry",
+                       "warnCoreStaysEnabled"});
+    for (const std::string& key : wanted)
+        EXPECT_EQ(m_warnings.count(key), 1U) << key;
 }
 
 INSTANTIATE_TEST_SUITE_P(Processors, RandomPrograms,

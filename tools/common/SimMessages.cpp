@@ -9,8 +9,6 @@
 
 #include <QUrl>
 
-#include <algorithm>
-
 namespace nsBatch {
 
 using nsModAsmFe::Opcode;
@@ -32,11 +30,8 @@ void showReport(BatchMsg* msg, const nsModAsmFe::AsmFeMsgHndlr& links, const nsP
     case nsProc::sSimReport_t::eKindMessage: {
         QUrl help("pageid://" + QLatin1String(engine.table().simHelpPage));
         help.setFragment(report.key());
-        // Where the core goes on, the program counter has left the place.
-        const Opcode* place =
-            report.isOfCore() ? engine.program().opcode(std::max(engine.begun(), 0)) : engine.programCounter();
         msg->showMessage(report.isWarning() ? ModMsgHookIf::eMsgWarning : ModMsgHookIf::eMsgError, report.text(), help,
-                         link(place));
+                         link(engine.placeOf(report)));
         break;
     }
     }

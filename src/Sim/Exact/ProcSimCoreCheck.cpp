@@ -4,13 +4,22 @@
 #include "ProcSimCoreData.h"
 #include "ProcSimInstr.h"
 
+#include <algorithm>
+
 namespace nsProc {
 
 using namespace nsModAsmFe;
 
 namespace {
 
-const int anyPlace = -1; ///< of a warning that is true of so many instructions that it comes once
+/// A warning that is true of so many instructions that it comes at the first of them alone.
+bool comesOnce(eSimMsg_t msg)
+{
+    return msg == warnCoreAccessClocks || msg == warnCoreEntryClocks;
+}
+
+const int slotClocks = 2;      ///< of an instruction on the core that accesses nothing
+const int longAddressReg = 12; ///< the register behind it has the bits 8 to 15 of an address
 
 } // namespace
 
@@ -40,7 +49,12 @@ public:
     bool carry() const { return m_carry; }
     bool zero() const { return m_zero; }
     void setCarry(bool value) { m_carry = value; }
-    void setZero(bool value) { m_zero = value; }
+    void setZero(bool value)
+    {
+        m_zero = value;
+        m_setsZero = true;
+    }
+    bool setsZero() const { return m_setsZero; }
     void setBank(int) const {}
     void setInterrupt(eInt_t) const {}
     bool goTo(int) const { return true; }
@@ -61,6 +75,7 @@ private:
     const ProcSimCoreData& m_core;
     bool m_carry;
     bool m_zero;
+    bool m_setsZero = false;
 };
 
 ProcSimCoreCheck::ProcSimCoreCheck(const ProcTable& table, const ProcCoreConfig& config, const ProcSimCoreData& core,
@@ -70,6 +85,7 @@ ProcSimCoreCheck::ProcSimCoreCheck(const ProcTable& table, const ProcCoreConfig&
     , m_core(core)
     , m_stack(stack)
     , m_banks(size_t(stack.capacity()) + 1)
+    , m_isStartZero(table.core.startZero)
 {
 }
 
@@ -91,7 +107,7 @@ bool ProcSimCoreCheck::looksAt(const sSimInstr_t& in) const
         return m_table.core.rotatesSource;
     case ocRdmem:
     case ocWrmem:
-        return m_table.core.accessClocks != m_table.instrClkCnt;
+        return m_table.core.hasLongAddresses;
     default:
         return false;
     }
@@ -102,6 +118,8 @@ void ProcSimCoreCheck::clear()
     m_copyCarry = false;
     m_copyZero = false;
     m_isInRoutine = false;
+    m_isEnabled = false;
+    m_isStartZero = m_table.core.startZero;
     m_hasBegun = false;
     m_isRequestLost = false;
     m_reported.clear();
@@ -109,16 +127,30 @@ void ProcSimCoreCheck::clear()
 
 void ProcSimCoreCheck::warn(eSimMsg_t msg, int position, SimOutcome* outcome)
 {
-    const quint64 place = (quint64(msg) << 32) + quint64(position);
+    const quint64 place = (quint64(msg) << 32) + (comesOnce(msg) ? 0 : quint64(position));
     if (m_reported.contains(place))
         return;
     m_reported.insert(place);
     outcome->report(msg);
+    outcome->reports.back().position = position;
 }
 
 int ProcSimCoreCheck::source(const sSimInstr_t& in) const
 {
     return in.mode == sSimInstr_t::byRegister ? m_core.regValue(m_core.bank(), in.src) : in.value;
+}
+
+bool ProcSimCoreCheck::isTaken(const sSimInstr_t& in) const
+{
+    return ((in.mode >> (m_core.carryBit() + 2 * m_core.zeroBit())) & 1) != 0;
+}
+
+int ProcSimCoreCheck::coreClocks(int opcode) const
+{
+    const bool isPort = opcode == ocRdprt || opcode == ocWrprt;
+    if (!isPort && opcode != ocRdmem && opcode != ocWrmem)
+        return slotClocks;
+    return m_table.core.accessClocks + (isPort && m_table.core.hasLongAddresses ? m_config.waitStates : 0);
 }
 
 void ProcSimCoreCheck::beforeInstruction(const ProcSimProgram& program, int position, SimOutcome* outcome)
@@ -130,6 +162,13 @@ void ProcSimCoreCheck::beforeInstruction(const ProcSimProgram& program, int posi
     if (m_isRequestLost)
         warn(warnCoreRequestKept, position, outcome);
     m_isRequestLost = false;
+    // What the arguments can not be is reported when it is executed.
+    if (program.fault(position) != nullptr)
+        return;
+    if (m_isStartZero)
+        checkStartZero(position, in, outcome);
+    if (coreClocks(in.opcode()) != m_table.instrClkCntOf(m_config))
+        warn(warnCoreAccessClocks, position, outcome);
     switch (in.opcode()) {
     case ocSubc:
     case ocCompc:
@@ -140,26 +179,56 @@ void ProcSimCoreCheck::beforeInstruction(const ProcSimProgram& program, int posi
     case ocRorc:
         return checkRotate(position, in, program.word(position), outcome);
     case ocCall:
-        return checkCall(position, outcome);
+        if (isTaken(in))
+            checkPush(position, outcome);
+        return;
     case ocReti:
         return checkReturn(position, in, outcome);
     case ocInt:
-        if (m_table.core.latchesRequests && m_isInRoutine && in.value != 0)
+        m_isEnabled = in.value != 0;
+        if (m_table.core.latchesRequests && m_isInRoutine && m_isEnabled)
             warn(warnCoreNoSecondLevel, position, outcome);
         return;
-    case ocWrprt:
-        if (in.mode == sSimInstr_t::constantPort && m_table.core.constantWriteHasLines)
-            warn(warnCoreConstantWrite, position, outcome);
-        Q_FALLTHROUGH();
     case ocRdprt:
+    case ocWrprt:
     case ocRdmem:
     case ocWrmem:
-        if (m_table.core.accessClocks != m_table.instrClkCntOf(m_config))
-            warn(warnCoreAccessClocks, anyPlace, outcome);
-        return;
+        return checkAccess(position, in, program.word(position), outcome);
     default:
         return;
     }
+}
+
+void ProcSimCoreCheck::checkStartZero(int position, const sSimInstr_t& in, SimOutcome* outcome)
+{
+    const bool isFlow = in.opcode() == ocJump || in.opcode() == ocCall;
+    if (isFlow && (in.mode == sSimInstr_t::ifZero || in.mode == sSimInstr_t::ifNotZero))
+        warn(warnCoreStartZero, position, outcome);
+    Flags flags(m_table, m_core);
+    ProcSimInstr<Flags>::execute(flags, in.opcode(), in);
+    m_isStartZero = !flags.setsZero();
+}
+
+void ProcSimCoreCheck::checkAccess(int position, const sSimInstr_t& in, int word, SimOutcome* outcome)
+{
+    if (in.mode == sSimInstr_t::constantPort && m_table.core.constantWriteHasLines)
+        warn(warnCoreConstantWrite, position, outcome);
+    if (!m_table.core.hasLongAddresses)
+        return;
+    bool differs = false;
+    if (in.mode == sSimInstr_t::byRegister) {
+        for (int bit = 8; bit < m_config.addressBits; bit += 8) {
+            const int bits = std::min(m_config.addressBits - bit, 8);
+            const int upper = m_core.regValue(m_core.bank(), longAddressReg + bit / 8);
+            differs = differs || (upper & ((1 << bits) - 1)) != 0;
+        }
+    } else {
+        // A number of the source that its field in the word can not hold.
+        const int mask = (1 << m_table.layout.portBits) - 1;
+        differs = ((word >> m_table.layout.addrShift) & mask) != in.value;
+    }
+    if (differs)
+        warn(warnCoreAddress, position, outcome);
 }
 
 void ProcSimCoreCheck::checkArithmetic(int position, const sSimInstr_t& in, SimOutcome* outcome)
@@ -183,7 +252,7 @@ void ProcSimCoreCheck::checkRotate(int position, const sSimInstr_t& in, int word
         warn(warnCoreRotateCarry, position, outcome);
 }
 
-void ProcSimCoreCheck::checkCall(int position, SimOutcome* outcome)
+void ProcSimCoreCheck::checkPush(int position, SimOutcome* outcome)
 {
     const int depth = m_stack.count();
     m_banks[size_t(depth)] = m_core.bank();
@@ -201,23 +270,32 @@ void ProcSimCoreCheck::checkReturn(int position, const sSimInstr_t& in, SimOutco
         warn(warnCoreReturnedFlags, position, outcome);
     if (m_core.bankCount() > 1 && m_banks[size_t(m_stack.count() - 1)] != m_core.bank())
         warn(warnCoreReturnedBank, position, outcome);
-    if (m_table.core.latchesRequests && in.value == 0)
+    if (m_table.core.latchesRequests && m_isEnabled && in.value == 0)
         warn(warnCoreStaysEnabled, position, outcome);
+}
+
+int ProcSimCoreCheck::bankOfEntry(const sSimInstr_t& in) const
+{
+    if (in.opcode() == ocRegbank)
+        return in.value;
+    if (in.opcode() == ocReti && m_stack.count() > 0)
+        return m_banks[size_t(m_stack.count() - 1)];
+    return m_core.bank();
 }
 
 void ProcSimCoreCheck::beforeEntry(const ProcSimProgram& program, int position, SimOutcome* outcome)
 {
     const sSimInstr_t& in = program.instr(position);
     Flags flags(m_table, m_core);
-    if (m_table.core.entryKeepsNewFlags && ProcSimInstr<Flags>::execute(flags, in.opcode(), in) &&
+    if (m_table.core.entryKeepsNewFlags && program.fault(position) == nullptr &&
+        ProcSimInstr<Flags>::execute(flags, in.opcode(), in) &&
         (flags.carry() != (m_core.carryBit() != 0) || flags.zero() != (m_core.zeroBit() != 0)))
         warn(warnCoreEntryFlags, position, outcome);
     if (!m_table.core.latchesRequests)
         warn(warnCoreEntryClocks, position, outcome);
-    const int depth = m_stack.count();
-    m_banks[size_t(depth)] = m_core.bank();
-    if (depth >= m_table.core.stackCells && depth < m_stack.capacity())
-        warn(m_table.core.stack == sCoreTraits_t::eStackResets ? warnCoreReset : warnCoreStackWraps, position, outcome);
+    if (m_core.bankCount() > 1 && bankOfEntry(in) != m_core.bank())
+        warn(warnCoreEntryBank, position, outcome);
+    checkPush(position, outcome);
     m_copyCarry = m_core.carryBit() != 0;
     m_copyZero = m_core.zeroBit() != 0;
     m_isInRoutine = true;

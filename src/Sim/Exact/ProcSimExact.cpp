@@ -16,12 +16,27 @@ using namespace nsModAsmFe;
 
 ProcSimEngine::Exact::Exact(ProcSimEngine* engine)
     : m_engine(*engine)
-    , m_pageSize(std::max(engine->m_config.pageSize, 1))
 {
-    if (m_engine.m_config.pageCount <= 1)
-        m_pageSize = std::max(m_pageSize, traits().memorySize);
     m_engine.m_core->editZeroBit(traits().startZero);
     showInterrupt();
+}
+
+void ProcSimEngine::Exact::decode(const OpcodeList& opcodes)
+{
+    const int pageCount = std::max(m_engine.m_config.pageCount, 1);
+    m_pageSize = std::max(m_engine.m_config.pageSize, pageCount > 1 ? 1 : traits().memorySize);
+    m_engine.m_program.decodeMemory(opcodes, m_engine.m_core->regCount(), m_pageSize, pageCount);
+    // A memory that has become smaller has the addresses of its first page left.
+    const auto take = [this](int* position) {
+        *position = *position < program().count() ? *position : *position % m_pageSize;
+    };
+    for (sCell_t& cell : m_cells) {
+        take(&cell.position);
+        take(&cell.caller);
+    }
+    m_engine.m_lastPage = std::min(m_engine.m_lastPage, pageCount);
+    m_wasEmpty = false;
+    m_reported.clear();
 }
 
 int ProcSimEngine::Exact::stackLimit() const
@@ -47,7 +62,10 @@ void ProcSimEngine::Exact::reset()
     m_wasEmpty = false;
     m_clock = m_engine.m_clock->clocks;
     m_seen = m_clock;
+    // The switch stays where it is.
+    const bool isHeld = m_line.isHeld();
     m_line.clear();
+    m_line.hold(isHeld, m_clock);
     m_reported.clear();
     showState();
 }
@@ -155,6 +173,7 @@ bool ProcSimEngine::Exact::mayGoOn(eSimMsg_t msg, int stop, int position, SimOut
 {
     if ((m_engine.m_config.exactStops & stop) != 0) {
         outcome->report(msg, QString(), value);
+        outcome->reports.back().position = position;
         return false;
     }
     const quint64 place = (quint64(msg) << 32) + quint64(position);
@@ -163,6 +182,7 @@ bool ProcSimEngine::Exact::mayGoOn(eSimMsg_t msg, int stop, int position, SimOut
     m_reported.insert(place);
     outcome->report(msg, QString(), value);
     outcome->reports.back().coreGoesOn = true;
+    outcome->reports.back().position = position;
     return true;
 }
 
@@ -268,10 +288,10 @@ bool ProcSimEngine::Exact::executeOne(SimOutcome* outcome)
     const int position = m_engine.m_pc;
     const qint64 start = m_engine.m_clock->clocks;
     const bool isEmpty = program().opcode(position) == nullptr;
-    m_engine.m_begun = position;
     // A gap is one place.
     if (isEmpty && !m_wasEmpty && !mayGoOn(errNoOpcodeToExec, ProcCoreConfig::eStopAtEmpty, position, outcome))
         return false;
+    m_engine.m_begun = position;
     for (ProcSimObserver* observer : m_engine.m_followers)
         observer->instruction(position, start);
     if (m_engine.m_isHalted)

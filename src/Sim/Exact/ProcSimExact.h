@@ -23,6 +23,8 @@ public:
     /// @param engine whose state this works on; not owned
     explicit Exact(ProcSimEngine* engine);
 
+    /// Decodes the words of the memory, in the place of those before. The stack stays.
+    void decode(const nsModAsmFe::OpcodeList& opcodes);
     /// Words of a page.
     int pageSize() const { return m_pageSize; }
     /// Its times are those of the clock count.
@@ -100,7 +102,7 @@ private:
     void showState();
 
     ProcSimEngine& m_engine;
-    int m_pageSize;
+    int m_pageSize = 1;
     ProcSimIntLine m_line;
     sCell_t m_cells[maxCells];
     int m_pointer = 0;

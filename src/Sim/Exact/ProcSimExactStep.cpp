@@ -186,8 +186,8 @@ bool ProcSimEngine::Exact::Step::writePort(int addr, int value)
 
 bool ProcSimEngine::Exact::Step::simOpcode_unsupported()
 {
-    m_outcome.reports.push_back({sSimReport_t::eKindUnsupported, errNoOpcodeToExec,
-                                 m_opcode != nullptr ? m_opcode->name : QString(), 0, false});
+    m_outcome.reports.push_back(
+        {sSimReport_t::eKindUnsupported, errNoOpcodeToExec, m_opcode != nullptr ? m_opcode->name : QString(), 0});
     return false;
 }
 

@@ -21,6 +21,12 @@ void ProcSimWaveRecorder::portWritten(int addr, int value)
     addValue(addr, ProcSimWaveData::eAccessWr, value);
 }
 
+void ProcSimWaveRecorder::constantWritten(int lines, int value)
+{
+    // The upper lines show a part of the constant.
+    portWritten(lines & 0xF, value);
+}
+
 void ProcSimWaveRecorder::addValue(int addr, ProcSimWaveData::eAccessType_t access, int value)
 {
     if (m_nameOf && m_data->channel(addr, access) == nullptr)

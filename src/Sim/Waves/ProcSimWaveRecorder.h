@@ -28,6 +28,7 @@ public:
     bool followsInstructions() const override { return false; }
     void portRead(int addr, int value) override;
     void portWritten(int addr, int value) override;
+    void constantWritten(int lines, int value) override;
 
 private:
     void addValue(int addr, ProcSimWaveData::eAccessType_t access, int value);

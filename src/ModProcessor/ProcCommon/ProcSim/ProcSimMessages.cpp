@@ -25,7 +25,7 @@ void ProcSim::show(const sSimReport_t& report)
 {
     // Updates the widgets first, as one of them may come to the front and would cover the message.
     updateWidgets();
-    const Opcode* opcode = report.isOfCore() ? m_engine->program().opcode(m_engine->begun()) : programCounter();
+    const Opcode* opcode = m_engine->placeOf(report);
     if (report.kind == sSimReport_t::eKindUnsupported) {
         modAsmFeHook->msgHndlr()->signMsg(nsModAsmFe::errOcUnsupported, &opcode->srcRef, report.arg);
         return;
