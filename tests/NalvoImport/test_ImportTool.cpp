@@ -238,6 +238,25 @@ TEST_F(ImportTool, TheTimeOfALogIsTakenOver)
     EXPECT_EQ(assembled("a/p.nalvo"), "01001\n2B011\n");
 }
 
+TEST_F(ImportTool, TheMemoryIsAsLargeAsThatOfTheImage)
+{
+    const auto pageSize = [&](const QByteArray& depth, const QByteArray& text) {
+        write("p.mif",
+              "WIDTH=18; DEPTH=" + depth + "; ADDRESS_RADIX=HEX; DATA_RADIX=HEX;\nCONTENT BEGIN\n0: 22000;\nEND;\n");
+        write("p.psm", text);
+        run({"-d", "kcpsm6", "--force", "--reference", "p.mif", "p.psm"});
+        const QByteArray project = read("p/p.nalvo");
+        const int start = project.indexOf("<pageSize>") + 10;
+        return project.mid(start, project.indexOf('<', start) - start).toInt();
+    };
+    EXPECT_EQ(pageSize("4096", "JUMP 000\n"), 4096);
+    EXPECT_EQ(pageSize("2048", "JUMP 000\n"), 2048);
+    EXPECT_EQ(pageSize("256", "JUMP 000\n"), 1024);
+    // What the program needs counts, too.
+    EXPECT_EQ(pageSize("256", "JUMP 000\nADDRESS 7FF\nJUMP 000\n"), 2048);
+    EXPECT_EQ(pageSize("2048", "JUMP 800\n"), 4096);
+}
+
 TEST_F(ImportTool, MakesSourcesOfAnImage)
 {
     write("p.hex", "2C001\n34000\n");

@@ -41,6 +41,13 @@ int ForeignScanner::afterQuoted(const QString& text, int pos, bool apostrophes)
 
 void ForeignScanner::scan(ForeignStatement* statement)
 {
+    if (m_ended) {
+        const bool isEmpty = statement->text.trimmed().isEmpty();
+        statement->commentPos = isEmpty ? -1 : 0;
+        statement->comment = isEmpty ? QString() : ' ' + statement->text;
+        dropBlanksAtEnd(&statement->comment);
+        return;
+    }
     cutComments(statement);
     int pos = 0;
     cutLabels(statement, &pos);

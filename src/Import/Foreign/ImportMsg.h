@@ -15,6 +15,7 @@ enum eImportMsg_t {
     errImpNotAFile,
     errImpTooLarge,
     errImpTooManyFiles,
+    errImpTooManyLines,
     errImpBinary,
     errImpLineTooLong,
     errImpIncludeMissing,
@@ -37,6 +38,8 @@ enum eImportMsg_t {
     warnImpNameIsNumber,
     infoImpNameCase,
     errImpDuplicateName,
+    errImpAmbiguousName,
+    errImpAmbiguousOrder,
     errImpCircle,
     errImpNumber,
     errImpTooLargeNumber,
@@ -50,6 +53,7 @@ enum eImportMsg_t {
     infoImpTargetMade,
     infoImpStartFilled,
     infoImpReordered,
+    infoImpAfterEnd,
     infoImpUnusedFilled,
     infoImpIntVector,
     infoImpNumberForName,
@@ -78,6 +82,9 @@ struct sImportMsg_t
 
 /// The row of a message; null for a value outside of the catalogue.
 const sImportMsg_t* importMsg(int type);
+
+/// Is it an error?
+bool isImportError(eImportMsg_t type);
 
 /// A message with its place.
 struct ImportMessage
