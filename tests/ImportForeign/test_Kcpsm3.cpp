@@ -58,6 +58,7 @@ TEST_F(Kcpsm3, NamesThatStandForTwoThings)
     refused3("CONSTANT x, 1\nNAMEREG s3, x\nLOAD s0, x\n", "errImpDuplicateName", 2);
     refused3("NAMEREG s3, x\nLOAD s0, x\nCONSTANT x, 1\n", "errImpDuplicateName", 1);
     refused3("CONSTANT ~x, 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    refused3("CONSTANT % x, 1\nLOAD s0, 1\n", "errImpSyntax", 1);
     refused3("CONSTANT , 1\nLOAD s0, 1\n", "errImpSyntax", 1);
     // A target and a value stand at different places.
     words3("CONSTANT x, 1\nx: LOAD s0, x\nJUMP x\n", "00001 34000");

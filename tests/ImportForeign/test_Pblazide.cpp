@@ -45,6 +45,7 @@ TEST_F(Pblazide, NamesThatStandForTwoThings)
     refusedP("x EQU 1\nx: JUMP x\n", "errImpDuplicateName", 2);
     refusedP("x DSIN s1\nIN s0, x\n", "errImpExpectValue", 1);
     refusedP("a-b EQU 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    refusedP("LOAD = s1\nRET\n", "errImpOperandCount", 1);
     refusedP("$ EQU 1\nLOAD s0, 1\n", "errImpSyntax", 1);
     EXPECT_TRUE(source().contains("NO_COUNTERPART ; $ EQU 1")) << source().toStdString();
 }

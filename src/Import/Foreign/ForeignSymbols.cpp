@@ -204,7 +204,7 @@ int ForeignSymbols::add(ForeignSymbol::eKind_t kind, const QString& name, int st
 void ForeignSymbols::checkName(const QString& name)
 {
     const auto isAllowed = [&](QChar c) {
-        return m_dialect.expressions ? ForeignExpression::isWordCharacter(c) : c != '~' && c != '\'' && c != '"';
+        return ForeignExpression::isWordCharacter(c) || (c == '#' && !m_dialect.expressions);
     };
     const bool ok = !name.isEmpty() && std::all_of(name.cbegin(), name.cend(), isAllowed);
     if (!ok || name == QLatin1String("$") || name == QLatin1String("."))

@@ -69,6 +69,7 @@ constexpr sForeignWord_t words[] = {
     {"LSP", opInstruction, ocRdmem, frmPortDirect},
     {"LSPI", opInstruction, ocRdmem, frmPortIndirect},
     {"EQU", opEquate},
+    {"=", opEquate},
     {"REG", opEquate, ocUndefined, frmReg},
     {".EQU", opSetConstant},
     {".SET", opSetConstant},
