@@ -205,9 +205,20 @@ TEST_F(ImportHostile, WhatIsNoFile)
 TEST_F(ImportHostile, ManyErrorsAreBounded)
 {
     EXPECT_FALSE(import(Dialect::eKcpsm6, QByteArray("FOO s0, 1\n").repeated(3500)));
-    EXPECT_EQ(m_import->messages().all().size(), ImportMessages::maxMessages + 1);
+    EXPECT_EQ(m_import->messages().all().size(),
+              ImportMessages::maxMessages + 2); // the dialect, and that there are more
     EXPECT_TRUE(has("errImpTooManyMessages"));
     EXPECT_EQ(m_import->messages().errors(), 3500);
+    // Notes do not hide an error, and are none.
+    QByteArray text;
+    for (int i = 0; i < 3000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += "CONSTANT Name_" + number + ", 1\nCONSTANT name_" + number + ", 1\n";
+    }
+    EXPECT_TRUE(import(Dialect::eKcpsm6, text + "LOAD s0, 1\n")) << messages().right(500).toStdString();
+    EXPECT_TRUE(has("infoImpTooManyNotes"));
+    EXPECT_EQ(m_import->messages().all().size(), ImportMessages::maxMessages + 1);
+    expectRefused(Dialect::eKcpsm6, text + "LOAD s0, 1\nFOO\n", "errImpUnknownWord", 6002);
 }
 
 TEST_F(ImportHostile, EmptyFiles)

@@ -70,7 +70,7 @@ TEST_F(ImportMessagesTest, everyMessageIsProvokedOrNamed)
     for (const char* key :
          {"errImpCannotRead", "errImpNotAFile", "errImpTooLarge", "errImpTooManyFiles", "errImpTooManyLines",
           "errImpBinary", "errImpLineTooLong", "errImpIncludeDepth", "infoImpIncludeCase", "errImpDialectUnknown",
-          "errImpTooManyWords", "infoImpStamp", "errImpTooManyMessages"})
+          "errImpTooManyWords", "infoImpStamp", "errImpTooManyMessages", "infoImpTooManyNotes"})
         provoked.insert(key);
     // In tests/NalvoImport.
     for (const char* key : {"infoImpDialectGuessed", "errImpCannotWrite", "errImpExists", "errImpOriginal",

@@ -77,7 +77,8 @@ constexpr sImportMsg_t messages[] = {
     NALVO_MSG(warnImpNoReference, "Not proved: there is no image of the old tool to compare with (--reference)."),
     NALVO_MSG(errImpNoInstruction, "Address %1: the word %2 is no instruction, %3."),
     NALVO_MSG(errImpRescue, "No sources can be made of \"%1\": %2"),
-    NALVO_MSG(errImpTooManyMessages, "More than %1 messages: the others are not shown."),
+    NALVO_MSG(errImpTooManyMessages, "More than %1 errors: the others are not shown."),
+    NALVO_MSG(infoImpTooManyNotes, "More than %1 notes and warnings: the others are not shown."),
 };
 
 static_assert(isIndexedBy(messages, &sImportMsg_t::type, eImportMsgCount), "the rows are indexed by eImportMsg_t");
@@ -110,13 +111,15 @@ QString ImportMessage::key() const
 
 void ImportMessages::add(eImportMsg_t type, const QStringList& arguments, const QString& file, int line)
 {
-    m_errors += int(isImportError(type));
+    // Notes leave room for errors.
+    const bool isError = isImportError(type);
+    const int number = ++(isError ? m_errors : m_others);
     ++m_counts[type];
-    if (m_all.size() > maxMessages)
+    if (number > maxMessages + 1)
         return;
-    const bool last = m_all.size() == maxMessages;
+    const bool last = number > maxMessages;
     ImportMessage message;
-    message.type = last ? errImpTooManyMessages : type;
+    message.type = !last ? type : isError ? errImpTooManyMessages : infoImpTooManyNotes;
     QString text = QCoreApplication::translate("nsImport::ImportMessages", messages[message.type].text);
     // In one go, so that a %1 in an argument is no place.
     const QStringList shown = last ? QStringList(QString::number(maxMessages)) : arguments;

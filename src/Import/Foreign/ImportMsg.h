@@ -69,6 +69,7 @@ enum eImportMsg_t {
     errImpNoInstruction,
     errImpRescue,
     errImpTooManyMessages,
+    infoImpTooManyNotes,
     eImportMsgCount, ///< number of messages, not a message
 };
 
@@ -103,7 +104,7 @@ struct ImportMessage
 class ImportMessages
 {
 public:
-    static constexpr int maxMessages = 2000;
+    static constexpr int maxMessages = 2000; ///< errors, and as many others
 
     /// @param line counted from 1; 0 if there is none
     void add(eImportMsg_t type, const QStringList& arguments, const QString& file = QString(), int line = 0);
@@ -116,6 +117,7 @@ private:
     QVector<ImportMessage> m_all;
     QHash<int, int> m_counts;
     int m_errors = 0;
+    int m_others = 0;
 };
 
 } // namespace nsImport
