@@ -90,6 +90,34 @@ TEST_F(ImportHostile, LongChains)
     }
 }
 
+TEST_F(ImportHostile, ManyDefinitionsOfOneName)
+{
+    // Each ends after a time that grows with the number of lines, not with its square.
+    const int count = 50000;
+    expectRefused(Dialect::eKcpsm6, "LOAD s0, 1\n" + QByteArray("a:\n").repeated(count), "errImpDuplicateName", 3);
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+        text += "CONSTANT a, 1\nCONSTANT n" + QByteArray::number(i) + ", a\n";
+    expectRefused(Dialect::eKcpsm6, "LOAD s0, 1\n" + text, "errImpDuplicateName", 4);
+    expectWords(Dialect::eMico8, QByteArray("1:\n").repeated(count) + "b 1b\n" + QByteArray("1:\n").repeated(count),
+                "3B000");
+    expectWords(Dialect::eMico8, ".set a, 0\n" + QByteArray(".set a, a + 1\n").repeated(200) + "movi r1, a\n", "121C8");
+    text = "x reg r1\n";
+    for (int i = 0; i < count; ++i)
+        text = text + "x reg r2\n.set n" + QByteArray::number(i) + ", 1\n";
+    expectWords(Dialect::eMico8, text + "mov x, x\n", "10210");
+    text.clear();
+    for (int i = count; i > 0; --i)
+        text += 'a' + QByteArray::number(i) + " reg a" + QByteArray::number(i - 1) + '\n';
+    expectWords(Dialect::eMico8, text + "a0 reg r2\nmov a" + QByteArray::number(count) + ", r1\n", "10208");
+}
+
+TEST_F(ImportHostile, MillionsOfLines)
+{
+    refused("LOAD s0, 1\n" + QByteArray(ForeignReader::maxLines, '\n'), "errImpTooManyLines");
+    EXPECT_FALSE(m_import->hasResult());
+}
+
 TEST_F(ImportHostile, StringsThatGrow)
 {
     QByteArray text = "STRING s0$, \"0123456789\"\n";
@@ -177,9 +205,20 @@ TEST_F(ImportHostile, WhatIsNoFile)
 TEST_F(ImportHostile, ManyErrorsAreBounded)
 {
     EXPECT_FALSE(import(Dialect::eKcpsm6, QByteArray("FOO s0, 1\n").repeated(3500)));
-    EXPECT_EQ(m_import->messages().all().size(), ImportMessages::maxMessages + 1);
+    EXPECT_EQ(m_import->messages().all().size(),
+              ImportMessages::maxMessages + 2); // the dialect, and that there are more
     EXPECT_TRUE(has("errImpTooManyMessages"));
     EXPECT_EQ(m_import->messages().errors(), 3500);
+    // Notes do not hide an error, and are none.
+    QByteArray text;
+    for (int i = 0; i < 3000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += "CONSTANT Name_" + number + ", 1\nCONSTANT name_" + number + ", 1\n";
+    }
+    EXPECT_TRUE(import(Dialect::eKcpsm6, text + "LOAD s0, 1\n")) << messages().right(500).toStdString();
+    EXPECT_TRUE(has("infoImpTooManyNotes"));
+    EXPECT_EQ(m_import->messages().all().size(), ImportMessages::maxMessages + 1);
+    expectRefused(Dialect::eKcpsm6, text + "LOAD s0, 1\nFOO\n", "errImpUnknownWord", 6002);
 }
 
 TEST_F(ImportHostile, EmptyFiles)
@@ -206,6 +245,11 @@ TEST(DialectFinder, KnowsTheDialects)
     EXPECT_EQ(found("start: add r1, r2\ncall start\n"), "mico8");
     EXPECT_EQ(found("This is a letter,\nnot a program.\n"), QString());
     EXPECT_EQ(found(""), QString());
+    // Where another one fits as well, the user is told: the words of its processor are others.
+    EXPECT_TRUE(DialectFinder("LOAD s0, 10\n").because.endsWith("; but KCPSM6, pBlazIDE fits as well"))
+        << DialectFinder("LOAD s0, 10\n").because.toStdString();
+    EXPECT_TRUE(DialectFinder("CONSTANT a, 1\nLOAD s0, a\n").because.endsWith("; but KCPSM6 fits as well"));
+    EXPECT_FALSE(DialectFinder("LOAD s0, 10\nHWBUILD s0\n").because.contains("fits as well"));
 }
 
 } // namespace

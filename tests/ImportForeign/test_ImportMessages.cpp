@@ -39,6 +39,9 @@ TEST_F(ImportMessagesTest, everyMessageIsProvokedOrNamed)
         {"warnImpNameIsNumber", Dialect::eKcpsm3, "CONSTANT AD, 1\nLOAD s0, AD\n"},
         {"infoImpNameCase", Dialect::ePblazide, "x: JUMP X\n"},
         {"errImpDuplicateName", Dialect::eKcpsm3, "x: LOAD s0, 1\nx: LOAD s0, 1\n"},
+        {"errImpAmbiguousName", Dialect::eMico8, "movi r1, x\n.set x, 1\n.set x, 2\n"},
+        {"errImpAmbiguousOrder", Dialect::eMico8, "movi r1, 1 + 1 << 2\n"},
+        {"infoImpAfterEnd", Dialect::eMico8, "ret\n.end\nret\n"},
         {"errImpCircle", Dialect::eKcpsm3, "CONSTANT x, x\nLOAD s0, x\n"},
         {"errImpNumber", Dialect::eKcpsm6, "TABLE t#, [12]'b\nLOAD&RETURN s0, t#\n"},
         {"errImpTooLargeNumber", Dialect::eKcpsm3, "LOAD s0, 100\n"},
@@ -64,9 +67,10 @@ TEST_F(ImportMessagesTest, everyMessageIsProvokedOrNamed)
         provoked.insert(example.key);
     }
     // In test_Hostile.cpp, test_Sources.cpp and test_Kcpsm6.cpp.
-    for (const char* key : {"errImpCannotRead", "errImpNotAFile", "errImpTooLarge", "errImpTooManyFiles",
-                            "errImpBinary", "errImpLineTooLong", "errImpIncludeDepth", "infoImpIncludeCase",
-                            "errImpDialectUnknown", "errImpTooManyWords", "infoImpStamp", "errImpTooManyMessages"})
+    for (const char* key :
+         {"errImpCannotRead", "errImpNotAFile", "errImpTooLarge", "errImpTooManyFiles", "errImpTooManyLines",
+          "errImpBinary", "errImpLineTooLong", "errImpIncludeDepth", "infoImpIncludeCase", "errImpDialectUnknown",
+          "errImpTooManyWords", "infoImpStamp", "errImpTooManyMessages", "infoImpTooManyNotes"})
         provoked.insert(key);
     // In tests/NalvoImport.
     for (const char* key : {"infoImpDialectGuessed", "errImpCannotWrite", "errImpExists", "errImpOriginal",

@@ -46,6 +46,22 @@ TEST_F(Kcpsm3, ANameThatCouldBeANumberIsTheName)
 {
     words3("CONSTANT AD, 12\nLOAD s0, AD\nLOAD s1, AE\n", "00012 001AE");
     EXPECT_TRUE(has("warnImpNameIsNumber", 2));
+    // No number has more than three digits.
+    words3("CONSTANT ADDC, 12\nFACE: LOAD s0, ADDC\nJUMP FACE\n", "00012 34000");
+    EXPECT_FALSE(has("warnImpNameIsNumber")) << messages().toStdString();
+    words3("LOAD s0, 1\nADD: JUMP ADD\n", "00001 34001");
+    EXPECT_TRUE(has("warnImpNameIsNumber", 2));
+}
+
+TEST_F(Kcpsm3, NamesThatStandForTwoThings)
+{
+    refused3("CONSTANT x, 1\nNAMEREG s3, x\nLOAD s0, x\n", "errImpDuplicateName", 2);
+    refused3("NAMEREG s3, x\nLOAD s0, x\nCONSTANT x, 1\n", "errImpDuplicateName", 1);
+    refused3("CONSTANT ~x, 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    refused3("CONSTANT % x, 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    refused3("CONSTANT , 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    // A target and a value stand at different places.
+    words3("CONSTANT x, 1\nx: LOAD s0, x\nJUMP x\n", "00001 34000");
 }
 
 TEST_F(Kcpsm3, RenamedRegisters)

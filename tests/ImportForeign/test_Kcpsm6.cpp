@@ -78,6 +78,12 @@ TEST_F(Kcpsm6, InstructionsOfItsOwn)
     refused6("JUMP@ (s1)\n", "errImpSyntax");
 }
 
+TEST_F(Kcpsm6, RegistersOfTheOtherBankHaveTheirOwnNames)
+{
+    words6("NAMEREG s3, x\nSTAR s3, x\nSTAR S3, 23\nSTAR x, s2\n", "16330 17323 16320");
+    refused6("NAMEREG s3, x\nSTAR s3, s3\n", "errImpUnknownName", 2);
+}
+
 TEST_F(Kcpsm6, Strings)
 {
     words6("STRING hi$, \"Hi\", CR, 41, inner$, \"z\"\nSTRING inner$, \"a,;\"\nLOAD&RETURN s0, hi$\n",
@@ -119,6 +125,7 @@ TEST_F(Kcpsm6, WordsThatAreGiven)
     refused6("LOAD s0, 1\nINST 3FFFF\n", "errImpNoSuchWord", 2);
     EXPECT_TRUE(source().contains("NO_COUNTERPART ; INST 3FFFF"));
     refused6("INST 12345678\n", "errImpNoSuchWord");
+    refused6("CONSTANT ab, 12\nINST ab\nCONSTANT w, 12\nINST w\n", "errImpNumber", 4);
 }
 
 TEST_F(Kcpsm6, UnusedWordsJump)
@@ -126,8 +133,16 @@ TEST_F(Kcpsm6, UnusedWordsJump)
     m_options.memorySize = 1024;
     ASSERT_TRUE(import(Dialect::eKcpsm6, "DEFAULT_JUMP oops\nLOAD s0, 1\noops: JUMP oops\nADDRESS 3FE\nRETURN\n"))
         << messages().toStdString();
+    EXPECT_EQ(m_import->image().count(), 1024);
+    // A program that is larger than the memory that was supposed fills the next size.
+    m_options.memorySize = 0;
+    ASSERT_TRUE(import(Dialect::eKcpsm6, "DEFAULT_JUMP oops\nJUMP oops\nADDRESS 500\noops: JUMP oops\n"));
+    EXPECT_EQ(m_import->image().count(), 2048);
+    EXPECT_EQ(m_import->image().word(0x7FF), 0x22500u);
+    refused6("DEFAULT_JUMP 000\nLOAD s0, 1\nDEFAULT_JUMP 001\n", "errImpDuplicateName", 3);
+    m_options.memorySize = 1024;
+    ASSERT_TRUE(import(Dialect::eKcpsm6, "DEFAULT_JUMP oops\nLOAD s0, 1\noops: JUMP oops\nADDRESS 3FE\nRETURN\n"));
     const nsImport::ProgramImage& image = m_import->image();
-    EXPECT_EQ(image.count(), 1024);
     EXPECT_EQ(image.word(0), 0x01001u);
     for (int address = 2; address < 1024; ++address)
         EXPECT_EQ(image.word(address), address == 0x3FE ? 0x25000u : 0x22001u) << address;

@@ -123,6 +123,58 @@ TEST_F(Mico8, Names)
     wordsM("x reg r1\nmov x, x\nx reg r2\nmov x, x\n", "10108 10210");
 }
 
+TEST_F(Mico8, NamesThatAreSetAgain)
+{
+    for (const char* word : {".set v,", ".equ v,", "v ="}) {
+        const QByteArray set = word;
+        wordsM(set + " 1\nmovi r1, v\n" + set + " 2\nmovi r1, v\n", "12101 12102");
+        // Each value may be made of the one before.
+        wordsM(set + " 1\n" + set + " v + 1\nmovi r1, v\n" + set + " v * 3\nmovi r1, v\n", "12102 12106");
+        // Which value is meant before the first of several?
+        refusedM("movi r1, v\n" + set + " 1\n" + set + " 2\n", "errImpAmbiguousName", 1);
+        wordsM("movi r1, v\n" + set + " 1\n", "12101");
+    }
+    refusedM("mov r1, x\nx reg r1\nx reg r2\n", "errImpAmbiguousName", 1);
+    refusedM("nop\na equ 1\na equ 2\n", "errImpDuplicateName", 3);
+    refusedM("nop\n.set a, 1\na equ 2\n", "errImpDuplicateName", 3);
+    refusedM("nop\na: nop\n.set a, 1\n", "errImpDuplicateName", 3);
+    refusedM("nop\nx reg 5\n", "errImpExpectRegister", 2);
+    refusedM(".set a, a\nmovi r1, a\n", "errImpCircle", 1);
+    // Two spellings, and a third one: there is no telling.
+    refusedM(".equ Ab, 1\n.equ aB, 2\nmovi r1, ab\n", "errImpUnknownName", 3);
+}
+
+TEST_F(Mico8, TheOrderOfOperators)
+{
+    // Those of the GNU assembler bind differently from those of C.
+    for (const char* text : {"1 + 1 << 2", "1 << 1 + 1", "6 & 2 + 1", "1 | 2 + 1", "4 - 1 ^ 1", "1 | 3 & 2"})
+        refusedM(QByteArray("movi r1, ") + text + '\n', "errImpAmbiguousOrder");
+    EXPECT_TRUE(messages().contains("1 | 3 & 2"));
+    wordsM(
+        "movi r1, (1 + 1) << 2\nmovi r1, 1 << (1 + 1)\nmovi r1, 2 * 3 + 1\nmovi r1, 9 - 4 - 2\nmovi r1, 1 << 2 | 1\n",
+        "12108 12104 12107 12103 12105");
+    // Where the order makes no difference.
+    wordsM("movi r1, 0 + 1 << 0\nmovi r1, -1 & 15\n", "12101 1210F");
+}
+
+TEST_F(Mico8, TheEndOfTheProgram)
+{
+    wordsM("ret\n.end\nret\n\nno: program\n", "39000");
+    EXPECT_TRUE(has("infoImpAfterEnd", 2)) << messages().toStdString();
+    EXPECT_TRUE(messages().contains("\".end\" ends the program: 2 lines")) << messages().toStdString();
+    EXPECT_TRUE(source().contains("; no: program")) << source().toStdString();
+    wordsM("ret\n.END main\n\n", "39000");
+    EXPECT_FALSE(has("infoImpAfterEnd"));
+    // Whether the file that includes it goes on is not agreed.
+    write("part.s", "nop\n.end\n");
+    refusedM(".include \"part.s\"\nret\n", "errImpNoCounterpart", 2);
+}
+
+TEST_F(Mico8, DataHaveAddressesOfTheirOwn)
+{
+    wordsM("nop\n.data\n.org 0x100\n.text\nret\n", "10000 39000");
+}
+
 TEST_F(Mico8, Origin)
 {
     wordsM("nop\n.org 0x10\nret\n", "10000 @10 39000");

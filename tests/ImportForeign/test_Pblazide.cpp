@@ -37,6 +37,19 @@ TEST_F(Pblazide, Equates)
     refusedP("a EQU b\nb EQU a\nLOAD s0, a\n", "errImpCircle");
 }
 
+TEST_F(Pblazide, NamesThatStandForTwoThings)
+{
+    refusedP("x EQU 1\nx EQU 2\nLOAD s0, x\n", "errImpDuplicateName", 2);
+    refusedP("x EQU s1\nx EQU s2\nLOAD x, 1\n", "errImpDuplicateName", 2);
+    refusedP("x EQU s1\nx EQU 2\nLOAD s0, x\n", "errImpDuplicateName", 2);
+    refusedP("x EQU 1\nx: JUMP x\n", "errImpDuplicateName", 2);
+    refusedP("x DSIN s1\nIN s0, x\n", "errImpExpectValue", 1);
+    refusedP("a-b EQU 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    refusedP("LOAD = s1\nRET\n", "errImpOperandCount", 1);
+    refusedP("$ EQU 1\nLOAD s0, 1\n", "errImpSyntax", 1);
+    EXPECT_TRUE(source().contains("NO_COUNTERPART ; $ EQU 1")) << source().toStdString();
+}
+
 TEST_F(Pblazide, Origin)
 {
     wordsP("ORG 0\nLOAD s0, 1\nORG $3FF\nRETI ENABLE\n", "00001 @3FF 38001");

@@ -146,6 +146,35 @@ TEST(Rescue, thePageHasRoomForAllTargets)
     EXPECT_EQ(Rescue(mico8).run(imageOf(QVector<quint32>(512, 0x10000))).settings.pageSize, 512);
 }
 
+TEST(Rescue, wordsThatTheProcessorDoesNotReachAreTold)
+{
+    struct Row
+    {
+        const nsProc::ProcTable& table;
+        int last;
+        quint32 word; ///< of an instruction
+        const char* note;
+    };
+    const Row rows[] = {
+        {pb3, 0x3FF, 0x00001, "Number of words beyond address 3FF, the last one that the processor reaches: 2."},
+        {pb6, 0xFFF, 0x01001, "Number of words beyond address FFF, the last one that the processor reaches: 2."},
+        {mico8, 0xFFF, 0x12001, "Number of words beyond address FFF, the last one that the processor reaches: 2."}};
+    for (const Row& row : rows) {
+        ProgramImage image;
+        image.setWord(0, 0);
+        image.setWord(row.last, 0);
+        EXPECT_FALSE(Rescue(row.table).run(image).notes.join('\n').contains("beyond"));
+        image.setWord(row.last + 1, row.word);
+        image.setWord(row.last + 2, row.word);
+        const RescueResult result = Rescue(row.table).run(image);
+        EXPECT_TRUE(result.ok) << qPrintable(result.error);
+        EXPECT_TRUE(result.notes.contains(row.note)) << qPrintable(result.notes.join('\n'));
+        // Where the words are, the memory is.
+        EXPECT_EQ(result.settings.pageSize, 2 * (row.last + 1));
+        EXPECT_EQ(again(row.table, result).image.word(row.last + 2), row.word);
+    }
+}
+
 TEST(Rescue, theScratchpadIsAsLargeAsItsAddresses)
 {
     EXPECT_EQ(Rescue(pb6).run(imageOf({0x0b03f})).settings.scrpdSize, 64);

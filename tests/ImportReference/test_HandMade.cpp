@@ -163,6 +163,18 @@ TEST(HandMade, namesThatAreSetAgain)
         "movi r4, y\n.set X, 7\nmovi r5, _lo(x)\nmovi r6, #X\n");
 }
 
+TEST(HandMade, theEndOfTheProgram)
+{
+    expectSame(Dialect::Mico8Gnu, "b later\nlater: ret\n.end\nThis is: no program, nor #ORG ADDR, 0\n  b nowhere\n");
+    expectSame(Dialect::Mico8Gnu, "ret\n .end ; of it");
+}
+
+TEST(HandMade, registersOfTheOtherBank)
+{
+    expectSame(Dialect::Kcpsm6, "NAMEREG s3, count\nSTAR s3, count\nSTAR S3, 5A\nSTAR s4, s5\nSTAR count, s3_value\n"
+                                "CONSTANT s3_value, 12\n");
+}
+
 TEST(HandMade, relativeTargets)
 {
     for (const Dialect dialect : {Dialect::Mico8Vendor, Dialect::Mico8Gnu})

@@ -238,6 +238,25 @@ TEST_F(ImportTool, TheTimeOfALogIsTakenOver)
     EXPECT_EQ(assembled("a/p.nalvo"), "01001\n2B011\n");
 }
 
+TEST_F(ImportTool, TheMemoryIsAsLargeAsThatOfTheImage)
+{
+    const auto pageSize = [&](const QByteArray& depth, const QByteArray& text) {
+        write("p.mif",
+              "WIDTH=18; DEPTH=" + depth + "; ADDRESS_RADIX=HEX; DATA_RADIX=HEX;\nCONTENT BEGIN\n0: 22000;\nEND;\n");
+        write("p.psm", text);
+        run({"-d", "kcpsm6", "--force", "--reference", "p.mif", "p.psm"});
+        const QByteArray project = read("p/p.nalvo");
+        const int start = project.indexOf("<pageSize>") + 10;
+        return project.mid(start, project.indexOf('<', start) - start).toInt();
+    };
+    EXPECT_EQ(pageSize("4096", "JUMP 000\n"), 4096);
+    EXPECT_EQ(pageSize("2048", "JUMP 000\n"), 2048);
+    EXPECT_EQ(pageSize("256", "JUMP 000\n"), 1024);
+    // What the program needs counts, too.
+    EXPECT_EQ(pageSize("256", "JUMP 000\nADDRESS 7FF\nJUMP 000\n"), 2048);
+    EXPECT_EQ(pageSize("2048", "JUMP 800\n"), 4096);
+}
+
 TEST_F(ImportTool, MakesSourcesOfAnImage)
 {
     write("p.hex", "2C001\n34000\n");
@@ -256,6 +275,48 @@ TEST_F(ImportTool, MakesSourcesOfAnImage)
     const QJsonObject sum = run({"-f", "json", "--force", "--image", "p.hex", "--processor", "pb3"}).objects().last();
     EXPECT_EQ(sum.value("result").toString(), "imported");
     EXPECT_EQ(sum.value("words").toInt(), 2);
+}
+
+TEST_F(ImportTool, MakesSourcesOfEachKindOfImage)
+{
+    struct Kind
+    {
+        QByteArray whole;   ///< 00001 at 0, 34001 at 1
+        QByteArray damaged; ///< in one line, which the message names
+        int line;
+    };
+    const QByteArray zeros(56, '0');
+    const QByteArray init = "INIT_00 => X\"" + zeros + "40010001\",\n";
+    const QByteArray parity = "INITP_00 => X\"" + zeros + "0000000C\"\n";
+    const QByteArray generics = "rom : RAMB16_S18\ngeneric map (\n";
+    const QByteArray mif = "WIDTH=18;\nDEPTH=1024;\nADDRESS_RADIX=HEX;\nDATA_RADIX=HEX;\nCONTENT BEGIN\n";
+    const QByteArray coe = "memory_initialization_radix=16;\nmemory_initialization_vector=\n";
+    const QByteArray lattice = "#Format=Hex\n#Depth=1024\n#Width=18\n#AddrRadix=3\n#DataRadix=3\n#Data\n";
+    const QByteArray log = "  000  00001  LOAD s0, 01\n";
+    const Kind kinds[] = {
+        {"00001\n34001\n", "00001\n3400G\n", 2},
+        {"@000\n00001\n34001\n", "@000\n00001\n@\n34001\n", 3},
+        {coe + "00001,\n34001;\n", coe + "00001,\n34O01;\n", 4},
+        {mif + "0: 00001;\n1: 34001;\nEND;\n", mif + "0: 00001;\n1 34001;\nEND;\n", 7},
+        {generics + init + parity + ")\nport map (",
+         generics + "INIT_00 => X\"" + zeros + "0001\",\n" + parity + ")\nport map (", 3},
+        {":03000000000001FC\n:03000100034001B8\n:00000001FF\n", ":03000000000001FC\n:03000100034001B9\n:00000001FF\n",
+         2},
+        {lattice + "00001\n34001\n", lattice + "00001\n3400x\n", 8},
+        {log + "  001  34001  x: JUMP x\n", log + "  000  34001  x: JUMP x\n", 2},
+    };
+    for (const Kind& kind : kinds) {
+        write("p.txt", kind.whole);
+        AsmToolResult result = run({"--force", "--image", "p.txt", "--processor", "pb3", "-o", "out"});
+        EXPECT_EQ(result.status, 0) << kind.whole.constData() << result.err.constData();
+        EXPECT_EQ(assembled("out/p.nalvo"), "00001\n34001\n") << kind.whole.constData();
+        write("p.txt", kind.damaged);
+        result = run({"--image", "p.txt", "--processor", "pb3", "-o", "none"});
+        EXPECT_EQ(result.status, 1) << kind.damaged.constData();
+        EXPECT_TRUE(result.err.contains("line " + QByteArray::number(kind.line) + ": "))
+            << kind.damaged.constData() << result.err.constData();
+        EXPECT_FALSE(exists("none"));
+    }
 }
 
 TEST_F(ImportTool, WrongUsage)

@@ -35,7 +35,7 @@ bool ImportRun::run()
     if (!m_options.reference.isEmpty() && !readReference())
         return false;
     options.stamp = m_hasReference ? ForeignStamp::ofImage(m_reference) : ForeignStamp();
-    options.memorySize = m_hasReference ? m_reference.size() : 0;
+    options.memorySize = m_hasReference ? m_reference.memorySize() : 0;
     ForeignImport import(options);
     const bool isWhole = import.run();
     m_report.showAll(import.messages());

@@ -84,6 +84,15 @@ DialectFinder::DialectFinder(const QString& text)
                   .arg(scores[best].understood)
                   .arg(scores[best].understood + scores[best].strange)
                   .arg(QStringList(words.mid(0, 3)).join(QStringLiteral(", ")));
+    // The same lines are other words for another processor, or with numbers that are written in another way.
+    QStringList others;
+    for (int i = best + 1; i < ForeignDialect::eDialectCount; ++i) {
+        if (scores[i].understood == scores[best].understood)
+            others.append(QLatin1String(ForeignDialect::of(ForeignDialect::eDialect_t(i)).title));
+    }
+    if (!others.isEmpty())
+        because += QCoreApplication::translate("nsImport::DialectFinder", "; but %1 fits as well")
+                       .arg(others.join(QStringLiteral(", ")));
 }
 
 } // namespace nsImport

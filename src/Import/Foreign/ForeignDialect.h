@@ -24,6 +24,7 @@ enum eForeignOp_t {
     opWord,        ///< the machine word itself
     opDefaultJump, ///< target of all unused words
     opInclude,     ///< another file stands here
+    opEnd,         ///< the source ends here; what follows are comments
     opIgnored,     ///< nothing of the program: becomes a comment
     opOutput,      ///< a file that the old tool writes: becomes a comment, and an output of the project
     opSection,     ///< says by its operand whether code or data follow
@@ -61,7 +62,7 @@ struct sForeignWord_t
     const char* word; ///< in upper case
     eForeignOp_t op;
     nsModAsmFe::eOpcode_t opcode = nsModAsmFe::ocUndefined;
-    eForeignForm_t form = frmNone;
+    eForeignForm_t form = frmNone; ///< of an equate: frmReg, its value is a register; frmRegValue, it is none
     const char* arg = "";
 };
 
@@ -96,6 +97,7 @@ struct ForeignDialect
     eForeignNumbers_t numbers;
     bool namesDifferByCase; ///< else another spelling of a name is the same name
     bool expressions;       ///< values can be calculated
+    bool anyOrder;          ///< its assemblers do not agree on which operators bind stronger
     bool hashComments;      ///< `#` at the start of a line
     bool cComments;         ///< block comments and `//`
     bool localLabels;       ///< `1:` with `1b` and `1f`

@@ -10,16 +10,12 @@ namespace {
 const int maxExpressionDepth = 100;
 
 // The operators of a level bind stronger than those of the levels before.
-const QStringList& operatorsOf(int level)
+const int levelCount = 6;
+const QStringList& operatorsOf(int level, bool gnuOrder)
 {
-    static const QStringList levels[] = {{"|"}, {"^"}, {"&"}, {"<<", ">>"}, {"+", "-"}, {"*", "/", "%"}};
-    return levels[level];
-}
-const int lastLevel = 5;
-
-bool isWordCharacter(QChar c)
-{
-    return c.isLetterOrNumber() || c == '_' || c == '.' || c == '$' || c == '?' || c == '@';
+    static const QStringList ofC[levelCount] = {{"|"}, {"^"}, {"&"}, {"<<", ">>"}, {"+", "-"}, {"*", "/", "%"}};
+    static const QStringList ofGnu[levelCount] = {{}, {}, {}, {"+", "-"}, {"|", "^", "&"}, {"*", "/", "%", "<<", ">>"}};
+    return gnuOrder ? ofGnu[level] : ofC[level];
 }
 
 } // namespace
@@ -40,10 +36,26 @@ ForeignValue ForeignValue::number(int value, const QString& text)
     return result;
 }
 
+bool ForeignExpression::isWordCharacter(QChar c)
+{
+    return c.isLetterOrNumber() || c == '_' || c == '.' || c == '$' || c == '?' || c == '@';
+}
+
 ForeignValue ForeignExpression::evaluate(const QString& text)
 {
     if (!m_dialect.expressions)
         return plain(text);
+    ForeignValue value = calculate(text);
+    if (!m_dialect.anyOrder || !value.ok() || value.isAtom)
+        return value;
+    m_gnuOrder = true;
+    const ForeignValue other = calculate(text);
+    m_gnuOrder = false;
+    return other.ok() && other.value == value.value ? value : ForeignValue::failed(ForeignValue::eAmbiguousOrder, text);
+}
+
+ForeignValue ForeignExpression::calculate(const QString& text)
+{
     m_text = text;
     m_pos = 0;
     m_depth = 0;
@@ -118,7 +130,7 @@ void ForeignExpression::skipBlanks()
 QString ForeignExpression::operatorOf(int level)
 {
     skipBlanks();
-    for (const QString& op : operatorsOf(level)) {
+    for (const QString& op : operatorsOf(level, m_gnuOrder)) {
         if (m_text.midRef(m_pos, op.size()) == op) {
             m_pos += op.size();
             return op;
@@ -129,7 +141,7 @@ QString ForeignExpression::operatorOf(int level)
 
 ForeignValue ForeignExpression::binary(int level)
 {
-    if (level > lastLevel)
+    if (level >= levelCount)
         return unary();
     ForeignValue left = binary(level + 1);
     while (left.ok()) {

@@ -11,11 +11,13 @@ struct ForeignValue
 {
     enum eState_t {
         eOk,
-        eSyntax,      ///< `error` is not understood
-        eUnknownName, ///< `error` is the name
-        eNotANumber,  ///< `error` is a register, text or such
-        eCircle,      ///< `error` depends on itself
-        eReported,    ///< what is wrong was reported at another line
+        eSyntax,         ///< `error` is not understood
+        eUnknownName,    ///< `error` is the name
+        eNotANumber,     ///< `error` is a register, text or such
+        eAmbiguousName,  ///< `error` has several values, all of them further down
+        eAmbiguousOrder, ///< assemblers calculate `error` in different orders
+        eCircle,         ///< `error` depends on itself
+        eReported,       ///< what is wrong was reported at another line
     };
 
     eState_t state = eOk;
@@ -62,8 +64,11 @@ public:
     }
 
     ForeignValue evaluate(const QString& text);
+    /// Can a name of a dialect with calculations have the character?
+    static bool isWordCharacter(QChar c);
 
 private:
+    ForeignValue calculate(const QString& text);
     ForeignValue plain(const QString& text);
     ForeignValue labelPart(const QString& text);
     ForeignValue atom(const QString& text);
@@ -83,6 +88,7 @@ private:
     QString m_text;
     int m_pos = 0;
     int m_depth = 0;
+    bool m_gnuOrder = false; ///< the operators bind as those of the GNU assembler, else as those of C
 };
 
 } // namespace nsImport

@@ -36,7 +36,21 @@ bool ForeignResolver::countIs(const ForeignStatement& statement, int least, int 
 bool ForeignResolver::registerAt(const QString& text, int* number, QString* ours)
 {
     *number = m_symbols.registerOf(text, ours);
-    return *number >= 0 || report(errImpExpectRegister, {text});
+    if (*number >= 0)
+        return true;
+    const bool isAmbiguous = m_symbols.nameValue(text).state == ForeignValue::eAmbiguousName;
+    return report(isAmbiguous ? errImpAmbiguousName : errImpExpectRegister, {text});
+}
+
+/// A register of the other bank has its own name, whatever the one of this bank is called. @return false: it is none
+bool ForeignResolver::otherBankRegister(const QString& text, int* number, QString* ours)
+{
+    const int own = m_dialect.registerOf(text);
+    if (own < 0 || m_symbols.registerOf(text, ours) >= 0)
+        return false;
+    *number = own;
+    *ours = m_dialect.processor().regName(own);
+    return true;
 }
 
 bool ForeignResolver::wordAt(const QString& text, const QStringList& words, QString* word)
@@ -53,6 +67,10 @@ bool ForeignResolver::reportValue(const ForeignValue& value, const QString& text
         return report(errImpUnknownName, {value.error});
     case ForeignValue::eNotANumber:
         return report(errImpExpectValue, {value.error});
+    case ForeignValue::eAmbiguousName:
+        return report(errImpAmbiguousName, {value.error});
+    case ForeignValue::eAmbiguousOrder:
+        return report(errImpAmbiguousOrder, {value.error});
     case ForeignValue::eCircle:
         return report(errImpCircle, {value.error});
     case ForeignValue::eReported:
@@ -100,6 +118,8 @@ bool ForeignResolver::targetAt(const QString& text, int* address, QString* label
     ForeignValue value = m_symbols.labelValue(text);
     if (value.ok() && value.label >= 0) {
         *label = value.text;
+        if (foreignNumber(text, m_dialect.numbers, true).ok)
+            m_symbols.nameIsNumber(text);
     } else {
         value = m_symbols.evaluate(text);
         if (value.state == ForeignValue::eNotANumber || (value.ok() && value.isLabelPart))
@@ -179,8 +199,10 @@ bool ForeignResolver::encodeRegisterForms(ForeignStatement* statement)
     int second = 0;
     QString firstText;
     QString secondText;
-    if (!countIs(*statement, hasOne || form == frmRotate ? 1 : 2, hasOne ? 1 : 2) ||
-        !registerAt(statement->operand(0), &first, &firstText))
+    if (!countIs(*statement, hasOne || form == frmRotate ? 1 : 2, hasOne ? 1 : 2))
+        return false;
+    const bool isOther = opcode == ocStar && otherBankRegister(statement->operand(0), &first, &firstText);
+    if (!isOther && !registerAt(statement->operand(0), &first, &firstText))
         return false;
     if (form == frmReg) {
         add(statement, firstText, m_encoder.operands(opcode, first, 0, WordEncoder::eNumber));
@@ -337,18 +359,18 @@ bool ForeignResolver::encodeWord(ForeignStatement* statement)
     if (!countIs(*statement, 1, 1))
         return false;
     const QString text = statement->operand(0);
-    const ForeignValue value = m_symbols.evaluate(text);
-    if (!value.ok())
-        return reportValue(value, text);
+    const ForeignNumber number = foreignNumber(text, m_dialect.numbers, true);
+    if (!number.ok)
+        return report(errImpNumber, {text});
     int target = 0;
-    const QString instruction = m_disassembler.text(value.value, statement->address, [&](int address) {
+    const QString instruction = m_disassembler.text(number.value, statement->address, [&](int address) {
         target = address;
         return address >= 0 && address <= m_dialect.maxAddress ? labelFor(address) : QString();
     });
     if (instruction.isEmpty() || instruction.endsWith(' ') || instruction.endsWith(','))
         return report(errImpNoSuchWord, {text});
     m_program.highestTarget = qMax(m_program.highestTarget, target);
-    addText(statement, instruction, quint32(value.value));
+    addText(statement, instruction, quint32(number.value));
     return true;
 }
 

@@ -130,6 +130,10 @@ bool ForeignReader::readFile(const QString& path, const QString& name, const For
         m_messages.add(errImpTooLarge, {name, QString::number(maxAllBytes >> 20)});
         return false;
     }
+    if (program->statements.size() + content.lines.size() > maxLines) {
+        m_messages.add(errImpTooManyLines, {QString::number(maxLines)}, path);
+        return false;
+    }
     const int file = program->files.size();
     program->files.append({path, name, content.isUtf8});
     m_stack.append(withoutLinks(path));
@@ -140,14 +144,38 @@ bool ForeignReader::readFile(const QString& path, const QString& name, const For
         statement.line = i + 1;
         statement.text = content.lines.at(i);
         scanner.scan(&statement);
+        if (statement.op() == opEnd && statement.hasWord())
+            endsAt(&statement, path, content, &scanner);
         program->statements.append(statement);
         if (statement.op() == opInclude && statement.hasWord() && !include(statement, dialect, program))
             return false;
     }
-    if (scanner.isOpen())
+    if (scanner.isOpen()) {
         m_messages.add(errImpSyntax, {QStringLiteral("/*")}, path, content.lines.size());
+        program->statements.last().isBroken = true;
+    }
     m_stack.removeLast();
     return true;
+}
+
+/// The statement ends the program. What follows is kept as comments.
+void ForeignReader::endsAt(ForeignStatement* statement, const QString& path, const Content& content,
+                           ForeignScanner* scanner)
+{
+    const QString word = statement->part(statement->word);
+    if (m_stack.size() > 1) {
+        // Whether the files that include this one go on is not agreed.
+        m_messages.add(errImpNoCounterpart, {word, tr("the end of the program in an included file")}, path,
+                       statement->line);
+        statement->isBroken = true;
+        return;
+    }
+    scanner->end();
+    int left = 0;
+    for (int i = statement->line; i < content.lines.size(); ++i)
+        left += int(!content.lines.at(i).trimmed().isEmpty());
+    if (left > 0)
+        m_messages.add(infoImpAfterEnd, {word, QString::number(left)}, path, statement->line);
 }
 
 bool ForeignReader::include(const ForeignStatement& statement, const ForeignDialect& dialect, ForeignProgram* program)

@@ -3,11 +3,14 @@
 #include "ForeignProgram.h"
 #include "ImportMsg.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QSet>
 #include <QStringList>
 
 namespace nsImport {
+
+class ForeignScanner;
 
 /// Reads a foreign program with all that it includes.
 ///
@@ -15,10 +18,13 @@ namespace nsImport {
 /// program names: neither by an absolute path, nor by "..", nor by a link.
 class ForeignReader
 {
+    Q_DECLARE_TR_FUNCTIONS(nsImport::ForeignReader)
+
 public:
     static constexpr int maxFileBytes = 16 << 20; ///< of one source
     static constexpr int maxAllBytes = 64 << 20;  ///< of all sources, those that are included again counted again
     static constexpr int maxFiles = 1000;
+    static constexpr int maxLines = 2000000;    ///< of all files, those that are included again counted again
     static constexpr int maxDepth = 32;         ///< of files that include each other
     static constexpr int maxLineLength = 10000; ///< in characters
 
@@ -46,6 +52,7 @@ private:
     const Content* contentOf(const QString& path, const QString& shown, const QString& from, int line);
     bool decode(const QByteArray& bytes, const QString& path, Content* content);
     bool readFile(const QString& path, const QString& name, const ForeignDialect& dialect, ForeignProgram* program);
+    void endsAt(ForeignStatement* statement, const QString& path, const Content& content, ForeignScanner* scanner);
     bool include(const ForeignStatement& statement, const ForeignDialect& dialect, ForeignProgram* program);
     QString find(const QString& name, const QString& fromDir, QString* refused) const;
     static QString existing(const QString& dir, const QString& name);

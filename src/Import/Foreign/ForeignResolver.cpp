@@ -4,6 +4,8 @@
 
 #include "ProcTable.h"
 
+#include <QFileInfo>
+
 namespace nsImport {
 
 using namespace nsModAsmFe;
@@ -35,7 +37,9 @@ void ForeignResolver::resolve()
 /// @return false
 bool ForeignResolver::report(eImportMsg_t type, const QStringList& arguments)
 {
-    const ForeignStatement& place = m_program.statements.at(m_statement);
+    ForeignStatement& place = m_program.statements[m_statement];
+    // A line that is wrong must not go on as if it were not there.
+    place.isBroken = place.isBroken || isImportError(type);
     m_messages.add(type, arguments, m_program.files.at(place.file).path, place.line);
     return false;
 }
@@ -72,9 +76,10 @@ void ForeignResolver::placeStatement(int index, int* address)
     }
     if (!statement.hasWord())
         return;
-    if (statement.op() == opAddress && !placeAt(statement, address))
-        statement.isBroken = true;
     if (statement.op() == opAddress) {
+        // Data have addresses of their own.
+        if (!statement.isData)
+            placeAt(statement, address);
         statement.address = *address;
         return;
     }
@@ -283,7 +288,9 @@ void ForeignResolver::checkValue(ForeignStatement* statement)
         statement->isBroken = true;
         return;
     }
-    if (symbol.kind == ForeignSymbol::eRegister || symbol.state == ForeignSymbol::eDone)
+    if (symbol.kind != ForeignSymbol::eRegister && statement->meaning->form == frmReg)
+        report(errImpExpectRegister, {statement->operand(0)});
+    if (statement->isBroken || symbol.kind == ForeignSymbol::eRegister || symbol.state == ForeignSymbol::eDone)
         return;
     const QString text = statement->operand(isEquate ? 0 : 1);
     const ForeignValue value = m_symbols.evaluate(symbol.name);
@@ -299,6 +306,12 @@ void ForeignResolver::encodeDefaultJump(ForeignStatement* statement, int index)
     QString label;
     if (!countIs(*statement, 1, 1) || !targetAt(statement->operand(0), &address, &label)) {
         statement->isBroken = true;
+        return;
+    }
+    if (m_program.defaultJump >= 0) {
+        const ForeignStatement& other = m_program.statements.at(m_program.defaultJump);
+        report(errImpDuplicateName, {statement->part(statement->word), QString::number(other.line),
+                                     QFileInfo(m_program.files.at(other.file).path).fileName()});
         return;
     }
     m_program.defaultJump = index;

@@ -56,6 +56,7 @@ private:
     // Operands; each reports what is wrong.
     bool countIs(const ForeignStatement& statement, int least, int most);
     bool registerAt(const QString& text, int* number, QString* ours);
+    bool otherBankRegister(const QString& text, int* number, QString* ours);
     bool valueAt(const QString& text, int maximum, bool isFirst, int* value, QString* ours);
     bool targetAt(const QString& text, int* address, QString* label);
     bool wordAt(const QString& text, const QStringList& words, QString* word);

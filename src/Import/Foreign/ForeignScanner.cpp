@@ -41,6 +41,13 @@ int ForeignScanner::afterQuoted(const QString& text, int pos, bool apostrophes)
 
 void ForeignScanner::scan(ForeignStatement* statement)
 {
+    if (m_ended) {
+        const bool isEmpty = statement->text.trimmed().isEmpty();
+        statement->commentPos = isEmpty ? -1 : 0;
+        statement->comment = isEmpty ? QString() : ' ' + statement->text;
+        dropBlanksAtEnd(&statement->comment);
+        return;
+    }
     cutComments(statement);
     int pos = 0;
     cutLabels(statement, &pos);
@@ -153,9 +160,7 @@ void ForeignScanner::cutWord(ForeignStatement* statement, int* pos) const
     const ForeignPiece second = wordAt(code, start);
     const int after = afterBlanks(code, second.pos + second.length);
     if (after < code.size() && code.at(after) != ',') {
-        static const sForeignWord_t assignment{"=", opEquate};
-        const bool isAssignment = m_dialect.expressions && statement->part(second) == QLatin1String("=");
-        const sForeignWord_t* meaning = isAssignment ? &assignment : m_dialect.find(statement->part(second).toUpper());
+        const sForeignWord_t* meaning = m_dialect.find(statement->part(second).toUpper());
         if (meaning != nullptr && meaning->op == opEquate) {
             statement->name = word;
             statement->word = second;

@@ -17,6 +17,8 @@ public:
     void scan(ForeignStatement* statement);
     /// Is a comment open at the end of the file?
     bool isOpen() const { return m_inComment; }
+    /// From now on all lines are comments.
+    void end() { m_ended = true; }
 
     /// The position after the quoted text that begins here; the position itself if none begins.
     /// @param apostrophes do they hold a character?
@@ -32,6 +34,7 @@ private:
 
     const ForeignDialect& m_dialect;
     bool m_inComment = false;
+    bool m_ended = false;
 };
 
 } // namespace nsImport

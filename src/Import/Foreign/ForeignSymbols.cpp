@@ -32,6 +32,13 @@ QString valueTextOf(const ForeignStatement& statement)
     return statement.operand(statement.op() == opEquate ? 0 : 1);
 }
 
+/// Can the name that it defines be defined again, with another meaning from there on?
+bool mayRepeat(const ForeignStatement& statement)
+{
+    return statement.op() == opSetConstant || statement.meaning->form == frmReg ||
+           statement.part(statement.word) == QLatin1String("=");
+}
+
 } // namespace
 
 ForeignStamp::ForeignStamp()
@@ -48,38 +55,6 @@ ForeignStamp ForeignStamp::ofImage(const ProgramImage& image)
     if (stamp.isKnown)
         stamp.moment = QDateTime(image.date, image.time);
     return stamp;
-}
-
-QString RegisterNames::keyOf(const QString& name) const
-{
-    // The original names are written in any case.
-    return m_dialect->registerOf(name) >= 0 ? name.toLower() : name;
-}
-
-int RegisterNames::registerOf(const QString& name) const
-{
-    const auto renamed = m_names.constFind(keyOf(name));
-    if (renamed != m_names.constEnd())
-        return renamed.value();
-    const int original = m_dialect->registerOf(name);
-    return original >= 0 && !m_free.at(original) ? original : -1;
-}
-
-int RegisterNames::rename(const QString& from, const QString& to)
-{
-    const int number = registerOf(from);
-    if (number < 0)
-        return -1;
-    const int other = registerOf(to);
-    if (other >= 0 && other != number)
-        return -2;
-    if (m_names.remove(keyOf(from)) == 0)
-        m_free[number] = true;
-    if (m_dialect->registerOf(to) == number)
-        m_free[number] = false;
-    else
-        m_names.insert(keyOf(to), number);
-    return number;
 }
 
 ForeignSymbols::ForeignSymbols(ForeignProgram& program, const ForeignStamp& stamp, ImportMessages& messages)
@@ -99,7 +74,9 @@ void ForeignSymbols::report(eImportMsg_t type, const QStringList& arguments, int
         m_messages.add(type, arguments);
         return;
     }
-    const ForeignStatement& place = m_program.statements.at(index);
+    ForeignStatement& place = m_program.statements[index];
+    // A line that is wrong must not go on as if it were not there.
+    place.isBroken = place.isBroken || isImportError(type);
     m_messages.add(type, arguments, m_program.files.at(place.file).path, place.line);
 }
 
@@ -107,6 +84,7 @@ void ForeignSymbols::collect()
 {
     bool inData = false;
     for (int i = 0; i < m_program.statements.size(); ++i) {
+        m_statement = i;
         ForeignStatement& statement = m_program.statements[i];
         if (statement.op() == opSection && statement.hasWord())
             inData =
@@ -114,11 +92,11 @@ void ForeignSymbols::collect()
         else if (statement.op() == opCode || statement.op() == opData)
             inData = statement.op() == opData;
         statement.isData = inData;
-        m_statement = i;
         if (!inData)
             collectLabels(i);
         collectDefinition(i);
     }
+    checkRenames();
     findAliases();
     nameAll();
     m_registers = RegisterNames(m_dialect);
@@ -130,9 +108,8 @@ void ForeignSymbols::collectLabels(int index)
     ForeignStatement& statement = m_program.statements[index];
     for (const ForeignPiece& piece : qAsConst(statement.labels)) {
         const QString name = statement.part(piece);
-        const bool isLocal = m_dialect.localLabels && isNumber(name);
-        const int symbol = add(ForeignSymbol::eLabel, name, index, isLocal);
-        if (isLocal)
+        const int symbol = add(ForeignSymbol::eLabel, name, index);
+        if (isLocalLabel(m_program.symbols.at(symbol)))
             m_locals[name].append(symbol);
         if (statement.firstLabel < 0)
             statement.firstLabel = symbol;
@@ -144,22 +121,21 @@ void ForeignSymbols::collectDefinition(int index)
     ForeignStatement& statement = m_program.statements[index];
     if (!statement.hasWord())
         return;
-    const bool isRegister = m_dialect.registerOf(statement.operand(0)) >= 0;
+    const bool isRegister = statement.meaning != nullptr && statement.meaning->form != frmRegValue &&
+                            m_dialect.registerOf(statement.operand(0)) >= 0;
     switch (statement.op()) {
     case opConstant:
-        statement.symbol = add(ForeignSymbol::eValue, statement.operand(0), index, false);
-        break;
     case opSetConstant:
-        statement.symbol = add(ForeignSymbol::eValue, statement.operand(0), index, true);
+        statement.symbol = add(ForeignSymbol::eValue, statement.operand(0), index);
         break;
     case opEquate:
-        statement.symbol = add(isRegister ? ForeignSymbol::eRegister : ForeignSymbol::eValue,
-                               statement.part(statement.name), index, isRegister);
+        statement.symbol =
+            add(isRegister ? ForeignSymbol::eRegister : ForeignSymbol::eValue, statement.part(statement.name), index);
         break;
     case opString:
     case opTable:
         statement.symbol = add(statement.op() == opString ? ForeignSymbol::eString : ForeignSymbol::eTable,
-                               statement.operand(0), index, false);
+                               statement.operand(0), index);
         break;
     case opNameReg:
         collectRegister(index);
@@ -186,6 +162,7 @@ void ForeignSymbols::collectRegister(int index)
     }
     if (m_dialect.registerOf(name) == number)
         return;
+    m_renames.append(index);
     const QString key = name + '\n' + QString::number(number);
     if (!m_renamed.contains(key)) {
         ForeignSymbol symbol;
@@ -200,50 +177,111 @@ void ForeignSymbols::collectRegister(int index)
     statement.symbol = m_renamed.value(key);
 }
 
-/// @param mayRepeat the name can be defined again, with another meaning from there on
-int ForeignSymbols::add(ForeignSymbol::eKind_t kind, const QString& name, int statement, bool mayRepeat)
+int ForeignSymbols::add(ForeignSymbol::eKind_t kind, const QString& name, int statement)
 {
     const int index = m_program.symbols.size();
-    for (const int other : m_byName.value(name)) {
-        const ForeignSymbol& known = m_program.symbols.at(other);
-        if (mayRepeat)
-            break;
-        if (known.kind != kind || known.statement < 0)
-            continue;
-        const ForeignStatement& place = m_program.statementOf(known);
-        report(errImpDuplicateName,
-               {name, QString::number(place.line), QFileInfo(m_program.files.at(place.file).path).fileName()});
-        break;
-    }
     ForeignSymbol symbol;
     symbol.kind = kind;
     symbol.name = name;
     symbol.statement = statement;
+    if (statement >= 0)
+        checkName(name);
+    const bool isFound = statement < 0 || isUnique(symbol);
     m_program.symbols.append(symbol);
+    if (!isFound)
+        return index;
     m_byName[name].append(index);
-    if (!m_dialect.namesDifferByCase)
-        m_byLowerCase[name.toLower()].append(index);
+    if (!m_dialect.namesDifferByCase) {
+        QVector<int>& spellings = m_byLowerCase[name.toLower()];
+        if (!spellings.isEmpty() && m_program.symbols.at(spellings.first()).name != name)
+            m_spelledTwice.insert(name.toLower());
+        spellings.append(index);
+    }
     return index;
+}
+
+/// A name that could be read as a calculation is none.
+void ForeignSymbols::checkName(const QString& name)
+{
+    const auto isAllowed = [&](QChar c) {
+        return ForeignExpression::isWordCharacter(c) || (c == '#' && !m_dialect.expressions);
+    };
+    const bool ok = !name.isEmpty() && std::all_of(name.cbegin(), name.cend(), isAllowed);
+    if (!ok || name == QLatin1String("$") || name == QLatin1String("."))
+        report(errImpSyntax, {name.isEmpty() ? m_program.statements.at(m_statement).code.trimmed() : name});
+}
+
+bool ForeignSymbols::isLocalLabel(const ForeignSymbol& symbol) const
+{
+    return symbol.kind == ForeignSymbol::eLabel && m_dialect.localLabels && isNumber(symbol.name);
+}
+
+/// Reports a name that is defined already, unless its uses tell which definition is meant. @return false: it was
+/// reported
+bool ForeignSymbols::isUnique(const ForeignSymbol& symbol)
+{
+    if (isLocalLabel(symbol))
+        return true;
+    const bool isLabel = symbol.kind == ForeignSymbol::eLabel;
+    const ForeignStatement& own = m_program.statementOf(symbol);
+    for (const int other : m_byName.value(symbol.name)) {
+        const ForeignSymbol& known = m_program.symbols.at(other);
+        // Without calculations, a label stands where no value can.
+        const bool isApart = !m_dialect.expressions && (known.kind == ForeignSymbol::eLabel) != isLabel;
+        if (known.statement < 0 || isApart)
+            continue;
+        const ForeignStatement& place = m_program.statementOf(known);
+        // What follows the first one of those that repeat was compared with it.
+        const bool isSet = !isLabel && known.kind != ForeignSymbol::eLabel && mayRepeat(own) && mayRepeat(place);
+        if (isSet && (own.meaning->form == frmReg) == (place.meaning->form == frmReg))
+            return true;
+        report(errImpDuplicateName,
+               {symbol.name, QString::number(place.line), QFileInfo(m_program.files.at(place.file).path).fileName()});
+        return false;
+    }
+    return true;
+}
+
+/// A register and a constant of one name can not be told apart.
+void ForeignSymbols::checkRenames()
+{
+    for (const int index : qAsConst(m_renames)) {
+        const QString name = m_program.statements.at(index).operand(1);
+        for (const int other : m_byName.value(name)) {
+            const ForeignSymbol& known = m_program.symbols.at(other);
+            if (known.kind != ForeignSymbol::eValue || known.statement < 0)
+                continue;
+            const ForeignStatement& place = m_program.statementOf(known);
+            report(errImpDuplicateName,
+                   {name, QString::number(place.line), QFileInfo(m_program.files.at(place.file).path).fileName()},
+                   index);
+            break;
+        }
+    }
 }
 
 /// Names that are other names of registers are registers, too.
 void ForeignSymbols::findAliases()
 {
     bool changed = true;
-    while (changed) {
+    const int count = m_program.symbols.size();
+    // Forwards and backwards, as names can be used before their line.
+    for (int pass = 0; changed && pass < maxChain; ++pass) {
         changed = false;
-        for (ForeignSymbol& symbol : m_program.symbols) {
+        for (int i = 0; i < count; ++i) {
+            ForeignSymbol& symbol = m_program.symbols[pass % 2 == 0 ? i : count - 1 - i];
             if (symbol.statement < 0 || symbol.state == ForeignSymbol::eDone)
                 continue;
             const ForeignStatement& statement = m_program.statementOf(symbol);
-            if (statement.op() != opEquate)
+            if (statement.op() != opEquate || statement.meaning->form == frmRegValue)
                 continue;
             const QString text = valueTextOf(statement);
             int number = m_dialect.registerOf(text);
             if (number < 0) {
                 m_statement = symbol.statement;
                 const int other = find(text, bit(ForeignSymbol::eRegister));
-                const bool isKnown = other >= 0 && m_program.symbols.at(other).state == ForeignSymbol::eDone;
+                const bool isKnown =
+                    other >= 0 && !isAmbiguous(other) && m_program.symbols.at(other).state == ForeignSymbol::eDone;
                 number = isKnown ? m_program.symbols.at(other).value : -1;
             }
             if (number < 0)
@@ -304,10 +342,14 @@ void ForeignSymbols::enter(int index)
         m_registers.rename(statement.operand(0), statement.operand(1));
 }
 
-/// The place after the last symbol of a list that is defined up to the present line.
+/// The place after the last symbol of a list that is defined up to the present line. A value that is being calculated
+/// does not yet count itself.
 QVector<int>::const_iterator ForeignSymbols::afterHere(const QVector<int>& symbols) const
 {
-    return std::upper_bound(symbols.cbegin(), symbols.cend(), m_statement, [&](int statement, int symbol) {
+    const bool isDefining =
+        m_depth > 0 && !symbols.isEmpty() && m_program.symbols.at(symbols.first()).kind != ForeignSymbol::eLabel;
+    const int last = isDefining ? m_statement - 1 : m_statement;
+    return std::upper_bound(symbols.cbegin(), symbols.cend(), last, [&](int statement, int symbol) {
         return statement < m_program.symbols.at(symbol).statement;
     });
 }
@@ -317,12 +359,14 @@ QVector<int>::const_iterator ForeignSymbols::afterHere(const QVector<int>& symbo
 int ForeignSymbols::version(const QVector<int>& symbols, int kinds) const
 {
     const auto here = afterHere(symbols);
-    for (auto symbol = here; symbol != symbols.cbegin();) {
+    // A name has one kind, or a few of them.
+    const int mostKinds = 8;
+    for (auto symbol = here; symbol != symbols.cbegin() && here - symbol < mostKinds;) {
         --symbol;
         if ((bit(m_program.symbols.at(*symbol).kind) & kinds) != 0)
             return *symbol;
     }
-    for (auto symbol = here; symbol != symbols.cend(); ++symbol) {
+    for (auto symbol = here; symbol != symbols.cend() && symbol - here < mostKinds; ++symbol) {
         if ((bit(m_program.symbols.at(*symbol).kind) & kinds) != 0)
             return *symbol;
     }
@@ -334,7 +378,7 @@ int ForeignSymbols::find(const QString& name, int kinds)
     const auto exact = m_byName.constFind(name);
     int found = exact != m_byName.constEnd() ? version(exact.value(), kinds) : -1;
     // Another spelling counts where nothing at all has this one.
-    if (exact != m_byName.constEnd() || m_dialect.namesDifferByCase)
+    if (exact != m_byName.constEnd() || m_dialect.namesDifferByCase || m_spelledTwice.contains(name.toLower()))
         return found;
     const auto similar = m_byLowerCase.constFind(name.toLower());
     found = similar != m_byLowerCase.constEnd() ? version(similar.value(), kinds) : -1;
@@ -343,6 +387,14 @@ int ForeignSymbols::find(const QString& name, int kinds)
         report(infoImpNameCase, {name, m_program.symbols.at(found).name});
     }
     return found;
+}
+
+/// Is it the first of several meanings of a name, all of them further down?
+bool ForeignSymbols::isAmbiguous(int symbol) const
+{
+    const ForeignSymbol& first = m_program.symbols.at(symbol);
+    const QVector<int> all = m_byName.value(first.name);
+    return first.statement > m_statement && all.last() != symbol && m_program.symbols.at(all.last()).kind == first.kind;
 }
 
 ForeignValue ForeignSymbols::evaluate(const QString& text)
@@ -359,7 +411,7 @@ int ForeignSymbols::registerOf(const QString& text, QString* ours)
         return renamed;
     }
     const int symbol = find(text, bit(ForeignSymbol::eRegister));
-    if (symbol < 0)
+    if (symbol < 0 || isAmbiguous(symbol))
         return -1;
     *ours = m_program.symbols.at(symbol).ours;
     return m_program.symbols.at(symbol).value;
@@ -375,6 +427,9 @@ ForeignValue ForeignSymbols::nameValue(const QString& name)
     int symbol = find(name, bit(ForeignSymbol::eValue));
     if (symbol < 0)
         symbol = known(name);
+    const int aRegister = symbol < 0 ? find(name, bit(ForeignSymbol::eRegister)) : -1;
+    if (qMax(symbol, aRegister) >= 0 && isAmbiguous(qMax(symbol, aRegister)))
+        return ForeignValue::failed(ForeignValue::eAmbiguousName, name);
     if (symbol >= 0)
         return valueOf(symbol);
     QString ours;
@@ -406,7 +461,7 @@ int ForeignSymbols::known(const QString& name)
         report(m_stamp.isKnown ? infoImpStamp : warnImpStamp, {name, hexNumber(value)});
     const int place = m_statement;
     m_statement = -1;
-    const int index = add(ForeignSymbol::eValue, name, -1, true);
+    const int index = add(ForeignSymbol::eValue, name, -1);
     m_statement = place;
     QString reason;
     ForeignSymbol& symbol = m_program.symbols[index];
@@ -532,7 +587,9 @@ bool ForeignSymbols::isUtf8() const
 
 void ForeignSymbols::nameIsNumber(const QString& name)
 {
-    if (m_told.contains(name))
+    // The longest numbers are addresses: three digits.
+    const bool isLonger = m_dialect.numbers == numHexPlain && name.size() > 3;
+    if (isLonger || m_told.contains(name))
         return;
     m_told.insert(name);
     report(warnImpNameIsNumber, {name});

@@ -5,6 +5,7 @@
 #include "ImportMsg.h"
 #include "ImportNames.h"
 #include "ProgramImage.h"
+#include "RegisterNames.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -23,30 +24,6 @@ struct ForeignStamp
 
     QDateTime moment;
     bool isKnown = false; ///< else it is a guess
-};
-
-/// The names of registers at one place of a program that renames them.
-class RegisterNames
-{
-public:
-    explicit RegisterNames(const ForeignDialect& dialect)
-        : m_dialect(&dialect)
-        , m_free(64, false)
-    {
-    }
-
-    /// -1 if no register has this name here.
-    int registerOf(const QString& name) const;
-    /// Gives the register of a name another name; the old one is free then.
-    /// @return the register; -1 if there is none, -2 if the new name is another register's
-    int rename(const QString& from, const QString& to);
-
-private:
-    QString keyOf(const QString& name) const;
-
-    const ForeignDialect* m_dialect;
-    QHash<QString, int> m_names; ///< other than the original ones
-    QVector<bool> m_free;        ///< by register: it does not have its original name
 };
 
 /// The names of a foreign program: what they stand for at each line, and what they are called in the result.
@@ -90,10 +67,15 @@ private:
     void collectLabels(int index);
     void collectDefinition(int index);
     void collectRegister(int index);
+    void checkRenames();
     void findAliases();
     void nameAll();
-    int add(ForeignSymbol::eKind_t kind, const QString& name, int statement, bool mayRepeat);
+    int add(ForeignSymbol::eKind_t kind, const QString& name, int statement);
+    void checkName(const QString& name);
+    bool isUnique(const ForeignSymbol& symbol);
+    bool isLocalLabel(const ForeignSymbol& symbol) const;
     int find(const QString& name, int kinds);
+    bool isAmbiguous(int symbol) const;
     QVector<int>::const_iterator afterHere(const QVector<int>& symbols) const;
     int version(const QVector<int>& symbols, int kinds) const;
     int localLabel(const QString& name) const;
@@ -109,7 +91,9 @@ private:
     RegisterNames m_registers;
     QHash<QString, QVector<int>> m_byName;
     QHash<QString, QVector<int>> m_byLowerCase;
+    QSet<QString> m_spelledTwice;  ///< in lower case: names that are defined in more than one spelling
     QHash<QString, int> m_renamed; ///< register symbols by name and number
+    QVector<int> m_renames;        ///< statements that give a register another name
     QHash<QString, QVector<int>> m_locals;
     QHash<int, int> m_labelAt;
     QSet<QString> m_told;

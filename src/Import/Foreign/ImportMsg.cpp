@@ -21,6 +21,7 @@ constexpr sImportMsg_t messages[] = {
     NALVO_MSG(errImpNotAFile, "Not a regular file: \"%1\""),
     NALVO_MSG(errImpTooLarge, "Larger than %2 MB, which no source is: \"%1\""),
     NALVO_MSG(errImpTooManyFiles, "More than %1 files are included."),
+    NALVO_MSG(errImpTooManyLines, "The program has more than %1 lines."),
     NALVO_MSG(errImpBinary, "Not a text: the byte %1 stands in the line."),
     NALVO_MSG(errImpLineTooLong, "The line is longer than %1 characters."),
     NALVO_MSG(errImpIncludeMissing, "Included file not found: \"%1\""),
@@ -43,6 +44,8 @@ constexpr sImportMsg_t messages[] = {
     NALVO_MSG(warnImpNameIsNumber, "\"%1\" is taken as the name, though it could be a number."),
     NALVO_MSG(infoImpNameCase, "\"%1\" is taken as \"%2\"."),
     NALVO_MSG(errImpDuplicateName, "\"%1\" is defined already in line %2 of \"%3\"."),
+    NALVO_MSG(errImpAmbiguousName, "\"%1\" has several values further down, and none before this line."),
+    NALVO_MSG(errImpAmbiguousOrder, "Assemblers do not agree on the order of the operators: set parentheses in %1"),
     NALVO_MSG(errImpCircle, "The value of \"%1\" depends on itself."),
     NALVO_MSG(errImpNumber, "Not a number: \"%1\""),
     NALVO_MSG(errImpTooLargeNumber, "\"%1\" is %2, which does not fit: the largest is %3."),
@@ -58,6 +61,7 @@ constexpr sImportMsg_t messages[] = {
     NALVO_MSG(infoImpStartFilled,
               "The program has nothing at address 0: an instruction with the word 00000 is put there."),
     NALVO_MSG(infoImpReordered, "The code at %1 is moved, as addresses ascend in the result."),
+    NALVO_MSG(infoImpAfterEnd, "\"%1\" ends the program: %2 lines after it are comments."),
     NALVO_MSG(infoImpUnusedFilled, "%1 unused words jump to \"%2\"."),
     NALVO_MSG(infoImpIntVector, "The interrupt vector is supposed to be %1."),
     NALVO_MSG(infoImpNumberForName, "\"%1\" becomes the number %2, as the result can not name it there."),
@@ -69,21 +73,22 @@ constexpr sImportMsg_t messages[] = {
     NALVO_MSG(errImpCannotWrite, "Can not write \"%1\": %2"),
     NALVO_MSG(errImpExists, "\"%1\" exists already. Overwrite it with --force, or choose another folder."),
     NALVO_MSG(errImpOriginal, "\"%1\" is a file of the original program, which is never overwritten."),
-    NALVO_MSG(errImpReference, "Can not compare with \"%1\": %2"),
+    NALVO_MSG(errImpReference, "Can not read the image \"%1\": %2"),
     NALVO_MSG(warnImpNoReference, "Not proved: there is no image of the old tool to compare with (--reference)."),
     NALVO_MSG(errImpNoInstruction, "Address %1: the word %2 is no instruction, %3."),
     NALVO_MSG(errImpRescue, "No sources can be made of \"%1\": %2"),
-    NALVO_MSG(errImpTooManyMessages, "More than %1 messages: the others are not shown."),
+    NALVO_MSG(errImpTooManyMessages, "More than %1 errors: the others are not shown."),
+    NALVO_MSG(infoImpTooManyNotes, "More than %1 notes and warnings: the others are not shown."),
 };
 
 static_assert(isIndexedBy(messages, &sImportMsg_t::type, eImportMsgCount), "the rows are indexed by eImportMsg_t");
 
-bool isError(eImportMsg_t type)
+} // namespace
+
+bool isImportError(eImportMsg_t type)
 {
     return std::strncmp(messages[type].key, "err", 3) == 0;
 }
-
-} // namespace
 
 const sImportMsg_t* importMsg(int type)
 {
@@ -106,13 +111,15 @@ QString ImportMessage::key() const
 
 void ImportMessages::add(eImportMsg_t type, const QStringList& arguments, const QString& file, int line)
 {
-    m_errors += int(isError(type));
+    // Notes leave room for errors.
+    const bool isError = isImportError(type);
+    const int number = ++(isError ? m_errors : m_others);
     ++m_counts[type];
-    if (m_all.size() > maxMessages)
+    if (number > maxMessages + 1)
         return;
-    const bool last = m_all.size() == maxMessages;
+    const bool last = number > maxMessages;
     ImportMessage message;
-    message.type = last ? errImpTooManyMessages : type;
+    message.type = !last ? type : isError ? errImpTooManyMessages : infoImpTooManyNotes;
     QString text = QCoreApplication::translate("nsImport::ImportMessages", messages[message.type].text);
     // In one go, so that a %1 in an argument is no place.
     const QStringList shown = last ? QStringList(QString::number(maxMessages)) : arguments;

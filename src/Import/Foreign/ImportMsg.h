@@ -15,6 +15,7 @@ enum eImportMsg_t {
     errImpNotAFile,
     errImpTooLarge,
     errImpTooManyFiles,
+    errImpTooManyLines,
     errImpBinary,
     errImpLineTooLong,
     errImpIncludeMissing,
@@ -37,6 +38,8 @@ enum eImportMsg_t {
     warnImpNameIsNumber,
     infoImpNameCase,
     errImpDuplicateName,
+    errImpAmbiguousName,
+    errImpAmbiguousOrder,
     errImpCircle,
     errImpNumber,
     errImpTooLargeNumber,
@@ -50,6 +53,7 @@ enum eImportMsg_t {
     infoImpTargetMade,
     infoImpStartFilled,
     infoImpReordered,
+    infoImpAfterEnd,
     infoImpUnusedFilled,
     infoImpIntVector,
     infoImpNumberForName,
@@ -65,6 +69,7 @@ enum eImportMsg_t {
     errImpNoInstruction,
     errImpRescue,
     errImpTooManyMessages,
+    infoImpTooManyNotes,
     eImportMsgCount, ///< number of messages, not a message
 };
 
@@ -78,6 +83,9 @@ struct sImportMsg_t
 
 /// The row of a message; null for a value outside of the catalogue.
 const sImportMsg_t* importMsg(int type);
+
+/// Is it an error?
+bool isImportError(eImportMsg_t type);
 
 /// A message with its place.
 struct ImportMessage
@@ -96,7 +104,7 @@ struct ImportMessage
 class ImportMessages
 {
 public:
-    static constexpr int maxMessages = 2000;
+    static constexpr int maxMessages = 2000; ///< errors, and as many others
 
     /// @param line counted from 1; 0 if there is none
     void add(eImportMsg_t type, const QStringList& arguments, const QString& file = QString(), int line = 0);
@@ -109,6 +117,7 @@ private:
     QVector<ImportMessage> m_all;
     QHash<int, int> m_counts;
     int m_errors = 0;
+    int m_others = 0;
 };
 
 } // namespace nsImport

@@ -84,9 +84,12 @@ QString ImportNames::make(const QString& wanted, eUse_t use, QString* reason)
     if (reason->isEmpty())
         *reason = refused;
     QString made = name + suffix;
-    for (int number = suffix.endsWith('2') ? 3 : 2; m_taken.contains(made.toLower()) || !refusal(made).isEmpty();
+    const bool isNumbered = suffix.endsWith('2');
+    // Goes on where the last one of these names has ended: there may be a hundred thousand.
+    int& number = m_numbers[made.toLower()];
+    for (number = qMax(number, isNumbered ? 3 : 2); m_taken.contains(made.toLower()) || !refusal(made).isEmpty();
          ++number)
-        made = name + (suffix.endsWith('2') ? QStringLiteral("_") : suffix) + QString::number(number);
+        made = name + (isNumbered ? QStringLiteral("_") : suffix) + QString::number(number);
     m_taken.insert(made.toLower(), {wanted, use});
     return made;
 }

@@ -35,6 +35,7 @@ private:
     };
 
     QHash<QString, Taken> m_taken; ///< by lower case
+    QHash<QString, int> m_numbers; ///< the next one for names that are made, by what they begin with
     QStringList m_registers;
     QStringList m_banks;
 };

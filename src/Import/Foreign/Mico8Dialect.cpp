@@ -69,8 +69,9 @@ constexpr sForeignWord_t words[] = {
     {"LSP", opInstruction, ocRdmem, frmPortDirect},
     {"LSPI", opInstruction, ocRdmem, frmPortIndirect},
     {"EQU", opEquate},
-    {"REG", opEquate},
-    {".EQU", opConstant},
+    {"=", opEquate},
+    {"REG", opEquate, ocUndefined, frmReg},
+    {".EQU", opSetConstant},
     {".SET", opSetConstant},
     {".ORG", opAddress},
     {"ORG", opAddress},
@@ -91,7 +92,7 @@ constexpr sForeignWord_t words[] = {
     {".FILE", opIgnored},
     {".IDENT", opIgnored},
     {".LOC", opIgnored},
-    {".END", opIgnored},
+    {".END", opEnd},
     {".BYTE", opNoCounter},
     {".SHORT", opNoCounter},
     {".HALF", opNoCounter},
@@ -126,6 +127,7 @@ ForeignDialect dialect()
     d.wordCount = int(sizeof(words) / sizeof(words[0]));
     d.numbers = numC;
     d.expressions = true;
+    d.anyOrder = true;
     d.hashComments = true;
     d.cComments = true;
     d.localLabels = true;

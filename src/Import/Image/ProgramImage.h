@@ -48,6 +48,8 @@ public:
 
     /// One more than the highest address with a word.
     int size() const { return int(m_words.size()); }
+    /// Words of the memory that it is for: what the file tells, or at least what is used.
+    int memorySize() const { return depth > size() ? depth : size(); }
     /// Number of words.
     int count() const { return m_count; }
     bool isEmpty() const { return m_count == 0; }

@@ -93,7 +93,7 @@ RescueResult Rescue::run(const ProgramImage& image) const
     result.filledCount = writer.filledCount();
     result.wordCount = image.count() - result.filledCount;
     result.addedCount = writer.added().size();
-    addFindings(image, flow, &result);
+    addFindings(m_table, image, flow, &result);
     if (result.addedCount > 0)
         result.notes.append(
             QStringLiteral("Instructions with the word 0 were added at addresses that something leads to and that "
@@ -105,8 +105,11 @@ RescueResult Rescue::run(const ProgramImage& image) const
     return result;
 }
 
-void Rescue::addFindings(const ProgramImage& image, const RescueFlow& flow, RescueResult* result)
+void Rescue::addFindings(const nsProc::ProcTable& table, const ProgramImage& image, const RescueFlow& flow,
+                         RescueResult* result)
 {
+    const int reach = 1 << table.layout.flowBits;
+    int beyond = 0;
     int unreached = 0;
     for (int address = 0; address < image.size(); ++address) {
         if (!image.contains(address))
@@ -116,7 +119,13 @@ void Rescue::addFindings(const ProgramImage& image, const RescueFlow& flow, Resc
             result->invalid.append(
                 {address, image.word(address), word.reason, word.reachable || flow.hasComputedTargets()});
         unreached += word.reachable ? 0 : 1;
+        beyond += address >= reach ? 1 : 0;
     }
+    if (beyond > 0)
+        result->notes.append(
+            QStringLiteral("Number of words beyond address %1, the last one that the processor reaches: %2.")
+                .arg(addressList({reach - 1}))
+                .arg(beyond));
     if (flow.hasComputedTargets())
         result->notes.append(
             QStringLiteral("Jumps or calls take their target from registers: everything may be reached, and no code "

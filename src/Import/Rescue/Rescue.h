@@ -63,7 +63,8 @@ public:
     RescueResult run(const ProgramImage& image) const;
 
 private:
-    static void addFindings(const ProgramImage& image, const RescueFlow& flow, RescueResult* result);
+    static void addFindings(const nsProc::ProcTable& table, const ProgramImage& image, const RescueFlow& flow,
+                            RescueResult* result);
     bool check(const ProgramImage& image, const RescueFlow& flow, const QByteArray& source,
                const nsProc::ProcCoreConfig& settings, QString* error) const;
 

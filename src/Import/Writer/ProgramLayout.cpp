@@ -176,6 +176,8 @@ void ProgramLayout::attachDefinitions()
 void ProgramLayout::addFillers(int memorySize)
 {
     const bool fillsAll = m_program.defaultJump >= 0;
+    while (memorySize < m_size)
+        memorySize *= 2;
     for (int address = 0; address < m_occupied.size(); ++address) {
         if (m_occupied.at(address) >= 0)
             continue;

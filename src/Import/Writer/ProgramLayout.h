@@ -44,7 +44,7 @@ public:
     /// @param program, messages not owned
     ProgramLayout(ForeignProgram& program, ImportMessages& messages);
 
-    /// @param memorySize words of the memory, for the unused ones
+    /// @param memorySize least words of the memory, for the unused ones; above 0
     void arrange(int memorySize);
 
     const QVector<LayoutSource>& sources() const { return m_sources; }

@@ -64,7 +64,7 @@ const Words& alone()
 /// Lines for the linker that make no words.
 const QStringList& linkerLines()
 {
-    static const QStringList words = {".TEXT", ".GLOBAL", ".TYPE", ".SIZE", ".SECTION"};
+    static const QStringList words = {".TEXT", ".GLOBAL", ".TYPE", ".SIZE", ".SECTION", ".END"};
     return words;
 }
 
@@ -167,8 +167,12 @@ void Mico8::read(const QString& mainFile)
     if (!found)
         m_errors->append(mainFile + " can not be read");
     bool inBlock = false;
-    for (const Line& line : lines)
+    for (const Line& line : lines) {
         readStatement(line, withoutComments(line.text, &inBlock).trimmed());
+        // What follows the end is not looked at.
+        if (m_statements.last().word == ".END")
+            break;
+    }
     if (inBlock)
         m_errors->append(mainFile + ": a comment without end");
 }
@@ -299,7 +303,7 @@ int Mico8::targetOf(const Statement& statement, const QString& operand)
     if (m_labels.contains(operand))
         return m_labels[operand];
     static const QRegularExpression local("^(\\d+)([bf])$");
-    static const QRegularExpression relative("^\\$\\s*(?:([+-])\\s*(\\d+|0x[0-9a-fA-F]+))?$");
+    static const QRegularExpression relative("^[$.]\\s*(?:([+-])\\s*(\\d+|0x[0-9a-fA-F]+))?$");
     const QRegularExpressionMatch isLocal = local.match(operand);
     if (isLocal.hasMatch())
         return localTarget(statement, isLocal.captured(1), isLocal.captured(2) == "f");
@@ -308,6 +312,9 @@ int Mico8::targetOf(const Statement& statement, const QString& operand)
         const int distance = isRelative.captured(2).isEmpty() ? 0 : valueOf(isRelative.captured(2));
         return statement.address + (isRelative.captured(1) == "-" ? -distance : distance);
     }
+    const int number = operand.isEmpty() || !operand[0].isDigit() ? -1 : valueOf(operand);
+    if (number >= 0)
+        return number;
     fail(statement.line, "no target: " + operand);
     return statement.address;
 }

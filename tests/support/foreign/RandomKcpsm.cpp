@@ -54,6 +54,8 @@ private:
     void defineTable(const QString& name);
     void renameRegister();
     void moveOn();
+    void moveTo(int address);
+    bool hasRoom(int words);
     void include();
     void includeAgain();
     void instruction();
@@ -76,6 +78,7 @@ private:
     bool m_large = false;
     bool m_stamps = false; ///< reads the time of the run
     int m_address = 0;
+    bool m_isFull = false;         ///< no piece of the memory is free
     QStringList m_registers;       ///< the name of each one at this line
     QStringList m_freed;           ///< names that registers had before
     QStringList m_constants;       ///< all, also those whose line comes at the end
@@ -118,12 +121,14 @@ RandomProgram RandomKcpsm::run()
     m_files.append(SourceFile{"main.psm", QByteArray()});
     m_open.append(0);
     plan();
+    if (chance(40))
+        scatter(m_large ? 4096 : 1024, m_large ? 128 : 32, 3);
     const int lines = 50 + below(320);
     const bool defaultJump = m_six && !m_large && chance(15);
     if (defaultJump)
         endLine(gap() + word("DEFAULT_JUMP") + gap() + target());
     const int room = (m_large ? 4096 : 1024) - 64;
-    for (int line = 0; line < lines && m_address < room; ++line) {
+    for (int line = 0; line < lines && m_address < room && !m_isFull; ++line) {
         const int kind = below(100);
         if (kind < 4)
             addLine(mayGap() + (chance(50) ? ";" + commentText() : QString()));
@@ -238,13 +243,35 @@ void RandomKcpsm::renameRegister()
 void RandomKcpsm::moveOn()
 {
     // Nothing is behind the first word, which has to stand at 0.
-    if (m_address == 0 || m_address > (m_large ? 0xC00 : 0x280))
+    if (isScattered() && m_address > 0) {
+        moveTo(nextPiece());
+        return;
+    }
+    if (isScattered() || m_address == 0 || m_address > (m_large ? 0xC00 : 0x280))
         return;
     // A label may be left behind where no instruction follows.
     if (!m_unplaced.isEmpty() && chance(25))
         endLine(m_unplaced.takeAt(below(m_unplaced.size())) + ":");
     m_address += 1 + below(m_large ? 0x180 : 0x18);
     endLine(gap() + word("ADDRESS") + gap() + hex(m_address, 3));
+}
+
+/// @param address -1: there is none
+void RandomKcpsm::moveTo(int address)
+{
+    m_isFull = address < 0;
+    if (m_isFull)
+        return;
+    m_address = address + below(3);
+    endLine(gap() + word("ADDRESS") + gap() + hex(m_address, 3));
+}
+
+/// Makes room for this many words.
+bool RandomKcpsm::hasRoom(int words)
+{
+    if (!fits(m_address, words))
+        moveTo(nextPiece());
+    return !m_isFull && fits(m_address, words);
 }
 
 void RandomKcpsm::include()
@@ -272,6 +299,8 @@ void RandomKcpsm::includeAgain()
         m_again = "again.psm";
         m_files.append(SourceFile{m_again, "\tLOAD sF, 01 ; the same lines at each place\n\tADD sF, sF\n\tRETURN Z\n"});
     }
+    if (!hasRoom(3))
+        return;
     addLine(gap() + word("INCLUDE") + gap() + "\"" + m_again + "\"");
     m_address += 3;
 }
@@ -283,6 +312,8 @@ void RandomKcpsm::instruction()
 
 void RandomKcpsm::emitInstruction(const QString& text, int size)
 {
+    if (!hasRoom(size))
+        return;
     QString before = gap();
     if (!m_unplaced.isEmpty() && chance(20)) {
         before = mayGap() + m_unplaced.takeAt(below(m_unplaced.size())) + mayGap() + ":";
@@ -299,7 +330,7 @@ void RandomKcpsm::emitInstruction(const QString& text, int size)
 
 void RandomKcpsm::sequence()
 {
-    if (m_sequences.isEmpty() || m_address > (m_large ? 0xD00 : 0x300))
+    if (m_sequences.isEmpty() || (!isScattered() && m_address > (m_large ? 0xD00 : 0x300)))
         return;
     const Sequence used = pick(m_sequences);
     if (chance(50)) {
@@ -317,6 +348,8 @@ void RandomKcpsm::finish()
         m_open.removeLast();
     if (m_address == 0)
         instruction();
+    if (isScattered())
+        moveTo(m_large ? 0xE80 : 0x3A0);
     // Some programs end with an interrupt vector, some with a label at the end of everything.
     const bool open = chance(20) && m_unplaced.size() > 1;
     const QString last = open ? m_unplaced.takeLast() : QString();
@@ -382,10 +415,11 @@ QString RandomKcpsm::instructionOfSix()
     case 3:
         return word("HWBUILD") + gap() + x;
     case 4: {
-        // The register of the other bank by a name that means the same in both.
+        // A register of the other bank has its own name, whatever this one is called in the present bank.
         const int number = below(16);
         const QString plain = "s" + QString::number(number, 16).toUpper();
-        return m_registers[number] == plain ? word("STAR") + gap() + plain + ", " + y : word("REGBANK") + gap() + "A";
+        const bool isTaken = m_registers[number] != plain && m_registers.contains(plain);
+        return isTaken ? word("REGBANK") + gap() + "A" : word("STAR") + gap() + plain + ", " + y;
     }
     case 5:
         return word(chance(50) ? "JUMP@" : "CALL@") + gap() + "(" + mayGap() + x + mayGap() + "," + mayGap() + y +

@@ -28,6 +28,7 @@ private:
     void define(const QString& name);
     void setAgain();
     void lineWithoutWord();
+    void moveTo(int address);
     void instruction();
     void localLabel();
     QString instructionText();
@@ -41,6 +42,8 @@ private:
     bool m_gnu;
     QString m_text;
     int m_address = 0;
+    bool m_isEnding = false; ///< what is written now goes to the reserved pieces
+    bool m_isFull = false;   ///< no piece of the memory is free
     QStringList m_constants;
     QStringList m_late;  ///< constants that are defined at the end
     QStringList m_small; ///< constants up to 31
@@ -107,13 +110,17 @@ RandomProgram RandomMico8::run()
     if (m_gnu && chance(60))
         m_text += "\t.section .text\n\t.text\n\t.global main\n\t.type main, @function\n";
     plan();
-    for (int lines = 50 + below(320); lines > 0; --lines) {
+    if (chance(40))
+        scatter(1024, 32, 3);
+    for (int lines = 50 + below(320); lines > 0 && !m_isFull; --lines) {
         const int kind = below(100);
         if (kind < 6) {
             lineWithoutWord();
         } else if (kind < 9) {
             m_gnu && !m_constants.isEmpty() && chance(30) ? setAgain() : define(newName());
-        } else if (kind < 10 && m_address > 0 && m_address < 0x280) {
+        } else if (kind < 10 && isScattered() && m_address > 0) {
+            moveTo(nextPiece());
+        } else if (kind < 10 && !isScattered() && m_address > 0 && m_address < 0x280) {
             // A label may be left behind where no instruction follows.
             if (!m_unplaced.isEmpty() && chance(25))
                 m_text += m_unplaced.takeAt(below(m_unplaced.size())) + ":\n";
@@ -125,6 +132,9 @@ RandomProgram RandomMico8::run()
             instruction();
         }
     }
+    m_isEnding = true;
+    if (isScattered() && m_address > 0)
+        moveTo(0x3A0);
     const QStringList rest = m_unplaced + m_behind;
     m_unplaced.clear();
     m_behind.clear();
@@ -135,6 +145,8 @@ RandomProgram RandomMico8::run()
                       : name + gap() + "equ" + gap() + literal(below(256)));
     if (m_gnu && chance(50))
         m_text += "\t.size main, .-main\n";
+    if (m_gnu && chance(30))
+        m_text += "\t.end\nThis is no program:\n\tmovi r99, nothing\n";
     if (chance(30))
         m_text.replace("\n", "\r\n");
     return {{{"main.s", m_text.toLatin1()}}, 1024};
@@ -167,12 +179,26 @@ void RandomMico8::localLabel()
     m_behind.removeAll(number);
     if (!m_locals.contains(number))
         m_locals.append(number);
-    m_text += number + ":" + (chance(40) ? "\n" : "");
+    m_text += number + ":\n";
     instruction();
+}
+
+/// @param address -1: there is none
+void RandomMico8::moveTo(int address)
+{
+    m_isFull = address < 0;
+    if (m_isFull)
+        return;
+    m_address = address + below(3);
+    endLine(gap() + ".org" + gap() + literal(m_address));
 }
 
 void RandomMico8::instruction()
 {
+    if (!m_isEnding && !fits(m_address, 1))
+        moveTo(nextPiece());
+    if (m_isFull)
+        return;
     if (!m_unplaced.isEmpty() && chance(20) && !m_text.endsWith(':')) {
         m_text += m_unplaced.takeAt(below(m_unplaced.size())) + mayGap() + ":" + mayGap();
         if (chance(30))
@@ -227,7 +253,9 @@ QString RandomMico8::branch()
         return start + number + "f";
     }
     if (chance(10))
-        return start + "$";
+        return start + (m_gnu && chance(50) ? "." : "$");
+    if (chance(10))
+        return start + "0x" + hex(below(0x400), 1 + below(3));
     if (chance(50))
         return start + "$+" + QString::number(below(40));
     return start + "$-" + QString::number(below(qMin(m_address, 40) + 1));

@@ -24,6 +24,7 @@ public:
 private:
     void endLine(const QString& text) { m_text += text + (chance(30) ? gap() + ";" + commentText() : mayGap()) + "\n"; }
     void define(const QString& name);
+    void moveTo(int address);
     void instruction();
     QString instructionText();
     QString anyRegister();
@@ -33,6 +34,8 @@ private:
 
     QString m_text;
     int m_address = 0;
+    bool m_isEnding = false; ///< what is written now goes to the reserved pieces
+    bool m_isFull = false;   ///< no piece of the memory is free
     QStringList m_constants;
     QStringList m_cells; ///< names of addresses of the scratchpad
     QStringList m_registers;
@@ -78,13 +81,17 @@ RandomProgram RandomPBlazIde::run()
     for (int i = 4 + below(24); i > 0; --i)
         m_labels.append(newName());
     m_unplaced = m_labels;
-    for (int lines = 50 + below(320); lines > 0; --lines) {
+    if (chance(40))
+        scatter(1024, 32, 3);
+    for (int lines = 50 + below(320); lines > 0 && !m_isFull; --lines) {
         const int kind = below(100);
         if (kind < 4) {
             m_text += mayGap() + (chance(50) ? ";" + commentText() : QString()) + "\n";
         } else if (kind < 8) {
             define(newName());
-        } else if (kind < 9 && m_address > 0 && m_address < 0x280) {
+        } else if (kind < 9 && isScattered() && m_address > 0) {
+            moveTo(nextPiece());
+        } else if (kind < 9 && !isScattered() && m_address > 0 && m_address < 0x280) {
             // A label may be left behind where no instruction follows.
             if (!m_unplaced.isEmpty() && chance(25))
                 m_text += m_unplaced.takeAt(below(m_unplaced.size())) + ":\n";
@@ -94,6 +101,9 @@ RandomProgram RandomPBlazIde::run()
             instruction();
         }
     }
+    m_isEnding = true;
+    if (isScattered() && m_address > 0)
+        moveTo(0x3A0);
     const QStringList rest = m_unplaced;
     m_unplaced.clear();
     for (const QString& label : rest) {
@@ -109,8 +119,22 @@ RandomProgram RandomPBlazIde::run()
     return {{{"main.psm", m_text.toLatin1()}}, 1024};
 }
 
+/// @param address -1: there is none
+void RandomPBlazIde::moveTo(int address)
+{
+    m_isFull = address < 0;
+    if (m_isFull)
+        return;
+    m_address = address + below(3);
+    endLine(gap() + word("ORG") + gap() + literal(m_address));
+}
+
 void RandomPBlazIde::instruction()
 {
+    if (!m_isEnding && !fits(m_address, 1))
+        moveTo(nextPiece());
+    if (m_isFull)
+        return;
     if (!m_unplaced.isEmpty() && chance(20)) {
         m_text += m_unplaced.takeAt(below(m_unplaced.size())) + mayGap() + ":" + mayGap();
         if (chance(30))

@@ -1,5 +1,7 @@
 #include "RandomText.h"
 
+#include "RandomDisguise.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -42,6 +44,24 @@ QString RandomText::newName()
         m_names.append(name);
         return name;
     }
+}
+
+void RandomText::scatter(int words, int size, int reserved)
+{
+    m_pieceSize = size;
+    m_pieceEnd = size;
+    m_pieces.clear();
+    for (int piece = 1; piece < words / size - reserved; ++piece)
+        m_pieces.append(piece * size);
+}
+
+int RandomText::nextPiece()
+{
+    if (m_pieces.isEmpty())
+        return -1;
+    const int start = m_pieces.takeAt(below(m_pieces.size()));
+    m_pieceEnd = start + m_pieceSize;
+    return start;
 }
 
 QString RandomText::word(const QString& capitals)
@@ -103,7 +123,9 @@ QString RandomText::commentText()
     return pick(texts);
 }
 
-RandomProgram randomProgram(Dialect dialect, unsigned seed)
+namespace {
+
+RandomProgram plainProgram(Dialect dialect, unsigned seed)
 {
     switch (dialect) {
     case Dialect::Kcpsm3:
@@ -118,6 +140,14 @@ RandomProgram randomProgram(Dialect dialect, unsigned seed)
         return randomMico8(true, seed);
     }
     return {};
+}
+
+} // namespace
+
+RandomProgram randomProgram(Dialect dialect, unsigned seed)
+{
+    const RandomProgram program = plainProgram(dialect, seed);
+    return seed % 2 == 0 ? program : disguised(program, dialect, seed);
 }
 
 QString writeProgram(const RandomProgram& program, const QString& folder)

@@ -41,6 +41,15 @@ protected:
     /// A printable character, without double quote.
     QChar letter();
 
+    /// Divides the memory into pieces that the code goes to in any order; the first is the one at 0.
+    /// @param words of the memory; @param size words of a piece; @param reserved pieces at its end that stay free
+    void scatter(int words, int size, int reserved);
+    bool isScattered() const { return m_pieceSize > 0; }
+    /// A free piece, from now on the present one; -1 if there is none.
+    int nextPiece();
+    /// Do this many words fit into the present piece?
+    bool fits(int address, int words) const { return !isScattered() || address + words <= m_pieceEnd; }
+
     /// White space, at least one.
     QString gap();
 
@@ -53,6 +62,9 @@ protected:
     std::mt19937 m_random;
 
 private:
+    QVector<int> m_pieces; ///< addresses of the free ones
+    int m_pieceSize = 0;   ///< 0: the memory is not divided
+    int m_pieceEnd = 0;    ///< of the present one
     QStringList m_traps;
     bool m_caseTells;
     QStringList m_names;
