@@ -166,6 +166,10 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
     addTitled(grid, rowTab, columnDestination, tr("Tab space:"), m_dstTabIndent);
     grid->addWidget(m_dstTabIndent, rowTab, columnDestination + 1, Qt::AlignLeft);
 
+    m_program = button(QStringLiteral("importProgram"), tr("Import &program..."),
+                       tr("Make a project of a whole program with the files that it includes, or of an image"));
+    grid->addWidget(m_program, rowSyntax, columnDestination, 1, 2, Qt::AlignRight);
+
     m_destination = new ImportEditorWidget(this);
     m_destination->setObjectName(QStringLiteral("importDestination"));
     m_destination->setAccessibleName(tr("Destination file"));
@@ -202,6 +206,7 @@ void ImportWidget::connectControls()
     connect(m_convertAll, &QPushButton::clicked, this, &ImportWidget::convertAll);
     connect(m_stop, &QPushButton::clicked, this, &ImportWidget::stop);
     connect(m_useFile, &QPushButton::clicked, this, QOverload<>::of(&ImportWidget::useFile));
+    connect(m_program, &QPushButton::clicked, this, &ImportWidget::importProgramRequested);
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &ImportWidget::stop);

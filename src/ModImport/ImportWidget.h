@@ -46,6 +46,8 @@ public:
 signals:
     /// The user wants the result. @param srcCode converted source
     void useFile(QString srcCode);
+    /// The user wants to import more than one file.
+    void importProgramRequested();
 
 public slots:
     void setSrcTabIndent(int indent);
@@ -102,6 +104,7 @@ private:
     QPushButton* m_convertLine = nullptr;
     QPushButton* m_convertAll = nullptr;
     QPushButton* m_useFile = nullptr;
+    QPushButton* m_program = nullptr;
     QPushButton* m_stop = nullptr;
     QProgressBar* m_progress = nullptr;
 };
