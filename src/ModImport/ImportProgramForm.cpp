@@ -100,7 +100,6 @@ QWidget* ImportProgramForm::makeSourcesTab()
     m_reference = new MyFileSelectOpen(tab);
     m_reference->setObjectName(QStringLiteral("importProgramReference"));
     m_reference->setWindowTitle(tr("Select the image that the old tool has made"));
-    m_reference->pathEdit()->setPlaceholderText(tr("None: the result is not proved"));
     m_sourceTarget.select = makeTarget(tab, QStringLiteral("importProgramFolder"));
 
     addField(grid, tr("&Main source:"), m_source, tr("The source that includes the others. It is only read."));
@@ -109,7 +108,7 @@ QWidget* ImportProgramForm::makeSourcesTab()
         grid, tr("I&nclude folders:"), m_folders,
         tr("Included files are looked for in these folders too, and nothing is read outside of them and the folder "
            "of the program"));
-    addField(grid, tr("R&eference image:"), m_reference,
+    addField(grid, tr("R&eference image (optional):"), m_reference,
              tr("The result is compared with it word by word: hex, mem, coe, mif, VHDL or Verilog with INIT strings, a "
                 "log or a listing. The content tells which it is."));
     addField(grid, tr("&Project folder:"), m_sourceTarget.select,

@@ -189,7 +189,7 @@ QString ImportProgramReport::detailsOf(const ImportJob& job)
                               QLatin1String(program->import().dialect().title)));
         const int renamed = program->import().messages().count(nsImport::infoImpRenamed);
         if (renamed > 0)
-            parts.append(renamed == 1 ? tr("1 name is another one.") : tr("%1 names are other ones.").arg(renamed));
+            parts.append(renamed == 1 ? tr("1 name was changed.") : tr("%1 names were changed.").arg(renamed));
     }
     if (job.isWritten())
         parts.append(tr("Project: %1").arg(QDir::toNativeSeparators(job.projectFile())));

@@ -72,6 +72,7 @@ private:
     void initFilter();
     void layoutSource(QGridLayout* grid);
     void layoutDestination(QGridLayout* grid);
+    void layoutButtons(QGridLayout* grid);
     void connectControls();
     void addTitled(QGridLayout* grid, int row, int column, const QString& title, QWidget* field);
     QSpinBox* tabSpinBox(const QString& name, const QString& toolTip);

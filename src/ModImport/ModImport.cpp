@@ -12,8 +12,6 @@
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
 
-#include <QApplication>
-
 namespace nsModImport {
 
 namespace {
@@ -103,25 +101,13 @@ void ModImport::useFile(QString srcCode)
 
 // --- whole programs ---
 
-/// The window that has the style sheet, and in front of which the dialog stays.
-QWidget* ModImport::mainWindow() const
-{
-    QWidget* widget = m_widget;
-    if (widget == nullptr && modGuiHook != nullptr)
-        widget = modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs);
-    if (widget == nullptr)
-        widget = QApplication::activeWindow();
-    while (widget != nullptr && widget->parentWidget() != nullptr)
-        widget = widget->parentWidget();
-    return widget;
-}
-
 void ModImport::openImportProgramDialog()
 {
     if (modGuiHook == nullptr)
         return;
     if (!m_programDialog) {
-        m_programDialog = new ImportProgramDialog(&m_pool, mainWindow());
+        // The parent is the main window, whose style the dialog has and in front of which it stays.
+        m_programDialog = new ImportProgramDialog(&m_pool, qobject_cast<QWidget*>(parent()));
         m_programDialog->setConfig(m_programConfig);
         m_programDialog->setCanOpenProject(modPrjHook != nullptr);
         HelpRef::set(m_programDialog, QLatin1String(programHelp));

@@ -82,7 +82,6 @@ public slots:
     void useFile(QString srcCode);
 
 private:
-    QWidget* mainWindow() const;
     void showPlace(const QString& file, int line);
     void openProject(const QString& file);
 
