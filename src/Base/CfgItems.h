@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QtGlobal>
 
 // A class with settings lists its fields with their keys once, in a template over the direction. So no key can be
@@ -28,6 +29,7 @@ public:
     }
 
     void item(const QString& key, QString& field) { field = m_settings->value(key, field); }
+    void item(const QString& key, QStringList& field) { field = m_settings->value(key, field); }
     void item(const QString& key, bool& field) { field = m_settings->value(key, int(field)) != 0; }
     /// A number outside of the range becomes the nearest one inside.
     void item(const QString& key, int& field, int first, int last)
@@ -65,6 +67,7 @@ public:
     }
 
     void item(const QString& key, const QString& field) { m_settings->setValue(key, field); }
+    void item(const QString& key, const QStringList& field) { m_settings->setValue(key, field); }
     void item(const QString& key, bool field) { m_settings->setValue(key, int(field)); }
     void item(const QString& key, int field, int, int) { m_settings->setValue(key, field); }
     void choice(const QString& key, int field, int) { m_settings->setValue(key, field); }

@@ -10,4 +10,13 @@ ImportActions::ImportActions(QObject* parent)
     });
 }
 
+ImportProgramActions::ImportProgramActions(QObject* parent)
+    : ActionGroup(parent, ":/ModImport/img/actions/")
+{
+    addEntries({
+        {eActionImportProgram, QT_TR_NOOP("Import program..."),
+         QT_TR_NOOP("Makes a project of a program for another assembler, or of an image."), "import-program"},
+    });
+}
+
 } // namespace nsModImport

@@ -25,4 +25,24 @@ protected:
     void report(int action) override { emit triggered(eAction_t(action)); }
 };
 
+/// The entry that imports a whole program. It needs no project, as it makes one.
+class ImportProgramActions : public ActionGroup
+{
+    Q_OBJECT
+
+public:
+    enum eAction_t { eActionImportProgram = 0 };
+    Q_ENUM(eAction_t)
+
+    explicit ImportProgramActions(QObject* parent = nullptr);
+
+    QList<QAction*> toolBarActions() const override { return {}; }
+
+signals:
+    void triggered(nsModImport::ImportProgramActions::eAction_t action);
+
+protected:
+    void report(int action) override { emit triggered(eAction_t(action)); }
+};
+
 } // namespace nsModImport

@@ -66,6 +66,7 @@ ImportWidget::ImportWidget(QWidget* parent)
     grid->setRowStretch(rowText, 1);
     layoutSource(grid);
     layoutDestination(grid);
+    layoutButtons(grid);
     layout->addFill(grid);
     setFocusProxy(m_select);
     initFilter();
@@ -151,12 +152,6 @@ void ImportWidget::layoutSource(QGridLayout* grid)
     m_convertLine = button(QStringLiteral("importConvertLine"), tr("&Convert line"), tr("Convert the next line"));
     m_convertAll = button(QStringLiteral("importConvertAll"), tr("Convert &all"),
                           tr("Convert up to the end, or to the first line that can not be converted"));
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(gap);
-    for (QPushButton* one : {m_restart, m_convertLine, m_convertAll})
-        buttons->addWidget(one);
-    buttons->addStretch(1);
-    grid->addLayout(buttons, rowButtons, columnSource, 1, 2);
 }
 
 void ImportWidget::layoutDestination(QGridLayout* grid)
@@ -165,6 +160,10 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
     m_dstTabIndent = tabSpinBox(QStringLiteral("importDstTab"), tr("Width of a tab in the result, in characters"));
     addTitled(grid, rowTab, columnDestination, tr("Tab space:"), m_dstTabIndent);
     grid->addWidget(m_dstTabIndent, rowTab, columnDestination + 1, Qt::AlignLeft);
+
+    m_program = button(QStringLiteral("importProgram"), tr("Import &program..."),
+                       tr("Make a project of a whole program with the files that it includes, or of an image"));
+    grid->addWidget(m_program, rowSyntax, columnDestination, 1, 2, Qt::AlignRight);
 
     m_destination = new ImportEditorWidget(this);
     m_destination->setObjectName(QStringLiteral("importDestination"));
@@ -182,12 +181,21 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
     m_stop->hide();
     m_useFile =
         button(QStringLiteral("importUse"), tr("Use converted file"), tr("Open the converted file as a new document"));
+}
+
+/// The buttons of both sides share a row of the whole width: side by side in their halves they would be wider than the
+/// page between two docks.
+void ImportWidget::layoutButtons(QGridLayout* grid)
+{
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap);
+    for (QPushButton* one : {m_restart, m_convertLine, m_convertAll})
+        buttons->addWidget(one);
+    buttons->addStretch(1);
     buttons->addWidget(m_progress, 1);
     buttons->addWidget(m_stop);
-    buttons->addWidget(m_useFile, 0, Qt::AlignRight);
-    grid->addLayout(buttons, rowButtons, columnDestination, 1, 2);
+    buttons->addWidget(m_useFile);
+    grid->addLayout(buttons, rowButtons, columnSource, 1, columnCount);
 }
 
 void ImportWidget::connectControls()
@@ -202,6 +210,7 @@ void ImportWidget::connectControls()
     connect(m_convertAll, &QPushButton::clicked, this, &ImportWidget::convertAll);
     connect(m_stop, &QPushButton::clicked, this, &ImportWidget::stop);
     connect(m_useFile, &QPushButton::clicked, this, QOverload<>::of(&ImportWidget::useFile));
+    connect(m_program, &QPushButton::clicked, this, &ImportWidget::importProgramRequested);
     auto* escape = new QShortcut(QKeySequence(Qt::Key_Escape), this);
     escape->setContext(Qt::WidgetWithChildrenShortcut);
     connect(escape, &QShortcut::activated, this, &ImportWidget::stop);

@@ -46,6 +46,8 @@ public:
 signals:
     /// The user wants the result. @param srcCode converted source
     void useFile(QString srcCode);
+    /// The user wants to import more than one file.
+    void importProgramRequested();
 
 public slots:
     void setSrcTabIndent(int indent);
@@ -70,6 +72,7 @@ private:
     void initFilter();
     void layoutSource(QGridLayout* grid);
     void layoutDestination(QGridLayout* grid);
+    void layoutButtons(QGridLayout* grid);
     void connectControls();
     void addTitled(QGridLayout* grid, int row, int column, const QString& title, QWidget* field);
     QSpinBox* tabSpinBox(const QString& name, const QString& toolTip);
@@ -102,6 +105,7 @@ private:
     QPushButton* m_convertLine = nullptr;
     QPushButton* m_convertAll = nullptr;
     QPushButton* m_useFile = nullptr;
+    QPushButton* m_program = nullptr;
     QPushButton* m_stop = nullptr;
     QProgressBar* m_progress = nullptr;
 };

@@ -1,7 +1,10 @@
 #include "ModImport.h"
 
+#include "ImportProgramDialog.h"
 #include "ImportWidget.h"
 
+#include "HelpRef.h"
+#include "ModCfgAppHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
 #include "ModHlpHookIf.h"
@@ -11,13 +14,22 @@
 
 namespace nsModImport {
 
+namespace {
+
+const char* const programHelp = "pageId://filesImport#program";
+
+} // namespace
+
 ModImport::ModImport(QObject* parent)
     : QObject(parent)
 {
+    m_pool.setMaxThreadCount(2);
 }
 
 ModImport::~ModImport()
 {
+    // One that is shown belongs to the window; its worker uses the pool.
+    delete m_programDialog;
     // A page in the window is deleted with it.
     if (m_widget != nullptr && m_widget->parent() == nullptr)
         delete m_widget;
@@ -33,6 +45,7 @@ void ModImport::openImportDialog()
     if (modPrjHook != nullptr)
         m_widget->setPrjPath(modPrjHook->prjDir().absolutePath());
     connect(m_widget, QOverload<QString>::of(&ImportWidget::useFile), this, &ModImport::useFile);
+    connect(m_widget, &ImportWidget::importProgramRequested, this, &ModImport::openImportProgramDialog);
     // Whoever deletes the window's widgets deletes the page, too.
     connect(m_widget, &QObject::destroyed, this, [this](QObject* page) {
         if (page == m_widget)
@@ -86,6 +99,51 @@ void ModImport::useFile(QString srcCode)
         modEditorHook->newFile(srcCode);
 }
 
+// --- whole programs ---
+
+void ModImport::openImportProgramDialog()
+{
+    if (modGuiHook == nullptr)
+        return;
+    if (!m_programDialog) {
+        // The parent is the main window, whose style the dialog has and in front of which it stays.
+        m_programDialog = new ImportProgramDialog(&m_pool, qobject_cast<QWidget*>(parent()));
+        m_programDialog->setConfig(m_programConfig);
+        m_programDialog->setCanOpenProject(modPrjHook != nullptr);
+        HelpRef::set(m_programDialog, QLatin1String(programHelp));
+        connect(m_programDialog, &ImportProgramDialog::placeRequested, this, &ModImport::showPlace);
+        connect(m_programDialog, &ImportProgramDialog::openProjectRequested, this, &ModImport::openProject);
+        connect(m_programDialog, &ImportProgramDialog::helpRequested, this, [this] {
+            if (modHlpHook != nullptr)
+                modHlpHook->showHlp(QUrl(QLatin1String(programHelp)));
+        });
+        connect(m_programDialog, &QDialog::finished, this, [this] {
+            if (m_programDialog)
+                m_programConfig = m_programDialog->config();
+        });
+    }
+    m_programDialog->show();
+    m_programDialog->raise();
+    m_programDialog->activateWindow();
+}
+
+void ModImport::showPlace(const QString& file, int line)
+{
+    if (modEditorHook != nullptr)
+        modEditorHook->setLineHighlighted(file, line - 1);
+}
+
+void ModImport::openProject(const QString& file)
+{
+    if (modPrjHook == nullptr)
+        return;
+    // The user is asked for what is not saved; anything may happen meanwhile.
+    const QPointer<ModImport> self(this);
+    const bool isOpen = modPrjHook->open(file);
+    if (self && isOpen && m_programDialog)
+        m_programDialog->close();
+}
+
 // --- life cycle ---
 
 void ModImport::modInit()
@@ -94,6 +152,9 @@ void ModImport::modInit()
     m_actions->setEnabled(false);
     connect(m_actions, QOverload<ImportActions::eAction_t>::of(&ImportActions::triggered), this,
             &ModImport::openImportDialog);
+    m_programActions = new ImportProgramActions(this);
+    connect(m_programActions, QOverload<ImportProgramActions::eAction_t>::of(&ImportProgramActions::triggered), this,
+            &ModImport::openImportProgramDialog);
 }
 
 void ModImport::modInitIntermod()
@@ -105,10 +166,14 @@ void ModImport::modInitIntermod()
 void ModImport::modExitIntermod()
 {
     closeImportDialog();
+    if (m_programDialog)
+        m_programDialog->close();
 }
 
 void ModImport::modExit()
 {
+    delete m_programActions;
+    m_programActions = nullptr;
     delete m_actions;
     m_actions = nullptr;
 }
@@ -140,14 +205,31 @@ void ModImport::removeWidgetRequest(QWidget* widget)
 
 QList<QAction*> ModImport::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
-    const bool isOurs = actionClass == ModActionHookIf::eActionClassFile && m_actions != nullptr;
-    return isOurs ? m_actions->menuActions() : QList<QAction*>();
+    if (actionClass != ModActionHookIf::eActionClassFile || m_actions == nullptr)
+        return {};
+    return m_actions->menuActions() + m_programActions->menuActions();
 }
 
 QList<QAction*> ModImport::toolBarActions(ModActionHookIf::eActionClass_t actionClass)
 {
     const bool isOurs = actionClass == ModActionHookIf::eActionClassFile && m_actions != nullptr;
     return isOurs ? m_actions->toolBarActions() : QList<QAction*>();
+}
+
+// --- settings of the user ---
+
+void ModImport::rdAppCfg()
+{
+    if (modCfgAppHook != nullptr)
+        m_programConfig.rdConfig(modCfgAppHook);
+}
+
+void ModImport::wrAppCfg()
+{
+    if (m_programDialog)
+        m_programConfig = m_programDialog->config();
+    if (modCfgAppHook != nullptr)
+        m_programConfig.wrConfig(modCfgAppHook);
 }
 
 } // namespace nsModImport

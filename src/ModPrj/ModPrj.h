@@ -87,7 +87,7 @@ public:
     static void wrPrjInfo(CfgTree* tree, const PrjConfig& config);
 
     /// The same as openPrj() and closePrj(), for scripts.
-    Q_INVOKABLE bool open(QString file);
+    Q_INVOKABLE bool open(QString file) override;
     Q_INVOKABLE void close();
     /// A project is open.
     Q_INVOKABLE bool isOpen();

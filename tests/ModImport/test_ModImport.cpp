@@ -134,7 +134,7 @@ TEST_F(ImportModule, theActionBelongsToTheFileMenuAndAProject)
     EXPECT_TRUE(action()->isEnabled());
     for (int one = 0; one <= 7; ++one) {
         const auto actionClass = ModActionHookIf::eActionClass_t(one);
-        EXPECT_EQ(module->menuActions(actionClass).size(), one == 1 ? 1 : 0);
+        EXPECT_EQ(module->menuActions(actionClass).size(), one == 1 ? 2 : 0);
         EXPECT_TRUE(module->toolBarActions(actionClass).isEmpty());
     }
     action()->trigger();

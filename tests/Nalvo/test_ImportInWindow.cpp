@@ -21,6 +21,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTabWidget>
 
 using nsModEditor::EditorWidget;
@@ -151,6 +153,20 @@ TEST_F(ImportInWindow, aForeignSourceBecomesAnAssembledDocument)
     for (nsModAsmFe::Opcode* opcode : *assembler->opcodeList())
         found.append(int(opcode->instWord));
     EXPECT_EQ(found, words);
+}
+
+TEST_F(ImportInWindow, thePageBetweenBothDocksDoesNotScrollSideways)
+{
+    openProject();
+    openPage();
+    load(writeFile("foreign.psm", foreign), "KCPSM3");
+    press("importConvertLine");
+    settleAnimations();
+    auto* gui = module<ModGuiHookIf>();
+    EXPECT_TRUE(gui->widgetVisible(ModGuiHookIf::eLocationDockLeft));
+    EXPECT_TRUE(gui->widgetVisible(ModGuiHookIf::eLocationDockRight));
+    EXPECT_EQ(window->size(), QSize(1280, 750));
+    EXPECT_EQ(page()->findChild<QScrollArea*>()->horizontalScrollBar()->maximum(), 0);
 }
 
 TEST_F(ImportInWindow, theEntryBelongsToAProject)

@@ -65,13 +65,14 @@ public:
     QString prjComment() override { return comment; }
 
     /// Opens a project with this file and the present tree.
-    void open(const QString& file)
+    bool open(QString file) override
     {
         path = file;
         for (ModPrjPluginIf* plugin : QList<ModPrjPluginIf*>(plugins))
             plugin->prjOpen();
         for (ModPrjPluginIf* plugin : QList<ModPrjPluginIf*>(plugins))
             plugin->prjOpened();
+        return true;
     }
     /// Saves and closes the project.
     void close()

@@ -3,7 +3,7 @@
 #include "BatchOutput.h"
 
 #include "ForeignDialect.h"
-#include "ProcTables.h"
+#include "RescueJob.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -13,6 +13,7 @@
 namespace nsNalvoImport {
 
 using namespace nsBatch;
+using nsImport::RescueJob;
 
 namespace {
 
@@ -128,8 +129,6 @@ bool ImportOptions::readInput(const QCommandLineParser& parser)
 
 bool ImportOptions::readImage(const QCommandLineParser& parser)
 {
-    static const QHash<QString, const nsProc::ProcTable& (*)()> processors = {
-        {"pb3", nsProc::xpBlze3Table}, {"pb6", nsProc::xpBlze6Table}, {"mico8", nsProc::lMico8v3xTable}};
     image = parser.value("image");
     for (const char* option : {"dialect", "I", "reference"}) {
         if (parser.isSet(option))
@@ -141,10 +140,8 @@ bool ImportOptions::readImage(const QCommandLineParser& parser)
     if (!parser.isSet("processor"))
         return wrongUsage(tr("--image needs --processor."));
     const QString name = parser.value("processor");
-    if (!processors.contains(name))
-        return wrongUsage(tr("Unknown processor: %1").arg(name));
-    processor = &processors.value(name)();
-    return true;
+    processor = RescueJob::processorOf(name);
+    return processor != nullptr || wrongUsage(tr("Unknown processor: %1").arg(name));
 }
 
 } // namespace nsNalvoImport

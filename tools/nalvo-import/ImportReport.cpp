@@ -2,6 +2,8 @@
 
 #include "BatchOutput.h"
 
+#include "ImportJob.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QUrl>
@@ -17,28 +19,25 @@ ImportReport::ImportReport(const BatchMsgStyle& style)
 {
 }
 
-void ImportReport::showAll(const ImportMessages& messages)
+void ImportReport::showNew(const ImportJob& job)
 {
-    for (const ImportMessage& message : messages.all()) {
-        QUrl help;
-        help.setScheme(QStringLiteral("pageid"));
-        help.setHost(QStringLiteral("importMessages"));
-        help.setFragment(message.key());
-        nsModMsg::MsgUrl place;
-        if (!message.file.isEmpty()) {
-            place.setPath(message.file);
-            if (message.line > 0)
-                place.setFragment(QString::number(message.line - 1));
-        }
-        m_msg.showMessage(message.grade(), message.text, help, place);
-    }
+    for (; m_shown < job.messages().size(); ++m_shown)
+        show(job.messages().at(m_shown));
 }
 
-void ImportReport::show(eImportMsg_t type, const QStringList& arguments)
+void ImportReport::show(const ImportMessage& message)
 {
-    ImportMessages messages;
-    messages.add(type, arguments);
-    showAll(messages);
+    QUrl help;
+    help.setScheme(QStringLiteral("pageid"));
+    help.setHost(QStringLiteral("importMessages"));
+    help.setFragment(message.key());
+    nsModMsg::MsgUrl place;
+    if (!message.file.isEmpty()) {
+        place.setPath(message.file);
+        if (message.line > 0)
+            place.setFragment(QString::number(message.line - 1));
+    }
+    m_msg.showMessage(message.grade(), message.text, help, place);
 }
 
 void ImportReport::say(const QString& line)

@@ -2,9 +2,14 @@
 
 #include "BatchMsg.h"
 
-#include "ImportMsg.h"
+#include <QString>
 
 class QJsonObject;
+
+namespace nsImport {
+class ImportJob;
+struct ImportMessage;
+} // namespace nsImport
 
 namespace nsNalvoImport {
 
@@ -14,8 +19,8 @@ class ImportReport
 public:
     explicit ImportReport(const nsBatch::BatchMsgStyle& style);
 
-    void show(nsImport::eImportMsg_t type, const QStringList& arguments);
-    void showAll(const nsImport::ImportMessages& messages);
+    /// Shows the messages of the job that were not shown yet.
+    void showNew(const nsImport::ImportJob& job);
     /// A line of text; nothing with JSON messages.
     void say(const QString& line);
     /// A line of JSON; nothing with text messages.
@@ -25,8 +30,11 @@ public:
     int warnings() const { return m_msg.warnings(); }
 
 private:
+    void show(const nsImport::ImportMessage& message);
+
     nsBatch::BatchMsgStyle m_style;
     nsBatch::BatchMsg m_msg;
+    int m_shown = 0; ///< messages of the job
 };
 
 } // namespace nsNalvoImport

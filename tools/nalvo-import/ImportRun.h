@@ -1,17 +1,15 @@
 #pragma once
 
-#include "ImportFolder.h"
 #include "ImportOptions.h"
 #include "ImportReport.h"
 
-#include "ForeignImport.h"
-#include "ImageProof.h"
+#include "ProgramJob.h"
 
 #include <QCoreApplication>
 
 namespace nsNalvoImport {
 
-/// One run of the program: reads, converts, proves, writes, and sums up.
+/// One run of the program: converts, proves, writes, and sums up.
 class ImportRun
 {
     Q_DECLARE_TR_FUNCTIONS(nsNalvoImport::ImportRun)
@@ -23,20 +21,15 @@ public:
     bool run();
 
 private:
-    bool readReference();
-    void prove(const nsImport::ForeignImport& import);
-    void showProof(const nsImport::ForeignImport& import, const nsImport::ImageProofResult& proof);
-    bool write(const nsImport::ForeignImport& import);
-    void showSummary(const nsImport::ForeignImport& import);
+    void showProof();
+    void showProofAsJson();
+    void showSummary();
+    void showSummaryAsJson();
+    QString proofText() const;
 
     ImportOptions m_options;
     ImportReport m_report;
-    nsImport::ProgramImage m_reference;
-    bool m_hasReference = false;
-    bool m_isProved = false;
-    bool m_isWritten = false;
-    QString m_folder;
-    QString m_proof;
+    nsImport::ProgramJob m_job;
 };
 
 } // namespace nsNalvoImport

@@ -3,11 +3,9 @@
 #include "ImportOptions.h"
 #include "ImportReport.h"
 
-#include <QCoreApplication>
+#include "RescueJob.h"
 
-namespace nsImport {
-struct RescueResult;
-}
+#include <QCoreApplication>
 
 namespace nsNalvoImport {
 
@@ -23,14 +21,11 @@ public:
     bool run();
 
 private:
-    QString name() const;
-    bool write(const nsImport::RescueResult& result);
-    void showInvalidWords(const nsImport::RescueResult& result);
-    void showSummary(const nsImport::RescueResult& result, bool isWritten);
+    void showSummary();
 
     ImportOptions m_options;
     ImportReport m_report;
-    QString m_folder;
+    nsImport::RescueJob m_job;
 };
 
 } // namespace nsNalvoImport

@@ -14,7 +14,6 @@ QString hex(quint32 value, int digits)
     return QString::number(value, 16).toUpper().rightJustified(digits, '0');
 }
 
-/// One side of a difference, as "01234 LOAD s0, 52 (main.psm:12: LOAD s0, MAX)".
 QString sideText(bool hasWord, quint32 word, const QString& instruction, const ProgramImage::Place& place)
 {
     if (!hasWord)
@@ -32,6 +31,16 @@ QString words(int count)
 }
 
 } // namespace
+
+QString ImageDifference::oursSide() const
+{
+    return sideText(hasOurs, ours, oursText, oursPlace);
+}
+
+QString ImageDifference::referenceSide() const
+{
+    return sideText(hasReference, reference, referenceText, referencePlace);
+}
 
 QStringList ImageProofResult::report() const
 {
@@ -53,13 +62,9 @@ QStringList ImageProofResult::report() const
                 .arg(words(filledCount)));
     for (const ImageDifference& difference : first) {
         lines.append(
-            QStringLiteral("%1: program   %2")
-                .arg(hex(quint32(difference.address), 3),
-                     sideText(difference.hasOurs, difference.ours, difference.oursText, difference.oursPlace)));
-        lines.append(QStringLiteral("%1: reference %2")
-                         .arg(hex(quint32(difference.address), 3),
-                              sideText(difference.hasReference, difference.reference, difference.referenceText,
-                                       difference.referencePlace)));
+            QStringLiteral("%1: program   %2").arg(hex(quint32(difference.address), 3), difference.oursSide()));
+        lines.append(
+            QStringLiteral("%1: reference %2").arg(hex(quint32(difference.address), 3), difference.referenceSide()));
     }
     if (first.size() < differenceCount)
         lines.append(QStringLiteral("... and %1 more").arg(differenceCount - first.size()));

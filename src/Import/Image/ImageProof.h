@@ -24,6 +24,10 @@ struct ImageDifference
     QString referenceText; ///< likewise
     ProgramImage::Place oursPlace;
     ProgramImage::Place referencePlace;
+
+    /// For the user: the word, its instruction and its line, as "01234 LOAD s0, 52 (main.psm:12: LOAD s0, MAX)".
+    QString oursSide() const;
+    QString referenceSide() const;
 };
 
 /// What the comparison of an assembled program with a reference has found.

@@ -47,9 +47,15 @@ void ForeignImport::report(eImportMsg_t type, const QStringList& arguments, cons
     m_messages.add(type, arguments, m_program.files.at(statement.file).path, statement.line);
 }
 
+void ForeignImport::setReference(const ForeignStamp& stamp, int memorySize)
+{
+    m_options.stamp = stamp;
+    m_options.memorySize = memorySize;
+}
+
 bool ForeignImport::run()
 {
-    if (!read())
+    if (!goesOn(stepRead) || !read() || !goesOn(stepConvert))
         return false;
     ForeignResolver resolver(m_program, m_options.stamp, m_messages);
     resolver.resolve();
@@ -61,7 +67,7 @@ bool ForeignImport::run()
         return false;
     }
     write(layout);
-    return m_messages.errors() == 0;
+    return m_hasResult && m_messages.errors() == 0;
 }
 
 bool ForeignImport::read()
@@ -95,7 +101,7 @@ void ForeignImport::write(const ProgramLayout& layout)
     m_fillers = layout.fillers();
     m_wordCount = writer.image().count() - m_fillers.size();
     writeProject(layout.size());
-    m_hasResult = check(writer);
+    m_hasResult = goesOn(stepCheck) && check(writer);
 }
 
 /// Does the result come to the words that were read?

@@ -2,6 +2,7 @@
 
 #include "ForeignSymbols.h"
 #include "ImageProof.h"
+#include "ImportStep.h"
 #include "ProgramWriter.h"
 
 #include "ProcCoreConfig.h"
@@ -32,6 +33,10 @@ public:
 
     explicit ForeignImport(const Options& options);
 
+    /// Asked before each step; where it ends the import there is no result.
+    void setWatch(const ImportWatch& watch) { m_watch = watch; }
+    /// What an image of the old tool tells, as the knobs do.
+    void setReference(const ForeignStamp& stamp, int memorySize);
     /// @return false: there is no result, or it has lines without a counterpart; see messages() and hasResult()
     bool run();
 
@@ -64,6 +69,7 @@ public:
     const ForeignStatement* origin(const QString& source, int line) const;
 
 private:
+    bool goesOn(eImportStep_t step) const { return !m_watch || m_watch(step); }
     bool read();
     void write(const ProgramLayout& layout);
     void writeProject(int size);
@@ -73,6 +79,7 @@ private:
     void report(eImportMsg_t type, const QStringList& arguments, const ForeignStatement& statement);
 
     Options m_options;
+    ImportWatch m_watch;
     ImportMessages m_messages;
     ForeignProgram m_program;
     QStringList m_filesRead;

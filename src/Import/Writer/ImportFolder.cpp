@@ -32,6 +32,12 @@ ImportFolder::ImportFolder(const QString& path)
 {
 }
 
+bool ImportFolder::hasFiles() const
+{
+    return QFileInfo(m_path).isDir() &&
+           !QDir(m_path).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System);
+}
+
 bool ImportFolder::write(const QVector<ImportFile>& files, const QStringList& originals, bool force,
                          ImportMessages& messages)
 {
@@ -59,12 +65,9 @@ QString ImportFolder::conflict(const QVector<ImportFile>& files, const QStringLi
         if (*isOriginal || (exists(path) && !QFileInfo(path).isFile()))
             return path;
     }
-    const QFileInfo info(m_path);
-    if (exists(m_path) && !info.isDir())
+    if (exists(m_path) && !QFileInfo(m_path).isDir())
         return m_path;
-    if (force || !info.exists() || QDir(m_path).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden))
-        return QString();
-    return m_path;
+    return force || !hasFiles() ? QString() : m_path;
 }
 
 /// @return why that failed, or an empty text

@@ -26,6 +26,9 @@ public:
     /// @param path existing or not
     explicit ImportFolder(const QString& path);
 
+    /// It is there, and not empty.
+    bool hasFiles() const;
+
     /// Writes all files, unless one of them would be lost that must not be. It writes into a folder beside, which then
     /// becomes this one; or, where this one exists, puts them in their places one by one, and back if one of them
     /// fails.

@@ -48,4 +48,8 @@ public:
     virtual QString prjTitle() = 0;
     virtual QString prjVersion() = 0;
     virtual QString prjComment() = 0;
+    /// Closes the open project, with all that its clients ask the user then, and opens the file. Whatever belongs to
+    /// the open project may be deleted meanwhile.
+    /// @return false: the file can not be read, which was reported; no project is open then
+    virtual bool open(QString file) = 0;
 };

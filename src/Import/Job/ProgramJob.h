@@ -1,0 +1,45 @@
+#pragma once
+
+#include "ForeignImport.h"
+#include "ImportJob.h"
+
+namespace nsImport {
+
+/// The import of a whole program for another assembler, with its proof.
+class ProgramJob : public ImportJob
+{
+public:
+    /// What is imported.
+    struct Order
+    {
+        QString source;                          ///< the main source
+        const ForeignDialect* dialect = nullptr; ///< null: told by the words of the source
+        QStringList folders;                     ///< where included files are as well, and may be read
+        QString reference;                       ///< image of the old tool; empty: none
+        QString folder;                          ///< of the project; empty: name of the source
+    };
+
+    explicit ProgramJob(const Order& order);
+
+    QString input() const override { return m_order.source; }
+    QString name() const override { return m_import.name(); }
+    ImportOrigin origin(const ProgramImage::Place& place) const override;
+
+    const ForeignImport& import() const { return m_import; }
+    /// A reference was asked for, and the result can not be called that of the old tool.
+    bool isUnproved() const { return !m_order.reference.isEmpty() && !isProved(); }
+
+protected:
+    void doConvert() override;
+    QVector<ImportFile> files() const override;
+    QStringList originals() const override;
+
+private:
+    void compare();
+
+    Order m_order;
+    ForeignImport m_import;
+    ProgramImage m_reference;
+};
+
+} // namespace nsImport
