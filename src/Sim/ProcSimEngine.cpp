@@ -130,6 +130,14 @@ int ProcSimEngine::clocksOfInstr() const
     return m_exact != nullptr ? Exact::maxClocks : m_clocksOfInstr;
 }
 
+qint64 ProcSimEngine::accessClock() const
+{
+    if (m_exact == nullptr)
+        return m_clock->clocks + m_clocksOfInstr - 1;
+    // The strobe is in the second clock, or later where the port waits.
+    return m_clock->clocks + 1 + (m_table->core.hasLongAddresses ? m_config.waitStates : 0);
+}
+
 ProcSimIntLine* ProcSimEngine::intLine()
 {
     return m_exact != nullptr ? &m_exact->line() : nullptr;

@@ -126,6 +126,8 @@ public:
     void clearHighlights();
     /// Clock cycles of an instruction, or the most that one can take in an exact simulation.
     int clocksOfInstr() const;
+    /// For observers of ports: the clock in which the instruction that is being executed accesses its port.
+    qint64 accessClock() const;
 
     /// @param observer not owned, must outlive its entry
     void addObserver(ProcSimObserver* observer);

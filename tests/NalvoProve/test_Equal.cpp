@@ -115,6 +115,45 @@ TEST_P(ProveEqual, TheCoreHasTheInitialScratchpad)
     }
 }
 
+TEST_P(ProveEqual, FlagsAreComparedAtTheEnd)
+{
+    // What differs at the end is nothing but a flag.
+    struct
+    {
+        Core core;
+        const char* source;
+        const char* said;
+    } const cases[] = {{Core::PicoBlaze3, "        ADD     s0, 0xFF\n        ADD     s0, 2\n",
+                        "C is 01 in the simulation, 00 in the core"},
+                       {Core::PicoBlaze6, "        ADD     s0, 0xFF\n        ADD     s0, 2\n",
+                        "C is 01 in the simulation, 00 in the core"},
+                       {Core::Mico8, "        NOP\n        ADD     r0, 0xFF\n        ADD     r0, 2\n",
+                        "C is 01 in the simulation, 00 in the core"}};
+    for (const auto& each : cases) {
+        writeProgram(each.core, each.source);
+        const AsmToolResult same = prove(each.core, GetParam(), {"-n", "2"});
+        EXPECT_EQ(same.status, 0) << same.out.constData() << same.err.constData();
+        EXPECT_TRUE(same.err.contains(", C and Z at the end\n")) << same.err.constData();
+        const bool isVerilog = GetParam() == Language::Verilog;
+        const QByteArray model = changed(each.core, GetParam(), "", "");
+        const QByteArray taken = "carry <= new_carry;";
+        ASSERT_EQ(model.count(taken), 1) << nameOf(each.core);
+        const QString name = QString(nameOf(each.core)) + (isVerilog ? ".v" : ".vhd");
+        write(name, QByteArray(model).replace(taken, isVerilog ? "carry <= 1'b0;" : "carry <= '0';"));
+        const AsmToolResult other = run({"--core", name, "-n", "2", "p.nalvo"});
+        EXPECT_EQ(other.status, 1) << other.err.constData();
+        EXPECT_TRUE(other.out.contains(each.said)) << other.out.constData();
+        // Names that are unknown are said to be so.
+        QByteArray renamed = model;
+        renamed.replace("carry", "overflow");
+        write(name, renamed);
+        const AsmToolResult unknown = run({"--core", name, "-n", "2", "p.nalvo"});
+        EXPECT_EQ(unknown.status, 0) << unknown.err.constData();
+        EXPECT_TRUE(unknown.err.contains("not compared: C and Z at the end (the core has no carry and zero"))
+            << unknown.err.constData();
+    }
+}
+
 TEST_P(ProveEqual, ALargeScratchpadIsComparedAsFarAsItGoes)
 {
     writeProgram(
@@ -167,6 +206,33 @@ TEST_P(ProveEqual, ARunEndsAtItsBounds)
     EXPECT_EQ(none.out, "");
     EXPECT_TRUE(none.err.contains("port 0x01, which is read at a.psm:2, has no source of values"))
         << none.err.constData();
+}
+
+TEST_P(ProveEqual, InputsChangeByTheClock)
+{
+    const QByteArray body = "        INT     ENABLE\n"
+                            "loop:\n"
+                            "        RDPRT   s0, 0x10\n"
+                            "        WRPRT   s0, 0x20\n"
+                            "        RDPRT   s1, 0x11\n"
+                            "        ADD     s2, s1\n"
+                            "        JUMP    loop\n";
+    QByteArray changes = "4 port 0x10 1\n90 interrupt 4\n31 interrupt 7\n";
+    for (int clock = 0; clock < 600; clock += 7)
+        changes += QByteArray::number(clock) + " port 0x11 " + QByteArray::number(clock * 5 % 256) + '\n';
+    write("s.txt", changes);
+    for (const Core core : allCores) {
+        // The vector of the Mico8 is in front of its start.
+        QByteArray source =
+            core == Core::Mico8 ? "        RETI\n" + body : body + "#ORG    ADDR, 0x3FF\n        RETI    ENABLE\n";
+        if (core == Core::Mico8)
+            source.replace(" s", " r");
+        writeProgram(core, source);
+        const AsmToolResult result = prove(core, GetParam(), {"--stimulus", "s.txt", "-n", "300", "-f", "json"});
+        ASSERT_EQ(result.status, 0) << nameOf(core) << result.out.constData() << result.err.constData();
+        // Three accesses in five instructions, and entries.
+        EXPECT_GT(result.objects().last().value("events").toInt(), 300 + 170) << nameOf(core);
+    }
 }
 
 TEST_P(ProveEqual, SettingsOfTheCoreAreTheProjects)

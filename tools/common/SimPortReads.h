@@ -1,7 +1,9 @@
 #pragma once
 
 #include "ProcSimObserver.h"
+#include "SimInputFiles.h"
 #include "SimReads.h"
+#include "SimStimulus.h"
 
 #include <QString>
 
@@ -9,18 +11,28 @@
 #include <map>
 #include <memory>
 
+namespace nsProc {
+class ProcSimEngine;
+}
+
 namespace nsBatch {
 
 /// Supplies the values that the program reads from ports without a device.
 class SimPortReads : public nsProc::ProcSimObserver
 {
 public:
-    /// Opens a source of values for all ports that have none of their own, or for one port.
-    /// @return why that failed, or an empty text
-    QString open(const QString& file);
-    QString openPort(int port, const QString& file);
+    /// Opens the files.
+    /// @return false after a reported error
+    bool open(const SimInputFiles& files);
+    /// Looks whether the engine has no devices for the ports of the files, and reads its clock from now on.
+    /// @param engine is set up; not owned
+    /// @return false after a reported error
+    bool connectTo(nsProc::ProcSimEngine* engine);
     /// @param prepare is called before a wait for a value
     void setBeforeWait(const std::function<void()>& prepare) { m_beforeWait = prepare; }
+
+    /// Changes by the clock; none without a file of them.
+    const SimStimulus& stimulus() const { return m_stimulus; }
 
     /// Result of the last read of a source.
     SimReads::eResult_t result() const { return m_result; }
@@ -32,7 +44,11 @@ public:
     bool portSource(int addr, int* value, bool* handled) override;
 
 private:
+    std::unique_ptr<SimReads> openFile(const QString& name) const;
+
     std::function<void()> m_beforeWait;
+    const nsProc::ProcSimEngine* m_engine = nullptr;
+    SimStimulus m_stimulus;
     std::unique_ptr<SimReads> m_reads;
     std::map<int, std::unique_ptr<SimReads>> m_portReads;
     SimReads::eResult_t m_result = SimReads::resultValue;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -62,6 +63,10 @@ bool toEvent(const QList<QByteArray>& words, ProveEvent* event)
     event->clock = words.last().toLongLong(&ok);
     return ok;
 }
+
+// ghdl shows the flags in waves, with a line for each moment.
+const char* const wavesName = "flags.vcd";
+const char* const wantedName = "flags.opt";
 
 int bitOf(const QByteArray& text)
 {
@@ -356,9 +361,15 @@ QStringList CoreRun::options(const CoreStimulus& stimulus)
 CoreRun::eEnd_t CoreRun::run(const CoreStimulus& stimulus, const std::function<bool(const ProveEvent&)>& takeEvent,
                              ProveState* state)
 {
-    const QStringList arguments = options(stimulus);
+    QStringList arguments = options(stimulus);
     if (arguments.isEmpty())
         return endFailed;
+    const bool hasWaves = stimulus.showsState && showsFlags(stimulus.clocks) && m_source.isVhdl();
+    if (hasWaves) {
+        if (!writeWanted())
+            return endFailed;
+        arguments += {QString("--vcd=") + wavesName, QString("--read-wave-opt=") + wantedName};
+    }
     enum { before, running, after, done } phase = arguments.filter("before=").isEmpty() ? running : before;
     std::vector<int> shown;
     QString failure;
@@ -394,12 +405,61 @@ CoreRun::eEnd_t CoreRun::run(const CoreStimulus& stimulus, const std::function<b
         return foreign < mostForeignLines ? end : fail(tr("The core prints without end:") + failure);
     if (stimulus.showsState && phase != done)
         return fail(tr("%1 has ended before the run was over:").arg(toolName()) + failure);
+    if (hasWaves)
+        readWaves(state);
     const size_t registers = size_t(m_config.regCount) * (m_kind.core == CoreKind::corePicoBlaze6 ? 2 : 1);
     if (shown.size() >= registers) {
         state->registers.assign(shown.begin(), shown.begin() + long(registers));
         state->scratchpad.assign(shown.begin() + long(registers), shown.end());
     }
     return endDone;
+}
+
+bool CoreRun::showsFlags(qint64 clocks) const
+{
+    return !m_source.carryName().isEmpty() && (!m_source.isVhdl() || clocks <= mostClocksWithFlags);
+}
+
+QString CoreRun::whyNoFlags(qint64 clocks) const
+{
+    if (m_source.carryName().isEmpty())
+        return tr("the core has no carry and zero, or carry_flag and zero_flag");
+    return showsFlags(clocks) ? tr("%1 and %2 of the core are no flags").arg(m_source.carryName(), m_source.zeroName())
+                              : tr("in VHDL they are seen up to clock %1").arg(mostClocksWithFlags);
+}
+
+/// Which signals the waves have. One that is not there is left out by ghdl.
+bool CoreRun::writeWanted()
+{
+    const QString bench = QString("/%1_bench/").arg(m_kind.name);
+    return write(wantedName, QString("$ version 1.1\n%1at_end\n%1core/%2\n%1core/%3\n")
+                                 .arg(bench, m_source.carryName(), m_source.zeroName())
+                                 .toLatin1());
+}
+
+/// Takes the flags as they are when the program has ended, before the reset that follows in the same moment.
+void CoreRun::readWaves(ProveState* state) const
+{
+    QFile file(m_folder.filePath(wavesName));
+    if (!file.open(QIODevice::ReadOnly))
+        return;
+    QHash<QByteArray, QString> names; ///< by the identifier of the wave
+    QHash<QString, int> present;
+    QHash<QString, int> past;
+    while (!file.atEnd()) {
+        const QByteArray line = file.readLine().trimmed();
+        const QList<QByteArray> words = line.split(' ');
+        if (words.value(0) == "$var" && words.value(2) == "1")
+            names[words.value(3)] = QString::fromLatin1(words.value(4));
+        else if (line.startsWith('#'))
+            past = present;
+        else if (names.contains(line.mid(1)))
+            present[names[line.mid(1)]] = bitOf(line.left(1));
+        if (present.value("at_end") == 1)
+            break;
+    }
+    state->carry = past.value(m_source.carryName(), -1);
+    state->zero = past.value(m_source.zeroName(), -1);
 }
 
 /// The tools know the copies of the sources.

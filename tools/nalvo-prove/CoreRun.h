@@ -25,6 +25,9 @@ struct CoreStimulus
     bool showsState = true;                          ///< at the end
 };
 
+/// A run in VHDL shows the flags of the core in waves, which get too large beyond this.
+constexpr qint64 mostClocksWithFlags = 4000000;
+
 /// The core's side of a proof: its source, compiled with a bench in a temporary folder.
 class CoreRun
 {
@@ -46,6 +49,10 @@ public:
     /// @param state is filled if the run got that far; what the core does not show stays empty
     eEnd_t run(const CoreStimulus& stimulus, const std::function<bool(const ProveEvent&)>& takeEvent,
                ProveState* state);
+    /// The flags can be seen at the end of a run of so many clocks, if they are what their names say.
+    bool showsFlags(qint64 clocks) const;
+    /// For people: why a run has not shown the flags.
+    QString whyNoFlags(qint64 clocks) const;
     /// For people, may have several lines.
     const QString& failure() const { return m_failure; }
     /// Of the HDL simulator.
@@ -65,6 +72,8 @@ private:
     QString option(const QString& name, qint64 value) const { return option(name, QString::number(value)); }
     QStringList options(const CoreStimulus& stimulus);
     eEnd_t simulate(const QStringList& options, qint64 clocks, const std::function<bool(const QByteArray&)>& takeLine);
+    bool writeWanted();
+    void readWaves(ProveState* state) const;
     QString withNames(QString text) const;
 
     const CoreKind& m_kind;

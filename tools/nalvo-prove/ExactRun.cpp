@@ -12,7 +12,6 @@
 #include "ProcSimCoreData.h"
 #include "ProcSimEngine.h"
 #include "ProcSimIntLine.h"
-#include "ProcSimPorts.h"
 #include "ProcTable.h"
 #include "SimMessages.h"
 #include "SimStop.h"
@@ -42,7 +41,6 @@ ExactRun::ExactRun(const ProveProject& project, const ProveOptions& options)
     : m_project(project)
     , m_options(options)
     , m_interrupts(options.interruptEvery, options.interruptAt)
-    , m_requests(options.interruptClocks)
 {
 }
 
@@ -50,30 +48,19 @@ ExactRun::~ExactRun() = default;
 
 bool ExactRun::start()
 {
-    return openReads() && makeEngine();
+    if (!m_source.open(m_options.inputs))
+        return false;
+    m_timed = m_options.interruptClocks;
+    m_timed.insert(m_timed.end(), m_source.stimulus().requests().begin(), m_source.stimulus().requests().end());
+    return makeEngine();
 }
 
 bool ExactRun::startAgain(const ExactRun& first)
 {
     m_isAgain = true;
     m_supplied = first.m_supplied;
+    m_timed = first.m_timed;
     return makeEngine();
-}
-
-bool ExactRun::openReads()
-{
-    const auto checkOpened = [](const QString& name, const QString& failure) {
-        if (!failure.isEmpty())
-            printError(tr("Can not read %1: %2").arg(name == "-" ? tr("standard input") : name, failure));
-        return failure.isEmpty();
-    };
-    if (!m_options.readsFile.isEmpty() && !checkOpened(m_options.readsFile, m_source.open(m_options.readsFile)))
-        return false;
-    for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (!checkOpened(it.value(), m_source.openPort(it.key(), it.value())))
-            return false;
-    }
-    return true;
 }
 
 bool ExactRun::makeEngine()
@@ -87,10 +74,8 @@ bool ExactRun::makeEngine()
         showReports(m_project.msg, *m_project.links, *m_engine, outcome);
     if (!success)
         return false;
-    for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (m_engine->ports()->deviceToRead(it.key()) != nullptr)
-            return wrongUsage(tr("A device of the project answers at the port already: %1").arg(it.key()));
-    }
+    if (!m_source.connectTo(m_engine.get()))
+        return false;
     const nsProc::ProcSimProgram& program = m_engine->program();
     for (int i = 0; i < program.count(); ++i)
         m_words.push_back(program.word(i));
@@ -103,7 +88,8 @@ bool ExactRun::makeEngine()
                        .arg(cellsReached));
         return false;
     }
-    for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
+    m_requests = m_timed;
+    for (const std::pair<qint64, qint64>& request : m_timed)
         m_engine->intLine()->request(request.first, request.second);
     m_engine->core()->setHwbld(m_options.hwbuild);
     m_engine->addObserver(this);
@@ -250,18 +236,11 @@ void ExactRun::add(ProveEvent::eKind_t kind, qint64 address, int value, qint64 c
     m_events.push_back({kind, address, value, clock, m_position});
 }
 
-/// The strobe of an access is in the second clock, or later where the port waits.
-qint64 ExactRun::strobeClock() const
-{
-    return m_slot + 1 + (m_project.processor->core.hasLongAddresses ? m_project.config.waitStates : 0);
-}
-
 void ExactRun::instruction(int position, qint64 clock)
 {
     // What was refused comes again, or the clock has not passed it at the end.
     while (!m_events.empty() && m_events.back().clock >= clock && m_events.back().kind == ProveEvent::eFetch)
         m_events.pop_back();
-    m_slot = clock;
     m_position = position;
     add(ProveEvent::eFetch, m_engine->program().address(position), 0, clock);
 }
@@ -277,9 +256,8 @@ void ExactRun::interruptEntered()
 
 void ExactRun::coreReset()
 {
-    m_slot = m_engine->clock()->clocks;
     m_position = m_engine->position();
-    add(ProveEvent::eReset, ProveEvent::unknown, 0, m_slot);
+    add(ProveEvent::eReset, ProveEvent::unknown, 0, m_engine->clock()->clocks);
 }
 
 bool ExactRun::portSource(int addr, int* value, bool* handled)
@@ -300,17 +278,17 @@ bool ExactRun::portSource(int addr, int* value, bool* handled)
 void ExactRun::portRead(int addr, int value)
 {
     m_reads.push_back(value);
-    add(ProveEvent::eRead, quint32(addr), value, strobeClock());
+    add(ProveEvent::eRead, quint32(addr), value, m_engine->accessClock());
 }
 
 void ExactRun::portWritten(int addr, int value)
 {
-    add(ProveEvent::eWrite, quint32(addr), value, strobeClock());
+    add(ProveEvent::eWrite, quint32(addr), value, m_engine->accessClock());
 }
 
 void ExactRun::constantWritten(int lines, int value)
 {
-    add(ProveEvent::eConstantWrite, lines, value, strobeClock());
+    add(ProveEvent::eConstantWrite, lines, value, m_engine->accessClock());
 }
 
 } // namespace nsNalvoProve

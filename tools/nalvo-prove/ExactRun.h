@@ -86,12 +86,10 @@ private:
     bool makeEngine();
     /// The cells of the scratchpad that can be compared.
     std::vector<int> cells() const;
-    bool openReads();
     void raiseInterrupt();
     void endBy(const nsProc::SimOutcome& outcome);
     void stop(eEnd_t end, const QString& text);
     void add(ProveEvent::eKind_t kind, qint64 address, int value, qint64 clock);
-    qint64 strobeClock() const;
 
     // ProcSimObserver
     void instruction(int position, qint64 clock) override;
@@ -113,9 +111,9 @@ private:
     std::vector<int> m_words;
     std::vector<int> m_scratchpad;
     std::vector<int> m_reads;
-    std::vector<std::pair<qint64, qint64>> m_requests; ///< from and length
+    std::vector<std::pair<qint64, qint64>> m_timed;    ///< requests by the clock that are asked for: from and length
+    std::vector<std::pair<qint64, qint64>> m_requests; ///< all of them, with those by the number of an instruction
     std::vector<ProveEvent> m_events;
-    qint64 m_slot = 0;   ///< first clock of what strobes now
     int m_position = -1; ///< of what strobes now
     qint64 m_instructions = 0;
     eEnd_t m_end = endBound;

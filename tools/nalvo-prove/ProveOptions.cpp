@@ -62,6 +62,10 @@ void setup(QCommandLineParser* parser)
             "input."),
          tr("FILE")},
         {"port", tr("Values for the reads of one port. Can be given for several ports."), tr("ADDR=FILE")},
+        {"stimulus",
+         tr("Values of ports and interrupt requests by the clock, one a line: C port ADDR VALUE, or C interrupt "
+            "[LENGTH]. - is standard input."),
+         tr("FILE")},
         {"hwbuild", tr("What HWBUILD reads: 0 (default) to 255."), tr("V")},
         {"interrupt-every",
          tr("The interrupt input is up for one clock at the beginning of the instructions N, 2N, 3N and so on."),
@@ -114,25 +118,6 @@ bool readBounds(const QCommandLineParser& parser, ProveOptions* options)
     return success;
 }
 
-bool readInputs(const QCommandLineParser& parser, ProveOptions* options)
-{
-    options->readsFile = parser.value("reads");
-    if (parser.isSet("reads") && options->readsFile.isEmpty())
-        return wrongUsage(tr("The name of the file of reads is empty."));
-    for (const QString& text : parser.values("port")) {
-        int port = 0;
-        QString file;
-        if (!readPortFile(text, &port, &file))
-            return false;
-        if (options->portFiles.contains(port))
-            return wrongUsage(tr("Two files for one port: %1").arg(text));
-        options->portFiles.insert(port, file);
-    }
-    if (int(options->readsFile == "-") + options->portFiles.values().count("-") > 1)
-        return wrongUsage(tr("Only one of the inputs can come from standard input."));
-    return true;
-}
-
 } // namespace
 
 ProveOptions::eParse_t ProveOptions::parse(const QStringList& arguments)
@@ -143,7 +128,7 @@ ProveOptions::eParse_t ProveOptions::parse(const QStringList& arguments)
     if (parsed != parseRun)
         return parsed;
     const bool isRight = readProject(parser) && readCore(parser, this) && readFormat(parser, this) &&
-                         readBounds(parser, this) && readInputs(parser, this) &&
+                         readBounds(parser, this) && inputs.readOptions(parser) &&
                          readNumber(parser, "interrupt-every", 1, unbounded, &interruptEvery) &&
                          readInterruptNumbers(parser, &interruptAt) && readInterruptClocks(parser, &interruptClocks);
     return isRight ? parseRun : parseWrong;

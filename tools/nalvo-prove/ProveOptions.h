@@ -2,8 +2,8 @@
 
 #include "BatchNumbers.h"
 #include "BatchOptions.h"
+#include "SimInputFiles.h"
 
-#include <QMap>
 #include <QString>
 
 #include <utility>
@@ -25,8 +25,7 @@ struct ProveOptions : nsBatch::BatchOptions
     eLanguage_t language = languageAny; ///< that the source of the core must have
     qint64 instructions = 0;            ///< the run ends after this many
     qint64 clocks = nsBatch::unbounded; ///< or when the count is reached
-    QString readsFile;                  ///< empty: none; "-": standard input
-    QMap<int, QString> portFiles;       ///< by port
+    nsBatch::SimInputFiles inputs;
     int hwbuild = 0;
     qint64 interruptEvery = 0;                              ///< 0: never
     std::vector<qint64> interruptAt;                        ///< numbers of instructions from 1, ascending, each once

@@ -230,7 +230,9 @@ int ProveRun::compare()
     noteState(cells > 0, tr("%1 cells of the scratchpad").arg(cells));
     if (int(cells) < m_project.config.scrpdSize)
         noteState(false, tr("the cells of the scratchpad from %1 on").arg(cells));
-    noteState(state.carry >= 0 && state.zero >= 0, tr("C and Z at the end"));
+    const bool areFlagsSeen = state.carry >= 0 && state.zero >= 0;
+    noteState(areFlagsSeen, areFlagsSeen ? tr("C and Z at the end")
+                                         : tr("C and Z at the end (%1)").arg(m_core->whyNoFlags(m_exact->clocks())));
     m_result.what = stateDifference(m_trace.state, state, m_result.banks);
     return m_result.what.isEmpty() ? report() : showStateDifference();
 }
@@ -341,7 +343,7 @@ int ProveRun::report()
     if (!m_result.compared.isEmpty())
         note(tr("compared: %1").arg(m_result.compared.join(", ")));
     if (!m_result.notCompared.isEmpty())
-        note(tr("not compared, as the source does not show it: %1").arg(m_result.notCompared.join(", ")));
+        note(tr("not compared: %1").arg(m_result.notCompared.join(", ")));
     if (!m_result.end.isEmpty())
         note(tr("the run ended early: %1").arg(m_result.end));
     const QString failure = stdoutFailure();

@@ -35,6 +35,11 @@ const char* const description = "Assembles a Nalvo project in memory and runs it
                                 "Files of values hold one hexadecimal byte a line; blank lines and comments\n"
                                 "behind ; or # do not count. A device of the project answers before any file.\n"
                                 "\n"
+                                "A file of --stimulus has one change a line, in any order:\n"
+                                "    CLOCK port ADDR VALUE     the port has the value from this clock on\n"
+                                "    CLOCK interrupt [LENGTH]  an interrupt is requested at this clock; exact:\n"
+                                "                              for so many clocks, 1 where left out\n"
+                                "\n"
                                 "The trace has one event a line, numbers in hexadecimal:\n"
                                 "    I aaa wwwww  instruction executed: address, word\n"
                                 "    R pp vv      port read: port, value\n"
@@ -72,6 +77,10 @@ void setup(QCommandLineParser* parser)
             "input."),
          tr("FILE")},
         {"port", tr("Values for the reads of one port. Can be given for several ports."), tr("ADDR=FILE")},
+        {"stimulus",
+         tr("Values of ports and interrupt requests by the clock, one a line: C port ADDR VALUE, or C interrupt "
+            "[LENGTH]. - is standard input."),
+         tr("FILE")},
         {"hwbuild", tr("What HWBUILD reads: 0 (default) to 255."), tr("V")},
         {"interrupt-every",
          tr("Raise an interrupt before the instructions N, 2N, 3N and so on, if interrupts are enabled then."),
@@ -109,7 +118,7 @@ SimOptions::eParse_t SimOptions::parse(const QStringList& arguments)
     quiet = parser.isSet("q");
     verbose = parser.isSet("v");
     const bool isRight = readProject(parser) && readBounds(parser) && readInterrupts(parser) && readLabels(parser) &&
-                         readInputs(parser) && readOutputs(parser) && checkFiles();
+                         inputs.readOptions(parser) && readOutputs(parser) && checkFiles();
     return isRight ? parseRun : parseWrong;
 }
 
@@ -145,33 +154,6 @@ bool SimOptions::readLabels(const QCommandLineParser& parser)
     return true;
 }
 
-bool SimOptions::readInputs(const QCommandLineParser& parser)
-{
-    readsFile = parser.value("reads");
-    if (parser.isSet("reads") && readsFile.isEmpty())
-        return wrongUsage(tr("The name of the file of reads is empty."));
-    for (const QString& text : parser.values("port")) {
-        if (!readPort(text))
-            return false;
-    }
-    const QStringList ports = portFiles.values();
-    if (int(readsFile == "-") + ports.count("-") > 1)
-        return wrongUsage(tr("Only one of the inputs can come from standard input."));
-    return true;
-}
-
-bool SimOptions::readPort(const QString& text)
-{
-    int port = 0;
-    QString file;
-    if (!readPortFile(text, &port, &file))
-        return false;
-    if (portFiles.contains(port))
-        return wrongUsage(tr("Two files for one port: %1").arg(text));
-    portFiles.insert(port, file);
-    return true;
-}
-
 bool SimOptions::readOutputs(const QCommandLineParser& parser)
 {
     traceFile = parser.value("trace");
@@ -186,14 +168,6 @@ bool SimOptions::readOutputs(const QCommandLineParser& parser)
     return true;
 }
 
-QStringList SimOptions::inputFiles() const
-{
-    QStringList files = QStringList(readsFile) + portFiles.values();
-    files.removeAll(QString());
-    files.removeAll("-");
-    return files;
-}
-
 QStringList SimOptions::outputFiles() const
 {
     QStringList files = {traceFile, vcdFile, dumpFile};
@@ -205,13 +179,13 @@ QStringList SimOptions::outputFiles() const
 bool SimOptions::checkFiles() const
 {
     const QStringList outputs = outputFiles();
-    const QStringList inputs = inputFiles();
+    const QStringList inputFiles = inputs.names();
     for (int i = 0; i < outputs.size(); ++i) {
         for (int j = 0; j < i; ++j) {
             if (isSameTarget(outputs.at(j), outputs.at(i)))
                 return wrongUsage(tr("Two outputs can not go to the same file: %1").arg(outputs.at(i)));
         }
-        for (const QString& input : inputs) {
+        for (const QString& input : inputFiles) {
             if (isSameTarget(input, outputs.at(i)))
                 return wrongUsage(tr("An output would overwrite an input: %1").arg(outputs.at(i)));
         }

@@ -2,8 +2,8 @@
 
 #include "BatchNumbers.h"
 #include "BatchOptions.h"
+#include "SimInputFiles.h"
 
-#include <QMap>
 #include <QString>
 #include <QStringList>
 #include <QtGlobal>
@@ -22,8 +22,6 @@ struct SimOptions : nsBatch::BatchOptions
 
     /// Reads the arguments, and shows help, version or what is wrong with them.
     eParse_t parse(const QStringList& arguments);
-    /// The files that are read, without standard input.
-    QStringList inputFiles() const;
     /// The files that are written, without standard output.
     QStringList outputFiles() const;
 
@@ -31,8 +29,7 @@ struct SimOptions : nsBatch::BatchOptions
     qint64 clocks = unbounded;       ///< the run ends when the count is reached
     QString start;                   ///< label; empty: as the project starts
     QString until;                   ///< label; empty: none
-    QString readsFile;               ///< empty: none; "-": standard input
-    QMap<int, QString> portFiles;    ///< by port
+    nsBatch::SimInputFiles inputs;
     int hwbuild = 0;
     qint64 interruptEvery = 0;       ///< 0: never
     std::vector<qint64> interruptAt; ///< numbers of instructions from 1, ascending, each once
@@ -50,8 +47,6 @@ private:
     bool readBounds(const QCommandLineParser& parser);
     bool readInterrupts(const QCommandLineParser& parser);
     bool readLabels(const QCommandLineParser& parser);
-    bool readInputs(const QCommandLineParser& parser);
-    bool readPort(const QString& text);
     bool readOutputs(const QCommandLineParser& parser);
     bool checkFiles() const;
 };

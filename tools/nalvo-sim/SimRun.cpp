@@ -8,7 +8,6 @@
 #include "ProcSimCoreData.h"
 #include "ProcSimIntLine.h"
 #include "ProcSimPortNames.h"
-#include "ProcSimPorts.h"
 #include "ProcSimVcd.h"
 #include "ProcTable.h"
 #include "SimLabels.h"
@@ -73,10 +72,10 @@ int SimRun::run()
     }
     if (!m_wrongUsage.isEmpty())
         return wrongUsage(m_wrongUsage) ? exitReached : exitWrongUsage;
-    if (!findLabels() || !openReads() || !openOutputs(project))
+    if (!findLabels() || !m_reads.open(m_options.inputs) || !openOutputs(project))
         return exitWrongUsage;
     const bool started = startSim();
-    if (started && !checkPorts())
+    if (started && !m_reads.connectTo(m_engine.get()))
         return exitWrongUsage;
     if (started)
         execute();
@@ -122,22 +121,6 @@ bool SimRun::findLabels()
     return true;
 }
 
-bool SimRun::openReads()
-{
-    const auto checkOpened = [](const QString& name, const QString& failure) {
-        if (!failure.isEmpty())
-            printError(tr("Can not read %1: %2").arg(name == "-" ? tr("standard input") : name, failure));
-        return failure.isEmpty();
-    };
-    if (!m_options.readsFile.isEmpty() && !checkOpened(m_options.readsFile, m_reads.open(m_options.readsFile)))
-        return false;
-    for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (!checkOpened(it.value(), m_reads.openPort(it.key(), it.value())))
-            return false;
-    }
-    return true;
-}
-
 bool SimRun::openOutputs(const QString& project)
 {
     const ProjectFiles taken(project, m_batch.sources().files(), m_project.program->ioDevs);
@@ -179,8 +162,7 @@ bool SimRun::startSim()
     }
     if (m_start != nullptr)
         m_engine->setProgramCounter(m_start, &outcome);
-    for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
-        m_engine->intLine()->request(request.first, request.second);
+    requestInterrupts();
     m_engine->core()->setHwbld(m_options.hwbuild);
     m_engine->addObserver(&m_reads);
     if (m_trace.isOpen()) {
@@ -200,13 +182,17 @@ bool SimRun::startSim()
     return true;
 }
 
-bool SimRun::checkPorts() const
+/// Requests by the clock: the interrupt input of an exact simulation has them from the beginning.
+void SimRun::requestInterrupts()
 {
-    for (auto it = m_options.portFiles.cbegin(); it != m_options.portFiles.cend(); ++it) {
-        if (m_engine->ports()->deviceToRead(it.key()) != nullptr)
-            return wrongUsage(tr("A device of the project answers at the port already: %1").arg(it.key()));
+    for (const std::pair<qint64, qint64>& request : m_options.interruptClocks)
+        m_engine->intLine()->request(request.first, request.second);
+    for (const std::pair<qint64, qint64>& request : m_reads.stimulus().requests()) {
+        if (m_engine->intLine() != nullptr)
+            m_engine->intLine()->request(request.first, request.second);
+        else
+            m_requests.push_back(request.first);
     }
-    return true;
 }
 
 void SimRun::setEnd(SimEnd::eReason_t reason, const QString& text, const QString& key)
@@ -221,8 +207,7 @@ void SimRun::execute()
     m_interrupts = nsBatch::InterruptNumbers(m_options.interruptEvery, m_options.interruptAt);
     const int until = m_until != nullptr ? m_engine->program().positionOf(m_until) : nsProc::sSimInstr_t::none;
     while (!isBoundReached()) {
-        if (m_instructions + 1 == m_interrupts.next())
-            raiseInterrupt();
+        raiseInterrupts();
         nsProc::SimOutcome outcome;
         m_instructions += m_engine->run(nextBlock(), until, &outcome);
         if (!goesOn(outcome))
@@ -254,7 +239,8 @@ qint64 SimRun::nextBlock() const
 {
     qint64 count = m_tracer != nullptr ? traceBlockSize : blockSize;
     count = std::min(count, m_options.instructions - m_instructions);
-    const qint64 clocks = m_options.clocks - m_engine->clock()->clocks;
+    const qint64 request = m_requested < m_requests.size() ? m_requests[m_requested] : SimOptions::unbounded;
+    const qint64 clocks = std::min(m_options.clocks, request) - m_engine->clock()->clocks;
     const qint64 perInstr = std::max(m_engine->clocksOfInstr(), 1);
     // With instructions that differ in their clocks, each of the last few is a block.
     const qint64 bounded = clocks / perInstr + (clocks % perInstr != 0 ? 1 : 0);
@@ -263,12 +249,18 @@ qint64 SimRun::nextBlock() const
     return std::min(count, m_interrupts.next() - m_instructions - 1);
 }
 
-void SimRun::raiseInterrupt()
+void SimRun::raiseInterrupts()
 {
+    bool isDue = false;
+    if (m_instructions + 1 == m_interrupts.next()) {
+        m_interrupts.pass();
+        isDue = true;
+    }
+    for (; m_requested < m_requests.size() && m_requests[m_requested] <= m_engine->clock()->clocks; ++m_requested)
+        isDue = true;
     // A second call would withdraw a pending interrupt.
-    if (m_engine->intLine() != nullptr || m_engine->core()->interrupt() != nsProc::eIntPending)
+    if (isDue && (m_engine->intLine() != nullptr || m_engine->core()->interrupt() != nsProc::eIntPending))
         m_engine->toggleInterrupt();
-    m_interrupts.pass();
 }
 
 bool SimRun::goesOn(const nsProc::SimOutcome& outcome)

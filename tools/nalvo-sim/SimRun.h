@@ -12,6 +12,7 @@
 #include "SimTrace.h"
 
 #include <memory>
+#include <vector>
 
 namespace nsNalvoSim {
 
@@ -30,18 +31,17 @@ private:
     // Each of these reports its errors.
     bool assemble();
     bool findLabels();
-    bool openReads();
     bool openOutputs(const QString& project);
     bool openOutput(nsBatch::OutputFile* file, const QString& name);
     bool startSim();
-    bool checkPorts() const;
+    void requestInterrupts();
 
     // The run.
     void execute();
     bool isBoundReached();
     /// Number of instructions until a bound, an interrupt or the next look at the signal.
     qint64 nextBlock() const;
-    void raiseInterrupt();
+    void raiseInterrupts();
     /// Reports what a block of instructions came to. @return the run goes on
     bool goesOn(const nsProc::SimOutcome& outcome);
     void show(const nsProc::SimOutcome& outcome) const;
@@ -78,6 +78,8 @@ private:
     QString m_wrongUsage; ///< of options that the project does not fit; empty if it fits
     qint64 m_instructions = 0;
     nsBatch::InterruptNumbers m_interrupts;
+    std::vector<qint64> m_requests; ///< clocks of requests that the engine does not know of, ascending
+    size_t m_requested = 0;         ///< of them
 };
 
 } // namespace nsNalvoSim

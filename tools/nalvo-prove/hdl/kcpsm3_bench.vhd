@@ -49,6 +49,7 @@ architecture test of kcpsm3_bench is
     signal memory  : word_array(0 to full_size * pages - 1) := (others => (others => '0'));
     signal modulus : integer := words; -- words of a page
     signal page    : integer := 0;
+    signal at_end  : std_logic := '0'; -- of the program, for those who look at the waves of the core
 begin
     core : entity work.kcpsm3
         port map (
@@ -225,6 +226,7 @@ begin
         memory(0 to words * pages - 1) <= load_words(program, words * pages);
         modulus <= words;
         run_to(clocks, false);
+        at_end <= '1';
         if after_that'length > 0 then
             report_event("STATE", 0);
             memory <= load_words(after_that, full_size * pages);
