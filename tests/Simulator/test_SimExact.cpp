@@ -60,7 +60,7 @@ protected:
     int address() const { return engine().program().address(engine().position()); }
 };
 
-TEST_F(SimExact, TheStatusBarSaysSoAndOffersTheSwitch)
+TEST_F(SimExact, TheStatusBarSaysSoAndTheCoreOffersTheSwitch)
 {
     ASSERT_TRUE(start("XPBlze3", counting, exactly));
     auto* shown = named<QLabel>("procSimExact");
@@ -70,10 +70,27 @@ TEST_F(SimExact, TheStatusBarSaysSoAndOffersTheSwitch)
     ASSERT_NE(hold(), nullptr);
     EXPECT_TRUE(hold()->isVisible());
     screenshot("SimulatorExact");
-    trigger(Action::eActionEnable);
+}
+
+TEST_F(SimExact, WithoutTheSettingThereIsNeither)
+{
     ASSERT_TRUE(start("XPBlze3", counting));
     EXPECT_FALSE(named<QLabel>("procSimExact")->isVisible());
     EXPECT_FALSE(hold()->isVisible());
+}
+
+TEST_F(SimExact, AClickOnTheInterruptStateIsARequest)
+{
+    ASSERT_TRUE(start("XPBlze3", counting, exactly));
+    press(Qt::Key_F11);
+    auto* state = named<QLabel>("procSimEdtInterrupt");
+    ASSERT_NE(state, nullptr);
+    QTest::mouseClick(state, Qt::LeftButton);
+    EXPECT_EQ(sim()->core()->interrupt(), nsProc::eIntEnabled);
+    press(Qt::Key_F11);
+    press(Qt::Key_F11);
+    EXPECT_EQ(pcLine(), 6);
+    EXPECT_EQ(shownClocks(), "8");
 }
 
 TEST_F(SimExact, AStepIsAnInstructionWithTheClocksOfTheCore)
@@ -315,19 +332,33 @@ TEST_F(SimExact, TheClockCountMayBeClearedInTheMiddleOfARequest)
 TEST_F(SimExact, TheCallStackThatHasComeRoundShowsTheLevelsThatItHolds)
 {
     ASSERT_TRUE(start("LMico8v3x", {"NOP", "deep: ADD r0, 1", "CALL deep"}, exactly));
-    for (int step = 0; step < 2 * 40; ++step)
+    for (int step = 0; step < 2 * 17; ++step)
+        press(Qt::Key_F11);
+    EXPECT_EQ(messages("Call stack overflow!"), 1) << messageTexts().join('\n').toStdString();
+    for (int step = 0; step < 2 * 23; ++step)
         press(Qt::Key_F11);
     EXPECT_EQ(reg(0), 40);
     EXPECT_EQ(sim()->callStack()->count(), 16);
-    EXPECT_EQ(messages("Call stack overflow!"), 1);
     screenshot("SimulatorExactStack");
-    trigger(Action::eActionEnable);
-    ASSERT_TRUE(start("XPBlze3", {"deep: ADD s0, 1", "CALL deep"}, exactly));
-    for (int step = 0; step < 2 * 40; ++step)
+}
+
+TEST_F(SimExact, TheCallStackOfPicoBlaze3ComesRound)
+{
+    ASSERT_TRUE(start("XPBlze3", {"CALL deep", "NOP", "deep: ADD s0, 1", "CALL deep"}, exactly));
+    for (int step = 0; step < 1 + 2 * 30; ++step)
         press(Qt::Key_F11);
-    EXPECT_LE(sim()->callStack()->count(), 32);
-    EXPECT_GE(sim()->callStack()->count(), 31);
-    trigger(Action::eActionEnable);
+    ASSERT_EQ(sim()->callStack()->count(), 31);
+    EXPECT_EQ(sim()->callStack()->items().first().pc, 0);
+    // One more: the call from 000 is lost, and all that are left are calls from 003.
+    press(Qt::Key_F11);
+    press(Qt::Key_F11);
+    ASSERT_EQ(sim()->callStack()->count(), 31);
+    for (const nsProc::sCallStackItem_t& item : sim()->callStack()->items())
+        EXPECT_EQ(item.pc, 3);
+}
+
+TEST_F(SimExact, TheCallStackOfPicoBlaze6IsEmptyAfterAReset)
+{
     ASSERT_TRUE(start("XPBlze6", {"deep: ADD s0, 1", "CALL deep"}, exactly));
     for (int step = 0; step < 2 * 31; ++step)
         press(Qt::Key_F11);
@@ -425,8 +456,8 @@ TEST_F(SimExact, TheSettingIsMadeOnThePageOfTheProcessor)
         ++page;
     ASSERT_LT(page, tabs->count());
     QTest::mouseClick(tabs->tabBar(), Qt::LeftButton, Qt::NoModifier, tabs->tabBar()->tabRect(page).center());
-    auto* exact = dialog->findChild<QCheckBox*>("exactSimulation");
-    auto* stop = dialog->findChild<QCheckBox*>("stopAtStack");
+    auto* exact = tabs->currentWidget()->findChild<QCheckBox*>("exactSimulation");
+    auto* stop = tabs->currentWidget()->findChild<QCheckBox*>("stopAtStack");
     ASSERT_TRUE(exact != nullptr && stop != nullptr && exact->isVisible());
     EXPECT_FALSE(stop->isEnabled());
     exact->setFocus();

@@ -396,7 +396,8 @@ void ProcSimEngine::Exact::showStack()
     ProcSimCallStackData& shown = *m_engine.m_callStack;
     shown.clear();
     const bool resets = traits().stack == sCoreTraits_t::eStackResets;
-    for (int level = m_depth; level > 0; --level) {
+    // Not the cell that is being written.
+    for (int level = std::min(m_depth, stackLimit()); level > 0; --level) {
         const sCell_t& cell = m_cells[resets ? m_pointer - level + 1 : wrapped(m_pointer - level)];
         const bool isKnown = program().count() > 0;
         const Opcode* opcode = isKnown ? program().opcode(cell.position) : nullptr;

@@ -85,7 +85,9 @@ void ProcSim::createWidgets()
     m_widgets->io = new ProcSimIO(m_engine->ports());
     m_widgets->statusBar = new ProcSimStatusBar(m_engine->clock(), m_engine->config().clkFreq);
     m_widgets->statusBar->setExact(m_engine->config().exactSimulation != 0);
-    connect(m_widgets->statusBar, &ProcSimStatusBar::interruptHeld, this, &ProcSim::holdInterrupt);
+    m_widgets->core->setExact(m_engine->config().exactSimulation != 0);
+    connect(m_widgets->core, &ProcSimCore::interruptHeld, this, &ProcSim::holdInterrupt);
+    connect(m_widgets->core, &ProcSimCore::interruptRequested, this, &ProcSim::simInt);
     m_widgets->lastBottom = m_widgets->callStack.data();
     // The waves must be updated at once: later, the clock count may have reached its old value again.
     connect(m_widgets->statusBar, &ProcSimStatusBar::cleared, this, &ProcSim::updateWidgets);

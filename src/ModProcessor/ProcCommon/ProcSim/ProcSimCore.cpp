@@ -8,6 +8,7 @@
 #include "ProcSimEdtNumeric.h"
 #include "ProcSimScrpd.h"
 
+#include <QCheckBox>
 #include <QEvent>
 #include <QFrame>
 #include <QGridLayout>
@@ -69,6 +70,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
     , m_carry(new ProcSimEdtBit(this))
     , m_zero(new ProcSimEdtBit(this))
     , m_interrupt(new ProcSimEdtInterrupt(this))
+    , m_hold(new QCheckBox(tr("Hold"), this))
     , m_regs(regs)
 {
     setObjectName(QStringLiteral("procSimCore"));
@@ -80,6 +82,11 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
                         "when the field is left."));
     m_carry->setToolTip(tr("Carry flag, toggled with a click"));
     m_zero->setToolTip(tr("Zero flag, toggled with a click"));
+
+    m_hold->setObjectName(QStringLiteral("procSimHoldInterrupt"));
+    m_hold->setAccessibleName(tr("Hold interrupt"));
+    m_hold->setToolTip(tr("Hold interrupt: keep the interrupt input up; the interrupt button lifts it for one clock"));
+    m_hold->hide();
 
     addWhatsThis();
 
@@ -103,6 +110,7 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
         flags->addWidget(pair.widget);
         flags->addSpacing(10);
     }
+    flags->addWidget(m_hold);
     flags->addStretch(1);
     m_head->setColumnStretch(1, 1);
 
@@ -123,13 +131,31 @@ ProcSimCore::ProcSimCore(std::shared_ptr<ProcSimCoreData> data, int pcMax, ProcS
             [this] { m_interrupt->setValue(m_data->interrupt()); });
     connect(m_carry, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editCarryBit(m_carry->value()); });
     connect(m_zero, &ProcSimEdtBit::valueChanged, this, [this] { m_data->editZeroBit(m_zero->value()); });
-    connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this,
-            [this] { m_data->setInterrupt(m_interrupt->value()); });
+    connect(m_interrupt, &ProcSimEdtInterrupt::valueChanged, this, [this] { changeInterrupt(); });
+    connect(m_hold, &QCheckBox::toggled, this, &ProcSimCore::interruptHeld);
     connect(m_pc, &ProcSimEdtNumeric::valueChanged, this, &ProcSimCore::pcTyped);
     refresh();
 }
 
 ProcSimCore::~ProcSimCore() = default;
+
+void ProcSimCore::setExact(bool isExact)
+{
+    m_hold->setVisible(isExact);
+    m_isExact = isExact;
+}
+
+/// The user has clicked the state.
+void ProcSimCore::changeInterrupt()
+{
+    if (!m_isExact) {
+        m_data->setInterrupt(m_interrupt->value());
+        return;
+    }
+    // What comes of a request is for the core to say.
+    m_interrupt->setValue(m_data->interrupt());
+    emit interruptRequested();
+}
 
 void ProcSimCore::addWhatsThis()
 {

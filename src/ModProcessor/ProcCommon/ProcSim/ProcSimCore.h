@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class QCheckBox;
 class QFrame;
 class QGridLayout;
 class QLabel;
@@ -33,6 +34,8 @@ public:
     const std::shared_ptr<ProcSimCoreData>& data() const { return m_data; }
     /// @param base 8, 10 or 16
     void setBase(int base);
+    /// The interrupt is an input with a level: a switch holds it, and a click on the state lifts it for one clock.
+    void setExact(bool isExact);
     /// During a run the field of the program counter is read-only, as its value changes all the time.
     void setRunning(bool running);
     /// An address that the user has typed for the program counter and not ended with Return; it is reported no more
@@ -66,6 +69,10 @@ signals:
     void contentChanged(QWidget* widget);
     /// The user has typed an address for the program counter, which the display shows until the next refresh().
     void pcTyped(int addr);
+    /// Of an exact simulation: the interrupt input is to be held, or let go.
+    void interruptHeld(bool up);
+    /// The same: it is to be up for one clock.
+    void interruptRequested();
 
 protected:
     /// @param pcMax highest address of the program counter
@@ -78,6 +85,7 @@ protected:
 private:
     QFrame* hLine();
     void addWhatsThis();
+    void changeInterrupt();
     QLabel* title(const QString& text, QWidget* buddy, const QString& toolTip);
 
     std::shared_ptr<ProcSimCoreData> m_data;
@@ -88,8 +96,10 @@ private:
     ProcSimEdtBit* m_carry;
     ProcSimEdtBit* m_zero;
     ProcSimEdtInterrupt* m_interrupt;
+    QCheckBox* m_hold;
     ProcSimCoreReg* m_regs;
     ProcSimScrpd* m_scrpd;
+    bool m_isExact = false;
 };
 
 } // namespace nsProc

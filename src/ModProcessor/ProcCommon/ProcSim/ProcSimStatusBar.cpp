@@ -5,7 +5,6 @@
 #include "MyStatusBarTitle.h"
 #include "ProcSimClock.h"
 
-#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -69,14 +68,11 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     m_exact->setObjectName(QStringLiteral("procSimExact"));
     m_exact->setToolTip(tr("The simulation does exactly what the core does"));
     layout->addWidget(m_exact);
-    m_hold = new QCheckBox(tr("Hold interrupt"), this);
-    m_hold->setObjectName(QStringLiteral("procSimHoldInterrupt"));
-    m_hold->setToolTip(tr("Keep the interrupt input up; the interrupt button lifts it for one clock"));
-    layout->addWidget(m_hold);
-    connect(m_hold, &QCheckBox::toggled, this, &ProcSimStatusBar::interruptHeld);
-    setExact(false);
-    layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
+    m_baseTitle = new MyStatusBarTitle(tr("Value format:"), this);
+    layout->addWidget(m_baseTitle);
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
+    m_base->setToolTip(tr("Value format: base of the numbers in the panels"));
+    setExact(false);
     layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
     layout->addWidget(new QLabel(tr("clocks"), this));
@@ -129,7 +125,8 @@ void ProcSimStatusBar::updateValues()
 void ProcSimStatusBar::setExact(bool isExact)
 {
     m_exact->setVisible(isExact);
-    m_hold->setVisible(isExact);
+    // A window of ordinary width has no room for both.
+    m_baseTitle->setVisible(!isExact);
 }
 
 void ProcSimStatusBar::setRunning(bool running)

@@ -4,7 +4,6 @@
 
 #include <memory>
 
-class QCheckBox;
 class QLabel;
 
 namespace nsProc {
@@ -40,8 +39,6 @@ public slots:
 signals:
     /// The count has been set to 0.
     void cleared();
-    /// The interrupt input is held up, or no longer.
-    void interruptHeld(bool up);
 
 private:
     QLabel* addValue(const QString& name, int width);
@@ -51,7 +48,7 @@ private:
     double m_timeFactor;
     QLabel* m_state;
     QLabel* m_exact;
-    QCheckBox* m_hold;
+    QWidget* m_baseTitle;
     QLabel* m_base;
     QLabel* m_clocks;
     QLabel* m_time;
