@@ -158,18 +158,15 @@ void ImportProgramDialog::setCanOpenProject(bool can)
 
 void ImportProgramDialog::setState(eState_t state)
 {
-    const bool hadFocus = m_convert->hasFocus() || m_stop->hasFocus();
+    if (m_state == stateIdle)
+        m_hadFocus = m_convert->hasFocus() || m_open->hasFocus();
     m_state = state;
     updateState();
     // A button that is disabled loses the focus, and the user would have to look for it.
-    if (!hadFocus)
-        return;
-    if (m_stop->isEnabled())
+    if (m_hadFocus && m_stop->isEnabled())
         m_stop->setFocus();
-    else if (m_open->isEnabled())
-        m_open->setFocus();
-    else if (m_convert->isEnabled())
-        m_convert->setFocus();
+    else if (m_hadFocus && state == stateIdle)
+        (m_open->isEnabled() ? m_open : m_convert)->setFocus();
 }
 
 void ImportProgramDialog::updateState()

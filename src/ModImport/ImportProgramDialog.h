@@ -80,6 +80,7 @@ private:
     ImportWorker::Job m_job; ///< the one that is shown, or is being done
     eState_t m_state = stateIdle;
     bool m_canOpen = true;
+    bool m_hadFocus = false; ///< a button of the work had the focus when it began
 };
 
 } // namespace nsModImport

@@ -25,6 +25,7 @@
 #include <QScrollArea>
 #include <QShortcut>
 #include <QSpinBox>
+#include <QStyle>
 #include <QVBoxLayout>
 
 namespace nsModImport {
@@ -39,7 +40,7 @@ const int halfGap = 24;       ///< pixels between the two sides
 const int dfltTabIndent = 4;  ///< characters
 const int minViewHeight = 80; ///< pixels
 const int minWidth = 60;
-const int minFilterLength = 12; ///< characters
+const int minFilterLength = 9; ///< characters
 
 } // namespace
 
@@ -183,19 +184,34 @@ void ImportWidget::layoutDestination(QGridLayout* grid)
         button(QStringLiteral("importUse"), tr("Use converted file"), tr("Open the converted file as a new document"));
 }
 
-/// The buttons of both sides share a row of the whole width: side by side in their halves they would be wider than the
-/// page between two docks.
 void ImportWidget::layoutButtons(QGridLayout* grid)
 {
-    auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(gap);
+    auto* left = new QHBoxLayout;
+    left->setSpacing(gap);
     for (QPushButton* one : {m_restart, m_convertLine, m_convertAll})
-        buttons->addWidget(one);
-    buttons->addStretch(1);
-    buttons->addWidget(m_progress, 1);
-    buttons->addWidget(m_stop);
-    buttons->addWidget(m_useFile);
-    grid->addLayout(buttons, rowButtons, columnSource, 1, columnCount);
+        left->addWidget(one);
+    left->addStretch(1);
+    auto* right = new QHBoxLayout;
+    right->setSpacing(gap);
+    right->addStretch(1);
+    right->addWidget(m_progress, 1);
+    right->addWidget(m_stop);
+    right->addWidget(m_useFile);
+    m_buttons = new QBoxLayout(QBoxLayout::TopToBottom);
+    m_buttons->setSpacing(gap);
+    m_buttons->addLayout(left);
+    m_buttons->addLayout(right);
+    grid->addLayout(m_buttons, rowButtons, columnSource, 1, columnCount);
+}
+
+/// Between two docks the buttons of both sides have no room side by side.
+void ImportWidget::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    int needed = gap + style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * gap;
+    for (int i = 0; i < m_buttons->count(); ++i)
+        needed += m_buttons->itemAt(i)->minimumSize().width();
+    m_buttons->setDirection(width() < needed ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
 }
 
 void ImportWidget::connectControls()

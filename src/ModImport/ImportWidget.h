@@ -5,6 +5,7 @@
 
 #include <QWidget>
 
+class QBoxLayout;
 class QComboBox;
 class QGridLayout;
 class QLabel;
@@ -65,6 +66,9 @@ public slots:
     void useFile();
     void selectFile();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     /// What came of the next line.
     enum eStep_t { stepConverted = 0, stepFailed = 1, stepEnd = 2 };
@@ -106,6 +110,7 @@ private:
     QPushButton* m_convertAll = nullptr;
     QPushButton* m_useFile = nullptr;
     QPushButton* m_program = nullptr;
+    QBoxLayout* m_buttons = nullptr;
     QPushButton* m_stop = nullptr;
     QProgressBar* m_progress = nullptr;
 };

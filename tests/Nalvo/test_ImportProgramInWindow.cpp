@@ -261,7 +261,7 @@ TEST_F(ImportProgramInWindow, differencesAndMessagesLeadToTheSource)
     enter("importProgramSource", source);
     enter("importProgramReference", writeFile("p.hex", "2C002\n34000\n"));
     convert();
-    EXPECT_EQ(report()->headline(), "1 word differ, 1 word equal");
+    EXPECT_EQ(report()->headline(), "1 word differs, 1 word equal");
     QTreeWidget* differences = list("importDifferences");
     ASSERT_EQ(differences->topLevelItemCount(), 1);
     QTreeWidgetItem* difference = differences->topLevelItem(0);
@@ -293,7 +293,10 @@ TEST_F(ImportProgramInWindow, differencesAndMessagesLeadToTheSource)
     QTest::keyClick(list("importMessages"), Qt::Key_Return);
     EXPECT_TRUE(module<nsModEditor::ModEditor>()->cursorLine(&path, &line));
     EXPECT_EQ(line, 1);
+    // The editor asks whether the original that it shows belongs to the new project.
+    ModalAnswers no({});
     press("importProgramOpen");
+    EXPECT_EQ(no.seen(), 1);
     EXPECT_FALSE(assemble());
     EXPECT_TRUE(messageTexts().join('\n').contains("NO_COUNTERPART"));
 }
@@ -453,7 +456,8 @@ TEST_F(ImportProgramInWindow, aFolderThatTakesNothingIsReported)
 {
     QDir(projectDir()).mkpath("locked");
     const QString source = writeFile("p.psm", program);
-    const auto everyone = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    const auto everyone =
+        QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     openDialog();
     enter("importProgramSource", source);
     enter("importProgramFolder", projectDir() + "/locked/p");

@@ -14,6 +14,7 @@ void takeRecovery(PictureWindow& stage);
 void takeDeviceMaps(PictureWindow& stage);
 void takeExternalPrograms(PictureWindow& stage);
 void takeSimulator(PictureWindow& stage);
+void takeImport(PictureWindow& stage);
 
 /// Keeps texts for the next start of the window, as if the last one had not been closed.
 void keepTexts(PictureWindow& stage);

@@ -41,6 +41,7 @@ const QVector<sScene_t>& scenes()
          {"configPageXPBlze3Processor", "configPageXPBlze6Processor", "configPageLMico8v3xProcessor"}},
         {takeDeviceMaps, {"deviceMaps"}},
         {takeExternalPrograms, {"externalPrograms", "configPageSyscall"}},
+        {takeImport, {"filesImport", "importProgram"}},
     };
     return all;
 }

@@ -50,7 +50,10 @@ QStringList ImageProofResult::report() const
     } else if (differenceCount == 0) {
         lines.append(QStringLiteral("Nothing was compared: the program and the reference have no word in common"));
     } else {
-        lines.append(QStringLiteral("%1 differ, %2 equal").arg(words(differenceCount)).arg(words(equalCount)));
+        lines.append(QStringLiteral("%1 %2, %3 equal")
+                         .arg(words(differenceCount),
+                              differenceCount == 1 ? QStringLiteral("differs") : QStringLiteral("differ"),
+                              words(equalCount)));
     }
     if (onlyOursCount > 0)
         lines.append(QStringLiteral("The reference lacks %1 of the program").arg(words(onlyOursCount)));
