@@ -1,6 +1,7 @@
 // The models and the exact simulation do the same, in both languages.
 
 #include "ProveToolFixture.h"
+#include "ReturnPrograms.h"
 
 namespace {
 
@@ -84,6 +85,16 @@ TEST_P(ProveEqual, StacksOverflowAndResetTheCore)
     for (const Core core : allCores) {
         writeProgram(core, core == Core::Mico8 ? deepCallsOfMico8 : deepCalls);
         EXPECT_TRUE(equal(core, {"-n", "400", "-q"}).contains("400 instructions")) << nameOf(core);
+    }
+}
+
+TEST_P(ProveEqual, ReturnsGoWhereTheModelsGo)
+{
+    for (const ReturnProgram& program : returnPrograms()) {
+        const Core core = allCores[program.processor];
+        writeProgram(core, program.source);
+        const AsmToolResult result = prove(core, GetParam(), {"-n", QString::number(program.instructions)});
+        EXPECT_EQ(result.status, 0) << program.name << result.out.constData() << result.err.constData();
     }
 }
 
