@@ -36,7 +36,7 @@ inline QList<ReturnProgram> returnPrograms()
          {"000", "001", "002"}},
         {ReturnProgram::picoBlaze3,
          "at depth 0, one call and return later",
-         "        RET\n        CALL    part\n        RET\nsub:    RET\n",
+         "        RET\n        CALL    part\n        RET\npart:    RET\n",
          8,
          {"000", "001", "003", "002", "001", "003", "002", "001"}},
         // What ran last at depth 31 is the innermost return.
@@ -48,7 +48,7 @@ inline QList<ReturnProgram> returnPrograms()
         // The call again, as the return from an interrupt does not go behind it.
         {ReturnProgram::picoBlaze3,
          "RETI behind a call",
-         "        ADD     s0, 1\n        CALL    part\nsub:    RETI    DISABLE\n",
+         "        ADD     s0, 1\n        CALL    part\npart:    RETI    DISABLE\n",
          6,
          {"000", "001", "002", "001", "002", "001"}},
         {ReturnProgram::picoBlaze6,
@@ -69,7 +69,8 @@ inline QList<ReturnProgram> returnPrograms()
          {"006", "002", "006", "006", "006", "006"}},
         {ReturnProgram::mico8,
          "RETI behind a call",
-         "        NOP\n        COMP    r1, 1\n        CALL    part\nhere:   JUMP    here\nsub:    COMP    r1, 0\n      "
+         "        NOP\n        COMP    r1, 1\n        CALL    part\nhere:   JUMP    here\npart:    COMP    r1, 0\n     "
+         " "
          " "
          " RETI\n",
          6,
