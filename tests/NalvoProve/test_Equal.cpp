@@ -1,6 +1,11 @@
 // The models and the exact simulation do the same, in both languages.
 
 #include "ProveToolFixture.h"
+#include "ReturnPrograms.h"
+
+#include <QDirIterator>
+
+#include <algorithm>
 
 namespace {
 
@@ -61,22 +66,24 @@ const char* const deepCallsOfMico8 = "        NOP\n"
 TEST_P(ProveEqual, AllExamples)
 {
     write("reads.txt", manyReads());
-    const struct
-    {
-        const char* name;
-        Core core;
-    } examples[] = {{"uart_monitor", Core::PicoBlaze3}, {"split_rams", Core::PicoBlaze3},
-                    {"two_pages", Core::PicoBlaze3},    {"check_hex", Core::PicoBlaze3},
-                    {"check_vhdl", Core::PicoBlaze3},   {"motor_control", Core::PicoBlaze6},
-                    {"keypad_lock", Core::Mico8}};
-    for (const auto& each : examples) {
+    int count = 0;
+    QDirIterator it(NALVO_SOURCE_DIR "/examples", {"*.nalvo"}, QDir::Files, QDirIterator::Subdirectories);
+    for (; it.hasNext(); ++count) {
+        QFile project(it.next());
+        ASSERT_TRUE(project.open(QIODevice::ReadOnly));
+        const QByteArray text = project.readAll();
+        const auto core = std::find_if(std::begin(allCores), std::end(allCores),
+                                       [&text](Core each) { return text.contains(processorOf(each).toUtf8()); });
+        ASSERT_NE(core, std::end(allCores)) << qPrintable(it.filePath());
         const AsmToolResult result =
-            run({"--core", HdlCore::sourceOf(each.core, GetParam()), "-n", "1500", "--reads", "reads.txt",
-                 "--interrupt-every", "70", "--interrupt-at-clock", "333:9", example(each.name)});
-        EXPECT_EQ(result.status, 0) << each.name << result.out.constData() << result.err.constData();
+            run({"--core", HdlCore::sourceOf(*core, GetParam()), "-n", "1500", "--reads", "reads.txt",
+                 "--interrupt-every", "70", "--interrupt-at-clock", "333:9", it.filePath()});
+        EXPECT_EQ(result.status, 0) << qPrintable(it.filePath()) << result.out.constData() << result.err.constData();
         EXPECT_TRUE(result.out.startsWith("1500 instructions, ")) << result.out.constData();
         EXPECT_TRUE(result.out.endsWith(" events, all equal\n")) << result.out.constData();
+        EXPECT_TRUE(result.err.contains(", C and Z at the end\n")) << result.err.constData();
     }
+    EXPECT_GE(count, 7);
 }
 
 TEST_P(ProveEqual, StacksOverflowAndResetTheCore)
@@ -84,6 +91,16 @@ TEST_P(ProveEqual, StacksOverflowAndResetTheCore)
     for (const Core core : allCores) {
         writeProgram(core, core == Core::Mico8 ? deepCallsOfMico8 : deepCalls);
         EXPECT_TRUE(equal(core, {"-n", "400", "-q"}).contains("400 instructions")) << nameOf(core);
+    }
+}
+
+TEST_P(ProveEqual, ReturnsGoWhereTheModelsGo)
+{
+    for (const ReturnProgram& program : returnPrograms()) {
+        const Core core = allCores[program.processor];
+        writeProgram(core, program.source);
+        const AsmToolResult result = prove(core, GetParam(), {"-n", QString::number(program.instructions)});
+        EXPECT_EQ(result.status, 0) << program.name << result.out.constData() << result.err.constData();
     }
 }
 

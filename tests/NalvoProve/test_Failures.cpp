@@ -8,6 +8,7 @@
 #include <csignal>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 namespace {
 
@@ -143,13 +144,86 @@ TEST_F(ProveFailures, TheCoreIsNotWhatItShouldBe)
     expectNothing({"--core", "k.v", "p.nalvo"}, "does not run the core");
 }
 
+TEST_F(ProveFailures, FilesThatAreNoCores)
+{
+    QByteArray binary;
+    for (int i = 0; i < 50000; ++i)
+        binary += char(i * i / 7 + i);
+    for (const char* name : {"binary.v", "binary.vhd"}) {
+        write(name, binary);
+        expectNothing({"--core", name, "p.nalvo"},
+                      "The project is for PicoBlaze 3, but no module or entity kcpsm3 is in ");
+    }
+    write("huge.v", QByteArray((16 << 20) + 1, ' '));
+    expectNothing({"--core", "huge.v", "p.nalvo"}, "The file is too large for a core: huge.v");
+    mkdir("folder.v");
+    expectNothing({"--core", "folder.v", "p.nalvo"}, "No Verilog or VHDL file is in the folder: folder.v");
+    // Nobody writes into this pipe: it is not even opened.
+    ASSERT_EQ(mkfifo(path("pipe.v").toLocal8Bit().constData(), 0600), 0);
+    expectNothing({"--core", "pipe.v", "p.nalvo"}, "The core is neither a file nor a folder: pipe.v");
+    if (!HdlCore::isToolThere(Language::Vhdl))
+        return;
+    write("k.vhd",
+          changed(Core::PicoBlaze3, Language::Vhdl, "architecture behaviour of kcpsm3 is", "architecture of is"));
+    expectNothing({"--core", "k.vhd", "p.nalvo"}, "ghdl does not compile k.vhd:\nnalvo-prove:     k.vhd:");
+}
+
+TEST_F(ProveFailures, AToolThatIsKilledIsNotASlowCore)
+{
+    const QStringList tools = {"iverilog", "vvp", "sh"};
+    for (const char* killed : {"vvp", "iverilog"}) {
+        QStringList others = tools;
+        others.removeAll(killed);
+        QDir(path("bin")).removeRecursively();
+        const AsmToolSetup own = withTools(others);
+        const QString name = QString("bin/") + killed;
+        write(name, "#!/bin/sh\nkill -KILL $$\n");
+        ASSERT_TRUE(QFile::setPermissions(path(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+        expectNothing(run({"--core", core(), "p.nalvo"}, own),
+                      QByteArray(killed) == "vvp" ? "Icarus Verilog has died on the core: Killed"
+                                                  : "iverilog has died while it compiled the core: Killed");
+    }
+}
+
+TEST_F(ProveFailures, ADiskThatIsFull)
+{
+    // The copy of the core, and then what the compiler writes, does not fit any more.
+    for (const rlim_t bytes : {rlim_t(3000), rlim_t(30000)}) {
+        AsmToolSetup own = withTemporary();
+        own.inChild = [bytes] {
+            std::signal(SIGXFSZ, SIG_IGN);
+            const rlimit size = {bytes, bytes};
+            setrlimit(RLIMIT_FSIZE, &size);
+        };
+        expectNothing(run({"--core", core(), "p.nalvo"}, own),
+                      bytes == 3000 ? "Can not write " : "Icarus Verilog does not ");
+        EXPECT_EQ(QDir(path("tmp")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    }
+}
+
+TEST_F(ProveFailures, ATemporaryFolderThatIsNotThereIsNotNeeded)
+{
+    AsmToolSetup own = setup();
+    own.env.insert("TMPDIR", path("nowhere"));
+    EXPECT_EQ(run({"--core", core(), "-n", "20", "p.nalvo"}, own).status, 0);
+    EXPECT_FALSE(exists("nowhere"));
+}
+
+TEST_F(ProveFailures, AProjectWithoutInstructions)
+{
+    write("a.psm", "; nothing\n");
+    expectNothing({"--core", core(), "p.nalvo"}, "not assembled");
+    write("p.nalvo", "");
+    expectNothing({"--core", core(), "p.nalvo"}, "p.nalvo");
+}
+
 TEST_F(ProveFailures, ACoreThatHangsIsEnded)
 {
     write("k.v", shell("  integer n; initial begin n = 0; forever n = n + 1; end\n"));
     AsmToolSetup own = setup();
-    // The tools inherit what is less than their own limit of processor time.
+    // The tools inherit what is less than their own limits of processor time.
     own.inChild = [] {
-        const rlimit time = {2, 2};
+        const rlimit time = {2, 10};
         setrlimit(RLIMIT_CPU, &time);
     };
     expectNothing(run({"--core", "k.v", "p.nalvo"}, own), "The core does not get on: Icarus Verilog has taken ");
@@ -202,7 +276,7 @@ TEST_F(ProveFailures, PathsMayHaveBlanksAndQuotes)
     for (const Language language : allLanguages) {
         if (!HdlCore::isToolThere(language))
             continue;
-        const QString folder = "it's a \"core\" $HOME";
+        const QString folder = QString::fromUtf8("it's a \"core\" of k\u00fcpf $HOME");
         const QString name = folder + (language == Language::Verilog ? "/my core.v" : "/my core.vhd");
         write(name, changed(Core::PicoBlaze3, language, "", ""));
         EXPECT_EQ(run({"--core", name, "-n", "20", "p.nalvo"}).status, 0);

@@ -2,7 +2,11 @@
 
 #include "SimStop.h"
 
+#include <QProcessEnvironment>
+
+#include <algorithm>
 #include <csignal>
+#include <cstring>
 
 #include <sys/prctl.h>
 #include <sys/resource.h>
@@ -27,7 +31,11 @@ void ChildProcess::setupChildProcess()
 {
     setpgid(0, 0);
     prctl(PR_SET_PDEATHSIG, SIGKILL);
-    const rlimit time = {rlim_t(m_seconds), rlim_t(m_seconds)};
+    // At the first limit it gets a signal of its own, which tells this from whatever else ends it.
+    rlimit time = {};
+    getrlimit(RLIMIT_CPU, &time);
+    time.rlim_cur = std::min(time.rlim_cur, rlim_t(m_seconds));
+    time.rlim_max = std::min(time.rlim_max, rlim_t(m_seconds) + 2);
     setrlimit(RLIMIT_CPU, &time);
     const rlimit none = {0, 0};
     setrlimit(RLIMIT_CORE, &none);
@@ -41,6 +49,12 @@ void ChildProcess::killAll()
     m_group = 0;
     if (state() != NotRunning)
         waitForFinished(-1);
+}
+
+QString ChildProcess::failure() const
+{
+    const bool isEnded = error() == Crashed && exitCode() != 0;
+    return isEnded ? QString::fromLocal8Bit(strsignal(exitCode())) : errorString();
 }
 
 bool ChildProcess::takeLines(const std::function<bool(const QByteArray&)>& takeLine, bool all)
@@ -67,6 +81,11 @@ ChildProcess::eEnd_t ChildProcess::run(const QString& program, const QStringList
     setWorkingDirectory(folder);
     setProcessChannelMode(MergedChannels);
     setStandardInputFile(nullDevice());
+    // Its temporary files go with the folder.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const char* name : {"TMPDIR", "TMP", "TEMP"})
+        environment.insert(name, folder);
+    setProcessEnvironment(environment);
     start(program, arguments);
     if (!waitForStarted(-1))
         return endNotStarted;
@@ -90,8 +109,8 @@ ChildProcess::eEnd_t ChildProcess::run(const QString& program, const QStringList
         return endRefused;
     if (QProcess::exitStatus() == NormalExit)
         return endExit;
-    // The kernel ends it by one of these; QProcess gives the signal as the exit code.
-    return exitCode() == SIGKILL || exitCode() == SIGXCPU ? endTime : endDied;
+    // QProcess gives the signal as the exit code.
+    return exitCode() == SIGXCPU ? endTime : endDied;
 }
 
 } // namespace nsNalvoProve

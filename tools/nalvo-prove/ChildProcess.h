@@ -15,7 +15,7 @@ class ChildProcess : private QProcess
 public:
     enum eEnd_t {
         endExit,       ///< by itself: see exitStatus()
-        endDied,       ///< by a signal
+        endDied,       ///< by a signal, see failure()
         endNotStarted, ///< see failure()
         endTime,       ///< it has used up its processor time
         endStopped,    ///< the signal has come
@@ -31,7 +31,8 @@ public:
     eEnd_t run(const QString& program, const QStringList& arguments, const QString& folder, int seconds,
                const std::function<bool(const QByteArray&)>& takeLine);
     int exitStatus() const { return exitCode(); }
-    QString failure() const { return errorString(); }
+    /// Why it has not started, or which signal has ended it.
+    QString failure() const;
 
 protected:
     void setupChildProcess() override;

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -80,6 +81,7 @@ CoreRun::CoreRun(const CoreKind& kind, const CoreSource& source, const nsProc::P
     , m_source(source)
     , m_config(config)
     , m_hwbuild(hwbuild)
+    , m_primitives(kind, source)
 {
 }
 
@@ -123,8 +125,8 @@ bool CoreRun::copySources()
 bool CoreRun::copyBench()
 {
     const QString bench = QString("%1_bench").arg(m_kind.name);
-    const QStringList names = m_source.isVhdl() ? QStringList{"bench_stimulus.vhd", bench + ".vhd", "unisim.vhd"}
-                                                : QStringList{"stimulus.vh", bench + ".v", "primitives.v"};
+    const QStringList names = m_source.isVhdl() ? QStringList{"bench_stimulus.vhd", bench + ".vhd"}
+                                                : QStringList{"stimulus.vh", bench + ".v"};
     return std::all_of(names.cbegin(), names.cend(),
                        [&](const QString& name) {
                            QFile file(":/prove/" + name);
@@ -135,16 +137,18 @@ bool CoreRun::copyBench()
                                text.replace("    lm8 #(", "    lm8_as_known #(");
                            return write(name, text);
                        }) &&
-           write("adapter.v", m_source.adapter());
+           write("adapter.v", m_source.adapter()) && write(modelsName(), m_primitives.text());
 }
 
 CoreRun::eEnd_t CoreRun::call(const QString& program, const QStringList& arguments, bool* isGood)
 {
     m_said.clear();
+    m_missing.clear();
     int lines = 0;
     ChildProcess process;
     const ChildProcess::eEnd_t end =
         process.run(program, arguments, m_folder.path(), compileSeconds, [&](const QByteArray& line) {
+            noteMissing(line);
             if (++lines <= mostLinesShown)
                 m_said += "\n    " + withNames(QString::fromLocal8Bit(line));
             return true;
@@ -156,7 +160,37 @@ CoreRun::eEnd_t CoreRun::call(const QString& program, const QStringList& argumen
         return endStopped;
     if (end == ChildProcess::endNotStarted)
         return fail(tr("Can not start %1: %2").arg(program, process.failure()));
+    if (end == ChildProcess::endTime)
+        return fail(tr("%1 has taken %2 seconds of processor time to compile the core")
+                        .arg(program, QString::number(compileSeconds)));
+    if (end == ChildProcess::endDied)
+        return fail(tr("%1 has died while it compiled the core: %2").arg(program, process.failure()));
     return endDone;
+}
+
+/// What a tool says of a part of the core that is nowhere.
+void CoreRun::noteMissing(const QByteArray& line)
+{
+    static const QRegularExpression patterns[] = {QRegularExpression(R"x(Unknown module type: (\w+))x"),
+                                                  QRegularExpression(R"x(component "(\w+)" is not bound)x"),
+                                                  QRegularExpression(R"x(unit "(\w+)" not found in library)x"),
+                                                  QRegularExpression(R"x(no declaration for "(\w+)")x")};
+    for (const QRegularExpression& pattern : patterns) {
+        const QString name = pattern.match(QString::fromLatin1(line)).captured(1);
+        const bool isPart = &pattern != &patterns[3] || m_source.instances().contains(name.toLower());
+        if (!name.isEmpty() && isPart && !m_missing.contains(name))
+            m_missing.append(name);
+    }
+}
+
+/// @return a line, or an empty text
+QString CoreRun::whatIsMissing() const
+{
+    return m_missing.isEmpty()
+               ? QString()
+               : tr("The core uses what is neither in its files nor among the models of nalvo-prove: %1")
+                         .arg(m_missing.join(", ")) +
+                     '\n';
 }
 
 CoreRun::eEnd_t CoreRun::compileVerilog(bool showsFlags, bool* isCompiled)
@@ -190,8 +224,8 @@ CoreRun::eEnd_t CoreRun::compileVerilog(bool showsFlags, bool* isCompiled)
     arguments += m_copies;
     arguments.append(bench + ".v");
     arguments.append("adapter.v");
-    if (m_source.usesPrimitives())
-        arguments.append("primitives.v");
+    if (m_primitives.isNeeded())
+        arguments.append(modelsName());
     return call("iverilog", arguments, isCompiled);
 }
 
@@ -202,8 +236,10 @@ CoreRun::eEnd_t CoreRun::compileVhdl(const QString& standard, bool* isCompiled)
     const QStringList common = {m_standard, "-fsynopsys", "-fexplicit", "--syn-binding", "-P."};
     *isCompiled = true;
     eEnd_t end = endDone;
-    if (m_source.usesPrimitives())
-        end = call("ghdl", QStringList{"-a"} + common + QStringList{"--work=unisim", "unisim.vhd"}, isCompiled);
+    for (const QString& library : m_primitives.libraries()) {
+        if (end == endDone && *isCompiled)
+            end = call("ghdl", QStringList{"-a"} + common + QStringList{"--work=" + library, modelsName()}, isCompiled);
+    }
     if (end == endDone && *isCompiled)
         end = call("ghdl", QStringList{"-i"} + common + m_copies + QStringList{"bench_stimulus.vhd", bench + ".vhd"},
                    isCompiled);
@@ -244,7 +280,8 @@ CoreRun::eEnd_t CoreRun::make(const QString& standard, bool showsFlags)
         return end;
     return isCompiled
                ? findStart()
-               : fail(tr("%1 does not compile %2:").arg(toolName(), shownPath(m_source.files().first())) + m_said);
+               : fail(whatIsMissing() +
+                      tr("%1 does not compile %2:").arg(toolName(), shownPath(m_source.files().first())) + m_said);
 }
 
 QString CoreRun::option(const QString& name, const QString& value) const
@@ -288,7 +325,7 @@ CoreRun::eEnd_t CoreRun::simulate(const QStringList& options, qint64 clocks,
     case ChildProcess::endRefused:
         return endRefused;
     case ChildProcess::endDied:
-        return fail(tr("%1 has crashed on the core").arg(toolName()));
+        return fail(tr("%1 has died on the core: %2").arg(toolName(), process.failure()));
     case ChildProcess::endExit:
         break;
     }

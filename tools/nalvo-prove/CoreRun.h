@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreSource.h"
+#include "Primitives.h"
 #include "ProcCoreConfig.h"
 #include "ProveEvent.h"
 #include "StateWords.h"
@@ -72,6 +73,9 @@ private:
     QString option(const QString& name, qint64 value) const { return option(name, QString::number(value)); }
     QStringList options(const CoreStimulus& stimulus);
     eEnd_t simulate(const QStringList& options, qint64 clocks, const std::function<bool(const QByteArray&)>& takeLine);
+    void noteMissing(const QByteArray& line);
+    QString whatIsMissing() const;
+    QString modelsName() const { return m_source.isVhdl() ? "models.vhd" : "models.v"; }
     bool writeWanted();
     void readWaves(ProveState* state) const;
     QString withNames(QString text) const;
@@ -80,10 +84,12 @@ private:
     const CoreSource& m_source;
     const nsProc::ProcCoreConfig& m_config;
     int m_hwbuild;
+    Primitives m_primitives;
     QTemporaryDir m_folder;
-    QStringList m_copies; ///< of the sources, in their order
-    QString m_standard;   ///< of VHDL
-    QString m_said;       ///< by the tool that was called last
+    QStringList m_copies;  ///< of the sources, in their order
+    QString m_standard;    ///< of VHDL
+    QString m_said;        ///< by the tool that was called last
+    QStringList m_missing; ///< parts of the core that it has not found
     int m_start = 1;
     QString m_failure;
 };

@@ -69,6 +69,27 @@ QSet<QString> wordsOf(const QString& code)
     return QSet<QString>(words.cbegin(), words.cend());
 }
 
+/// The libraries that a source names, without those that are always there.
+QStringList librariesOf(const QString& code, bool isVhdl)
+{
+    static const QRegularExpression clause(R"(\blibrary\s+([\w\s,]+);)");
+    static const QRegularExpression separators(R"([\s,]+)");
+    QStringList names;
+    for (const QString& list : isVhdl ? captures(code, clause) : QStringList())
+        names += list.split(separators, Qt::SkipEmptyParts);
+    for (const char* name : {"ieee", "std", "work", "synopsys"})
+        names.removeAll(name);
+    return names;
+}
+
+/// The components that a source instantiates.
+QSet<QString> instancesOf(const QString& code, bool isVhdl)
+{
+    static const QRegularExpression instance(R"(:\s*(?:component\s+)?(\w+)\s+(?:generic|port)\s+map\b)");
+    const QStringList names = isVhdl ? captures(code, instance) : QStringList();
+    return QSet<QString>(names.cbegin(), names.cend());
+}
+
 QString languageName(bool isVhdl)
 {
     return isVhdl ? "VHDL" : "Verilog";
@@ -107,6 +128,8 @@ QString CoreSource::read(const QString& path)
     const QFileInfo info(path);
     if (!info.exists())
         return tr("There is no such file or folder with the core: %1").arg(path);
+    if (!info.isDir() && !info.isFile())
+        return tr("The core is neither a file nor a folder: %1").arg(path);
     return info.isDir() ? readFolder(path) : readFile(info.absoluteFilePath(), true);
 }
 
@@ -273,7 +296,10 @@ void CoreSource::follow(const sFile_t& top)
         }
     }
     QList<const sFile_t*> taken = {&top};
-    m_usesPrimitives = wordsOf(top.text).contains("unisim");
+    m_words.clear();
+    m_declared.clear();
+    m_instances.clear();
+    m_libraries.clear();
     for (int i = 0; i < taken.size(); ++i) {
         const QSet<QString> words = wordsOf(taken[i]->text);
         for (const QString& word : words) {
@@ -281,13 +307,13 @@ void CoreSource::follow(const sFile_t& top)
             if (file != nullptr && !taken.contains(file))
                 taken.append(file);
         }
-        static const QRegularExpression primitive("^(LUT[1-6](_[12DL]+)?|FD[CPRSE]*(_1)?|MUXCY(_[DL])?|XORCY(_[DL])?|"
-                                                  "MUXF[5-8]|INV|RAM\\d+(X\\d+[SD]|M)(_1)?)$",
-                                                  QRegularExpression::CaseInsensitiveOption);
-        m_usesPrimitives = m_usesPrimitives || std::any_of(words.cbegin(), words.cend(), [&](const QString& word) {
-                               return !declared.contains(word) && primitive.match(word).hasMatch();
-                           });
+        m_words.unite(words);
+        m_instances.unite(instancesOf(taken[i]->text, top.isVhdl));
+        m_libraries += librariesOf(taken[i]->text, top.isVhdl);
     }
+    m_libraries.removeDuplicates();
+    for (const sFile_t* file : taken)
+        m_declared.unite(QSet<QString>(file->units.cbegin(), file->units.cend()));
     m_files.clear();
     for (const sFile_t* file : taken)
         m_files.append(file->path);

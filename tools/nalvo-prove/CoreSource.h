@@ -3,6 +3,7 @@
 #include "ProveOptions.h"
 
 #include <QByteArray>
+#include <QSet>
 #include <QString>
 #include <QStringList>
 
@@ -39,8 +40,14 @@ public:
     bool isVhdl() const { return m_language == ProveOptions::languageVhdl; }
     /// The one with the core comes first. Absolute paths.
     const QStringList& files() const { return m_files; }
-    /// The source uses the models of the vendor's primitives, which are not among its files.
-    bool usesPrimitives() const { return m_usesPrimitives; }
+    /// All names in these files, without comments and strings; of VHDL in lower case, as the next two.
+    const QSet<QString>& words() const { return m_words; }
+    /// Modules, entities and packages of these files.
+    const QSet<QString>& declared() const { return m_declared; }
+    /// VHDL: what the files instantiate.
+    const QSet<QString>& instances() const { return m_instances; }
+    /// VHDL: libraries that they name, without those that are always there.
+    const QStringList& libraries() const { return m_libraries; }
     /// Verilog: a module lm8_as_known between bench and core, whose ports have other names; empty where none is needed.
     const QByteArray& adapter() const { return m_adapter; }
     /// Names of the flags in the core; empty where it has none that are known.
@@ -72,7 +79,10 @@ private:
     QList<sFile_t> m_read;
     eLanguage_t m_language = ProveOptions::languageAny;
     QStringList m_files;
-    bool m_usesPrimitives = false;
+    QSet<QString> m_words;
+    QSet<QString> m_declared;
+    QSet<QString> m_instances;
+    QStringList m_libraries;
     QByteArray m_adapter;
     QString m_carryName;
     QString m_zeroName;

@@ -17,8 +17,8 @@ module primitives_tb;
 
     task tick;
         begin
-            #1 clk = 1'b1;
             #1 clk = 1'b0;
+            #1 clk = 1'b1;
             #1;
         end
     endtask
@@ -171,7 +171,7 @@ module primitives_tb;
         end
         // Flip-flops: all pins, in an order in which each sees both states.
         for (i = 0; i < 256; i = i + 1) begin
-            {s, r, d, ce} = (i * 7 + i / 16) % 16;
+            {s, r, d, ce} = (i * 5 + i / 3 + i / 11) % 16;
             #1;
             // Those pins need no clock.
             if (r) begin e_fdc = 1'b0; e_fdce = 1'b0; end
@@ -191,8 +191,12 @@ module primitives_tb;
             if (!s) e_fdp = d;
             if (!s && ce) e_fdpe = d;
             check_flip_flops;
+            // The falling edge is none of theirs.
+            {s, r, d, ce} = {2'b00, !d, 1'b1};
+            #1 clk = 1'b0;
+            #1 check_flip_flops;
         end
-        // Memories: a pattern in all cells, and nothing without the enable.
+        // Memories: a pattern in all cells, and nothing without the enable or at the falling edge.
         for (i = 0; i < 256; i = i + 1) begin
             a = i;
             d = i % 3 == 0;
@@ -203,6 +207,9 @@ module primitives_tb;
             d = !d;
             di = ~di;
             tick;
+            we = 1'b1;
+            #1 clk = 1'b0;
+            #1 we = 1'b0;
         end
         for (i = 0; i < 256; i = i + 1) begin
             a = i;

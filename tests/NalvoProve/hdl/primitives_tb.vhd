@@ -98,9 +98,9 @@ begin
         procedure tick is
         begin
             wait for 1 ns;
-            clk <= '1';
-            wait for 1 ns;
             clk <= '0';
+            wait for 1 ns;
+            clk <= '1';
             wait for 1 ns;
         end procedure tick;
     begin
@@ -165,7 +165,7 @@ begin
         end loop;
         -- Flip-flops: all pins, in an order in which each sees both states.
         for i in 0 to 255 loop
-            pins := std_logic_vector(to_unsigned((i * 7 + i / 16) mod 16, 4));
+            pins := std_logic_vector(to_unsigned((i * 5 + i / 3 + i / 11) mod 16, 4));
             s <= pins(3);
             r <= pins(2);
             d <= pins(1);
@@ -234,8 +234,16 @@ begin
             check("FDCE", q_fdce, e_fdce, i);
             check("FDP", q_fdp, e_fdp, i);
             check("FDPE", q_fdpe, e_fdpe, i);
+            -- The falling edge is none of theirs.
+            s <= '0';
+            r <= '0';
+            d <= not d;
+            ce <= '1';
+            wait for 1 ns;
+            clk <= '0';
+            wait for 1 ns;
         end loop;
-        -- Memories: a pattern in all cells, and nothing without the enable.
+        -- Memories: a pattern in all cells, and nothing without the enable or at the falling edge.
         for i in 0 to 255 loop
             a <= std_logic_vector(to_unsigned(i, 8));
             d <= bit_of(i mod 3 = 0);
@@ -246,6 +254,11 @@ begin
             d <= bit_of(i mod 3 /= 0);
             di <= std_logic_vector(to_unsigned(3 - i mod 3, 2));
             tick;
+            we <= '1';
+            wait for 1 ns;
+            clk <= '0';
+            wait for 1 ns;
+            we <= '0';
         end loop;
         for i in 0 to 255 loop
             a <= std_logic_vector(to_unsigned(i, 8));

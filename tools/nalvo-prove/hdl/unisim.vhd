@@ -12,6 +12,9 @@ package prove_bits is
     -- The bit of a truth table.
     function bit_at(truth : bit_vector; place : std_logic_vector) return std_logic;
 
+    -- The last bits, as many as are wanted.
+    function low_bits(value : bit_vector; count : positive) return std_logic_vector;
+
 end package prove_bits;
 
 package body prove_bits is
@@ -33,6 +36,18 @@ package body prove_bits is
     begin
         return to_stdulogic(bits(number_of(place)));
     end function bit_at;
+
+    function low_bits(value : bit_vector; count : positive) return std_logic_vector is
+        constant bits  : bit_vector(value'length - 1 downto 0) := value;
+        variable result : std_logic_vector(count - 1 downto 0) := (others => '0');
+    begin
+        for i in result'range loop
+            if i < bits'length then
+                result(i) := to_stdulogic(bits(i));
+            end if;
+        end loop;
+        return result;
+    end function low_bits;
 
 end package body prove_bits;
 
@@ -558,6 +573,889 @@ package vcomponents is
             WE : in  std_logic
         );
     end component RAM64M;
+
+    component LUT1_L is
+        generic (
+            INIT : bit_vector := "00"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic
+        );
+    end component;
+
+    component LUT1_D is
+        generic (
+            INIT : bit_vector := "00"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic
+        );
+    end component;
+
+    component LUT2_L is
+        generic (
+            INIT : bit_vector := X"0"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic
+        );
+    end component;
+
+    component LUT2_D is
+        generic (
+            INIT : bit_vector := X"0"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic
+        );
+    end component;
+
+    component LUT3_L is
+        generic (
+            INIT : bit_vector := X"00"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic
+        );
+    end component;
+
+    component LUT3_D is
+        generic (
+            INIT : bit_vector := X"00"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic
+        );
+    end component;
+
+    component LUT4_L is
+        generic (
+            INIT : bit_vector := X"0000"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic
+        );
+    end component;
+
+    component LUT4_D is
+        generic (
+            INIT : bit_vector := X"0000"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic
+        );
+    end component;
+
+    component LUT5_L is
+        generic (
+            INIT : bit_vector := X"00000000"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic;
+            I4 : in  std_logic
+        );
+    end component;
+
+    component LUT5_D is
+        generic (
+            INIT : bit_vector := X"00000000"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic;
+            I4 : in  std_logic
+        );
+    end component;
+
+    component LUT6_L is
+        generic (
+            INIT : bit_vector := X"0000000000000000"
+        );
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic;
+            I4 : in  std_logic;
+            I5 : in  std_logic
+        );
+    end component;
+
+    component LUT6_D is
+        generic (
+            INIT : bit_vector := X"0000000000000000"
+        );
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            I2 : in  std_logic;
+            I3 : in  std_logic;
+            I4 : in  std_logic;
+            I5 : in  std_logic
+        );
+    end component;
+
+    component MUXCY_L is
+        port (
+            LO : out std_logic;
+            CI : in  std_logic;
+            DI : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXCY_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            CI : in  std_logic;
+            DI : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component XORCY_L is
+        port (
+            LO : out std_logic;
+            CI : in  std_logic;
+            LI : in  std_logic
+        );
+    end component;
+
+    component XORCY_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            CI : in  std_logic;
+            LI : in  std_logic
+        );
+    end component;
+
+    component MUXF5_L is
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF5_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF6_L is
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF6_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF7_L is
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF7_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF8_L is
+        port (
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component MUXF8_D is
+        port (
+            O : out std_logic;
+            LO : out std_logic;
+            I0 : in  std_logic;
+            I1 : in  std_logic;
+            S : in  std_logic
+        );
+    end component;
+
+    component CARRY4 is
+        port (
+            CO : out std_logic_vector(3 downto 0);
+            O : out std_logic_vector(3 downto 0);
+            CI : in  std_logic;
+            CYINIT : in  std_logic;
+            DI : in  std_logic_vector(3 downto 0);
+            S : in  std_logic_vector(3 downto 0)
+        );
+    end component;
+
+    component VCC is
+        port (
+            P : out std_logic
+        );
+    end component;
+
+    component GND is
+        port (
+            G : out std_logic
+        );
+    end component;
+
+    component BUF is
+        port (
+            O : out std_logic;
+            I : in  std_logic
+        );
+    end component;
+
+    component BUFG is
+        port (
+            O : out std_logic;
+            I : in  std_logic
+        );
+    end component;
+
+    component SRL16 is
+        generic (
+            INIT : bit_vector := X"0000"
+        );
+        port (
+            Q : out std_logic;
+            A0 : in  std_logic;
+            A1 : in  std_logic;
+            A2 : in  std_logic;
+            A3 : in  std_logic;
+            CLK : in  std_logic;
+            D : in  std_logic
+        );
+    end component;
+
+    component SRL16E is
+        generic (
+            INIT : bit_vector := X"0000"
+        );
+        port (
+            Q : out std_logic;
+            A0 : in  std_logic;
+            A1 : in  std_logic;
+            A2 : in  std_logic;
+            A3 : in  std_logic;
+            CE : in  std_logic;
+            CLK : in  std_logic;
+            D : in  std_logic
+        );
+    end component;
+
+    component SRLC16E is
+        generic (
+            INIT : bit_vector := X"0000"
+        );
+        port (
+            Q : out std_logic;
+            Q15 : out std_logic;
+            A0 : in  std_logic;
+            A1 : in  std_logic;
+            A2 : in  std_logic;
+            A3 : in  std_logic;
+            CE : in  std_logic;
+            CLK : in  std_logic;
+            D : in  std_logic
+        );
+    end component;
+
+    component SRLC32E is
+        generic (
+            INIT : bit_vector := X"00000000"
+        );
+        port (
+            Q : out std_logic;
+            Q31 : out std_logic;
+            A : in  std_logic_vector(4 downto 0);
+            CE : in  std_logic;
+            CLK : in  std_logic;
+            D : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S1 is
+        generic (
+            INIT : bit_vector := "0";
+            SRVAL : bit_vector := "0";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(0 downto 0);
+            ADDR : in  std_logic_vector(13 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(0 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S2 is
+        generic (
+            INIT : bit_vector := "00";
+            SRVAL : bit_vector := "00";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(1 downto 0);
+            ADDR : in  std_logic_vector(12 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(1 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S4 is
+        generic (
+            INIT : bit_vector := X"0";
+            SRVAL : bit_vector := X"0";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(3 downto 0);
+            ADDR : in  std_logic_vector(11 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(3 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S9 is
+        generic (
+            INIT : bit_vector := X"000";
+            SRVAL : bit_vector := X"000";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0');
+            INITP_00 : bit_vector(255 downto 0) := (others => '0');
+            INITP_01 : bit_vector(255 downto 0) := (others => '0');
+            INITP_02 : bit_vector(255 downto 0) := (others => '0');
+            INITP_03 : bit_vector(255 downto 0) := (others => '0');
+            INITP_04 : bit_vector(255 downto 0) := (others => '0');
+            INITP_05 : bit_vector(255 downto 0) := (others => '0');
+            INITP_06 : bit_vector(255 downto 0) := (others => '0');
+            INITP_07 : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(7 downto 0);
+            DOP : out std_logic_vector(0 downto 0);
+            ADDR : in  std_logic_vector(10 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(7 downto 0);
+            DIP : in  std_logic_vector(0 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S18 is
+        generic (
+            INIT : bit_vector := X"00000";
+            SRVAL : bit_vector := X"00000";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0');
+            INITP_00 : bit_vector(255 downto 0) := (others => '0');
+            INITP_01 : bit_vector(255 downto 0) := (others => '0');
+            INITP_02 : bit_vector(255 downto 0) := (others => '0');
+            INITP_03 : bit_vector(255 downto 0) := (others => '0');
+            INITP_04 : bit_vector(255 downto 0) := (others => '0');
+            INITP_05 : bit_vector(255 downto 0) := (others => '0');
+            INITP_06 : bit_vector(255 downto 0) := (others => '0');
+            INITP_07 : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(15 downto 0);
+            DOP : out std_logic_vector(1 downto 0);
+            ADDR : in  std_logic_vector(9 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(15 downto 0);
+            DIP : in  std_logic_vector(1 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
+
+    component RAMB16_S36 is
+        generic (
+            INIT : bit_vector := X"000000000";
+            SRVAL : bit_vector := X"000000000";
+            WRITE_MODE : string := "WRITE_FIRST";
+            INIT_00 : bit_vector(255 downto 0) := (others => '0');
+            INIT_01 : bit_vector(255 downto 0) := (others => '0');
+            INIT_02 : bit_vector(255 downto 0) := (others => '0');
+            INIT_03 : bit_vector(255 downto 0) := (others => '0');
+            INIT_04 : bit_vector(255 downto 0) := (others => '0');
+            INIT_05 : bit_vector(255 downto 0) := (others => '0');
+            INIT_06 : bit_vector(255 downto 0) := (others => '0');
+            INIT_07 : bit_vector(255 downto 0) := (others => '0');
+            INIT_08 : bit_vector(255 downto 0) := (others => '0');
+            INIT_09 : bit_vector(255 downto 0) := (others => '0');
+            INIT_0A : bit_vector(255 downto 0) := (others => '0');
+            INIT_0B : bit_vector(255 downto 0) := (others => '0');
+            INIT_0C : bit_vector(255 downto 0) := (others => '0');
+            INIT_0D : bit_vector(255 downto 0) := (others => '0');
+            INIT_0E : bit_vector(255 downto 0) := (others => '0');
+            INIT_0F : bit_vector(255 downto 0) := (others => '0');
+            INIT_10 : bit_vector(255 downto 0) := (others => '0');
+            INIT_11 : bit_vector(255 downto 0) := (others => '0');
+            INIT_12 : bit_vector(255 downto 0) := (others => '0');
+            INIT_13 : bit_vector(255 downto 0) := (others => '0');
+            INIT_14 : bit_vector(255 downto 0) := (others => '0');
+            INIT_15 : bit_vector(255 downto 0) := (others => '0');
+            INIT_16 : bit_vector(255 downto 0) := (others => '0');
+            INIT_17 : bit_vector(255 downto 0) := (others => '0');
+            INIT_18 : bit_vector(255 downto 0) := (others => '0');
+            INIT_19 : bit_vector(255 downto 0) := (others => '0');
+            INIT_1A : bit_vector(255 downto 0) := (others => '0');
+            INIT_1B : bit_vector(255 downto 0) := (others => '0');
+            INIT_1C : bit_vector(255 downto 0) := (others => '0');
+            INIT_1D : bit_vector(255 downto 0) := (others => '0');
+            INIT_1E : bit_vector(255 downto 0) := (others => '0');
+            INIT_1F : bit_vector(255 downto 0) := (others => '0');
+            INIT_20 : bit_vector(255 downto 0) := (others => '0');
+            INIT_21 : bit_vector(255 downto 0) := (others => '0');
+            INIT_22 : bit_vector(255 downto 0) := (others => '0');
+            INIT_23 : bit_vector(255 downto 0) := (others => '0');
+            INIT_24 : bit_vector(255 downto 0) := (others => '0');
+            INIT_25 : bit_vector(255 downto 0) := (others => '0');
+            INIT_26 : bit_vector(255 downto 0) := (others => '0');
+            INIT_27 : bit_vector(255 downto 0) := (others => '0');
+            INIT_28 : bit_vector(255 downto 0) := (others => '0');
+            INIT_29 : bit_vector(255 downto 0) := (others => '0');
+            INIT_2A : bit_vector(255 downto 0) := (others => '0');
+            INIT_2B : bit_vector(255 downto 0) := (others => '0');
+            INIT_2C : bit_vector(255 downto 0) := (others => '0');
+            INIT_2D : bit_vector(255 downto 0) := (others => '0');
+            INIT_2E : bit_vector(255 downto 0) := (others => '0');
+            INIT_2F : bit_vector(255 downto 0) := (others => '0');
+            INIT_30 : bit_vector(255 downto 0) := (others => '0');
+            INIT_31 : bit_vector(255 downto 0) := (others => '0');
+            INIT_32 : bit_vector(255 downto 0) := (others => '0');
+            INIT_33 : bit_vector(255 downto 0) := (others => '0');
+            INIT_34 : bit_vector(255 downto 0) := (others => '0');
+            INIT_35 : bit_vector(255 downto 0) := (others => '0');
+            INIT_36 : bit_vector(255 downto 0) := (others => '0');
+            INIT_37 : bit_vector(255 downto 0) := (others => '0');
+            INIT_38 : bit_vector(255 downto 0) := (others => '0');
+            INIT_39 : bit_vector(255 downto 0) := (others => '0');
+            INIT_3A : bit_vector(255 downto 0) := (others => '0');
+            INIT_3B : bit_vector(255 downto 0) := (others => '0');
+            INIT_3C : bit_vector(255 downto 0) := (others => '0');
+            INIT_3D : bit_vector(255 downto 0) := (others => '0');
+            INIT_3E : bit_vector(255 downto 0) := (others => '0');
+            INIT_3F : bit_vector(255 downto 0) := (others => '0');
+            INITP_00 : bit_vector(255 downto 0) := (others => '0');
+            INITP_01 : bit_vector(255 downto 0) := (others => '0');
+            INITP_02 : bit_vector(255 downto 0) := (others => '0');
+            INITP_03 : bit_vector(255 downto 0) := (others => '0');
+            INITP_04 : bit_vector(255 downto 0) := (others => '0');
+            INITP_05 : bit_vector(255 downto 0) := (others => '0');
+            INITP_06 : bit_vector(255 downto 0) := (others => '0');
+            INITP_07 : bit_vector(255 downto 0) := (others => '0')
+        );
+        port (
+            DO : out std_logic_vector(31 downto 0);
+            DOP : out std_logic_vector(3 downto 0);
+            ADDR : in  std_logic_vector(8 downto 0);
+            CLK : in  std_logic;
+            DI : in  std_logic_vector(31 downto 0);
+            DIP : in  std_logic_vector(3 downto 0);
+            EN : in  std_logic;
+            SSR : in  std_logic;
+            WE : in  std_logic
+        );
+    end component;
 
 end package vcomponents;
 
@@ -1696,4 +2594,1481 @@ begin
     DOB <= memory_b(number_of(ADDRB));
     DOC <= memory_c(number_of(ADDRC));
     DOD <= memory_d(number_of(ADDRD));
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT1_L is
+    generic (
+        INIT : bit_vector := "00"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic
+    );
+end entity LUT1_L;
+
+architecture model of LUT1_L is
+begin
+    LO <= bit_at(INIT, (0 => I0));
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT1_D is
+    generic (
+        INIT : bit_vector := "00"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic
+    );
+end entity LUT1_D;
+
+architecture model of LUT1_D is
+begin
+    O <= bit_at(INIT, (0 => I0));
+    LO <= bit_at(INIT, (0 => I0));
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT2_L is
+    generic (
+        INIT : bit_vector := X"0"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic
+    );
+end entity LUT2_L;
+
+architecture model of LUT2_L is
+begin
+    LO <= bit_at(INIT, I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT2_D is
+    generic (
+        INIT : bit_vector := X"0"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic
+    );
+end entity LUT2_D;
+
+architecture model of LUT2_D is
+begin
+    O <= bit_at(INIT, I1 & I0);
+    LO <= bit_at(INIT, I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT3_L is
+    generic (
+        INIT : bit_vector := X"00"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic
+    );
+end entity LUT3_L;
+
+architecture model of LUT3_L is
+begin
+    LO <= bit_at(INIT, I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT3_D is
+    generic (
+        INIT : bit_vector := X"00"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic
+    );
+end entity LUT3_D;
+
+architecture model of LUT3_D is
+begin
+    O <= bit_at(INIT, I2 & I1 & I0);
+    LO <= bit_at(INIT, I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT4_L is
+    generic (
+        INIT : bit_vector := X"0000"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic
+    );
+end entity LUT4_L;
+
+architecture model of LUT4_L is
+begin
+    LO <= bit_at(INIT, I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT4_D is
+    generic (
+        INIT : bit_vector := X"0000"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic
+    );
+end entity LUT4_D;
+
+architecture model of LUT4_D is
+begin
+    O <= bit_at(INIT, I3 & I2 & I1 & I0);
+    LO <= bit_at(INIT, I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT5_L is
+    generic (
+        INIT : bit_vector := X"00000000"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic;
+        I4 : in  std_logic
+    );
+end entity LUT5_L;
+
+architecture model of LUT5_L is
+begin
+    LO <= bit_at(INIT, I4 & I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT5_D is
+    generic (
+        INIT : bit_vector := X"00000000"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic;
+        I4 : in  std_logic
+    );
+end entity LUT5_D;
+
+architecture model of LUT5_D is
+begin
+    O <= bit_at(INIT, I4 & I3 & I2 & I1 & I0);
+    LO <= bit_at(INIT, I4 & I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT6_L is
+    generic (
+        INIT : bit_vector := X"0000000000000000"
+    );
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic;
+        I4 : in  std_logic;
+        I5 : in  std_logic
+    );
+end entity LUT6_L;
+
+architecture model of LUT6_L is
+begin
+    LO <= bit_at(INIT, I5 & I4 & I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity LUT6_D is
+    generic (
+        INIT : bit_vector := X"0000000000000000"
+    );
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        I2 : in  std_logic;
+        I3 : in  std_logic;
+        I4 : in  std_logic;
+        I5 : in  std_logic
+    );
+end entity LUT6_D;
+
+architecture model of LUT6_D is
+begin
+    O <= bit_at(INIT, I5 & I4 & I3 & I2 & I1 & I0);
+    LO <= bit_at(INIT, I5 & I4 & I3 & I2 & I1 & I0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXCY_L is
+    port (
+        LO : out std_logic;
+        CI : in  std_logic;
+        DI : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXCY_L;
+
+architecture model of MUXCY_L is
+begin
+    LO <= CI when S = '1' else DI;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXCY_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        CI : in  std_logic;
+        DI : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXCY_D;
+
+architecture model of MUXCY_D is
+begin
+    O <= CI when S = '1' else DI;
+    LO <= CI when S = '1' else DI;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity XORCY_L is
+    port (
+        LO : out std_logic;
+        CI : in  std_logic;
+        LI : in  std_logic
+    );
+end entity XORCY_L;
+
+architecture model of XORCY_L is
+begin
+    LO <= CI xor LI;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity XORCY_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        CI : in  std_logic;
+        LI : in  std_logic
+    );
+end entity XORCY_D;
+
+architecture model of XORCY_D is
+begin
+    O <= CI xor LI;
+    LO <= CI xor LI;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF5_L is
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF5_L;
+
+architecture model of MUXF5_L is
+begin
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF5_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF5_D;
+
+architecture model of MUXF5_D is
+begin
+    O <= I1 when S = '1' else I0;
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF6_L is
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF6_L;
+
+architecture model of MUXF6_L is
+begin
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF6_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF6_D;
+
+architecture model of MUXF6_D is
+begin
+    O <= I1 when S = '1' else I0;
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF7_L is
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF7_L;
+
+architecture model of MUXF7_L is
+begin
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF7_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF7_D;
+
+architecture model of MUXF7_D is
+begin
+    O <= I1 when S = '1' else I0;
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF8_L is
+    port (
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF8_L;
+
+architecture model of MUXF8_L is
+begin
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity MUXF8_D is
+    port (
+        O : out std_logic;
+        LO : out std_logic;
+        I0 : in  std_logic;
+        I1 : in  std_logic;
+        S : in  std_logic
+    );
+end entity MUXF8_D;
+
+architecture model of MUXF8_D is
+begin
+    O <= I1 when S = '1' else I0;
+    LO <= I1 when S = '1' else I0;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity CARRY4 is
+    port (
+        CO : out std_logic_vector(3 downto 0);
+        O : out std_logic_vector(3 downto 0);
+        CI : in  std_logic;
+        CYINIT : in  std_logic;
+        DI : in  std_logic_vector(3 downto 0);
+        S : in  std_logic_vector(3 downto 0)
+    );
+end entity CARRY4;
+
+architecture model of CARRY4 is
+    signal chain : std_logic_vector(4 downto 0);
+begin
+    -- One of the two inputs of the chain is used; the other one is 0.
+    chain(0) <= CI or CYINIT;
+    links : for i in 0 to 3 generate
+        chain(i + 1) <= chain(i) when S(i) = '1' else DI(i);
+    end generate;
+
+    CO <= chain(4 downto 1);
+    O <= S xor chain(3 downto 0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity VCC is
+    port (
+        P : out std_logic
+    );
+end entity VCC;
+
+architecture model of VCC is
+begin
+    P <= '1';
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity GND is
+    port (
+        G : out std_logic
+    );
+end entity GND;
+
+architecture model of GND is
+begin
+    G <= '0';
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity BUF is
+    port (
+        O : out std_logic;
+        I : in  std_logic
+    );
+end entity BUF;
+
+architecture model of BUF is
+begin
+    O <= I;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity BUFG is
+    port (
+        O : out std_logic;
+        I : in  std_logic
+    );
+end entity BUFG;
+
+architecture model of BUFG is
+begin
+    O <= I;
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity SRL16 is
+    generic (
+        INIT : bit_vector := X"0000"
+    );
+    port (
+        Q : out std_logic;
+        A0 : in  std_logic;
+        A1 : in  std_logic;
+        A2 : in  std_logic;
+        A3 : in  std_logic;
+        CLK : in  std_logic;
+        D : in  std_logic
+    );
+end entity SRL16;
+
+architecture model of SRL16 is
+    signal kept : std_logic_vector(15 downto 0) := to_stdlogicvector(INIT);
+begin
+    process (CLK)
+    begin
+        if rising_edge(CLK) then
+            kept <= kept(14 downto 0) & D;
+        end if;
+    end process;
+
+    Q <= kept(number_of(A3 & A2 & A1 & A0));
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity SRL16E is
+    generic (
+        INIT : bit_vector := X"0000"
+    );
+    port (
+        Q : out std_logic;
+        A0 : in  std_logic;
+        A1 : in  std_logic;
+        A2 : in  std_logic;
+        A3 : in  std_logic;
+        CE : in  std_logic;
+        CLK : in  std_logic;
+        D : in  std_logic
+    );
+end entity SRL16E;
+
+architecture model of SRL16E is
+    signal kept : std_logic_vector(15 downto 0) := to_stdlogicvector(INIT);
+begin
+    process (CLK)
+    begin
+        if rising_edge(CLK) and CE = '1' then
+            kept <= kept(14 downto 0) & D;
+        end if;
+    end process;
+
+    Q <= kept(number_of(A3 & A2 & A1 & A0));
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity SRLC16E is
+    generic (
+        INIT : bit_vector := X"0000"
+    );
+    port (
+        Q : out std_logic;
+        Q15 : out std_logic;
+        A0 : in  std_logic;
+        A1 : in  std_logic;
+        A2 : in  std_logic;
+        A3 : in  std_logic;
+        CE : in  std_logic;
+        CLK : in  std_logic;
+        D : in  std_logic
+    );
+end entity SRLC16E;
+
+architecture model of SRLC16E is
+    signal kept : std_logic_vector(15 downto 0) := to_stdlogicvector(INIT);
+begin
+    process (CLK)
+    begin
+        if rising_edge(CLK) and CE = '1' then
+            kept <= kept(14 downto 0) & D;
+        end if;
+    end process;
+
+    Q <= kept(number_of(A3 & A2 & A1 & A0));
+    Q15 <= kept(15);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity SRLC32E is
+    generic (
+        INIT : bit_vector := X"00000000"
+    );
+    port (
+        Q : out std_logic;
+        Q31 : out std_logic;
+        A : in  std_logic_vector(4 downto 0);
+        CE : in  std_logic;
+        CLK : in  std_logic;
+        D : in  std_logic
+    );
+end entity SRLC32E;
+
+architecture model of SRLC32E is
+    signal kept : std_logic_vector(31 downto 0) := to_stdlogicvector(INIT);
+begin
+    process (CLK)
+    begin
+        if rising_edge(CLK) and CE = '1' then
+            kept <= kept(30 downto 0) & D;
+        end if;
+    end process;
+
+    Q <= kept(number_of(A));
+    Q31 <= kept(31);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S1 is
+    generic (
+        INIT : bit_vector := "0";
+        SRVAL : bit_vector := "0";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(0 downto 0);
+        ADDR : in  std_logic_vector(13 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(0 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S1;
+
+architecture model of RAMB16_S1 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(0 downto 0) := low_bits(INIT, 1);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 1);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= data(at * 1 + 0 downto at * 1);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DI;
+            end if;
+            if WE = '1' then
+                data(at * 1 + 0 downto at * 1) <= DI;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(0 downto 0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S2 is
+    generic (
+        INIT : bit_vector := "00";
+        SRVAL : bit_vector := "00";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(1 downto 0);
+        ADDR : in  std_logic_vector(12 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(1 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S2;
+
+architecture model of RAMB16_S2 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(1 downto 0) := low_bits(INIT, 2);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 2);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= data(at * 2 + 1 downto at * 2);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DI;
+            end if;
+            if WE = '1' then
+                data(at * 2 + 1 downto at * 2) <= DI;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(1 downto 0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S4 is
+    generic (
+        INIT : bit_vector := X"0";
+        SRVAL : bit_vector := X"0";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(3 downto 0);
+        ADDR : in  std_logic_vector(11 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(3 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S4;
+
+architecture model of RAMB16_S4 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(3 downto 0) := low_bits(INIT, 4);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 4);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= data(at * 4 + 3 downto at * 4);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DI;
+            end if;
+            if WE = '1' then
+                data(at * 4 + 3 downto at * 4) <= DI;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(3 downto 0);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S9 is
+    generic (
+        INIT : bit_vector := X"000";
+        SRVAL : bit_vector := X"000";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0');
+        INITP_00 : bit_vector(255 downto 0) := (others => '0');
+        INITP_01 : bit_vector(255 downto 0) := (others => '0');
+        INITP_02 : bit_vector(255 downto 0) := (others => '0');
+        INITP_03 : bit_vector(255 downto 0) := (others => '0');
+        INITP_04 : bit_vector(255 downto 0) := (others => '0');
+        INITP_05 : bit_vector(255 downto 0) := (others => '0');
+        INITP_06 : bit_vector(255 downto 0) := (others => '0');
+        INITP_07 : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(7 downto 0);
+        DOP : out std_logic_vector(0 downto 0);
+        ADDR : in  std_logic_vector(10 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(7 downto 0);
+        DIP : in  std_logic_vector(0 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S9;
+
+architecture model of RAMB16_S9 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(8 downto 0) := low_bits(INIT, 9);
+    constant first_parity : bit_vector(2047 downto 0) :=
+        INITP_07 & INITP_06 & INITP_05 & INITP_04 & INITP_03 & INITP_02 & INITP_01 & INITP_00;
+    signal parity : std_logic_vector(2047 downto 0) := to_stdlogicvector(first_parity);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 9);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= parity(at * 1 + 0 downto at * 1) & data(at * 8 + 7 downto at * 8);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DIP & DI;
+            end if;
+            if WE = '1' then
+                data(at * 8 + 7 downto at * 8) <= DI;
+                parity(at * 1 + 0 downto at * 1) <= DIP;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(7 downto 0);
+    DOP <= value(8 downto 8);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S18 is
+    generic (
+        INIT : bit_vector := X"00000";
+        SRVAL : bit_vector := X"00000";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0');
+        INITP_00 : bit_vector(255 downto 0) := (others => '0');
+        INITP_01 : bit_vector(255 downto 0) := (others => '0');
+        INITP_02 : bit_vector(255 downto 0) := (others => '0');
+        INITP_03 : bit_vector(255 downto 0) := (others => '0');
+        INITP_04 : bit_vector(255 downto 0) := (others => '0');
+        INITP_05 : bit_vector(255 downto 0) := (others => '0');
+        INITP_06 : bit_vector(255 downto 0) := (others => '0');
+        INITP_07 : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(15 downto 0);
+        DOP : out std_logic_vector(1 downto 0);
+        ADDR : in  std_logic_vector(9 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(15 downto 0);
+        DIP : in  std_logic_vector(1 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S18;
+
+architecture model of RAMB16_S18 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(17 downto 0) := low_bits(INIT, 18);
+    constant first_parity : bit_vector(2047 downto 0) :=
+        INITP_07 & INITP_06 & INITP_05 & INITP_04 & INITP_03 & INITP_02 & INITP_01 & INITP_00;
+    signal parity : std_logic_vector(2047 downto 0) := to_stdlogicvector(first_parity);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 18);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= parity(at * 2 + 1 downto at * 2) & data(at * 16 + 15 downto at * 16);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DIP & DI;
+            end if;
+            if WE = '1' then
+                data(at * 16 + 15 downto at * 16) <= DI;
+                parity(at * 2 + 1 downto at * 2) <= DIP;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(15 downto 0);
+    DOP <= value(17 downto 16);
+end architecture model;
+
+library ieee;
+use ieee.std_logic_1164.all;
+use work.prove_bits.all;
+
+entity RAMB16_S36 is
+    generic (
+        INIT : bit_vector := X"000000000";
+        SRVAL : bit_vector := X"000000000";
+        WRITE_MODE : string := "WRITE_FIRST";
+        INIT_00 : bit_vector(255 downto 0) := (others => '0');
+        INIT_01 : bit_vector(255 downto 0) := (others => '0');
+        INIT_02 : bit_vector(255 downto 0) := (others => '0');
+        INIT_03 : bit_vector(255 downto 0) := (others => '0');
+        INIT_04 : bit_vector(255 downto 0) := (others => '0');
+        INIT_05 : bit_vector(255 downto 0) := (others => '0');
+        INIT_06 : bit_vector(255 downto 0) := (others => '0');
+        INIT_07 : bit_vector(255 downto 0) := (others => '0');
+        INIT_08 : bit_vector(255 downto 0) := (others => '0');
+        INIT_09 : bit_vector(255 downto 0) := (others => '0');
+        INIT_0A : bit_vector(255 downto 0) := (others => '0');
+        INIT_0B : bit_vector(255 downto 0) := (others => '0');
+        INIT_0C : bit_vector(255 downto 0) := (others => '0');
+        INIT_0D : bit_vector(255 downto 0) := (others => '0');
+        INIT_0E : bit_vector(255 downto 0) := (others => '0');
+        INIT_0F : bit_vector(255 downto 0) := (others => '0');
+        INIT_10 : bit_vector(255 downto 0) := (others => '0');
+        INIT_11 : bit_vector(255 downto 0) := (others => '0');
+        INIT_12 : bit_vector(255 downto 0) := (others => '0');
+        INIT_13 : bit_vector(255 downto 0) := (others => '0');
+        INIT_14 : bit_vector(255 downto 0) := (others => '0');
+        INIT_15 : bit_vector(255 downto 0) := (others => '0');
+        INIT_16 : bit_vector(255 downto 0) := (others => '0');
+        INIT_17 : bit_vector(255 downto 0) := (others => '0');
+        INIT_18 : bit_vector(255 downto 0) := (others => '0');
+        INIT_19 : bit_vector(255 downto 0) := (others => '0');
+        INIT_1A : bit_vector(255 downto 0) := (others => '0');
+        INIT_1B : bit_vector(255 downto 0) := (others => '0');
+        INIT_1C : bit_vector(255 downto 0) := (others => '0');
+        INIT_1D : bit_vector(255 downto 0) := (others => '0');
+        INIT_1E : bit_vector(255 downto 0) := (others => '0');
+        INIT_1F : bit_vector(255 downto 0) := (others => '0');
+        INIT_20 : bit_vector(255 downto 0) := (others => '0');
+        INIT_21 : bit_vector(255 downto 0) := (others => '0');
+        INIT_22 : bit_vector(255 downto 0) := (others => '0');
+        INIT_23 : bit_vector(255 downto 0) := (others => '0');
+        INIT_24 : bit_vector(255 downto 0) := (others => '0');
+        INIT_25 : bit_vector(255 downto 0) := (others => '0');
+        INIT_26 : bit_vector(255 downto 0) := (others => '0');
+        INIT_27 : bit_vector(255 downto 0) := (others => '0');
+        INIT_28 : bit_vector(255 downto 0) := (others => '0');
+        INIT_29 : bit_vector(255 downto 0) := (others => '0');
+        INIT_2A : bit_vector(255 downto 0) := (others => '0');
+        INIT_2B : bit_vector(255 downto 0) := (others => '0');
+        INIT_2C : bit_vector(255 downto 0) := (others => '0');
+        INIT_2D : bit_vector(255 downto 0) := (others => '0');
+        INIT_2E : bit_vector(255 downto 0) := (others => '0');
+        INIT_2F : bit_vector(255 downto 0) := (others => '0');
+        INIT_30 : bit_vector(255 downto 0) := (others => '0');
+        INIT_31 : bit_vector(255 downto 0) := (others => '0');
+        INIT_32 : bit_vector(255 downto 0) := (others => '0');
+        INIT_33 : bit_vector(255 downto 0) := (others => '0');
+        INIT_34 : bit_vector(255 downto 0) := (others => '0');
+        INIT_35 : bit_vector(255 downto 0) := (others => '0');
+        INIT_36 : bit_vector(255 downto 0) := (others => '0');
+        INIT_37 : bit_vector(255 downto 0) := (others => '0');
+        INIT_38 : bit_vector(255 downto 0) := (others => '0');
+        INIT_39 : bit_vector(255 downto 0) := (others => '0');
+        INIT_3A : bit_vector(255 downto 0) := (others => '0');
+        INIT_3B : bit_vector(255 downto 0) := (others => '0');
+        INIT_3C : bit_vector(255 downto 0) := (others => '0');
+        INIT_3D : bit_vector(255 downto 0) := (others => '0');
+        INIT_3E : bit_vector(255 downto 0) := (others => '0');
+        INIT_3F : bit_vector(255 downto 0) := (others => '0');
+        INITP_00 : bit_vector(255 downto 0) := (others => '0');
+        INITP_01 : bit_vector(255 downto 0) := (others => '0');
+        INITP_02 : bit_vector(255 downto 0) := (others => '0');
+        INITP_03 : bit_vector(255 downto 0) := (others => '0');
+        INITP_04 : bit_vector(255 downto 0) := (others => '0');
+        INITP_05 : bit_vector(255 downto 0) := (others => '0');
+        INITP_06 : bit_vector(255 downto 0) := (others => '0');
+        INITP_07 : bit_vector(255 downto 0) := (others => '0')
+    );
+    port (
+        DO : out std_logic_vector(31 downto 0);
+        DOP : out std_logic_vector(3 downto 0);
+        ADDR : in  std_logic_vector(8 downto 0);
+        CLK : in  std_logic;
+        DI : in  std_logic_vector(31 downto 0);
+        DIP : in  std_logic_vector(3 downto 0);
+        EN : in  std_logic;
+        SSR : in  std_logic;
+        WE : in  std_logic
+    );
+end entity RAMB16_S36;
+
+architecture model of RAMB16_S36 is
+    constant first : bit_vector(16383 downto 0) :=
+        INIT_3F & INIT_3E & INIT_3D & INIT_3C & INIT_3B & INIT_3A & INIT_39 & INIT_38
+        & INIT_37 & INIT_36 & INIT_35 & INIT_34 & INIT_33 & INIT_32 & INIT_31 & INIT_30
+        & INIT_2F & INIT_2E & INIT_2D & INIT_2C & INIT_2B & INIT_2A & INIT_29 & INIT_28
+        & INIT_27 & INIT_26 & INIT_25 & INIT_24 & INIT_23 & INIT_22 & INIT_21 & INIT_20
+        & INIT_1F & INIT_1E & INIT_1D & INIT_1C & INIT_1B & INIT_1A & INIT_19 & INIT_18
+        & INIT_17 & INIT_16 & INIT_15 & INIT_14 & INIT_13 & INIT_12 & INIT_11 & INIT_10
+        & INIT_0F & INIT_0E & INIT_0D & INIT_0C & INIT_0B & INIT_0A & INIT_09 & INIT_08
+        & INIT_07 & INIT_06 & INIT_05 & INIT_04 & INIT_03 & INIT_02 & INIT_01 & INIT_00;
+    signal data : std_logic_vector(16383 downto 0) := to_stdlogicvector(first);
+    signal value : std_logic_vector(35 downto 0) := low_bits(INIT, 36);
+    constant first_parity : bit_vector(2047 downto 0) :=
+        INITP_07 & INITP_06 & INITP_05 & INITP_04 & INITP_03 & INITP_02 & INITP_01 & INITP_00;
+    signal parity : std_logic_vector(2047 downto 0) := to_stdlogicvector(first_parity);
+begin
+    process (CLK)
+        variable at : natural;
+    begin
+        if rising_edge(CLK) and EN = '1' then
+            at := number_of(ADDR);
+            if SSR = '1' then
+                value <= low_bits(SRVAL, 36);
+            elsif WE /= '1' or WRITE_MODE = "READ_FIRST" then
+                value <= parity(at * 4 + 3 downto at * 4) & data(at * 32 + 31 downto at * 32);
+            elsif WRITE_MODE = "WRITE_FIRST" then
+                value <= DIP & DI;
+            end if;
+            if WE = '1' then
+                data(at * 32 + 31 downto at * 32) <= DI;
+                parity(at * 4 + 3 downto at * 4) <= DIP;
+            end if;
+        end if;
+    end process;
+
+    DO <= value(31 downto 0);
+    DOP <= value(35 downto 32);
 end architecture model;
