@@ -170,7 +170,7 @@ TEST_F(SimExamples, KeypadLockOnMico8)
     EXPECT_EQ(pcText(), "CALL lock::clear");
     EXPECT_EQ(clocks(), 70);
     EXPECT_EQ(reg(0), 1);
-    EXPECT_EQ(sim()->core()->zeroBit(), 0);  // of the COMP, the last that sets flags: 0 - A5
+    EXPECT_EQ(sim()->core()->zeroBit(), 0); // of the COMP, the last that sets flags: 0 - A5
     EXPECT_EQ(sim()->core()->carryBit(), 1);
     EXPECT_EQ(written(3, 1), QList<int>({0xFF}));
     EXPECT_EQ(written(4, 1), QList<int>({0x57}));
