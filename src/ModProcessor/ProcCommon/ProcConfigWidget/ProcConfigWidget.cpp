@@ -132,7 +132,8 @@ QCheckBox* ProcConfigWidget::addOption(QGridLayout* grid, const char* name, cons
     auto* box = new QCheckBox(text, this);
     box->setObjectName(QLatin1String(name));
     box->setToolTip(toolTip);
-    grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount());
+    // Not as wide as the page: the frame of the focus goes around the text.
+    grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount(), Qt::AlignLeft | Qt::AlignVCenter);
     return box;
 }
 
