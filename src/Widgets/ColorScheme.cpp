@@ -23,7 +23,10 @@ ColorScheme::ColorScheme(QWidget* window)
     , m_window(window)
 {
     window->installEventFilter(this);
-    readSystem();
+    // Whatever palette the application starts with is the system's, but not that of a window before this one.
+    if (QApplication::palette() == Colors::palette())
+        readSystem();
+    m_isSystemDark = isDark(QApplication::palette());
     apply();
 }
 
@@ -51,10 +54,13 @@ void ColorScheme::apply()
     QApplication::setPalette(Colors::palette());
     QToolTip::setPalette(Colors::palette());
     const QString sheet = Colors::styleSheet();
-    if (sheet.isNull())
+    if (sheet.isNull()) {
         qDebug("Can not open style sheet");
-    else if (sheet != m_window->styleSheet())
+    } else if (sheet != m_window->styleSheet()) {
+        // A window that was never shown keeps what its parts have asked the former sheet for.
+        m_window->ensurePolished();
         m_window->setStyleSheet(sheet);
+    }
 }
 
 bool ColorScheme::eventFilter(QObject* watched, QEvent* event)

@@ -33,6 +33,7 @@ MyFontTable::MyFontTable(QWidget* parent)
     , m_model(new QStandardItemModel(0, columnCount, this))
 {
     setObjectName(QStringLiteral("fontTable"));
+    setAccessibleName(tr("Formats of text"));
     m_model->setHorizontalHeaderLabels({tr("Font context"), tr("Bold"), tr("Italic")});
     // The ticks stand at the left of their cells.
     for (int column = 0; column < columnCount; ++column)

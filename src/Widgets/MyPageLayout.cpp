@@ -63,6 +63,8 @@ MyFieldTitle* MyPageLayout::addField(const QString& title, QWidget* field, const
 {
     auto* label = new MyFieldTitle(title, m_content);
     label->setBuddy(field);
+    if (QWidget* part = field->focusProxy())
+        part->setAccessibleName(label->text());
     if (!toolTip.isEmpty())
         field->setToolTip(toolTip);
     label->setToolTip(toolTip.isEmpty() ? field->toolTip() : toolTip);

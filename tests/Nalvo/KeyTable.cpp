@@ -15,7 +15,6 @@ const KeyTable& settingsKeys()
         {"ModGui/x", "int", "0", "40"},
         {"ModGui/y", "int", "0", "30"},
         {"ModGui/colorScheme", "int", "0", "1"},
-        {"ModAction/shortcuts", "list", "", "File/Open=Ctrl+Alt+O"},
         {"ModEditor/tabIndent", "int", "4", "7"},
         {"ModEditor/dynamicLineWrapEn", "bool", "0", "1"},
         {"ModEditor/lineNumberEn", "bool", "1", "0"},

@@ -10,6 +10,7 @@
 #include <QAbstractScrollArea>
 #include <QAccessible>
 #include <QAction>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -137,6 +138,8 @@ protected:
         for (int i = 1; i < order.size(); ++i) {
             const QRect before(order.at(i - 1)->mapTo(page, QPoint()), order.at(i - 1)->size());
             const QRect after(order.at(i)->mapTo(page, QPoint()), order.at(i)->size());
+            if (order.at(i - 1)->isAncestorOf(order.at(i)))
+                continue;
             const bool isBelow = after.center().y() > before.center().y();
             const bool isRight = after.left() >= before.right() - 1;
             EXPECT_TRUE(isBelow || isRight)
@@ -193,6 +196,43 @@ TEST_F(Access, everyPageOfTheSettingsCanBeUsedByKeys)
                 expectReadingOrder(content, name.c_str());
         }
     }
+}
+
+TEST_F(Access, theListOfProcessorsShowsAllOfThem)
+{
+    module<ModConfigHookIf>()->openDialog("Processor");
+    auto* box = window->findChild<QComboBox*>("processor");
+    ASSERT_NE(box, nullptr);
+    ASSERT_TRUE(box->isVisible());
+    box->showPopup();
+    settleAnimations();
+    screenshot("config-processor-list", box->view()->window());
+    const QRect seen = box->view()->viewport()->rect();
+    for (int row = 0; row < box->count(); ++row) {
+        const QRect item = box->view()->visualRect(box->model()->index(row, 0));
+        EXPECT_GE(item.top(), seen.top()) << qPrintable(box->itemText(row));
+        EXPECT_LE(item.bottom(), seen.bottom()) << qPrintable(box->itemText(row));
+        const int text = box->view()->fontMetrics().horizontalAdvance(box->itemText(row));
+        EXPECT_LE(item.left() + text, seen.right()) << qPrintable(box->itemText(row));
+    }
+    box->hidePopup();
+}
+
+TEST_F(Access, theFrameOfACheckBoxGoesAroundItsText)
+{
+    module<ModConfigHookIf>()->openDialog();
+    int seen = 0;
+    for (const QString& page : titles(window->findChild<QListWidget*>("configList"))) {
+        module<ModConfigHookIf>()->selectDialogPageByTitle(page);
+        settleLayout();
+        for (QCheckBox* box : window->findChild<QWidget*>("configDialog")->findChildren<QCheckBox*>()) {
+            if (!box->isVisible())
+                continue;
+            ++seen;
+            EXPECT_LE(box->width(), box->sizeHint().width() + 2) << qPrintable(page + ": " + box->objectName());
+        }
+    }
+    EXPECT_GT(seen, 5);
 }
 
 TEST_F(Access, noTwoEntriesOfAMenuHaveOneMnemonicOrKey)

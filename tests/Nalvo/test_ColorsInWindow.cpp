@@ -9,12 +9,16 @@
 #include "ModEditorHookIf.h"
 #include "ModPrj.h"
 
+#include <QAction>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QListWidget>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <QTimer>
 
 namespace {
 
@@ -119,8 +123,13 @@ TEST_F(ColorsInWindow, theSystemsPaletteIsFollowedWhileTheProgramRuns)
 
 TEST_F(ColorsInWindow, aDarkSystemIsDarkFromTheStart)
 {
-    QApplication::setPalette(systemPalette(false));
+    QApplication::setPalette(systemPalette(true));
     makeWindow();
+    EXPECT_TRUE(isDark());
+    EXPECT_EQ(QApplication::palette(), Colors::palette());
+    // A platform that tells a change, but hands no palette out: its own one counts, which is light here.
+    QEvent change(QEvent::ThemeChange);
+    QApplication::sendEvent(window.get(), &change);
     EXPECT_FALSE(isDark());
     EXPECT_EQ(QApplication::palette(), Colors::palette());
 }
@@ -190,9 +199,18 @@ TEST_F(ColorsInWindow, noWhiteBoxInTheDarkAndNoBlackOneInTheLight)
     window->resize(1280, 750);
     const QStringList pages{"Info",    "Sources", "Assembler", "Processor",  "Editor",       "Source Navi",
                             "Network", "Updates", "Help",      "Appearance", "All shortcuts"};
-    for (const bool dark : {true, false}) {
-        choose(dark ? "Dark" : "Light");
-        const std::string scheme = dark ? "dark" : "light";
+    for (const char* choice : {"at start", "Dark", "Light"}) {
+        const bool dark = choice != std::string("Light");
+        if (choice == std::string("at start")) {
+            ASSERT_TRUE(closeWindow());
+            writeSetting("ModGui/colorScheme", "2");
+            makeWindow();
+            openProject();
+            window->resize(1280, 750);
+        } else {
+            choose(choice);
+        }
+        const std::string scheme = choice;
         EXPECT_LT(part(window->grab().toImage(), dark), 0.03) << scheme << " with a document";
         for (const QString& page : pages) {
             module<ModConfigHookIf>()->openDialog(page);
@@ -204,4 +222,56 @@ TEST_F(ColorsInWindow, noWhiteBoxInTheDarkAndNoBlackOneInTheLight)
         }
         module<ModConfigHookIf>()->closeDialog(false);
     }
+}
+
+TEST_F(ColorsInWindow, dialogsForFilesHaveTheLookOfTheWindow)
+{
+    writeSetting("ModGui/colorScheme", "2");
+    makeWindow();
+    openProject();
+    QApplication::setActiveWindow(nullptr); // as right after another dialog
+    QWidget* parent = nullptr;
+    QColor ground;
+    ModalAnswers answers({[&](QDialog* dialog) {
+        parent = dialog->parentWidget();
+        settleLayout();
+        ground = QColor(dialog->grab().toImage().pixel(2, 2));
+    }});
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->text() == "Open...")
+            action->trigger();
+    }
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_EQ(parent, window.get());
+    EXPECT_EQ(ground, Colors::of(Colors::eGround, Colors::eDark));
+}
+
+TEST_F(ColorsInWindow, theInsertionMenuHasTheLookOfTheWindow)
+{
+    writeSetting("ModGui/colorScheme", "2");
+    makeWindow();
+    openProject();
+    QPlainTextEdit* document = nullptr;
+    for (QPlainTextEdit* edit : window->findChildren<QPlainTextEdit*>()) {
+        if (edit->isVisible() && edit->toPlainText().startsWith("; a comment"))
+            document = edit;
+    }
+    ASSERT_NE(document, nullptr);
+    QString sheet;
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        if (menu == nullptr)
+            return;
+        for (const QAction* action : menu->actions()) {
+            if (action->menu() != nullptr && action->text() == "Insert...")
+                sheet = action->menu()->styleSheet();
+        }
+        menu->close();
+    });
+    look.start(1);
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(20, 20), document->mapToGlobal(QPoint(20, 20)));
+    QApplication::sendEvent(document->viewport(), &event);
+    EXPECT_FALSE(sheet.isEmpty());
+    EXPECT_EQ(sheet, window->styleSheet());
 }

@@ -95,6 +95,8 @@ protected:
         take("start");
         openExample();
         take("project");
+        module<ModEditorHookIf>()->openFile(projectDir() + "/uart_monitor/src/main.psm");
+        settleLayout();
         ASSERT_TRUE(trigger("Find"));
         take("find");
         ASSERT_TRUE(trigger("Run assembler"));

@@ -28,6 +28,7 @@ IODevViewerList::IODevViewerList(QWidget* parent)
     m_legend = setupLegend();
     m_scroll = new QScrollArea(this);
     m_scroll->setObjectName("ioDevViewerScroll");
+    m_scroll->setAccessibleName(tr("Memory maps of the devices"));
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->viewport()->installEventFilter(this);
     m_content = new QWidget;

@@ -32,6 +32,7 @@ ProcConfigWidget::ProcConfigWidget(const ProcTable& table, QWidget* parent)
     , m_tabs(new QTabWidget(this))
 {
     m_tabs->setObjectName(QStringLiteral("procConfigTabs"));
+    m_tabs->setAccessibleName(tr("Groups of settings"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
