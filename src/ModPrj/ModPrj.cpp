@@ -1,6 +1,7 @@
 #include "ModPrj.h"
 
 #include "DialogParent.h"
+#include "HelpRef.h"
 #include "PrjConfigPage.h"
 #include "PrjMngrWidget.h"
 
@@ -330,6 +331,7 @@ bool ModPrj::askToTryAgain()
                         m_project.path().toHtmlEscaped() + QLatin1String("</b><p><p>") +
                         tr("Without the file, the changes of the project are lost.") + QLatin1String("</p>"),
                     QMessageBox::Retry | QMessageBox::Discard, DialogParent::get());
+    HelpRef::set(&box, QStringLiteral("pageId://recovery#files"));
     box.setDefaultButton(QMessageBox::Retry);
     box.setEscapeButton(QMessageBox::Retry);
     return box.exec() == QMessageBox::Retry && isValid();

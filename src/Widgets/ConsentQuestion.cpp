@@ -1,6 +1,7 @@
 #include "ConsentQuestion.h"
 
 #include "DialogParent.h"
+#include "HelpRef.h"
 #include "Unattended.h"
 
 #include <QApplication>
@@ -86,7 +87,8 @@ QString ConsentQuestion::readable(const QString& line)
     return shown;
 }
 
-ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QString& text, const QString& act)
+ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QString& text, const QString& act,
+                                                const QString& helpPage)
 {
     if (isUnattended()) {
         QStringList lines = readableLines(act);
@@ -113,6 +115,7 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
     head->addWidget(label, 1);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No);
+    HelpRef::set(dialog, helpPage, buttons);
     QPushButton* no = buttons->button(QDialogButtonBox::No);
     buttons->button(QDialogButtonBox::Yes)->setAutoDefault(false);
     no->setDefault(true);

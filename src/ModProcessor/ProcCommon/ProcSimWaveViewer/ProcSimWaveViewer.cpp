@@ -520,6 +520,7 @@ void ProcSimWaveViewer::save()
     const QPointer<ProcSimWaveViewer> self(this);
     QFileDialog dialog(DialogParent::get(), tr("Save waves"), m_lastPath);
     dialog.setObjectName(QStringLiteral("procSimWaveSaveDialog"));
+    HelpRef::set(&dialog, QStringLiteral("pageId://simulatorWaves"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
