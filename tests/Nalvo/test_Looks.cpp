@@ -15,6 +15,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QPushButton>
@@ -105,10 +106,12 @@ protected:
             trigger("Next instruction");
         take("simulation");
         ASSERT_TRUE(trigger("Enable/disable simulator"));
-        const QString broken = writeFile("uart_monitor/broken.psm", "start: LOAD s0, nowhere\n       LOAD\n");
-        module<ModEditorHookIf>()->openFile(broken);
-        settleLayout();
-        take("document");
+        for (QPlainTextEdit* edit : window->findChildren<QPlainTextEdit*>()) {
+            if (edit->isVisible() && edit->accessibleName() == "Text of the document")
+                edit->appendPlainText("        LOAD    s0, nowhere\n        LOAD\n");
+        }
+        ASSERT_TRUE(trigger("Save all"));
+        take("errors");
         for (const char* page : {"Processor", "Assembler", "Editor", "Appearance", "All shortcuts"}) {
             module<ModConfigHookIf>()->openDialog(page);
             take(QStringLiteral("settings-") + QString(page).remove(' '));
