@@ -1,5 +1,7 @@
 #include "MenuKeys.h"
 
+#include "KeyEdit.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QKeyEvent>
@@ -19,7 +21,7 @@ MenuKeys::MenuKeys(QMainWindow* window)
 
 bool MenuKeys::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() != QEvent::KeyPress || !watched->isWidgetType())
+    if (event->type() != QEvent::KeyPress || !watched->isWidgetType() || qobject_cast<KeyEdit*>(watched) != nullptr)
         return false;
     const bool isOurs = static_cast<QWidget*>(watched)->window() == m_window &&
                         QApplication::activePopupWidget() == nullptr && QApplication::activeModalWidget() == nullptr;

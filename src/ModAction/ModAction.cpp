@@ -2,6 +2,9 @@
 
 #include "MenuKeys.h"
 #include "ModActionPluginIf.h"
+#include "ModCfgAppHookIf.h"
+#include "ShortcutsPage.h"
+#include "ToolTipKeys.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -37,6 +40,7 @@ const sActionClass_t actionClasses[] = {
 };
 
 const QSize toolBarIconSize(26, 26);
+const QString keyShortcuts = QStringLiteral("ModAction/shortcuts"); ///< a list, as Shortcuts stores it
 
 /// Deletes the separators of the last refresh; the actions belong to the clients.
 void deleteSeparators(QWidget* bar)
@@ -53,6 +57,11 @@ ModAction::ModAction(QMainWindow* mainWindow)
     : QObject(mainWindow)
     , m_mainWindow(mainWindow)
 {
+}
+
+ModAction::~ModAction()
+{
+    delete m_configPage;
 }
 
 void ModAction::setupActionClasses()
@@ -139,6 +148,7 @@ void ModAction::refreshMenu(eActionClass_t actionClass, QMenu* menu)
     menu->clear();
     const QList<QAction*> actions = collectActions(actionClass, &ModActionPluginIf::menuActions, menu);
     menu->setEnabled(!actions.isEmpty());
+    m_shortcuts.setEntries(Shortcuts::plainText(menu->title()), actions);
     for (QAction* action : actions)
         menu->addAction(action);
 }
@@ -166,6 +176,7 @@ void ModAction::modInit()
     setupActionClasses();
     if (m_mainWindow != nullptr && m_menuKeys == nullptr)
         m_menuKeys = new MenuKeys(m_mainWindow);
+    new ToolTipKeys(this);
 }
 
 void ModAction::modRun()
@@ -177,6 +188,43 @@ void ModAction::modRun()
 void ModAction::modExitIntermod()
 {
     m_active = false;
+}
+
+// --- keys of the user ---
+
+void ModAction::rdAppCfg()
+{
+    if (modCfgAppHook != nullptr)
+        m_shortcuts.setStored(modCfgAppHook->value(keyShortcuts, QStringList()));
+}
+
+void ModAction::wrAppCfg()
+{
+    if (modCfgAppHook != nullptr)
+        modCfgAppHook->setValue(keyShortcuts, m_shortcuts.stored());
+}
+
+nsModConfig::ModConfigPagePluginIf* ModAction::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = new ShortcutsPage;
+    return m_configPage;
+}
+
+void ModAction::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr)
+        m_configPage->setCommands(m_shortcuts.commands());
+}
+
+void ModAction::configPageClose(bool accepted)
+{
+    if (m_configPage != nullptr && accepted) {
+        m_shortcuts.setChosen(m_configPage->keys());
+        // The dialog saves the settings tree, so the new values are written to it first.
+        wrAppCfg();
+    }
+    delete m_configPage;
 }
 
 } // namespace nsModAction

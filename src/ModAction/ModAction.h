@@ -1,8 +1,11 @@
 #pragma once
 
 #include "ModActionHookIf.h"
+#include "ModCfgAppPluginIf.h"
+#include "ModConfigPluginIf.h"
 #include "ModPluginIf.h"
 #include "PluginList.h"
+#include "Shortcuts.h"
 
 #include <QMap>
 #include <QObject>
@@ -18,15 +21,21 @@ class QWidget;
 namespace nsModAction {
 
 class MenuKeys;
+class ShortcutsPage;
 
 /// The menu bar and the tool bars of the main window. Every entry comes from a client; this module has none of its own.
-class ModAction : public QObject, public ModActionHookIf, public ModPluginIf
+class ModAction : public QObject,
+                  public ModActionHookIf,
+                  public ModPluginIf,
+                  public ModCfgAppPluginIf,
+                  public ModConfigPluginIfDflt
 {
     Q_OBJECT
 
 public:
     /// @param mainWindow window with the bars; not owned, parent of this object
     explicit ModAction(QMainWindow* mainWindow);
+    ~ModAction() override;
 
     /// Makes the menus and tool bars of all classes, in the order of the screen.
     void setupActionClasses();
@@ -49,6 +58,15 @@ public:
     void modExitIntermod() override;
     void modExit() override {}
 
+    // ModCfgAppPluginIf
+    void rdAppCfg() override;
+    void wrAppCfg() override;
+
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
+
 private:
     using ListOperation = QList<QAction*> (ModActionPluginIf::*)(eActionClass_t);
 
@@ -62,7 +80,9 @@ private:
     PluginList<ModActionPluginIf> m_plugins; ///< their order is the order of the groups in each menu
     QMap<eActionClass_t, QPointer<QMenu>> m_menus;
     QMap<eActionClass_t, QPointer<QToolBar>> m_toolBars;
-    bool m_active = false; ///< set while the program runs; before and after that a refresh does nothing
+    Shortcuts m_shortcuts;
+    QPointer<ShortcutsPage> m_configPage; ///< while the settings are open
+    bool m_active = false;                ///< set while the program runs; before and after that a refresh does nothing
 };
 
 } // namespace nsModAction

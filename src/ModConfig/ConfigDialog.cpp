@@ -9,6 +9,7 @@
 
 #include <QFrame>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QListWidget>
 #include <QScrollArea>
 #include <QStackedWidget>
@@ -124,6 +125,14 @@ void ConfigDialog::resizeEvent(QResizeEvent* event)
     for (const QPushButton* button : {m_setDefault, m_restore, m_help, m_apply, m_cancel})
         oneLine += button->sizeHint().width();
     m_buttons->setDirection(width() >= oneLine ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+}
+
+void ConfigDialog::keyPressEvent(QKeyEvent* event)
+{
+    if (event->matches(QKeySequence::Cancel))
+        emit escapeRequested();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 QListWidgetItem* ConfigDialog::addPage(const QIcon& icon, const QString& title, QWidget* page)

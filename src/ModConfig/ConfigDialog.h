@@ -43,10 +43,13 @@ signals:
     void restoreRequested();
     void closeRequested();
     void cancelRequested();
+    /// The Esc key, which no field has taken.
+    void escapeRequested();
     void helpRequested();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void setupList();

@@ -2,6 +2,7 @@
 
 #include "ConfigDialog.h"
 #include "ModConfigPagePluginIf.h"
+#include "PageValues.h"
 
 #include "ModCfgAppHookIf.h"
 #include "ModGuiHookIf.h"
@@ -13,6 +14,8 @@
 
 #include <QCoreApplication>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QPointer>
 #include <QStackedWidget>
 
 #include <optional>
@@ -85,6 +88,7 @@ void ModConfig::makeDialog()
     connect(m_dialog, &ConfigDialog::restoreRequested, this, &ModConfig::hndlEventRestore);
     connect(m_dialog, &ConfigDialog::closeRequested, this, &ModConfig::hndlEventClose);
     connect(m_dialog, &ConfigDialog::cancelRequested, this, &ModConfig::hndlEventCancel);
+    connect(m_dialog, &ConfigDialog::escapeRequested, this, &ModConfig::hndlEventEscape);
     connect(m_dialog, &ConfigDialog::helpRequested, this, &ModConfig::hndlEventHelp);
 }
 
@@ -107,6 +111,7 @@ void ModConfig::addPage(ModConfigPluginIf* plugin, ModConfigPagePluginIf* page)
     sConfigItem_t entry;
     entry.plugin = plugin;
     entry.page = page;
+    entry.values = PageValues::of(page->pageWidget());
     m_items.insert(item, entry);
     connect(page->pageWidget(), &QObject::destroyed, this, [this, page] { forgetPage(page); });
 }
@@ -326,9 +331,8 @@ void ModConfig::hndlEventSetDefault()
 
 void ModConfig::hndlEventRestore()
 {
-    const sConfigItem_t entry = m_items.value(m_list->currentItem());
-    if (entry.page != nullptr)
-        entry.plugin->configPageSetConfig(entry.page);
+    if (m_items.contains(m_list->currentItem()))
+        fillPage(m_list->currentItem());
 }
 
 void ModConfig::hndlEventClose()
@@ -339,6 +343,45 @@ void ModConfig::hndlEventClose()
 void ModConfig::hndlEventCancel()
 {
     closeDialog(false);
+}
+
+void ModConfig::hndlEventEscape()
+{
+    if (m_dialog == nullptr || m_state != eState_t::open)
+        return;
+    if (isChanged()) {
+        // The dialog may be closed, and the window with it, while the question is open.
+        const QPointer<ConfigDialog> dialog(m_dialog);
+        const QPointer<QMessageBox> box(
+            new QMessageBox(QMessageBox::Question, tr("Configuration"),
+                            tr("The values on these pages have been changed. Discard the changes?"),
+                            QMessageBox::Discard | QMessageBox::Cancel, m_dialog));
+        box->setDefaultButton(QMessageBox::Cancel);
+        const int answer = box->exec();
+        delete box;
+        if (dialog == nullptr || answer != QMessageBox::Discard)
+            return;
+    }
+    closeDialog(false);
+}
+
+/// Puts the present settings into a page.
+void ModConfig::fillPage(QListWidgetItem* item)
+{
+    const sConfigItem_t entry = m_items.value(item);
+    entry.plugin->configPageSetConfig(entry.page);
+    if (m_items.contains(item))
+        m_items[item].values = PageValues::of(entry.page->pageWidget());
+}
+
+/// Whether the user has changed something since the pages were filled.
+bool ModConfig::isChanged() const
+{
+    for (const sConfigItem_t& entry : m_items) {
+        if (PageValues::of(entry.page->pageWidget()) != entry.values)
+            return true;
+    }
+    return false;
 }
 
 void ModConfig::handleActions(ActionsConfig::eAction_t)
@@ -399,8 +442,7 @@ void ModConfig::prjOpened()
         if (it == m_items.end() || !it.value().stale)
             continue;
         it.value().stale = false;
-        const sConfigItem_t entry = it.value();
-        entry.plugin->configPageSetConfig(entry.page);
+        fillPage(item);
     }
 }
 

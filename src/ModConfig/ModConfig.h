@@ -88,6 +88,8 @@ private slots:
     void hndlEventRestore();
     void hndlEventClose();
     void hndlEventCancel();
+    /// As "Cancel", but changes are not dropped without a question.
+    void hndlEventEscape();
     /// Shows the help of the current page beside the dialog.
     void hndlEventHelp();
     void forgetDialog();
@@ -101,6 +103,7 @@ private:
     {
         ModConfigPluginIf* plugin = nullptr;
         ModConfigPagePluginIf* page = nullptr;
+        QStringList values; ///< what stood on the page when it was filled
         bool stale = false; ///< was disabled when the project was opened: does not show its values
     };
 
@@ -111,6 +114,8 @@ private:
     void enableConfigItems(bool enable);
     void selectFirstEnabled();
     bool mayApply();
+    void fillPage(QListWidgetItem* item);
+    bool isChanged() const;
     void closePages(bool accepted);
     void closePage(QListWidgetItem* item, bool accepted);
     void removeDialog();

@@ -16,26 +16,26 @@ struct sFontContext_t
     ModEditorHookIf::eHighlightRule_t rule;
     const char* key; ///< last component of the settings key
     int weight;
-    QRgb color;
+    Colors::eRole_t color;
 };
 
 /// Indexed by eFontContext_t.
 const sFontContext_t fontContexts[EditorConfig::fontContextCount] = {
-    {ModEditorHookIf::eHighlightRuleCmd, "cmd", QFont::Bold, 0x000000},
-    {ModEditorHookIf::eHighlightRuleDirective, "directive", QFont::Bold, 0x008000},
-    {ModEditorHookIf::eHighlightRuleHw, "hw", QFont::Bold, 0x000080},
-    {ModEditorHookIf::eHighlightRuleHexNumber, "hexNumber", QFont::Bold, 0x800080},
-    {ModEditorHookIf::eHighlightRuleDecNumber, "decNumber", QFont::Bold, 0x0000ff},
-    {ModEditorHookIf::eHighlightRuleOctNumber, "octNumber", QFont::Bold, 0x808000},
-    {ModEditorHookIf::eHighlightRuleBinNumber, "binNumber", QFont::Bold, 0xF56D05},
-    {ModEditorHookIf::eHighlightRuleComment, "comment", 0, 0x808080},
-    {ModEditorHookIf::eHighlightRuleSeparator, "separator", 0, 0x800000},
-    {ModEditorHookIf::eHighlightRuleLabel, "label", QFont::Bold, 0x000000},
-    {ModEditorHookIf::eHighlightRuleDoc, "doc", 0, 0x800000},
-    {ModEditorHookIf::eHighlightRuleNaviCmd, "naviCmd", QFont::Bold, 0x808080},
-    {ModEditorHookIf::eHighlightRuleAttr, "attr", weightUnset, 0xC18A46},
-    {ModEditorHookIf::eHighlightRuleString, "string", weightUnset, 0x800000},
-    {ModEditorHookIf::eHighlightRuleKeyWords, "keyWords", QFont::Bold, 0x000000},
+    {ModEditorHookIf::eHighlightRuleCmd, "cmd", QFont::Bold, Colors::eFormatCmd},
+    {ModEditorHookIf::eHighlightRuleDirective, "directive", QFont::Bold, Colors::eFormatDirective},
+    {ModEditorHookIf::eHighlightRuleHw, "hw", QFont::Bold, Colors::eFormatHw},
+    {ModEditorHookIf::eHighlightRuleHexNumber, "hexNumber", QFont::Bold, Colors::eFormatHex},
+    {ModEditorHookIf::eHighlightRuleDecNumber, "decNumber", QFont::Bold, Colors::eFormatDec},
+    {ModEditorHookIf::eHighlightRuleOctNumber, "octNumber", QFont::Bold, Colors::eFormatOct},
+    {ModEditorHookIf::eHighlightRuleBinNumber, "binNumber", QFont::Bold, Colors::eFormatBin},
+    {ModEditorHookIf::eHighlightRuleComment, "comment", 0, Colors::eFormatComment},
+    {ModEditorHookIf::eHighlightRuleSeparator, "separator", 0, Colors::eFormatSeparator},
+    {ModEditorHookIf::eHighlightRuleLabel, "label", QFont::Bold, Colors::eFormatLabel},
+    {ModEditorHookIf::eHighlightRuleDoc, "doc", 0, Colors::eFormatDoc},
+    {ModEditorHookIf::eHighlightRuleNaviCmd, "naviCmd", QFont::Bold, Colors::eFormatNaviCmd},
+    {ModEditorHookIf::eHighlightRuleAttr, "attr", weightUnset, Colors::eFormatAttr},
+    {ModEditorHookIf::eHighlightRuleString, "string", weightUnset, Colors::eFormatString},
+    {ModEditorHookIf::eHighlightRuleKeyWords, "keyWords", QFont::Bold, Colors::eFormatKeyWords},
 };
 
 template <class Items, class Config>
@@ -69,7 +69,7 @@ EditorConfig::EditorConfig()
     : stdFont(getNominalFont())
 {
     for (int i = 0; i < fontContextCount; ++i) {
-        fontFormats[i].setForeground(QColor(fontContexts[i].color));
+        fontFormats[i].setForeground(Colors::of(fontContexts[i].color, Colors::eLight));
         if (fontContexts[i].weight != weightUnset)
             fontFormats[i].setFontWeight(fontContexts[i].weight);
     }
@@ -103,6 +103,20 @@ const QTextCharFormat* EditorConfig::formatOfRule(ModEditorHookIf::eHighlightRul
             return &fontFormats[i];
     }
     return nullptr;
+}
+
+QTextCharFormat EditorConfig::shownFormatOfRule(ModEditorHookIf::eHighlightRule_t rule) const
+{
+    for (int i = 0; i < fontContextCount; ++i) {
+        if (fontContexts[i].rule == rule)
+            return Colors::shown(fontContexts[i].color, fontFormats[i]);
+    }
+    return {};
+}
+
+Colors::eRole_t EditorConfig::colorOf(eFontContext_t context)
+{
+    return fontContexts[context].color;
 }
 
 } // namespace nsModEditor

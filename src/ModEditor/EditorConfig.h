@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QTextCharFormat>
 
+#include "Colors.h"
 #include "ModEditorHookIf.h"
 
 class ModCfgAppHookIf;
@@ -52,6 +53,10 @@ public:
 
     /// The format of a highlighting rule; null for an unknown one.
     const QTextCharFormat* formatOfRule(ModEditorHookIf::eHighlightRule_t rule) const;
+    /// The same as it is shown in the present colour scheme; as it stands for an unknown rule.
+    QTextCharFormat shownFormatOfRule(ModEditorHookIf::eHighlightRule_t rule) const;
+    /// The colour of a new user's text.
+    static Colors::eRole_t colorOf(eFontContext_t context);
     /// The font that a new user gets.
     static QFont getNominalFont();
 
@@ -64,13 +69,13 @@ public:
     int textCompleterItemCount = 10;
     bool highlightSelectionEn = true;
     int memPageAddrEn = memPageAddrSimOnly;
-    QColor cursorBgColor = QColor(0xE3EBF3);
-    QColor highlightBgColor = QColor(0xF5CACA);
-    QColor leftMarginBgColor = QColor(0xEAE9E8);
-    QColor leftMarginFgColor = Qt::black;
-    QColor simBreakpointSymbolColor = Qt::red;
-    QColor simStartAddressSymbolColor = Qt::green;
-    QColor bookmarkSymbolColor = Qt::darkYellow;
+    QColor cursorBgColor = Colors::of(Colors::eEditorCursorLine, Colors::eLight);
+    QColor highlightBgColor = Colors::of(Colors::eEditorFlaggedLine, Colors::eLight);
+    QColor leftMarginBgColor = Colors::of(Colors::eMarginGround, Colors::eLight);
+    QColor leftMarginFgColor = Colors::of(Colors::eMarginText, Colors::eLight);
+    QColor simBreakpointSymbolColor = Colors::of(Colors::eMarkBreakpoint, Colors::eLight);
+    QColor simStartAddressSymbolColor = Colors::of(Colors::eMarkStart, Colors::eLight);
+    QColor bookmarkSymbolColor = Colors::of(Colors::eMarkBookmark, Colors::eLight);
     QFont stdFont;
     QTextCharFormat fontFormats[fontContextCount];
 };

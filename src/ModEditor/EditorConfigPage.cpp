@@ -1,5 +1,6 @@
 #include "EditorConfigPage.h"
 
+#include "Colors.h"
 #include "MyColorSelector.h"
 #include "MyFontTable.h"
 #include "MyPageLayout.h"
@@ -39,6 +40,11 @@ EditorConfigPage::EditorConfigPage(QWidget* parent)
     addLeftMargin(layout);
     addFonts(layout);
     setDefaultConfig();
+    connect(Colors::instance(), &Colors::changed, this, [this] {
+        EditorConfig shown;
+        config(&shown);
+        setConfig(&shown);
+    });
 }
 
 void EditorConfigPage::addFormating(MyPageLayout* layout)
@@ -154,15 +160,15 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_textCompleterPrefixLength->setValue(config->textCompleterPrefixLength);
     m_textCompleterItemCount->setValue(config->textCompleterItemCount);
     m_highlightSelectionEn->setChecked(config->highlightSelectionEn);
-    m_cursorBgColor->setColor(config->cursorBgColor);
-    m_highlightBgColor->setColor(config->highlightBgColor);
+    m_cursorBgColor->setColor(Colors::shown(Colors::eEditorCursorLine, config->cursorBgColor));
+    m_highlightBgColor->setColor(Colors::shown(Colors::eEditorFlaggedLine, config->highlightBgColor));
     m_lineNumberEn->setChecked(config->lineNumberEn);
     m_memPageAddrEn->setCurrentIndex(m_memPageAddrEn->findData(config->memPageAddrEn));
-    m_leftMarginBgColor->setColor(config->leftMarginBgColor);
-    m_leftMarginFgColor->setColor(config->leftMarginFgColor);
-    m_simBreakpointSymbolColor->setColor(config->simBreakpointSymbolColor);
-    m_simStartAddressSymbolColor->setColor(config->simStartAddressSymbolColor);
-    m_bookmarkSymbolColor->setColor(config->bookmarkSymbolColor);
+    m_leftMarginBgColor->setColor(Colors::shown(Colors::eMarginGround, config->leftMarginBgColor));
+    m_leftMarginFgColor->setColor(Colors::shown(Colors::eMarginText, config->leftMarginFgColor));
+    m_simBreakpointSymbolColor->setColor(Colors::shown(Colors::eMarkBreakpoint, config->simBreakpointSymbolColor));
+    m_simStartAddressSymbolColor->setColor(Colors::shown(Colors::eMarkStart, config->simStartAddressSymbolColor));
+    m_bookmarkSymbolColor->setColor(Colors::shown(Colors::eMarkBookmark, config->bookmarkSymbolColor));
 
     // A family that is not installed is shown as its substitute, but stays in the settings.
     m_stdFont = config->stdFont;
@@ -179,7 +185,8 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_fontSize->setCurrentText(QString::number(QFontInfo(m_stdFont).pointSize()));
     m_fontTable->setSampleFamily(m_stdFont.family());
     for (int i = 0; i < EditorConfig::fontContextCount; ++i)
-        m_fontTable->setFormat(i, config->fontFormats[i]);
+        m_fontTable->setFormat(
+            i, Colors::shown(EditorConfig::colorOf(EditorConfig::eFontContext_t(i)), config->fontFormats[i]));
 }
 
 void EditorConfigPage::setTabIndent(int indent)
@@ -196,19 +203,20 @@ void EditorConfigPage::config(EditorConfig* config) const
     config->textCompleterPrefixLength = m_textCompleterPrefixLength->value();
     config->textCompleterItemCount = m_textCompleterItemCount->value();
     config->highlightSelectionEn = m_highlightSelectionEn->isChecked();
-    config->cursorBgColor = m_cursorBgColor->color();
-    config->highlightBgColor = m_highlightBgColor->color();
+    config->cursorBgColor = Colors::stored(Colors::eEditorCursorLine, m_cursorBgColor->color());
+    config->highlightBgColor = Colors::stored(Colors::eEditorFlaggedLine, m_highlightBgColor->color());
     config->lineNumberEn = m_lineNumberEn->isChecked();
     if (m_memPageAddrEn->currentIndex() >= 0)
         config->memPageAddrEn = m_memPageAddrEn->currentData().toInt();
-    config->leftMarginBgColor = m_leftMarginBgColor->color();
-    config->leftMarginFgColor = m_leftMarginFgColor->color();
-    config->simBreakpointSymbolColor = m_simBreakpointSymbolColor->color();
-    config->simStartAddressSymbolColor = m_simStartAddressSymbolColor->color();
-    config->bookmarkSymbolColor = m_bookmarkSymbolColor->color();
+    config->leftMarginBgColor = Colors::stored(Colors::eMarginGround, m_leftMarginBgColor->color());
+    config->leftMarginFgColor = Colors::stored(Colors::eMarginText, m_leftMarginFgColor->color());
+    config->simBreakpointSymbolColor = Colors::stored(Colors::eMarkBreakpoint, m_simBreakpointSymbolColor->color());
+    config->simStartAddressSymbolColor = Colors::stored(Colors::eMarkStart, m_simStartAddressSymbolColor->color());
+    config->bookmarkSymbolColor = Colors::stored(Colors::eMarkBookmark, m_bookmarkSymbolColor->color());
     config->stdFont = m_stdFont;
     for (int i = 0; i < EditorConfig::fontContextCount; ++i)
-        config->fontFormats[i] = m_fontTable->format(i);
+        config->fontFormats[i] =
+            Colors::stored(EditorConfig::colorOf(EditorConfig::eFontContext_t(i)), m_fontTable->format(i));
 }
 
 void EditorConfigPage::setDefaultConfig()

@@ -1,5 +1,7 @@
 #include "EditorTipManager.h"
 
+#include "Colors.h"
+
 #include <QFile>
 #include <QTextBrowser>
 #include <QVBoxLayout>
@@ -45,7 +47,7 @@ bool EditorTipManager::setTip(QString& word)
     QFile file(templatePath);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
-    QString text = QString::fromUtf8(file.readAll());
+    QString text = Colors::filled(QString::fromUtf8(file.readAll()));
     QString content = QString("<h1>%1</h1>").arg(m_title.toHtmlEscaped());
     content += QString("<p>%1</p>").arg(m_description.toHtmlEscaped());
     content += setTipArgs(tr("Input values"), m_argsIn);

@@ -1,5 +1,6 @@
 #include "ModEditor.h"
 
+#include "Colors.h"
 #include "DocumentCommands.h"
 #include "DocumentKeeper.h"
 #include "DocumentSync.h"
@@ -44,6 +45,7 @@ ModEditor::ModEditor(QObject* parent)
     , m_finder(std::make_unique<EditorFinder>(this, this, m_documents.get()))
     , m_textCompletionList(new QStringListModel(this))
 {
+    connect(Colors::instance(), &Colors::changed, this, &ModEditor::showColors);
     connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
     connect(m_commands.get(), &DocumentCommands::renamed, this, [this](EditorWidget* widget, const QString& name) {
         if (modGuiHook != nullptr)
@@ -369,8 +371,22 @@ void ModEditor::setTabIndent(int indent)
     configureEditorWidgets();
 }
 
+/// The scheme of the colours is another one.
+void ModEditor::showColors()
+{
+    if (m_syntaxHighlighterConfig != nullptr) {
+        m_syntaxHighlighterConfig->clear();
+        for (const auto& rule : qAsConst(m_highlightRules)) {
+            QTextCharFormat format = shownFormatOfRule(rule.first);
+            m_syntaxHighlighterConfig->addRule(rule.second, format);
+        }
+    }
+    configureEditorWidgets();
+}
+
 void ModEditor::clearHighlighter()
 {
+    m_highlightRules.clear();
     if (m_syntaxHighlighterConfig != nullptr)
         m_syntaxHighlighterConfig->clear();
 }
@@ -379,9 +395,10 @@ void ModEditor::configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp
 {
     if (m_syntaxHighlighterConfig == nullptr)
         return;
-    if (const QTextCharFormat* format = formatOfRule(rule)) {
-        QTextCharFormat copy = *format;
-        m_syntaxHighlighterConfig->addRule(regExp, copy);
+    if (formatOfRule(rule) != nullptr) {
+        m_highlightRules.append({rule, regExp});
+        QTextCharFormat format = shownFormatOfRule(rule);
+        m_syntaxHighlighterConfig->addRule(regExp, format);
     } else {
         m_services->showError(tr("Internal error: Can not resolf TextCharFormat for HighlightingRule!"));
     }
@@ -436,13 +453,13 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
     widget->setTextCompleterPrefixLength(textCompleterPrefixLength);
     widget->setTextCompleterItemCount(textCompleterItemCount);
     widget->setSelectionHighlightEn(highlightSelectionEn);
-    widget->setCursorBgColor(cursorBgColor);
-    widget->setHighlightBgColor(highlightBgColor);
-    widget->leftMargin()->setBgColor(leftMarginBgColor);
-    widget->leftMargin()->setFgColor(leftMarginFgColor);
-    widget->leftMargin()->setBreakpointColor(simBreakpointSymbolColor);
-    widget->leftMargin()->setStartPointerColor(simStartAddressSymbolColor);
-    widget->leftMargin()->setBookmarkColor(bookmarkSymbolColor);
+    widget->setCursorBgColor(Colors::shown(Colors::eEditorCursorLine, cursorBgColor));
+    widget->setHighlightBgColor(Colors::shown(Colors::eEditorFlaggedLine, highlightBgColor));
+    widget->leftMargin()->setBgColor(Colors::shown(Colors::eMarginGround, leftMarginBgColor));
+    widget->leftMargin()->setFgColor(Colors::shown(Colors::eMarginText, leftMarginFgColor));
+    widget->leftMargin()->setBreakpointColor(Colors::shown(Colors::eMarkBreakpoint, simBreakpointSymbolColor));
+    widget->leftMargin()->setStartPointerColor(Colors::shown(Colors::eMarkStart, simStartAddressSymbolColor));
+    widget->leftMargin()->setBookmarkColor(Colors::shown(Colors::eMarkBookmark, bookmarkSymbolColor));
     widget->setMemPageAddrEn(memPageAddrEn == memPageAddrOn || (memPageAddrEn == memPageAddrSimOnly && m_simEnabled));
     widget->rehighlight();
 }

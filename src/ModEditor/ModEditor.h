@@ -209,6 +209,7 @@ private:
     void connectEditorWidget(EditorWidget* widget);
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
+    void showColors();
     void setActionState(EditorWidget* current);
     void updateActionState();
     void clearMessageFlag();
@@ -224,6 +225,7 @@ private:
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned
     ModEditorPluginIfSimulator* m_simulator = nullptr; ///< not owned
     EditorSyntaxHighlighterConfig* m_syntaxHighlighterConfig = nullptr;
+    QVector<QPair<eHighlightRule_t, QRegExp>> m_highlightRules; ///< those above, for another colour scheme
     EditorTipManager* m_tipManager = nullptr;
     EditorSupportMenu* m_supportMenu = nullptr;
     QStringListModel* m_textCompletionList;

@@ -1,5 +1,7 @@
 #include "EmptyPage.h"
 
+#include "Colors.h"
+
 #include <QCoreApplication>
 #include <QPainter>
 
@@ -7,10 +9,6 @@ namespace nsModGui {
 
 namespace {
 
-const QColor groundColor(0xff, 0xff, 0xff);
-const QColor lineColor(0xd5, 0xda, 0xe1);
-const QColor nameColor(0xb8, 0xc0, 0xcc);
-const QColor hintColor(0x52, 0x60, 0x6d);
 const int gap = 8; ///< pixels between name and hint
 
 } // namespace
@@ -43,8 +41,8 @@ QString EmptyPage::hint() const
 void EmptyPage::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
-    painter.fillRect(rect(), lineColor);
-    painter.fillRect(rect().adjusted(1, 1, -1, -1), groundColor);
+    painter.fillRect(rect(), Colors::of(Colors::eHairLine));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), Colors::of(Colors::ePage));
 
     QFont nameFont = font();
     nameFont.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);
@@ -55,10 +53,10 @@ void EmptyPage::paintEvent(QPaintEvent*)
     const int top = qMax(0, (height() - nameHeight - gap - hintHeight) * 2 / 5);
 
     painter.setFont(nameFont);
-    painter.setPen(nameColor);
+    painter.setPen(Colors::of(Colors::eTextSecond));
     painter.drawText(QRect(0, top, width(), nameHeight), Qt::AlignCenter, QCoreApplication::applicationName());
     painter.setFont(font());
-    painter.setPen(hintColor);
+    painter.setPen(Colors::of(Colors::eTextSecond));
     const QRect lines(2 * gap, top + nameHeight + gap, width() - 4 * gap, height() - top - nameHeight - 2 * gap);
     painter.drawText(lines, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint());
 }

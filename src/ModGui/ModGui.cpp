@@ -1,6 +1,8 @@
 #include "ModGui.h"
 
+#include "ColorScheme.h"
 #include "DockShares.h"
+#include "GuiConfigPage.h"
 #include "SplashScreen.h"
 #include "StatusFrame.h"
 #include "WidgetAreaDock.h"
@@ -11,8 +13,6 @@
 #include "ModCfgAppHookIf.h"
 
 #include <QCoreApplication>
-#include <QDebug>
-#include <QFile>
 #include <QMainWindow>
 #include <QSplitter>
 #include <QStatusBar>
@@ -27,6 +27,7 @@ const QString keyWidth = QStringLiteral("ModGui/width");
 const QString keyHeight = QStringLiteral("ModGui/height");
 const QString keyX = QStringLiteral("ModGui/x");
 const QString keyY = QStringLiteral("ModGui/y");
+const QString keyColors = QStringLiteral("ModGui/colorScheme"); ///< a value of ColorScheme::eChoice_t
 /// A list of entries: the shares of the docks, the two below. All that is not in the stated keys.
 const QString keyState = QStringLiteral("ModGui/state");
 const QString entryMaximized = QStringLiteral("maximized");
@@ -55,6 +56,7 @@ ModGui::ModGui(QMainWindow* window)
 ModGui::~ModGui()
 {
     delete m_splashScreen;
+    delete m_configPage;
     qDeleteAll(m_widgets);
 }
 
@@ -141,12 +143,10 @@ void ModGui::setupStatusBar()
 
 void ModGui::setupStyle()
 {
-    QFile file(QStringLiteral(":/styles/styles/stylesheet.css"));
-    if (file.open(QIODevice::ReadOnly | QIODevice::Text))
-        window()->setStyleSheet(QString::fromUtf8(file.readAll()));
-    else
-        qDebug("Can not open style sheet");
-    window()->setWindowIcon(QIcon(QStringLiteral(":/ModGui/img/appIcon.png")));
+    m_colorScheme = new ColorScheme(window());
+    // The same in every scheme: it stands in the bars of the desktop.
+    QIcon icon(QPixmap(QStringLiteral(":/ModGui/img/appIcon.png")));
+    window()->setWindowIcon(icon);
 }
 
 WidgetArea* ModGui::area(int location) const
@@ -490,6 +490,30 @@ void ModGui::handleActions(GuiActions::eAction_t action)
     m_dockShares->record();
 }
 
+nsModConfig::ModConfigPagePluginIf* ModGui::configPage(int)
+{
+    if (m_configPage == nullptr)
+        m_configPage = new GuiConfigPage;
+    return m_configPage;
+}
+
+void ModGui::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
+{
+    if (m_configPage != nullptr && m_colorScheme != nullptr)
+        m_configPage->setColors(m_colorScheme->choice());
+}
+
+void ModGui::configPageClose(bool accepted)
+{
+    const QPointer<GuiConfigPage> page = m_configPage;
+    if (page != nullptr && accepted && m_colorScheme != nullptr) {
+        m_colorScheme->setChoice(page->colors());
+        // The dialog saves the settings tree, so the new value is written to it first.
+        wrAppCfg();
+    }
+    delete page;
+}
+
 void ModGui::rdAppCfg()
 {
     if (modCfgAppHook == nullptr || window() == nullptr)
@@ -504,6 +528,9 @@ void ModGui::rdAppCfg()
         QRect(position, size.expandedTo(WindowPlace::smallest).boundedTo(WindowPlace::largest)), window());
     window()->setGeometry(geometry);
     window()->setIconSize(windowIconSize);
+    const int colors = modCfgAppHook->value(keyColors, int(ColorScheme::eAsSystem));
+    if (m_colorScheme != nullptr && colors >= ColorScheme::eAsSystem && colors <= ColorScheme::eAlwaysDark)
+        m_colorScheme->setChoice(static_cast<ColorScheme::eChoice_t>(colors));
     if (modCfgAppHook->value(keyState, QStringList()).contains(entryMaximized))
         window()->setWindowState(window()->windowState() | Qt::WindowMaximized);
 
@@ -523,6 +550,8 @@ void ModGui::wrAppCfg()
         state.append(entryMaximized);
     state.append(entryBars + QString::fromLatin1(window()->saveState(stateVersion).toBase64()));
     modCfgAppHook->setValue(keyState, state);
+    if (m_colorScheme != nullptr)
+        modCfgAppHook->setValue(keyColors, int(m_colorScheme->choice()));
     modCfgAppHook->setValue(keyWidth, geometry.width());
     modCfgAppHook->setValue(keyHeight, geometry.height());
     modCfgAppHook->setValue(keyX, geometry.x());

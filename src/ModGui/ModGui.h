@@ -4,6 +4,7 @@
 
 #include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
+#include "ModConfigPluginIf.h"
 #include "ModGuiHookIf.h"
 #include "ModGuiPluginIf.h"
 #include "ModPluginIf.h"
@@ -13,12 +14,14 @@
 #include <QObject>
 #include <QPointer>
 
+class ColorScheme;
 class QMainWindow;
 class QStatusBar;
 
 namespace nsModGui {
 
 class DockShares;
+class GuiConfigPage;
 class SplashScreen;
 class WidgetArea;
 class WidgetAreaDock;
@@ -32,7 +35,8 @@ class ModGui : public QObject,
                public ModGuiHookIf,
                public ModPluginIf,
                public ModActionPluginIf,
-               public ModCfgAppPluginIf
+               public ModCfgAppPluginIf,
+               public ModConfigPluginIfDflt
 {
     Q_OBJECT
 
@@ -73,6 +77,11 @@ public:
     // ModActionPluginIf
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
     QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t actionClass) override;
+
+    // ModConfigPluginIf
+    nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
+    void configPageSetConfig(nsModConfig::ModConfigPagePluginIf* page) override;
+    void configPageClose(bool accepted) override;
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;
@@ -127,8 +136,10 @@ private:
     QHash<QWidget*, sWidgetData_t*> m_widgets;
     QList<QWidget*> m_centerWidgets; ///< widgets of the tabs, the most recently current one last
     QList<QPointer<WidgetAreaDock>> m_docks;
-    QPointer<DockShares> m_dockShares; ///< child of the window
+    QPointer<DockShares> m_dockShares;   ///< child of the window
+    QPointer<ColorScheme> m_colorScheme; ///< child of the window
     GuiActions* m_actions = nullptr;
+    QPointer<GuiConfigPage> m_configPage; ///< while the settings are open
     QPointer<SplashScreen> m_splashScreen;
 };
 

@@ -45,6 +45,7 @@ WidgetAreaDock::WidgetAreaDock(const QString& title, QWidget* parent)
     , m_tabs(new DockTabs(this, [this] { updateVisibility(); }))
 {
     m_tabs->setMovable(true);
+    m_tabs->setAccessibleName(title);
     setWidget(m_tabs);
     setTitleBarWidget(new QWidget(this));
     setFeatures(QDockWidget::DockWidgetVerticalTitleBar);

@@ -15,6 +15,7 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     , m_emptyPage(new EmptyPage(this))
 {
     setObjectName(QStringLiteral("widgetAreaTabs"));
+    setAccessibleName(tr("Pages"));
     m_closeButton->setObjectName(QStringLiteral("buttonCloseTab"));
     m_closeButton->setFlat(true);
     m_closeButton->setIcon(QIcon(QStringLiteral(":/ModGui/img/tab-close.png")));

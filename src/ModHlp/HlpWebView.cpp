@@ -44,6 +44,7 @@ bool HlpWebPage::acceptNavigationRequest(QWebFrame* frame, const QNetworkRequest
 HlpWebView::HlpWebView(QWidget* parent)
     : QWebView(parent)
 {
+    setAccessibleName(tr("Text of the help page"));
 }
 
 HlpWebView::~HlpWebView()

@@ -24,6 +24,7 @@ HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
     , m_manager(manager)
 {
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(tr("Help page"));
     HelpRef::set(this, QStringLiteral("pageId://gettingStarted"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -1,5 +1,6 @@
 #include "ImportEditorWidget.h"
 
+#include "Colors.h"
 #include "ImportEditorWidgetLeftMargin.h"
 
 #include <QPaintEvent>
@@ -12,8 +13,6 @@ namespace nsModImport {
 namespace {
 
 const int columnSpace = 2; ///< pixels at the sides of the numbers
-const QColor marginGround(0xEA, 0xE9, 0xE8);
-const QColor marginText(Qt::black);
 const int dfltFontSize = 10;
 
 } // namespace
@@ -34,6 +33,10 @@ ImportEditorWidget::ImportEditorWidget(QWidget* parent)
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { m_lineHighlights.followCursor(); });
     m_lineHighlights.followCursor();
     updateLeftMarginWidth();
+    connect(Colors::instance(), &Colors::changed, this, [this] {
+        setCursorBgColor(Colors::of(Colors::eEditorCursorLine));
+        setHighlightBgColor(Colors::of(Colors::eEditorFlaggedLine));
+    });
 }
 
 // --- text ---
@@ -181,9 +184,9 @@ void ImportEditorWidget::resizeEvent(QResizeEvent* event)
 void ImportEditorWidget::leftMarginPaintEvent(QPaintEvent* event)
 {
     QPainter painter(m_leftMargin);
-    painter.fillRect(event->rect(), marginGround);
+    painter.fillRect(event->rect(), Colors::of(Colors::eMarginGround));
     painter.setFont(font());
-    painter.setPen(marginText);
+    painter.setPen(Colors::of(Colors::eMarginText));
     QTextBlock block = firstVisibleBlock();
     qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
     for (; block.isValid() && top <= event->rect().bottom(); block = block.next()) {

@@ -50,6 +50,7 @@ ImportWidget::ImportWidget(QWidget* parent)
     setObjectName(QStringLiteral("importPage"));
     // In a small window the page scrolls instead of taking the room of the docks.
     auto* area = new QScrollArea(this);
+    area->setAccessibleName(tr("Settings of the import"));
     area->setFrameStyle(QFrame::NoFrame);
     area->setWidgetResizable(true);
     auto* content = new QWidget;

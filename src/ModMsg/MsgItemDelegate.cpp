@@ -1,5 +1,6 @@
 #include "MsgItemDelegate.h"
 
+#include "Colors.h"
 #include "MsgViewer.h"
 
 #include <QAbstractItemView>
@@ -9,8 +10,6 @@
 namespace nsModMsg {
 
 namespace {
-
-const QColor linkColor(0x20, 0x43, 0x98);
 
 bool isLink(const QModelIndex& index)
 {
@@ -30,8 +29,8 @@ void MsgItemDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
     QStyledItemDelegate::initStyleOption(option, index);
     if (!isLink(index))
         return;
-    option->palette.setColor(QPalette::Text, linkColor);
-    option->palette.setColor(QPalette::HighlightedText, linkColor);
+    option->palette.setColor(QPalette::Text, Colors::of(Colors::eAccent));
+    option->palette.setColor(QPalette::HighlightedText, Colors::of(Colors::eAccent));
     option->font.setUnderline(option->state & QStyle::State_MouseOver);
 }
 

@@ -30,6 +30,7 @@ MsgViewer::MsgViewer(QWidget* parent)
     : QTreeWidget(parent)
 {
     setObjectName(QStringLiteral("msgViewer"));
+    setAccessibleName(tr("Messages"));
     setAlternatingRowColors(true);
     setAnimated(true);
     setUniformRowHeights(true);

@@ -1,5 +1,6 @@
 #include "ModPrj.h"
 
+#include "DialogParent.h"
 #include "HelpRef.h"
 #include "PrjConfigPage.h"
 #include "PrjMngrWidget.h"
@@ -329,7 +330,7 @@ bool ModPrj::askToTryAgain()
                     QLatin1String("<p>") + tr("The project file can not be written:") + QLatin1String("</p><p><b>") +
                         m_project.path().toHtmlEscaped() + QLatin1String("</b><p><p>") +
                         tr("Without the file, the changes of the project are lost.") + QLatin1String("</p>"),
-                    QMessageBox::Retry | QMessageBox::Discard, QApplication::activeWindow());
+                    QMessageBox::Retry | QMessageBox::Discard, DialogParent::get());
     HelpRef::set(&box, QStringLiteral("pageId://recovery#files"));
     box.setDefaultButton(QMessageBox::Retry);
     box.setEscapeButton(QMessageBox::Retry);

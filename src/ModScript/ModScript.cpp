@@ -1,5 +1,6 @@
 #include "ModScript.h"
 
+#include "DialogParent.h"
 #include "ScriptEngine.h"
 
 #include "Display.h"
@@ -242,7 +243,7 @@ void ModScript::runFromDialog()
 {
     // Anything may be deleted while the dialog is open.
     const QPointer<ModScript> self(this);
-    const QPointer<QFileDialog> dialog(new QFileDialog(QApplication::activeWindow(), tr("Run script"), m_lastDir));
+    const QPointer<QFileDialog> dialog(new QFileDialog(DialogParent::get(), tr("Run script"), m_lastDir));
     HelpRef::set(dialog, QStringLiteral("pageId://scripts#run"));
     dialog->setNameFilters({tr("Script files(*.js)"), tr("Any files(*)")});
     dialog->setFileMode(QFileDialog::ExistingFile);

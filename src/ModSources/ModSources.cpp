@@ -1,5 +1,6 @@
 #include "ModSources.h"
 
+#include "DialogParent.h"
 #include "SourcesConfigPage.h"
 
 #include "ModMsgHookIf.h"
@@ -101,7 +102,7 @@ bool ModSources::askToAdd(const QString& path)
                          QLatin1String("<p><b>") + shown.toHtmlEscaped() + QLatin1String("</b><p>") +
                          QLatin1String("<p>") + tr("Do you want to add the file to the project?") +
                          QLatin1String("</p>");
-    return QMessageBox::warning(QApplication::activeWindow(), tr("Add file to project"), text,
+    return QMessageBox::warning(DialogParent::get(), tr("Add file to project"), text,
                                 QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
 }
 

@@ -1,5 +1,7 @@
 #include "SourcesListWidget.h"
 
+#include "Colors.h"
+
 #include <QDropEvent>
 #include <QKeyEvent>
 #include <QMimeData>
@@ -12,7 +14,6 @@ namespace nsModSources {
 
 namespace {
 
-const QColor emptyTextColor(0x52, 0x60, 0x6d);
 const int emptyTextMargin = 16;
 const int hintLines = 6; ///< height that the list asks for; it grows with the available space
 
@@ -89,7 +90,7 @@ void SourcesListWidget::paintEvent(QPaintEvent* event)
     if (count() > 0 || !isEnabled())
         return;
     QPainter painter(viewport());
-    painter.setPen(emptyTextColor);
+    painter.setPen(Colors::of(Colors::eTextSecond));
     const QRect place =
         viewport()->rect().adjusted(emptyTextMargin, emptyTextMargin, -emptyTextMargin, -emptyTextMargin);
     painter.drawText(place, Qt::AlignCenter | Qt::TextWordWrap, m_emptyText);

@@ -1,5 +1,6 @@
 #include "ModSrcNavi.h"
 
+#include "Colors.h"
 #include "HelpRef.h"
 #include "NaviWidget.h"
 #include "SrcNaviConfigPage.h"
@@ -110,6 +111,10 @@ void ModSrcNavi::modInitIntermod()
 {
     connect(m_naviWidget, &NaviWidget::sortModeChanged, this, &ModSrcNavi::sortModeChanged);
     connect(m_naviWidget, &NaviWidget::selected, this, &ModSrcNavi::showSelectedTag);
+    connect(Colors::instance(), &Colors::changed, this, [this] {
+        configureNaviWidget();
+        showTagList();
+    });
     configureNaviWidget();
 }
 

@@ -9,6 +9,7 @@ NaviTreeWidget::NaviTreeWidget(QWidget* parent)
     : QTreeWidget(parent)
 {
     setObjectName(QStringLiteral("codeNavi"));
+    setAccessibleName(tr("Entries of the sources"));
     setColumnCount(1);
     setHeaderHidden(true);
     setAlternatingRowColors(false);

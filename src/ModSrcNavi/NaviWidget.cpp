@@ -1,5 +1,6 @@
 #include "NaviWidget.h"
 
+#include "Colors.h"
 #include "NaviTreeWidget.h"
 
 #include <QComboBox>
@@ -182,9 +183,9 @@ void NaviWidget::setConfig(SrcNaviConfig* config)
     disconnect(m_sortBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &NaviWidget::setSortModeChanged);
     setSortMode(static_cast<SrcNaviConfig::eTagListSortMode_t>(config->tagListSortMode));
     connectSortBox();
-    m_bookmarkColor = config->bookmarkSymbolColor;
+    m_bookmarkColor = Colors::shown(Colors::eMarkBookmark, config->bookmarkSymbolColor);
     for (int i = 0; i < SrcNaviConfig::fontContextCount; ++i)
-        m_formats[i] = config->fontFormats[i];
+        m_formats[i] = Colors::shown(SrcNaviConfig::colorOf(SrcNaviConfig::eFontContext_t(i)), config->fontFormats[i]);
 }
 
 // --- tree ---
@@ -278,7 +279,7 @@ QList<QTreeWidgetItem*> NaviWidget::makeItems(const QList<NaviTag*>& tags, bool 
         QTreeWidgetItem* item = makeItem(tag);
         if (isEnd) {
             item->setText(0, tr("Unexpected end tag"));
-            item->setForeground(0, Qt::red);
+            item->setForeground(0, Colors::of(Colors::eNaviError));
         }
         if (parent != nullptr)
             parent->addChild(item);
@@ -311,7 +312,7 @@ void NaviWidget::setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const
         item->setFont(0, fontOf(m_formats[context]));
     }
     if (tag->disabled) {
-        item->setForeground(0, Qt::gray);
+        item->setForeground(0, Colors::of(Colors::eNaviDisabled));
         item->setExpanded(false);
     }
 }

@@ -17,12 +17,12 @@ const QString keyFont = QStringLiteral("ModSrcNavi/font/");
 struct sFontContext_t
 {
     const char* key;
-    Qt::GlobalColor color;
+    Colors::eRole_t color;
 };
 
 const sFontContext_t fontContexts[SrcNaviConfig::fontContextCount] = {
-    {"label", Qt::black},    {"hw", Qt::darkBlue},         {"const", Qt::darkGreen},
-    {"sep", Qt::darkYellow}, {"grpBegin", Qt::darkYellow},
+    {"label", Colors::eNaviLabel}, {"hw", Colors::eNaviHw},          {"const", Colors::eNaviConst},
+    {"sep", Colors::eNaviTitle},   {"grpBegin", Colors::eNaviTitle},
 };
 
 template <class Items, class Config>
@@ -41,8 +41,13 @@ SrcNaviConfig::SrcNaviConfig()
 {
     for (int i = 0; i < fontContextCount; ++i) {
         fontFormats[i].setFontWeight(QFont::Bold);
-        fontFormats[i].setForeground(QColor(fontContexts[i].color));
+        fontFormats[i].setForeground(Colors::of(fontContexts[i].color, Colors::eLight));
     }
+}
+
+Colors::eRole_t SrcNaviConfig::colorOf(eFontContext_t context)
+{
+    return fontContexts[context].color;
 }
 
 void SrcNaviConfig::rdSrcNaviConfig(ModCfgAppHookIf* cfg)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Colors.h"
+
 #include <QColor>
 #include <QTextCharFormat>
 
@@ -33,10 +35,13 @@ public:
     void rdSrcNaviConfig(ModCfgAppHookIf* cfg);
     void wrSrcNaviConfig(ModCfgAppHookIf* cfg) const;
 
+    /// The colour of a new user's entries.
+    static Colors::eRole_t colorOf(eFontContext_t context);
+
     int naviWidgetLocation = locationLeft; ///< a value of eLocation_t
     int reserved = 0;
     int tagListSortMode = sortDocument; ///< a value of eTagListSortMode_t
-    QColor bookmarkSymbolColor = Qt::darkYellow;
+    QColor bookmarkSymbolColor = Colors::of(Colors::eMarkBookmark, Colors::eLight);
     QTextCharFormat fontFormats[fontContextCount];
 };
 

@@ -1,5 +1,6 @@
 #include "SrcNaviConfigPage.h"
 
+#include "Colors.h"
 #include "MyColorSelector.h"
 #include "MyFontTable.h"
 #include "MyPageLayout.h"
@@ -37,15 +38,21 @@ SrcNaviConfigPage::SrcNaviConfigPage(QWidget* parent)
     layout->addField(tr("Bookmark symbol color:"), m_bookmarkSymbolColor);
     layout->addField(tr("Fonts:"), m_fontTable);
     setDefaultConfig();
+    connect(Colors::instance(), &Colors::changed, this, [this] {
+        SrcNaviConfig shown;
+        config(&shown);
+        setConfig(&shown);
+    });
 }
 
 void SrcNaviConfigPage::setConfig(const SrcNaviConfig* config)
 {
     m_location->setCurrentIndex(m_location->findData(config->naviWidgetLocation));
     m_sortMode->setCurrentIndex(m_sortMode->findData(config->tagListSortMode));
-    m_bookmarkSymbolColor->setColor(config->bookmarkSymbolColor);
+    m_bookmarkSymbolColor->setColor(Colors::shown(Colors::eMarkBookmark, config->bookmarkSymbolColor));
     for (int i = 0; i < SrcNaviConfig::fontContextCount; ++i)
-        m_fontTable->setFormat(i, config->fontFormats[i]);
+        m_fontTable->setFormat(
+            i, Colors::shown(SrcNaviConfig::colorOf(SrcNaviConfig::eFontContext_t(i)), config->fontFormats[i]));
 }
 
 void SrcNaviConfigPage::config(SrcNaviConfig* config) const
@@ -54,9 +61,10 @@ void SrcNaviConfigPage::config(SrcNaviConfig* config) const
         config->naviWidgetLocation = m_location->currentData().toInt();
     if (m_sortMode->currentIndex() >= 0)
         config->tagListSortMode = m_sortMode->currentData().toInt();
-    config->bookmarkSymbolColor = m_bookmarkSymbolColor->color();
+    config->bookmarkSymbolColor = Colors::stored(Colors::eMarkBookmark, m_bookmarkSymbolColor->color());
     for (int i = 0; i < SrcNaviConfig::fontContextCount; ++i)
-        config->fontFormats[i] = m_fontTable->format(i);
+        config->fontFormats[i] =
+            Colors::stored(SrcNaviConfig::colorOf(SrcNaviConfig::eFontContext_t(i)), m_fontTable->format(i));
 }
 
 void SrcNaviConfigPage::setDefaultConfig()

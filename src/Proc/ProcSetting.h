@@ -97,8 +97,9 @@ constexpr sProcSetting_t pageSizeSetting()
     s.page = sProcSetting_t::ePageInstMem;
     s.title = QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Instruction memory page size:");
     s.unit = QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "kB");
-    s.toolTip = QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget",
-                                  "Size of one page of the instruction memory, where the source sets none");
+    s.toolTip = QT_TRANSLATE_NOOP(
+        "nsProc::ProcConfigWidget",
+        "Size of one page of the instruction memory, counted in instruction words, where the source sets none");
     s.shownMax = 4096;
     s.shownStart = 1024;
     return s;

@@ -1,5 +1,6 @@
 #include "ConsentQuestion.h"
 
+#include "DialogParent.h"
 #include "HelpRef.h"
 #include "Unattended.h"
 
@@ -99,7 +100,7 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
         return answerNobody;
     }
     // On the heap, as its parent can be deleted while it is open, and deletes it.
-    const QPointer<QDialog> dialog(new QDialog(QApplication::activeWindow()));
+    const QPointer<QDialog> dialog(new QDialog(DialogParent::get()));
     dialog->setObjectName(QStringLiteral("consentQuestion"));
     dialog->setWindowTitle(title);
 

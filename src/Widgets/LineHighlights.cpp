@@ -1,14 +1,16 @@
 #include "LineHighlights.h"
 
+#include "Colors.h"
+
 #include <QPlainTextEdit>
 #include <QTextBlock>
 
 LineHighlights::LineHighlights(QPlainTextEdit* edit)
     : m_edit(edit)
 {
-    m_flag.format.setBackground(QColor(0xF5CACA));
+    m_flag.format.setBackground(Colors::of(Colors::eEditorFlaggedLine));
     m_flag.format.setProperty(QTextFormat::FullWidthSelection, true);
-    m_cursorLine.format.setBackground(QColor(0xE3EBF3));
+    m_cursorLine.format.setBackground(Colors::of(Colors::eEditorCursorLine));
     m_cursorLine.format.setProperty(QTextFormat::FullWidthSelection, true);
 }
 

@@ -1,5 +1,7 @@
 #include "MyColorSelector.h"
 
+#include "Colors.h"
+
 #include <QColorDialog>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -8,10 +10,6 @@
 
 namespace {
 
-const QColor frameColor(0x87, 0x92, 0xa2);
-const QColor focusColor(0x20, 0x43, 0x98);
-const QColor disabledFrameColor(0xd5, 0xda, 0xe1);
-const QColor whiteColor(0xff, 0xff, 0xff);
 const qreal disabledOpacity = 0.35;
 
 } // namespace
@@ -23,7 +21,7 @@ MyColorSelector::MyColorSelector(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    setColor(m_color);
+    setColor(Colors::of(Colors::eFormatCmd));
 }
 
 void MyColorSelector::setColor(QColor color)
@@ -57,15 +55,15 @@ void MyColorSelector::paintEvent(QPaintEvent*)
     const QRect frame = rect().adjusted(0, 0, -1, -1);
     if (!hasFocus()) {
         const bool hot = isEnabled() && underMouse();
-        painter.setPen(!isEnabled() ? disabledFrameColor : hot ? focusColor : frameColor);
+        painter.setPen(Colors::of(!isEnabled() ? Colors::eHairLine : hot ? Colors::eAccent : Colors::eControlBorder));
         painter.drawRect(frame);
         return;
     }
-    // The white line separates the frame from a similar colour inside.
-    painter.setPen(focusColor);
+    // The inner line separates the frame from a similar colour inside.
+    painter.setPen(Colors::of(Colors::eAccent));
     painter.drawRect(frame);
     painter.drawRect(frame.adjusted(1, 1, -1, -1));
-    painter.setPen(whiteColor);
+    painter.setPen(Colors::of(Colors::ePage));
     painter.drawRect(frame.adjusted(2, 2, -2, -2));
 }
 

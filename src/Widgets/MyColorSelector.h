@@ -7,9 +7,10 @@
 class MyColorSelector : public QWidget
 {
     Q_OBJECT
+    Q_PROPERTY(QColor color READ color WRITE setColor USER true)
 
 public:
-    /// Starts in black.
+    /// Starts in the colour of text.
     explicit MyColorSelector(QWidget* parent = nullptr);
 
     /// An invalid colour is ignored.
@@ -33,5 +34,5 @@ protected:
 private:
     void selectColor();
 
-    QColor m_color = Qt::black;
+    QColor m_color;
 };

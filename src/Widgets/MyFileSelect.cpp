@@ -38,6 +38,8 @@ void MyFileSelect::setWindowTitle(QString title)
     m_title = title;
     m_button->setToolTip(title);
     m_button->setAccessibleName(title);
+    if (m_edit->accessibleName().isEmpty())
+        m_edit->setAccessibleName(title);
 }
 
 void MyFileSelect::setNameFilters(QStringList filters)

@@ -1,5 +1,7 @@
 #include "MyFontTable.h"
 
+#include "Colors.h"
+
 #include <QColorDialog>
 #include <QEvent>
 #include <QHeaderView>
@@ -12,7 +14,6 @@ namespace {
 
 const int swatchSize = 12;   ///< pixels
 const int contextWidth = 20; ///< characters
-const QColor swatchFrame(0x87, 0x92, 0xa2);
 
 QIcon swatch(const QColor& color, qreal ratio)
 {
@@ -20,7 +21,7 @@ QIcon swatch(const QColor& color, qreal ratio)
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(color);
     QPainter painter(&pixmap);
-    painter.setPen(swatchFrame);
+    painter.setPen(Colors::of(Colors::eControlBorder));
     painter.drawRect(QRectF(0, 0, swatchSize - 1, swatchSize - 1));
     return QIcon(pixmap);
 }
@@ -32,6 +33,7 @@ MyFontTable::MyFontTable(QWidget* parent)
     , m_model(new QStandardItemModel(0, columnCount, this))
 {
     setObjectName(QStringLiteral("fontTable"));
+    setAccessibleName(tr("Formats of text"));
     m_model->setHorizontalHeaderLabels({tr("Font context"), tr("Bold"), tr("Italic")});
     // The ticks stand at the left of their cells.
     for (int column = 0; column < columnCount; ++column)

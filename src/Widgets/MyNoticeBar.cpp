@@ -57,11 +57,16 @@ MyNoticeBar::MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent)
 void MyNoticeBar::setGrade(eGrade_t grade)
 {
     m_grade = grade;
-    m_icon->setPixmap(QIcon(QString::fromLatin1(gradeIcons[grade])).pixmap(iconSize, iconSize));
+    showIcon();
     // The style sheet gives each grade its background colour.
     setProperty("grade", QString::fromLatin1(gradeNames[grade]));
     style()->unpolish(this);
     style()->polish(this);
+}
+
+void MyNoticeBar::showIcon()
+{
+    m_icon->setPixmap(QIcon(QString::fromLatin1(gradeIcons[m_grade])).pixmap(iconSize, iconSize));
 }
 
 QString MyNoticeBar::text() const
@@ -126,6 +131,8 @@ bool MyNoticeBar::focusNextPrevChild(bool next)
 
 bool MyNoticeBar::event(QEvent* event)
 {
+    if (event->type() == QEvent::PaletteChange)
+        showIcon();
     // The keys of the bar are not those of the commands of an editor around it.
     if (event->type() == QEvent::ShortcutOverride) {
         const int key = static_cast<QKeyEvent*>(event)->key();

@@ -52,6 +52,8 @@ private slots:
 private:
     QList<QWidget*> controls() const;
 
+    void showIcon();
+
     eGrade_t m_grade = eGradeInfo;
     QLabel* m_icon;
     QLabel* m_label;

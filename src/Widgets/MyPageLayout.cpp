@@ -4,8 +4,10 @@
 #include "MyPageTitle.h"
 #include "MySectionTitle.h"
 
+#include <QCheckBox>
 #include <QGridLayout>
 #include <QLabel>
+#include <QRadioButton>
 
 namespace {
 
@@ -14,6 +16,14 @@ enum eColumn_t { columnTitle = 0, columnField = 1, columnUnit = 2, columnSpace =
 const int pageMargin = 16;
 const int gap = 8;
 const int sectionGap = 16; ///< pixels above the heading of a section, beside the gap between rows
+
+/// A mark is as wide as its text, and so is the frame that shows its focus; all others take their share of the width.
+Qt::Alignment alignmentOf(const QWidget* field)
+{
+    const bool isMark =
+        qobject_cast<const QCheckBox*>(field) != nullptr || qobject_cast<const QRadioButton*>(field) != nullptr;
+    return isMark ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
+}
 
 } // namespace
 
@@ -53,6 +63,8 @@ MyFieldTitle* MyPageLayout::addField(const QString& title, QWidget* field, const
 {
     auto* label = new MyFieldTitle(title, m_content);
     label->setBuddy(field);
+    if (QWidget* part = field->focusProxy())
+        part->setAccessibleName(label->text());
     if (!toolTip.isEmpty())
         field->setToolTip(toolTip);
     label->setToolTip(toolTip.isEmpty() ? field->toolTip() : toolTip);
@@ -61,9 +73,9 @@ MyFieldTitle* MyPageLayout::addField(const QString& title, QWidget* field, const
     const bool high = (field->sizePolicy().verticalPolicy() & QSizePolicy::ExpandFlag) != 0;
     m_grid->addWidget(label, m_row, columnTitle, high ? Qt::AlignTop : Qt::AlignVCenter);
     if (wide)
-        m_grid->addWidget(field, m_row, columnField, 1, columnCount - columnField);
+        m_grid->addWidget(field, m_row, columnField, 1, columnCount - columnField, alignmentOf(field));
     else
-        m_grid->addWidget(field, m_row, columnField);
+        m_grid->addWidget(field, m_row, columnField, alignmentOf(field));
     if (!unit.isEmpty())
         m_grid->addWidget(new QLabel(unit, m_content), m_row, columnUnit);
     ++m_row;
@@ -72,7 +84,7 @@ MyFieldTitle* MyPageLayout::addField(const QString& title, QWidget* field, const
 
 void MyPageLayout::addRow(QWidget* widget)
 {
-    m_grid->addWidget(widget, m_row++, columnField, 1, columnCount - columnField);
+    m_grid->addWidget(widget, m_row++, columnField, 1, columnCount - columnField, alignmentOf(widget));
 }
 
 void MyPageLayout::addRow(QLayout* row)
@@ -82,7 +94,7 @@ void MyPageLayout::addRow(QLayout* row)
 
 void MyPageLayout::addWide(QWidget* widget)
 {
-    m_grid->addWidget(widget, m_row++, 0, 1, columnCount);
+    m_grid->addWidget(widget, m_row++, 0, 1, columnCount, alignmentOf(widget));
 }
 
 void MyPageLayout::addWide(QLayout* row)

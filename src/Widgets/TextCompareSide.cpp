@@ -1,5 +1,7 @@
 #include "TextCompareSide.h"
 
+#include "Colors.h"
+
 #include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
@@ -8,20 +10,17 @@
 namespace {
 
 const int marginSpace = 4;
-const QColor marginGround(0xee, 0xf0, 0xf3);
-const QColor marginText(0x52, 0x60, 0x6d);
-const QColor currentMark(0x20, 0x43, 0x98);
 const int currentMarkWidth = 3;
 
 QColor ground(TextCompareSide::eRow_t kind)
 {
     switch (kind) {
     case TextCompareSide::eRowChanged:
-        return {0xfd, 0xf0, 0xc8};
+        return Colors::of(Colors::eWarningGround);
     case TextCompareSide::eRowOnlyHere:
-        return {0xdd, 0xee, 0xd9};
+        return Colors::of(Colors::eCompareAdded);
     case TextCompareSide::eRowMissing:
-        return {0xe6, 0xe8, 0xec};
+        return Colors::of(Colors::eCompareMissing);
     case TextCompareSide::eRowEqual:
         break;
     }
@@ -124,16 +123,16 @@ void TextCompareSide::paintEvent(QPaintEvent* event)
 void TextCompareSide::paintMargin(QPaintEvent* event)
 {
     QPainter painter(m_margin);
-    painter.fillRect(event->rect(), marginGround);
+    painter.fillRect(event->rect(), Colors::of(Colors::eDisabledHover));
     painter.setFont(font());
-    painter.setPen(marginText);
+    painter.setPen(Colors::of(Colors::eTextSecond));
     QTextBlock block = firstVisibleBlock();
     qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
     for (; block.isValid() && top <= event->rect().bottom(); block = block.next()) {
         const qreal height = blockBoundingRect(block).height();
         const int row = block.blockNumber();
         if (row >= m_currentRow && row < m_currentRow + m_currentCount)
-            painter.fillRect(QRectF(0, top, currentMarkWidth, height), currentMark);
+            painter.fillRect(QRectF(0, top, currentMarkWidth, height), Colors::of(Colors::eAccent));
         if (row < m_rows.size() && m_rows.at(row).line >= 0)
             painter.drawText(QRectF(0, top, m_margin->width() - marginSpace, height), Qt::AlignRight | Qt::AlignVCenter,
                              QString::number(m_rows.at(row).line + 1));

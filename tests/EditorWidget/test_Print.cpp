@@ -2,12 +2,15 @@
 
 #include "EditorFixture.h"
 
+#include "Colors.h"
 #include "PrintedPages.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextLayout>
 
 using nsModEditor::PrintedPages;
 using nsModEditor::sPrintJob;
@@ -47,6 +50,21 @@ protected:
     QImage paper{700, 900, QImage::Format_RGB32};
     const QRectF area{50, 60, 600, 780};
 };
+
+TEST_F(Print, paperIsLightInTheDarkScheme)
+{
+    Colors::setScheme(Colors::eDark);
+    editor->setText("instruction");
+    QTextLayout::FormatRange range{0, 11, QTextCharFormat()};
+    range.format.setForeground(Colors::of(Colors::eFormatCmd));
+    const sPrintJob job = editor->printJob("main.psm", false);
+    job.document->firstBlock().layout()->setFormats({range});
+    const PrintedPages printed = pages(job);
+    const QImage page = painted(printed, 0);
+    EXPECT_GT(ink(page, printed.rows().first().rect), 20) << "as white as the paper";
+    EXPECT_GT(ink(page, QRectF(area.left(), area.top(), area.width(), 20)), 20) << "the head";
+    Colors::setScheme(Colors::eLight);
+}
 
 TEST_F(Print, longLinesGoOnInTheNextRow)
 {

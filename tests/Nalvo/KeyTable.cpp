@@ -14,6 +14,7 @@ const KeyTable& settingsKeys()
         {"ModGui/height", "int", "600", "700"},
         {"ModGui/x", "int", "0", "40"},
         {"ModGui/y", "int", "0", "30"},
+        {"ModGui/colorScheme", "int", "0", "1"},
         {"ModEditor/tabIndent", "int", "4", "7"},
         {"ModEditor/dynamicLineWrapEn", "bool", "0", "1"},
         {"ModEditor/lineNumberEn", "bool", "1", "0"},

@@ -32,7 +32,8 @@ protected:
     {
         QFile style(QStringLiteral(NALVO_SOURCE_DIR "/src/Resources/styles/stylesheet.css"));
         EXPECT_TRUE(style.open(QIODevice::ReadOnly));
-        dock.setStyleSheet(QString::fromUtf8(style.readAll()) + "QWidget#procSimIO { background-color: #f3f4f6; }");
+        dock.setStyleSheet(
+            Colors::filled(QString::fromUtf8(style.readAll()) + "QWidget#procSimIO { background-color: @ground; }"));
         dock.resize(280, 600);
         dock.show();
         QApplication::setActiveWindow(&dock);

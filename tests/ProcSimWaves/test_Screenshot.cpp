@@ -1,5 +1,6 @@
 // Pictures of the wave viewer in its states, for a person to look at.
 
+#include "Colors.h"
 #include "Readable.h"
 #include "WavesFixture.h"
 
@@ -16,7 +17,7 @@ protected:
     {
         QFile sheet(NALVO_SOURCE_DIR "/src/Resources/styles/stylesheet.css");
         ASSERT_TRUE(sheet.open(QIODevice::ReadOnly));
-        qApp->setStyleSheet(QString::fromUtf8(sheet.readAll()));
+        qApp->setStyleSheet(Colors::filled(QString::fromUtf8(sheet.readAll())));
         WavesTest::SetUp();
     }
     void TearDown() override { qApp->setStyleSheet({}); }

@@ -17,6 +17,7 @@
 #include "ProcSimScrpd.h"
 #include "ProcSimStatusBar.h"
 
+#include "Colors.h"
 #include "Readable.h"
 
 #include <gtest/gtest.h>
@@ -73,9 +74,8 @@ class SimLook : public ::testing::Test
 protected:
     SimLook()
     {
-        QFile file(":/styles/styles/stylesheet.css");
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        m_window.setStyleSheet(QString::fromUtf8(file.readAll()));
+        EXPECT_FALSE(Colors::styleSheet().isEmpty());
+        m_window.setStyleSheet(Colors::styleSheet());
     }
 
     /// Shows the widget in a window of a size.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Colors.h"
 #include "Readable.h"
 
 #include <gtest/gtest.h>
@@ -26,10 +27,9 @@ protected:
     PageFixture()
     {
         QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
-        QFile style(QStringLiteral(":/styles/styles/stylesheet.css"));
-        EXPECT_TRUE(style.open(QIODevice::ReadOnly));
+        EXPECT_FALSE(Colors::styleSheet().isEmpty());
         pages.setObjectName(QStringLiteral("configPages"));
-        pages.setStyleSheet(QString::fromUtf8(style.readAll()));
+        pages.setStyleSheet(Colors::styleSheet());
         pages.addWidget(&area);
         pages.resize(720, 560);
         area.setFrameStyle(QFrame::NoFrame);

@@ -74,6 +74,8 @@ void takeSettings(PictureWindow& stage)
     takePage(stage, QStringLiteral("Processor"), QStringLiteral("configPageProcessor"));
     takePage(stage, QStringLiteral("Editor"), QStringLiteral("configPageEditor"), true);
     takePage(stage, QStringLiteral("Source Navi"), QStringLiteral("configPageSourceNavi"), true);
+    takePage(stage, QStringLiteral("Appearance"), QStringLiteral("configPageAppearance"), true);
+    takePage(stage, QStringLiteral("All shortcuts"), QStringLiteral("configPageShortcuts"), true);
     takePage(stage, QStringLiteral("Network"), QStringLiteral("configPageNetwork"), true);
     takePage(stage, QStringLiteral("Updates"), QStringLiteral("configPageSwUpdate"), true);
     takePage(stage, QStringLiteral("Help"), QStringLiteral("configPageHelp"), true);

@@ -1,10 +1,12 @@
 #include "IconRenderer.h"
+#include "ColorTable.h"
 #include "IconList.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QImage>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QSet>
 #include <QSvgRenderer>
 #include <QXmlStreamReader>
@@ -19,6 +21,17 @@ bool isUnsupportedElement(const QString& name)
         QStringLiteral("clipPath"), QStringLiteral("symbol"), QStringLiteral("marker"),
         QStringLiteral("text"),     QStringLiteral("image"),  QStringLiteral("pattern")};
     return names.contains(name);
+}
+
+/// The role of a drawing with this light colour; null if there is none.
+const ColorTable::sRow_t* rowOf(unsigned light)
+{
+    for (int role = ColorTable::firstOfDrawings; role < ColorTable::roleCount; ++role) {
+        if (ColorTable::rows[role].light == light) {
+            return &ColorTable::rows[role];
+        }
+    }
+    return nullptr;
 }
 
 /// True if nothing at all is visible in the image.
@@ -57,23 +70,19 @@ bool IconRenderer::render(const IconEntry& entry)
 {
     m_errorText.clear();
     const QString svgFile = m_svgDir.filePath(entry.svg + QStringLiteral(".svg"));
-    if (!checkSource(svgFile)) {
-        return false;
-    }
-    QSvgRenderer renderer;
-    if (!renderer.load(svgFile)) {
-        return fail(svgFile + QStringLiteral(": not a drawing that can be rendered"));
-    }
-    return renderOne(renderer, entry, 1) && renderOne(renderer, entry, 2);
+    QByteArray drawing;
+    return readSource(svgFile, &drawing) && renderScheme(drawing, entry, QString()) && darkened(svgFile, &drawing) &&
+           renderScheme(drawing, entry, QStringLiteral("dark/"));
 }
 
-bool IconRenderer::checkSource(const QString& svgFile)
+bool IconRenderer::readSource(const QString& svgFile, QByteArray* drawing)
 {
     QFile file(svgFile);
     if (!file.open(QIODevice::ReadOnly)) {
         return fail(svgFile + QStringLiteral(": ") + file.errorString());
     }
-    QXmlStreamReader reader(&file);
+    *drawing = file.readAll();
+    QXmlStreamReader reader(*drawing);
     while (!reader.atEnd()) {
         if (reader.readNext() != QXmlStreamReader::StartElement) {
             continue;
@@ -93,7 +102,37 @@ bool IconRenderer::checkSource(const QString& svgFile)
     return true;
 }
 
-bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, int density)
+/// Replaces each colour by that of its role in the dark scheme.
+bool IconRenderer::darkened(const QString& svgFile, QByteArray* drawing)
+{
+    static const QRegularExpression color(QStringLiteral("#([0-9a-fA-F]{3,8})\\b"));
+    const QString text = QString::fromUtf8(*drawing);
+    QString result;
+    int end = 0;
+    for (auto it = color.globalMatch(text); it.hasNext();) {
+        const QRegularExpressionMatch match = it.next();
+        const ColorTable::sRow_t* row = rowOf(match.captured(1).toUInt(nullptr, 16));
+        if (match.capturedLength(1) != 6 || row == nullptr) {
+            return fail(QStringLiteral("%1: %2 is no colour of a drawing").arg(svgFile, match.captured()));
+        }
+        result += text.mid(end, match.capturedStart() - end);
+        result += QStringLiteral("#%1").arg(row->dark, 6, 16, QLatin1Char('0'));
+        end = match.capturedEnd();
+    }
+    *drawing = (result + text.mid(end)).toUtf8();
+    return true;
+}
+
+bool IconRenderer::renderScheme(const QByteArray& drawing, const IconEntry& entry, const QString& folder)
+{
+    QSvgRenderer renderer;
+    if (!renderer.load(drawing)) {
+        return fail(entry.svg + QStringLiteral(": not a drawing that can be rendered"));
+    }
+    return renderOne(renderer, entry, folder, 1) && renderOne(renderer, entry, folder, 2);
+}
+
+bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, const QString& folder, int density)
 {
     QImage image(entry.size * density, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
@@ -105,7 +144,7 @@ bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, int
         return fail(entry.svg + QStringLiteral(": the rendered picture is empty"));
     }
 
-    const QString fileName = m_outDir.filePath(targetName(entry.target, density));
+    const QString fileName = m_outDir.filePath(folder + targetName(entry.target, density));
     if (!m_outDir.mkpath(QFileInfo(fileName).path())) {
         return fail(QStringLiteral("can not create folder for ") + fileName);
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QDir>
 #include <QString>
 
@@ -17,16 +18,19 @@ public:
     /// @param outDir  folder of the PNG files; sub folders are made as they are needed
     IconRenderer(const QDir& svgDir, const QDir& outDir);
 
-    /// Writes the PNG of the entry and its "@2x" sister. Returns false, with a text in errorText(), if the drawing
-    /// cannot be read, uses what the renderer cannot draw, shows nothing, or if a file cannot be written.
+    /// Writes the PNG of the entry and its "@2x" sister, and both in the dark colours below "dark/". Returns false,
+    /// with a text in errorText(), if the drawing cannot be read, uses what the renderer cannot draw or a colour that
+    /// is no role of a drawing, shows nothing, or if a file cannot be written.
     bool render(const IconEntry& entry);
 
     /// What went wrong in the last render().
     QString errorText() const { return m_errorText; }
 
 private:
-    bool checkSource(const QString& svgFile);
-    bool renderOne(QSvgRenderer& renderer, const IconEntry& entry, int density);
+    bool readSource(const QString& svgFile, QByteArray* drawing);
+    bool darkened(const QString& svgFile, QByteArray* drawing);
+    bool renderScheme(const QByteArray& drawing, const IconEntry& entry, const QString& folder);
+    bool renderOne(QSvgRenderer& renderer, const IconEntry& entry, const QString& folder, int density);
     bool fail(const QString& text);
 
     QDir m_svgDir;

@@ -60,11 +60,11 @@ QStringList charsetNames()
 AsmFeConfigPage::AsmFeConfigPage(QWidget* parent)
     : QWidget(parent)
     , m_layout(new MyPageLayout(this, tr("Assembler configuration")))
-    , m_defaultCharset(new QComboBox(this))
-    , m_behaviorCharset(new QComboBox(this))
     , m_behaviorEqu(new QComboBox(this))
     , m_behaviorSet(new QComboBox(this))
     , m_behaviorIntVector(new QComboBox(this))
+    , m_defaultCharset(new QComboBox(this))
+    , m_behaviorCharset(new QComboBox(this))
     , m_mapper(new TargetMapperConfigWidget(this))
 {
     setObjectName(QStringLiteral("configPage"));

@@ -48,11 +48,11 @@ private:
     void addOutputs();
 
     MyPageLayout* m_layout;
-    QComboBox* m_defaultCharset;
-    QComboBox* m_behaviorCharset;
-    QComboBox* m_behaviorEqu;
+    QComboBox* m_behaviorEqu; // in reading order, in which they are made and in which the Tab key visits them
     QComboBox* m_behaviorSet;
     QComboBox* m_behaviorIntVector;
+    QComboBox* m_defaultCharset;
+    QComboBox* m_behaviorCharset;
     TargetMapperConfigWidget* m_mapper;
     TargetConfigWidget* m_targets[targetKindCount]; ///< indexed by eTargetKind_t
     QLabel* m_hint = nullptr;                       ///< what is missing for any output at all

@@ -40,7 +40,11 @@ void TargetConfigWidget::addField(const QString& title, QWidget* field, const QS
     field->setToolTip(toolTip);
     const int row = m_layout->rowCount();
     m_layout->addWidget(label, row, 0);
-    m_layout->addWidget(field, row, 1);
+    // The frame of the focus goes around the mark.
+    if (qobject_cast<QCheckBox*>(field) != nullptr)
+        m_layout->addWidget(field, row, 1, Qt::AlignLeft | Qt::AlignVCenter);
+    else
+        m_layout->addWidget(field, row, 1);
 }
 
 void TargetConfigWidget::addEnable(const QString& toolTip)

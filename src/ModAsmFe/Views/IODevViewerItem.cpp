@@ -1,5 +1,6 @@
 #include "IODevViewerItem.h"
 
+#include "Colors.h"
 #include "IODev.h"
 
 #include <QEvent>
@@ -133,9 +134,7 @@ void IODevViewerItem::paintRow(QPainter* painter, int row) const
     const int first = row * m_columns;
     const int end = int(qMin(qint64(first) + m_columns, qint64(m_dev->memSize)));
     const QString address = QStringLiteral("%1").arg(first, m_addrDigits, 16, QLatin1Char('0'));
-    QColor second = palette().color(QPalette::WindowText);
-    second.setAlphaF(0.7);
-    painter->setPen(second);
+    painter->setPen(Colors::of(Colors::eTextSecond));
     painter->drawText(QRect(0, row * m_pitch, m_gutter, m_cell), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextDontClip,
                       address);
     for (int addr = first; addr < end; ++addr)

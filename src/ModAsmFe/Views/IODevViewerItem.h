@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Colors.h"
 #include "SrcReference.h"
 
 #include <QColor>
@@ -23,9 +24,10 @@ public:
 
     struct sConfig_t
     {
-        QColor initValue{0xd5, 0xda, 0xe1};   ///< nothing wrote the cell
-        QColor pageValue{0x80, 0x80, 0x00};   ///< a value or an instruction
-        QColor sharedValue{0x80, 0x00, 0x00}; ///< an instruction of the shared range, repeated in each page
+        QColor initValue = Colors::of(Colors::eMapInit); ///< nothing wrote the cell
+        QColor pageValue = Colors::of(Colors::eMapPage); ///< a value or an instruction
+        QColor sharedValue =
+            Colors::of(Colors::eMapShared); ///< an instruction of the shared range, repeated in each page
         const QColor& color(eCellKind_t kind) const
         {
             return kind == eInitValue ? initValue : (kind == ePageValue ? pageValue : sharedValue);

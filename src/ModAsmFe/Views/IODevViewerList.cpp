@@ -28,6 +28,7 @@ IODevViewerList::IODevViewerList(QWidget* parent)
     m_legend = setupLegend();
     m_scroll = new QScrollArea(this);
     m_scroll->setObjectName("ioDevViewerScroll");
+    m_scroll->setAccessibleName(tr("Memory maps of the devices"));
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->viewport()->installEventFilter(this);
     m_content = new QWidget;
@@ -74,22 +75,33 @@ QWidget* IODevViewerList::setupLegend()
     layout->setVerticalSpacing(margin / 4);
     layout->setColumnStretch(3, 1);
     m_legendEntries.append(new QLabel(QStringLiteral("<b>%1</b>").arg(tr("Legend")), legend));
-    const auto add = [&](const QColor& color, const QString& text) {
+    const auto add = [&](IODevViewerItem::eCellKind_t kind, const QString& text) {
         auto* entry = new QWidget(legend);
         auto* line = new QHBoxLayout(entry);
         line->setContentsMargins(0, 0, 0, 0);
         line->setSpacing(margin);
         auto* square = new QLabel(entry);
-        square->setPixmap(iconFromColor(color).pixmap(10, 10));
+        m_legendSquares.append({square, kind});
         line->addWidget(square);
         line->addWidget(new QLabel(text, entry), 1);
         m_legendEntries.append(entry);
     };
-    add(m_config.initValue, tr("Init value"));
-    add(m_config.pageValue, tr("Page value"));
-    add(m_config.sharedValue, tr("Shared range value"));
+    add(IODevViewerItem::eInitValue, tr("Init value"));
+    add(IODevViewerItem::ePageValue, tr("Page value"));
+    add(IODevViewerItem::eSharedValue, tr("Shared range value"));
+    showColors();
     arrangeLegend(0);
     return legend;
+}
+
+/// The colours of the present scheme, in legend and maps.
+void IODevViewerList::showColors()
+{
+    m_config = IODevViewerItem::sConfig_t();
+    for (const auto& square : qAsConst(m_legendSquares))
+        square.first->setPixmap(iconFromColor(m_config.color(square.second)).pixmap(10, 10));
+    for (const sViewerElements_t& element : qAsConst(m_elements))
+        element.item->setConfig(m_config);
 }
 
 /// Two lines where the width suffices, else one line an entry.
@@ -282,6 +294,8 @@ void IODevViewerList::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if ((event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) && m_built)
         layoutElements();
+    if (event->type() == QEvent::PaletteChange)
+        showColors();
 }
 
 } // namespace nsModAsmFe

@@ -66,6 +66,7 @@ private:
     QWidget* setupLegend();
     void arrangeLegend(int width);
     static QIcon iconFromColor(const QColor& color);
+    void showColors();
     static QString setupDevSummary(const IODev* dev);
     void addElement(IODev* dev);
     QLabel* addLabel(const QString& text, const char* objectName);
@@ -81,6 +82,7 @@ private:
     QWidget* m_legend = nullptr;
     QGridLayout* m_legendLayout = nullptr;
     QList<QWidget*> m_legendEntries; ///< the title first
+    QList<QPair<QLabel*, IODevViewerItem::eCellKind_t>> m_legendSquares;
     QScrollArea* m_scroll = nullptr;
     QWidget* m_content = nullptr;
     IODevList* m_devList = nullptr; ///< not owned; null while the view is empty

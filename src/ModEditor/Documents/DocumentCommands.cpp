@@ -1,5 +1,6 @@
 #include "DocumentCommands.h"
 
+#include "DialogParent.h"
 #include "DocumentKeeper.h"
 #include "DocumentPages.h"
 #include "DocumentSync.h"
@@ -10,6 +11,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QPointer>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -73,12 +75,17 @@ EditorWidget* DocumentCommands::openFile(const QString& path)
 
 void DocumentCommands::openFilesByDialog()
 {
-    QFileDialog dialog(nullptr, tr("Open file"), m_services->projectFolder());
-    setupDialog(&dialog);
-    dialog.setFileMode(QFileDialog::ExistingFiles);
-    if (dialog.exec() != QDialog::Accepted)
+    const QPointer<QFileDialog> dialog(
+        new QFileDialog(DialogParent::get(), tr("Open file"), m_services->projectFolder()));
+    setupDialog(dialog);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    // The window can be gone, and this object with it.
+    if (dialog == nullptr)
         return;
-    for (const QString& path : dialog.selectedFiles())
+    const QStringList paths = accepted ? dialog->selectedFiles() : QStringList();
+    delete dialog;
+    for (const QString& path : paths)
         openFile(path);
 }
 
@@ -137,13 +144,18 @@ bool DocumentCommands::saveFileAs(EditorWidget* widget)
 {
     if (widget == nullptr)
         return false;
-    QFileDialog dialog(nullptr, tr("Save file"), m_lastPath);
-    setupDialog(&dialog);
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    if (dialog.exec() != QDialog::Accepted || !m_documents->contains(widget))
+    const QPointer<QFileDialog> dialog(new QFileDialog(DialogParent::get(), tr("Save file"), m_lastPath));
+    setupDialog(dialog);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setFileMode(QFileDialog::AnyFile);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    // The window can be gone, and this object with it.
+    if (dialog == nullptr)
         return false;
-    const QStringList names = dialog.selectedFiles();
+    const QStringList names = dialog->selectedFiles();
+    delete dialog;
+    if (!accepted || !m_documents->contains(widget))
+        return false;
     if (names.size() != 1 || names.first().isEmpty())
         return false;
     const QString name = names.first();

@@ -1,5 +1,6 @@
 #include "DocumentSync.h"
 
+#include "DialogParent.h"
 #include "DocumentKeeper.h"
 #include "DocumentWatcher.h"
 #include "EditorRecovery.h"
@@ -195,7 +196,7 @@ DocumentSync::eConflict_t DocumentSync::askForConflict(EditorWidget* widget, con
                          "</p>";
     for (;;) {
         QMessageBox box(QMessageBox::Warning, gone ? tr("File was removed") : tr("File was changed outside"), text,
-                        QMessageBox::NoButton, QApplication::activeWindow());
+                        QMessageBox::NoButton, DialogParent::get());
         HelpRef::set(&box, QStringLiteral("pageId://editor#changes-outside"));
         QPushButton* mine = box.addButton(gone ? tr("Save again") : tr("Keep mine"), QMessageBox::AcceptRole);
         QPushButton* file = nullptr;
@@ -227,7 +228,7 @@ DocumentSync::eConflict_t DocumentSync::compareWithFile(EditorWidget* widget, co
 {
     QString text;
     DocumentFormat::decode(other, &text);
-    TextCompareDialog dialog(QApplication::activeWindow());
+    TextCompareDialog dialog(DialogParent::get());
     dialog.setTexts(tr("In the editor"), widget->text(), tr("On the disk"), text);
     dialog.addButton(tr("Keep mine"), tr("Keeps the text of the editor, on the left"), eConflictKeepMine);
     dialog.addButton(tr("Take the file"), tr("Takes the text of the file, on the right; Undo brings yours back"),

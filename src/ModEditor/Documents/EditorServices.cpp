@@ -1,5 +1,6 @@
 #include "EditorServices.h"
 
+#include "DialogParent.h"
 #include "DocumentOnDisk.h"
 #include "SafeFile.h"
 
@@ -73,7 +74,7 @@ bool EditorServices::ask(const QString& title, const QString& first, const QStri
         text += "<p><b>" + relPath(path).toHtmlEscaped() + "</b><p>";
     for (const QString& line : closing)
         text += "<p>" + line + "</p>";
-    return QMessageBox::question(QApplication::activeWindow(), title, text, QMessageBox::Yes | QMessageBox::No,
+    return QMessageBox::question(DialogParent::get(), title, text, QMessageBox::Yes | QMessageBox::No,
                                  QMessageBox::No) == QMessageBox::Yes;
 }
 

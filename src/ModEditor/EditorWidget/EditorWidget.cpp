@@ -76,6 +76,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
     m_wordMarks = new WordMarks(this, m_syntaxHighlighter);
     setDocument(m_textDocument);
+    setAccessibleName(tr("Text of the document"));
     m_baseFontSize = QFontInfo(font()).pointSize();
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -216,7 +216,7 @@ void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& blo
 
 void EditorWidgetLeftMargin::paintAddr(QPainter* painter, int top, int addr)
 {
-    painter->setPen(m_addrMap->valid ? m_fgColor : QColor(Qt::darkGray));
+    painter->setPen(m_addrMap->valid ? m_fgColor : Colors::of(Colors::eMarginOld));
     const QRect cell(symbolColumnWidth(), top, addrColumnWidth() - columnSpace, painter->fontMetrics().height());
     painter->drawText(cell, Qt::AlignRight, QString("0x%1").arg(addr, minAddrDigits, m_addrBase, QChar('0')));
 }

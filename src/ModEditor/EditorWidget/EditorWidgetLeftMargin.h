@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Colors.h"
 #include "EditorMemPageAddrMap.h"
 
 #include <QColor>
@@ -79,11 +80,11 @@ private:
     int m_addrBase = 16;
     EditorMemPageAddrMap* m_addrMap = nullptr;           ///< not owned; null without addresses of this file
     EditorMemPageAddrMap::sItem_t* m_addrList = nullptr; ///< not owned
-    QColor m_fgColor = Qt::black;
-    QColor m_bgColor = QColor(0xEAE9E8);
-    QColor m_breakpointColor = Qt::red;
-    QColor m_startPointerColor = Qt::green;
-    QColor m_bookmarkColor = Qt::darkYellow;
+    QColor m_fgColor = Colors::of(Colors::eMarginText);
+    QColor m_bgColor = Colors::of(Colors::eMarginGround);
+    QColor m_breakpointColor = Colors::of(Colors::eMarkBreakpoint);
+    QColor m_startPointerColor = Colors::of(Colors::eMarkStart);
+    QColor m_bookmarkColor = Colors::of(Colors::eMarkBookmark);
 };
 
 } // namespace nsModEditor

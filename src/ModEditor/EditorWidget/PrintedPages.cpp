@@ -1,5 +1,7 @@
 #include "PrintedPages.h"
 
+#include "Colors.h"
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
@@ -59,6 +61,8 @@ void PrintedPages::layOut(QTextLayout* layout, const QTextBlock& block) const
         }
         range.length = qMax(range.length, 0);
         range.format.clearBackground();
+        if (range.format.hasProperty(QTextFormat::ForegroundBrush))
+            range.format.setForeground(Colors::onPaper(range.format.foreground().color()));
     }
     layout->setFormats(formats);
     QTextOption option;
@@ -145,14 +149,14 @@ void PrintedPages::paintHeadAndFoot(QPainter* painter, int page) const
 void PrintedPages::paint(QPainter* painter, int page) const
 {
     painter->setFont(m_job.font);
-    painter->setPen(Qt::black);
+    painter->setPen(Colors::of(Colors::ePaperText));
     paintHeadAndFoot(painter, page);
     walk(page, page, [&](int, qreal top, int number, const QTextLayout& layout, int index) {
         if (number > 0) {
             const QRectF cell(m_area.left(), top, m_numberWidth, m_rowHeight);
-            painter->setPen(Qt::darkGray);
+            painter->setPen(Colors::of(Colors::ePaperNumbers));
             painter->drawText(cell, Qt::AlignRight | Qt::AlignTop, QString::number(number));
-            painter->setPen(Qt::black);
+            painter->setPen(Colors::of(Colors::ePaperText));
         }
         const QTextLine line = layout.lineAt(index);
         // A row is drawn from where it stands in its line.

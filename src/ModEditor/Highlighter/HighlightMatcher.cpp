@@ -1,5 +1,7 @@
 #include "HighlightMatcher.h"
 
+#include "Colors.h"
+
 #include <algorithm>
 
 namespace nsModEditor {
@@ -64,7 +66,7 @@ int HighlightMatcher::formatIndex(const QTextCharFormat& format)
 
 QTextCharFormat HighlightMatcher::marked(QTextCharFormat format)
 {
-    format.setBackground(Qt::yellow);
+    format.setBackground(Colors::of(Colors::eEditorFound));
     return format;
 }
 

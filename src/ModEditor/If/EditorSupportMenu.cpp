@@ -77,8 +77,14 @@ void EditorSupportMenu::showMenu(QMenu* shown, const QPoint& pos)
 
 void EditorSupportMenu::addSupportMenu(QMenu* shown)
 {
-    if (!children.isEmpty())
-        shown->addMenu(menu);
+    if (children.isEmpty())
+        return;
+    // The menu is nobody's child, so it does not inherit the look of the window that it is shown in.
+    const QWidget* owner = shown->parentWidget();
+    const QString sheet = owner != nullptr ? owner->window()->styleSheet() : QString();
+    if (menu->styleSheet() != sheet)
+        menu->setStyleSheet(sheet);
+    shown->addMenu(menu);
 }
 
 void EditorSupportMenu::handleAction(QAction* chosen)

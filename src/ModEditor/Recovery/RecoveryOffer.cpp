@@ -1,5 +1,6 @@
 #include "RecoveryOffer.h"
 
+#include "DialogParent.h"
 #include "DocumentCommands.h"
 #include "DocumentFormat.h"
 #include "DocumentKeeper.h"
@@ -133,7 +134,7 @@ void RecoveryOffer::showDialog()
     if (m_parts.keeper->recovery() == nullptr)
         return;
     m_parts.keeper->recovery()->waitForDone();
-    RecoverDialog dialog(store(), QApplication::activeWindow());
+    RecoverDialog dialog(store(), DialogParent::get());
     dialog.setRestoreEnabled(m_parts.services->isProjectOpen());
     connect(&dialog, &RecoverDialog::restoreRequested, this, [this, &dialog](const QString& id) {
         restoreText(id);
@@ -200,7 +201,7 @@ bool RecoveryOffer::compareText(const QString& id, bool canRestore)
     else if (QFileInfo(entry.path).isFile() && file.size() <= DocumentOnDisk::maxFileSize &&
              file.open(QIODevice::ReadOnly))
         present = textOfFile(file.readAll());
-    TextCompareDialog dialog(QApplication::activeWindow());
+    TextCompareDialog dialog(DialogParent::get());
     dialog.setTexts(tr("Kept on %1").arg(RecoverDialog::timeText(entry)), textOf(entry, bytes),
                     widget != nullptr ? tr("In the editor") : tr("In the file"), present);
     if (canRestore)

@@ -1,5 +1,7 @@
 #include "SplashScreen.h"
 
+#include "Colors.h"
+
 #include <QCoreApplication>
 #include <QIcon>
 #include <QTimer>
@@ -9,7 +11,6 @@ namespace nsModGui {
 namespace {
 
 const int showTime = 2500; ///< milliseconds
-const QColor messageColor(0x17, 0x30, 0x49);
 
 /// QIcon selects the picture in the resolution of the screen.
 QPixmap splashPixmap()
@@ -26,7 +27,7 @@ SplashScreen::SplashScreen()
 {
     setObjectName(QStringLiteral("splashScreen"));
     showMessage(tr("Release %1").arg(QCoreApplication::applicationVersion()),
-                Qt::AlignHCenter | Qt::AlignBottom | Qt::AlignVCenter, messageColor);
+                Qt::AlignHCenter | Qt::AlignBottom | Qt::AlignVCenter, Colors::of(Colors::eDrawingDark));
 }
 
 void SplashScreen::show(int x, int y, int width, int height)

@@ -33,6 +33,7 @@ PrjMngrWidget::PrjMngrWidget(QWidget* parent)
     setObjectName(QStringLiteral("prjMngr"));
     setAttribute(Qt::WA_StyledBackground);
     m_tabs->setObjectName(QStringLiteral("prjMngrTabs"));
+    m_tabs->setAccessibleName(tr("New project, or one that exists"));
     m_tabs->setTabPosition(QTabWidget::West);
     m_tabs->addTab(m_new, tr("New project"));
     m_tabs->addTab(makeOpenTab(), tr("Open"));

@@ -32,6 +32,7 @@ ProcConfigWidget::ProcConfigWidget(const ProcTable& table, QWidget* parent)
     , m_tabs(new QTabWidget(this))
 {
     m_tabs->setObjectName(QStringLiteral("procConfigTabs"));
+    m_tabs->setAccessibleName(tr("Groups of settings"));
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(m_tabs);
@@ -132,7 +133,8 @@ QCheckBox* ProcConfigWidget::addOption(QGridLayout* grid, const char* name, cons
     auto* box = new QCheckBox(text, this);
     box->setObjectName(QLatin1String(name));
     box->setToolTip(toolTip);
-    grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount());
+    // Not as wide as the page: the frame of the focus goes around the text.
+    grid->addWidget(box, grid->rowCount(), 0, 1, grid->columnCount(), Qt::AlignLeft | Qt::AlignVCenter);
     return box;
 }
 

@@ -2,6 +2,7 @@
 
 #include "ProcSim.h"
 
+#include "DialogParent.h"
 #include "ProcSimBoundedRun.h"
 #include "ProcSimCallStackData.h"
 #include "ProcSimClock.h"
@@ -328,7 +329,7 @@ bool ProcSim::resolvePage(int* memRange)
     updateWidgets();
     const Opcode* before = programCounter();
     const int deleted = m_deletions;
-    ProcSimResolvePageDialog dialog(m_engine->config().pageCount, QApplication::activeWindow());
+    ProcSimResolvePageDialog dialog(m_engine->config().pageCount, DialogParent::get());
     HelpRef::set(&dialog, QStringLiteral("pageId://simulatorState#pc"));
     dialog.exec();
     // The row is the number of the range: the first row is the shared range.

@@ -1,5 +1,6 @@
 #include "ProcSimEdtBit.h"
 
+#include "Colors.h"
 #include "ProcSimFont.h"
 #include "ProcSimHighlight.h"
 
@@ -71,7 +72,7 @@ void ProcSimEdtBit::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
     QPainter painter(this);
-    painter.setPen(QPen(hasFocus() ? QColor(0x204398) : QColor(0xb8c0cc), 1));
+    painter.setPen(QPen(Colors::of(hasFocus() ? Colors::eAccent : Colors::eQuietBorder), 1));
     painter.drawLine(2, height() - 2, width() - 3, height() - 2);
 }
 

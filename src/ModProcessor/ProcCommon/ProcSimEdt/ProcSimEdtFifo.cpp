@@ -1,5 +1,6 @@
 #include "ProcSimEdtFifo.h"
 
+#include "Colors.h"
 #include "ProcSimFont.h"
 #include "ProcSimIOFifo.h"
 
@@ -172,7 +173,7 @@ void ProcSimEdtFifo::showPointer()
     if (block.isValid()) {
         QTextEdit::ExtraSelection mark;
         mark.cursor = QTextCursor(block);
-        mark.format.setBackground(QColor(0xe4eaf6));
+        mark.format.setBackground(Colors::of(Colors::eHover));
         mark.format.setProperty(QTextFormat::FullWidthSelection, true);
         marks << mark;
     }
@@ -197,10 +198,21 @@ bool ProcSimEdtFifo::eventFilter(QObject* watched, QEvent* event)
     return QPlainTextEdit::eventFilter(watched, event);
 }
 
+void ProcSimEdtFifo::changeEvent(QEvent* event)
+{
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    QList<QTextEdit::ExtraSelection> marks = extraSelections();
+    for (QTextEdit::ExtraSelection& mark : marks)
+        mark.format.setBackground(Colors::of(Colors::eHover));
+    setExtraSelections(marks);
+}
+
 void ProcSimEdtFifo::paintMargin()
 {
     QPainter painter(m_margin);
-    painter.fillRect(m_margin->rect(), QColor(0xf3f4f6));
+    painter.fillRect(m_margin->rect(), Colors::of(Colors::eGround));
     const QTextBlock block = document()->findBlockByNumber(m_pointer);
     if (!block.isValid() || !block.isVisible())
         return;
@@ -208,7 +220,7 @@ void ProcSimEdtFifo::paintMargin()
     const qreal middle = line.center().y();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0x204398));
+    painter.setBrush(Colors::of(Colors::eAccent));
     painter.drawPolygon(QPolygonF({{4, middle - 4}, {10, middle}, {4, middle + 4}}));
 }
 

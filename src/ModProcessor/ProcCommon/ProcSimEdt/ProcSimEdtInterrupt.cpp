@@ -1,5 +1,7 @@
 #include "ProcSimEdtInterrupt.h"
 
+#include "Colors.h"
+
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -40,15 +42,15 @@ QColor ProcSimEdtInterrupt::color(eInt_t state)
 {
     switch (state) {
     case eIntEnabled:
-        return Qt::green;
+        return Colors::of(Colors::eInterruptEnabled);
     case eIntPending:
-        return Qt::darkGreen;
+        return Colors::of(Colors::eInterruptPending);
     case eIntService:
-        return Qt::darkRed;
+        return Colors::of(Colors::eInterruptService);
     case eIntDisabled:
         break;
     }
-    return Qt::darkGray;
+    return Colors::of(Colors::eInterruptDisabled);
 }
 
 QSize ProcSimEdtInterrupt::sizeHint() const
@@ -97,6 +99,13 @@ void ProcSimEdtInterrupt::keyPressEvent(QKeyEvent* event)
         QLabel::keyPressEvent(event);
 }
 
+void ProcSimEdtInterrupt::changeEvent(QEvent* event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        showState();
+}
+
 void ProcSimEdtInterrupt::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
@@ -106,7 +115,7 @@ void ProcSimEdtInterrupt::paintEvent(QPaintEvent* event)
                      QLatin1String(states[m_state].letter));
     if (!hasFocus())
         return;
-    painter.setPen(QColor(0x204398));
+    painter.setPen(Colors::of(Colors::eAccent));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 

@@ -1,5 +1,6 @@
 #include "ProcSimMemModel.h"
 
+#include "Colors.h"
 #include "ProcSimIOMem.h"
 
 #include <QColor>
@@ -61,7 +62,7 @@ QVariant ProcSimMemModel::data(const QModelIndex& index, int role) const
     case Qt::TextAlignmentRole:
         return int(Qt::AlignRight | Qt::AlignVCenter);
     case Qt::BackgroundRole:
-        return m_device->isWritten(index.row()) ? QVariant(QColor(0xfbdedb)) : QVariant();
+        return m_device->isWritten(index.row()) ? QVariant(Colors::of(Colors::eWritten)) : QVariant();
     case Qt::ToolTipRole:
         return tr("Value");
     default:
@@ -96,7 +97,7 @@ QVariant ProcSimMemModel::headerData(int section, Qt::Orientation orientation, i
     if (role == Qt::DecorationRole) {
         // Rows without the mark have an empty pixmap of the same size, so that no header moves.
         QPixmap mark(5, 5);
-        mark.fill(section == m_touchedRow ? QColor(Qt::red) : QColor(Qt::transparent));
+        mark.fill(section == m_touchedRow ? Colors::of(Colors::eChanged) : QColor(0, 0, 0, 0));
         return mark;
     }
     return {};

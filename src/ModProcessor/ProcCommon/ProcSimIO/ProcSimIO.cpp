@@ -22,11 +22,6 @@ namespace {
 
 constexpr int minCardWidth = 230; ///< pixels; the empty dock is as wide as one with devices
 
-/// The cards and the hint. The fields in them look as everywhere.
-const char* const cardStyle = "QFrame#procSimIODevice { background-color: #ffffff; border: 1px solid #d5dae1; }"
-                              "QLabel#procSimIOTitle, QLabel#procSimIOAccess, QLabel#procSimIOHint { color: #52606d; }"
-                              "QLabel#procSimIOHint { padding: 8px; }";
-
 } // namespace
 
 ProcSimIO::ProcSimIO(QWidget* parent)
@@ -116,7 +111,6 @@ void ProcSimIO::addColumn(QVBoxLayout* layout)
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_column = new QWidget;
     m_column->setObjectName(QStringLiteral("procSimIOColumn"));
-    m_column->setStyleSheet(QLatin1String(cardStyle));
     m_columnLayout = new QVBoxLayout(m_column);
     m_columnLayout->setContentsMargins(0, 0, 0, 0);
     m_columnLayout->setSpacing(8);

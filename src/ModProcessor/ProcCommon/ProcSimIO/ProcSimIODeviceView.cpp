@@ -13,7 +13,7 @@
 
 namespace nsProc {
 
-ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, const QColor& color, const QString& type)
+ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, Colors::eRole_t color, const QString& type)
     : m_device(device)
     , m_addrRow(new QHBoxLayout)
     , m_addrLine(new ProcSimIOAddrLine(this))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Colors.h"
+
 #include <QFrame>
 
 class QHBoxLayout;
@@ -20,7 +22,7 @@ class ProcSimIODeviceView : public QFrame
 
 public:
     /// @param type kind of the device, for the strip
-    ProcSimIODeviceView(ProcSimIODevice* device, const QColor& color, const QString& type);
+    ProcSimIODeviceView(ProcSimIODevice* device, Colors::eRole_t color, const QString& type);
     ~ProcSimIODeviceView() override;
 
     /// Shows what has changed in the device since the last call; fast if nothing has changed.

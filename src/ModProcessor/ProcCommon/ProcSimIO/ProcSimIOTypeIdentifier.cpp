@@ -4,7 +4,7 @@
 
 namespace nsProc {
 
-ProcSimIOTypeIdentifier::ProcSimIOTypeIdentifier(const QColor& color, const QString& type, QWidget* parent)
+ProcSimIOTypeIdentifier::ProcSimIOTypeIdentifier(Colors::eRole_t color, const QString& type, QWidget* parent)
     : QWidget(parent)
     , m_color(color)
 {
@@ -15,7 +15,7 @@ ProcSimIOTypeIdentifier::ProcSimIOTypeIdentifier(const QColor& color, const QStr
 
 void ProcSimIOTypeIdentifier::paintEvent(QPaintEvent*)
 {
-    QPainter(this).fillRect(rect(), m_color);
+    QPainter(this).fillRect(rect(), Colors::of(m_color));
 }
 
 } // namespace nsProc

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QColor>
+#include "Colors.h"
+
 #include <QWidget>
 
 namespace nsProc {
@@ -12,13 +13,13 @@ class ProcSimIOTypeIdentifier : public QWidget
 
 public:
     /// @param type kind of the device for the tool tip
-    ProcSimIOTypeIdentifier(const QColor& color, const QString& type, QWidget* parent = nullptr);
+    ProcSimIOTypeIdentifier(Colors::eRole_t color, const QString& type, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QColor m_color;
+    Colors::eRole_t m_color;
 };
 
 } // namespace nsProc

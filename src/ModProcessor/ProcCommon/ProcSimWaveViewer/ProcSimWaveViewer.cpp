@@ -1,5 +1,6 @@
 #include "ProcSimWaveViewer.h"
 
+#include "DialogParent.h"
 #include "HelpRef.h"
 #include "ProcSimVcd.h"
 #include "ProcSimWaveTree.h"
@@ -517,7 +518,7 @@ void ProcSimWaveViewer::save()
 {
     // The dialog handles events: the simulator may be deleted while it is open, and this viewer with it.
     const QPointer<ProcSimWaveViewer> self(this);
-    QFileDialog dialog(QApplication::activeWindow(), tr("Save waves"), m_lastPath);
+    QFileDialog dialog(DialogParent::get(), tr("Save waves"), m_lastPath);
     dialog.setObjectName(QStringLiteral("procSimWaveSaveDialog"));
     HelpRef::set(&dialog, QStringLiteral("pageId://simulatorWaves"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -534,7 +535,7 @@ void ProcSimWaveViewer::save()
         m_lastPath = path;
         say(tr("Saved as \"%1\".").arg(QFileInfo(path).fileName()));
     } else {
-        QMessageBox::warning(QApplication::activeWindow(), tr("Save waves"),
+        QMessageBox::warning(DialogParent::get(), tr("Save waves"),
                              tr("The file \"%1\" cannot be written.\n%2").arg(path, failure));
     }
 }

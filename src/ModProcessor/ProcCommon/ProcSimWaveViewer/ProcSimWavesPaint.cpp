@@ -1,5 +1,6 @@
 // How the waves are drawn.
 
+#include "Colors.h"
 #include "ProcSimWaveColumns.h"
 #include "ProcSimWavesWidget.h"
 
@@ -8,25 +9,6 @@
 namespace nsProc {
 
 namespace {
-
-const QColor colGround(0x10, 0x22, 0x34);
-const QColor colAfterEnd(0x0b, 0x19, 0x27);
-const QColor colCurrent(0x1b, 0x36, 0x52);
-const QColor colLine(0x1c, 0x34, 0x4b);
-const QColor colAxis(0x17, 0x30, 0x49);
-const QColor colAxisText(0xb4, 0xc4, 0xd6);
-const QColor colUnknown(0x5b, 0x72, 0x8a);
-const QColor colDense(0x0c, 0x8a, 0x1c);
-const QColor colHigh(0x0e, 0x3c, 0x33);
-const QColor colText(0xf0, 0xff, 0xf0);
-const QColor colPointer(0x8f, 0xa8, 0xc2);
-const QColor colMarker(0xff, 0xc8, 0x57);
-const QColor colFocus(0x7f, 0xa2, 0xe8);
-
-QColor waveColor()
-{
-    return QColor(QStringLiteral("#00ff00"));
-}
 
 constexpr int valueUnknown = -1;
 constexpr int valueDense = -2;
@@ -55,7 +37,7 @@ void ProcSimWavesWidget::paintEvent(QPaintEvent*)
     const int tickDistance = 24 + painter.fontMetrics().horizontalAdvance(QStringLiteral("000.000 us"));
     const QVector<ProcSimWaveTime::sTick_t> ticks = m_time.ticks(width(), tickDistance);
     if (!m_waves.isEmpty()) {
-        painter.setPen(colLine);
+        painter.setPen(Colors::of(Colors::eWaveLine));
         for (const ProcSimWaveTime::sTick_t& tick : ticks)
             painter.drawLine(tick.x, m_axisHeight, tick.x, height());
     }
@@ -71,16 +53,16 @@ void ProcSimWavesWidget::paintEvent(QPaintEvent*)
     if (!m_waves.isEmpty())
         paintMarks(&painter);
     if (hasFocus()) {
-        painter.setPen(colFocus);
+        painter.setPen(Colors::of(Colors::eWaveFocus));
         painter.drawRect(0, 0, width() - 1, height() - 1);
     }
 }
 
 void ProcSimWavesWidget::paintGround(QPainter* painter)
 {
-    painter->fillRect(rect(), colGround);
+    painter->fillRect(rect(), Colors::of(Colors::eWaveGround));
     if (m_data->isEmpty()) {
-        painter->setPen(colAxisText);
+        painter->setPen(Colors::of(Colors::eWaveAxisText));
         painter->setFont(font());
         painter->drawText(rect().adjusted(8, m_axisHeight, -8, 0), Qt::AlignCenter | Qt::TextWordWrap,
                           tr("Enter the address of a port and press \"Add\" to see its values against time."));
@@ -89,26 +71,26 @@ void ProcSimWavesWidget::paintGround(QPainter* painter)
     }
     for (const sWave_t* wave : m_waves) {
         if (wave == m_current)
-            painter->fillRect(0, wave->top, width(), wave->height, colCurrent);
+            painter->fillRect(0, wave->top, width(), wave->height, Colors::of(Colors::eWaveCurrent));
     }
     const int last = endColumn();
     if (last < width())
-        painter->fillRect(last, m_axisHeight, width() - last, height(), colAfterEnd);
-    painter->setPen(colLine);
+        painter->fillRect(last, m_axisHeight, width() - last, height(), Colors::of(Colors::eWaveAfterEnd));
+    painter->setPen(Colors::of(Colors::eWaveLine));
     for (const sWave_t* wave : m_waves)
         painter->drawLine(0, wave->top + wave->height - 1, width(), wave->top + wave->height - 1);
 }
 
 void ProcSimWavesWidget::paintAxis(QPainter* painter, const QVector<ProcSimWaveTime::sTick_t>& ticks)
 {
-    painter->fillRect(0, 0, width(), m_axisHeight, colAxis);
+    painter->fillRect(0, 0, width(), m_axisHeight, Colors::of(Colors::eWaveAxis));
     if (m_data->isEmpty())
         return;
     const int baseLine = (m_axisHeight + painter->fontMetrics().ascent() - painter->fontMetrics().descent()) / 2;
     for (const ProcSimWaveTime::sTick_t& tick : ticks) {
-        painter->setPen(colPointer);
+        painter->setPen(Colors::of(Colors::eWavePointer));
         painter->drawLine(tick.x, m_axisHeight - 5, tick.x, m_axisHeight - 1);
-        painter->setPen(colAxisText);
+        painter->setPen(Colors::of(Colors::eWaveAxisText));
         painter->drawText(tick.x + 4, baseLine, tick.text);
     }
 }
@@ -117,7 +99,7 @@ void ProcSimWavesWidget::paintAxis(QPainter* painter, const QVector<ProcSimWaveT
 void ProcSimWavesWidget::paintMarks(QPainter* painter)
 {
     if (m_pointer >= 0 && !m_dragging) {
-        painter->setPen(QPen(colPointer, 1, Qt::DotLine));
+        painter->setPen(QPen(Colors::of(Colors::eWavePointer), 1, Qt::DotLine));
         painter->drawLine(m_pointer, m_axisHeight, m_pointer, height());
     }
     if (m_marker < 0)
@@ -126,9 +108,9 @@ void ProcSimWavesWidget::paintMarks(QPainter* painter)
     if (x < 0 || x >= width())
         return;
     const int column = qRound(x);
-    painter->setPen(colMarker);
+    painter->setPen(Colors::of(Colors::eWaveMarker));
     painter->drawLine(column, m_axisHeight - 6, column, height());
-    painter->setBrush(colMarker);
+    painter->setBrush(Colors::of(Colors::eWaveMarker));
     const QPoint flag[] = {{column - 4, m_axisHeight - 8}, {column + 4, m_axisHeight - 8}, {column, m_axisHeight - 3}};
     painter->drawPolygon(flag, 3);
     painter->setBrush(Qt::NoBrush);
@@ -199,12 +181,13 @@ void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, c
         top + (bottom - top + 1 + painter->fontMetrics().ascent() - painter->fontMetrics().descent() + 1) / 2;
     QVector<QLine> lines;
     lines.reserve(segments.size() * 6);
-    painter->setPen(colUnknown);
+    painter->setPen(Colors::of(Colors::eWaveUnknown));
     for (const sSegment_t& segment : segments) {
         if (segment.value == valueUnknown) {
             painter->drawLine(segment.x0, middle, segment.x1, middle);
         } else if (segment.value == valueDense) {
-            painter->fillRect(segment.x0, top, segment.x1 - segment.x0, bottom - top + 1, colDense);
+            painter->fillRect(segment.x0, top, segment.x1 - segment.x0, bottom - top + 1,
+                              Colors::of(Colors::eWaveDense));
             lines << QLine(segment.x0, top, segment.x1 - 1, top) << QLine(segment.x0, bottom, segment.x1 - 1, bottom);
         } else {
             // A value is drawn as a band with pointed ends.
@@ -215,9 +198,9 @@ void ProcSimWavesWidget::paintSegments(QPainter* painter, const sWave_t* wave, c
             lines << QLine(x1 - 2, top, x1, middle) << QLine(x1 - 2, bottom, x1, middle);
         }
     }
-    painter->setPen(waveColor());
+    painter->setPen(Colors::of(Colors::eWave));
     painter->drawLines(lines);
-    painter->setPen(colText);
+    painter->setPen(Colors::of(Colors::eWaveText));
     for (const sSegment_t& segment : segments) {
         if (segment.value < 0)
             continue;
@@ -244,7 +227,7 @@ void ProcSimWavesWidget::paintWaveBit(QPainter* painter, sWave_t* wave)
             lines << QLine(start, top, start, bottom);
         } else if (edges > 1) {
             const int first = start - edges + 1;
-            painter->fillRect(first, top, edges, bottom - top, colDense);
+            painter->fillRect(first, top, edges, bottom - top, Colors::of(Colors::eWaveDense));
             lines << QLine(first, top, start, top) << QLine(first, bottom, start, bottom);
         }
         edges = 0;
@@ -252,12 +235,12 @@ void ProcSimWavesWidget::paintWaveBit(QPainter* painter, sWave_t* wave)
     const auto append = [&](int x) {
         appendEdges();
         if (level == valueUnknown) {
-            painter->setPen(colUnknown);
+            painter->setPen(Colors::of(Colors::eWaveUnknown));
             painter->drawLine(start, (top + bottom) / 2, x, (top + bottom) / 2);
         } else {
             const int y = level == 1 ? top : bottom;
             if (level == 1 && x > start)
-                painter->fillRect(start, top, x - start, bottom - top, colHigh);
+                painter->fillRect(start, top, x - start, bottom - top, Colors::of(Colors::eWaveHigh));
             lines << QLine(start, y, x, y);
         }
     };
@@ -272,7 +255,7 @@ void ProcSimWavesWidget::paintWaveBit(QPainter* painter, sWave_t* wave)
         level = next;
     }
     append(endColumn());
-    painter->setPen(waveColor());
+    painter->setPen(Colors::of(Colors::eWave));
     painter->drawLines(lines);
 }
 

@@ -1,5 +1,6 @@
 #include "ProcSimIOFifoView.h"
 
+#include "Colors.h"
 #include "HelpRef.h"
 #include "ProcSimEdtFifo.h"
 #include "ProcSimEdtNumeric.h"
@@ -14,7 +15,7 @@
 namespace nsProc {
 
 ProcSimIOFifoView::ProcSimIOFifoView(ProcSimIOFifo* device)
-    : ProcSimIODeviceView(device, QColor(0x5ea37c), tr("Fifo"))
+    : ProcSimIODeviceView(device, Colors::eKindFifo, tr("Fifo"))
     , m_fifo(device)
     , m_access(new QLabel(this))
     , m_lastValue(new ProcSimEdtNumeric(this))

@@ -1,5 +1,6 @@
 #include "ProcSimIOMemView.h"
 
+#include "Colors.h"
 #include "HelpRef.h"
 #include "ProcSimEdtMemArray.h"
 #include "ProcSimEdtNumeric.h"
@@ -17,7 +18,7 @@
 namespace nsProc {
 
 ProcSimIOMemView::ProcSimIOMemView(ProcSimIOMem* device)
-    : ProcSimIODeviceView(device, QColor(0xc08a4e), tr("Memory"))
+    : ProcSimIODeviceView(device, Colors::eKindMemory, tr("Memory"))
     , m_mem(device)
     , m_access(new QLabel(this))
     , m_lastAddr(new ProcSimEdtNumeric(this))

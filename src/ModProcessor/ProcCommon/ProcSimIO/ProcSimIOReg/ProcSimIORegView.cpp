@@ -1,5 +1,6 @@
 #include "ProcSimIORegView.h"
 
+#include "Colors.h"
 #include "HelpRef.h"
 #include "ProcSimEdtBitField.h"
 #include "ProcSimEdtNumeric.h"
@@ -11,7 +12,7 @@
 namespace nsProc {
 
 ProcSimIORegView::ProcSimIORegView(ProcSimIOReg8Bit* device)
-    : ProcSimIODeviceView(device, QColor(0x5b84c4), tr("Register"))
+    : ProcSimIODeviceView(device, Colors::eKindRegister, tr("Register"))
     , m_reg(device)
     , m_value(new ProcSimEdtNumeric(this))
     , m_bits(new ProcSimEdtBitField(8, this))

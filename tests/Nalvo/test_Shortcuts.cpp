@@ -1,0 +1,269 @@
+// The keys of the commands: found, changed, kept, reset, by real keys in the real window.
+
+#include "MainWindowFixture.h"
+#include "ModalAnswers.h"
+
+#include "ModConfigHookIf.h"
+
+#include <QAction>
+#include <QHelpEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QToolBar>
+#include <QToolButton>
+#include <QToolTip>
+#include <QTreeWidget>
+
+namespace {
+
+class ShortcutsInWindow : public MainWindowFixture
+{
+protected:
+    ShortcutsInWindow() { makeWindow(); }
+
+    QAction* command(const QString& menu, const QString& text) const
+    {
+        for (QAction* entry : window->menuBar()->actions()) {
+            if (entry->text() != menu)
+                continue;
+            for (QAction* action : entry->menu()->actions()) {
+                if (action->text() == text)
+                    return action;
+            }
+        }
+        ADD_FAILURE() << "no command " << qPrintable(text);
+        return nullptr;
+    }
+    void openPage() { module<ModConfigHookIf>()->openDialog(QStringLiteral("All shortcuts")); }
+    template <class Widget>
+    Widget* onPage(const char* name) const
+    {
+        return window->findChild<QWidget*>("configDialog")->findChild<Widget*>(name);
+    }
+    /// Types the name into the search, and the keys into the field.
+    void assign(const QString& name, Qt::Key key, Qt::KeyboardModifiers modifiers)
+    {
+        auto* search = onPage<QLineEdit>("shortcutSearch");
+        search->setFocus();
+        search->clear();
+        QTest::keyClicks(search, name);
+        auto* list = onPage<QTreeWidget>("shortcutList");
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            if (!list->topLevelItem(row)->isHidden()) {
+                QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
+                                  list->visualItemRect(list->topLevelItem(row)).center());
+                break;
+            }
+        }
+        auto* keys = onPage<QLineEdit>("shortcutKeys");
+        keys->setFocus();
+        QTest::keyClick(keys, key, modifiers);
+    }
+    void press(const QString& text) const
+    {
+        for (QPushButton* button : window->findChild<QWidget*>("configDialog")->findChildren<QPushButton*>()) {
+            if (button->text() == text && button->isVisible())
+                return QTest::mouseClick(button, Qt::LeftButton);
+        }
+        ADD_FAILURE() << "no button " << qPrintable(text);
+    }
+    bool isOpen() const { return window->findChild<QWidget*>("configDialog") != nullptr; }
+    bool waitForClose() const
+    {
+        return QTest::qWaitFor([this] { return !isOpen(); }, 60000);
+    }
+};
+
+} // namespace
+
+TEST_F(ShortcutsInWindow, ChangedKeysWorkAndStay)
+{
+    QAction* open = command("File", "Open...");
+    ASSERT_NE(open, nullptr);
+    const QList<QKeySequence> standard = open->shortcuts();
+    ASSERT_FALSE(standard.isEmpty());
+    openPage();
+    assign("File > Open", Qt::Key_O, Qt::ControlModifier | Qt::AltModifier);
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(), "");
+    screenshot("config-shortcuts");
+    press("Apply and close");
+    EXPECT_EQ(open->shortcuts(), QList<QKeySequence>{QKeySequence("Ctrl+Alt+O")});
+    EXPECT_TRUE(readSetting("ModAction/shortcuts").contains("File/Open=Ctrl+Alt+O"));
+    ASSERT_TRUE(closeWindow());
+
+    makeWindow();
+    open = command("File", "Open...");
+    EXPECT_EQ(open->shortcuts(), QList<QKeySequence>{QKeySequence("Ctrl+Alt+O")});
+    openPage();
+    assign("File > Open", Qt::Key_Backspace, Qt::NoModifier);
+    press("Reset");
+    press("Apply and close");
+    EXPECT_EQ(open->shortcuts(), standard);
+    EXPECT_EQ(readSetting("ModAction/shortcuts"), "");
+}
+
+TEST_F(ShortcutsInWindow, ResetAllAndThePagesDefaultGiveAllBack)
+{
+    QAction* open = command("File", "Open...");
+    const QList<QKeySequence> standard = open->shortcuts();
+    for (const char* button : {"Reset all", "Set page default values"}) {
+        openPage();
+        assign("File > Open", Qt::Key_F12, Qt::NoModifier);
+        press("Apply and close");
+        EXPECT_EQ(open->shortcuts(), QList<QKeySequence>{QKeySequence("F12")});
+        ASSERT_TRUE(waitForClose());
+        openPage();
+        press(button);
+        press("Apply and close");
+        EXPECT_EQ(open->shortcuts(), standard) << button;
+        ASSERT_TRUE(waitForClose());
+    }
+}
+
+TEST_F(ShortcutsInWindow, KeysOfAnotherCommandAreToldAndNotAccepted)
+{
+    QAction* newFile = command("File", "New...");
+    QAction* open = command("File", "Open...");
+    ASSERT_TRUE(newFile->shortcuts().contains(QKeySequence("Ctrl+N")));
+    openPage();
+    assign("File > Open", Qt::Key_N, Qt::ControlModifier);
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(), "These keys belong to \"File > New\", too.");
+    screenshot("config-shortcuts-conflict");
+    press("Apply and close");
+    ASSERT_TRUE(isOpen());
+    EXPECT_TRUE(messageTexts().contains("Invalid configuration."));
+    EXPECT_FALSE(open->shortcuts().contains(QKeySequence("Ctrl+N")));
+    press("Take it from there");
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(), "");
+    press("Apply and close");
+    EXPECT_EQ(open->shortcuts(), QList<QKeySequence>{QKeySequence("Ctrl+N")});
+    EXPECT_FALSE(newFile->shortcuts().contains(QKeySequence("Ctrl+N")));
+}
+
+TEST_F(ShortcutsInWindow, TheKeysOfAMenuAreToldAndNotAccepted)
+{
+    openPage();
+    assign("File > Open", Qt::Key_F, Qt::AltModifier);
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(), "These keys open the menu \"File\".");
+    EXPECT_FALSE(onPage<QPushButton>("shortcutTake")->isEnabled());
+    press("Apply and close");
+    EXPECT_TRUE(isOpen());
+}
+
+TEST_F(ShortcutsInWindow, KeysThatATextNeedsAreNotTaken)
+{
+    openPage();
+    assign("File > Open", Qt::Key_A, Qt::NoModifier);
+    const QString before = onPage<QLineEdit>("shortcutKeys")->text();
+    QTest::keyClick(onPage<QLineEdit>("shortcutKeys"), Qt::Key_B, Qt::ShiftModifier);
+    QTest::keyClick(onPage<QLineEdit>("shortcutKeys"), Qt::Key_Control);
+    EXPECT_EQ(onPage<QLineEdit>("shortcutKeys")->text(), before);
+    EXPECT_FALSE(before.isEmpty());
+}
+
+TEST_F(ShortcutsInWindow, TheSearchFindsWordsAndKeys)
+{
+    openPage();
+    auto* list = onPage<QTreeWidget>("shortcutList");
+    const auto shown = [list] {
+        QStringList result;
+        for (int row = 0; row < list->topLevelItemCount(); ++row) {
+            if (!list->topLevelItem(row)->isHidden())
+                result.append(list->topLevelItem(row)->text(1));
+        }
+        return result;
+    };
+    EXPECT_GT(shown().size(), 20);
+    auto* search = onPage<QLineEdit>("shortcutSearch");
+    search->setFocus();
+    QTest::keyClicks(search, "ctrl+n");
+    EXPECT_TRUE(shown().contains("New"));
+    EXPECT_FALSE(shown().contains("Open"));
+    search->clear();
+    QTest::keyClicks(search, "no such command");
+    EXPECT_TRUE(shown().isEmpty());
+}
+
+TEST_F(ShortcutsInWindow, BrokenEntriesOfTheSettingsHarmNothing)
+{
+    ASSERT_TRUE(closeWindow());
+    writeSetting("ModAction/shortcuts", "=Ctrl+A:File/Open...=:Nothing:File/New=NoKey:File/Gone=Ctrl+K");
+    makeWindow();
+    EXPECT_NE(command("File", "Open..."), nullptr);
+    openPage();
+    module<ModConfigHookIf>()->closeDialog(true);
+    EXPECT_TRUE(closeWindow());
+}
+
+TEST_F(ShortcutsInWindow, TheToolTipOfAButtonNamesTheKeys)
+{
+    int seen = 0;
+    for (QToolBar* bar : window->findChildren<QToolBar*>()) {
+        for (QToolButton* button : bar->findChildren<QToolButton*>()) {
+            const QAction* action = button->defaultAction();
+            if (action == nullptr || action->shortcut().isEmpty())
+                continue;
+            QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), button->mapToGlobal(QPoint(2, 2)));
+            QApplication::sendEvent(button, &event);
+            const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+            EXPECT_TRUE(QToolTip::text().contains(keys)) << qPrintable(action->text() + ": " + QToolTip::text());
+            EXPECT_TRUE(QToolTip::text().startsWith(action->toolTip())) << qPrintable(action->text());
+            ++seen;
+        }
+    }
+    QToolTip::hideText();
+    EXPECT_GT(seen, 8);
+}
+
+TEST_F(ShortcutsInWindow, EscClosesTheSettingsAtOnceWhereNothingWasChanged)
+{
+    ModalAnswers answers({});
+    openPage();
+    QTest::keyClick(window->findChild<QWidget*>("configList"), Qt::Key_Escape);
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(answers.seen(), 0);
+}
+
+TEST_F(ShortcutsInWindow, EscAsksBeforeItDropsAChange)
+{
+    module<ModConfigHookIf>()->openDialog("Editor");
+    auto* indent = onPage<QSpinBox>("tabIndent");
+    const int before = indent->value();
+    indent->setFocus();
+    QTest::keyClick(indent, Qt::Key_Up);
+    {
+        ModalAnswers answers({[](QDialog* box) { QTest::keyClick(box, Qt::Key_Escape); }});
+        QTest::keyClick(indent, Qt::Key_Escape);
+        EXPECT_EQ(answers.seen(), 1);
+    }
+    ASSERT_TRUE(isOpen());
+    EXPECT_EQ(indent->value(), before + 1) << "nothing is lost";
+    {
+        ModalAnswers answers({[](QDialog* box) {
+            for (QPushButton* button : box->findChildren<QPushButton*>()) {
+                if (button->text().contains("Discard"))
+                    return QTest::mouseClick(button, Qt::LeftButton);
+            }
+        }});
+        QTest::keyClick(indent, Qt::Key_Escape);
+        EXPECT_EQ(answers.seen(), 1);
+    }
+    EXPECT_TRUE(waitForClose());
+    module<ModConfigHookIf>()->openDialog("Editor");
+    EXPECT_EQ(onPage<QSpinBox>("tabIndent")->value(), before);
+}
+
+TEST_F(ShortcutsInWindow, TheSettingsMayCloseWhileEscAsks)
+{
+    module<ModConfigHookIf>()->openDialog("Editor");
+    auto* indent = onPage<QSpinBox>("tabIndent");
+    indent->setFocus();
+    QTest::keyClick(indent, Qt::Key_Up);
+    ModalAnswers answers({[this](QDialog*) { module<ModConfigHookIf>()->closeDialog(false); }});
+    QTest::keyClick(indent, Qt::Key_Escape);
+    EXPECT_TRUE(waitForClose());
+}
