@@ -35,10 +35,10 @@ const sFilter_t filters[] = {
     {"pBlazIDE", "pblazide", {"        LOAD s1, $1F ; load", "        JUMP NZ, loop", "", "; a comment that says why"}},
     {"Mico8 (vendor's assembler)",
      "mico8_vendor",
-     {"        movi r1, 0x1F ; load", "        bnz loop", "", "# a comment that says why"}},
+     {"        movi r1, 0x1F ; load", "        bnz loop", "", "; a comment that says why"}},
     {"Mico8 (GNU assembler)",
      "mico8_gnu",
-     {"        movi r1, 0x1F # load", "        bnz loop", "", "# a comment that says why"}},
+     {"        movi r1, 0x1F ; load", "        bnz loop", "", "; a comment that says why"}},
 };
 
 struct Figures

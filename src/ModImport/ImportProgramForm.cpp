@@ -2,12 +2,10 @@
 
 #include "ImportFolderList.h"
 
-#include "ForeignDialect.h"
 #include "MyFieldTitle.h"
 #include "MyFileSelectOpen.h"
 #include "MyFolderSelect.h"
 #include "MyPathEdit.h"
-#include "ProcTable.h"
 #include "ProgramJob.h"
 #include "RescueJob.h"
 
@@ -22,7 +20,6 @@
 
 namespace nsModImport {
 
-using nsImport::ForeignDialect;
 using nsImport::ProgramJob;
 using nsImport::RescueJob;
 
@@ -92,10 +89,8 @@ QWidget* ImportProgramForm::makeSourcesTab()
     m_dialect = new QComboBox(tab);
     m_dialect->setObjectName(QStringLiteral("importProgramDialect"));
     m_dialect->addItem(tr("Told by the source"), QString());
-    for (int i = 0; i < ForeignDialect::eDialectCount; ++i) {
-        const ForeignDialect& dialect = ForeignDialect::of(ForeignDialect::eDialect_t(i));
-        m_dialect->addItem(QLatin1String(dialect.title), QLatin1String(dialect.key));
-    }
+    for (const ProgramJob::Dialect& dialect : ProgramJob::dialects())
+        m_dialect->addItem(dialect.title, dialect.key);
     m_folders = new ImportFolderList(tab);
     m_reference = new MyFileSelectOpen(tab);
     m_reference->setObjectName(QStringLiteral("importProgramReference"));
@@ -128,7 +123,7 @@ QWidget* ImportProgramForm::makeImageTab()
     m_processor = new QComboBox(tab);
     m_processor->setObjectName(QStringLiteral("importProgramProcessor"));
     for (const QString& key : RescueJob::processorKeys())
-        m_processor->addItem(QLatin1String(RescueJob::processorOf(key)->name), key);
+        m_processor->addItem(RescueJob::processorName(key), key);
     m_imageTarget.select = makeTarget(tab, QStringLiteral("importProgramImageFolder"));
 
     addField(grid, tr("&Memory image:"), m_image,
@@ -240,7 +235,7 @@ std::shared_ptr<nsImport::ImportJob> ImportProgramForm::job() const
     }
     ProgramJob::Order order;
     order.source = config.source;
-    order.dialect = ForeignDialect::ofKey(config.dialect);
+    order.dialect = ProgramJob::dialectOf(config.dialect);
     order.folders = config.folders;
     order.reference = config.reference;
     order.folder = QFileInfo(config.source).absoluteDir().absoluteFilePath(config.folder);

@@ -1,6 +1,5 @@
 #include "ImportProgramReport.h"
 
-#include "ForeignDialect.h"
 #include "ProgramJob.h"
 
 #include <QDir>
@@ -47,11 +46,6 @@ QIcon iconOf(ModMsgHookIf::eMsgType_t grade)
 QString words(int count)
 {
     return count == 1 ? ImportProgramReport::tr("1 word") : ImportProgramReport::tr("%1 words").arg(count);
-}
-
-QString lines(int count)
-{
-    return count == 1 ? ImportProgramReport::tr("1 line") : ImportProgramReport::tr("%1 lines").arg(count);
 }
 
 } // namespace
@@ -168,7 +162,9 @@ QString ImportProgramReport::headlineOf(const ImportJob& job, ModMsgHookIf::eMsg
     if (!job.isWritten())
         return tr("Nothing was written.");
     if (job.leftCount() > 0)
-        return tr("%1 left to do: the assembler stops at each of them.").arg(lines(job.leftCount()));
+        return job.leftCount() == 1
+                   ? tr("1 line left to do: the assembler stops there.")
+                   : tr("%1 lines left to do: the assembler stops at each of them.").arg(job.leftCount());
     if (job.isCompared()) {
         const ImageProofResult& proof = job.proof();
         *grade = proof.equal ? ModMsgHookIf::eMsgInfo : ModMsgHookIf::eMsgError;
@@ -183,11 +179,11 @@ QString ImportProgramReport::detailsOf(const ImportJob& job)
 {
     QStringList parts;
     if (const auto* program = dynamic_cast<const ProgramJob*>(&job); program != nullptr && job.hasResult()) {
-        const int files = program->import().filesRead().size();
+        const int files = program->fileCount();
         parts.append(tr("%1 from %2 (%3).")
                          .arg(words(job.wordCount()), files == 1 ? tr("1 file") : tr("%1 files").arg(files),
-                              QLatin1String(program->import().dialect().title)));
-        const int renamed = program->import().messages().count(nsImport::infoImpRenamed);
+                              program->dialectTitle()));
+        const int renamed = program->renamedCount();
         if (renamed > 0)
             parts.append(renamed == 1 ? tr("1 name was changed.") : tr("%1 names were changed.").arg(renamed));
     }

@@ -282,7 +282,7 @@ TEST_F(ImportProgramInWindow, differencesAndMessagesLeadToTheSource)
     enter("importProgramReference", QString());
     enter("importProgramFolder", projectDir() + "/other");
     convert();
-    EXPECT_EQ(report()->headline(), "1 line left to do: the assembler stops at each of them.");
+    EXPECT_EQ(report()->headline(), "1 line left to do: the assembler stops there.");
     QTreeWidgetItem* message = list("importMessages")->topLevelItem(0);
     EXPECT_EQ(message->text(0), "Unknown word: \"FROB\"");
     EXPECT_EQ(message->text(1), "p.psm");
@@ -507,7 +507,7 @@ TEST_F(ImportProgramInWindow, wordsThatAreNoInstructionSayWhy)
     convert();
     EXPECT_TRUE(messages().constFirst().contains("The Xilinx PicoBlaze 3 has no instruction with this word"))
         << qPrintable(messages().join('\n'));
-    EXPECT_EQ(report()->headline(), "1 line left to do: the assembler stops at each of them.");
+    EXPECT_EQ(report()->headline(), "1 line left to do: the assembler stops there.");
 }
 
 TEST_F(ImportProgramInWindow, whatWasEnteredIsKept)

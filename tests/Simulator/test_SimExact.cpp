@@ -348,7 +348,7 @@ TEST_F(SimExact, TheCallStackOfPicoBlaze3ComesRound)
     for (int step = 0; step < 1 + 2 * 30; ++step)
         press(Qt::Key_F11);
     ASSERT_EQ(sim()->callStack()->count(), 31);
-    EXPECT_EQ(sim()->callStack()->items().first().pc, 0);
+    EXPECT_EQ(sim()->callStack()->items().begin()->pc, 0);
     // One more: the call from 000 is lost, and all that are left are calls from 003.
     press(Qt::Key_F11);
     press(Qt::Key_F11);

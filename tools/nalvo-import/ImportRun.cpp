@@ -2,7 +2,7 @@
 
 #include "BatchOutput.h"
 
-#include "ForeignDialect.h"
+#include "ForeignImport.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

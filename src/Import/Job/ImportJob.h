@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ImageProof.h"
+#include "ImageProofResult.h"
 #include "ImportFolder.h"
 #include "ImportMsg.h"
 #include "ImportStep.h"

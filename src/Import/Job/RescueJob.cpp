@@ -1,6 +1,7 @@
 #include "RescueJob.h"
 
 #include "ImportProject.h"
+#include "Rescue.h"
 
 #include "ProcTables.h"
 
@@ -46,14 +47,23 @@ const nsProc::ProcTable* RescueJob::processorOf(const QString& key)
     return nullptr;
 }
 
+QString RescueJob::processorName(const QString& key)
+{
+    const nsProc::ProcTable* table = processorOf(key);
+    return table != nullptr ? QString::fromLatin1(table->name) : QString();
+}
+
 RescueJob::RescueJob(const QString& image, const nsProc::ProcTable& processor, const QString& folder)
     : ImportJob(folder)
     , m_image(image)
     , m_processor(processor)
+    , m_result(std::make_unique<RescueResult>())
 {
     if (m_folder.isEmpty())
         m_folder = RescueJob::name();
 }
+
+RescueJob::~RescueJob() = default;
 
 QString RescueJob::name() const
 {
@@ -68,22 +78,22 @@ void RescueJob::doConvert()
         return;
     RescueOptions options;
     options.name = QFileInfo(m_image).fileName();
-    m_result = Rescue(m_processor, options).run(image);
-    if (!m_result.ok)
-        report(errImpRescue, {m_image, m_result.error});
+    *m_result = Rescue(m_processor, options).run(image);
+    if (!m_result->ok)
+        report(errImpRescue, {m_image, m_result->error});
     reportInvalidWords();
-    m_notes += m_result.notes;
-    m_hasResult = m_result.ok;
-    m_leftCount = m_result.invalid.size();
+    m_notes += m_result->notes;
+    m_hasResult = m_result->ok;
+    m_leftCount = m_result->invalid.size();
     m_isWhole = m_hasResult && m_leftCount == 0;
     m_isProved = m_isWhole;
-    m_wordCount = m_result.wordCount;
+    m_wordCount = m_result->wordCount;
 }
 
 void RescueJob::reportInvalidWords()
 {
     ImportMessages messages;
-    for (const RescueInvalidWord& invalid : qAsConst(m_result.invalid)) {
+    for (const RescueInvalidWord& invalid : qAsConst(m_result->invalid)) {
         const QString flow = invalid.reachable ? tr("and the program may run into it") : tr("and nothing leads there");
         QString reason = invalid.reason;
         if (reason.endsWith(QLatin1Char('.')))
@@ -102,9 +112,9 @@ QVector<ImportFile> RescueJob::files() const
     const QString source = QStringLiteral("src/") + name() + QStringLiteral(".psm");
     project.sources.append(source);
     project.table = &m_processor;
-    project.settings = m_result.settings;
+    project.settings = m_result->settings;
     project.hexFile = QStringLiteral("output/") + name() + QStringLiteral(".hex");
-    return {{source, m_result.source}, {name() + QStringLiteral(".nalvo"), project.text()}};
+    return {{source, m_result->source}, {name() + QStringLiteral(".nalvo"), project.text()}};
 }
 
 QStringList RescueJob::originals() const
