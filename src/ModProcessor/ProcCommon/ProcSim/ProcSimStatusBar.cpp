@@ -75,12 +75,12 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     layout->addWidget(m_hold);
     connect(m_hold, &QCheckBox::toggled, this, &ProcSimStatusBar::interruptHeld);
     setExact(false);
-    layout->addWidget(new MyStatusBarTitle(tr("Value format:"), this));
+    addTitle(new MyStatusBarTitle(tr("Value format:"), this));
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
-    layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
+    addTitle(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
-    layout->addWidget(new QLabel(tr("clocks"), this));
-    layout->addWidget(new MyStatusBarTitle(tr("Time count:"), this));
+    addTitle(new QLabel(tr("clocks"), this));
+    addTitle(new MyStatusBarTitle(tr("Time count:"), this));
     m_time = addValue(QStringLiteral("procSimTime"), fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")));
     layout->addWidget(new QLabel(QString::fromLatin1(unit), this));
     HelpRef::setWhatsThis(this,
@@ -109,6 +109,31 @@ QLabel* ProcSimStatusBar::addValue(const QString& name, int width)
     label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     layout()->addWidget(label);
     return label;
+}
+
+void ProcSimStatusBar::addTitle(QWidget* title)
+{
+    layout()->addWidget(title);
+    m_titles.append(title);
+}
+
+/// The width with all titles, hidden or not, so that they come back when there is room for them.
+QSize ProcSimStatusBar::sizeHint() const
+{
+    QSize size = QWidget::sizeHint();
+    for (const QWidget* title : m_titles) {
+        if (title->isHidden())
+            size.rwidth() += title->sizeHint().width() + layout()->spacing();
+    }
+    return size;
+}
+
+void ProcSimStatusBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const bool narrow = width() < sizeHint().width();
+    for (QWidget* title : qAsConst(m_titles))
+        title->setVisible(!narrow);
 }
 
 void ProcSimStatusBar::addClkCntr(int clocks)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <memory>
@@ -32,6 +33,8 @@ public:
     void setExact(bool isExact);
     /// Shows what has changed in the clock.
     void refresh();
+    /// With all that a narrow window does without.
+    QSize sizeHint() const override;
 
 public slots:
     /// Sets the count to 0.
@@ -43,8 +46,12 @@ signals:
     /// The interrupt input is held up, or no longer.
     void interruptHeld(bool up);
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QLabel* addValue(const QString& name, int width);
+    void addTitle(QWidget* title);
 
     std::shared_ptr<ProcSimClock> m_clock;
     double m_clkFreq;
@@ -55,6 +62,7 @@ private:
     QLabel* m_base;
     QLabel* m_clocks;
     QLabel* m_time;
+    QList<QWidget*> m_titles; ///< what a narrow window does without
     qint64 m_shown = -1;
 };
 
