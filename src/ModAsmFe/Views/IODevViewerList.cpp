@@ -294,6 +294,8 @@ void IODevViewerList::changeEvent(QEvent* event)
     QWidget::changeEvent(event);
     if ((event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) && m_built)
         layoutElements();
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        arrangeLegend(width());
     if (event->type() == QEvent::PaletteChange)
         showColors();
 }

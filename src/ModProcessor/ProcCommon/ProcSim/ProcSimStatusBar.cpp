@@ -68,15 +68,14 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     m_exact->setObjectName(QStringLiteral("procSimExact"));
     m_exact->setToolTip(tr("The simulation does exactly what the core does"));
     layout->addWidget(m_exact);
-    m_baseTitle = new MyStatusBarTitle(tr("Value format:"), this);
-    layout->addWidget(m_baseTitle);
+    addTitle(new MyStatusBarTitle(tr("Value format:"), this));
     m_base = addValue(QStringLiteral("procSimBase"), fontMetrics().horizontalAdvance(QStringLiteral("HEX")) + 4);
     m_base->setToolTip(tr("Value format: base of the numbers in the panels"));
     setExact(false);
-    layout->addWidget(new MyStatusBarTitle(tr("Clock count:"), this));
+    addTitle(new MyStatusBarTitle(tr("Clock count:"), this));
     m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
-    layout->addWidget(new QLabel(tr("clocks"), this));
-    layout->addWidget(new MyStatusBarTitle(tr("Time count:"), this));
+    addTitle(new QLabel(tr("clocks"), this));
+    addTitle(new MyStatusBarTitle(tr("Time count:"), this));
     m_time = addValue(QStringLiteral("procSimTime"), fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")));
     layout->addWidget(new QLabel(QString::fromLatin1(unit), this));
     HelpRef::setWhatsThis(this,
@@ -107,6 +106,36 @@ QLabel* ProcSimStatusBar::addValue(const QString& name, int width)
     return label;
 }
 
+void ProcSimStatusBar::addTitle(QWidget* title)
+{
+    layout()->addWidget(title);
+    m_titles.append(title);
+}
+
+/// The width with all titles, hidden or not, so that they come back when there is room for them.
+QSize ProcSimStatusBar::sizeHint() const
+{
+    QSize size = QWidget::sizeHint();
+    for (const QWidget* title : m_titles) {
+        if (title->isHidden())
+            size.rwidth() += title->sizeHint().width() + layout()->spacing();
+    }
+    return size;
+}
+
+void ProcSimStatusBar::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    showTitles();
+}
+
+void ProcSimStatusBar::showTitles()
+{
+    const bool narrow = width() < sizeHint().width();
+    for (QWidget* title : qAsConst(m_titles))
+        title->setVisible(!narrow);
+}
+
 void ProcSimStatusBar::addClkCntr(int clocks)
 {
     m_clock->clocks += clocks;
@@ -125,8 +154,7 @@ void ProcSimStatusBar::updateValues()
 void ProcSimStatusBar::setExact(bool isExact)
 {
     m_exact->setVisible(isExact);
-    // A window of ordinary width has no room for both.
-    m_baseTitle->setVisible(!isExact);
+    showTitles();
 }
 
 void ProcSimStatusBar::setRunning(bool running)

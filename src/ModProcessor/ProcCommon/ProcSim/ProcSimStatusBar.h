@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QWidget>
 
 #include <memory>
@@ -27,10 +28,12 @@ public:
     void setBase(const QString& base);
     /// Shows whether a command that takes more than one instruction is in progress.
     void setRunning(bool running);
-    /// Shows that the simulation is exactly as the core, with a switch for its interrupt input.
+    /// Shows that the simulation is exactly as the core.
     void setExact(bool isExact);
     /// Shows what has changed in the clock.
     void refresh();
+    /// With all that a narrow window does without.
+    QSize sizeHint() const override;
 
 public slots:
     /// Sets the count to 0.
@@ -40,18 +43,23 @@ signals:
     /// The count has been set to 0.
     void cleared();
 
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
 private:
     QLabel* addValue(const QString& name, int width);
+    void addTitle(QWidget* title);
+    void showTitles();
 
     std::shared_ptr<ProcSimClock> m_clock;
     double m_clkFreq;
     double m_timeFactor;
     QLabel* m_state;
     QLabel* m_exact;
-    QWidget* m_baseTitle;
     QLabel* m_base;
     QLabel* m_clocks;
     QLabel* m_time;
+    QList<QWidget*> m_titles; ///< what a narrow window does without
     qint64 m_shown = -1;
 };
 
