@@ -70,6 +70,9 @@ void EditorConfigPage::addHighlighting(MyPageLayout* layout)
     layout->addSection(tr("Highlighting"));
     m_highlightSelectionEn = addCheck(layout, "highlightSelectionEn", tr("Highlght selection enable:"),
                                       tr("All places of the selected word are marked"));
+    m_reloadKeepsUndo =
+        addCheck(layout, "reloadKeepsUndo", tr("Reload keeps undo:"),
+                 tr("Reload becomes a step that can be undone; otherwise it forgets all steps and goes to the start"));
     m_cursorBgColor = addColor(layout, "cursorBgColor", tr("Cursor line background color:"));
     m_highlightBgColor = addColor(layout, "highlightBgColor", tr("Line highlighting background color:"));
 }
@@ -154,6 +157,7 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_textCompleterPrefixLength->setValue(config->textCompleterPrefixLength);
     m_textCompleterItemCount->setValue(config->textCompleterItemCount);
     m_highlightSelectionEn->setChecked(config->highlightSelectionEn);
+    m_reloadKeepsUndo->setChecked(config->reloadKeepsUndo);
     m_cursorBgColor->setColor(config->cursorBgColor);
     m_highlightBgColor->setColor(config->highlightBgColor);
     m_lineNumberEn->setChecked(config->lineNumberEn);
@@ -196,6 +200,7 @@ void EditorConfigPage::config(EditorConfig* config) const
     config->textCompleterPrefixLength = m_textCompleterPrefixLength->value();
     config->textCompleterItemCount = m_textCompleterItemCount->value();
     config->highlightSelectionEn = m_highlightSelectionEn->isChecked();
+    config->reloadKeepsUndo = m_reloadKeepsUndo->isChecked();
     config->cursorBgColor = m_cursorBgColor->color();
     config->highlightBgColor = m_highlightBgColor->color();
     config->lineNumberEn = m_lineNumberEn->isChecked();

@@ -38,11 +38,14 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
     m_mode = addPair(tr("Mode:"), tr("What typing does to the text behind the cursor, changed with the Insert key"),
                      "editorStatusBarMode");
     layout->addSpacing(8);
+    m_position = addPair(tr("Line:"), tr("Line and column of the cursor"), "editorStatusBarPosition");
+    layout->addSpacing(8);
     addFormat();
     layout->addStretch(1);
     // The widgets after it must not move when a value changes.
     reserve(m_fontSize, {tr("%1 pt").arg(100)});
     reserve(m_mode, {tr("Insert"), tr("Overwrite")});
+    reserve(m_position, {tr("%1, column %2").arg(99999).arg(999)});
     setOverwrite(false);
 }
 
@@ -113,6 +116,12 @@ void EditorStatusBar::clearFormat()
 {
     m_format->setText(QString());
     m_format->setEnabled(false);
+    m_position->clear();
+}
+
+void EditorStatusBar::setPosition(int line, int column)
+{
+    m_position->setText(tr("%1, column %2").arg(line + 1).arg(column + 1));
 }
 
 void EditorStatusBar::setFontSize(int size)

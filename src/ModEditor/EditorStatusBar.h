@@ -22,6 +22,8 @@ public:
     /// @param size points
     void setFontSize(int size);
     void setOverwrite(bool overwrite);
+    /// Place of the cursor. @param line, @param column counted from 0
+    void setPosition(int line, int column);
     /// @param changeable whether line ends and mark can be chosen
     void setFormat(const DocumentFormat& format, bool changeable);
     /// There is no document.
@@ -41,6 +43,7 @@ private:
 
     QLabel* m_fontSize;
     QLabel* m_mode;
+    QLabel* m_position;
     QToolButton* m_format = nullptr;
     QActionGroup* m_lineEnds = nullptr;
     QAction* m_mark = nullptr;

@@ -121,6 +121,7 @@ public:
     void prjAboutToClose() override;
     void prjSave() override;
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModMsgPluginIfUrlHndlr
     void handleUrl(QUrl url) override;
@@ -210,6 +211,7 @@ private:
     void configureEditorWidget(EditorWidget* widget);
     void configureEditorWidgets();
     void setActionState(EditorWidget* current);
+    void showCursorPosition(EditorWidget* widget);
     void updateActionState();
     void clearMessageFlag();
 

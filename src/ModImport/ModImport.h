@@ -51,9 +51,10 @@ public:
 
     // ModPrjPluginIf
     void prjOpen() override;
-    void prjOpened() override {}
+    void prjOpened() override;
     void prjSave() override {}
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModGuiPluginIf
     void removeWidgetRequest(QWidget* widget) override;
@@ -70,6 +71,7 @@ public slots:
 private:
     ImportActions* m_actions = nullptr;
     ImportWidget* m_widget = nullptr; ///< null while the page is closed
+    bool m_opensWithProject = false; ///< the user has asked for an import without a project: the next one gets the page
 };
 
 } // namespace nsModImport

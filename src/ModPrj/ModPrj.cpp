@@ -1,6 +1,7 @@
 #include "ModPrj.h"
 
 #include "PrjConfigPage.h"
+#include "PrjHome.h"
 #include "PrjMngrWidget.h"
 
 #include "ModActionHookIf.h"
@@ -11,6 +12,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 
 namespace nsModPrj {
@@ -24,6 +26,7 @@ ModPrj::ModPrj(QObject* parent)
 
 ModPrj::~ModPrj()
 {
+    delete m_home;
     delete m_page;
     delete m_prjMngr;
 }
@@ -101,6 +104,9 @@ bool ModPrj::openPrjInGroup(const QString& file)
     prjMngrClose();
     if (!isOpen())
         return false;
+    if (m_home != nullptr)
+        m_home->addRecent(m_project.path());
+    stepsChanged();
     updateCloseAction();
     if (m_page)
         m_page->setConfig(*this);
@@ -155,6 +161,7 @@ bool ModPrj::closePrj()
         m_page->setDefaultConfig();
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjClose(); });
     m_closing = false;
+    stepsChanged();
     info(tr("Close project: Done"));
     return true;
 }
@@ -303,6 +310,8 @@ void ModPrj::modInitIntermod()
 {
     if (modScriptHook != nullptr)
         modScriptHook->registerObject(this, QStringLiteral("project"));
+    if (modGuiHook != nullptr)
+        setupHome();
 }
 
 void ModPrj::modRun()
@@ -345,6 +354,12 @@ void ModPrj::modExit()
         prjMngrSetup();
         prjMngrSetMode(eModeOpen);
     }
+    if (modGuiHook != nullptr && m_home != nullptr) {
+        modGuiHook->setEmptyPage(nullptr);
+        modGuiHook->removeWidget(m_home->statusLink());
+    }
+    delete m_home;
+    m_home = nullptr;
     delete m_actions;
     m_actions = nullptr;
 }
@@ -363,6 +378,8 @@ nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(false);
+    if (m_home != nullptr)
+        m_home->setLocked(true);
     if (m_prjMngr)
         m_prjMngr->setTabsEnabled(false);
     if (modGuiHook == nullptr)
@@ -391,6 +408,8 @@ void ModPrj::configPagesClosed(bool)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(true);
+    if (m_home != nullptr)
+        m_home->setLocked(false);
     if (m_prjMngr)
         m_prjMngr->setTabsEnabled(true);
     updateCloseAction();
@@ -402,7 +421,10 @@ QList<QAction*> ModPrj::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
     if (m_actions == nullptr || actionClass != ModActionHookIf::eActionClassConfiguration)
         return {};
-    return m_actions->menuActions();
+    QList<QAction*> entries = m_actions->menuActions();
+    if (m_home != nullptr)
+        entries.append(m_home->recentMenu()->menuAction());
+    return entries;
 }
 
 QList<QAction*> ModPrj::toolBarActions(ModActionHookIf::eActionClass_t actionClass)

@@ -8,6 +8,7 @@
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
 #include "LineCommands.h"
+#include "PageProperties.h"
 #include "TextCompletion.h"
 #include "WordMarks.h"
 
@@ -144,6 +145,7 @@ void EditorWidget::setTextCompleterItemCount(int count)
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
+    setProperty(PageProperties::file, path);
     // They are breakpoints of another file now.
     if (!m_marks.simBreakpoints.lines().isEmpty())
         emit simBreakpointChanged();

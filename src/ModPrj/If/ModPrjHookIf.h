@@ -48,4 +48,9 @@ public:
     virtual QString prjTitle() = 0;
     virtual QString prjVersion() = 0;
     virtual QString prjComment() = 0;
+
+    /// Steps of a client have changed: all are asked again, soon.
+    virtual void stepsChanged() = 0;
+    /// Brings up the page that makes new projects.
+    virtual void showNewProject() = 0;
 };
