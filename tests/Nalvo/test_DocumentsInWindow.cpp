@@ -354,7 +354,7 @@ TEST_F(DocumentsInWindow, sourcesAreOrderedRemovedAndOpenedByKeys)
     showFiles();
     ASSERT_TRUE(files()->select(path("b.psm")));
     tree()->setFocus();
-    key(Qt::Key_Up, Qt::AltModifier);
+    key(Qt::Key_Up, Qt::ControlModifier);
     EXPECT_EQ(sources(), QStringList({"b.psm", "a.psm", "c.psm"}));
     EXPECT_EQ(files()->currentFile(), path("b.psm")) << "the line goes along";
     EXPECT_FALSE(panelButton("fileListUp")->isEnabled());

@@ -87,6 +87,10 @@ void FileTree::keyPressEvent(QKeyEvent* event)
         emit removeRequested();
         return;
     }
+    if (event->modifiers() == Qt::ControlModifier && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        emit stepRequested(event->key() == Qt::Key_Up ? -1 : 1);
+        return;
+    }
     QTreeWidget::keyPressEvent(event);
 }
 
@@ -98,13 +102,11 @@ FileListWidget::FileListWidget(QWidget* parent)
     , m_add(addButton("fileListAdd", tr("Add..."), tr("Adds sources to the project")))
     , m_remove(
           addButton("fileListRemove", tr("Remove"), tr("Takes the source out of the project; the file stays (Del)")))
-    , m_up(addButton("fileListUp", tr("Up"), tr("The assembler reads this source earlier (Alt+Up)")))
-    , m_down(addButton("fileListDown", tr("Down"), tr("The assembler reads this source later (Alt+Down)")))
+    , m_up(addButton("fileListUp", tr("Up"), tr("The assembler reads this source earlier (Ctrl+Up)")))
+    , m_down(addButton("fileListDown", tr("Down"), tr("The assembler reads this source later (Ctrl+Down)")))
 {
     setObjectName(QStringLiteral("fileList"));
     m_tree->setAccessibleName(tr("Files of the project"));
-    m_up->setShortcut(QKeySequence(QStringLiteral("Alt+Up")));
-    m_down->setShortcut(QKeySequence(QStringLiteral("Alt+Down")));
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap);
     for (QToolButton* button : {m_add, m_remove, m_up, m_down})
@@ -122,6 +124,7 @@ FileListWidget::FileListWidget(QWidget* parent)
             emit openRequested(file);
     });
     connect(m_tree, &FileTree::removeRequested, this, &FileListWidget::removeCurrent);
+    connect(m_tree, &FileTree::stepRequested, this, &FileListWidget::moveCurrent);
     connect(m_tree, &FileTree::moved, this, &FileListWidget::moveSource);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &FileListWidget::updateButtons);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &FileListWidget::showMenu);

@@ -23,6 +23,8 @@ signals:
     void moved(int row, int target);
     void openRequested(QTreeWidgetItem* item);
     void removeRequested();
+    /// The current source is to go up (-1) or down (1).
+    void stepRequested(int step);
 
 protected:
     void dropEvent(QDropEvent* event) override;
