@@ -341,8 +341,13 @@ QList<PrjStep> ModAsmFe::prjSteps()
     if (modPrjHook == nullptr || !modPrjHook->isValid() || m_actions == nullptr)
         return {};
     QList<PrjStep> steps;
-    const bool anyOutput =
-        std::any_of(std::begin(targets), std::end(targets), [](const TargetConfig& target) { return target.en; });
+    const auto isOn = [](const TargetFile& target) { return target.en; };
+    bool anyOutput = std::any_of(std::begin(targets), std::end(targets), isOn);
+    // The sources may set outputs, too.
+    if (isAssembled()) {
+        for (const IODev* dev : ioDevList()->devices())
+            anyOutput = anyOutput || std::any_of(std::begin(dev->targets), std::end(dev->targets), isOn);
+    }
     if (!anyOutput && modConfigHook != nullptr)
         steps.append({PrjStep::eOrderOutput, true, tr("Choose the output files"),
                       tr("Opens the settings of the assembler: hex, mem, VHDL, Verilog"),

@@ -53,25 +53,25 @@ void TabControls::showMenu(const QPoint& place)
     auto* menu = new QMenu(m_tabs);
     menu->setObjectName(QStringLiteral("tabMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    const auto add = [menu](const QString& text, bool enabled) {
+    // Later, when the menu has gone: what is chosen may ask the user.
+    const auto add = [this, menu](const QString& text, bool enabled, auto act) {
         QAction* action = menu->addAction(text);
         action->setEnabled(enabled);
-        return action;
+        connect(action, &QAction::triggered, this, act, Qt::QueuedConnection);
     };
-    connect(add(tr("&Close"), true), &QAction::triggered, this, [this, page] {
+    add(tr("&Close"), true, [this, page] {
         if (page)
             emit closeRequested(page);
     });
-    connect(add(tr("Close &others"), m_tabs->count() > 1), &QAction::triggered, this, [this, page] {
+    add(tr("Close &others"), m_tabs->count() > 1, [this, page] {
         if (page)
             closeAllBut(page);
     });
-    connect(add(tr("Close &all"), true), &QAction::triggered, this, [this] { closeAllBut(nullptr); });
+    add(tr("Close &all"), true, [this] { closeAllBut(nullptr); });
     menu->addSeparator();
-    connect(add(tr("Copy &path"), !path.isEmpty()), &QAction::triggered, this,
-            [path] { QApplication::clipboard()->setText(QDir::toNativeSeparators(path)); });
-    connect(add(tr("&Show in file list"), !path.isEmpty()), &QAction::triggered, this,
-            [this, path] { emit showFileRequested(path); });
+    add(tr("Copy &path"), !path.isEmpty(),
+        [path] { QApplication::clipboard()->setText(QDir::toNativeSeparators(path)); });
+    add(tr("&Show in file list"), !path.isEmpty(), [this, path] { emit showFileRequested(path); });
     menu->popup(m_tabs->tabBar()->mapToGlobal(place));
 }
 

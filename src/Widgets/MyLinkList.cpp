@@ -66,6 +66,12 @@ void MyLinkList::setSections(const QVector<sSection_t>& sections)
     m_layout->insertWidget(0, m_content);
     m_content->show();
     const QList<QAbstractButton*> buttons = m_content->findChildren<QAbstractButton*>();
+    // New lines stand where this list stands in the tab order.
+    QWidget* before = this;
+    for (QAbstractButton* button : buttons) {
+        setTabOrder(before, button);
+        before = button;
+    }
     if (focused >= 0 && !buttons.isEmpty())
         buttons.at(qMin(focused, buttons.size() - 1))->setFocus();
     updateGeometry();

@@ -4,6 +4,7 @@
 
 #include "MySectionTitle.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@ namespace {
 
 const int gap = 8;
 const int areaMinHeight = 72; ///< pixels
+const int layoutLevels = 6;   ///< from a card to the page
 
 } // namespace
 
@@ -93,10 +95,9 @@ void PrjMngrListWidget::showProject(const QString& prjFile)
             for (PrjMngrListElementWidget* element : qAsConst(m_elements)) {
                 if (element->prjFile() != prjFile)
                     continue;
-                for (QWidget* above = element->parentWidget(); above != nullptr; above = above->parentWidget()) {
-                    if (above->layout() != nullptr)
-                        above->layout()->activate();
-                }
+                // A layout that changes a size posts the request for the next one.
+                for (int level = 0; level < layoutLevels; ++level)
+                    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
                 for (QWidget* above = element->parentWidget(); above != nullptr; above = above->parentWidget()) {
                     if (auto* area = qobject_cast<QScrollArea*>(above))
                         area->ensureWidgetVisible(element, 0, gap);

@@ -68,6 +68,7 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     layout->addLayout(buttons, 4, 0, 1, 2, Qt::AlignLeft);
     layout->setRowStretch(5, 1);
     setFocusProxy(m_file);
+    setTabOrder(m_open, m_add);
 
     connect(m_file, &MyFileSelectSave::fileValidChanged, this, &PrjMngrNewWidget::checkFile);
     connect(m_title, &QLineEdit::textChanged, this, &PrjMngrNewWidget::checkTitle);

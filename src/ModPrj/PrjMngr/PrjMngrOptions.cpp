@@ -48,6 +48,8 @@ PrjMngrOptions::PrjMngrOptions(QWidget* parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     layout->setColumnStretch(2, 1);
+    // In line with the fields above.
+    layout->setColumnMinimumWidth(0, MyFieldTitle(tr("Project title:")).sizeHint().width());
     layout->addWidget(processorTitle, 0, 0);
     layout->addWidget(m_processor, 0, 1, 1, 2, Qt::AlignLeft);
     layout->addWidget(m_source, 1, 1, 1, 2);

@@ -8,6 +8,7 @@
 #include "MyButtonCancel.h"
 #include "MyPageTitle.h"
 
+#include <QAbstractButton>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
@@ -128,6 +129,14 @@ void PrjMngrWidget::setCurrentTab(int index)
 void PrjMngrWidget::setStartLinks(QWidget* links)
 {
     m_openLayout->insertWidget(0, links);
+    QList<QAbstractButton*> buttons = links->findChildren<QAbstractButton*>();
+    QWidget* before = m_tabs;
+    setTabOrder(before, links);
+    before = links;
+    for (QAbstractButton* button : qAsConst(buttons)) {
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 void PrjMngrWidget::setTabsEnabled(bool enabled)

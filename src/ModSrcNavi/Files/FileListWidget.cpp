@@ -257,14 +257,18 @@ void FileListWidget::showMenu(const QPoint& place)
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("fileListMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    menu->addAction(tr("&Open"), this, [this, file] { emit openRequested(file); })->setEnabled(!file.isEmpty());
-    menu->addAction(tr("Copy &path"), this,
-                    [file] { QApplication::clipboard()->setText(QDir::toNativeSeparators(file)); })
-        ->setEnabled(!file.isEmpty());
+    // Later, when the menu has gone: what is chosen may ask the user.
+    const auto add = [this, menu](const QString& text, bool enabled, auto act) {
+        QAction* action = menu->addAction(text);
+        action->setEnabled(enabled);
+        connect(action, &QAction::triggered, this, act, Qt::QueuedConnection);
+    };
+    add(tr("&Open"), !file.isEmpty(), [this, file] { emit openRequested(file); });
+    add(tr("Copy &path"), !file.isEmpty(),
+        [file] { QApplication::clipboard()->setText(QDir::toNativeSeparators(file)); });
     menu->addSeparator();
-    menu->addAction(tr("&Add sources..."), this, &FileListWidget::addRequested);
-    menu->addAction(tr("&Remove from the project"), this, [this, file] { emit removeRequested(file); })
-        ->setEnabled(isSource(m_tree->currentItem()));
+    add(tr("&Add sources..."), true, [this] { emit addRequested(); });
+    add(tr("&Remove from the project"), isSource(m_tree->currentItem()), [this, file] { emit removeRequested(file); });
     menu->popup(m_tree->viewport()->mapToGlobal(place));
 }
 
