@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabBar>
@@ -129,6 +130,17 @@ protected:
         list->scrollToItem(items.first());
         QTest::mouseClick(list->viewport(), Qt::LeftButton, Qt::NoModifier,
                           list->visualItemRect(items.first()).center());
+    }
+    /// The field behind "Addr:", the first on its card.
+    static QLineEdit* addrOf(const QWidget* device)
+    {
+        QLineEdit* first = nullptr;
+        for (QLineEdit* field : device->findChildren<QLineEdit*>("procSimEdtNumeric")) {
+            const auto place = [&](QWidget* widget) { return widget->mapTo(device->window(), QPoint(0, 0)).y(); };
+            if (first == nullptr || place(field) < place(first))
+                first = field;
+        }
+        return first;
     }
     /// The sources of a page, in their order.
     static QStringList sourcesOf(const char* page)
@@ -414,6 +426,83 @@ void Tutorials::firstOutput()
     QFile written(projectDir() + "/lamps.hex");
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_EQ(written.readAll().count('\n'), 1024);
+}
+
+TEST_F(Tutorials, AUartIsSimulatedByHand)
+{
+    ASSERT_NO_FATAL_FAILURE(makeProject("uart.nalvo", "UART"));
+    ASSERT_NO_FATAL_FAILURE(chooseProcessor());
+    choose("File > New...");
+    ASSERT_NO_FATAL_FAILURE(paste(sourcesOf("tutorialUart").at(0)));
+    ASSERT_NO_FATAL_FAILURE(saveAs("uart.psm"));
+    choose("Simulator > Enable/disable simulator");
+    ASSERT_NE(sim(), nullptr);
+    module<ModGuiHookIf>()->setCurrentWidget(sim()->ioWidget());
+    auto* kind = qobject_cast<QComboBox*>(part("procSimIODevType"));
+    ASSERT_NE(kind, nullptr);
+    const auto add = [&](const QString& name, const QString& addr) -> QWidget* {
+        kind->setCurrentText(name);
+        EXPECT_EQ(kind->currentText(), name);
+        const QList<QWidget*> before = sim()->ioWidget()->findChildren<QWidget*>("procSimIODevice");
+        button(sim()->ioWidget(), "Add");
+        for (QWidget* device : sim()->ioWidget()->findChildren<QWidget*>("procSimIODevice")) {
+            if (before.contains(device))
+                continue;
+            if (!addr.isEmpty()) {
+                QLineEdit* field = addrOf(device);
+                type(field, addr);
+                QTest::keyClick(field, Qt::Key_Return);
+            }
+            auto* direction = device->findChild<QComboBox*>("procSimEdtDirection");
+            direction->setFocus();
+            for (int i = 0; i < direction->count() && direction->currentText() != "Read"; ++i)
+                QTest::keyClick(direction, Qt::Key_Up);
+            EXPECT_EQ(direction->currentText(), "Read");
+            return device;
+        }
+        return nullptr;
+    };
+    QWidget* status = add("Register", QString());
+    ASSERT_NE(status, nullptr);
+    EXPECT_EQ(addrOf(status)->text(), "00");
+    type(valueOf(status), "04");
+    QWidget* received = add("Fifo", "01");
+    ASSERT_NE(received, nullptr);
+    auto* arrow = received->findChild<QToolButton*>("procSimIOExpand");
+    auto* lines = received->findChild<QPlainTextEdit*>();
+    ASSERT_NE(arrow, nullptr);
+    ASSERT_NE(lines, nullptr);
+    QTest::mouseClick(arrow, Qt::LeftButton);
+    settleLayout();
+    ASSERT_TRUE(lines->isVisible()) << "the arrow unfolds it";
+    lines->setFocus();
+    QTest::keyClick(lines, Qt::Key_A, Qt::ControlModifier);
+    for (const char* byte : {"48", "69", "0D"}) {
+        QTest::keyClicks(lines, byte);
+        if (QByteArray(byte) != "0D")
+            QTest::keyClick(lines, Qt::Key_Return);
+    }
+    // With the keyboard in the list, as the reader has it.
+    ASSERT_EQ(QApplication::focusWidget(), lines);
+    QTest::keyClick(lines, Qt::Key_F9);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return message("Can not read IO value.") != nullptr; }, 60000));
+    settleLayout();
+    QWidget* sent = card("UART_TX");
+    ASSERT_NE(sent, nullptr);
+    ASSERT_NE(sent, received);
+    QTest::mouseClick(sent->findChild<QToolButton*>("procSimIOExpand"), Qt::LeftButton);
+    settleLayout();
+    auto* output = sent->findChild<QPlainTextEdit*>();
+    ASSERT_NE(output, nullptr);
+    EXPECT_EQ(output->toPlainText().simplified(), "48 69 0D 0A");
+    // A further byte: the read is repeated.
+    QTest::mouseClick(lines->viewport(), Qt::LeftButton);
+    QTest::keyClick(lines, Qt::Key_End, Qt::ControlModifier);
+    QTest::keyClicks(lines, "21");
+    QTest::keyClick(lines, Qt::Key_F9);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return output->toPlainText().simplified() == "48 69 0D 0A 21"; }, 60000))
+        << qPrintable(output->toPlainText());
+    screenshot("tutorial-uart");
 }
 
 } // namespace

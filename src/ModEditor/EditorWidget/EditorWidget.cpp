@@ -7,6 +7,7 @@
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
+#include "HelpRef.h"
 #include "LineCommands.h"
 #include "PageProperties.h"
 #include "TextCompletion.h"
@@ -70,6 +71,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
 {
+    HelpRef::set(this, QStringLiteral("pageId://editor"));
+    HelpRef::setForNames(this, QStringLiteral("pageId://langNames"));
     m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
     m_wordMarks = new WordMarks(this, m_syntaxHighlighter);
