@@ -106,13 +106,25 @@ QVector<MyLinkList::sSection_t> PrjHome::startSections() const
 {
     QVector<MyLinkList::sSection_t> sections;
     MyLinkList::sSection_t begin{tr("Start"), {}};
+    // A page with these links may outlive this object.
+    const QPointer<PrjHome> self(const_cast<PrjHome*>(this));
+    const auto guarded = [self](std::function<void()> sAccess_t::*act) {
+        return [self, act] {
+            if (self)
+                (self->m_access.*act)();
+        };
+    };
     begin.links.append({tr("New project..."), QString(), tr("Makes a project with its processor and outputs"), true,
-                        m_access.newProject, nullptr});
-    begin.links.append(
-        {tr("Open project..."), QString(), tr("Opens a project file"), false, m_access.openProject, nullptr});
+                        guarded(&sAccess_t::newProject), nullptr});
+    begin.links.append({tr("Open project..."), QString(), tr("Opens a project file"), false,
+                        guarded(&sAccess_t::openProject), nullptr});
     begin.links.append({tr("Open an example..."), QString(),
                         tr("Copies an example into a folder of yours and opens the copy"), false,
-                        [self = const_cast<PrjHome*>(this)] { self->openExample(); }, nullptr});
+                        [self] {
+                            if (self)
+                                self->openExample();
+                        },
+                        nullptr});
     if (!m_access.isOpen()) {
         for (const PrjStep& step : m_access.steps()) {
             if (step.order == PrjStep::eOrderStart)
@@ -123,15 +135,20 @@ QVector<MyLinkList::sSection_t> PrjHome::startSections() const
     MyLinkList::sSection_t recent{tr("Recent projects"), {}};
     for (const QString& file : m_recents.files()) {
         const bool exists = QFileInfo::exists(file);
-        auto* self = const_cast<PrjHome*>(this);
         MyLinkList::sLink_t link;
         link.text = nameOf(file);
         link.detail = QDir::toNativeSeparators(file);
         if (!exists)
             link.detail = tr("missing: %1").arg(link.detail);
         link.toolTip = QDir::toNativeSeparators(file);
-        link.act = [self, file] { self->openRecent(file); };
-        link.remove = [self, file] { self->removeRecent(file); };
+        link.act = [self, file] {
+            if (self)
+                self->openRecent(file);
+        };
+        link.remove = [self, file] {
+            if (self)
+                self->removeRecent(file);
+        };
         recent.links.append(link);
     }
     sections.append(recent);
