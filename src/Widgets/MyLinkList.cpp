@@ -66,15 +66,28 @@ void MyLinkList::setSections(const QVector<sSection_t>& sections)
     m_layout->insertWidget(0, m_content);
     m_content->show();
     const QList<QAbstractButton*> buttons = m_content->findChildren<QAbstractButton*>();
-    // New lines stand where this list stands in the tab order.
-    QWidget* before = this;
-    for (QAbstractButton* button : buttons) {
-        setTabOrder(before, button);
-        before = button;
-    }
+    orderTabs();
     if (focused >= 0 && !buttons.isEmpty())
         buttons.at(qMin(focused, buttons.size() - 1))->setFocus();
     updateGeometry();
+}
+
+void MyLinkList::setTabBefore(QWidget* field)
+{
+    m_before = field;
+    orderTabs();
+}
+
+/// New lines would come last.
+void MyLinkList::orderTabs()
+{
+    QWidget* before = m_before;
+    if (before == nullptr || m_content == nullptr)
+        return;
+    for (QAbstractButton* button : m_content->findChildren<QAbstractButton*>()) {
+        setTabOrder(before, button);
+        before = button;
+    }
 }
 
 QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)

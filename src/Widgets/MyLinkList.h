@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QVector>
 #include <QWidget>
 
@@ -33,13 +34,18 @@ public:
 
     /// Replaces all lines. The focus stays at its place in the list. May be called by a link.
     void setSections(const QVector<sSection_t>& sections);
+    /// What the tab key reaches just before the first link, also after setSections(). @param field takes the focus
+    /// itself
+    void setTabBefore(QWidget* field);
     /// Texts of all lines, with their sections, from top to bottom.
     QStringList texts() const { return m_texts; }
 
 private:
+    void orderTabs();
     QWidget* makeLine(const sLink_t& link, QWidget* parent);
 
     QVBoxLayout* m_layout;
     QWidget* m_content = nullptr;
+    QPointer<QWidget> m_before;
     QStringList m_texts;
 };

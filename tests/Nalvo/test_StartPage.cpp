@@ -237,7 +237,7 @@ TEST_F(StartPage, theTabKeyReachesTheCardsBeforeTheButtonsBelowThem)
     }
     settleLayout();
     QStringList order;
-    path->setFocus();
+    field<QTabWidget>("prjMngrTabs")->tabBar()->setFocus();
     for (int i = 0; i < 30; ++i) {
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         if (auto* reached = qobject_cast<QPushButton*>(QApplication::focusWidget()))
@@ -250,7 +250,10 @@ TEST_F(StartPage, theTabKeyReachesTheCardsBeforeTheButtonsBelowThem)
                              "Remove from collection",
                              "Open",
                              "Save project manager configuration and close",
-                             "Cancel"};
+                             "&Cancel"};
+    EXPECT_EQ(order.mid(0, 4),
+              QStringList({"New project...", "Open project...", "Open an example...", "Import sources..."}))
+        << qPrintable(order.join(", "));
     EXPECT_EQ(order.mid(order.size() - 6), wanted) << qPrintable(order.join(", "));
 }
 

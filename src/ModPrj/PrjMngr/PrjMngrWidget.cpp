@@ -6,12 +6,13 @@
 
 #include "MyButton.h"
 #include "MyButtonCancel.h"
+#include "MyLinkList.h"
 #include "MyPageTitle.h"
 
-#include <QAbstractButton>
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -126,17 +127,10 @@ void PrjMngrWidget::setCurrentTab(int index)
         tab->setFocus();
 }
 
-void PrjMngrWidget::setStartLinks(QWidget* links)
+void PrjMngrWidget::setStartLinks(MyLinkList* links)
 {
     m_openLayout->insertWidget(0, links);
-    QList<QAbstractButton*> buttons = links->findChildren<QAbstractButton*>();
-    QWidget* before = m_tabs;
-    setTabOrder(before, links);
-    before = links;
-    for (QAbstractButton* button : qAsConst(buttons)) {
-        setTabOrder(before, button);
-        before = button;
-    }
+    links->setTabBefore(m_tabs->tabBar());
 }
 
 void PrjMngrWidget::setTabsEnabled(bool enabled)

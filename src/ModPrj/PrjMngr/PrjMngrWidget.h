@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QBoxLayout;
+class MyLinkList;
 class QTabWidget;
 
 namespace nsModPrj {
@@ -27,7 +28,7 @@ public:
     /// Brings a tab to the front and gives its first field the focus.
     void setCurrentTab(int index);
     /// Puts links above what the tab for existing projects holds. @param links owned by the page from now on
-    void setStartLinks(QWidget* links);
+    void setStartLinks(MyLinkList* links);
     /// While the settings dialog is open the tabs are locked.
     void setTabsEnabled(bool enabled);
 

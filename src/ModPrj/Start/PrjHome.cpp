@@ -161,7 +161,7 @@ QVector<MyLinkList::sSection_t> PrjHome::projectSections(const QList<PrjStep>& s
     MyLinkList::sSection_t more{tr("Then"), {}};
     MyLinkList::sSection_t files{tr("Files of the project"), {}};
     for (const PrjStep& step : steps) {
-        const bool leads = next.links.isEmpty() && step.order < PrjStep::eOrderFile;
+        const bool leads = next.links.isEmpty() && step.isMissing;
         const MyLinkList::sLink_t link{step.text, QString(), step.toolTip, leads, step.act, nullptr};
         if (step.order == PrjStep::eOrderFile)
             files.links.append(link);

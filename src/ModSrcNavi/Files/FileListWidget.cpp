@@ -223,11 +223,8 @@ bool FileListWidget::isSource(const QTreeWidgetItem* item) const
 
 void FileListWidget::moveSource(int row, int target)
 {
-    QStringList sources = m_files.sources;
-    if (row < 0 || row >= sources.size() || target < 0 || target >= sources.size() || row == target)
-        return;
-    sources.move(row, target);
-    emit orderRequested(sources);
+    if (row >= 0 && row < m_files.sources.size() && target >= 0 && target < m_files.sources.size() && row != target)
+        emit moveRequested(m_files.sources.at(row), target);
 }
 
 void FileListWidget::moveCurrent(int step)

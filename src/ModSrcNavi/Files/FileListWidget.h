@@ -58,8 +58,8 @@ signals:
     void openRequested(const QString& file);
     void addRequested();
     void removeRequested(const QString& file);
-    /// The user wants the sources in another order.
-    void orderRequested(const QStringList& sources);
+    /// The user wants the source at another place of the order, counted without it.
+    void moveRequested(const QString& file, int target);
 
 private:
     QToolButton* addButton(const char* name, const QString& text, const QString& toolTip);

@@ -43,18 +43,26 @@ FilePanel::FilePanel(std::function<sServices_t()> services, QObject* parent)
         if (ModSourcesHookIf* sources = m_services().sources)
             sources->addFilesByDialog(m_widget != nullptr ? m_widget->window() : nullptr);
     });
-    connect(m_widget, &FileListWidget::removeRequested, this, [this](const QString& file) {
-        ModSourcesHookIf* sources = m_services().sources;
-        if (sources == nullptr)
-            return;
-        QStringList files = sources->files();
-        files.removeAll(file);
-        sources->setFiles(files);
+    connect(m_widget, &FileListWidget::removeRequested, this,
+            [this](const QString& file) { changeSources([&file](QStringList* files) { files->removeAll(file); }); });
+    connect(m_widget, &FileListWidget::moveRequested, this, [this](const QString& file, int target) {
+        changeSources([&file, target](QStringList* files) {
+            if (files->removeOne(file))
+                files->insert(qBound(0, target, files->size()), file);
+        });
     });
-    connect(m_widget, &FileListWidget::orderRequested, this, [this](const QStringList& files) {
-        if (ModSourcesHookIf* sources = m_services().sources)
-            sources->setFiles(files);
-    });
+}
+
+/// Changes the list as it is now, which need not be the one that is shown, and shows the result at once.
+void FilePanel::changeSources(const std::function<void(QStringList*)>& change)
+{
+    ModSourcesHookIf* sources = m_services().sources;
+    if (sources == nullptr)
+        return;
+    QStringList files = sources->files();
+    change(&files);
+    sources->setFiles(files);
+    refresh();
 }
 
 FilePanel::~FilePanel()

@@ -65,6 +65,7 @@ protected:
 
 private:
     void refresh();
+    void changeSources(const std::function<void(QStringList*)>& change);
     void open(const QString& file);
     void fillMenu();
     QVector<QuickOpen::sTarget_t> targets(const NaviTagList& tags) const;
