@@ -12,6 +12,7 @@ namespace {
 
 const int maxRows = 16; ///< that are seen at once
 const int minWidth = 240;
+const int margin = 4; ///< pixels
 
 } // namespace
 
@@ -28,7 +29,7 @@ PageSwitcher::PageSwitcher(QTabWidget* tabs)
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_list->setAccessibleName(tr("Pages in the order of their use"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(1, 1, 1, 1);
+    layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(m_list);
     hide();
     connect(m_tabs, &QTabWidget::currentChanged, this, &PageSwitcher::pageChanged);
@@ -78,13 +79,14 @@ void PageSwitcher::begin()
         new QListWidgetItem(m_tabs->tabIcon(index), m_tabs->tabText(index), m_list);
     }
     m_list->setCurrentRow(0);
+    // The style gives the rows their height when they are shown.
+    raise();
+    setVisible(true);
     const int rowHeight = qMax(1, m_list->sizeHintForRow(0));
-    const int height = rowHeight * qMin(maxRows, m_list->count()) + 2 * m_list->frameWidth() + 2;
+    const int height = rowHeight * qMin(maxRows, m_list->count()) + 2 * (m_list->frameWidth() + frameWidth() + margin);
     const int width = qMax(minWidth, m_list->sizeHintForColumn(0) + 32);
     resize(qMin(width, m_tabs->width()), qMin(height, m_tabs->height()));
     move((m_tabs->width() - this->width()) / 2, (m_tabs->height() - this->height()) / 3);
-    raise();
-    setVisible(true);
     qApp->installEventFilter(this);
 }
 
