@@ -389,7 +389,11 @@ TEST_F(DocumentsInWindow, aSourceIsDraggedToItsPlace)
     const auto drop = [&](const QPoint& place) {
         QDropEvent event(place, Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
         // Without a drag of the system the application would not hand it on.
-        static_cast<QObject*>(tree())->event(&event);
+        struct Opened : nsModSrcNavi::FileTree
+        {
+            using FileTree::dropEvent;
+        };
+        (static_cast<nsModSrcNavi::FileTree*>(tree())->*(&Opened::dropEvent))(&event);
         settleLayout();
     };
     drop(QPoint(last.center().x(), last.bottom() - 1));
