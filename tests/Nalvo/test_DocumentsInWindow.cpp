@@ -464,10 +464,10 @@ TEST_F(DocumentsInWindow, theStatusBarShowsLineAndColumn)
     editor()->openFile(path("a.psm"));
     document()->setFocus();
     QTest::keyClick(document(), Qt::Key_Home, Qt::ControlModifier);
-    EXPECT_EQ(position->text(), "1, column 1");
+    EXPECT_EQ(position->text(), "1:1");
     QTest::keyClick(document(), Qt::Key_Down);
     QTest::keyClick(document(), Qt::Key_Right);
-    EXPECT_EQ(position->text(), "2, column 2");
+    EXPECT_EQ(position->text(), "2:2");
     editor()->closeAllFiles();
     settleLayout();
     EXPECT_EQ(position->text(), "");

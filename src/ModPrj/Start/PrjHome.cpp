@@ -16,6 +16,10 @@ namespace nsModPrj {
 
 namespace {
 
+// Widths of the window, in pixels, from which on the status bar has room for the link.
+const int widthForText = 1200;
+const int widthForLink = 1000;
+
 /// Shown for a project: the name of its file without the suffix.
 QString nameOf(const QString& file)
 {
@@ -180,11 +184,28 @@ void PrjHome::showStatus(const QList<PrjStep>& steps)
     const auto missing = std::find_if(steps.begin(), steps.end(), [](const PrjStep& step) { return step.isMissing; });
     const bool any = missing != steps.end();
     m_statusAct = any ? missing->act : nullptr;
-    if (any) {
-        m_statusButton->setText(tr("Next: %1").arg(missing->text));
-        m_statusButton->setToolTip(missing->toolTip);
+    m_statusText = any ? missing->text : QString();
+    m_statusButton->setToolTip(any ? QStringLiteral("%1: %2").arg(missing->text, missing->toolTip) : QString());
+    if (m_page && m_window != m_page->window()) {
+        m_window = m_page->window();
+        m_window->installEventFilter(this);
     }
-    m_access.showStatus(any);
+    fitStatus();
+}
+
+/// In a small window the link is short, or gives way to what else stands in the status bar.
+void PrjHome::fitStatus()
+{
+    const int width = m_window != nullptr ? m_window->width() : 0;
+    m_statusButton->setText(width >= widthForText ? tr("Next: %1").arg(m_statusText) : tr("Next..."));
+    m_access.showStatus(m_statusAct != nullptr && width >= widthForLink);
+}
+
+bool PrjHome::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_window && event->type() == QEvent::Resize && m_statusAct != nullptr)
+        fitStatus();
+    return QObject::eventFilter(watched, event);
 }
 
 // --- recent projects ---

@@ -58,11 +58,15 @@ public:
     /// Asks for an example and opens its copy.
     void openExample();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void refresh();
     QVector<MyLinkList::sSection_t> startSections() const;
     QVector<MyLinkList::sSection_t> projectSections(const QList<PrjStep>& steps) const;
     void showStatus(const QList<PrjStep>& steps);
+    void fitStatus();
     void fillMenu();
     void openRecent(const QString& file);
     void removeRecent(const QString& file);
@@ -74,8 +78,10 @@ private:
     QPointer<QWidget> m_status;
     MyLinkButton* m_statusButton; ///< in m_status
     QPointer<QMenu> m_menu;
-    std::function<void()> m_statusAct;
-    QString m_exampleFolder; ///< that the user has chosen last
+    std::function<void()> m_statusAct; ///< null: nothing is missing
+    QString m_statusText;
+    QPointer<QWidget> m_window; ///< whose width is followed
+    QString m_exampleFolder;    ///< that the user has chosen last
     bool m_refreshes = false;
     bool m_locked = false;
 };
