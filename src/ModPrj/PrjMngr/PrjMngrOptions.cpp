@@ -57,9 +57,9 @@ PrjMngrOptions::PrjMngrOptions(QWidget* parent)
     layout->addWidget(m_hex, 2, 1);
     layout->addWidget(m_mem, 3, 1);
     layout->addWidget(m_vhdl, 4, 1);
-    layout->addWidget(m_vhdlTemplate, 4, 2, Qt::AlignLeft);
+    layout->addWidget(m_vhdlTemplate, 4, 2);
     layout->addWidget(m_verilog, 5, 1);
-    layout->addWidget(m_verilogTemplate, 5, 2, Qt::AlignLeft);
+    layout->addWidget(m_verilogTemplate, 5, 2);
     QWidget* const order[] = {m_processor, m_source,       m_hex,     m_mem,
                               m_vhdl,      m_vhdlTemplate, m_verilog, m_verilogTemplate};
     for (std::size_t i = 1; i < std::size(order); ++i)
@@ -92,7 +92,7 @@ void PrjMngrOptions::addHdl(QCheckBox* check, QComboBox* box, const char* name, 
     box->setAccessibleName(tr("Template of the %1").arg(check->text()));
     // In a small window the page must not become wider than the window lets it be.
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(12);
+    box->setMinimumContentsLength(8);
     box->setEnabled(false);
     if (box->count() == 0) {
         check->setEnabled(false);
