@@ -45,6 +45,9 @@ AsmFeMsgHndlr::AsmFeMsgHndlr(AsmFeFileHndlr* fileHndlr, QObject* parent)
 
 void AsmFeMsgHndlr::signMsg(eMsgType_t type, const SrcReference* srcRef, QString arg1, QString arg2, QString arg3)
 {
+    const sMsgText_t* text = msgText(type);
+    if (srcRef != nullptr && text != nullptr && grade(text->key) == ModMsgHookIf::eMsgError)
+        ++m_errorsOfFiles[m_fileHndlr->absSrcFilePath(srcRef->fileNo)];
     showMsg(modMsgHook, type, srcRef != nullptr ? srcUrl(*srcRef) : nsModMsg::MsgUrl(), arg1, arg2, arg3);
 }
 

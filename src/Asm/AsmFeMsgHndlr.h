@@ -5,6 +5,7 @@
 #include "ModMsgPluginIf.h"
 #include "SrcReference.h"
 
+#include <QMap>
 #include <QObject>
 #include <QUrl>
 
@@ -43,6 +44,10 @@ public:
                         const QString& arg1 = QString(), const QString& arg2 = QString(),
                         const QString& arg3 = QString());
 
+    /// Number of errors since forgetErrors() in each source that has some, by absolute path.
+    QMap<QString, int> errorsOfFiles() const { return m_errorsOfFiles; }
+    void forgetErrors() { m_errorsOfFiles.clear(); }
+
     /// The link to a position, with the relative path and the line as its display name.
     nsModMsg::MsgUrl srcUrl(const SrcReference& srcRef) const;
 
@@ -50,6 +55,7 @@ private:
     static QUrl helpUrl(const char* key);
 
     AsmFeFileHndlr* m_fileHndlr;
+    QMap<QString, int> m_errorsOfFiles;
 };
 
 } // namespace nsModAsmFe

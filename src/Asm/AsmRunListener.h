@@ -38,7 +38,13 @@ public:
     virtual ~AsmRunListener() = default;
 
     /// The run still works; called often enough for a busy cursor.
-    virtual void runGoesOn() {}
+    /// @param lines lines of the sources that were read so far; 0: the sources are read
+    /// @return false ends the run: what it has assembled so far is not used
+    virtual bool runGoesOn(int lines)
+    {
+        Q_UNUSED(lines)
+        return true;
+    }
     /// The elements of the last run are about to be deleted.
     virtual void programDropped() {}
     /// Does anybody want tags? They cost time.

@@ -112,10 +112,10 @@ void Assembler::clear()
 template <class Stage>
 bool Assembler::runGroup(eMsgGrp_t group, const QString& arg, Stage stage)
 {
-    m_listener->runGoesOn();
+    const bool goesOn = m_listener->runGoesOn(0);
     m_messages.signMsgGroup(group, arg);
     // Whoever shows the group may have taken away what the stage works with.
-    m_assembled = !m_abandoned && stage() && !m_abandoned;
+    m_assembled = goesOn && !m_abandoned && stage() && !m_abandoned;
     m_messages.closeGroup(m_assembled);
     return m_assembled;
 }
@@ -160,7 +160,7 @@ void Assembler::runStages(AsmFeConfig::eAssembleEvent_t event)
         return;
     if (m_assembled)
         writeOutputs(event);
-    m_listener->runGoesOn();
+    m_listener->runGoesOn(0);
     m_listener->refreshEquList();
 }
 

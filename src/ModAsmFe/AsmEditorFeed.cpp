@@ -213,11 +213,11 @@ void AsmEditorFeed::setupSupportMenuNames(EditorSupportMenu* menu, const QString
         added = now;
     }
     for (const QString& name : qAsConst(gone)) {
-        m_listener.runGoesOn();
+        m_listener.runGoesOn(0);
         menu->removeEntry(title + '/' + name);
     }
     for (const QString& name : qAsConst(added)) {
-        m_listener.runGoesOn();
+        m_listener.runGoesOn(0);
         menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
     }
     *shown = names;

@@ -13,4 +13,12 @@ AsmFeActions::AsmFeActions(QObject* parent)
     });
 }
 
+void AsmFeActions::setFiles(eAction_t action, const QStringList& files)
+{
+    if (files.isEmpty())
+        resetLook(action);
+    else
+        setLook(action, nullptr, tr("Assembles and writes %1").arg(files.join(QLatin1String(", "))));
+}
+
 } // namespace nsModAsmFe

@@ -14,6 +14,9 @@ public:
 
     explicit AsmFeActions(QObject* parent);
 
+    /// Names the files that a button writes in its tool tip. @param files as the user reads them; empty: unknown
+    void setFiles(eAction_t action, const QStringList& files);
+
 signals:
     void triggered(nsModAsmFe::AsmFeActions::eAction_t action);
 

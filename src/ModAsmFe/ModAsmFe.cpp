@@ -6,6 +6,7 @@
 #include "AsmScriptApi.h"
 #include "FilePath.h"
 #include "HelpRef.h"
+#include "MyLongWork.h"
 
 #include "EquListView.h"
 #include "IODevViewerList.h"
@@ -22,6 +23,7 @@ ModAsmFe::ModAsmFe(QObject* parent)
     , m_msgHndlr(new AsmFeMsgHndlr(m_fileHndlr, this))
     , m_assembler(*m_fileHndlr, *m_msgHndlr, *this)
     , m_editorFeed(m_assembler, *this)
+    , m_workDelay(MyLongWork::usualDelay)
 {
     m_assembler.setListener(this);
 }
@@ -191,6 +193,8 @@ void ModAsmFe::prjOpen()
     // The handler takes the folder of a path, so it gets the path of a file in the project's folder.
     m_fileHndlr->setPrjDir(modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()));
     applyBaseConfig();
+    m_msgHndlr->forgetErrors();
+    showFiles();
     addIODevViewer();
     if (m_actions != nullptr)
         m_actions->setEnabled(AsmFeActions::eActionAssemble, true);
@@ -344,6 +348,7 @@ void ModAsmFe::applyBackendConfig()
         m_statusBar->setProcessorName(m_assembler.backend() != nullptr ? m_backend.processorName() : QString());
     m_editorFeed.setupSupportMenuHardware(modEditorHook);
     m_editorFeed.setHighlighter(modEditorHook);
+    showFiles();
 }
 
 } // namespace nsModAsmFe

@@ -30,6 +30,7 @@
 #include <QStringList>
 
 class MyBusyCursor;
+class MyLongWork;
 
 namespace nsModAsmFe {
 
@@ -71,6 +72,8 @@ public:
     void setAssembleOnChange(bool enabled) { m_assembleOnChange = enabled; }
     /// Output files that the last run has written, absolute, in order.
     QStringList writtenFiles() const { return m_assembler.writtenFiles(); }
+    /// Time after which a run shows its progress and can be cancelled, in milliseconds.
+    void setWorkDelay(int delay) { m_workDelay = delay; }
     /// A run is in progress.
     bool isRunning() const { return m_assembler.isRunning(); }
     /// @return the last run assembled the program and wrote all files of its event
@@ -118,6 +121,7 @@ public:
     void prjOpened() override {}
     void prjSave() override;
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModSourcesPluginIf
     void srcFileListChanged() override;
@@ -141,7 +145,7 @@ public slots:
 
 private:
     // AsmRunListener
-    void runGoesOn() override;
+    bool runGoesOn(int lines) override;
     void programDropped() override;
     bool wantsNaviTags() override { return modSrcNaviHook != nullptr; }
     void naviTagFound(const AsmNaviTag& tag) override;
@@ -167,6 +171,10 @@ private:
     AsmProjectInfo projectInfo() const;
     ProjectConsent consent() const;
     void takePage();
+    /// Tells the other modules which files the project has besides its sources.
+    void showFiles();
+    void showWritten();
+    QStringList filesOfEvent(eAssembleEvent_t event) const;
     void assembleMissed();
 
     static const int nothingMissed = -1;
@@ -187,6 +195,8 @@ private:
     bool m_programsRun = false;        ///< the run in progress waits for the external programs
     int m_missedEvent = nothingMissed; ///< eAssembleEvent_t of a run that is to follow
     MyBusyCursor* m_busy = nullptr;    ///< of the run in progress; not owned
+    MyLongWork* m_work = nullptr;      ///< of the run in progress; not owned
+    int m_workDelay;                   ///< milliseconds
 };
 
 } // namespace nsModAsmFe

@@ -6,14 +6,20 @@
 #include "ConsentQuestion.h"
 #include "EquListView.h"
 #include "IODevViewerList.h"
+#include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModSourcesHookIf.h"
 #include "ModSrcNaviHookIf.h"
 #include "ModSyscallHookIf.h"
 #include "MyBusyCursor.h"
+#include "MyLongWork.h"
 #include "NaviTag.h"
 #include "SyscallEvent.h"
+
+#include <QDir>
 
 #include <algorithm>
 
@@ -37,18 +43,36 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
         return;
     if (m_assembler.isRunning()) {
         // What the user saves while an external program runs is assembled when that has ended.
-        if (m_programsRun)
+        if (m_programsRun || (m_work != nullptr && m_work->isShown()))
             m_missedEvent = std::max(m_missedEvent, int(event));
         return;
     }
+    m_msgHndlr->forgetErrors();
     MyBusyCursor busy;
     m_busy = &busy;
+    MyLongWork work(
+        tr("Assembling"),
+        [this](QWidget* bar) {
+            if (modGuiHook != nullptr)
+                modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusThird, bar, QString());
+        },
+        [this](QWidget* bar) {
+            if (modGuiHook != nullptr)
+                modGuiHook->removeWidget(bar);
+        },
+        m_workDelay);
+    m_work = modGuiHook != nullptr ? &work : nullptr;
     if (m_actions != nullptr) {
         m_actions->setEnabled(false);
         m_actions->setEnabled(AsmFeActions::eActionAssemble, true);
     }
     m_assembler.run(modSourcesHook != nullptr ? modSourcesHook->files() : QStringList(), projectInfo(), event);
     m_busy = nullptr;
+    m_work = nullptr;
+    if (work.isCancelled() && modMsgHook != nullptr)
+        modMsgHook->showWarningMessage(tr("The run was cancelled."));
+    showFiles();
+    showWritten();
     // Later, so that runs that each cause the next one leave the user a way to stop them.
     if (m_missedEvent != nothingMissed)
         QMetaObject::invokeMethod(
@@ -75,11 +99,12 @@ AsmProjectInfo ModAsmFe::projectInfo() const
     return project;
 }
 
-/// A run blocks the GUI thread, so a long run shows the busy cursor.
-void ModAsmFe::runGoesOn()
+/// A run blocks the GUI thread, so a long run shows the busy cursor, and after a while how far it is.
+bool ModAsmFe::runGoesOn(int lines)
 {
     if (m_busy != nullptr)
         m_busy->goesOn();
+    return m_work == nullptr || m_work->goesOn(lines > 0 ? tr("%1 lines").arg(lines) : QString());
 }
 
 void ModAsmFe::programDropped()
@@ -190,6 +215,8 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
         return refused;
     if (m_busy != nullptr)
         m_busy->rests();
+    if (m_work != nullptr)
+        m_work->rests();
     const QPointer<ModAsmFe> self(this);
     const QString project = modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName());
     const ConsentQuestion::eAnswer_t answer = ConsentQuestion::ask(
@@ -237,6 +264,8 @@ bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)
     // While a program runs, the user goes on working.
     if (m_busy != nullptr)
         m_busy->rests();
+    if (m_work != nullptr)
+        m_work->rests();
     m_programsRun = true;
     const bool goesOn = modSyscallHook->run(sysCallEvent);
     m_programsRun = false;
@@ -247,6 +276,93 @@ void ModAsmFe::refreshEquList()
 {
     if (m_equListView != nullptr)
         m_equListView->showList(*equList());
+}
+
+// --- what comes next ---
+
+/// Names of the output files of an event, as the settings have them. What the sources set besides is known after a run.
+QStringList ModAsmFe::filesOfEvent(eAssembleEvent_t event) const
+{
+    QStringList files;
+    for (const TargetConfig& target : targets) {
+        const bool written = event == eEventButton1   ? target.writeFileEventBut1
+                             : event == eEventButton2 ? target.writeFileEventBut2
+                                                      : target.writeFileEventSave;
+        if (target.en && written && !target.outputFile.isEmpty())
+            files.append(modPrjHook->convToRelPath(target.outputFile));
+    }
+    return files;
+}
+
+/// Names the files that a run has written in the status bar.
+void ModAsmFe::showWritten()
+{
+    if (modGuiHook == nullptr || modPrjHook == nullptr || !modPrjHook->isValid() || writtenFiles().isEmpty())
+        return;
+    QStringList files;
+    for (const QString& file : writtenFiles())
+        files.append(modPrjHook->convToRelPath(file));
+    modGuiHook->setStatusBarText(tr("Written: %1").arg(files.join(QLatin1String(", "))));
+}
+
+void ModAsmFe::showFiles()
+{
+    if (modPrjHook == nullptr)
+        return;
+    modPrjHook->stepsChanged();
+    if (!modPrjHook->isValid())
+        return;
+    if (m_actions != nullptr) {
+        m_actions->setFiles(AsmFeActions::eActionButton1, filesOfEvent(eEventButton1));
+        m_actions->setFiles(AsmFeActions::eActionButton2, filesOfEvent(eEventButton2));
+    }
+    if (modSrcNaviHook == nullptr)
+        return;
+    QStringList templates;
+    QStringList outputs;
+    const auto add = [this](QStringList* list, const QString& file) {
+        if (!file.isEmpty())
+            list->append(QDir::cleanPath(modPrjHook->convToAbsPath(file)));
+    };
+    for (const TargetConfig& target : targets) {
+        if (!target.en)
+            continue;
+        add(&templates, target.templateFile);
+        add(&outputs, target.outputFile);
+    }
+    outputs += writtenFiles();
+    templates.removeDuplicates();
+    outputs.removeDuplicates();
+    modSrcNaviHook->setTargetFiles(templates, outputs, m_msgHndlr->errorsOfFiles());
+}
+
+QList<PrjStep> ModAsmFe::prjSteps()
+{
+    if (modPrjHook == nullptr || !modPrjHook->isValid() || m_actions == nullptr)
+        return {};
+    QList<PrjStep> steps;
+    const auto isOn = [](const TargetFile& target) { return target.en; };
+    bool anyOutput = std::any_of(std::begin(targets), std::end(targets), isOn);
+    // The sources may set outputs, too.
+    if (isAssembled()) {
+        for (const IODev* dev : ioDevList()->devices())
+            anyOutput = anyOutput || std::any_of(std::begin(dev->targets), std::end(dev->targets), isOn);
+    }
+    if (!anyOutput && modConfigHook != nullptr)
+        steps.append({PrjStep::eOrderOutput, true, tr("Choose the output files"),
+                      tr("Opens the settings of the assembler: hex, mem, VHDL, Verilog"),
+                      [this] { modConfigHook->openDialog(QStringLiteral("Assembler")); }});
+    const bool canRun =
+        m_backend.plugin() != nullptr && modSourcesHook != nullptr && !modSourcesHook->files().isEmpty();
+    if (!canRun)
+        return steps;
+    if (!isAssembled())
+        steps.append({PrjStep::eOrderAssemble, true, tr("Run the assembler"), tr("Assembles the sources (Ctrl+B)"),
+                      [this] { handleActions(AsmFeActions::eActionAssemble); }});
+    else if (anyOutput && m_assembler.writtenFiles().isEmpty())
+        steps.append({PrjStep::eOrderWrite, true, tr("Write the output files"), tr("Writes the files of button 1"),
+                      [this] { handleActions(AsmFeActions::eActionButton1); }});
+    return steps;
 }
 
 } // namespace nsModAsmFe

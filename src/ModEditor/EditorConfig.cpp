@@ -49,6 +49,7 @@ void allItems(Items items, Config& config)
     items.item(editorKeys::textCompleterPrefixLength, config.textCompleterPrefixLength, 1,
                EditorConfig::maxPrefixLength);
     items.item(editorKeys::textCompleterItemCount, config.textCompleterItemCount, 1, EditorConfig::maxItemCount);
+    items.item(editorKeys::reloadKeepsUndo, config.reloadKeepsUndo);
     items.item(editorKeys::highlightSelectionEn, config.highlightSelectionEn);
     items.choice(editorKeys::memPageAddrEn, config.memPageAddrEn, EditorConfig::memPageAddrSimOnly);
     items.item(editorKeys::cursorBgColor, config.cursorBgColor);

@@ -67,6 +67,7 @@ public:
     bool textCompletionEn = true;
     int textCompleterPrefixLength = 3; ///< characters
     int textCompleterItemCount = 10;
+    bool reloadKeepsUndo = false; ///< a reload by the user is a step that can be undone
     bool highlightSelectionEn = true;
     int memPageAddrEn = memPageAddrSimOnly;
     QColor cursorBgColor = Colors::of(Colors::eEditorCursorLine, Colors::eLight);

@@ -76,6 +76,9 @@ void EditorConfigPage::addHighlighting(MyPageLayout* layout)
     layout->addSection(tr("Highlighting"));
     m_highlightSelectionEn = addCheck(layout, "highlightSelectionEn", tr("Highlght selection enable:"),
                                       tr("All places of the selected word are marked"));
+    m_reloadKeepsUndo =
+        addCheck(layout, "reloadKeepsUndo", tr("Reload keeps undo:"),
+                 tr("Reload becomes a step that can be undone; otherwise it forgets all steps and goes to the start"));
     m_cursorBgColor = addColor(layout, "cursorBgColor", tr("Cursor line background color:"));
     m_highlightBgColor = addColor(layout, "highlightBgColor", tr("Line highlighting background color:"));
 }
@@ -160,6 +163,7 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_textCompleterPrefixLength->setValue(config->textCompleterPrefixLength);
     m_textCompleterItemCount->setValue(config->textCompleterItemCount);
     m_highlightSelectionEn->setChecked(config->highlightSelectionEn);
+    m_reloadKeepsUndo->setChecked(config->reloadKeepsUndo);
     m_cursorBgColor->setColor(Colors::shown(Colors::eEditorCursorLine, config->cursorBgColor));
     m_highlightBgColor->setColor(Colors::shown(Colors::eEditorFlaggedLine, config->highlightBgColor));
     m_lineNumberEn->setChecked(config->lineNumberEn);
@@ -203,6 +207,7 @@ void EditorConfigPage::config(EditorConfig* config) const
     config->textCompleterPrefixLength = m_textCompleterPrefixLength->value();
     config->textCompleterItemCount = m_textCompleterItemCount->value();
     config->highlightSelectionEn = m_highlightSelectionEn->isChecked();
+    config->reloadKeepsUndo = m_reloadKeepsUndo->isChecked();
     config->cursorBgColor = Colors::stored(Colors::eEditorCursorLine, m_cursorBgColor->color());
     config->highlightBgColor = Colors::stored(Colors::eEditorFlaggedLine, m_highlightBgColor->color());
     config->lineNumberEn = m_lineNumberEn->isChecked();

@@ -63,6 +63,7 @@ private:
     QSpinBox* m_textCompleterPrefixLength = nullptr;
     QSpinBox* m_textCompleterItemCount = nullptr;
     QCheckBox* m_highlightSelectionEn = nullptr;
+    QCheckBox* m_reloadKeepsUndo = nullptr;
     MyColorSelector* m_cursorBgColor = nullptr;
     MyColorSelector* m_highlightBgColor = nullptr;
     QCheckBox* m_lineNumberEn = nullptr;

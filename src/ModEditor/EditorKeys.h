@@ -13,6 +13,7 @@ inline const QLatin1String autoReturnIndentEn("ModEditor/autoReturnIndentEn");
 inline const QLatin1String textCompletionEn("ModEditor/textCompletionEn");
 inline const QLatin1String textCompleterPrefixLength("ModEditor/textCompleterPrefixLength");
 inline const QLatin1String textCompleterItemCount("ModEditor/textCompleterItemCount");
+inline const QLatin1String reloadKeepsUndo("ModEditor/reloadKeepsUndo");
 inline const QLatin1String highlightSelectionEn("ModEditor/highlightSelectionEn");
 inline const QLatin1String memPageAddrEn("ModEditor/memPageAddrEn");
 inline const QLatin1String cursorBgColor("ModEditor/cursorBgColor");

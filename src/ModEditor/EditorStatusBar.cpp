@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QActionGroup>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -12,6 +13,8 @@
 namespace nsModEditor {
 
 namespace {
+
+const int widthForPosition = 1000; ///< pixels of the window
 
 /// Makes room for each of the texts.
 void reserve(QLabel* label, const QStringList& texts)
@@ -38,11 +41,14 @@ EditorStatusBar::EditorStatusBar(QWidget* parent)
     m_mode = addPair(tr("Mode:"), tr("What typing does to the text behind the cursor, changed with the Insert key"),
                      "editorStatusBarMode");
     layout->addSpacing(8);
+    m_position = addPair(tr("Line:"), tr("Line and column of the cursor"), "editorStatusBarPosition");
+    layout->addSpacing(8);
     addFormat();
     layout->addStretch(1);
     // The widgets after it must not move when a value changes.
     reserve(m_fontSize, {tr("%1 pt").arg(100)});
     reserve(m_mode, {tr("Insert"), tr("Overwrite")});
+    reserve(m_position, {QStringLiteral("%1:%2").arg(99999).arg(999)});
     setOverwrite(false);
 }
 
@@ -113,6 +119,36 @@ void EditorStatusBar::clearFormat()
 {
     m_format->setText(QString());
     m_format->setEnabled(false);
+    m_position->clear();
+}
+
+void EditorStatusBar::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (m_window != window()) {
+        m_window = window();
+        m_window->installEventFilter(this);
+    }
+    fitToWindow();
+}
+
+bool EditorStatusBar::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_window && event->type() == QEvent::Resize)
+        fitToWindow();
+    return QWidget::eventFilter(watched, event);
+}
+
+void EditorStatusBar::fitToWindow()
+{
+    const bool fits = m_window == nullptr || m_window == this || m_window->width() >= widthForPosition;
+    m_position->setVisible(fits);
+    layout()->itemAt(layout()->indexOf(m_position) - 1)->widget()->setVisible(fits);
+}
+
+void EditorStatusBar::setPosition(int line, int column)
+{
+    m_position->setText(QStringLiteral("%1:%2").arg(line + 1).arg(column + 1));
 }
 
 void EditorStatusBar::setFontSize(int size)

@@ -2,6 +2,7 @@
 
 #include "DocumentFormat.h"
 
+#include <QPointer>
 #include <QWidget>
 
 class QAction;
@@ -22,6 +23,8 @@ public:
     /// @param size points
     void setFontSize(int size);
     void setOverwrite(bool overwrite);
+    /// Place of the cursor. @param line, @param column counted from 0
+    void setPosition(int line, int column);
     /// @param changeable whether line ends and mark can be chosen
     void setFormat(const DocumentFormat& format, bool changeable);
     /// There is no document.
@@ -32,15 +35,23 @@ signals:
     void lineEndSelected(int lineEnd);
     void markSelected(bool mark);
 
+protected:
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private slots:
     void selectLineEnd(QAction* action);
 
 private:
     void addFormat();
+    /// In a small window the place of the cursor gives way to the other values.
+    void fitToWindow();
     QLabel* addPair(const QString& title, const QString& toolTip, const QString& name);
 
     QLabel* m_fontSize;
     QLabel* m_mode;
+    QLabel* m_position;
+    QPointer<QWidget> m_window; ///< whose width is followed
     QToolButton* m_format = nullptr;
     QActionGroup* m_lineEnds = nullptr;
     QAction* m_mark = nullptr;

@@ -428,6 +428,7 @@ void ModEditor::simEn(bool enabled)
 
 void ModEditor::connectEditorWidget(EditorWidget* widget)
 {
+    connect(widget, &QPlainTextEdit::cursorPositionChanged, this, [this, widget] { showCursorPosition(widget); });
     connect(widget, SIGNAL(actionChanged(nsModEditor::EditorWidget*)), this,
             SLOT(setActionStateEditorWidget(nsModEditor::EditorWidget*)));
     connect(widget, SIGNAL(modifiedChanged(nsModEditor::EditorWidget*)), this,
@@ -466,6 +467,7 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
 
 void ModEditor::configureEditorWidgets()
 {
+    m_commands->setReloadKeepsUndo(reloadKeepsUndo);
     for (EditorWidget* widget : m_documents->all())
         configureEditorWidget(widget);
 }

@@ -121,6 +121,7 @@ public:
     void prjAboutToClose() override;
     void prjSave() override;
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModMsgPluginIfUrlHndlr
     void handleUrl(QUrl url) override;
@@ -211,6 +212,7 @@ private:
     void configureEditorWidgets();
     void showColors();
     void setActionState(EditorWidget* current);
+    void showCursorPosition(EditorWidget* widget);
     void updateActionState();
     void clearMessageFlag();
 

@@ -8,6 +8,7 @@
 #include "EditorSupportMenu.h"
 #include "EditorWidget.h"
 #include "OpenDocuments.h"
+#include "PageProperties.h"
 #include "RecoveryOffer.h"
 
 #include "ModClipboardHookIf.h"
@@ -184,10 +185,20 @@ void ModEditor::setActionStateEditorWidget(EditorWidget* widget)
     m_statusBar->setFontSize(widget->fontSize());
     m_statusBar->setOverwrite(widget->overwriteMode());
     m_statusBar->setFormat(widget->format(), !widget->isReadOnly());
+    showCursorPosition(widget);
+}
+
+void ModEditor::showCursorPosition(EditorWidget* widget)
+{
+    if (m_statusBar == nullptr || widget != m_documents->current())
+        return;
+    const QTextCursor cursor = widget->textCursor();
+    m_statusBar->setPosition(cursor.blockNumber(), cursor.positionInBlock());
 }
 
 void ModEditor::setModifiedState(EditorWidget* widget)
 {
+    widget->setProperty(PageProperties::modified, widget->isModified());
     if (modGuiHook != nullptr)
         modGuiHook->setWidgetIcon(widget, widget->isModified() ? QIcon(modifiedIcon) : QIcon());
     setActionStateEditorWidget(widget);

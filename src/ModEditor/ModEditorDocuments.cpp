@@ -14,6 +14,8 @@
 #include "ModClipboardHookIf.h"
 #include "ModFindReplaceHookIf.h"
 #include "ModGuiHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModSourcesHookIf.h"
 
 namespace nsModEditor {
 
@@ -65,6 +67,24 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     delete widget;
     m_sync->watchDocuments();
     updateActionState();
+}
+
+QList<PrjStep> ModEditor::prjSteps()
+{
+    if (modPrjHook == nullptr || !modPrjHook->isValid() || modSourcesHook == nullptr)
+        return {};
+    const QStringList sources = modSourcesHook->files();
+    if (sources.isEmpty())
+        return {{PrjStep::eOrderSource - 1, true, tr("Write the first source"), tr("Opens an empty document"),
+                 [this] { handleActions(EditorActionsFile::eActionNew); }}};
+    QList<PrjStep> files;
+    for (const QString& path : sources)
+        files.append(
+            {PrjStep::eOrderFile, false, modPrjHook->convToRelPath(path), tr("Opens this source"), [this, path] {
+                 openFile(path);
+                 m_documents->focusCurrent();
+             }});
+    return files;
 }
 
 void ModEditor::newFile(QString text)

@@ -4,21 +4,71 @@
 
 #include <QCoreApplication>
 #include <QPainter>
+#include <QScrollArea>
 
 namespace nsModGui {
 
 namespace {
 
-const int gap = 8; ///< pixels between name and hint
+const int gap = 8;         ///< pixels between name and hint
+const int pageWidth = 560; ///< pixels that a page gets at the most
 
 } // namespace
 
 EmptyPage::EmptyPage(QWidget* parent)
     : QWidget(parent)
+    , m_area(new QScrollArea(this))
 {
     setObjectName(QStringLiteral("emptyPage"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
+    m_area->setObjectName(QStringLiteral("emptyPageArea"));
+    m_area->setFrameStyle(QFrame::NoFrame);
+    m_area->setWidgetResizable(true);
+    m_area->setFocusPolicy(Qt::NoFocus);
+    m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_area->hide();
+}
+
+void EmptyPage::setPage(QWidget* page)
+{
+    if (m_page)
+        m_area->takeWidget();
+    if (m_page && m_page != page)
+        m_page->setParent(nullptr);
+    m_page = page;
+    if (page != nullptr)
+        m_area->setWidget(page);
+    setAttribute(Qt::WA_TransparentForMouseEvents, page == nullptr);
+    m_area->setVisible(page != nullptr);
+    layoutPage();
+    update();
+}
+
+QFont EmptyPage::nameFont() const
+{
+    QFont large = font();
+    large.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);
+    large.setWeight(QFont::Light);
+    return large;
+}
+
+int EmptyPage::nameHeight() const
+{
+    return QFontMetrics(nameFont()).height();
+}
+
+void EmptyPage::layoutPage()
+{
+    const int top = 2 * gap + nameHeight();
+    const int width = qMin(pageWidth, this->width() - 4 * gap);
+    m_area->setGeometry((this->width() - width) / 2, top, qMax(0, width), qMax(0, height() - top - 2 * gap));
+}
+
+void EmptyPage::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    layoutPage();
 }
 
 void EmptyPage::setOpenText(const QString& text)
@@ -44,20 +94,18 @@ void EmptyPage::paintEvent(QPaintEvent*)
     painter.fillRect(rect(), Colors::of(Colors::eHairLine));
     painter.fillRect(rect().adjusted(1, 1, -1, -1), Colors::of(Colors::ePage));
 
-    QFont nameFont = font();
-    nameFont.setPointSizeF(qMax(1.0, font().pointSizeF()) * 3.2);
-    nameFont.setWeight(QFont::Light);
-    const int nameHeight = QFontMetrics(nameFont).height();
     const int hintHeight = fontMetrics().height() * (hint().count('\n') + 1);
     // Slightly above the middle, which looks centred.
-    const int top = qMax(0, (height() - nameHeight - gap - hintHeight) * 2 / 5);
+    const int top = m_page ? gap : qMax(0, (height() - nameHeight() - gap - hintHeight) * 2 / 5);
 
-    painter.setFont(nameFont);
+    painter.setFont(nameFont());
     painter.setPen(Colors::of(Colors::eTextSecond));
-    painter.drawText(QRect(0, top, width(), nameHeight), Qt::AlignCenter, QCoreApplication::applicationName());
+    painter.drawText(QRect(0, top, width(), nameHeight()), Qt::AlignCenter, QCoreApplication::applicationName());
+    if (m_page)
+        return;
     painter.setFont(font());
     painter.setPen(Colors::of(Colors::eTextSecond));
-    const QRect lines(2 * gap, top + nameHeight + gap, width() - 4 * gap, height() - top - nameHeight - 2 * gap);
+    const QRect lines(2 * gap, top + nameHeight() + gap, width() - 4 * gap, height() - top - nameHeight() - 2 * gap);
     painter.drawText(lines, Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, hint());
 }
 

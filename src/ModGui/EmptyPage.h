@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QWidget>
 
+class QScrollArea;
+
 namespace nsModGui {
 
-/// What the centre shows while no page is open: the name of the program and what to do next. Takes no input.
+/// What the centre shows while no page is open: the name of the program, and what to do next: a page of a client, or
+/// else a hint.
 class EmptyPage : public QWidget
 {
     Q_OBJECT
@@ -17,12 +21,21 @@ public:
     void setOpenText(const QString& text);
     /// The text under the name, in lines.
     QString hint() const;
+    /// What stands there instead of the hint. @param page stays with its owner; null: the hint
+    void setPage(QWidget* page);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int nameHeight() const;
+    QFont nameFont() const;
+    void layoutPage();
+
     QString m_openText;
+    QScrollArea* m_area;
+    QPointer<QWidget> m_page; ///< in the area
 };
 
 } // namespace nsModGui

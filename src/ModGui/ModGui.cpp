@@ -102,6 +102,9 @@ void ModGui::setupCenter()
     setArea(eLocationCenterBelow, below);
     connect(tabbed, &WidgetAreaTabbed::removeWidgetRequest, this, &ModGui::removeWidgetRequest);
     connect(tabbed, &WidgetAreaTabbed::currentWidgetChanged, this, &ModGui::currentWidgetChanged);
+    connect(tabbed, &WidgetAreaTabbed::showFileRequested, this, [this](const QString& path) {
+        m_plugins.forEach([&path](ModGuiPluginIf* plugin) { plugin->showFileRequest(path); });
+    });
     // The click is reported before the page changes.
     connect(tabbed, &WidgetAreaTabbed::tabBarClicked, this, &ModGui::focusPage, Qt::QueuedConnection);
 }
@@ -372,6 +375,12 @@ void ModGui::clearStatusBarText()
     m_statusBar->clearMessage();
     if (sWidgetData_t* data = m_widgets.value(currentWidget(eLocationTabs)))
         data->statusBarText.clear();
+}
+
+void ModGui::setEmptyPage(QWidget* page)
+{
+    if (tabs() != nullptr)
+        tabs()->setEmptyPage(page);
 }
 
 void ModGui::removeWidgetRequest(QWidget* widget)

@@ -64,6 +64,7 @@ public:
     QList<QWidget*> centerWidgetList() override { return m_centerWidgets; }
     void setStatusBarText(QString text) override;
     void clearStatusBarText() override;
+    void setEmptyPage(QWidget* page) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;

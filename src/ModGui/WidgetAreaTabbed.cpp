@@ -1,6 +1,8 @@
 #include "WidgetAreaTabbed.h"
 
 #include "EmptyPage.h"
+#include "PageSwitcher.h"
+#include "TabControls.h"
 
 #include <QAction>
 #include <QKeyEvent>
@@ -13,6 +15,7 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     : QTabWidget(parent)
     , m_closeButton(new QPushButton(this))
     , m_emptyPage(new EmptyPage(this))
+    , m_switcher(new PageSwitcher(this))
 {
     setObjectName(QStringLiteral("widgetAreaTabs"));
     setAccessibleName(tr("Pages"));
@@ -25,21 +28,25 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
     connect(this, &QTabWidget::currentChanged, this,
             [this](int index) { emit currentWidgetChanged(this, widget(index)); });
+    auto* controls = new TabControls(this);
+    connect(controls, &TabControls::closeRequested, this, &WidgetAreaTabbed::removeWidgetRequest);
+    connect(controls, &TabControls::showFileRequested, this, &WidgetAreaTabbed::showFileRequested);
     setupPageKeys();
     updateEmptyState();
 }
 
 void WidgetAreaTabbed::setupPageKeys()
 {
-    const auto add = [this](const QString& text, const QList<QKeySequence>& keys, int step) {
+    const auto add = [this](const QString& text, const char* key, auto act) {
         auto* action = new QAction(text, this);
-        action->setShortcuts(keys);
-        connect(action, &QAction::triggered, this, [this, step] { stepPage(step); });
+        action->setShortcut(QKeySequence(QLatin1String(key)));
+        connect(action, &QAction::triggered, this, act);
         addAction(action);
     };
-    add(tr("Next page"), {QKeySequence(QStringLiteral("Ctrl+Tab")), QKeySequence(QStringLiteral("Ctrl+PgDown"))}, 1);
-    add(tr("Previous page"),
-        {QKeySequence(QStringLiteral("Ctrl+Shift+Tab")), QKeySequence(QStringLiteral("Ctrl+PgUp"))}, -1);
+    add(tr("Page used before"), "Ctrl+Tab", [this] { m_switcher->step(1); });
+    add(tr("Page used longest ago"), "Ctrl+Shift+Tab", [this] { m_switcher->step(-1); });
+    add(tr("Next page"), "Ctrl+PgDown", [this] { stepPage(1); });
+    add(tr("Previous page"), "Ctrl+PgUp", [this] { stepPage(-1); });
 }
 
 void WidgetAreaTabbed::stepPage(int step)
@@ -80,6 +87,11 @@ void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
 void WidgetAreaTabbed::setOpenText(const QString& text)
 {
     m_emptyPage->setOpenText(text);
+}
+
+void WidgetAreaTabbed::setEmptyPage(QWidget* page)
+{
+    m_emptyPage->setPage(page);
 }
 
 void WidgetAreaTabbed::setWidgetIcon(QWidget* widget, const QIcon& icon)

@@ -9,6 +9,7 @@ class QPushButton;
 namespace nsModGui {
 
 class EmptyPage;
+class PageSwitcher;
 
 /// The tabbed centre of the main window.
 class WidgetAreaTabbed : public QTabWidget, public WidgetArea
@@ -24,6 +25,8 @@ public:
     void setWidgetIcon(QWidget* widget, const QIcon& icon);
     /// What the area names as open while it has no page; empty if nothing is.
     void setOpenText(const QString& text);
+    /// What it shows below the name while it has no page; see ModGuiHookIf::setEmptyPage().
+    void setEmptyPage(QWidget* page);
 
     // WidgetArea
     void addWidget(const QString& name, QWidget* widget) override;
@@ -38,6 +41,8 @@ public:
 signals:
     /// The user asks to close the page.
     void removeWidgetRequest(QWidget* widget);
+    /// The user wants to see the file of a page in the list of files.
+    void showFileRequested(const QString& path);
     /// @param area this
     /// @param widget the current page, null when the last one was removed
     void currentWidgetChanged(QWidget* area, QWidget* widget);
@@ -59,6 +64,7 @@ private:
 
     QPushButton* m_closeButton;
     EmptyPage* m_emptyPage;
+    PageSwitcher* m_switcher;
 };
 
 } // namespace nsModGui

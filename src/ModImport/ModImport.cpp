@@ -188,6 +188,35 @@ void ModImport::prjOpen()
         m_widget->setPrjPath(modPrjHook->prjDir().absolutePath());
 }
 
+void ModImport::prjOpened()
+{
+    if (!m_opensWithProject)
+        return;
+    m_opensWithProject = false;
+    // Later, when the window has come to rest with the project.
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (modPrjHook != nullptr && modPrjHook->isValid())
+                openImportDialog();
+        },
+        Qt::QueuedConnection);
+}
+
+QList<PrjStep> ModImport::prjSteps()
+{
+    if (modPrjHook == nullptr)
+        return {};
+    if (!modPrjHook->isValid())
+        return {{PrjStep::eOrderStart, false, tr("Import sources..."),
+                 tr("Makes a project and opens the page that converts sources of other assemblers"), [this] {
+                     m_opensWithProject = true;
+                     modPrjHook->showNewProject();
+                 }}};
+    return {{PrjStep::eOrderSource + 1, false, tr("Import sources..."), tr("Converts sources of other assemblers"),
+             [this] { openImportDialog(); }}};
+}
+
 void ModImport::prjClose()
 {
     closeImportDialog();

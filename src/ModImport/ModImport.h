@@ -61,9 +61,10 @@ public:
 
     // ModPrjPluginIf
     void prjOpen() override;
-    void prjOpened() override {}
+    void prjOpened() override;
     void prjSave() override {}
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModGuiPluginIf
     void removeWidgetRequest(QWidget* widget) override;
@@ -92,6 +93,7 @@ private:
     /// Imports that were stopped end here, before the program does. Two, so that a new one need not wait for such.
     QThreadPool m_pool;
     QPointer<ImportProgramDialog> m_programDialog;
+    bool m_opensWithProject = false; ///< the user has asked for an import without a project: the next one gets the page
 };
 
 } // namespace nsModImport

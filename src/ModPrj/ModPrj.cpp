@@ -3,6 +3,7 @@
 #include "DialogParent.h"
 #include "HelpRef.h"
 #include "PrjConfigPage.h"
+#include "PrjHome.h"
 #include "PrjMngrWidget.h"
 
 #include "ModActionHookIf.h"
@@ -13,6 +14,7 @@
 
 #include <QApplication>
 #include <QFileInfo>
+#include <QMenu>
 #include <QMessageBox>
 
 namespace nsModPrj {
@@ -26,6 +28,7 @@ ModPrj::ModPrj(QObject* parent)
 
 ModPrj::~ModPrj()
 {
+    delete m_home;
     delete m_page;
     delete m_prjMngr;
 }
@@ -103,6 +106,9 @@ bool ModPrj::openPrjInGroup(const QString& file)
     prjMngrClose();
     if (!isOpen())
         return false;
+    if (m_home != nullptr)
+        m_home->addRecent(m_project.path());
+    stepsChanged();
     updateCloseAction();
     if (m_page)
         m_page->setConfig(*this);
@@ -157,6 +163,7 @@ bool ModPrj::closePrj()
         m_page->setDefaultConfig();
     m_plugins.forEach([](ModPrjPluginIf* plugin) { plugin->prjClose(); });
     m_closing = false;
+    stepsChanged();
     info(tr("Close project: Done"));
     return true;
 }
@@ -305,6 +312,8 @@ void ModPrj::modInitIntermod()
 {
     if (modScriptHook != nullptr)
         modScriptHook->registerObject(this, QStringLiteral("project"));
+    if (modGuiHook != nullptr)
+        setupHome();
 }
 
 void ModPrj::modRun()
@@ -348,6 +357,12 @@ void ModPrj::modExit()
         prjMngrSetup();
         prjMngrSetMode(eModeOpen);
     }
+    if (modGuiHook != nullptr && m_home != nullptr) {
+        modGuiHook->setEmptyPage(nullptr);
+        modGuiHook->removeWidget(m_home->statusLink());
+    }
+    delete m_home;
+    m_home = nullptr;
     delete m_actions;
     m_actions = nullptr;
 }
@@ -366,6 +381,8 @@ nsModConfig::ModConfigPagePluginIf* ModPrj::configPage(int)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(false);
+    if (m_home != nullptr)
+        m_home->setLocked(true);
     if (m_prjMngr)
         m_prjMngr->setTabsEnabled(false);
     if (modGuiHook == nullptr)
@@ -394,6 +411,8 @@ void ModPrj::configPagesClosed(bool)
 {
     if (m_actions != nullptr)
         m_actions->setEnabled(true);
+    if (m_home != nullptr)
+        m_home->setLocked(false);
     if (m_prjMngr)
         m_prjMngr->setTabsEnabled(true);
     updateCloseAction();
@@ -405,7 +424,10 @@ QList<QAction*> ModPrj::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
     if (m_actions == nullptr || actionClass != ModActionHookIf::eActionClassConfiguration)
         return {};
-    return m_actions->menuActions();
+    QList<QAction*> entries = m_actions->menuActions();
+    if (m_home != nullptr)
+        entries.append(m_home->recentMenu()->menuAction());
+    return entries;
 }
 
 QList<QAction*> ModPrj::toolBarActions(ModActionHookIf::eActionClass_t actionClass)

@@ -22,9 +22,9 @@
 
 namespace nsModPrj {
 
-class PrjMngrWidget;
-
 class PrjConfigPage;
+class PrjHome;
+class PrjMngrWidget;
 
 /// The open project. The module's own tree holds the project's settings; clients read and write their keys in it.
 ///
@@ -118,6 +118,8 @@ public:
     QString prjTitle() override;
     QString prjVersion() override;
     QString prjComment() override;
+    void stepsChanged() override;
+    void showNewProject() override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -164,6 +166,10 @@ private:
     bool saveOpenPrj();
     /// After a failed save at the end of the program.
     bool askToTryAgain();
+    /// prjMngrGenerate() with what the page offers besides.
+    bool generateFromPage(const QString& file, const QString& title);
+    void setupHome();
+    void openProjectByDialog();
     void setWindowTitle();
     void updateCloseAction();
     void info(const QString& text);
@@ -178,6 +184,7 @@ private:
     PrjActions* m_actions = nullptr;   ///< null in a program without menus
     QPointer<PrjConfigPage> m_page;    ///< while the configuration dialog is open
     QPointer<PrjMngrWidget> m_prjMngr; ///< while the project manager is shown
+    PrjHome* m_home = nullptr;         ///< null without a window
     QStringList m_collection;          ///< key "PrjMngr/collection"
     PluginList<ModPrjPluginIf> m_plugins;
 };

@@ -3,6 +3,7 @@
 #include "ModActionHookIf.h"
 #include "ModAsmFeHookIf.h"
 #include "ModCfgAppHookIf.h"
+#include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
 #include "ModMsgHookIf.h"
@@ -113,6 +114,14 @@ void ModProcessor::prjClose()
     ProcPluginIf* leaving = m_current;
     m_current = nullptr;
     detach(leaving);
+}
+
+QList<PrjStep> ModProcessor::prjSteps()
+{
+    if (m_current != nullptr || modPrjHook == nullptr || !modPrjHook->isValid() || modConfigHook == nullptr)
+        return {};
+    return {{PrjStep::eOrderProcessor, true, tr("Choose a processor"), tr("Opens the settings of the processor"),
+             [this] { modConfigHook->openDialog(QStringLiteral("Processor")); }}};
 }
 
 nsModConfig::ModConfigPagePluginIf* ModProcessor::configPage(int)

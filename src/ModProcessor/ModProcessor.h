@@ -61,6 +61,7 @@ public:
     void prjOpened() override {}
     void prjSave() override;
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModGuiPluginIf
     void removeWidgetRequest(QWidget*) override {}

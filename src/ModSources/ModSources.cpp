@@ -3,6 +3,7 @@
 #include "DialogParent.h"
 #include "SourcesConfigPage.h"
 
+#include "ModConfigHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModScriptHookIf.h"
@@ -50,8 +51,47 @@ void ModSources::setFileContentChanged()
     m_plugins.forEach([](ModSourcesPluginIf* plugin) { plugin->srcFileContentChanged(); });
 }
 
+bool ModSources::setFiles(QStringList files)
+{
+    // What the dialog holds would replace it again.
+    if (m_page || modPrjHook == nullptr || !modPrjHook->isValid())
+        return false;
+    QStringList clean;
+    for (const QString& file : files)
+        clean.append(QDir::cleanPath(file));
+    clean.removeDuplicates();
+    if (clean == srcFiles)
+        return true;
+    srcFiles = clean;
+    setFilesListChanged();
+    return true;
+}
+
+/// A settings page of its own, which is never seen, asks for the files and checks them.
+void ModSources::addFilesByDialog(QWidget* parent)
+{
+    if (m_page || modPrjHook == nullptr || !modPrjHook->isValid())
+        return;
+    const QPointer<ModSources> self(this);
+    const QString project = modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName());
+    const QPointer<SourcesConfigPage> page(new SourcesConfigPage(parent));
+    page->hide();
+    page->setConfig(srcFiles, modPrjHook->prjDir());
+    page->addFile();
+    const QStringList files = page ? page->files() : QStringList();
+    const bool isThere = !page.isNull();
+    delete page;
+    // While the dialog was open, the project may have been closed, or another one opened.
+    if (!self || !isThere || modPrjHook == nullptr || !modPrjHook->isValid() ||
+        modPrjHook->prjDir().absoluteFilePath(modPrjHook->prjFileName()) != project)
+        return;
+    setFiles(files);
+}
+
 void ModSources::setFilesListChanged()
 {
+    if (modPrjHook != nullptr)
+        modPrjHook->stepsChanged();
     m_plugins.forEach([](ModSourcesPluginIf* plugin) { plugin->srcFileListChanged(); });
 }
 
@@ -129,6 +169,16 @@ void ModSources::prjClose()
     clearSourcesConfig();
     if (m_page)
         m_page->setConfig(QStringList(), QDir());
+}
+
+QList<PrjStep> ModSources::prjSteps()
+{
+    if (modPrjHook == nullptr || !modPrjHook->isValid() || modConfigHook == nullptr || !srcFiles.isEmpty())
+        return {};
+    // Whoever has no file yet writes one, which the editor offers first.
+    return {{PrjStep::eOrderSource, false, tr("Add sources that exist..."),
+             tr("Opens the list of sources in the settings"),
+             [this] { modConfigHook->openDialog(QStringLiteral("Sources")); }}};
 }
 
 // --- life cycle ---

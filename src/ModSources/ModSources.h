@@ -39,6 +39,8 @@ public:
     bool chkProjectMembership(QString path) override;
     QStringList files() override;
     void setFileContentChanged() override;
+    bool setFiles(QStringList files) override;
+    void addFilesByDialog(QWidget* parent) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -54,6 +56,7 @@ public:
     void prjOpened() override;
     void prjSave() override;
     void prjClose() override;
+    QList<PrjStep> prjSteps() override;
 
     // ModConfigPluginIf
     nsModConfig::ModConfigPagePluginIf* configPage(int index) override;

@@ -44,8 +44,11 @@ public:
     void setDefaultConfig() override;
     bool checkConfig() override;
 
-private slots:
+public slots:
+    /// Asks for files and adds those that may be in the project.
     void addFile();
+
+private slots:
     void removeFile();
     void moveUp();
     void moveDown();

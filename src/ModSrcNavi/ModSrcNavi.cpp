@@ -1,16 +1,25 @@
 #include "ModSrcNavi.h"
 
 #include "Colors.h"
+#include "FileListWidget.h"
+#include "FilePanel.h"
 #include "HelpRef.h"
 #include "NaviWidget.h"
 #include "SrcNaviConfigPage.h"
 
+#include "ModActionHookIf.h"
+#include "ModCfgAppHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
+
+#include <QApplication>
+#include <QMenu>
 
 namespace nsModSrcNavi {
 
 namespace {
+
+const QString keyRecentFiles = QStringLiteral("ModSrcNavi/recentFiles");
 
 /// A label as its line begins with it: without its namespace, with its colon.
 QString labelText(const QString& title)
@@ -25,6 +34,11 @@ QString labelText(const QString& title)
 ModSrcNavi::ModSrcNavi(QObject* parent)
     : QObject(parent)
     , m_naviWidget(new NaviWidget)
+    , m_filePanel(new FilePanel(
+          [this] {
+              return FilePanel::sServices_t{modPrjHook, modSourcesHook, modEditorHook, modGuiHook};
+          },
+          this))
 {
     // Until a project is open there is nothing to navigate in.
     m_naviWidget->setEnabled(false);
@@ -107,8 +121,28 @@ void ModSrcNavi::modRegisterPlugins(QList<ModPluginIf*> modules)
     registerPluginsOf<ModSrcNaviPluginIf>(modules, this);
 }
 
+void ModSrcNavi::modInit()
+{
+    if (modActionHook == nullptr)
+        return;
+    m_actions = new NaviActions(this);
+    m_actions->setEnabled(false);
+    connect(m_actions, qOverload<NaviActions::eAction_t>(&NaviActions::triggered), this, &ModSrcNavi::handleActions);
+}
+
+void ModSrcNavi::modExit()
+{
+    delete m_actions;
+    m_actions = nullptr;
+}
+
 void ModSrcNavi::modInitIntermod()
 {
+    // The list of files first, so that the navigator stays in front.
+    if (modGuiHook != nullptr && m_filePanel->widget() != nullptr) {
+        HelpRef::set(m_filePanel->widget(), QStringLiteral("pageId://fileList"));
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockLeft, m_filePanel->widget(), tr("Files"));
+    }
     connect(m_naviWidget, &NaviWidget::sortModeChanged, this, &ModSrcNavi::sortModeChanged);
     connect(m_naviWidget, &NaviWidget::selected, this, &ModSrcNavi::showSelectedTag);
     connect(Colors::instance(), &Colors::changed, this, [this] {
@@ -157,14 +191,17 @@ void ModSrcNavi::rdAppCfg()
     if (modCfgAppHook == nullptr)
         return;
     rdSrcNaviConfig(modCfgAppHook);
+    m_filePanel->setRecent(modCfgAppHook->value(keyRecentFiles, QStringList()));
     // The settings are read after the panel was placed.
     configureNaviWidget();
 }
 
 void ModSrcNavi::wrAppCfg()
 {
-    if (modCfgAppHook != nullptr)
-        wrSrcNaviConfig(modCfgAppHook);
+    if (modCfgAppHook == nullptr)
+        return;
+    wrSrcNaviConfig(modCfgAppHook);
+    modCfgAppHook->setValue(keyRecentFiles, m_filePanel->recent());
 }
 
 // --- settings dialog ---
@@ -202,13 +239,80 @@ void ModSrcNavi::prjOpen()
 {
     if (m_naviWidget != nullptr)
         m_naviWidget->setEnabled(true);
+    if (m_actions != nullptr)
+        m_actions->setEnabled(true);
+}
+
+void ModSrcNavi::prjOpened()
+{
+    m_filePanel->setProjectOpen(true);
 }
 
 void ModSrcNavi::prjClose()
 {
     clearTagList();
+    m_filePanel->setProjectOpen(false);
     if (m_naviWidget != nullptr)
         m_naviWidget->setEnabled(false);
+    if (m_actions != nullptr)
+        m_actions->setEnabled(false);
+}
+
+// --- files ---
+
+void ModSrcNavi::setTargetFiles(QStringList templates, QStringList outputs, QMap<QString, int> errors)
+{
+    m_filePanel->setTargets(templates, outputs, errors);
+}
+
+void ModSrcNavi::srcFileListChanged()
+{
+    m_filePanel->refreshSoon();
+}
+
+void ModSrcNavi::srcFileContentChanged()
+{
+    m_filePanel->refreshSoon();
+}
+
+void ModSrcNavi::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf*, QWidget* widget)
+{
+    // When the last page was removed there is neither a widget nor a location.
+    if (location == ModGuiHookIf::eLocationTabs || widget == nullptr)
+        m_filePanel->pageShown(widget);
+}
+
+void ModSrcNavi::showFileRequest(QString path)
+{
+    if (modGuiHook == nullptr || m_filePanel->widget() == nullptr)
+        return;
+    modGuiHook->setCurrentWidget(m_filePanel->widget());
+    m_filePanel->select(path);
+    m_filePanel->widget()->setFocus();
+}
+
+QList<QAction*> ModSrcNavi::menuActions(ModActionHookIf::eActionClass_t actionClass)
+{
+    if (m_actions != nullptr && actionClass == ModActionHookIf::eActionClassNavigation)
+        return m_actions->menuActions();
+    if (m_actions != nullptr && actionClass == ModActionHookIf::eActionClassFile)
+        return {m_filePanel->recentMenu()->menuAction()};
+    return {};
+}
+
+void ModSrcNavi::handleActions(NaviActions::eAction_t action)
+{
+    switch (action) {
+    case NaviActions::eActionQuickOpen:
+        m_filePanel->quickOpen(m_tagList, m_naviWidget != nullptr ? m_naviWidget->window() : nullptr);
+        break;
+    case NaviActions::eActionFileList:
+        if (modGuiHook != nullptr && m_filePanel->widget() != nullptr) {
+            modGuiHook->setCurrentWidget(m_filePanel->widget());
+            m_filePanel->widget()->setFocus();
+        }
+        break;
+    }
 }
 
 } // namespace nsModSrcNavi

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
 #include "ModConfigPluginIf.h"
 #include "ModEditorPluginIf.h"
@@ -10,6 +11,7 @@
 #include "ModSourcesPluginIf.h"
 #include "ModSrcNaviHookIf.h"
 #include "ModSrcNaviPluginIf.h"
+#include "NaviActions.h"
 #include "NaviTag.h"
 #include "NaviTagList.h"
 #include "PluginList.h"
@@ -20,10 +22,12 @@
 
 namespace nsModSrcNavi {
 
+class FilePanel;
 class NaviWidget;
 class SrcNaviConfigPage;
 
-/// The source navigator: a table of contents of the sources, as the assembler read them in its last run.
+/// The source navigator: a table of contents of the sources, as the assembler read them in its last run, the list of
+/// the project's files, and quick open.
 class ModSrcNavi : public QObject,
                    public ModSrcNaviHookIf,
                    public ModPluginIf,
@@ -34,6 +38,7 @@ class ModSrcNavi : public QObject,
                    public ModConfigPluginIfDflt,
                    public ModSourcesPluginIf,
                    public ModEditorPluginIf,
+                   public ModActionPluginIf,
                    public SrcNaviConfig
 {
     Q_OBJECT
@@ -48,15 +53,16 @@ public:
     void clearTagList() override;
     void addTag(NaviTag* tag) override;
     void showTagList() override;
+    void setTargetFiles(QStringList templates, QStringList outputs, QMap<QString, int> errors) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
-    void modInit() override {}
+    void modInit() override;
     void modInitIntermod() override;
     void modRun() override {}
     bool modExitRequest() override { return true; }
     void modExitIntermod() override {}
-    void modExit() override {}
+    void modExit() override;
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;
@@ -64,13 +70,18 @@ public:
 
     // ModPrjPluginIf
     void prjOpen() override;
-    void prjOpened() override {}
+    void prjOpened() override;
     void prjSave() override {}
     void prjClose() override;
 
     // ModGuiPluginIf
     void removeWidgetRequest(QWidget*) override {}
-    void setFocus(ModGuiHookIf::eLocation_t, ModGuiPluginIf*, QWidget*) override {}
+    void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) override;
+    void showFileRequest(QString path) override;
+
+    // ModActionPluginIf
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) override;
+    QList<QAction*> toolBarActions(ModActionHookIf::eActionClass_t) override { return {}; }
 
     // ModConfigPluginIf
     nsModConfig::ModConfigPagePluginIf* configPage(int index) override;
@@ -78,8 +89,8 @@ public:
     void configPageClose(bool accepted) override;
 
     // ModSourcesPluginIf
-    void srcFileListChanged() override {}
-    void srcFileContentChanged() override {}
+    void srcFileListChanged() override;
+    void srcFileContentChanged() override;
 
     /// Puts the panel where the settings want it and gives it their look.
     void configureNaviWidget();
@@ -87,13 +98,16 @@ public:
 private slots:
     void sortModeChanged();
     void showSelectedTag(nsModSrcNavi::NaviTag* tag);
+    void handleActions(nsModSrcNavi::NaviActions::eAction_t action);
 
 private:
     ModGuiHookIf::eLocation_t dockLocation() const;
 
     PluginList<ModSrcNaviPluginIf> m_plugins;
     NaviTagList m_tagList;
-    QPointer<NaviWidget> m_naviWidget;        ///< the window may take it along when it goes
+    QPointer<NaviWidget> m_naviWidget; ///< the window may take it along when it goes
+    FilePanel* m_filePanel;
+    NaviActions* m_actions = nullptr;         ///< null in a program without menus
     QPointer<SrcNaviConfigPage> m_configPage; ///< null while the settings dialog is closed
 };
 

@@ -132,6 +132,8 @@ void MyFileSelect::setupPlace(QFileDialog* dialog) const
     if (!path.isEmpty() && info.dir().exists()) {
         dialog->setDirectory(info.dir());
         dialog->selectFile(info.fileName());
+    } else if (path.isEmpty() && !m_startFolder.isEmpty()) {
+        dialog->setDirectory(m_startFolder);
     } else if (!m_base.isEmpty()) {
         dialog->setDirectory(m_base);
     }

@@ -29,6 +29,9 @@ public:
     /// The path: absolute if there is a base folder, else as it stands in the field; empty if the field is.
     QString file() const;
 
+    /// Folder that the file dialog starts in while the field is empty; empty: as without one.
+    void setStartFolder(const QString& folder) { m_startFolder = folder; }
+
     /// What the tool tip of the field says, above the path.
     void setDescription(const QString& description);
     /// The field itself; owned by the selector.
@@ -63,6 +66,7 @@ private:
     MyPathEdit* m_edit = nullptr;
     MyButtonOpenFile* m_button = nullptr;
     QString m_base; ///< folder that the field's path is relative to
+    QString m_startFolder;
     QString m_suffix;
     QString m_title;
     QStringList m_filters;

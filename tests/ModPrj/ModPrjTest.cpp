@@ -466,8 +466,9 @@ TEST(ModPrjBatch, WritesAndAsksNothingByItself)
 TEST_F(ModPrjTest, ActionsStandInTheConfigurationMenu)
 {
     const QList<QAction*> actions = prj.menuActions(ModActionHookIf::eActionClassConfiguration);
-    ASSERT_EQ(actions.size(), 3);
-    EXPECT_EQ(prj.toolBarActions(ModActionHookIf::eActionClassConfiguration), actions);
+    ASSERT_EQ(actions.size(), 4);
+    EXPECT_EQ(prj.toolBarActions(ModActionHookIf::eActionClassConfiguration), actions.mid(0, 3));
+    EXPECT_EQ(actions.last()->text(), str("Recent projects"));
     EXPECT_TRUE(prj.menuActions(ModActionHookIf::eActionClassFile).isEmpty());
     EXPECT_TRUE(prj.toolBarActions(ModActionHookIf::eActionClassHelp).isEmpty());
     const QStringList texts{str("New project..."), str("Open project..."), str("Close project")};

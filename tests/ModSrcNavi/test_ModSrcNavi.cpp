@@ -75,10 +75,11 @@ TEST_F(Module, movesWithItsSettings)
     cfg.setValue("ModSrcNavi/naviWidgetLocation", 2);
     navi.rdAppCfg();
     EXPECT_TRUE(gui.hasWidget(ModGuiHookIf::eLocationDockRight, panel));
-    EXPECT_EQ(gui.widgets.size(), 1);
+    EXPECT_EQ(gui.widgets.size(), 2) << "the list of files, too";
     navi.naviWidgetLocation = 0;
     navi.configureNaviWidget();
-    EXPECT_TRUE(gui.widgets.isEmpty());
+    EXPECT_EQ(gui.widgets.size(), 1);
+    EXPECT_FALSE(gui.widgets.contains(panel));
     EXPECT_FALSE(panel->isVisible());
     navi.naviWidgetLocation = 1;
     navi.configureNaviWidget();
@@ -253,7 +254,7 @@ TEST(ModuleAlone, doesWithoutAnyOther)
     navi.wrAppCfg();
     navi.modExitIntermod();
     navi.modExit();
-    EXPECT_EQ(QApplication::topLevelWidgets().size(), 1);
+    EXPECT_EQ(QApplication::topLevelWidgets().size(), 3) << "the panel, the list of files and its menu";
     for (QWidget* widget : QApplication::topLevelWidgets())
         EXPECT_FALSE(widget->isVisible());
     EXPECT_NE(navi.configPage(0), nullptr);

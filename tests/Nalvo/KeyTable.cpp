@@ -23,6 +23,7 @@ const KeyTable& settingsKeys()
         {"ModEditor/textCompleterPrefixLength", "int", "3", "5"},
         {"ModEditor/textCompleterItemCount", "int", "10", "12"},
         {"ModEditor/highlightSelectionEn", "bool", "1", "0"},
+        {"ModEditor/reloadKeepsUndo", "bool", "0", "1"},
         {"ModEditor/memPageAddrEn", "int", "2", "1"},
         {"ModEditor/cursorBgColor", "color", "#e3ebf3", "#112335"},
         {"ModEditor/highlightBgColor", "color", "#f5caca", "#12263a"},

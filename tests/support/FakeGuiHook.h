@@ -4,6 +4,7 @@
 #include "ModGuiPluginIf.h"
 
 #include <QHash>
+#include <QPointer>
 #include <QStringList>
 #include <QWidget>
 
@@ -81,6 +82,7 @@ public:
     QList<QWidget*> centerWidgetList() override { return center; }
     void setStatusBarText(QString text) override { statusText = text; }
     void clearStatusBarText() override { statusText.clear(); }
+    void setEmptyPage(QWidget* page) override { emptyPage = page; }
 
     /// The first widget with this name, or null.
     QWidget* widgetNamed(const QString& name) const
@@ -98,6 +100,7 @@ public:
     QHash<int, bool> visible;        ///< areas that were shown or hidden
     QList<QWidget*> center;          ///< widgets of the tabs, the most recently current one last
     QString statusText;
+    QPointer<QWidget> emptyPage;
 
 private:
     template <class Plugin>

@@ -63,6 +63,8 @@ public:
     QString prjTitle() override { return title; }
     QString prjVersion() override { return version; }
     QString prjComment() override { return comment; }
+    void stepsChanged() override { ++stepChanges; }
+    void showNewProject() override { ++newProjects; }
 
     /// Opens a project with this file and the present tree.
     bool open(QString file) override
@@ -91,6 +93,8 @@ public:
     FakeTree tree;
     FakeTree saved; ///< the tree as it was when close() emptied it
     int saves = 0;
+    int stepChanges = 0; ///< calls of stepsChanged()
+    int newProjects = 0; ///< calls of showNewProject()
     QString title;
     QString version;
     QString comment;

@@ -39,16 +39,19 @@ public:
     }
 
     /// Sets the list and notifies the clients.
-    void setFiles(const QStringList& list)
+    bool setFiles(QStringList list) override
     {
         srcFiles = list;
         for (ModSourcesPluginIf* plugin : QList<ModSourcesPluginIf*>(plugins))
             plugin->srcFileListChanged();
+        return true;
     }
+    void addFilesByDialog(QWidget*) override { ++addDialogs; }
 
     QStringList srcFiles;
     QStringList asked;      ///< paths of chkProjectMembership(), in order
     bool answerYes = false; ///< knob: what the user answers
     int contentChanges = 0;
+    int addDialogs = 0;
     QList<ModSourcesPluginIf*> plugins;
 };

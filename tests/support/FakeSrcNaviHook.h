@@ -20,7 +20,16 @@ public:
     }
     void addTag(nsModSrcNavi::NaviTag* tag) override { tags.append(tag); }
     void showTagList() override { ++shown; }
+    void setTargetFiles(QStringList templates, QStringList outputs, QMap<QString, int> errors) override
+    {
+        templateFiles = templates;
+        outputFiles = outputs;
+        errorCounts = errors;
+    }
 
     QList<nsModSrcNavi::NaviTag*> tags;
+    QStringList templateFiles;
+    QStringList outputFiles;
+    QMap<QString, int> errorCounts;
     int shown = 0; ///< calls of showTagList()
 };

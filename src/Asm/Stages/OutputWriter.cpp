@@ -153,8 +153,8 @@ bool OutputWriter::mapIODevToFiles(const sTargetKind_t& kind)
         if (!target.en)
             continue;
         any = true;
-        m_listener.runGoesOn();
-        if (!checkTargetFile(target.outputFile) || !writer->writeFile(dev, &m_program.metaTags)) {
+        if (!m_listener.runGoesOn(0) || !checkTargetFile(target.outputFile) ||
+            !writer->writeFile(dev, &m_program.metaTags)) {
             success = false;
             break;
         }

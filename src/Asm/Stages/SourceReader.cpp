@@ -92,8 +92,8 @@ bool SourceReader::parseFile(SrcReference* srcRef, const QString& file)
     while (reader.readLine(&line)) {
         m_lastLineEnded = reader.wasEnded();
         // Often enough for the cursor to appear in time, and seldom enough not to cost time.
-        if ((srcRef->lineNo & 0x3ff) == 0)
-            m_listener.runGoesOn();
+        if ((srcRef->lineNo & 0x3ff) == 0 && !m_listener.runGoesOn(srcRef->absLineNo))
+            return false;
         if (!hasWarned && holdsLoneCarriageReturn(line)) {
             m_messages.signMsg(warnLoneCarriageReturn, srcRef);
             hasWarned = true;

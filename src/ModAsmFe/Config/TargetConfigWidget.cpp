@@ -3,6 +3,7 @@
 #include "MyFieldTitle.h"
 #include "MyFileSelectOpen.h"
 #include "MyFileSelectSave.h"
+#include "ShippedFolder.h"
 
 #include <QCheckBox>
 #include <QFileInfo>
@@ -156,6 +157,9 @@ TargetHdlConfigWidget::TargetHdlConfigWidget(const QString& language, const QStr
     m_templateFile->setNameFilters({filter, tr("Any files(*)")});
     m_templateFile->setDefaultSuffix(suffix);
     m_templateFile->setDescription(tr("File that the contents are filled into"));
+    m_suffix = suffix;
+    m_shipped = ShippedFolder::find(ShippedFolder::programDir(), QStringLiteral("hdlTemplates"));
+    m_templateFile->setStartFolder(m_shipped);
     addEnable(tr("Write the instruction memory into a copy of the template"));
     addField(tr("Entity name:"), m_entityName, tr("Name that the template gets for the memory"));
     addField(tr("Template file:"), m_templateFile, QString());
@@ -181,8 +185,14 @@ void TargetHdlConfigWidget::config(TargetConfig* config) const
 QString TargetHdlConfigWidget::problem() const
 {
     const QString file = m_templateFile->file();
-    if (file.isEmpty())
-        return tr("No template file is given: nothing will be written.");
+    if (file.isEmpty()) {
+        const QString text = tr("No template file is given: nothing will be written.");
+        if (m_shipped.isEmpty())
+            return text;
+        return text + QLatin1Char(' ') +
+               tr("Some ship with the program, such as rom_1kx18.%1 and rom_1kx18_halves.%1: the dialog begins there.")
+                   .arg(m_suffix);
+    }
     if (!QFileInfo(file).isFile())
         return tr("The template file does not exist: nothing can be written.");
     return TargetConfigWidget::problem();

@@ -100,6 +100,8 @@ protected:
 private:
     QLineEdit* m_entityName;
     MyFileSelectOpen* m_templateFile;
+    QString m_suffix;  ///< of templates, without a dot
+    QString m_shipped; ///< folder of the templates that ship with the program; empty if it is missing
 };
 
 /// Settings of the VHDL file.

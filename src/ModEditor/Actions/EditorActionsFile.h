@@ -27,7 +27,10 @@ public:
     explicit EditorActionsFile(QObject* parent);
 
     /// The first two.
-    QList<QAction*> toolBarActions() const override { return actions().mid(0, 2); }
+    QList<QAction*> toolBarActions() const override
+    {
+        return actions().mid(0, 2) + QList<QAction*>{entry(eActionSave)};
+    }
 
 signals:
     void triggered(nsModEditor::EditorActionsFile::eAction_t action);

@@ -210,7 +210,7 @@ void DocumentCommands::reloadFile(EditorWidget* widget)
     }
     QByteArray bytes;
     if (m_documents->contains(widget) && m_services->readFile(path, &bytes))
-        m_sync->showContent(widget, bytes);
+        m_sync->showContent(widget, bytes, m_reloadKeepsUndo);
 }
 
 void DocumentCommands::reloadAllFiles()

@@ -30,6 +30,9 @@ public:
     /// Folder that the next dialog for saving starts in, absolute.
     void setFolder(const QString& folder) { m_lastPath = folder; }
 
+    /// A reload is a step that can be undone; otherwise it forgets all steps.
+    void setReloadKeepsUndo(bool keeps) { m_reloadKeepsUndo = keeps; }
+
     void newFile(const QString& text);
     /// Shows the document of this path, which is opened if it is not yet.
     /// @return null: the reason has been reported, or the user has closed the page again
@@ -79,6 +82,7 @@ private:
     DocumentSync* m_sync;             ///< not owned
     DocumentPages* m_pages;           ///< not owned
     QString m_lastPath;
+    bool m_reloadKeepsUndo = false;
     QHash<EditorWidget*, QString> m_givenUp; ///< texts that the user has agreed to lose
 };
 

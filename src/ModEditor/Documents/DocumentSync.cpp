@@ -78,9 +78,9 @@ void DocumentSync::setContent(EditorWidget* widget, const QByteArray& bytes, boo
     watchDocuments();
 }
 
-void DocumentSync::showContent(EditorWidget* widget, const QByteArray& bytes)
+void DocumentSync::showContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit)
 {
-    setContent(widget, bytes, false);
+    setContent(widget, bytes, asEdit);
     if (widget->format().encoding() == DocumentFormat::eEncodingLatin1 && !widget->isReadOnly())
         m_services->showWarning(tr("File is no UTF-8 text, it is read and written as ISO 8859-1: ") +
                                 widget->filePath());

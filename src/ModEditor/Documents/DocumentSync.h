@@ -28,8 +28,8 @@ public:
     DocumentSync(const OpenDocuments* documents, EditorServices* services, DocumentKeeper* keeper,
                  QObject* parent = nullptr);
 
-    /// After an open or a reload.
-    void showContent(EditorWidget* widget, const QByteArray& bytes);
+    /// After an open or a reload. @param asEdit the new text is a step that can be undone
+    void showContent(EditorWidget* widget, const QByteArray& bytes, bool asEdit = false);
     /// The document gets another file, which is not written yet.
     void setNewPath(EditorWidget* widget, const QString& path);
     /// @return false: the reason has been reported

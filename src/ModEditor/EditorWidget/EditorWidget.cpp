@@ -9,6 +9,7 @@
 #include "EditorWidgetLeftMargin.h"
 #include "HelpRef.h"
 #include "LineCommands.h"
+#include "PageProperties.h"
 #include "TextCompletion.h"
 #include "WordMarks.h"
 
@@ -148,6 +149,7 @@ void EditorWidget::setTextCompleterItemCount(int count)
 void EditorWidget::setFilePath(const QString& path)
 {
     m_filePath = path;
+    setProperty(PageProperties::file, path);
     // They are breakpoints of another file now.
     if (!m_marks.simBreakpoints.lines().isEmpty())
         emit simBreakpointChanged();

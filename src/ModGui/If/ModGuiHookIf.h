@@ -59,4 +59,6 @@ public:
     /// Shows a text in the status bar and keeps it with the current widget of eLocationTabs.
     virtual void setStatusBarText(QString text) = 0;
     virtual void clearStatusBarText() = 0;
+    /// What the centre shows below the name of the program while eLocationTabs has no page; null for a hint of its own.
+    virtual void setEmptyPage(QWidget* page) = 0;
 };

@@ -13,6 +13,8 @@ public:
     /// The current widget of an area has changed.
     /// @param plugin owner of the widget, may be null
     virtual void setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf* plugin, QWidget* widget) = 0;
+    /// The user wants to see this file, which a page of eLocationTabs shows, in the list of files. @param path absolute
+    virtual void showFileRequest(QString path) { Q_UNUSED(path) }
 
     /// Set by the server while the client is registered, null otherwise. Not owned.
     ModGuiHookIf* modGuiHook = nullptr;

@@ -23,7 +23,8 @@ QPixmap splashPixmap()
 } // namespace
 
 SplashScreen::SplashScreen()
-    : QSplashScreen(splashPixmap())
+    // The window is shown after it, and would hide it.
+    : QSplashScreen(splashPixmap(), Qt::WindowStaysOnTopHint)
 {
     setObjectName(QStringLiteral("splashScreen"));
     showMessage(tr("Release %1").arg(QCoreApplication::applicationVersion()),

@@ -52,4 +52,9 @@ public:
     /// the open project may be deleted meanwhile.
     /// @return false: the file can not be read, which was reported; no project is open then
     virtual bool open(QString file) = 0;
+
+    /// Steps of a client have changed: all are asked again, soon.
+    virtual void stepsChanged() = 0;
+    /// Brings up the page that makes new projects.
+    virtual void showNewProject() = 0;
 };

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "PrjStep.h"
+
+#include <QList>
+
 class ModPrjHookIf;
 
 /// A client that takes part in the life of the project.
@@ -19,6 +23,8 @@ public:
     virtual void prjSave() = 0;
     /// The project is closed, its tree is empty: drop what you hold of it.
     virtual void prjClose() = 0;
+    /// What can be done next, also without a project. Asked after ModPrjHookIf::stepsChanged().
+    virtual QList<PrjStep> prjSteps() { return {}; }
 
     /// Set by the server while the client is registered, null otherwise. Not owned.
     ModPrjHookIf* modPrjHook = nullptr;

@@ -91,6 +91,16 @@ void PrjMngrListElementWidget::setPrjInfo(const QString& file, const QString& ti
     m_remove->setAccessibleName(QStringLiteral("%1: %2").arg(m_remove->text(), name));
 }
 
+QWidget* PrjMngrListElementWidget::firstField() const
+{
+    return m_remove;
+}
+
+QWidget* PrjMngrListElementWidget::lastField() const
+{
+    return m_open;
+}
+
 void PrjMngrListElementWidget::mouseDoubleClickEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton)

@@ -21,6 +21,9 @@ public:
     /// @param file absolute path; a long one is shown shortened, and stays whole in prjFile()
     void setPrjInfo(const QString& file, const QString& title, const QString& version, const QString& comment);
     QString prjFile() const { return m_prjFile; }
+    /// The first and the last field that the tab key reaches.
+    QWidget* firstField() const;
+    QWidget* lastField() const;
 
 signals:
     /// @param element this one

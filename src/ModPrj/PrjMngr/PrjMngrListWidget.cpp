@@ -4,6 +4,7 @@
 
 #include "MySectionTitle.h"
 
+#include <QCoreApplication>
 #include <QLabel>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -14,6 +15,7 @@ namespace {
 
 const int gap = 8;
 const int areaMinHeight = 72; ///< pixels
+const int layoutLevels = 6;   ///< from a card to the page
 
 } // namespace
 
@@ -63,12 +65,17 @@ void PrjMngrListWidget::addValid(const QString& prjFile, const QString& title, c
     if (element == nullptr) {
         element = new PrjMngrListElementWidget(m_area->widget());
         m_layout->insertWidget(m_elements.size(), element);
+        // What was made before stands before it in the tab order, also the buttons below the list.
+        if (QWidget* before = lastField())
+            setTabOrder(before, element->firstField());
+        setTabOrder(element->firstField(), element->lastField());
         m_elements.append(element);
         connect(element, &PrjMngrListElementWidget::open, this, &PrjMngrListWidget::openElement);
         connect(element, &PrjMngrListElementWidget::remove, this, &PrjMngrListWidget::removeElement);
     }
     element->setPrjInfo(prjFile, title, version, comment);
     updateHint();
+    emit listChanged();
 }
 
 QStringList PrjMngrListWidget::prjCollection() const
@@ -77,6 +84,32 @@ QStringList PrjMngrListWidget::prjCollection() const
     for (const PrjMngrListElementWidget* element : m_elements)
         collection.append(element->prjFile());
     return collection;
+}
+
+void PrjMngrListWidget::showProject(const QString& prjFile)
+{
+    // A new card gets its place when the layout runs.
+    QMetaObject::invokeMethod(
+        this,
+        [this, prjFile] {
+            for (PrjMngrListElementWidget* element : qAsConst(m_elements)) {
+                if (element->prjFile() != prjFile)
+                    continue;
+                // A layout that changes a size posts the request for the next one.
+                for (int level = 0; level < layoutLevels; ++level)
+                    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+                for (QWidget* above = element->parentWidget(); above != nullptr; above = above->parentWidget()) {
+                    if (auto* area = qobject_cast<QScrollArea*>(above))
+                        area->ensureWidgetVisible(element, 0, gap);
+                }
+            }
+        },
+        Qt::QueuedConnection);
+}
+
+QWidget* PrjMngrListWidget::lastField() const
+{
+    return m_elements.isEmpty() ? nullptr : m_elements.last()->lastField();
 }
 
 void PrjMngrListWidget::openElement(QWidget* element)
@@ -95,6 +128,7 @@ void PrjMngrListWidget::removeElement(QWidget* element)
     // Deleted later, as the call comes from its own button.
     removed->deleteLater();
     updateHint();
+    emit listChanged();
 }
 
 void PrjMngrListWidget::updateHint()

@@ -24,9 +24,15 @@ public:
     void addValid(const QString& prjFile, const QString& title, const QString& version, const QString& comment);
     /// The paths of all listed projects, from top to bottom.
     QStringList prjCollection() const;
+    /// Scrolls to a listed project as soon as it has its place.
+    void showProject(const QString& prjFile);
+    /// The field of the list that the tab key reaches last; null for an empty list.
+    QWidget* lastField() const;
 
 signals:
     void open(QString prjFile);
+    /// Projects were added or removed.
+    void listChanged();
 
 private slots:
     void openElement(QWidget* element);

@@ -1,6 +1,7 @@
 #include "PrjMngrNewWidget.h"
 
 #include "PrjMngrFile.h"
+#include "PrjMngrOptions.h"
 
 #include "MyButton.h"
 #include "MyFieldTitle.h"
@@ -8,6 +9,7 @@
 #include "MyPathEdit.h"
 
 #include <QFileInfo>
+#include <QFocusEvent>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -26,6 +28,7 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     : QWidget(parent)
     , m_file(new MyFileSelectSave(this))
     , m_title(new QLineEdit(this))
+    , m_options(new PrjMngrOptions(this))
     , m_note(new QLabel(this))
     , m_add(new MyButton(tr("Generate and add project to collection"), this))
     , m_open(new MyButton(tr("Generate and open project"), this))
@@ -37,6 +40,8 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     PrjMngrFile::setup(m_file);
     m_title->setObjectName(QStringLiteral("prjMngrNewTitle"));
     m_note->setObjectName(QStringLiteral("pageHint"));
+    m_note->setWordWrap(true);
+    m_note->setTextFormat(Qt::PlainText);
     m_add->setToolTip(tr("Writes the project file and lists the project under Open"));
     m_open->setToolTip(tr("Writes the project file and opens the project"));
 
@@ -58,13 +63,17 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     layout->addWidget(m_file, 0, 1);
     layout->addWidget(titleTitle, 1, 0);
     layout->addWidget(m_title, 1, 1);
-    layout->addWidget(m_note, 2, 0, 1, 2);
-    layout->addLayout(buttons, 3, 0, 1, 2, Qt::AlignLeft);
-    layout->setRowStretch(4, 1);
+    layout->addWidget(m_options, 2, 0, 1, 2);
+    layout->addWidget(m_note, 3, 0, 1, 2);
+    layout->addLayout(buttons, 4, 0, 1, 2, Qt::AlignLeft);
+    layout->setRowStretch(5, 1);
     setFocusProxy(m_file);
+    setTabOrder(m_open, m_add);
 
     connect(m_file, &MyFileSelectSave::fileValidChanged, this, &PrjMngrNewWidget::checkFile);
     connect(m_title, &QLineEdit::textChanged, this, &PrjMngrNewWidget::checkTitle);
+    m_title->installEventFilter(this);
+    connect(m_options, &PrjMngrOptions::changed, this, &PrjMngrNewWidget::updateButtons);
     connect(m_file->pathEdit(), &QLineEdit::returnPressed, this, &PrjMngrNewWidget::hndlReturn);
     connect(m_title, &QLineEdit::returnPressed, this, &PrjMngrNewWidget::hndlReturn);
     connect(m_add, &QPushButton::clicked, this, &PrjMngrNewWidget::requestAdd);
@@ -76,6 +85,12 @@ void PrjMngrNewWidget::clear()
 {
     m_file->setFile(QString(), QString());
     m_title->clear();
+    m_options->clear();
+}
+
+NewProjectOptions PrjMngrNewWidget::options() const
+{
+    return m_options->options();
 }
 
 bool PrjMngrNewWidget::isComplete() const
@@ -86,7 +101,29 @@ bool PrjMngrNewWidget::isComplete() const
 void PrjMngrNewWidget::checkFile()
 {
     m_fileValid = m_file->isValid();
+    // Chosen in the dialog, and not typed.
+    if (!m_file->pathEdit()->hasFocus())
+        suggestTitle();
     updateButtons();
+}
+
+/// Fills in the name of the file, selected, where there is no title yet.
+void PrjMngrNewWidget::suggestTitle()
+{
+    if (!m_fileValid || !m_title->text().isEmpty())
+        return;
+    const QFileInfo info(m_file->file());
+    m_title->setText(info.suffix() == PrjMngrFile::suffix() ? info.completeBaseName() : info.fileName());
+    m_title->selectAll();
+}
+
+bool PrjMngrNewWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    // A click would put the cursor into the suggestion.
+    if (watched == m_title && event->type() == QEvent::FocusIn &&
+        static_cast<QFocusEvent*>(event)->reason() != Qt::MouseFocusReason)
+        suggestTitle();
+    return QWidget::eventFilter(watched, event);
 }
 
 void PrjMngrNewWidget::checkTitle()
@@ -100,8 +137,15 @@ void PrjMngrNewWidget::updateButtons()
     m_add->setEnabled(isComplete());
     m_open->setEnabled(isComplete());
     const bool exists = m_fileValid && QFileInfo::exists(PrjMngrFile::fullPath(m_file->file()));
-    m_note->setText(exists ? tr("This file exists already and would be replaced.")
-                           : tr("A project has a file of its own and a title."));
+    QString note = exists ? tr("This file exists already and would be replaced.")
+                          : tr("A project has a file of its own and a title.");
+    if (m_fileValid) {
+        const QString path = PrjMngrFile::fullPath(m_file->file());
+        const QStringList files = NewProject(path, m_title->text(), options()).files();
+        if (!files.isEmpty())
+            note += QLatin1Char('\n') + tr("Beside it: %1").arg(files.join(QLatin1String(", ")));
+    }
+    m_note->setText(note);
 }
 
 void PrjMngrNewWidget::requestAdd()

@@ -41,6 +41,7 @@ PrjMngrOpenWidget::PrjMngrOpenWidget(QWidget* parent)
     layout->addWidget(m_file, 0, 1);
     layout->addLayout(buttons, 1, 0, 1, 2, Qt::AlignLeft);
     setFocusProxy(m_file);
+    setTabOrder(m_open, m_add);
 
     connect(m_file, &MyFileSelectOpen::fileValid, this, &PrjMngrOpenWidget::setFileValid);
     connect(m_file->pathEdit(), &QLineEdit::returnPressed, this, &PrjMngrOpenWidget::hndlReturn);

@@ -6,11 +6,13 @@
 
 #include "MyButton.h"
 #include "MyButtonCancel.h"
+#include "MyLinkList.h"
 #include "MyPageTitle.h"
 
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -73,6 +75,7 @@ QWidget* PrjMngrWidget::makeOpenTab()
     layout->setSpacing(margin);
     layout->addWidget(m_open);
     layout->addWidget(m_list, 1);
+    m_openLayout = layout;
     tab->setFocusProxy(m_open);
     return tab;
 }
@@ -94,9 +97,19 @@ QWidget* PrjMngrWidget::makeButtons()
     layout->setContentsMargins(margin, gap, margin, gap);
     layout->addStretch(1);
     layout->addLayout(m_buttons);
+    m_save = save;
+    m_cancel = cancel;
+    connect(m_list, &PrjMngrListWidget::listChanged, this, &PrjMngrWidget::orderTabs);
     connect(save, &QPushButton::clicked, this, &PrjMngrWidget::saveAndCloseRequested);
     connect(cancel, &QPushButton::clicked, this, &PrjMngrWidget::cancelRequested);
     return frame;
+}
+
+void PrjMngrWidget::orderTabs()
+{
+    if (QWidget* last = m_list->lastField())
+        setTabOrder(last, m_save);
+    setTabOrder(m_save, m_cancel);
 }
 
 void PrjMngrWidget::resizeEvent(QResizeEvent* event)
@@ -113,6 +126,12 @@ void PrjMngrWidget::setCurrentTab(int index)
     m_tabs->setCurrentIndex(index);
     if (QWidget* tab = m_tabs->currentWidget())
         tab->setFocus();
+}
+
+void PrjMngrWidget::setStartLinks(MyLinkList* links)
+{
+    m_openLayout->insertWidget(0, links);
+    links->setTabBefore(m_tabs->tabBar());
 }
 
 void PrjMngrWidget::setTabsEnabled(bool enabled)

@@ -3,6 +3,7 @@
 #include <QWidget>
 
 class QBoxLayout;
+class MyLinkList;
 class QTabWidget;
 
 namespace nsModPrj {
@@ -26,6 +27,8 @@ public:
 
     /// Brings a tab to the front and gives its first field the focus.
     void setCurrentTab(int index);
+    /// Puts links above what the tab for existing projects holds. @param links owned by the page from now on
+    void setStartLinks(MyLinkList* links);
     /// While the settings dialog is open the tabs are locked.
     void setTabsEnabled(bool enabled);
 
@@ -39,12 +42,17 @@ protected:
 private:
     QWidget* makeOpenTab();
     QWidget* makeButtons();
+    /// The buttons at the lower edge come last in the tab order.
+    void orderTabs();
 
     QTabWidget* m_tabs;
+    QWidget* m_save = nullptr;
+    QWidget* m_cancel = nullptr;
     PrjMngrNewWidget* m_new;
     PrjMngrOpenWidget* m_open;
     PrjMngrListWidget* m_list;
-    QBoxLayout* m_buttons = nullptr; ///< side by side, or in a narrow page one below the other
+    QBoxLayout* m_openLayout = nullptr; ///< of the tab for existing projects
+    QBoxLayout* m_buttons = nullptr;    ///< side by side, or in a narrow page one below the other
 };
 
 } // namespace nsModPrj

@@ -4,6 +4,7 @@
 #include <QStringList>
 
 class ModSourcesPluginIf;
+class QWidget;
 
 /// The ordered list of the project's sources. Served by nsModSources::ModSources.
 class ModSourcesHookIf
@@ -21,4 +22,11 @@ public:
     virtual QStringList files() = 0;
     /// A source was written: notifies all clients.
     virtual void setFileContentChanged() = 0;
+
+    /// Replaces the list: other files, or another order. Notifies all clients if it has changed.
+    /// @param files absolute paths
+    /// @return false: the list is being edited in the settings dialog, or no project is open
+    virtual bool setFiles(QStringList files) = 0;
+    /// Asks for files and adds them as the settings page does: those beneath the project's folder, each once.
+    virtual void addFilesByDialog(QWidget* parent) = 0;
 };

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <QMap>
+#include <QString>
+#include <QStringList>
+
 class ModSrcNaviPluginIf;
 
 namespace nsModSrcNavi {
@@ -20,4 +24,7 @@ public:
     virtual void addTag(nsModSrcNavi::NaviTag* tag) = 0;
     /// All tags of a run are there: shows them.
     virtual void showTagList() = 0;
+    /// What the assembler knows of the project's files, all absolute paths: for the list of files.
+    /// @param errors number of errors of the last run in each source that has some
+    virtual void setTargetFiles(QStringList templates, QStringList outputs, QMap<QString, int> errors) = 0;
 };

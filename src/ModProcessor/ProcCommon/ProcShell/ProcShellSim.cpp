@@ -247,6 +247,8 @@ void ProcShell::setBase(Action::eAction_t action, eBase_t base)
 {
     setActionsEnabled({Action::eActionBaseDec, Action::eActionBaseHex, Action::eActionBaseOct}, true);
     setActionsEnabled({action}, false);
+    if (m_actions != nullptr)
+        m_actions->setBase(action);
     if (m_sim != nullptr)
         m_sim->setBase(base);
 }

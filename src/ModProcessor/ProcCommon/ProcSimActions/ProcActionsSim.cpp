@@ -4,6 +4,13 @@
 
 namespace nsProc {
 
+namespace {
+
+const ProcActionsSim::eAction_t bases[] = {ProcActionsSim::eActionBaseDec, ProcActionsSim::eActionBaseHex,
+                                           ProcActionsSim::eActionBaseOct};
+
+} // namespace
+
 ProcActionsSim::ProcActionsSim(QObject* parent)
     : ActionGroup(parent, ":/ProcCommon/img/simulator/")
 {
@@ -25,6 +32,14 @@ ProcActionsSim::ProcActionsSim(QObject* parent)
         {eActionBaseHex, QT_TR_NOOP("Hex"), QT_TR_NOOP("set numeric base to hexadecimal"), "baseHex"},
         {eActionBaseOct, QT_TR_NOOP("Oct"), QT_TR_NOOP("Set numeric base to octal"), "baseOct"},
     });
+    for (const eAction_t action : bases)
+        entry(action)->setCheckable(true);
+}
+
+void ProcActionsSim::setBase(eAction_t action)
+{
+    for (const eAction_t base : bases)
+        entry(base)->setChecked(base == action);
 }
 
 bool ProcActionsSim::isEnabled(eAction_t action) const

@@ -28,6 +28,8 @@ public:
     explicit ProcActionsSim(QObject* parent = nullptr);
 
     bool isEnabled(eAction_t action) const;
+    /// Checks the entry of the present base. @param action one of the three bases; any other: none is checked
+    void setBase(eAction_t action);
     /// While its command is in progress, the action shows a stop sign; triggering it again stops the command.
     void setStopping(eAction_t action, bool stopping);
 

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QFrame>
+#include <QList>
+#include <QPointer>
+
+class QListWidget;
+class QTabWidget;
+
+namespace nsModGui {
+
+/// Goes through the pages in the order in which they were used last, while Ctrl is held: the pages are listed, each is
+/// shown as it is reached, and their order changes only when Ctrl is let go.
+class PageSwitcher : public QFrame
+{
+    Q_OBJECT
+
+public:
+    /// @param tabs parent of this object
+    explicit PageSwitcher(QTabWidget* tabs);
+
+    /// To the page used before the present one, and on from there. @param step 1, or -1 for the other way round
+    void step(int step);
+    /// Pages, the one used last first.
+    QList<QWidget*> order() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void pageChanged();
+    void begin();
+    void end();
+    void show(int row);
+
+    QTabWidget* m_tabs;
+    QListWidget* m_list;
+    QList<QPointer<QWidget>> m_used;  ///< the one used last first
+    QList<QPointer<QWidget>> m_shown; ///< rows of the list
+    QPointer<QWidget> m_first;        ///< the page in front when it began
+    bool m_isOn = false;
+};
+
+} // namespace nsModGui

@@ -1,0 +1,241 @@
+#include "FilePanel.h"
+
+#include "FileListWidget.h"
+#include "NaviTag.h"
+#include "NaviTagList.h"
+
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModPrjHookIf.h"
+#include "ModSourcesHookIf.h"
+#include "PageProperties.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QFileInfo>
+#include <QMenu>
+
+namespace nsModSrcNavi {
+
+namespace {
+
+const int maxPathLength = 4096; ///< characters
+
+QString fileOf(const QWidget* page)
+{
+    return page != nullptr ? page->property(PageProperties::file).toString() : QString();
+}
+
+} // namespace
+
+FilePanel::FilePanel(std::function<sServices_t()> services, QObject* parent)
+    : QObject(parent)
+    , m_services(std::move(services))
+    , m_widget(new FileListWidget)
+    , m_menu(new QMenu(tr("Recent files")))
+{
+    m_widget->setEnabled(false);
+    m_menu->menuAction()->setEnabled(false);
+    m_menu->menuAction()->setToolTip(tr("Files that were shown last"));
+    connect(m_menu, &QMenu::aboutToShow, this, &FilePanel::fillMenu);
+    connect(m_widget, &FileListWidget::openRequested, this, &FilePanel::open);
+    connect(m_widget, &FileListWidget::addRequested, this, [this] {
+        if (ModSourcesHookIf* sources = m_services().sources)
+            sources->addFilesByDialog(m_widget != nullptr ? m_widget->window() : nullptr);
+    });
+    connect(m_widget, &FileListWidget::removeRequested, this,
+            [this](const QString& file) { changeSources([&file](QStringList* files) { files->removeAll(file); }); });
+    connect(m_widget, &FileListWidget::moveRequested, this, [this](const QString& file, int target) {
+        changeSources([&file, target](QStringList* files) {
+            if (files->removeOne(file))
+                files->insert(qBound(0, target, files->size()), file);
+        });
+    });
+}
+
+/// Changes the list as it is now, which need not be the one that is shown, and shows the result at once.
+void FilePanel::changeSources(const std::function<void(QStringList*)>& change)
+{
+    ModSourcesHookIf* sources = m_services().sources;
+    if (sources == nullptr)
+        return;
+    QStringList files = sources->files();
+    change(&files);
+    sources->setFiles(files);
+    refresh();
+}
+
+FilePanel::~FilePanel()
+{
+    delete m_menu;
+    // A panel inside of the window is deleted by the window.
+    if (m_widget != nullptr && m_widget->parentWidget() == nullptr)
+        delete m_widget;
+}
+
+void FilePanel::setProjectOpen(bool isOpen)
+{
+    m_isOpen = isOpen;
+    if (m_widget == nullptr)
+        return;
+    m_widget->setEnabled(isOpen);
+    if (!isOpen) {
+        m_files = ProjectFiles();
+        m_widget->clear();
+    }
+    refreshSoon();
+}
+
+void FilePanel::setTargets(const QStringList& templates, const QStringList& outputs, const QMap<QString, int>& errors)
+{
+    m_files.templates = templates;
+    m_files.outputs = outputs;
+    m_files.errors = errors;
+    refreshSoon();
+}
+
+void FilePanel::refreshSoon()
+{
+    if (m_refreshes)
+        return;
+    m_refreshes = true;
+    QMetaObject::invokeMethod(
+        this, [this] { refresh(); }, Qt::QueuedConnection);
+}
+
+void FilePanel::refresh()
+{
+    m_refreshes = false;
+    const sServices_t services = m_services();
+    if (m_widget == nullptr || !m_isOpen || services.prj == nullptr)
+        return;
+    m_files.sources = services.sources != nullptr ? services.sources->files() : QStringList();
+    m_files.open.clear();
+    m_files.changed.clear();
+    if (services.gui != nullptr) {
+        for (QWidget* page : services.gui->centerWidgetList()) {
+            const QString file = fileOf(page);
+            if (file.isEmpty())
+                continue;
+            m_files.open.append(file);
+            if (page->property(PageProperties::modified).toBool())
+                m_files.changed.append(file);
+            page->removeEventFilter(this);
+            page->installEventFilter(this);
+        }
+    }
+    m_widget->setFiles(m_files, services.prj->prjDir());
+}
+
+bool FilePanel::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::DynamicPropertyChange)
+        refreshSoon();
+    return QObject::eventFilter(watched, event);
+}
+
+void FilePanel::pageShown(QWidget* page)
+{
+    refreshSoon();
+    const QString file = fileOf(page);
+    if (file.isEmpty())
+        return;
+    m_recent.removeAll(file);
+    m_recent.prepend(file);
+    while (m_recent.size() > maxRecent)
+        m_recent.removeLast();
+    m_menu->menuAction()->setEnabled(m_isOpen);
+}
+
+void FilePanel::setRecent(const QStringList& files)
+{
+    m_recent.clear();
+    for (const QString& file : files) {
+        if (file.size() <= maxPathLength && QDir::isAbsolutePath(file) && !file.contains(QChar(0)) &&
+            !m_recent.contains(file) && m_recent.size() < maxRecent)
+            m_recent.append(file);
+    }
+}
+
+void FilePanel::fillMenu()
+{
+    m_menu->clear();
+    const sServices_t services = m_services();
+    for (const QString& file : qAsConst(m_recent)) {
+        if (services.prj == nullptr || !QFileInfo::exists(file))
+            continue;
+        const QString name = services.prj->convToRelPath(file).replace(QLatin1Char('&'), QLatin1String("&&"));
+        m_menu->addAction(name, this, [this, file] { open(file); });
+    }
+    if (m_menu->isEmpty())
+        m_menu->addAction(tr("None"))->setEnabled(false);
+}
+
+bool FilePanel::select(const QString& file)
+{
+    refresh();
+    return m_widget != nullptr && m_widget->select(file);
+}
+
+void FilePanel::open(const QString& file)
+{
+    if (ModEditorHookIf* editor = m_services().editor)
+        editor->openFile(file);
+}
+
+QVector<QuickOpen::sTarget_t> FilePanel::targets(const NaviTagList& tags) const
+{
+    const sServices_t services = m_services();
+    QVector<QuickOpen::sTarget_t> targets;
+    QStringList files = m_recent;
+    if (services.sources != nullptr)
+        files += services.sources->files();
+    files += m_files.templates;
+    files += m_files.outputs;
+    files.removeDuplicates();
+    for (const QString& file : qAsConst(files)) {
+        const QFileInfo info(file);
+        if (!info.exists())
+            continue;
+        const QString relative = services.prj->convToRelPath(file);
+        QuickOpen::sTarget_t target;
+        target.name = info.fileName();
+        target.detail = relative == target.name ? QString() : relative;
+        target.file = file;
+        targets.append(target);
+    }
+    for (const NaviTag* tag : tags.tagListDocument()) {
+        const bool isSymbol =
+            tag->type == NaviTag::typeLabel || tag->type == NaviTag::typeConstant || tag->type == NaviTag::typeHardware;
+        if (!isSymbol || tag->disabled || tag->title.isEmpty())
+            continue;
+        QuickOpen::sTarget_t target;
+        target.name = tag->title;
+        target.detail = services.prj->convToRelPath(tag->filePath) + QLatin1Char('#') + QString::number(tag->line + 1);
+        target.file = tag->filePath;
+        target.line = tag->line;
+        target.lineRef = tag->lineRef;
+        targets.append(target);
+    }
+    return targets;
+}
+
+void FilePanel::quickOpen(const NaviTagList& tags, QWidget* parent)
+{
+    if (m_services().prj == nullptr || !m_isOpen)
+        return;
+    const QPointer<FilePanel> self(this);
+    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), parent));
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    const QuickOpen::sTarget_t chosen = dialog ? dialog->chosen() : QuickOpen::sTarget_t();
+    delete dialog;
+    ModEditorHookIf* editor = self ? m_services().editor : nullptr;
+    if (!accepted || editor == nullptr || !m_isOpen || chosen.file.isEmpty())
+        return;
+    if (chosen.line < 0)
+        editor->openFile(chosen.file);
+    else
+        editor->setCursorToLine(chosen.file, chosen.line);
+}
+
+} // namespace nsModSrcNavi

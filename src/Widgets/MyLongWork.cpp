@@ -1,0 +1,131 @@
+#include "MyLongWork.h"
+
+#include <QApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QProgressBar>
+#include <QToolButton>
+
+namespace {
+
+const int handleInterval = 50; ///< milliseconds between two looks at the events
+const int barWidth = 80;       ///< pixels
+
+} // namespace
+
+MyLongWork::MyLongWork(const QString& what, std::function<void(QWidget*)> show, std::function<void(QWidget*)> hide,
+                       int delay)
+    : m_what(what)
+    , m_show(std::move(show))
+    , m_hide(std::move(hide))
+    , m_delay(delay)
+{
+    m_timer.start();
+}
+
+MyLongWork::~MyLongWork()
+{
+    hideBar();
+    delete m_bar;
+}
+
+bool MyLongWork::goesOn(const QString& state)
+{
+    if (m_cancelled || m_handles)
+        return !m_cancelled;
+    if (!m_shown) {
+        if (m_timer.elapsed() < m_delay || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
+            return true;
+        showBar();
+    } else if (m_delay > 0 && m_handled.elapsed() < handleInterval) {
+        return true;
+    }
+    if (m_state)
+        m_state->setText(state.isEmpty() ? m_what : QStringLiteral("%1: %2").arg(m_what, state));
+    m_handles = true;
+    qApp->installEventFilter(this);
+    QCoreApplication::processEvents();
+    qApp->removeEventFilter(this);
+    m_handles = false;
+    m_handled.restart();
+    return !m_cancelled;
+}
+
+void MyLongWork::rests()
+{
+    hideBar();
+    m_timer.restart();
+}
+
+void MyLongWork::showBar()
+{
+    if (!m_bar) {
+        m_bar = new QWidget;
+        m_bar->setObjectName(QStringLiteral("longWork"));
+        m_state = new QLabel(m_bar);
+        m_state->setObjectName(QStringLiteral("longWorkState"));
+        auto* progress = new QProgressBar(m_bar);
+        progress->setRange(0, 0);
+        progress->setFixedWidth(barWidth);
+        progress->setTextVisible(false);
+        auto* button = new QToolButton(m_bar);
+        button->setObjectName(QStringLiteral("longWorkCancel"));
+        button->setText(tr("Cancel"));
+        button->setToolTip(tr("Ends the work in progress (Esc)"));
+        button->setCursor(Qt::ArrowCursor);
+        connect(button, &QToolButton::clicked, this, &MyLongWork::cancel);
+        auto* layout = new QHBoxLayout(m_bar);
+        layout->setContentsMargins(8, 0, 4, 0);
+        layout->addWidget(m_state);
+        layout->addWidget(progress);
+        layout->addWidget(button);
+    }
+    m_shown = true;
+    m_show(m_bar);
+}
+
+void MyLongWork::hideBar()
+{
+    if (m_shown && m_bar)
+        m_hide(m_bar);
+    m_shown = false;
+}
+
+void MyLongWork::cancel()
+{
+    m_cancelled = true;
+}
+
+bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+    case QEvent::Shortcut:
+    case QEvent::ShortcutOverride:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+    case QEvent::Close:
+        break;
+    default:
+        return false;
+    }
+    // What a window of the system gets goes on to a widget in it. A question can be answered.
+    if (watched->isWindowType() || QApplication::activeModalWidget() != nullptr ||
+        QApplication::activePopupWidget() != nullptr)
+        return false;
+    const auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget != nullptr && m_bar && (widget == m_bar || m_bar->isAncestorOf(widget)))
+        return false;
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+        cancel();
+    if (event->type() == QEvent::Close)
+        event->ignore();
+    return true;
+}
