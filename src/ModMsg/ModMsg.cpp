@@ -1,5 +1,6 @@
 #include "ModMsg.h"
 
+#include "MsgStatusBar.h"
 #include "MsgViewer.h"
 
 #include "ModGuiHookIf.h"
@@ -21,6 +22,8 @@ ModMsg::~ModMsg()
 {
     if (m_viewer != nullptr && m_viewer->parentWidget() == nullptr)
         delete m_viewer;
+    if (m_statusBar != nullptr && m_statusBar->parentWidget() == nullptr)
+        delete m_statusBar;
 }
 
 void ModMsg::registerPlugin(ModMsgPluginIfInterMod* plugin)
@@ -78,6 +81,7 @@ void ModMsg::clearMessages()
         m_records.clear();
     m_runStart = m_records.size();
     m_viewer->clearMessages();
+    showCounts();
 }
 
 void ModMsg::openMessageGroup(QString text, QUrl hlpDoc)
@@ -98,6 +102,7 @@ void ModMsg::closeMessageGroup(bool success)
         showErrorMessage(tr("Failure"));
     m_isClosing = false;
     m_viewer->closeMessageGroup();
+    showCounts();
 }
 
 void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcFile)
@@ -106,6 +111,8 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
         return;
     if (!m_isClosing && type >= eMsgInfo && type <= eMsgError)
         m_records.push_back({type, text, srcFile});
+    m_viewer->setNextNumber(m_isClosing ? -1 : int(m_records.size()) - 1);
+    const bool isInGroup = m_viewer->groupDepth() > 0;
     switch (type) {
     case eMsgInfo:
         m_viewer->showInfoMessage(text, hlpDoc, srcFile);
@@ -117,6 +124,9 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
         m_viewer->showErrorMessage(text, hlpDoc, srcFile);
         break;
     }
+    // Of a run with thousands of messages the sum at its end does.
+    if (!isInGroup)
+        showCounts();
 }
 
 void ModMsg::showInfoMessage(QString text, QUrl hlpDoc, MsgUrl srcFile)
@@ -172,6 +182,35 @@ void ModMsg::showErrorMessage(QString text, QUrl hlpDoc)
 int ModMsg::messageGroupDepth() const
 {
     return m_viewer != nullptr ? m_viewer->groupDepth() : 0;
+}
+
+QVector<ModMsgHookIf::sMessage> ModMsg::messagesOfRun() const
+{
+    QVector<sMessage> result;
+    for (size_t i = m_runStart; i < m_records.size(); ++i)
+        result.append({m_records[i].grade, m_records[i].text, m_records[i].place, int(i)});
+    return result;
+}
+
+void ModMsg::selectMessage(int row)
+{
+    if (m_viewer != nullptr)
+        m_viewer->selectMessage(row);
+}
+
+void ModMsg::showCounts()
+{
+    if (m_statusBar != nullptr)
+        m_statusBar->setCounts(errorCount(), warningCount());
+}
+
+void ModMsg::showFirstWorst()
+{
+    if (m_viewer == nullptr)
+        return;
+    if (modGuiHook != nullptr)
+        modGuiHook->setCurrentWidget(m_viewer);
+    m_viewer->showFirstWorst();
 }
 
 QVariantList ModMsg::messagesFrom(size_t first) const
@@ -231,10 +270,21 @@ void ModMsg::modInit()
 
 void ModMsg::modInitIntermod()
 {
-    if (modGuiHook != nullptr)
+    if (modGuiHook != nullptr) {
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_viewer, tr("Messages"));
+        m_statusBar = new MsgStatusBar;
+        connect(m_statusBar, &MsgStatusBar::clicked, this, &ModMsg::showFirstWorst);
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusThird, m_statusBar, QString());
+    }
     if (modScriptHook != nullptr)
         modScriptHook->registerObject(this, QStringLiteral("msg"));
+}
+
+void ModMsg::modExitIntermod()
+{
+    if (modGuiHook != nullptr && m_statusBar != nullptr)
+        modGuiHook->removeWidget(m_statusBar);
+    delete m_statusBar;
 }
 
 void ModMsg::showHlpUrl(QUrl url)

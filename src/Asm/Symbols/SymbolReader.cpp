@@ -243,7 +243,7 @@ void SymbolReader::takeValues(const AsmProgram& program)
             symbol.hasValue = opcode != nullptr && opcode->pageAddr >= 0 && opcode->nameSpace == symbol.nameSpace;
             if (symbol.hasValue) {
                 symbol.value = opcode->pageAddr;
-                symbol.page = opcode->memRange - 1;
+                symbol.page = program.geometry.pageCount > 1 ? opcode->memRange - 1 : 0;
             }
         }
     }

@@ -65,9 +65,10 @@ void acceptAsCopy(QDropEvent* event)
 } // namespace
 
 EditorWidget::EditorWidget(QWidget* parent)
-    : QPlainTextEdit(parent)
+    : EditorDocument(parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
+    , m_messageMarks(this)
 {
     m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
@@ -457,6 +458,7 @@ void EditorWidget::contextMenuEvent(QContextMenuEvent* event)
     if (m_supportMenu == nullptr)
         return;
     const QPointer<QMenu> menu(createStandardContextMenu());
+    emit menuRequested(menu);
     m_supportMenu->showMenu(menu, event->globalPos());
     // The document may have been closed meanwhile, and the menu with it.
     delete menu;

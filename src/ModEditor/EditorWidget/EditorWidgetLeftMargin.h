@@ -55,6 +55,8 @@ public:
     void showToolTipAt(const QPoint& pos);
 
 protected:
+    /// Shows the messages about a line as its tip.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     /// Left button on the symbols: toggles a breakpoint, with Ctrl the simulator's start mark, with Shift a bookmark.
     void mousePressEvent(QMouseEvent* event) override;
