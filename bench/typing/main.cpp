@@ -92,6 +92,30 @@ void typeText(QWidget* widget, const QString& text, sTimes* times)
     }
 }
 
+/// New lines with labels, names that open the list of words, comments, and what erases them.
+sTimes typeProgram(QWidget* document)
+{
+    sTimes times;
+    for (int round = 0; round < 60; ++round) {
+        typeText(document, "\nhere" + QString::number(round) + ": load s1, 12\n", &times);
+        // The list of words is open while a name is typed.
+        typeText(document, "call label12", &times);
+        typeKey(document, Qt::Key_Escape, QString(), &times);
+        typeText(document, " ; words of a comment", &times);
+        for (int i = 0; i < 6; ++i)
+            typeKey(document, Qt::Key_Backspace, QStringLiteral("\b"), &times);
+    }
+    return times;
+}
+
+bool writeProject(const QString& source, const QString& project)
+{
+    return write(source, program()) &&
+           write(project, "<project version=\"3\"><sources><srcFiles>main.psm</srcFiles></sources>"
+                          "<ModProcessor><processor>Xilinx PicoBlaze 6</processor></ModProcessor>"
+                          "<XPBlze6><memMap><pageSize>4096</pageSize></memMap></XPBlze6></project>");
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -108,10 +132,7 @@ int main(int argc, char** argv)
     QApplication application(argc, argv);
     const QString source = folder.filePath("main.psm");
     const QString project = folder.filePath("typing.nalvo");
-    if (!write(source, program()) ||
-        !write(project, "<project version=\"3\"><sources><srcFiles>main.psm</srcFiles></sources>"
-                        "<ModProcessor><processor>Xilinx PicoBlaze 6</processor></ModProcessor>"
-                        "<XPBlze6><memMap><pageSize>4096</pageSize></memMap></XPBlze6></project>"))
+    if (!writeProject(source, project))
         return 1;
     char name[] = "nalvo";
     char* arguments[] = {name, nullptr};
@@ -133,16 +154,7 @@ int main(int argc, char** argv)
     document->moveCursor(QTextCursor::EndOfLine);
     QApplication::processEvents();
 
-    sTimes times;
-    for (int round = 0; round < 60; ++round) {
-        typeText(document, "\nhere" + QString::number(round) + ": load s1, 12\n", &times);
-        // The list of words is open while a name is typed.
-        typeText(document, "call label12", &times);
-        typeKey(document, Qt::Key_Escape, QString(), &times);
-        typeText(document, " ; words of a comment", &times);
-        for (int i = 0; i < 6; ++i)
-            typeKey(document, Qt::Key_Backspace, QStringLiteral("\b"), &times);
-    }
+    const sTimes times = typeProgram(document);
     auto* symbols = moduleOf<nsModSymbols::ModSymbols>(&window);
     nsModSymbols::CompletionWords& words = symbols->completionWords();
     std::vector<double> lookups;

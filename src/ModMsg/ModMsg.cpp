@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace nsModMsg {
 
@@ -80,6 +81,7 @@ void ModMsg::clearMessages()
     if (m_viewer->groupDepth() == 0)
         m_records.clear();
     m_runStart = m_records.size();
+    std::fill(std::begin(m_counts), std::end(m_counts), 0);
     m_viewer->clearMessages();
     showCounts();
 }
@@ -102,17 +104,17 @@ void ModMsg::closeMessageGroup(bool success)
         showErrorMessage(tr("Failure"));
     m_isClosing = false;
     m_viewer->closeMessageGroup();
-    showCounts();
 }
 
 void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcFile)
 {
     if (m_viewer == nullptr)
         return;
-    if (!m_isClosing && type >= eMsgInfo && type <= eMsgError)
+    if (!m_isClosing && type >= eMsgInfo && type <= eMsgError) {
         m_records.push_back({type, text, srcFile});
+        ++m_counts[type];
+    }
     m_viewer->setNextNumber(m_isClosing ? -1 : int(m_records.size()) - 1);
-    const bool isInGroup = m_viewer->groupDepth() > 0;
     switch (type) {
     case eMsgInfo:
         m_viewer->showInfoMessage(text, hlpDoc, srcFile);
@@ -124,8 +126,7 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
         m_viewer->showErrorMessage(text, hlpDoc, srcFile);
         break;
     }
-    // Of a run with thousands of messages the sum at its end does.
-    if (!isInGroup)
+    if (type != eMsgInfo)
         showCounts();
 }
 
@@ -237,20 +238,14 @@ QVariantList ModMsg::allMessages() const
     return messagesFrom(0);
 }
 
-int ModMsg::countSinceRun(eMsgType_t grade) const
-{
-    return int(std::count_if(m_records.begin() + std::ptrdiff_t(m_runStart), m_records.end(),
-                             [grade](const sRecord_t& record) { return record.grade == grade; }));
-}
-
 int ModMsg::errorCount() const
 {
-    return countSinceRun(eMsgError);
+    return m_counts[eMsgError];
 }
 
 int ModMsg::warningCount() const
 {
-    return countSinceRun(eMsgWarning);
+    return m_counts[eMsgWarning];
 }
 
 void ModMsg::modRegisterPlugins(QList<ModPluginIf*> modules)

@@ -98,7 +98,6 @@ private:
 
     UrlHndlrList* urlHndlrs(eUrlHndlr_t kind);
     QVariantList messagesFrom(size_t first) const;
-    int countSinceRun(eMsgType_t grade) const;
     void showCounts();
 
     QPointer<MsgViewer> m_viewer;       ///< in the bottom dock, which owns it; ours while it stands nowhere
@@ -107,6 +106,7 @@ private:
     UrlHndlrList m_hlpUrlHndlrs;
     UrlHndlrList m_srcUrlHndlrs;
     std::vector<sRecord_t> m_records;
+    int m_counts[3] = {};     ///< by grade, since the last call of clearMessages()
     size_t m_runStart = 0;    ///< first record since the last call of clearMessages()
     bool m_isClosing = false; ///< the closing line of a group is shown
 };

@@ -12,11 +12,23 @@ MsgStatusBar::MsgStatusBar(QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setToolTip(tr("Errors and warnings since the last run began; a click shows the first of the worst"));
-    setCounts(0, 0);
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &MsgStatusBar::showCounts);
+    showCounts();
 }
 
 void MsgStatusBar::setCounts(int errors, int warnings)
 {
+    m_errors = errors;
+    m_warnings = warnings;
+    if (!m_timer.isActive())
+        m_timer.start(0);
+}
+
+void MsgStatusBar::showCounts()
+{
+    const int errors = m_errors;
+    const int warnings = m_warnings;
     QStringList texts;
     if (errors > 0)
         texts.append(errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors));

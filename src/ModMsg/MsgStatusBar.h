@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QToolButton>
 
 namespace nsModMsg {
@@ -12,8 +13,16 @@ class MsgStatusBar : public QToolButton
 public:
     explicit MsgStatusBar(QWidget* parent = nullptr);
 
-    /// Without any, there is nothing to be seen.
+    /// Without any, there is nothing to be seen. Shown when control returns to the event loop, so that a run with
+    /// thousands of messages stays fast.
     void setCounts(int errors, int warnings);
+
+private:
+    void showCounts();
+
+    QTimer m_timer;
+    int m_errors = 0;
+    int m_warnings = 0;
 };
 
 } // namespace nsModMsg

@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTextBlock>
+#include <QTimer>
 #include <QToolTip>
 
 namespace nsModSymbols {
@@ -38,6 +39,15 @@ DocumentNames::DocumentNames(EditorDocument* document, ModSymbols* module)
         if (!m_isTyped && !m_isTaking)
             hideList();
     });
+}
+
+void DocumentNames::detach()
+{
+    hideList();
+    hideLink();
+    m_document->removeEventFilter(this);
+    m_document->viewport()->removeEventFilter(this);
+    m_document->disconnect(this);
 }
 
 bool DocumentNames::eventFilter(QObject* object, QEvent* event)
@@ -196,9 +206,9 @@ void DocumentNames::takeWord()
         return;
     QString word = m_list->currentWord();
     hideList();
-    const bool isUpper = !m_place.prefix.isEmpty() && m_place.prefix.at(0).isUpper();
+    const bool isLower = !m_place.prefix.isEmpty() && m_place.prefix.at(0).isLower();
     if ((m_place.kinds & wordInstruction) && !word.startsWith('#'))
-        word = isUpper ? word.toUpper() : word;
+        word = isLower ? word.toLower() : word.toUpper();
     m_isTaking = true;
     QTextCursor cursor = m_document->textCursor();
     cursor.beginEditBlock();
@@ -253,8 +263,14 @@ bool DocumentNames::mouseEvent(QMouseEvent* event)
         hideLink();
         int line = 0;
         int column = 0;
-        if (placeAt(event->pos(), &line, &column))
-            m_module->goToDefinition(m_document, line, column);
+        if (placeAt(event->pos(), &line, &column)) {
+            // After the click: opening a file may ask a question, under which the document may be closed.
+            const QPointer<EditorDocument> document(m_document);
+            QTimer::singleShot(0, m_module.data(), [module = m_module.data(), document, line, column] {
+                if (document != nullptr)
+                    module->goToDefinition(document, line, column);
+            });
+        }
         return true;
     }
     default:
@@ -266,7 +282,8 @@ void DocumentNames::showLink(const QPoint& pos)
 {
     int line = 0;
     int column = 0;
-    const bool isName = placeAt(pos, &line, &column) && m_module->symbolAt(m_document, line, column) != nullptr;
+    const bool isName =
+        placeAt(pos, &line, &column) && m_module->symbolAt(m_document, line, column, ProgramNames::eQuick) != nullptr;
     hideLink();
     if (!isName)
         return;

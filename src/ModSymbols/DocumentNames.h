@@ -31,6 +31,8 @@ public:
 
     /// Shows the words that can stand at the cursor, whatever is typed of them.
     void complete();
+    /// The document is about to be deleted.
+    void detach();
 
 protected:
     bool eventFilter(QObject* object, QEvent* event) override;

@@ -160,6 +160,7 @@ DocumentNames* ModSymbols::attach(EditorDocument* document)
 void ModSymbols::documentOpened(EditorDocument* document)
 {
     attach(document);
+    m_names.documentsChanged();
     if (!m_messages.isEmpty())
         m_messages.mark(document);
     // Its addresses are those of the last run, unless they would make those of an edited document valid again.
@@ -171,7 +172,9 @@ void ModSymbols::documentClosing(EditorDocument* document)
 {
     m_history.documentClosing(document);
     m_messages.forget(document);
-    m_documents.remove(document);
+    m_names.documentsChanged();
+    if (DocumentNames* names = m_documents.take(document))
+        names->detach();
 }
 
 void ModSymbols::currentDocumentChanged(EditorDocument* document)
@@ -283,9 +286,10 @@ void ModSymbols::handleCompletionAction()
         attach(document)->complete();
 }
 
-const nsModAsmFe::sSymbol* ModSymbols::symbolAt(const EditorDocument* document, int line, int column)
+const nsModAsmFe::sSymbol* ModSymbols::symbolAt(const EditorDocument* document, int line, int column,
+                                                ProgramNames::eCost_t cost)
 {
-    const int symbol = m_names.symbolAt(document, line, column);
+    const int symbol = m_names.symbolAt(document, line, column, cost);
     return symbol >= 0 ? &m_names.lastTable().symbol(symbol) : nullptr;
 }
 

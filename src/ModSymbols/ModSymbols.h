@@ -96,7 +96,8 @@ public:
     void wrAppCfg() override;
 
     /// The name at a place of a document; null if there is none.
-    const nsModAsmFe::sSymbol* symbolAt(const nsModEditor::EditorDocument* document, int line, int column);
+    const nsModAsmFe::sSymbol* symbolAt(const nsModEditor::EditorDocument* document, int line, int column,
+                                        ProgramNames::eCost_t cost = ProgramNames::eExact);
     /// Goes to where the name at the place is defined. What keeps it from that is said in the status bar.
     void goToDefinition(nsModEditor::EditorDocument* document, int line, int column);
     /// What a tip says about the place; empty for nothing.

@@ -89,6 +89,22 @@ TEST_F(MessagesInText, placesAreMarkedAndMoveWithTheText)
     EXPECT_EQ(gradeOf(other, 1), 2);
 }
 
+TEST_F(MessagesInText, aRunOverUnsavedTextMarksWhatItHasRead)
+{
+    open(wrongMain, wrongOther);
+    document->setCursorPos(0);
+    QTest::keyClick(document, Qt::Key_Return);
+    QTest::keyClicks(document, "; new");
+    QTest::keyClick(document, Qt::Key_Return);
+    action("Run assembler")->trigger();
+    ASSERT_TRUE(document->isModified());
+    EXPECT_EQ(gradeOf(document, 2), -1);
+    EXPECT_EQ(gradeOf(document, 4), 2);
+    EXPECT_EQ(document->messagePlace(0).selectedText(), "nowhere");
+    key(Qt::Key_F8);
+    EXPECT_EQ(place(), "main.psm:5 nowhere");
+}
+
 TEST_F(MessagesInText, f8WalksOverAllDocuments)
 {
     open(wrongMain, wrongOther);
@@ -161,7 +177,7 @@ TEST_F(MessagesInText, theViewEndsAtTheFirstOfTheWorst)
     // The sum stands in the status bar, and leads there.
     auto* counts = window->findChild<nsModMsg::MsgStatusBar*>("msgCounts");
     ASSERT_NE(counts, nullptr);
-    EXPECT_EQ(counts->text(), "60 warnings");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counts->text() == "60 warnings"; }, 60000));
     view->setCurrentItem(nullptr);
     QTest::mouseClick(counts, Qt::LeftButton);
     ASSERT_NE(view->currentItem(), nullptr);
@@ -169,7 +185,7 @@ TEST_F(MessagesInText, theViewEndsAtTheFirstOfTheWorst)
     // With an error, that is worse.
     document->setPlainText("#EQU unused, 1\nLOAD s0, nowhere\n");
     action("Save all")->trigger();
-    EXPECT_TRUE(counts->text().startsWith("1 error"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counts->text().startsWith("1 error"); }, 60000));
     QTest::mouseClick(counts, Qt::LeftButton);
     EXPECT_EQ(view->currentItem()->text(0), "Unsupported argument: nowhere");
 }

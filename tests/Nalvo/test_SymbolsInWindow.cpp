@@ -114,7 +114,7 @@ TEST_F(SymbolsInWindow, ctrlAndAClickGoToTheDefinition)
     move(Qt::ControlModifier, mnemonic + QPoint(6, 0));
     EXPECT_EQ(viewport->cursor().shape(), Qt::IBeamCursor);
     QTest::mouseClick(viewport, Qt::LeftButton, Qt::ControlModifier, point);
-    EXPECT_EQ(place(), "main.psm:1 limit");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return place() == "main.psm:1 limit"; }, 60000));
     EXPECT_EQ(viewport->cursor().shape(), Qt::IBeamCursor);
 }
 

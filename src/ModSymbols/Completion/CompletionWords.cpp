@@ -89,7 +89,20 @@ const sNote navigator[] = {
 
 bool isWordPart(QChar c)
 {
-    return c.isLetterOrNumber() || c == '_' || c == ':' || c == '-';
+    return c.isLetterOrNumber() || c == '_' || c == ':';
+}
+
+/// Where the word at the end of the text begins. Names of character sets contain hyphens, which elsewhere are
+/// operators.
+int wordStart(const QString& text)
+{
+    int start = text.size();
+    while (start > 0 && isWordPart(text.at(start - 1)))
+        --start;
+    int attribute = start;
+    while (attribute > 0 && (isWordPart(text.at(attribute - 1)) || text.at(attribute - 1) == '-'))
+        --attribute;
+    return attribute > 0 && text.at(attribute - 1) == '\'' ? attribute : start;
 }
 
 /// Is the end of the text in the comment, or in a string?
@@ -237,9 +250,7 @@ sCompletionPlace CompletionWords::placeOf(const QString& text)
     if (!m_isMade)
         make();
     sCompletionPlace place;
-    int start = text.size();
-    while (start > 0 && isWordPart(text.at(start - 1)))
-        --start;
+    int start = wordStart(text);
     bool isComment = false;
     bool isString = false;
     scanText(text, &isComment, &isString);

@@ -1,5 +1,7 @@
 #include "MessagePlaces.h"
 
+#include "SourceText.h"
+
 #include "EditorDocument.h"
 #include "ModMsgHookIf.h"
 #include "ModMsgPluginIf.h"
@@ -16,25 +18,10 @@ using nsModEditor::sMessageMark;
 
 namespace {
 
-/// Characters of the line without the comment.
-int codeLength(const QString& line)
-{
-    bool isQuoted = false;
-    for (int i = 0; i < line.size(); ++i) {
-        if (line.at(i) == '\\')
-            ++i;
-        else if (line.at(i) == '"')
-            isQuoted = !isQuoted;
-        else if (line.at(i) == ';' && !isQuoted)
-            return i;
-    }
-    return line.size();
-}
-
 /// The word that a message ends with, if it stands in the line; else all of the code.
 void findPiece(const QString& line, const QString& message, sMessageMark* mark)
 {
-    int end = codeLength(line);
+    int end = SourceText::codeLength(line);
     while (end > 0 && line.at(end - 1).isSpace())
         --end;
     const int colon = message.lastIndexOf(QLatin1String(": "));
@@ -78,16 +65,23 @@ void MessagePlaces::clear()
 void MessagePlaces::mark(EditorDocument* document)
 {
     QVector<sMessageMark> marks;
+    QVector<int> lines;
     const QString path = document->filePath();
     for (const sMessage& message : qAsConst(m_messages)) {
         if (message.path != path)
             continue;
         sMessageMark mark;
         mark.grade = sMessageMark::eGrade_t(message.grade);
-        mark.line = message.line;
         mark.text = message.text;
-        findPiece(document->document()->findBlockByNumber(message.line).text(), message.text, &mark);
         marks.append(mark);
+        lines.append(message.line);
+    }
+    // The run has read the file, not what the document has of its own.
+    if (!marks.isEmpty() && document->document()->isModified())
+        lines = SourceText::movedLines(SourceText::onDisk(path), document->text(), lines);
+    for (int i = 0; i < marks.size(); ++i) {
+        marks[i].line = lines.at(i);
+        findPiece(document->document()->findBlockByNumber(lines.at(i)).text(), marks.at(i).text, &marks[i]);
     }
     document->setMessageMarks(marks);
     m_marked.insert(document);

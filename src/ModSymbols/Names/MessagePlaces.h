@@ -27,7 +27,7 @@ public:
     /// Takes the messages of the run that has ended.
     void take();
     void clear();
-    /// Marks the places of a document, which is as the run has read it.
+    /// Marks the places of a document.
     void mark(nsModEditor::EditorDocument* document);
     void forget(const nsModEditor::EditorDocument* document) { m_marked.remove(document); }
 

@@ -1,8 +1,8 @@
 #include "ProgramNames.h"
 
 #include "EditorDocument.h"
+#include "SourceText.h"
 #include "SymbolReader.h"
-#include "Utf8.h"
 
 #include "AsmFeLineHndlr.h"
 #include "ModAsmFeHookIf.h"
@@ -13,7 +13,6 @@
 #include "ModSourcesPluginIf.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QTextBlock>
 
@@ -23,6 +22,9 @@ using nsModAsmFe::SymbolTable;
 using nsModEditor::EditorDocument;
 
 namespace {
+
+/// Characters of all sources that are read anew for a tip; more would take too long while the pointer moves.
+const int quickSize = 1 << 19;
 
 bool isNamePart(QChar c)
 {
@@ -109,17 +111,7 @@ QString ProgramNames::textOf(const QString& path) const
 {
     if (const EditorDocument* document = documentOf(path))
         return document->text();
-    QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
-        return QString();
-    const QByteArray bytes = file.readAll();
-    QString text;
-    if (!Utf8::decode(bytes, &text))
-        text = QString::fromLatin1(bytes);
-    // As a document shows it.
-    if (text.startsWith(QChar(QChar::ByteOrderMark)))
-        text.remove(0, 1);
-    return text.remove('\r');
+    return SourceText::onDisk(path);
 }
 
 const SymbolTable& ProgramNames::table()
@@ -155,14 +147,26 @@ int ProgramNames::fileOf(const QString& path)
     return path.isEmpty() ? -1 : table().files.indexOf(path);
 }
 
-int ProgramNames::symbolAt(const EditorDocument* document, int line, int column)
+/// Is the name of the symbol, or a namespace, what the place has?
+bool ProgramNames::isStill(const nsModAsmFe::sSymbolPlace& place, const QString& line) const
 {
-    const int file = fileOf(document->filePath());
+    const nsModAsmFe::sSymbol& symbol = m_table.symbol(place.symbol);
+    return symbol.kind == nsModAsmFe::symbolFile || symbol.name.endsWith(line.midRef(place.column, place.length));
+}
+
+int ProgramNames::symbolAt(const EditorDocument* document, int line, int column, eCost_t cost)
+{
+    int size = 0;
+    for (const QString& text : qAsConst(m_texts))
+        size += text.size();
+    const bool isKept = cost == eQuick && m_hasTable && size > quickSize;
+    const int file = isKept ? m_table.files.indexOf(document->filePath()) : fileOf(document->filePath());
     if (file < 0)
         return -1;
-    if (const nsModAsmFe::sSymbolPlace* place = m_table.placeAt(file, line, column))
-        return place->symbol;
     const QString text = document->document()->findBlockByNumber(line).text();
+    const nsModAsmFe::sSymbolPlace* place = m_table.placeAt(file, line, column);
+    if (place != nullptr && isStill(*place, text))
+        return place->symbol;
     if (isOutsideOfCode(text, column))
         return -1;
     QString name = wordAt(text, column);

@@ -24,6 +24,9 @@ namespace nsModSymbols {
 class ProgramNames
 {
 public:
+    /// May a look-up take what was read before the last edits, where the sources are large?
+    enum eCost_t { eExact, eQuick };
+
     /// Reads the hooks at each call; each of them may be missing. Not owned.
     ProgramNames(const ModAsmFePluginIf* assembler, const ModEditorPluginIf* editor, const ModSourcesPluginIf* sources);
 
@@ -35,11 +38,13 @@ public:
     int fileOf(const QString& path);
     /// The name at a place of a document; -1 if there is none. What only the text has, such as a name in a line that a
     /// condition skips, is found by its name alone.
-    int symbolAt(const nsModEditor::EditorDocument* document, int line, int column);
+    int symbolAt(const nsModEditor::EditorDocument* document, int line, int column, eCost_t cost = eExact);
     sTextPlace placeOf(const nsModAsmFe::sSymbolPlace& place);
     /// The text of a line.
     QString lineText(int file, int line);
 
+    /// Documents were opened or closed.
+    void documentsChanged() { m_hasTable = false; }
     /// A run has ended: notes what it has read.
     void runEnded();
     /// Why the last run says nothing about the present text, as a sentence; empty if it does.
@@ -65,6 +70,7 @@ private:
     sVersion versionOf(const QString& path) const;
     static sVersion versionOnDisk(const QString& path);
     QString textOf(const QString& path) const;
+    bool isStill(const nsModAsmFe::sSymbolPlace& place, const QString& line) const;
 
     const ModAsmFePluginIf* m_assembler;
     const ModEditorPluginIf* m_editor;

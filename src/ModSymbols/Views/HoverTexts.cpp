@@ -2,6 +2,7 @@
 
 #include "NumberText.h"
 #include "ProgramNames.h"
+#include "SourceText.h"
 
 #include "AsmFeLineHndlr.h"
 #include "AsmFeParseArg.h"
@@ -30,21 +31,6 @@ bool isWordPart(QChar c)
     return c.isLetterOrNumber() || c == '_' || c == '#';
 }
 
-/// Characters of the line without the comment.
-int codeLength(const QString& line)
-{
-    bool isQuoted = false;
-    for (int i = 0; i < line.size(); ++i) {
-        if (line.at(i) == '\\')
-            ++i;
-        else if (line.at(i) == '"')
-            isQuoted = !isQuoted;
-        else if (line.at(i) == ';' && !isQuoted)
-            return i;
-    }
-    return line.size();
-}
-
 QString paragraph(const QString& text)
 {
     return QStringLiteral("<div>%1</div>").arg(text.toHtmlEscaped());
@@ -58,7 +44,7 @@ QString HoverTexts::tipAt(const EditorDocument* document, int line, int column)
     for (const QString& message : document->messagesAt(line))
         tip += paragraph(message);
     const QString text = document->document()->findBlockByNumber(line).text();
-    if (column >= codeLength(text))
+    if (column >= SourceText::codeLength(text))
         return tip;
     int start = column;
     while (start > 0 && isWordPart(text.at(start - 1)))
@@ -90,7 +76,7 @@ QString HoverTexts::tipAt(const EditorDocument* document, int line, int column)
 
 QString HoverTexts::symbolText(const EditorDocument* document, int line, int column, int* number, bool* isNumber)
 {
-    const int index = m_names->symbolAt(document, line, column);
+    const int index = m_names->symbolAt(document, line, column, ProgramNames::eQuick);
     if (index < 0)
         return QString();
     const nsModAsmFe::sSymbol& symbol = m_names->lastTable().symbol(index);
