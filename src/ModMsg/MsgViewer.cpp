@@ -355,6 +355,16 @@ void MsgViewer::contextMenuEvent(QContextMenuEvent* event)
     delete menu;
 }
 
+bool MsgViewer::event(QEvent* event)
+{
+    // Here the key copies messages, whatever it does in the window.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        event->accept();
+        return true;
+    }
+    return QTreeWidget::event(event);
+}
+
 void MsgViewer::keyPressEvent(QKeyEvent* event)
 {
     if (event->matches(QKeySequence::Copy)) {

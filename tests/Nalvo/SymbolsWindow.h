@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStatusBar>
 #include <QTextBlock>
 
 /// A project of two sources in the window, for tests of what documents know of the program.
@@ -97,6 +98,13 @@ protected:
             if (candidate->text() == text)
                 return candidate;
         }
+        // Those of a processor do not belong to the window.
+        for (const QMenu* menu : window->findChildren<QMenu*>()) {
+            for (QAction* candidate : menu->actions()) {
+                if (candidate->text() == text)
+                    return candidate;
+            }
+        }
         return nullptr;
     }
     EditorWidget* current() const
@@ -129,7 +137,7 @@ protected:
     }
     QString statusText() const
     {
-        QStringList texts;
+        QStringList texts{window->statusBar()->currentMessage()};
         for (const QLabel* label : window->findChildren<QLabel*>())
             texts.append(label->text());
         return texts.join('\n');

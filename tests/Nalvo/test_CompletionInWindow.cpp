@@ -126,10 +126,10 @@ TEST_F(CompletionInWindow, theListIsWalkedByKeys)
     QTest::keyClick(document, Qt::Key_Up);
     EXPECT_EQ(list()->currentWord(), all.last());
     screenshot("completionList", list());
-    // Typing goes on, and so does erasing.
-    type("1");
-    EXPECT_EQ(words(), QStringList("SR1"));
+    // Erasing and typing go on in the list.
     QTest::keyClick(document, Qt::Key_Backspace);
+    EXPECT_GT(words().size(), all.size());
+    type("R");
     EXPECT_EQ(words(), all);
     QTest::keyClick(document, Qt::Key_Left);
     EXPECT_EQ(list(), nullptr);

@@ -88,6 +88,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     connect(m_textDocument, SIGNAL(modificationChanged(bool)), this, SLOT(setModified()));
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(setMemPageAddrInvalid(int)));
     m_leftMargin = new EditorWidgetLeftMargin(this);
+    m_leftMargin->setMessageMarks(&m_messageMarks);
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(updateLeftMarginWidth()));
     connect(this, SIGNAL(updateRequest(QRect, int)), this, SLOT(updateLeftMargin(QRect, int)));
     updateLeftMarginWidth();

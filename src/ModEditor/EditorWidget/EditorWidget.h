@@ -160,7 +160,6 @@ public:
     void setMessageMarks(const QVector<sMessageMark>& marks) override;
     QStringList messagesAt(int line) const override { return m_messageMarks.texts(line); }
     QTextCursor messagePlace(int index) const override { return m_messageMarks.place(index); }
-    const MessageMarks& messageMarks() const { return m_messageMarks; }
 
     // ---- Margin (EditorWidgetMargin.cpp); widths in pixels, 0 for a column that is off
     void setLineNumberEn(bool enabled);

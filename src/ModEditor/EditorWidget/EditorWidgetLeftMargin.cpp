@@ -220,7 +220,7 @@ void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& blo
         painter->fillRect(QRect(breakpointX, top, symbolWidth, symbolHeight), m_breakpointColor);
     if (m_editor->marks().bookmarks.contains(line))
         painter->fillRect(QRect(bookmarkX, top, symbolWidth, symbolHeight), m_bookmarkColor);
-    const int grade = m_editor->messageMarks().gradeOf(block);
+    const int grade = m_messageMarks != nullptr ? m_messageMarks->gradeOf(block) : -1;
     if (grade >= 0) {
         const int left = symbolColumnWidth() + addrColumnWidth() + 1;
         const int rowHeight = qRound(m_editor->blockBoundingRect(block).height());
