@@ -122,6 +122,13 @@ protected:
     }
     void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
+        // A dialog has taken the focus along.
+        if (QApplication::activeWindow() == nullptr) {
+            window->activateWindow();
+            EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
+            if (current() != nullptr)
+                current()->setFocus();
+        }
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus != nullptr ? focus : window.get(), Qt::Key(key), modifiers);
     }

@@ -189,6 +189,8 @@ TEST_F(SymbolsInWindow, usagesStandInAList)
     setCursorInto(document, "start");
     key(Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(usageRows(), QStringList({"main.psm:4|Definition|start: LOAD s0, limit", "main.psm:7|Use|JUMP start"}));
+    // Nothing is to be asked at the close.
+    document->clearModified();
     module<nsModPrj::ModPrj>()->closePrj();
     EXPECT_TRUE(QTest::qWaitFor([this] { return usages() == nullptr; }, 60000));
 }
