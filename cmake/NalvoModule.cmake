@@ -33,7 +33,7 @@ set(NALVO_CORES NalvoImport NalvoSim NalvoProc NalvoAsm NalvoSyscall NalvoFilter
 
 # The modules of the program, in the order in which the window creates them. Faces without a module are found by their folders.
 set(NALVO_MODULES ModMsg ModPrj ModSources ModProcessor ModAsmFe ModSyscall ModEditor ModSrcNavi ModHlp ModNetwork ModSwUpdate ModAction
-                  ModArgs ModCfgApp ModClipboard ModConfig ModFindReplace ModGui ModTemplates ModScript ModImport ModFonts)
+                  ModArgs ModCfgApp ModClipboard ModConfig ModFindReplace ModGui ModTemplates ModScript ModImport ModFonts ModSymbols)
 file(GLOB NALVO_FACES CONFIGURE_DEPENDS RELATIVE "${CMAKE_SOURCE_DIR}/src" "${CMAKE_SOURCE_DIR}/src/Mod*/If")
 list(TRANSFORM NALVO_FACES REPLACE "/If$" "")
 

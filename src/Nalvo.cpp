@@ -22,6 +22,7 @@
 #include "ModSources.h"
 #include "ModSrcNavi.h"
 #include "ModSwUpdate.h"
+#include "ModSymbols.h"
 #include "ModSyscall.h"
 #include "ModTemplates.h"
 #include "Unattended.h"
@@ -86,6 +87,7 @@ void Nalvo::makeModules()
     m_phases.append(m_modScript);
     m_phases.append(new nsModImport::ModImport(this));
     m_phases.append(new nsModFonts::ModFonts(this));
+    m_phases.append(new nsModSymbols::ModSymbols(this));
 }
 
 void Nalvo::handleArgs()

@@ -34,6 +34,8 @@ public:
     QString tag(eTag_t tag) const { return tagView(tag).toString(); }
     /// The same without a copy; valid until the next line is split.
     QStringView tagView(eTag_t tag) const { return QStringView(m_line).mid(m_tags[tag].start, m_tags[tag].length); }
+    /// The position of a tag in the line.
+    int tagStart(eTag_t tag) const { return m_tags[tag].start; }
     bool isEmpty(eTag_t tag) const { return m_tags[tag].length == 0; }
     QString line() const { return m_line; }
     /// All tags in their order. White space after Arg1 is lost.

@@ -14,6 +14,7 @@
 #include "SourceReader.h"
 #include "StringEncoder.h"
 #include "SymbolChecker.h"
+#include "SymbolReader.h"
 
 #include <QDateTime>
 
@@ -259,6 +260,16 @@ void Assembler::runExternalPrograms(AsmFeConfig::eAssembleEvent_t event)
     m_messages.openGroup(AsmFeMsgHndlr::tr("Executing external programs..."));
     m_runSucceeded = m_listener->runExternalPrograms(event);
     m_messages.closeGroup(m_runSucceeded);
+}
+
+SymbolTable Assembler::symbols(const QVector<sSymbolSource>& sources) const
+{
+    SymbolReader reader(m_words, m_config, m_project);
+    SymbolTable table = reader.read(sources, m_backend != nullptr ? m_backend->processorDefine() : QString(),
+                                    m_running ? nullptr : &m_program);
+    table.processor = m_backend != nullptr ? m_backend->processorName() : QString();
+    table.isAssembled = m_assembled && !m_running;
+    return table;
 }
 
 void Assembler::setupMetaTags()

@@ -8,6 +8,7 @@
 #include "AsmProjectInfo.h"
 #include "AsmRunListener.h"
 #include "AsmWords.h"
+#include "SymbolTable.h"
 
 #include <QStringList>
 
@@ -17,6 +18,7 @@ class AsmBackend;
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
 struct AsmBeProgram;
+struct sSymbolSource;
 
 /// The assembler: from the sources on the disk to the output files.
 ///
@@ -69,6 +71,10 @@ public:
     const AsmProgram& program() const { return m_program; }
     /// Output files that the last run has written, absolute, in order.
     const QStringList& writtenFiles() const { return m_program.writtenFiles; }
+
+    /// The names in these sources with all their places, and the values that they have in the program of the last run.
+    /// Reads all lines once more: some milliseconds for ten thousand. Not during a run.
+    SymbolTable symbols(const QVector<sSymbolSource>& sources) const;
 
     const AsmWords& words() const { return m_words; }
     AsmCharsets& charsets() { return m_charsets; }

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "SymbolTable.h"
+
+#include <QVector>
+
 class ModAsmFePluginIf;
 class ModAsmFePluginIfBackend;
 class ModAsmFePluginIfInterMod;
@@ -8,12 +12,14 @@ namespace nsModAsmFe {
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
 class AsmFeParseArg;
+class AsmWords;
 class EquList;
 class IODevList;
 class LabelList;
 class OpcodeList;
 class OrgList;
 class SetList;
+struct sSymbolSource;
 } // namespace nsModAsmFe
 
 /// The assembled program and the assembler's settings. Served by nsModAsmFe::ModAsmFe.
@@ -55,4 +61,16 @@ public:
     virtual nsModAsmFe::AsmFeParseArg* parseArg() = 0;
     /// Check of the interrupt vector: 0 error if no instruction stands there, 1 warning, 2 no check.
     virtual int asmBehaviorChkIntVector() = 0;
+
+    /// The names in these sources with all their places, as they stand now, and the values that they have in the
+    /// program of the last run. Takes some milliseconds for ten thousand lines.
+    virtual nsModAsmFe::SymbolTable symbolTable(const QVector<nsModAsmFe::sSymbolSource>&) { return {}; }
+    /// The words with a meaning, of language and processor; null if the server knows none. Owned by the server.
+    virtual const nsModAsmFe::AsmWords* words() { return nullptr; }
+    /// Names of all character sets that a string can be encoded in.
+    virtual QStringList charsetNames() { return {}; }
+    /// Hands the addresses of the program over to the editor once more, for documents that came later than the run.
+    virtual void handOverAddresses() {}
+    /// Fills the list of constants, as a run for outputs does.
+    virtual void showEquList() {}
 };

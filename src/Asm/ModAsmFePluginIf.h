@@ -11,6 +11,9 @@ class ModAsmFePluginIf
 public:
     virtual ~ModAsmFePluginIf() = default;
 
+    /// A run has ended, whatever it came to. Its messages stand in the view.
+    virtual void asmRunEnded() {}
+
     /// Set by the server while the client is registered, null otherwise. Not owned.
     ModAsmFeHookIf* modAsmFeHook = nullptr;
 };

@@ -4,6 +4,7 @@
 
 #include <QString>
 #include <QUrl>
+#include <QVector>
 
 class ModMsgPluginIf;
 class ModMsgPluginIfInterMod;
@@ -52,4 +53,19 @@ public:
                                   nsModMsg::MsgUrl srcFile = nsModMsg::MsgUrl()) = 0;
     /// Number of groups that are open. A server without groups has none.
     virtual int messageGroupDepth() const { return 0; }
+
+    /// A message that stands in the view.
+    struct sMessage
+    {
+        eMsgType_t grade = eMsgInfo;
+        QString text;
+        QUrl place;  ///< source link, may be empty
+        int row = 0; ///< for selectMessage()
+    };
+
+    /// The messages since clearMessages() was called last, in their order; without groups and their closing lines.
+    virtual QVector<sMessage> messagesOfRun() const { return {}; }
+    /// Shows a message in the view as the one that the user is at. The focus stays.
+    /// @param row of a message that stands in the view
+    virtual void selectMessage(int) {}
 };

@@ -109,6 +109,11 @@ public:
     AsmFeMsgHndlr* msgHndlr() override { return m_msgHndlr; }
     AsmFeParseArg* parseArg() override { return &m_assembler.parseArg(); }
     int asmBehaviorChkIntVector() override { return behaviorChkIntVector; }
+    SymbolTable symbolTable(const QVector<sSymbolSource>& sources) override { return m_assembler.symbols(sources); }
+    const AsmWords* words() override { return &m_assembler.words(); }
+    QStringList charsetNames() override { return m_assembler.charsets().names(); }
+    void handOverAddresses() override;
+    void showEquList() override;
 
     // ModConfigPluginIf
     nsModConfig::ModConfigPagePluginIf* configPage(int index) override;

@@ -73,6 +73,7 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
         modMsgHook->showWarningMessage(tr("The run was cancelled."));
     showFiles();
     showWritten();
+    m_plugins.forEach([](ModAsmFePluginIf* plugin) { plugin->asmRunEnded(); });
     // Later, so that runs that each cause the next one leave the user a way to stop them.
     if (m_missedEvent != nothingMissed)
         QMetaObject::invokeMethod(
@@ -270,6 +271,18 @@ bool ModAsmFe::runExternalPrograms(eAssembleEvent_t event)
     const bool goesOn = modSyscallHook->run(sysCallEvent);
     m_programsRun = false;
     return goesOn;
+}
+
+void ModAsmFe::handOverAddresses()
+{
+    if (m_assembler.isAssembled() && !m_assembler.isRunning())
+        addressesMapped();
+}
+
+void ModAsmFe::showEquList()
+{
+    if (m_assembler.isAssembled() && !m_assembler.isRunning())
+        refreshEquList();
 }
 
 void ModAsmFe::refreshEquList()

@@ -61,14 +61,15 @@ void EditorConfigPage::addFormating(MyPageLayout* layout)
 void EditorConfigPage::addTextCompletion(MyPageLayout* layout)
 {
     layout->addSection(tr("Text completion"));
-    m_textCompletionEn = addCheck(layout, "textCompletionEn", tr("Text completion enable:"),
-                                  tr("For the completion of words, which this release does not offer yet"));
+    m_textCompletionEn =
+        addCheck(layout, "textCompletionEn", tr("Text completion enable:"),
+                 tr("Off: the list of words does not come while you type, whatever the menu Edit says"));
     m_textCompleterPrefixLength = addNumber(layout, "textCompleterPrefixLength", tr("Text completion prefix length:"),
-                                            tr("For the completion of words: how many typed characters it begins with"),
+                                            tr("How many typed characters the list of words begins with"),
                                             tr(" characters"), EditorConfig::maxPrefixLength);
-    m_textCompleterItemCount = addNumber(layout, "textCompleterItemCount", tr("Completion list proposal count:"),
-                                         tr("For the completion of words: how many proposals are seen at once"),
-                                         QString(), EditorConfig::maxItemCount);
+    m_textCompleterItemCount =
+        addNumber(layout, "textCompleterItemCount", tr("Completion list proposal count:"),
+                  tr("How many words of the list are seen at once"), QString(), EditorConfig::maxItemCount);
 }
 
 void EditorConfigPage::addHighlighting(MyPageLayout* layout)

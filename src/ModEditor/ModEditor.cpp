@@ -88,6 +88,7 @@ void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
     registerPluginsOf<ModEditorPluginIf>(modules, this);
     registerPluginsOf<ModEditorPluginIfInterMod>(modules, this);
     registerPluginsOf<ModEditorPluginIfSimulator>(modules, this);
+    registerPluginsOf<ModEditorPluginIfText>(modules, this);
 }
 
 void ModEditor::modInit()
@@ -228,6 +229,29 @@ void ModEditor::unregisterPlugin(ModEditorPluginIfSimulator* plugin)
         return;
     plugin->modEditorHook = nullptr;
     m_simulator = nullptr;
+}
+
+void ModEditor::registerPlugin(ModEditorPluginIfText* plugin)
+{
+    m_documents->watchers().add(plugin);
+}
+
+void ModEditor::unregisterPlugin(ModEditorPluginIfText* plugin)
+{
+    m_documents->watchers().remove(plugin);
+}
+
+QList<EditorDocument*> ModEditor::documents()
+{
+    QList<EditorDocument*> documents;
+    for (EditorWidget* widget : m_documents->all())
+        documents.append(widget);
+    return documents;
+}
+
+EditorDocument* ModEditor::currentDocument()
+{
+    return m_documents->current();
 }
 
 void ModEditor::rdAppCfg()

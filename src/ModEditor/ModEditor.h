@@ -35,6 +35,7 @@ class DocumentCommands;
 class DocumentKeeper;
 class DocumentSync;
 class EditorConfigPage;
+class EditorDocument;
 class EditorMemPageAddrMap;
 class EditorRecovery;
 class EditorServices;
@@ -110,6 +111,14 @@ public:
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
     int simBreakpointsRevision() override { return m_simBreakpointsRevision; }
+    void registerPlugin(ModEditorPluginIfText* plugin) override;
+    void unregisterPlugin(ModEditorPluginIfText* plugin) override;
+    QList<EditorDocument*> documents() override;
+    EditorDocument* currentDocument() override;
+    sCompletionConfig completionConfig() override
+    {
+        return {textCompletionEn, textCompleterPrefixLength, textCompleterItemCount};
+    }
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;

@@ -124,6 +124,7 @@ void ModEditor::handleActions(EditorActionsSim::eAction_t action)
 
 void ModEditor::setActionState(EditorWidget* current)
 {
+    m_documents->reportCurrent(current);
     if (m_actionsFile == nullptr)
         return;
     if (!m_documents->contains(current))

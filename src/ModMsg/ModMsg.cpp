@@ -1,5 +1,6 @@
 #include "ModMsg.h"
 
+#include "MsgStatusBar.h"
 #include "MsgViewer.h"
 
 #include "ModGuiHookIf.h"
@@ -9,6 +10,7 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <iterator>
 
 namespace nsModMsg {
 
@@ -21,6 +23,8 @@ ModMsg::~ModMsg()
 {
     if (m_viewer != nullptr && m_viewer->parentWidget() == nullptr)
         delete m_viewer;
+    if (m_statusBar != nullptr && m_statusBar->parentWidget() == nullptr)
+        delete m_statusBar;
 }
 
 void ModMsg::registerPlugin(ModMsgPluginIfInterMod* plugin)
@@ -77,7 +81,9 @@ void ModMsg::clearMessages()
     if (m_viewer->groupDepth() == 0)
         m_records.clear();
     m_runStart = m_records.size();
+    std::fill(std::begin(m_counts), std::end(m_counts), 0);
     m_viewer->clearMessages();
+    showCounts();
 }
 
 void ModMsg::openMessageGroup(QString text, QUrl hlpDoc)
@@ -104,8 +110,11 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
 {
     if (m_viewer == nullptr)
         return;
-    if (!m_isClosing && type >= eMsgInfo && type <= eMsgError)
+    if (!m_isClosing && type >= eMsgInfo && type <= eMsgError) {
         m_records.push_back({type, text, srcFile});
+        ++m_counts[type];
+    }
+    m_viewer->setNextNumber(m_isClosing ? -1 : int(m_records.size()) - 1);
     switch (type) {
     case eMsgInfo:
         m_viewer->showInfoMessage(text, hlpDoc, srcFile);
@@ -117,6 +126,8 @@ void ModMsg::showMessage(eMsgType_t type, QString text, QUrl hlpDoc, MsgUrl srcF
         m_viewer->showErrorMessage(text, hlpDoc, srcFile);
         break;
     }
+    if (type != eMsgInfo)
+        showCounts();
 }
 
 void ModMsg::showInfoMessage(QString text, QUrl hlpDoc, MsgUrl srcFile)
@@ -174,6 +185,35 @@ int ModMsg::messageGroupDepth() const
     return m_viewer != nullptr ? m_viewer->groupDepth() : 0;
 }
 
+QVector<ModMsgHookIf::sMessage> ModMsg::messagesOfRun() const
+{
+    QVector<sMessage> result;
+    for (size_t i = m_runStart; i < m_records.size(); ++i)
+        result.append({m_records[i].grade, m_records[i].text, m_records[i].place, int(i)});
+    return result;
+}
+
+void ModMsg::selectMessage(int row)
+{
+    if (m_viewer != nullptr)
+        m_viewer->selectMessage(row);
+}
+
+void ModMsg::showCounts()
+{
+    if (m_statusBar != nullptr)
+        m_statusBar->setCounts(errorCount(), warningCount());
+}
+
+void ModMsg::showFirstWorst()
+{
+    if (m_viewer == nullptr)
+        return;
+    if (modGuiHook != nullptr)
+        modGuiHook->setCurrentWidget(m_viewer);
+    m_viewer->showFirstWorst();
+}
+
 QVariantList ModMsg::messagesFrom(size_t first) const
 {
     static const char* const grades[] = {"info", "warning", "error"};
@@ -198,20 +238,14 @@ QVariantList ModMsg::allMessages() const
     return messagesFrom(0);
 }
 
-int ModMsg::countSinceRun(eMsgType_t grade) const
-{
-    return int(std::count_if(m_records.begin() + std::ptrdiff_t(m_runStart), m_records.end(),
-                             [grade](const sRecord_t& record) { return record.grade == grade; }));
-}
-
 int ModMsg::errorCount() const
 {
-    return countSinceRun(eMsgError);
+    return m_counts[eMsgError];
 }
 
 int ModMsg::warningCount() const
 {
-    return countSinceRun(eMsgWarning);
+    return m_counts[eMsgWarning];
 }
 
 void ModMsg::modRegisterPlugins(QList<ModPluginIf*> modules)
@@ -231,10 +265,21 @@ void ModMsg::modInit()
 
 void ModMsg::modInitIntermod()
 {
-    if (modGuiHook != nullptr)
+    if (modGuiHook != nullptr) {
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_viewer, tr("Messages"));
+        m_statusBar = new MsgStatusBar;
+        connect(m_statusBar, &MsgStatusBar::clicked, this, &ModMsg::showFirstWorst);
+        modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusThird, m_statusBar, QString());
+    }
     if (modScriptHook != nullptr)
         modScriptHook->registerObject(this, QStringLiteral("msg"));
+}
+
+void ModMsg::modExitIntermod()
+{
+    if (modGuiHook != nullptr && m_statusBar != nullptr)
+        modGuiHook->removeWidget(m_statusBar);
+    delete m_statusBar;
 }
 
 void ModMsg::showHlpUrl(QUrl url)

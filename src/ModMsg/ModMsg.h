@@ -14,6 +14,7 @@
 
 namespace nsModMsg {
 
+class MsgStatusBar;
 class MsgViewer;
 
 /// The message service: shows what the modules report in the view at the bottom of the window, and passes clicked links
@@ -44,6 +45,8 @@ public:
     void showErrorMessage(QString text, QUrl hlpDoc, MsgUrl srcFile) override;
 
     int messageGroupDepth() const override;
+    QVector<sMessage> messagesOfRun() const override;
+    void selectMessage(int row) override;
 
     // What scripts call.
     Q_INVOKABLE void openMessageGroup(QString text);
@@ -70,7 +73,7 @@ public:
     void modInitIntermod() override;
     void modRun() override {}
     bool modExitRequest() override { return true; }
-    void modExitIntermod() override {}
+    void modExitIntermod() override;
     void modExit() override {}
 
     // ModGuiPluginIf: the view stays where it is.
@@ -80,6 +83,7 @@ public:
 private slots:
     void showHlpUrl(QUrl url);
     void showSrcUrl(QUrl url);
+    void showFirstWorst();
 
 private:
     using UrlHndlrList = PluginList<ModMsgPluginIfUrlHndlr>;
@@ -94,13 +98,15 @@ private:
 
     UrlHndlrList* urlHndlrs(eUrlHndlr_t kind);
     QVariantList messagesFrom(size_t first) const;
-    int countSinceRun(eMsgType_t grade) const;
+    void showCounts();
 
-    QPointer<MsgViewer> m_viewer; ///< in the bottom dock, which owns it; ours while it stands nowhere
+    QPointer<MsgViewer> m_viewer;       ///< in the bottom dock, which owns it; ours while it stands nowhere
+    QPointer<MsgStatusBar> m_statusBar; ///< null without a window
     PluginList<ModMsgPluginIf> m_plugins;
     UrlHndlrList m_hlpUrlHndlrs;
     UrlHndlrList m_srcUrlHndlrs;
     std::vector<sRecord_t> m_records;
+    int m_counts[3] = {};     ///< by grade, since the last call of clearMessages()
     size_t m_runStart = 0;    ///< first record since the last call of clearMessages()
     bool m_isClosing = false; ///< the closing line of a group is shown
 };

@@ -3,9 +3,15 @@
 #include "HelpRef.h"
 #include "MsgItemDelegate.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QMouseEvent>
+#include <QPointer>
+#include <QTreeWidgetItemIterator>
 
 namespace nsModMsg {
 
@@ -16,6 +22,9 @@ const char* const iconPaths[] = {
     ":/ModMsg/img/msgWarning.png",
     ":/ModMsg/img/msgError.png",
 };
+
+/// Role under which the first column keeps the number of its message.
+const int numberRole = Qt::UserRole + 1;
 
 const QString helpPage = QStringLiteral("pageId://messageView");
 
@@ -34,6 +43,8 @@ MsgViewer::MsgViewer(QWidget* parent)
     setAlternatingRowColors(true);
     setAnimated(true);
     setUniformRowHeights(true);
+    // Several rows can be copied at once.
+    setSelectionMode(QAbstractItemView::ExtendedSelection);
     setMouseTracking(true);
     setItemDelegate(new MsgItemDelegate(this));
     for (int grade = ModMsgHookIf::eMsgInfo; grade <= ModMsgHookIf::eMsgError; ++grade)
@@ -80,6 +91,8 @@ void MsgViewer::resetGroups()
     m_groups.clear();
     m_currentParent = invisibleRootItem();
     m_newest = nullptr;
+    m_firstWorst = nullptr;
+    m_worst = ModMsgHookIf::eMsgInfo;
 }
 
 void MsgViewer::dropNewest(const QModelIndex&, int, int)
@@ -103,6 +116,10 @@ QTreeWidgetItem* MsgViewer::makeItem(eMsgType_t grade, const QString& text, cons
 void MsgViewer::openMessageGroup(const QString& text, const QUrl& hlpDoc)
 {
     QTreeWidgetItem* item = makeItem(ModMsgHookIf::eMsgInfo, text, hlpDoc);
+    if (m_currentParent == invisibleRootItem()) {
+        m_firstWorst = nullptr;
+        m_worst = ModMsgHookIf::eMsgInfo;
+    }
     m_currentParent->addChild(item);
     m_currentParent = item;
     m_groups.insert(item, ModMsgHookIf::eMsgInfo);
@@ -122,6 +139,9 @@ void MsgViewer::closeMessageGroup()
     m_groups.remove(m_currentParent);
     QTreeWidgetItem* parent = m_currentParent->parent();
     m_currentParent = parent != nullptr ? parent : invisibleRootItem();
+    // What a run ends with is its worst message, and not its last line.
+    if (m_currentParent == invisibleRootItem() && m_firstWorst != nullptr)
+        m_newest = m_firstWorst;
     scheduleUpdate();
 }
 
@@ -175,8 +195,14 @@ void MsgViewer::showMessage(eMsgType_t grade, const QString& text, const QUrl& h
         item->setText(eColumnSourceLink, source);
         item->setData(eColumnSourceLink, urlRole, static_cast<const QUrl&>(srcFile));
     }
+    if (m_number >= 0)
+        item->setData(eColumnMessage, numberRole, m_number);
     m_currentParent->addChild(item);
     m_newest = item;
+    if (grade > m_worst && m_currentParent != invisibleRootItem()) {
+        m_worst = grade;
+        m_firstWorst = item;
+    }
     scheduleUpdate();
     emit contentChanged(this);
 }
@@ -246,8 +272,107 @@ void MsgViewer::handleClick(QTreeWidgetItem* item, int column)
         emit srcUrlClicked(url);
 }
 
+void MsgViewer::showItem(QTreeWidgetItem* item)
+{
+    if (item == nullptr)
+        return;
+    for (QTreeWidgetItem* group = item->parent(); group != nullptr; group = group->parent())
+        group->setExpanded(true);
+    setCurrentItem(item);
+    m_newest = item;
+    scheduleUpdate();
+}
+
+void MsgViewer::selectMessage(int number)
+{
+    for (QTreeWidgetItemIterator it(this); *it != nullptr; ++it) {
+        const QVariant own = (*it)->data(eColumnMessage, numberRole);
+        if (own.isValid() && own.toInt() == number) {
+            showItem(*it);
+            return;
+        }
+    }
+}
+
+QTreeWidgetItem* MsgViewer::firstOf(eMsgType_t grade) const
+{
+    for (QTreeWidgetItemIterator it(const_cast<MsgViewer*>(this)); *it != nullptr; ++it) {
+        const bool isMessage = (*it)->data(eColumnMessage, numberRole).isValid();
+        if (isMessage && (*it)->icon(eColumnMessage).cacheKey() == m_icons[grade].cacheKey())
+            return *it;
+    }
+    return nullptr;
+}
+
+void MsgViewer::showFirstWorst()
+{
+    QTreeWidgetItem* error = firstOf(ModMsgHookIf::eMsgError);
+    showItem(error != nullptr ? error : firstOf(ModMsgHookIf::eMsgWarning));
+}
+
+QString MsgViewer::textOf(bool isSelectedOnly) const
+{
+    QString text;
+    for (QTreeWidgetItemIterator it(const_cast<MsgViewer*>(this)); *it != nullptr; ++it) {
+        const QTreeWidgetItem* item = *it;
+        if (isSelectedOnly && !item->isSelected())
+            continue;
+        QString line = item->text(eColumnMessage);
+        if (!isSelectedOnly) {
+            for (const QTreeWidgetItem* group = item->parent(); group != nullptr; group = group->parent())
+                line.prepend(QLatin1String("    "));
+        }
+        if (!item->text(eColumnSourceLink).isEmpty())
+            line += QLatin1Char('\t') + item->text(eColumnSourceLink);
+        text += line + QLatin1Char('\n');
+    }
+    return text;
+}
+
+QString MsgViewer::selectedText() const
+{
+    return textOf(true);
+}
+
+QString MsgViewer::allText() const
+{
+    return textOf(false);
+}
+
+void MsgViewer::contextMenuEvent(QContextMenuEvent* event)
+{
+    const QPointer<QMenu> menu(new QMenu(this));
+    const auto add = [&](const QString& title, const QString& text) {
+        QAction* entry = menu->addAction(title);
+        entry->setEnabled(!text.isEmpty());
+        // The text of now: messages can come while the menu is open.
+        connect(entry, &QAction::triggered, entry, [text] { QApplication::clipboard()->setText(text); });
+        return entry;
+    };
+    add(tr("Copy"), selectedText())->setShortcut(QKeySequence::Copy);
+    add(tr("Copy all"), allText());
+    menu->exec(event->globalPos());
+    // The view may have gone meanwhile, and the menu with it.
+    delete menu;
+}
+
+bool MsgViewer::event(QEvent* event)
+{
+    // Here the key copies messages, whatever it does in the window.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent*>(event)->matches(QKeySequence::Copy)) {
+        event->accept();
+        return true;
+    }
+    return QTreeWidget::event(event);
+}
+
 void MsgViewer::keyPressEvent(QKeyEvent* event)
 {
+    if (event->matches(QKeySequence::Copy)) {
+        QApplication::clipboard()->setText(selectedText());
+        event->accept();
+        return;
+    }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
         handleClick(currentItem(), currentColumn());
         event->accept();

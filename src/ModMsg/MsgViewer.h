@@ -39,6 +39,15 @@ public:
     void clearMessages();
     /// Number of groups that are open.
     int groupDepth() const;
+    /// The next message gets this number; -1: none.
+    void setNextNumber(int number) { m_number = number; }
+    /// Makes the message of this number the current one and scrolls to it.
+    void selectMessage(int number);
+    /// The same for the first message of the worst grade.
+    void showFirstWorst();
+    /// The selected rows, or all of them, as text: a line each, indented by depth, links behind a tabulator.
+    QString selectedText() const;
+    QString allText() const;
 
 signals:
     void hlpUrlClicked(QUrl url);
@@ -48,8 +57,10 @@ signals:
     void contentChanged(QWidget* widget);
 
 protected:
+    bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
 
 private slots:
     void handleClick(QTreeWidgetItem* item, int column);
@@ -67,11 +78,17 @@ private:
     void scheduleUpdate();
     void updateView();
     QTreeWidgetItem* scrollTarget() const;
+    QString textOf(bool isSelectedOnly) const;
+    QTreeWidgetItem* firstOf(eMsgType_t grade) const;
+    void showItem(QTreeWidgetItem* item);
 
     QIcon m_icons[3];                             ///< by grade
     QTreeWidgetItem* m_currentParent = nullptr;   ///< where new items go: the open group, or the invisible root item
     QHash<QTreeWidgetItem*, eMsgType_t> m_groups; ///< every group not yet closed, with its worst state so far
     QTreeWidgetItem* m_newest = nullptr;          ///< item to scroll to, null when that has been done
+    QTreeWidgetItem* m_firstWorst = nullptr;      ///< of the messages since a first group was opened
+    eMsgType_t m_worst = ModMsgHookIf::eMsgInfo;  ///< its grade
+    int m_number = -1;                            ///< of the next message; -1 for none
     QTimer m_updateTimer;
     qint64 m_updateCost = 0; ///< milliseconds that the last update took
 };

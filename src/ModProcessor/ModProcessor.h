@@ -11,11 +11,16 @@
 #include "ModPrjPluginIf.h"
 #include "ModScriptPluginIf.h"
 #include "ProcConfig.h"
+#include "SimValuesIf.h"
 
 #include <QObject>
 #include <QStringList>
 
 #include <memory>
+
+namespace nsProc {
+class ProcSim;
+}
 
 namespace nsModProcessor {
 
@@ -39,6 +44,7 @@ class ModProcessor : public QObject,
                      public ModEditorPluginIfInterMod,
                      public ModAsmFePluginIfInterMod,
                      public ModActionPluginIfInterMod,
+                     public SimValuesIf,
                      public ProcConfig
 {
     Q_OBJECT
@@ -73,6 +79,12 @@ public:
     bool configPageCloseRequest() override;
     void configPageClose(bool accept) override;
 
+    // SimValuesIf
+    bool isSimulating() override;
+    bool registerValue(const QString& name, int* value) override;
+    bool scratchpadValue(int addr, int* value) override;
+    bool portValue(int addr, int* value) override;
+
     /// Attaches the processor that the present configuration names, or none.
     void setupProcessorIf();
     /// Attaches the processor in place of the present one. The same one again keeps its state.
@@ -94,6 +106,7 @@ public:
     Q_INVOKABLE bool select(const QString& name);
 
 private:
+    nsProc::ProcSim* sim() const;
     void attach(ProcPluginIf* processor);
     void detach(ProcPluginIf* processor);
 

@@ -78,6 +78,7 @@ const KeyTable& settingsKeys()
         {"ModEditor/font/keyWords/weight", "int", "75", "50"},
         {"ModEditor/font/keyWords/italic", "bool", "0", "1"},
         {"ModEditor/font/keyWords/color", "color", "#000000", "#26629e"},
+        {"ModSymbols/completionEn", "bool", "0", "1"},
         {"ModHlp/hlpIndexSideRight", "int", "2", "0"},
         {"ModHlp/showGettingStarted", "bool", "1", "0"},
         {"ModHlp/showOnlyOneHelpPage", "bool", "1", "0"},

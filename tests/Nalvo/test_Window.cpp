@@ -58,7 +58,8 @@ TEST_F(MainWindowFixture, ModulesStandInTheirOrder)
                             "nsModTemplates::ModTemplates",
                             "nsModScript::ModScript",
                             "nsModImport::ModImport",
-                            "nsModFonts::ModFonts"};
+                            "nsModFonts::ModFonts",
+                            "nsModSymbols::ModSymbols"};
     QStringList present;
     for (ModPluginIf* candidate : window->modules()) {
         auto* object = dynamic_cast<QObject*>(candidate);

@@ -8,6 +8,7 @@
 #include "AsmRunListener.h"
 #include "LineReader.h"
 #include "Opcode.h"
+#include "SymbolReader.h"
 
 #include <QIODevice>
 
@@ -56,6 +57,15 @@ bool SourceReader::parseFiles(const QStringList& sources)
             return false;
     }
     return true;
+}
+
+void SourceReader::parseForWatch(int fileNo, const QString& file, SourceLineWatch* watch)
+{
+    m_watch = watch;
+    SrcReference srcRef;
+    srcRef.fileNo = fileNo;
+    parseFile(&srcRef, file);
+    m_watch = nullptr;
 }
 
 /// @return no conditional and no namespace is open; else reported
@@ -134,6 +144,8 @@ bool SourceReader::parseLine(SrcReference* srcRef, const QString& line)
     }
     if (m_conditionals.isSkipping())
         return true;
+    if (m_watch != nullptr)
+        m_watch->lineRead(*srcRef, m_line, m_directives.nameSpace());
     if (!parseLineDirectiveLabel(srcRef))
         return false;
     if (m_line.isEmpty(AsmFeLineHndlr::eTagInstruction))

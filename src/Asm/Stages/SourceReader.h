@@ -17,6 +17,7 @@ class AsmFeConfig;
 class AsmFeFileHndlr;
 class AsmFeMsgHndlr;
 class AsmRunListener;
+class SourceLineWatch;
 struct AsmProgram;
 
 /// Reads the sources line by line into the program: labels, instructions, directives. One object reads one run.
@@ -34,6 +35,8 @@ public:
     /// @param sources absolute paths in project order
     /// @return false after a reported error
     bool parseFiles(const QStringList& sources);
+    /// Reads a single source for a watch. @param fileNo its number, for the places of its lines
+    void parseForWatch(int fileNo, const QString& file, SourceLineWatch* watch);
 
 private:
     bool parseFile(SrcReference* srcRef, const QString& file);
@@ -52,7 +55,8 @@ private:
     ConditionalParser m_conditionals;
     DirectiveParser m_directives;
     NaviTagReader m_naviTags;
-    bool m_lastLineEnded = true; ///< the last line of the file has a line end
+    SourceLineWatch* m_watch = nullptr; ///< not owned; null for none
+    bool m_lastLineEnded = true;        ///< the last line of the file has a line end
 };
 
 } // namespace nsModAsmFe

@@ -23,24 +23,32 @@ bool SymbolChecker::isValidName(const QString& name)
     });
 }
 
-/// The rule for the name of a label or an `#EQU`.
-bool SymbolChecker::checkName(const SrcReference* srcRef, const QString& name)
+bool SymbolChecker::mayBeNamed(const AsmWords& words, const QString& name, eMsgType_t* fault)
 {
     const QString upper = name.toUpper();
-    if (m_words.isInstruction(upper))
-        m_messages.signMsg(errLblIsOpcode, srcRef, name);
-    else if (m_words.isArgument(upper))
-        m_messages.signMsg(errLblIsOpcodeArg, srcRef, name);
-    else if (m_words.regs().contains(name))
-        m_messages.signMsg(errLblIsReg, srcRef, name);
-    else if (m_words.banks().contains(name))
-        m_messages.signMsg(errLblIsPage, srcRef, name);
+    if (words.isInstruction(upper))
+        *fault = errLblIsOpcode;
+    else if (words.isArgument(upper))
+        *fault = errLblIsOpcodeArg;
+    else if (words.regs().contains(name))
+        *fault = errLblIsReg;
+    else if (words.banks().contains(name))
+        *fault = errLblIsPage;
     else if (AsmFeParseArg::isNumeric(name))
-        m_messages.signMsg(errLblIsNumeric, srcRef, name);
+        *fault = errLblIsNumeric;
     else if (!isValidName(name))
-        m_messages.signMsg(errUnallowedCharsInName, srcRef, name);
+        *fault = errUnallowedCharsInName;
     else
         return true;
+    return false;
+}
+
+bool SymbolChecker::checkName(const SrcReference* srcRef, const QString& name)
+{
+    eMsgType_t fault = errInternal;
+    if (mayBeNamed(m_words, name, &fault))
+        return true;
+    m_messages.signMsg(fault, srcRef, name);
     return false;
 }
 

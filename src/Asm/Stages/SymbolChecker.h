@@ -1,5 +1,7 @@
 #pragma once
 
+#include "AsmFeMsgCatalogue.h"
+
 #include <QString>
 
 namespace nsModAsmFe {
@@ -21,6 +23,10 @@ public:
     bool syntacticsCheckLabel();
     /// @return false after a reported error
     bool syntacticsCheckEquNames();
+    /// The rule for the name of a label or a constant.
+    /// @param fault out: the message that refuses the name
+    /// @return the name may be given
+    static bool mayBeNamed(const AsmWords& words, const QString& name, eMsgType_t* fault);
     /// Warns of what nothing has used.
     void usageCheck();
 

@@ -55,6 +55,7 @@ void DocumentCommands::newFile(const QString& text)
     widget->setText(text);
     // What a script or an import brings is nowhere on the disk.
     widget->document()->setModified(!text.isEmpty());
+    m_documents->reportOpened(widget);
 }
 
 EditorWidget* DocumentCommands::openFile(const QString& path)
@@ -68,6 +69,7 @@ EditorWidget* DocumentCommands::openFile(const QString& path)
         return nullptr;
     QPointer<EditorWidget> widget = m_pages->newEditorWidget(path);
     m_sync->showContent(widget, bytes);
+    m_documents->reportOpened(widget);
     // While this asks a question, the user can close the page.
     m_services->chkProjectMembership(path);
     return m_documents->contains(widget) ? widget.data() : nullptr;

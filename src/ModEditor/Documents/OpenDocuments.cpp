@@ -15,6 +15,28 @@ EditorWidget* OpenDocuments::current() const
     return contains(widget) ? widget : nullptr;
 }
 
+void OpenDocuments::remove(EditorWidget* widget)
+{
+    if (!m_widgets.removeOne(widget))
+        return;
+    m_watchers.forEach([widget](ModEditorPluginIfText* watcher) { watcher->documentClosing(widget); });
+}
+
+void OpenDocuments::reportOpened(EditorWidget* widget) const
+{
+    m_watchers.forEach([widget](ModEditorPluginIfText* watcher) { watcher->documentOpened(widget); });
+}
+
+void OpenDocuments::reportCurrent(EditorWidget* widget)
+{
+    if (!contains(widget))
+        widget = nullptr;
+    if (widget == m_reportedCurrent)
+        return;
+    m_reportedCurrent = widget;
+    m_watchers.forEach([widget](ModEditorPluginIfText* watcher) { watcher->currentDocumentChanged(widget); });
+}
+
 EditorWidget* OpenDocuments::of(const QString& path) const
 {
     for (EditorWidget* widget : m_widgets) {

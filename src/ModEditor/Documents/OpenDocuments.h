@@ -1,5 +1,8 @@
 #pragma once
 
+#include "ModEditorPluginIf.h"
+#include "PluginList.h"
+
 #include <QList>
 #include <QStringList>
 
@@ -26,7 +29,14 @@ public:
     /// @param widget may be one that is deleted already, or null
     bool contains(EditorWidget* widget) const { return m_widgets.contains(widget); }
     void add(EditorWidget* widget) { m_widgets.append(widget); }
-    void remove(EditorWidget* widget) { m_widgets.removeOne(widget); }
+    /// The document is about to be deleted.
+    void remove(EditorWidget* widget);
+    /// Who is told of the documents.
+    PluginList<ModEditorPluginIfText>& watchers() { return m_watchers; }
+    /// The document has its text.
+    void reportOpened(EditorWidget* widget) const;
+    /// @param widget null for none
+    void reportCurrent(EditorWidget* widget);
 
     /// The document on the current page; null if there is none.
     EditorWidget* current() const;
@@ -42,6 +52,8 @@ public:
 private:
     const ModGuiPluginIf* m_gui; ///< not owned
     QList<EditorWidget*> m_widgets;
+    PluginList<ModEditorPluginIfText> m_watchers;
+    EditorWidget* m_reportedCurrent = nullptr; ///< may be deleted already
 };
 
 } // namespace nsModEditor

@@ -67,9 +67,10 @@ void acceptAsCopy(QDropEvent* event)
 } // namespace
 
 EditorWidget::EditorWidget(QWidget* parent)
-    : QPlainTextEdit(parent)
+    : EditorDocument(parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
+    , m_messageMarks(this)
 {
     HelpRef::set(this, QStringLiteral("pageId://editor"));
     HelpRef::setForNames(this, QStringLiteral("pageId://langNames"));
@@ -92,6 +93,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     connect(m_textDocument, SIGNAL(modificationChanged(bool)), this, SLOT(setModified()));
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(setMemPageAddrInvalid(int)));
     m_leftMargin = new EditorWidgetLeftMargin(this);
+    m_leftMargin->setMessageMarks(&m_messageMarks);
     connect(this, SIGNAL(blockCountChanged(int)), this, SLOT(updateLeftMarginWidth()));
     connect(this, SIGNAL(updateRequest(QRect, int)), this, SLOT(updateLeftMargin(QRect, int)));
     updateLeftMarginWidth();
@@ -463,6 +465,7 @@ void EditorWidget::contextMenuEvent(QContextMenuEvent* event)
     if (m_supportMenu == nullptr)
         return;
     const QPointer<QMenu> menu(createStandardContextMenu());
+    emit menuRequested(menu);
     m_supportMenu->showMenu(menu, event->globalPos());
     // The document may have been closed meanwhile, and the menu with it.
     delete menu;

@@ -1,13 +1,14 @@
 #pragma once
 
 #include "DocumentFormat.h"
+#include "EditorDocument.h"
 #include "EditorMemPageAddrMap.h"
 #include "LineHighlights.h"
 #include "LineMarks.h"
+#include "MessageMarks.h"
 #include "PrintedPages.h"
 
 #include <QColor>
-#include <QPlainTextEdit>
 #include <QPointer>
 
 class QAction;
@@ -31,7 +32,7 @@ class WordMarks;
 ///
 /// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line
 /// numbers that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
-class EditorWidget : public QPlainTextEdit
+class EditorWidget : public EditorDocument
 {
     Q_OBJECT
 
@@ -51,11 +52,11 @@ public:
     // ---- Document (EditorWidget.cpp)
     /// @param path absolute; empty for a document that has no file yet
     void setFilePath(const QString& path);
-    QString filePath() const { return m_filePath; }
+    QString filePath() const override { return m_filePath; }
     /// Replaces the whole text. Undo history and modification are gone, the cursor stands at the start; marks stay.
     void setText(const QString& text);
     /// The text for a file, one line feed between lines. Unlike toPlainText() it keeps non-breaking blanks.
-    QString text() const;
+    QString text() const override;
     bool isModified() const;
     void clearModified();
     bool hasSelection() const;
@@ -155,6 +156,11 @@ public:
     void setBookmark(int line);
     void clearBookmarks();
 
+    // ---- Messages (EditorWidgetMargin.cpp)
+    void setMessageMarks(const QVector<sMessageMark>& marks) override;
+    QStringList messagesAt(int line) const override { return m_messageMarks.texts(line); }
+    QTextCursor messagePlace(int index) const override { return m_messageMarks.place(index); }
+
     // ---- Margin (EditorWidgetMargin.cpp); widths in pixels, 0 for a column that is off
     void setLineNumberEn(bool enabled);
     void setMemPageAddrEn(bool enabled);
@@ -203,6 +209,7 @@ protected:
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
@@ -245,6 +252,7 @@ private:
     LineHighlights m_lineHighlights;
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
+    MessageMarks m_messageMarks;
 };
 
 } // namespace nsModEditor

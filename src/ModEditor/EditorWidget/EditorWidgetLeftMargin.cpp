@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QCoreApplication>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
@@ -25,7 +26,8 @@ const int breakpointX = 7;
 const int bookmarkX = 12;
 const int menuIconSize = 10;
 const int minAddrDigits = 3;
-const int columnSpace = 2; ///< between the columns, in pixels
+const int columnSpace = 2;  ///< between the columns, in pixels
+const int messageTint = 48; ///< of 255, behind the number of a line with a message
 
 int digits(int value, int base)
 {
@@ -109,6 +111,17 @@ void EditorWidgetLeftMargin::setAddrInvalid()
 QSize EditorWidgetLeftMargin::sizeHint() const
 {
     return QSize(m_editor->leftMarginWidth(), 0);
+}
+
+bool EditorWidgetLeftMargin::event(QEvent* event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QWidget::event(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    QToolTip::showText(help->globalPos(),
+                       m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())).join('\n').toHtmlEscaped(),
+                       this);
+    return true;
 }
 
 void EditorWidgetLeftMargin::paintEvent(QPaintEvent* event)
@@ -207,6 +220,15 @@ void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& blo
         painter->fillRect(QRect(breakpointX, top, symbolWidth, symbolHeight), m_breakpointColor);
     if (m_editor->marks().bookmarks.contains(line))
         painter->fillRect(QRect(bookmarkX, top, symbolWidth, symbolHeight), m_bookmarkColor);
+    const int grade = m_messageMarks != nullptr ? m_messageMarks->gradeOf(block) : -1;
+    if (grade >= 0) {
+        const int left = symbolColumnWidth() + addrColumnWidth() + 1;
+        const int rowHeight = qRound(m_editor->blockBoundingRect(block).height());
+        QColor tint = MessageMarks::colorOf(grade);
+        painter->fillRect(QRect(width() - columnSpace, top, columnSpace, rowHeight), tint);
+        tint.setAlpha(messageTint);
+        painter->fillRect(QRect(left, top, width() - columnSpace - left, rowHeight), tint);
+    }
     if (!m_lineNumberEn)
         return;
     const QRect cell(symbolColumnWidth() + addrColumnWidth(), top, lineNumberColumnWidth() - columnSpace,

@@ -14,6 +14,7 @@ class QTextBlock;
 namespace nsModEditor {
 
 class EditorWidget;
+class MessageMarks;
 
 /// The strip on the left of a document with its marks, memory page addresses and line numbers.
 ///
@@ -40,6 +41,9 @@ public:
     void setAddrMap(EditorMemPageAddrMap* map, const QString& path);
     /// The lines have moved: the addresses of all documents are out of date.
     void setAddrInvalid();
+    /// @param marks of the document; not owned
+    void setMessageMarks(const MessageMarks* marks) { m_messageMarks = marks; }
+    const MessageMarks* messageMarks() const { return m_messageMarks; }
     void setBgColor(const QColor& color);
     void setFgColor(const QColor& color);
     void setBreakpointColor(const QColor& color);
@@ -56,6 +60,8 @@ public:
     void showToolTipAt(const QPoint& pos);
 
 protected:
+    /// Shows the messages about a line as its tip.
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     /// Left button on the symbols: toggles a breakpoint, with Ctrl the simulator's start mark, with Shift a bookmark.
     void mousePressEvent(QMouseEvent* event) override;
@@ -74,6 +80,7 @@ private:
     void runMenu(int line, const QPoint& globalPos);
 
     EditorWidget* m_editor; ///< not owned
+    const MessageMarks* m_messageMarks = nullptr;
     bool m_lineNumberEn = true;
     bool m_addrEn = false;
     int m_maxAddr = 999;

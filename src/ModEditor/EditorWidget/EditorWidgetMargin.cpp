@@ -4,6 +4,7 @@
 
 #include "EditorWidgetLeftMargin.h"
 
+#include <QPainter>
 #include <QTextBlock>
 
 namespace nsModEditor {
@@ -80,6 +81,21 @@ void EditorWidget::setMemPageAddrMap(EditorMemPageAddrMap* map)
 void EditorWidget::setMemPageAddrInvalid(int)
 {
     m_leftMargin->setAddrInvalid();
+}
+
+void EditorWidget::setMessageMarks(const QVector<sMessageMark>& marks)
+{
+    m_messageMarks.set(marks);
+    m_leftMargin->update();
+}
+
+void EditorWidget::paintEvent(QPaintEvent* event)
+{
+    EditorDocument::paintEvent(event);
+    QPainter painter(viewport());
+    const QTextBlock block = firstVisibleBlock();
+    m_messageMarks.paint(&painter, block, blockBoundingGeometry(block).translated(contentOffset()).topLeft(),
+                         event->rect().bottom());
 }
 
 int EditorWidget::blockNumberFromPos(int y) const

@@ -9,10 +9,12 @@ class ModEditorPluginIf;
 class ModEditorPluginIfAssembler;
 class ModEditorPluginIfInterMod;
 class ModEditorPluginIfSimulator;
+class ModEditorPluginIfText;
 class QRegExp;
 class QUrl;
 
 namespace nsModEditor {
+class EditorDocument;
 class EditorMemPageAddrMap;
 class EditorSupportMenu;
 } // namespace nsModEditor
@@ -102,4 +104,21 @@ public:
     /// Changes whenever the result of simBreakpoints() may have changed. Fast enough to be called before each simulated
     /// instruction.
     virtual int simBreakpointsRevision() = 0;
+
+    /// How a list of words that complete what is typed is to be shown.
+    struct sCompletionConfig
+    {
+        bool comesByItself = true; ///< as the user types
+        int prefixLength = 3;      ///< characters that are typed before it comes by itself
+        int itemCount = 10;        ///< entries that are seen at a time
+    };
+
+    /// Adds a client; it is told about the documents that are opened from now on.
+    virtual void registerPlugin(ModEditorPluginIfText*) {}
+    virtual void unregisterPlugin(ModEditorPluginIfText*) {}
+    /// All open documents, in the order of their creation.
+    virtual QList<nsModEditor::EditorDocument*> documents() { return {}; }
+    /// The document on the current page; null if there is none.
+    virtual nsModEditor::EditorDocument* currentDocument() { return nullptr; }
+    virtual sCompletionConfig completionConfig() { return {}; }
 };

@@ -2,6 +2,10 @@
 
 class ModEditorHookIf;
 
+namespace nsModEditor {
+class EditorDocument;
+}
+
 /// A client of the editor.
 class ModEditorPluginIf
 {
@@ -40,4 +44,18 @@ public:
 
     /// Set by the server while the client is registered, null otherwise. Not owned.
     ModEditorHookIf* modEditorHook = nullptr;
+};
+
+/// Works with the text of the documents.
+class ModEditorPluginIfText
+{
+public:
+    virtual ~ModEditorPluginIfText() = default;
+
+    /// A document has got its text and is shown.
+    virtual void documentOpened(nsModEditor::EditorDocument*) {}
+    /// The document is about to be deleted.
+    virtual void documentClosing(nsModEditor::EditorDocument*) {}
+    /// The user works in another document, or in none: null.
+    virtual void currentDocumentChanged(nsModEditor::EditorDocument*) {}
 };

@@ -1,0 +1,10 @@
+#include "EditorDocument.h"
+
+namespace nsModEditor {
+
+EditorDocument::EditorDocument(QWidget* parent)
+    : QPlainTextEdit(parent)
+{
+}
+
+} // namespace nsModEditor

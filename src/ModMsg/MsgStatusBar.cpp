@@ -1,0 +1,46 @@
+#include "MsgStatusBar.h"
+
+#include <QStringList>
+
+namespace nsModMsg {
+
+MsgStatusBar::MsgStatusBar(QWidget* parent)
+    : QToolButton(parent)
+{
+    setObjectName(QStringLiteral("msgCounts"));
+    setAutoRaise(true);
+    setFocusPolicy(Qt::NoFocus);
+    setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    setToolTip(tr("Errors and warnings since the last run began; a click shows the first of the worst"));
+    m_timer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, &MsgStatusBar::showCounts);
+    showCounts();
+}
+
+void MsgStatusBar::setCounts(int errors, int warnings)
+{
+    m_errors = errors;
+    m_warnings = warnings;
+    if (!m_timer.isActive())
+        m_timer.start(0);
+}
+
+void MsgStatusBar::showCounts()
+{
+    const int errors = m_errors;
+    const int warnings = m_warnings;
+    QStringList texts;
+    if (errors > 0)
+        texts.append(errors == 1 ? tr("1 error") : tr("%1 errors").arg(errors));
+    if (warnings > 0)
+        texts.append(warnings == 1 ? tr("1 warning") : tr("%1 warnings").arg(warnings));
+    setText(texts.join(QLatin1String(", ")));
+    setAccessibleName(texts.isEmpty() ? tr("No errors, no warnings") : text());
+    setIcon(texts.isEmpty() ? QIcon()
+                            : QIcon(errors > 0 ? QStringLiteral(":/ModMsg/img/msgError.png")
+                                               : QStringLiteral(":/ModMsg/img/msgWarning.png")));
+    // It keeps its place and height, so that nothing moves in the bar.
+    setEnabled(!texts.isEmpty());
+}
+
+} // namespace nsModMsg

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QTimer>
+#include <QToolButton>
+
+namespace nsModMsg {
+
+/// The number of errors and warnings of the last run in the status bar. A click leads to the first of the worst.
+class MsgStatusBar : public QToolButton
+{
+    Q_OBJECT
+
+public:
+    explicit MsgStatusBar(QWidget* parent = nullptr);
+
+    /// Without any, there is nothing to be seen. Shown when control returns to the event loop, so that a run with
+    /// thousands of messages stays fast.
+    void setCounts(int errors, int warnings);
+
+private:
+    void showCounts();
+
+    QTimer m_timer;
+    int m_errors = 0;
+    int m_warnings = 0;
+};
+
+} // namespace nsModMsg
