@@ -4,6 +4,7 @@
 #include <QFont>
 #include <QTextCharFormat>
 
+#include "EditorComfort.h"
 #include "ModEditorHookIf.h"
 
 class ModCfgAppHookIf;
@@ -63,6 +64,7 @@ public:
     int textCompleterPrefixLength = 3; ///< characters
     int textCompleterItemCount = 10;
     bool highlightSelectionEn = true;
+    sEditorComfort_t comfort;
     int memPageAddrEn = memPageAddrSimOnly;
     QColor cursorBgColor = QColor(0xE3EBF3);
     QColor highlightBgColor = QColor(0xF5CACA);

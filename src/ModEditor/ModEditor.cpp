@@ -18,6 +18,7 @@
 #include "HelpRef.h"
 #include "OpenDocuments.h"
 #include "RecoveryOffer.h"
+#include "TextActions.h"
 
 #include "ModCfgAppHookIf.h"
 #include "ModEditorPluginIf.h"
@@ -100,6 +101,7 @@ void ModEditor::modInit()
     m_actionsFile = new EditorActionsFile(this);
     m_actionsEdit = new EditorActionsEdit(this);
     m_actionsSim = new EditorActionsSim(this);
+    m_textActions = new TextActions(m_documents.get(), this);
     connect(m_actionsFile, SIGNAL(triggered(nsModEditor::EditorActionsFile::eAction_t)), this,
             SLOT(handleActions(nsModEditor::EditorActionsFile::eAction_t)));
     connect(m_actionsEdit, SIGNAL(triggered(nsModEditor::EditorActionsEdit::eAction_t)), this,
@@ -169,6 +171,8 @@ void ModEditor::modExit()
     m_actionsEdit = nullptr;
     delete m_actionsSim;
     m_actionsSim = nullptr;
+    delete m_textActions;
+    m_textActions = nullptr;
     delete m_statusBar;
 }
 
@@ -316,7 +320,10 @@ QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionCla
     case ModActionHookIf::eActionClassFile:
         return m_actionsFile->menuActions() << m_recoveryOffer->menuActions();
     case ModActionHookIf::eActionClassEdit:
-        return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
+        return m_actionsEdit->menuActions()
+               << m_supportMenu->menu->menuAction() << m_textActions->menuActions(actionClass);
+    case ModActionHookIf::eActionClassNavigation:
+        return m_textActions->menuActions(actionClass);
     case ModActionHookIf::eActionClassSimulator:
         return m_actionsSim->menuActions();
     default:
@@ -424,6 +431,7 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     connect(widget, &EditorWidget::filesDropped, m_commands.get(), &DocumentCommands::openDroppedFiles,
             Qt::QueuedConnection);
     widget->addActions(m_actionsEdit->menuActions());
+    m_textActions->addTo(widget);
 }
 
 void ModEditor::configureEditorWidget(EditorWidget* widget)
@@ -433,6 +441,7 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
     widget->setDynamicLineWrapEn(dynamicLineWrapEn);
     widget->setLineNumberEn(lineNumberEn);
     widget->setAutoReturnIndentEn(autoReturnIndentEn);
+    widget->setComfort(comfort);
     widget->setTextCompleterPrefixLength(textCompleterPrefixLength);
     widget->setTextCompleterItemCount(textCompleterItemCount);
     widget->setSelectionHighlightEn(highlightSelectionEn);

@@ -45,6 +45,7 @@ class EditorTipManager;
 class EditorWidget;
 class OpenDocuments;
 class RecoveryOffer;
+class TextActions;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
 ///
@@ -232,6 +233,7 @@ private:
     EditorActionsFile* m_actionsFile = nullptr;
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;
+    TextActions* m_textActions = nullptr;
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
     bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
     int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes

@@ -9,6 +9,7 @@
 #include "EditorWidget.h"
 #include "OpenDocuments.h"
 #include "RecoveryOffer.h"
+#include "TextActions.h"
 
 #include "ModClipboardHookIf.h"
 #include "ModGuiHookIf.h"
@@ -130,6 +131,7 @@ void ModEditor::setActionState(EditorWidget* current)
     m_actionsFile->setEnabled(false);
     m_actionsEdit->setEnabled(false);
     m_supportMenu->setEnabled(false);
+    m_textActions->setEnabled(false);
     const bool valid = modPrjHook != nullptr && modPrjHook->isValid();
     m_actionsSim->setEnabled(valid);
     if (!valid)
@@ -151,6 +153,7 @@ void ModEditor::setActionState(EditorWidget* current)
     for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
+    m_textActions->setEnabled(true);
     if (modClipboardHook != nullptr)
         modClipboardHook->setFeatureEnable(ModClipboardHookIf::eClipboardFeaturePaste, true);
     setActionStateEditorWidget(current);

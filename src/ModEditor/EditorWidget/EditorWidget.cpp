@@ -2,21 +2,25 @@
 
 #include "EditorWidget.h"
 
+#include "ColumnSelection.h"
 #include "EditorConfig.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
-#include "LineCommands.h"
 #include "TextCompletion.h"
+#include "TextOverlay.h"
 #include "WordMarks.h"
 
 #include <QAction>
+#include <QApplication>
+#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
+#include <QPainter>
 #include <QPlainTextDocumentLayout>
 #include <QStringListModel>
 #include <QTextBlock>
@@ -77,6 +81,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
+    m_columns = new ColumnSelection(this);
+    m_overlay = std::make_unique<TextOverlay>(this);
 
     connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
@@ -104,6 +110,7 @@ EditorWidget::~EditorWidget()
     m_textDocument->disconnect(this);
     disconnect(this);
     disconnect(m_wordMarks);
+    delete m_columns;
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -193,7 +200,7 @@ void EditorWidget::setModified()
 
 bool EditorWidget::hasSelection() const
 {
-    return textCursor().hasSelection();
+    return textCursor().hasSelection() || m_columns->hasWidth();
 }
 
 bool EditorWidget::isUndoAvailable() const
@@ -249,39 +256,77 @@ void EditorWidget::rehighlight()
     m_wordMarks->rehighlight();
 }
 
+LineCommands EditorWidget::lineCommands()
+{
+    m_columns->end();
+    return LineCommands(this, indentStyle());
+}
+
+void EditorWidget::cut()
+{
+    if (m_columns->isActive())
+        m_columns->cut();
+    else
+        QPlainTextEdit::cut();
+}
+
+void EditorWidget::copy()
+{
+    if (m_columns->isActive())
+        m_columns->copy();
+    else
+        QPlainTextEdit::copy();
+}
+
+void EditorWidget::paste()
+{
+    if (m_columns->isActive())
+        m_columns->paste(QApplication::clipboard()->mimeData());
+    else
+        QPlainTextEdit::paste();
+}
+
+void EditorWidget::insertFromMimeData(const QMimeData* source)
+{
+    if (ColumnSelection::isColumnText(source))
+        m_columns->pasteAtCursor(source);
+    else
+        QPlainTextEdit::insertFromMimeData(source);
+}
+
 void EditorWidget::indent()
 {
-    LineCommands(this).indent();
+    lineCommands().indent();
 }
 
 void EditorWidget::deindent()
 {
-    LineCommands(this).deindent();
+    lineCommands().deindent();
 }
 
 void EditorWidget::commentOut()
 {
-    LineCommands(this).commentOut();
+    lineCommands().commentOut();
 }
 
 void EditorWidget::commentIn()
 {
-    LineCommands(this).commentIn();
+    lineCommands().commentIn();
 }
 
 void EditorWidget::duplicateLine()
 {
-    LineCommands(this).duplicateLine();
+    lineCommands().duplicateLine();
 }
 
 void EditorWidget::moveLineUp()
 {
-    LineCommands(this).moveLineUp();
+    lineCommands().moveLineUp();
 }
 
 void EditorWidget::moveLineDown()
 {
-    LineCommands(this).moveLineDown();
+    lineCommands().moveLineDown();
 }
 
 void EditorWidget::setActionChanged()
@@ -336,6 +381,24 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
     m_autoReturnIndentEn = enabled;
 }
 
+void EditorWidget::setComfort(const sEditorComfort_t& comfort)
+{
+    m_comfort = comfort;
+    applyComfort();
+}
+
+void EditorWidget::applyComfort()
+{
+    m_overlay->setRulerColumn(m_comfort.rulerColumn);
+    QTextOption option = m_textDocument->defaultTextOption();
+    QTextOption::Flags flags = option.flags();
+    flags.setFlag(QTextOption::ShowTabsAndSpaces, m_comfort.showBlanksEn);
+    if (flags == option.flags())
+        return;
+    option.setFlags(flags);
+    m_textDocument->setDefaultTextOption(option);
+}
+
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
@@ -387,6 +450,10 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         QPlainTextEdit::keyPressEvent(event);
         return;
     }
+    if (comfortKey(event)) {
+        event->accept();
+        return;
+    }
     switch (event->key()) {
     case Qt::Key_Return:
         insertAutoReturnIndent(event);
@@ -412,6 +479,26 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         insertLineBreak(event);
         break;
     }
+}
+
+/// The keys that do more where the user has set it. @return the key is done
+bool EditorWidget::comfortKey(const QKeyEvent* event)
+{
+    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
+    if (event->key() == Qt::Key_Backspace && modifiers == Qt::NoModifier)
+        return m_comfort.indentWithBlanks && LineCommands(this, indentStyle()).removeIndent();
+    if (event->key() == Qt::Key_Home && (modifiers & ~Qt::ShiftModifier) == 0)
+        return m_comfort.smartHomeEn &&
+               LineCommands(this, indentStyle()).goToTextStart((modifiers & Qt::ShiftModifier) != 0);
+    return false;
+}
+
+void EditorWidget::paintEvent(QPaintEvent* event)
+{
+    QPlainTextEdit::paintEvent(event);
+    QPainter painter(viewport());
+    m_overlay->paint(&painter);
+    m_columns->paint(&painter);
 }
 
 /// Passes a key to the text edit. With Shift it would insert a line separator: in the file this character ends a line,

@@ -1,7 +1,9 @@
 #pragma once
 
 #include "DocumentFormat.h"
+#include "EditorComfort.h"
 #include "EditorMemPageAddrMap.h"
+#include "LineCommands.h"
 #include "LineHighlights.h"
 #include "LineMarks.h"
 #include "PrintedPages.h"
@@ -9,6 +11,8 @@
 #include <QColor>
 #include <QPlainTextEdit>
 #include <QPointer>
+
+#include <memory>
 
 class QAction;
 class QHelpEvent;
@@ -18,6 +22,7 @@ class MyNoticeBar;
 
 namespace nsModEditor {
 
+class ColumnSelection;
 class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
@@ -25,6 +30,7 @@ class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
 class TextCompletion;
+class TextOverlay;
 class WordMarks;
 
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
@@ -97,6 +103,12 @@ public:
     void setTabIndent(int indent);
     void setDynamicLineWrapEn(bool enabled);
     void setAutoReturnIndentEn(bool enabled);
+    void setComfort(const sEditorComfort_t& comfort);
+    const sEditorComfort_t& comfort() const { return m_comfort; }
+    /// What Tab inserts.
+    LineCommands::sIndent_t indentStyle() const { return {m_tabIndent, m_comfort.indentWithBlanks}; }
+    /// What is shown above the text.
+    TextOverlay* overlay() const { return m_overlay.get(); }
     void setSelectionHighlightEn(bool enabled);
     void setTextCompletionEn(bool enabled);
     /// @param length characters
@@ -106,7 +118,9 @@ public:
     void setCursorBgColor(const QColor& color);
     void setHighlightBgColor(const QColor& color);
 
-    // ---- Commands for lines, see LineCommands
+    // ---- Commands for lines, see LineCommands, which has more of them
+    /// The commands at the cursor, with the indent of the document.
+    LineCommands lineCommands();
     void indent();
     void deindent();
     void commentOut();
@@ -182,6 +196,10 @@ public:
     using QPlainTextEdit::firstVisibleBlock;
 
 public slots:
+    // Of a column where one is selected.
+    void cut();
+    void copy();
+    void paste();
     void undo();
     void redo();
     /// The text has changed: emits modifiedChanged() if isModified() has changed.
@@ -205,6 +223,8 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    void insertFromMimeData(const QMimeData* source) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -220,6 +240,8 @@ private:
     void insertAutoReturnIndent(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
     void applyFont(const QFont& font);
+    void applyComfort();
+    bool comfortKey(const QKeyEvent* event);
 
     QTextDocument* m_textDocument;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
@@ -238,6 +260,9 @@ private:
     int m_zoom = 0;         ///< points that the user has added
     int m_fontSize = 0;     ///< points, the sum of both
     bool m_autoReturnIndentEn = false;
+    sEditorComfort_t m_comfort;
+    ColumnSelection* m_columns = nullptr;
+    std::unique_ptr<TextOverlay> m_overlay;
 
     bool m_reportedModified = false; ///< value of isModified() that was reported last
     bool m_settingText = false;

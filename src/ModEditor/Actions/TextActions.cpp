@@ -1,0 +1,152 @@
+#include "TextActions.h"
+
+#include "Brackets.h"
+#include "EditorWidget.h"
+#include "GotoLineField.h"
+#include "OpenDocuments.h"
+
+#include "SourceFormatter.h"
+
+#include <QMenu>
+#include <QTextBlock>
+
+#include <algorithm>
+
+namespace nsModEditor {
+
+namespace {
+
+void goToBracket(EditorWidget* widget)
+{
+    QTextCursor cursor = widget->textCursor();
+    const sBracketPair_t pair = bracketPairAt(cursor.block().text(), cursor.positionInBlock());
+    if (pair.at < 0)
+        return;
+    cursor.setPosition(cursor.block().position() + pair.partner);
+    widget->setTextCursor(cursor);
+}
+
+void format(EditorWidget* widget)
+{
+    const nsModAsmFe::SourceFormatter formatter;
+    widget->lineCommands().changeLines(!widget->textCursor().hasSelection(),
+                                       [&formatter](const QString& line) { return formatter.formattedLine(line); });
+}
+
+} // namespace
+
+TextActions::TextActions(const OpenDocuments* documents, QObject* parent)
+    : QObject(parent)
+    , m_documents(documents)
+    , m_actions(new EditorActionsLines(this))
+    , m_lineMenu(std::make_unique<QMenu>(tr("Lines")))
+{
+    m_lineMenu->addActions(m_actions->commands());
+    m_lineMenu->setToolTipsVisible(true);
+    connect(m_actions, qOverload<EditorActionsLines::eAction_t>(&EditorActionsLines::triggered), this,
+            &TextActions::handle);
+    setEnabled(false);
+}
+
+TextActions::~TextActions() = default;
+
+QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionClass) const
+{
+    switch (actionClass) {
+    case ModActionHookIf::eActionClassEdit:
+        return QList<QAction*>{m_lineMenu->menuAction()} << m_actions->places();
+    case ModActionHookIf::eActionClassNavigation:
+        return m_actions->bookmarks();
+    default:
+        return {};
+    }
+}
+
+void TextActions::addTo(EditorWidget* widget) const
+{
+    widget->addActions(m_actions->menuActions());
+}
+
+void TextActions::setEnabled(bool enabled)
+{
+    m_actions->setEnabled(enabled);
+    m_lineMenu->menuAction()->setEnabled(enabled);
+}
+
+void TextActions::goToBookmark(bool backward)
+{
+    EditorWidget* current = m_documents->current();
+    if (current == nullptr)
+        return;
+    const QList<EditorWidget*>& all = m_documents->all();
+    const int count = all.size();
+    const int start = all.indexOf(current);
+    // At last the lines of the current document that are behind the cursor.
+    for (int i = 0; i <= count; ++i) {
+        EditorWidget* widget = all.at(((start + (backward ? -i : i)) % count + count) % count);
+        QList<int> lines = widget->bookmarks();
+        std::sort(lines.begin(), lines.end());
+        if (backward)
+            std::reverse(lines.begin(), lines.end());
+        for (const int line : qAsConst(lines)) {
+            const bool isAhead = backward ? line < current->cursorLine() : line > current->cursorLine();
+            // The number of a line can be beyond the end.
+            if ((i == 0 && !isAhead) || line >= widget->blockCount())
+                continue;
+            m_documents->show(widget);
+            widget->setCursorPos(widget->document()->findBlockByNumber(line).position());
+            widget->setFocus();
+            return;
+        }
+    }
+}
+
+void TextActions::handle(EditorActionsLines::eAction_t action)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr)
+        return;
+    switch (action) {
+    case EditorActionsLines::eActionToggleComment:
+        widget->lineCommands().toggleComment();
+        break;
+    case EditorActionsLines::eActionDeleteLines:
+        widget->lineCommands().deleteLines();
+        break;
+    case EditorActionsLines::eActionJoinLines:
+        widget->lineCommands().joinLines();
+        break;
+    case EditorActionsLines::eActionSortLines:
+        widget->lineCommands().sortLines();
+        break;
+    case EditorActionsLines::eActionUpperCase:
+        widget->lineCommands().changeCase(true);
+        break;
+    case EditorActionsLines::eActionLowerCase:
+        widget->lineCommands().changeCase(false);
+        break;
+    case EditorActionsLines::eActionTrimLines:
+        widget->lineCommands().removeTrailingBlanks(!widget->textCursor().hasSelection());
+        break;
+    case EditorActionsLines::eActionFormat:
+        format(widget);
+        break;
+    case EditorActionsLines::eActionGotoLine:
+        GotoLineField::open(widget);
+        break;
+    case EditorActionsLines::eActionGotoBracket:
+        goToBracket(widget);
+        break;
+    case EditorActionsLines::eActionSetBookmark:
+        widget->setBookmark(widget->cursorLine());
+        break;
+    case EditorActionsLines::eActionNextBookmark:
+        goToBookmark(false);
+        break;
+    case EditorActionsLines::eActionPrevBookmark:
+        goToBookmark(true);
+        break;
+    }
+}
+
+} // namespace nsModEditor

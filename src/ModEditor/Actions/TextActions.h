@@ -1,0 +1,43 @@
+#pragma once
+
+#include "EditorActionsLines.h"
+#include "ModActionHookIf.h"
+
+#include <QObject>
+
+#include <memory>
+
+class QMenu;
+
+namespace nsModEditor {
+
+class EditorWidget;
+class OpenDocuments;
+
+/// The commands for lines and the ways through the documents, with their places in the menus.
+class TextActions : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// @param documents not owned
+    explicit TextActions(const OpenDocuments* documents, QObject* parent = nullptr);
+    ~TextActions() override;
+
+    QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
+    /// Gives the shortcuts to a document.
+    void addTo(EditorWidget* widget) const;
+    /// Whether a document is current.
+    void setEnabled(bool enabled);
+    /// Goes to the bookmark after or before the cursor; from the last one of a document on to the next document.
+    void goToBookmark(bool backward);
+
+private:
+    void handle(EditorActionsLines::eAction_t action);
+
+    const OpenDocuments* m_documents;
+    EditorActionsLines* m_actions;
+    std::unique_ptr<QMenu> m_lineMenu;
+};
+
+} // namespace nsModEditor
