@@ -18,6 +18,7 @@
 #include "HelpRef.h"
 #include "OpenDocuments.h"
 #include "RecoveryOffer.h"
+#include "SourceFinder.h"
 #include "TextActions.h"
 
 #include "ModCfgAppHookIf.h"
@@ -43,6 +44,8 @@ ModEditor::ModEditor(QObject* parent)
     , m_commands(
           std::make_unique<DocumentCommands>(m_documents.get(), m_services.get(), m_keeper.get(), m_sync.get(), this))
     , m_finder(std::make_unique<EditorFinder>(this, this, m_documents.get()))
+    , m_sourceFinder(std::make_unique<SourceFinder>(
+          SourceFinder::sParts_t{m_documents.get(), m_services.get(), m_commands.get(), this, this}))
     , m_textCompletionList(new QStringListModel(this))
 {
     connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
@@ -102,6 +105,7 @@ void ModEditor::modInit()
     m_actionsEdit = new EditorActionsEdit(this);
     m_actionsSim = new EditorActionsSim(this);
     m_textActions = new TextActions(m_documents.get(), this);
+    connect(m_textActions, &TextActions::findInSources, m_sourceFinder.get(), &SourceFinder::open);
     connect(m_actionsFile, SIGNAL(triggered(nsModEditor::EditorActionsFile::eAction_t)), this,
             SLOT(handleActions(nsModEditor::EditorActionsFile::eAction_t)));
     connect(m_actionsEdit, SIGNAL(triggered(nsModEditor::EditorActionsEdit::eAction_t)), this,
@@ -148,6 +152,7 @@ void ModEditor::modExitIntermod()
         m_recoveryOffer->closeNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
+    m_sourceFinder->close();
     if (modMsgHook != nullptr)
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
 }
@@ -286,6 +291,7 @@ void ModEditor::prjSave()
 
 void ModEditor::prjClose()
 {
+    m_sourceFinder->clear();
     closeAllFiles();
     m_keeper->clearSession();
     setActionState(nullptr);

@@ -45,6 +45,7 @@ class EditorTipManager;
 class EditorWidget;
 class OpenDocuments;
 class RecoveryOffer;
+class SourceFinder;
 class TextActions;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
@@ -150,6 +151,8 @@ public:
     void findPrev(bool configChanged) override;
     void replace(bool configChanged) override;
     void replaceAll(bool configChanged) override;
+    bool hasExpressions() override { return true; }
+    void findPreview() override { m_finder->preview(); }
 
     // ModClipboardPluginIf
     void clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature) override;
@@ -220,6 +223,7 @@ private:
     std::unique_ptr<DocumentSync> m_sync;
     std::unique_ptr<DocumentCommands> m_commands;
     std::unique_ptr<EditorFinder> m_finder;
+    std::unique_ptr<SourceFinder> m_sourceFinder;
     std::unique_ptr<RecoveryOffer> m_recoveryOffer; ///< null before modInit() and after modExit()
     PluginList<ModEditorPluginIf> m_plugins;
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned

@@ -131,8 +131,8 @@ void ModEditor::setActionState(EditorWidget* current)
     m_actionsFile->setEnabled(false);
     m_actionsEdit->setEnabled(false);
     m_supportMenu->setEnabled(false);
-    m_textActions->setEnabled(false);
     const bool valid = modPrjHook != nullptr && modPrjHook->isValid();
+    m_textActions->setEnabled(false, valid);
     m_actionsSim->setEnabled(valid);
     if (!valid)
         return;
@@ -153,7 +153,7 @@ void ModEditor::setActionState(EditorWidget* current)
     for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
-    m_textActions->setEnabled(true);
+    m_textActions->setEnabled(true, true);
     if (modClipboardHook != nullptr)
         modClipboardHook->setFeatureEnable(ModClipboardHookIf::eClipboardFeaturePaste, true);
     setActionStateEditorWidget(current);
@@ -268,6 +268,7 @@ QString ModEditor::findInit()
 
 void ModEditor::findExit()
 {
+    m_finder->end();
     if (modGuiHook != nullptr)
         modGuiHook->clearStatusBarText();
     // The search bar was in front of it.

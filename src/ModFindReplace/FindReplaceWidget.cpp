@@ -116,9 +116,19 @@ void FindReplaceWidget::setupOptions()
     layout->setSpacing(gap);
     m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
     m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
-    layout->addWidget(m_caseSensitive);
-    layout->addWidget(m_wholeWords);
+    m_regExp = addCheckBox("checkRegExp", tr("Expression"),
+                           tr("The text is a regular expression; in the replacement, \\1 is what its first group has "
+                              "found"));
+    m_inSelection = addCheckBox("checkInSelection", tr("Selection"), tr("Only in what is selected now"));
+    m_result = new QLabel(m_options);
+    m_result->setObjectName(QStringLiteral("labelResult"));
+    // Room for it, so that nothing moves.
+    m_result->setMinimumWidth(m_result->fontMetrics().horizontalAdvance(QStringLiteral("9999 of 9999")));
+    for (QWidget* part : QList<QWidget*>{m_caseSensitive, m_wholeWords, m_regExp, m_inSelection, m_result})
+        layout->addWidget(part);
     layout->addStretch();
+    connect(m_regExp, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_inSelection, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
 }
@@ -164,7 +174,7 @@ void FindReplaceWidget::setupTabOrder()
 {
     const QList<QWidget*> order = {m_close,      m_find,          m_replace,          m_nextButton,
                                    m_prevButton, m_replaceButton, m_replaceAllButton, m_caseSensitive,
-                                   m_wholeWords, m_toggle};
+                                   m_wholeWords, m_regExp,        m_inSelection,      m_toggle};
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -218,6 +228,32 @@ bool FindReplaceWidget::isCaseSensitive() const
 bool FindReplaceWidget::isWholeWords() const
 {
     return m_wholeWordsEn && m_wholeWords->isChecked();
+}
+
+bool FindReplaceWidget::isRegExp() const
+{
+    return m_expressionsEn && m_regExp->isChecked();
+}
+
+bool FindReplaceWidget::isInSelection() const
+{
+    return m_expressionsEn && m_inSelection->isChecked();
+}
+
+void FindReplaceWidget::setExpressionsEnable(bool enable)
+{
+    m_expressionsEn = enable;
+    m_regExp->setEnabled(enable);
+    m_inSelection->setEnabled(enable);
+    // The selection is another one each time the bar opens.
+    m_inSelection->setChecked(false);
+    setResult(QString(), QString());
+}
+
+void FindReplaceWidget::setResult(const QString& text, const QString& toolTip)
+{
+    m_result->setText(text);
+    m_result->setToolTip(toolTip);
 }
 
 bool FindReplaceWidget::isFindEnabled() const

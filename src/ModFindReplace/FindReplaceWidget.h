@@ -27,6 +27,9 @@ public:
     bool isCaseSensitive() const;
     /// Also false while the option is not offered.
     bool isWholeWords() const;
+    /// Also false while the options are not offered.
+    bool isRegExp() const;
+    bool isInSelection() const;
     /// There is a text to find.
     bool isFindEnabled() const;
     eMode_t mode() const { return m_mode; }
@@ -40,6 +43,11 @@ public:
     void setReplaceEnable(bool enable);
     /// Offers the choice "Whole words only"; its state is kept meanwhile.
     void setWholeWordsEnable(bool enable);
+
+    /// Offers regular expressions and the search in a selection; without, there are no results, either.
+    void setExpressionsEnable(bool enable);
+    /// Shows what the search has come to.
+    void setResult(const QString& text, const QString& toolTip);
 
     /// The room without the options, which go into a row of their own where it is narrow.
     QSize minimumSizeHint() const override;
@@ -88,13 +96,17 @@ private:
     QPushButton* m_prevButton = nullptr;
     QPushButton* m_replaceButton = nullptr;
     QPushButton* m_replaceAllButton = nullptr;
-    QWidget* m_options = nullptr; ///< the two check boxes
+    QWidget* m_options = nullptr; ///< the check boxes and the result
     QCheckBox* m_caseSensitive = nullptr;
     QCheckBox* m_wholeWords = nullptr;
+    QCheckBox* m_regExp = nullptr;
+    QCheckBox* m_inSelection = nullptr;
+    QLabel* m_result = nullptr;
     eMode_t m_mode = eModeFind;
     bool m_narrow = false; ///< the options have a row of their own
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
+    bool m_expressionsEn = true;
 };
 
 } // namespace nsModFindReplace

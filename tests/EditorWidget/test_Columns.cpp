@@ -21,6 +21,12 @@ protected:
     }
     void type(const QString& text) { QTest::keyClicks(editor.get(), text); }
     static QString clipboard() { return QApplication::clipboard()->text(); }
+    void dragTo(const QPoint& pixels)
+    {
+        QMouseEvent event(QEvent::MouseMove, pixels, editor->viewport()->mapToGlobal(pixels), Qt::NoButton,
+                          Qt::LeftButton, Qt::AltModifier);
+        QApplication::sendEvent(editor->viewport(), &event);
+    }
     QPoint pixelAt(int line, int column) const
     {
         QTextCursor cursor(editor->document()->findBlockByNumber(line));
@@ -139,8 +145,8 @@ TEST_F(Columns, MouseWithAltAlsoAfterTheEndOfALine)
     editor->setText("abcdef\nab\nabcdef");
     const QPoint from = pixelAt(0, 4);
     QTest::mousePress(editor->viewport(), Qt::LeftButton, Qt::AltModifier, from);
-    QTest::mouseMove(editor->viewport(), QPoint(from.x(), pixelAt(1, 0).y()));
-    QTest::mouseMove(editor->viewport(), QPoint(from.x(), pixelAt(2, 0).y()));
+    dragTo(QPoint(from.x(), pixelAt(1, 0).y()));
+    dragTo(QPoint(from.x(), pixelAt(2, 0).y()));
     QTest::mouseRelease(editor->viewport(), Qt::LeftButton, Qt::AltModifier, QPoint(from.x(), pixelAt(2, 0).y()));
     EXPECT_FALSE(editor->textCursor().hasSelection());
     type("|");

@@ -58,6 +58,7 @@ TEST_F(MoreLines, IndentAndDeindentOfSeveralLinesWithBlanks)
     QTest::keyClick(editor.get(), Qt::Key_Tab);
     EXPECT_EQ(text(), QString("    one\n\n      two\n    \tthree"));
     expectOneStep(before);
+    editor->selectAll();
     QTest::keyClick(editor.get(), Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(text(), QString("one\n\n  two\n\tthree"));
     editor->selectAll();

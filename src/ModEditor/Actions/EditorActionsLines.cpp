@@ -33,9 +33,11 @@ EditorActionsLines::EditorActionsLines(QObject* parent)
          nullptr, "Ctrl+."},
         {eActionPrevBookmark, QT_TR_NOOP("Previous bookmark"),
          QT_TR_NOOP("Go to the previous bookmark of all documents"), nullptr, "Ctrl+,"},
+        {eActionFindInSources, QT_TR_NOOP("Find in sources..."),
+         QT_TR_NOOP("Find and replace in all sources of the project"), nullptr, "Ctrl+Shift+F"},
     });
     // In other widgets these keys have other functions.
-    for (QAction* action : actions())
+    for (QAction* action : actions().mid(0, eActionFindInSources))
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 }
 

@@ -26,6 +26,7 @@ public:
         eActionSetBookmark = 10,
         eActionNextBookmark = 11,
         eActionPrevBookmark = 12,
+        eActionFindInSources = 13,
     };
 
     explicit EditorActionsLines(QObject* parent);
@@ -34,6 +35,8 @@ public:
     QList<QAction*> commands() const { return entriesBetween(eActionToggleComment, eActionFormat); }
     /// Ways to a place in the document.
     QList<QAction*> places() const { return entriesBetween(eActionGotoLine, eActionGotoBracket); }
+    /// Needs no document.
+    QAction* findInSources() const { return entry(eActionFindInSources); }
     QList<QAction*> bookmarks() const { return entriesBetween(eActionSetBookmark, eActionPrevBookmark); }
     /// None.
     QList<QAction*> toolBarActions() const override { return {}; }

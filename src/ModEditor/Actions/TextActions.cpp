@@ -45,7 +45,7 @@ TextActions::TextActions(const OpenDocuments* documents, QObject* parent)
     m_lineMenu->setToolTipsVisible(true);
     connect(m_actions, qOverload<EditorActionsLines::eAction_t>(&EditorActionsLines::triggered), this,
             &TextActions::handle);
-    setEnabled(false);
+    setEnabled(false, false);
 }
 
 TextActions::~TextActions() = default;
@@ -54,7 +54,7 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
 {
     switch (actionClass) {
     case ModActionHookIf::eActionClassEdit:
-        return QList<QAction*>{m_lineMenu->menuAction()} << m_actions->places();
+        return QList<QAction*>{m_lineMenu->menuAction()} << m_actions->places() << m_actions->findInSources();
     case ModActionHookIf::eActionClassNavigation:
         return m_actions->bookmarks();
     default:
@@ -64,13 +64,16 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
 
 void TextActions::addTo(EditorWidget* widget) const
 {
-    widget->addActions(m_actions->menuActions());
+    widget->addActions(m_actions->commands());
+    widget->addActions(m_actions->places());
+    widget->addActions(m_actions->bookmarks());
 }
 
-void TextActions::setEnabled(bool enabled)
+void TextActions::setEnabled(bool current, bool project)
 {
-    m_actions->setEnabled(enabled);
-    m_lineMenu->menuAction()->setEnabled(enabled);
+    m_actions->setEnabled(current);
+    m_actions->setEnabled(EditorActionsLines::eActionFindInSources, project);
+    m_lineMenu->menuAction()->setEnabled(current);
 }
 
 void TextActions::goToBookmark(bool backward)
@@ -103,6 +106,10 @@ void TextActions::goToBookmark(bool backward)
 
 void TextActions::handle(EditorActionsLines::eAction_t action)
 {
+    if (action == EditorActionsLines::eActionFindInSources) {
+        emit findInSources();
+        return;
+    }
     EditorWidget* widget = m_documents->current();
     if (widget == nullptr)
         return;
@@ -145,6 +152,8 @@ void TextActions::handle(EditorActionsLines::eAction_t action)
         break;
     case EditorActionsLines::eActionPrevBookmark:
         goToBookmark(true);
+        break;
+    case EditorActionsLines::eActionFindInSources:
         break;
     }
 }

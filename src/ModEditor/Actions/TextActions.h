@@ -27,10 +27,13 @@ public:
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
     /// Gives the shortcuts to a document.
     void addTo(EditorWidget* widget) const;
-    /// Whether a document is current.
-    void setEnabled(bool enabled);
+    /// @param current a document is current @param project a project is open
+    void setEnabled(bool current, bool project);
     /// Goes to the bookmark after or before the cursor; from the last one of a document on to the next document.
     void goToBookmark(bool backward);
+
+signals:
+    void findInSources();
 
 private:
     void handle(EditorActionsLines::eAction_t action);

@@ -8,6 +8,7 @@
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
+#include "MarkFollower.h"
 #include "TextCompletion.h"
 #include "TextOverlay.h"
 #include "WordMarks.h"
@@ -82,6 +83,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
     m_columns = new ColumnSelection(this);
+    m_markFollower = new MarkFollower(this, &m_marks);
     m_overlay = std::make_unique<TextOverlay>(this);
 
     connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
@@ -111,6 +113,7 @@ EditorWidget::~EditorWidget()
     disconnect(this);
     disconnect(m_wordMarks);
     delete m_columns;
+    delete m_markFollower;
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -321,12 +324,25 @@ void EditorWidget::duplicateLine()
 
 void EditorWidget::moveLineUp()
 {
-    lineCommands().moveLineUp();
+    moveLines(true);
 }
 
 void EditorWidget::moveLineDown()
 {
-    lineCommands().moveLineDown();
+    moveLines(false);
+}
+
+void EditorWidget::moveLines(bool up)
+{
+    LineCommands commands = lineCommands();
+    const QPair<int, int> lines = commands.selectedLines();
+    const int revision = m_textDocument->revision();
+    if (up)
+        commands.moveLineUp();
+    else
+        commands.moveLineDown();
+    if (m_textDocument->revision() != revision)
+        m_markFollower->moveLines(lines.first, lines.second, up);
 }
 
 void EditorWidget::setActionChanged()
@@ -344,7 +360,12 @@ void EditorWidget::setFont(const QFont& font)
 
 void EditorWidget::resetZoom()
 {
-    m_zoom = 0;
+    setZoom(0);
+}
+
+void EditorWidget::setZoom(int points)
+{
+    m_zoom = points;
     applyFont(font());
 }
 

@@ -29,6 +29,7 @@ class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
+class MarkFollower;
 class TextCompletion;
 class TextOverlay;
 class WordMarks;
@@ -36,7 +37,8 @@ class WordMarks;
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
 ///
 /// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line
-/// numbers that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
+/// numbers that stay where they are when lines come and go above them, unless the user wants them to follow their text.
+/// All lines are counted from 0.
 class EditorWidget : public QPlainTextEdit
 {
     Q_OBJECT
@@ -62,6 +64,8 @@ public:
     void setText(const QString& text);
     /// The text for a file, one line feed between lines. Unlike toPlainText() it keeps non-breaking blanks.
     QString text() const;
+    /// setText() is at work: what changes is no edit.
+    bool isSettingText() const { return m_settingText; }
     bool isModified() const;
     void clearModified();
     bool hasSelection() const;
@@ -97,6 +101,9 @@ public:
     void setFont(const QFont& font);
     /// Points, from EditorConfig::minFontSize to EditorConfig::maxFontSize; the wheel with Ctrl changes it.
     int fontSize() const { return m_fontSize; }
+    /// What the user has added to the size of the font, in points.
+    int zoom() const { return m_zoom; }
+    void setZoom(int points);
     /// Resets the zoom.
     void resetZoom();
     /// @param indent width of a tab in characters
@@ -156,6 +163,8 @@ public:
 
     // ---- Marks (EditorWidgetMargin.cpp)
     const sDocumentMarks_t& marks() const { return m_marks; }
+    /// All marks at once, such as those of the last session.
+    void setMarks(const sDocumentMarks_t& marks);
     QList<int> simBreakpoints() const { return m_marks.simBreakpoints.lines(); }
     /// Sets the breakpoint, or clears it where there is one.
     void setSimBreakpoint(int line);
@@ -241,6 +250,7 @@ private:
     void insertLineBreak(QKeyEvent* event);
     void applyFont(const QFont& font);
     void applyComfort();
+    void moveLines(bool up);
     bool comfortKey(const QKeyEvent* event);
 
     QTextDocument* m_textDocument;
@@ -270,6 +280,7 @@ private:
     LineHighlights m_lineHighlights;
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
+    MarkFollower* m_markFollower = nullptr;
 };
 
 } // namespace nsModEditor

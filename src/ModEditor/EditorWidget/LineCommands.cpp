@@ -231,6 +231,11 @@ QTextBlock LineCommands::lastSelectedBlock() const
     return cursor.hasSelection() && block.position() == cursor.selectionEnd() ? block.previous() : block;
 }
 
+QPair<int, int> LineCommands::selectedLines() const
+{
+    return {firstSelectedBlock().blockNumber(), lastSelectedBlock().blockNumber()};
+}
+
 void LineCommands::moveLineUp()
 {
     if (m_edit->isReadOnly())

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QPair>
 #include <QTextBlock>
 #include <QTextCursor>
 
@@ -41,6 +42,8 @@ public:
     /// Removes the semicolon of each line that is a comment; without a selection the cursor goes on to the next line.
     void commentIn();
     void duplicateLine();
+    /// The first and the last line that the commands concern.
+    QPair<int, int> selectedLines() const;
     /// Exchanges the selected lines with the one above; nothing on the first line.
     void moveLineUp();
     /// Exchanges the selected lines with the one below; nothing on the last line.
