@@ -2,6 +2,7 @@
 
 #include "DocumentCommands.h"
 #include "DocumentKeeper.h"
+#include "DocumentSession.h"
 #include "DocumentSync.h"
 #include "EditorConfigPage.h"
 #include "EditorFinder.h"
@@ -46,6 +47,7 @@ ModEditor::ModEditor(QObject* parent)
     , m_finder(std::make_unique<EditorFinder>(this, this, m_documents.get()))
     , m_sourceFinder(std::make_unique<SourceFinder>(
           SourceFinder::sParts_t{m_documents.get(), m_services.get(), m_commands.get(), this, this}))
+    , m_session(std::make_unique<DocumentSession>(m_documents.get(), m_services.get()))
     , m_textCompletionList(new QStringListModel(this))
 {
     connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
@@ -267,6 +269,7 @@ void ModEditor::prjOpen()
     EditorWidget* last = lastFile.isEmpty() ? nullptr : m_commands->openFile(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value(editorKeys::lastCursorPos, 0));
+    m_session->restore(m_services->projectFile(), comfort.keepMarksEn, isKilled);
     // Without a last file one of the pages is current, too.
     updateActionState();
 }
@@ -287,6 +290,7 @@ void ModEditor::prjSave()
     modPrjHook->setValue(editorKeys::lastFile,
                          current != nullptr ? m_services->relPath(current->filePath()) : QString());
     modPrjHook->setValue(editorKeys::lastCursorPos, current != nullptr ? current->cursorPos() : 0);
+    m_session->save(m_services->projectFile(), comfort.keepMarksEn);
 }
 
 void ModEditor::prjClose()

@@ -33,6 +33,7 @@ namespace nsModEditor {
 
 class DocumentCommands;
 class DocumentKeeper;
+class DocumentSession;
 class DocumentSync;
 class EditorConfigPage;
 class EditorMemPageAddrMap;
@@ -224,6 +225,7 @@ private:
     std::unique_ptr<DocumentCommands> m_commands;
     std::unique_ptr<EditorFinder> m_finder;
     std::unique_ptr<SourceFinder> m_sourceFinder;
+    std::unique_ptr<DocumentSession> m_session;
     std::unique_ptr<RecoveryOffer> m_recoveryOffer; ///< null before modInit() and after modExit()
     PluginList<ModEditorPluginIf> m_plugins;
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned

@@ -1,7 +1,5 @@
 #include "FindReplaceActions.h"
 
-#include <QAction>
-
 namespace nsModFindReplace {
 
 FindReplaceActions::FindReplaceActions(QObject* parent)
@@ -15,12 +13,6 @@ FindReplaceActions::FindReplaceActions(QObject* parent)
         // Some desktops define no standard key for it.
         {eActionReplace, QT_TR_NOOP("Replace"), nullptr, "edit-replace", "Ctrl+H", QKeySequence::Replace},
     });
-    // Some desktops have it for "Find next", too; here it leads to a line.
-    QAction* next = entry(eActionFindNext);
-    QList<QKeySequence> keys = next->shortcuts();
-    if (keys.size() > 1)
-        keys.removeAll(QKeySequence(QStringLiteral("Ctrl+G")));
-    next->setShortcuts(keys);
 }
 
 } // namespace nsModFindReplace

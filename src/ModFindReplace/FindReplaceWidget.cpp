@@ -116,19 +116,22 @@ void FindReplaceWidget::setupOptions()
     layout->setSpacing(gap);
     m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
     m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
-    m_regExp = addCheckBox("checkRegExp", tr("Expression"),
-                           tr("The text is a regular expression; in the replacement, \\1 is what its first group has "
-                              "found"));
-    m_inSelection = addCheckBox("checkInSelection", tr("Selection"), tr("Only in what is selected now"));
-    m_result = new QLabel(m_options);
+    m_regExp = addOption("buttonRegExp", QStringLiteral(".*"),
+                         tr("Regular expression; in the replacement, \\1 is what its first group has found"));
+    m_inSelection = addOption("buttonInSelection", QStringLiteral("[ ]"), tr("Only in what is selected now"));
+    layout->addWidget(m_caseSensitive);
+    layout->addWidget(m_wholeWords);
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(gap / 4);
+    buttons->addWidget(m_regExp);
+    buttons->addWidget(m_inSelection);
+    layout->addLayout(buttons);
+    m_result = new QLabel(m_find);
     m_result->setObjectName(QStringLiteral("labelResult"));
-    // Room for it, so that nothing moves.
-    m_result->setMinimumWidth(m_result->fontMetrics().horizontalAdvance(QStringLiteral("9999 of 9999")));
-    for (QWidget* part : QList<QWidget*>{m_caseSensitive, m_wholeWords, m_regExp, m_inSelection, m_result})
-        layout->addWidget(part);
+    m_result->setEnabled(false);
     layout->addStretch();
-    connect(m_regExp, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
-    connect(m_inSelection, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_regExp, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_inSelection, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
 }
@@ -157,6 +160,7 @@ QSize FindReplaceWidget::minimumSizeHint() const
 void FindReplaceWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    placeResult();
     const bool narrow = width() < narrowWidth() + gap + m_options->sizeHint().width();
     if (narrow == m_narrow)
         return;
@@ -210,6 +214,18 @@ QCheckBox* FindReplaceWidget::addCheckBox(const char* name, const QString& text,
     return box;
 }
 
+QToolButton* FindReplaceWidget::addOption(const char* name, const QString& text, const QString& toolTip)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    return button;
+}
+
 QString FindReplaceWidget::findString() const
 {
     return m_find->text();
@@ -254,6 +270,18 @@ void FindReplaceWidget::setResult(const QString& text, const QString& toolTip)
 {
     m_result->setText(text);
     m_result->setToolTip(toolTip);
+    m_result->adjustSize();
+    placeResult();
+}
+
+/// Beside the button that clears the field, where the field has the room.
+void FindReplaceWidget::placeResult()
+{
+    const int clearButton = m_find->height();
+    const bool fits = m_find->width() > smallestEdit + clearButton + m_result->width();
+    m_result->setVisible(fits && !m_result->text().isEmpty());
+    m_find->setTextMargins(0, 0, m_result->isHidden() ? 0 : m_result->width() + gap / 2, 0);
+    m_result->move(m_find->width() - clearButton - m_result->width(), (m_find->height() - m_result->height()) / 2);
 }
 
 bool FindReplaceWidget::isFindEnabled() const

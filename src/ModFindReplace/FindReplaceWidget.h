@@ -82,6 +82,8 @@ private:
     QToolButton* addToolButton(const char* name, const QString& icon, const QString& toolTip);
     QPushButton* addButton(QHBoxLayout* layout, const char* name, const QString& text, const QString& toolTip);
     QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
+    QToolButton* addOption(const char* name, const QString& text, const QString& toolTip);
+    void placeResult();
     bool enterPressed(const QKeyEvent* event);
 
     QToolButton* m_close = nullptr;
@@ -96,12 +98,12 @@ private:
     QPushButton* m_prevButton = nullptr;
     QPushButton* m_replaceButton = nullptr;
     QPushButton* m_replaceAllButton = nullptr;
-    QWidget* m_options = nullptr; ///< the check boxes and the result
+    QWidget* m_options = nullptr; ///< how to search
     QCheckBox* m_caseSensitive = nullptr;
     QCheckBox* m_wholeWords = nullptr;
-    QCheckBox* m_regExp = nullptr;
-    QCheckBox* m_inSelection = nullptr;
-    QLabel* m_result = nullptr;
+    QToolButton* m_regExp = nullptr;
+    QToolButton* m_inSelection = nullptr;
+    QLabel* m_result = nullptr; ///< at the right in the text to find
     eMode_t m_mode = eModeFind;
     bool m_narrow = false; ///< the options have a row of their own
     bool m_replaceEn = true;

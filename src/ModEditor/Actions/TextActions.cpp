@@ -7,6 +7,7 @@
 
 #include "SourceFormatter.h"
 
+#include <QKeyEvent>
 #include <QMenu>
 #include <QTextBlock>
 
@@ -62,11 +63,28 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
     }
 }
 
-void TextActions::addTo(EditorWidget* widget) const
+void TextActions::addTo(EditorWidget* widget)
 {
     widget->addActions(m_actions->commands());
     widget->addActions(m_actions->places());
     widget->addActions(m_actions->bookmarks());
+    widget->installEventFilter(this);
+}
+
+/// On some desktops the key of "Go to line..." is that of "Find next", too: in a document it leads to the line.
+bool TextActions::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::ShortcutOverride && event->type() != QEvent::KeyPress)
+        return QObject::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    QAction* action = m_actions->places().first();
+    const QKeySequence keys(int(key->modifiers() & ~Qt::KeypadModifier) + key->key());
+    if (!action->isEnabled() || !action->shortcuts().contains(keys))
+        return QObject::eventFilter(watched, event);
+    event->accept();
+    if (event->type() == QEvent::KeyPress)
+        action->trigger();
+    return true;
 }
 
 void TextActions::setEnabled(bool current, bool project)

@@ -26,11 +26,13 @@ public:
 
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
     /// Gives the shortcuts to a document.
-    void addTo(EditorWidget* widget) const;
+    void addTo(EditorWidget* widget);
     /// @param current a document is current @param project a project is open
     void setEnabled(bool current, bool project);
     /// Goes to the bookmark after or before the cursor; from the last one of a document on to the next document.
     void goToBookmark(bool backward);
+
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
     void findInSources();

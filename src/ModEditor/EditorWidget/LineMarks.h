@@ -7,8 +7,8 @@ namespace nsModEditor {
 
 /// Marked lines of a document: in the order in which they were set, with a fast look-up of one line.
 ///
-/// The marks are plain numbers, counted from 0: they stay where they are when the text moves, unless a MarkFollower moves
-/// them.
+/// The marks are plain numbers, counted from 0: they stay where they are when the text moves, unless a MarkFollower
+/// moves them.
 class LineMarks
 {
 public:

@@ -46,12 +46,14 @@ void MarkFollower::follow(int position, int, int added)
     const int line = first.blockNumber();
     const int newLines = last.blockNumber() - line;
     const int oldLines = qMax(newLines - delta, 0);
-    // What follows the change is the rest of a line, which begins at the start of one only if the change has ended there.
+    // What follows the change is the rest of a line, which begins at the start of one only if the change has ended
+    // there.
     const bool wholeLines = position == first.position() && end == last.position();
     map([&](int mark) {
         if (mark < line || (mark == line && !wholeLines))
             return mark;
-        if (mark >= line + oldLines) return mark + delta;
+        if (mark >= line + oldLines)
+            return mark + delta;
         return mark - line < newLines ? mark : -1;
     });
 }

@@ -7,8 +7,8 @@ namespace nsModEditor {
 class EditorWidget;
 struct sDocumentMarks_t;
 
-/// Keeps the marks of a document on their text when lines come and go before them, if the user wants it so. A mark whose
-/// line is removed goes with it.
+/// Keeps the marks of a document on their text when lines come and go before them, if the user wants it so. A mark
+/// whose line is removed goes with it.
 class MarkFollower : public QObject
 {
     Q_OBJECT
