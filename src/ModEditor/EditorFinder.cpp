@@ -22,9 +22,27 @@ namespace {
 const int maxCount = 9999;      ///< hits that are counted
 const int maxCountTime = 60;    ///< milliseconds that counting may take
 const int linesAroundHit = 3;   ///< lines that are shown above a hit
+const int pause = 250;          ///< milliseconds without a change until the hits are counted again
 const int timeCheckLines = 256; ///< lines between two looks at the clock
 
 } // namespace
+
+EditorFinder::EditorFinder(const ModFindReplacePluginIf* strip, const ModGuiPluginIf* gui,
+                           const OpenDocuments* documents)
+    : m_strip(strip)
+    , m_gui(gui)
+    , m_documents(documents)
+{
+    m_pause.setSingleShot(true);
+    m_pause.setInterval(pause);
+    QObject::connect(&m_pause, &QTimer::timeout, &m_pause, [this] { showCount(); });
+}
+
+void EditorFinder::noteChange()
+{
+    if (m_isPreviewing)
+        m_pause.start();
+}
 
 EditorFinder::sFindParameter_t EditorFinder::stripParameter() const
 {
@@ -233,6 +251,7 @@ void EditorFinder::replaceAll(bool configChanged)
 
 void EditorFinder::preview()
 {
+    m_isPreviewing = true;
     EditorWidget* current = m_documents->current();
     const sFindParameter_t parameter = stripParameter();
     takeRange(parameter);
@@ -243,7 +262,8 @@ void EditorFinder::preview()
     if (current == nullptr || !search.isValid())
         return;
     const QTextCursor hit = hitFrom(current, search, current->textCursor().selectionStart(), false);
-    if (hit.isNull())
+    // What is hidden comes into view when the cursor goes there.
+    if (hit.isNull() || !hit.block().isVisible())
         return;
     const QRect rect = current->cursorRect(hit);
     if (!current->viewport()->rect().contains(rect))
@@ -295,6 +315,8 @@ void EditorFinder::showCount() const
 void EditorFinder::end()
 {
     m_range = QTextCursor();
+    m_isPreviewing = false;
+    m_pause.stop();
     for (EditorWidget* widget : m_documents->all())
         widget->overlay()->setHits(QRegularExpression());
     if (EditorWidget* widget = m_documents->current())

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QString>
 #include <QTextCursor>
+#include <QTimer>
 
 class ModFindReplacePluginIf;
 class ModGuiPluginIf;
@@ -33,12 +34,7 @@ public:
     };
 
     /// Reads the strip and the documents, writes the current document and the status bar. Not owned.
-    EditorFinder(const ModFindReplacePluginIf* strip, const ModGuiPluginIf* gui, const OpenDocuments* documents)
-        : m_strip(strip)
-        , m_gui(gui)
-        , m_documents(documents)
-    {
-    }
+    EditorFinder(const ModFindReplacePluginIf* strip, const ModGuiPluginIf* gui, const OpenDocuments* documents);
 
     /// One search. If the text is not found, only a message is shown; the next search continues at the other end.
     /// @param configChanged the strip has changed since the last call
@@ -52,6 +48,8 @@ public:
     void preview();
     /// Counts again, after the cursor has moved or the text has changed.
     void showCount() const;
+    /// The text of a document has changed: counts again when the user pauses.
+    void noteChange();
     /// Takes the marks away.
     void end();
 
@@ -73,7 +71,9 @@ private:
     const ModGuiPluginIf* m_gui;
     const OpenDocuments* m_documents;
     sFindParameter_t m_findParameter;
-    QTextCursor m_range; ///< what the search is restricted to; null for the whole document
+    QTimer m_pause;
+    bool m_isPreviewing = false; ///< the strip is open for a document
+    QTextCursor m_range;         ///< what the search is restricted to; null for the whole document
 };
 
 } // namespace nsModEditor

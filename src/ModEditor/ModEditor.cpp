@@ -440,6 +440,7 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     // from.
     connect(widget, &EditorWidget::filesDropped, m_commands.get(), &DocumentCommands::openDroppedFiles,
             Qt::QueuedConnection);
+    connect(widget, &QPlainTextEdit::textChanged, m_textActions, [this] { m_finder->noteChange(); });
     widget->addActions(m_actionsEdit->menuActions());
     m_textActions->addTo(widget);
 }

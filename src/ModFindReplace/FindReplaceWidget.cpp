@@ -111,7 +111,7 @@ void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
 void FindReplaceWidget::setupOptions()
 {
     m_options = new QWidget(this);
-    auto* layout = new QHBoxLayout(m_options);
+    auto* layout = new QBoxLayout(QBoxLayout::LeftToRight, m_options);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
@@ -119,17 +119,25 @@ void FindReplaceWidget::setupOptions()
     m_regExp = addOption("buttonRegExp", QStringLiteral(".*"),
                          tr("Regular expression; in the replacement, \\1 is what its first group has found"));
     m_inSelection = addOption("buttonInSelection", QStringLiteral("[ ]"), tr("Only in what is selected now"));
-    layout->addWidget(m_caseSensitive);
-    layout->addWidget(m_wholeWords);
+    // In a narrow window, one row is above the other.
+    auto* boxes = new QHBoxLayout;
+    boxes->setSpacing(gap);
+    boxes->addWidget(m_caseSensitive);
+    boxes->addWidget(m_wholeWords);
+    boxes->addStretch();
     auto* buttons = new QHBoxLayout;
-    buttons->setSpacing(gap / 4);
+    buttons->setSpacing(gap / 2);
     buttons->addWidget(m_regExp);
     buttons->addWidget(m_inSelection);
+    m_resultBelow = new QLabel(m_options);
+    m_resultBelow->setEnabled(false);
+    buttons->addWidget(m_resultBelow);
+    buttons->addStretch();
+    layout->addLayout(boxes);
     layout->addLayout(buttons);
     m_result = new QLabel(m_find);
     m_result->setObjectName(QStringLiteral("labelResult"));
     m_result->setEnabled(false);
-    layout->addStretch();
     connect(m_regExp, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_inSelection, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
@@ -161,12 +169,19 @@ void FindReplaceWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
     placeResult();
-    const bool narrow = width() < narrowWidth() + gap + m_options->sizeHint().width();
+    // The width that the options have in one row, in whichever way they stand now.
+    int options = gap;
+    for (const QWidget* part : {static_cast<QWidget*>(m_caseSensitive), static_cast<QWidget*>(m_wholeWords),
+                                static_cast<QWidget*>(m_regExp), static_cast<QWidget*>(m_inSelection)})
+        options += part->sizeHint().width() + gap;
+    const bool narrow = width() < narrowWidth() + gap + options;
     if (narrow == m_narrow)
         return;
     m_narrow = narrow;
     auto* grid = static_cast<QGridLayout*>(layout());
     grid->removeWidget(m_options);
+    static_cast<QBoxLayout*>(m_options->layout())
+        ->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (narrow)
         grid->addWidget(m_options, 2, columnEdit, 1, columnCount - columnEdit);
     else
@@ -280,6 +295,9 @@ void FindReplaceWidget::placeResult()
     const int clearButton = m_find->height();
     const bool fits = m_find->width() > smallestEdit + clearButton + m_result->width();
     m_result->setVisible(fits && !m_result->text().isEmpty());
+    m_resultBelow->setText(m_result->text());
+    m_resultBelow->setToolTip(m_result->toolTip());
+    m_resultBelow->setVisible(!fits && !m_result->text().isEmpty());
     m_find->setTextMargins(0, 0, m_result->isHidden() ? 0 : m_result->width() + gap / 2, 0);
     m_result->move(m_find->width() - clearButton - m_result->width(), (m_find->height() - m_result->height()) / 2);
 }

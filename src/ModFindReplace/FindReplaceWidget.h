@@ -103,7 +103,8 @@ private:
     QCheckBox* m_wholeWords = nullptr;
     QToolButton* m_regExp = nullptr;
     QToolButton* m_inSelection = nullptr;
-    QLabel* m_result = nullptr; ///< at the right in the text to find
+    QLabel* m_result = nullptr;      ///< at the right in the text to find
+    QLabel* m_resultBelow = nullptr; ///< the same where that is too narrow
     eMode_t m_mode = eModeFind;
     bool m_narrow = false; ///< the options have a row of their own
     bool m_replaceEn = true;

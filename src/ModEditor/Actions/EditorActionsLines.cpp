@@ -35,9 +35,14 @@ EditorActionsLines::EditorActionsLines(QObject* parent)
          QT_TR_NOOP("Go to the previous bookmark of all documents"), nullptr, "Ctrl+,"},
         {eActionFindInSources, QT_TR_NOOP("Find in sources..."),
          QT_TR_NOOP("Find and replace in all sources of the project"), nullptr, "Ctrl+Shift+F"},
+        {eActionFold, QT_TR_NOOP("Fold or unfold"),
+         QT_TR_NOOP("Hide the conditional, the namespace or the group at the cursor, or show what is hidden"), nullptr,
+         "Ctrl+Shift+M"},
+        {eActionFoldAll, QT_TR_NOOP("Fold all"), QT_TR_NOOP("Hide all conditionals, namespaces and groups")},
+        {eActionUnfoldAll, QT_TR_NOOP("Unfold all"), QT_TR_NOOP("Show all lines")},
     });
     // In other widgets these keys have other functions.
-    for (QAction* action : actions().mid(0, eActionFindInSources))
+    for (QAction* action : commands() + places() + bookmarks() + folds())
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 }
 

@@ -27,6 +27,9 @@ public:
         eActionNextBookmark = 11,
         eActionPrevBookmark = 12,
         eActionFindInSources = 13,
+        eActionFold = 14,
+        eActionFoldAll = 15,
+        eActionUnfoldAll = 16,
     };
 
     explicit EditorActionsLines(QObject* parent);
@@ -37,6 +40,7 @@ public:
     QList<QAction*> places() const { return entriesBetween(eActionGotoLine, eActionGotoBracket); }
     /// Needs no document.
     QAction* findInSources() const { return entry(eActionFindInSources); }
+    QList<QAction*> folds() const { return entriesBetween(eActionFold, eActionUnfoldAll); }
     QList<QAction*> bookmarks() const { return entriesBetween(eActionSetBookmark, eActionPrevBookmark); }
     /// None.
     QList<QAction*> toolBarActions() const override { return {}; }

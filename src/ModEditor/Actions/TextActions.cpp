@@ -2,6 +2,7 @@
 
 #include "Brackets.h"
 #include "EditorWidget.h"
+#include "Folding.h"
 #include "GotoLineField.h"
 #include "OpenDocuments.h"
 
@@ -41,7 +42,10 @@ TextActions::TextActions(const OpenDocuments* documents, QObject* parent)
     , m_documents(documents)
     , m_actions(new EditorActionsLines(this))
     , m_lineMenu(std::make_unique<QMenu>(tr("Lines")))
+    , m_foldMenu(std::make_unique<QMenu>(tr("Folding")))
 {
+    m_foldMenu->addActions(m_actions->folds());
+    m_foldMenu->setToolTipsVisible(true);
     m_lineMenu->addActions(m_actions->commands());
     m_lineMenu->setToolTipsVisible(true);
     connect(m_actions, qOverload<EditorActionsLines::eAction_t>(&EditorActionsLines::triggered), this,
@@ -55,7 +59,8 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
 {
     switch (actionClass) {
     case ModActionHookIf::eActionClassEdit:
-        return QList<QAction*>{m_lineMenu->menuAction()} << m_actions->places() << m_actions->findInSources();
+        return QList<QAction*>{m_lineMenu->menuAction(), m_foldMenu->menuAction()} << m_actions->places()
+                                                                                   << m_actions->findInSources();
     case ModActionHookIf::eActionClassNavigation:
         return m_actions->bookmarks();
     default:
@@ -68,6 +73,7 @@ void TextActions::addTo(EditorWidget* widget)
     widget->addActions(m_actions->commands());
     widget->addActions(m_actions->places());
     widget->addActions(m_actions->bookmarks());
+    widget->addActions(m_actions->folds());
     widget->installEventFilter(this);
 }
 
@@ -92,6 +98,7 @@ void TextActions::setEnabled(bool current, bool project)
     m_actions->setEnabled(current);
     m_actions->setEnabled(EditorActionsLines::eActionFindInSources, project);
     m_lineMenu->menuAction()->setEnabled(current);
+    m_foldMenu->menuAction()->setEnabled(current);
 }
 
 void TextActions::goToBookmark(bool backward)
@@ -170,6 +177,15 @@ void TextActions::handle(EditorActionsLines::eAction_t action)
         break;
     case EditorActionsLines::eActionPrevBookmark:
         goToBookmark(true);
+        break;
+    case EditorActionsLines::eActionFold:
+        widget->folding()->toggle(widget->cursorLine());
+        break;
+    case EditorActionsLines::eActionFoldAll:
+        widget->folding()->foldAll();
+        break;
+    case EditorActionsLines::eActionUnfoldAll:
+        widget->folding()->unfoldAll();
         break;
     case EditorActionsLines::eActionFindInSources:
         break;

@@ -43,6 +43,7 @@ private:
     const OpenDocuments* m_documents;
     EditorActionsLines* m_actions;
     std::unique_ptr<QMenu> m_lineMenu;
+    std::unique_ptr<QMenu> m_foldMenu;
 };
 
 } // namespace nsModEditor

@@ -1,6 +1,7 @@
 #include "ColumnSelection.h"
 
 #include "EditorWidget.h"
+#include "Folding.h"
 #include "TextColumns.h"
 
 #include <QApplication>
@@ -234,6 +235,7 @@ void ColumnSelection::extendTo(QPoint place)
     place.setX(qBound(0, place.x(), maxColumn));
     place.setY(qBound(0, place.y(), m_editor->blockCount() - 1));
     m_position = place;
+    m_editor->folding()->show(top(), bottom());
     showCursor();
     emit m_editor->actionChanged(m_editor);
 }

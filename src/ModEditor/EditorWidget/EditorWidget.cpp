@@ -8,6 +8,7 @@
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
+#include "Folding.h"
 #include "MarkFollower.h"
 #include "TextCompletion.h"
 #include "TextOverlay.h"
@@ -83,6 +84,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
     m_columns = new ColumnSelection(this);
+    m_folding = new Folding(this);
     m_markFollower = new MarkFollower(this, &m_marks);
     m_overlay = std::make_unique<TextOverlay>(this);
 
@@ -113,6 +115,7 @@ EditorWidget::~EditorWidget()
     disconnect(this);
     disconnect(m_wordMarks);
     delete m_columns;
+    delete m_folding;
     delete m_markFollower;
 }
 
@@ -262,7 +265,11 @@ void EditorWidget::rehighlight()
 LineCommands EditorWidget::lineCommands()
 {
     m_columns->end();
-    return LineCommands(this, indentStyle());
+    LineCommands commands(this, indentStyle());
+    // What is hidden below the last line is not left behind.
+    const QPair<int, int> lines = commands.selectedLines();
+    m_folding->show(lines.first, lines.second + 1);
+    return commands;
 }
 
 void EditorWidget::cut()
@@ -520,6 +527,7 @@ void EditorWidget::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     m_overlay->paint(&painter);
     m_columns->paint(&painter);
+    m_folding->paint(&painter);
 }
 
 /// Passes a key to the text edit. With Shift it would insert a line separator: in the file this character ends a line,

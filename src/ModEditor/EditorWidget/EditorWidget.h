@@ -29,6 +29,7 @@ class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
+class Folding;
 class MarkFollower;
 class TextCompletion;
 class TextOverlay;
@@ -116,6 +117,8 @@ public:
     LineCommands::sIndent_t indentStyle() const { return {m_tabIndent, m_comfort.indentWithBlanks}; }
     /// What is shown above the text.
     TextOverlay* overlay() const { return m_overlay.get(); }
+    /// What is hidden of the text.
+    Folding* folding() const { return m_folding; }
     void setSelectionHighlightEn(bool enabled);
     void setTextCompletionEn(bool enabled);
     /// @param length characters
@@ -272,6 +275,7 @@ private:
     bool m_autoReturnIndentEn = false;
     sEditorComfort_t m_comfort;
     ColumnSelection* m_columns = nullptr;
+    Folding* m_folding = nullptr;
     std::unique_ptr<TextOverlay> m_overlay;
 
     bool m_reportedModified = false; ///< value of isModified() that was reported last
