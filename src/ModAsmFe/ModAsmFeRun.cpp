@@ -197,7 +197,7 @@ QStringList ModAsmFe::refusedOutputs(const QVector<AsmOutsideFile>& files)
         tr("The project \"%1\" wants to write files outside of its folder. What is in them now will be lost.\n\nShall "
            "this run and later ones of the project write them?")
             .arg(ConsentQuestion::readable(modPrjHook->prjFileName())),
-        shownFiles(unknown));
+        shownFiles(unknown), QStringLiteral("pageId://configPageAsmFe#outside"));
     // The program may have been closed under the question. The answer is about the project that was open then.
     const bool allowed = answer == ConsentQuestion::answerYes;
     if (self && answer != ConsentQuestion::answerNobody) {

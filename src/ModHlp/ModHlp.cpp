@@ -1,6 +1,7 @@
 #include "ModHlp.h"
 
 #include "HlpConfigPage.h"
+#include "HlpDialogWindow.h"
 #include "HlpIndexWidget.h"
 #include "HlpNetworkAccessManager.h"
 #include "HlpWidget.h"
@@ -18,7 +19,6 @@ namespace nsModHlp {
 
 namespace {
 
-const QUrl pageStart(QStringLiteral("pageid://gettingstarted"));
 const QUrl pageAbout(QStringLiteral("pageid://about"));
 
 } // namespace
@@ -41,6 +41,7 @@ ModHlp::~ModHlp()
         page->disconnect(this);
         delete page;
     }
+    delete m_window;
     m_network->setEngine(nullptr);
     m_collection.close();
     delete m_index;
@@ -67,9 +68,7 @@ void ModHlp::modInit()
     m_actionsHelp = new HlpActionsHelp(this);
     m_actionsNavi = new HlpActionsNavi(this);
     m_actionsNavi->setEnabled(false);
-    // The links of short texts are reported to the widget, and up to its window.
-    if (parent() != nullptr)
-        parent()->installEventFilter(this);
+    qApp->installEventFilter(this);
     connect(m_actionsHelp, SIGNAL(triggered(nsModHlp::HlpActionsHelp::eAction_t)), this,
             SLOT(handleActions(nsModHlp::HlpActionsHelp::eAction_t)));
     connect(m_actionsNavi, SIGNAL(triggered(nsModHlp::HlpActionsNavi::eAction_t)), this,
@@ -126,9 +125,14 @@ void ModHlp::modRun()
     });
 }
 
+QUrl ModHlp::pageStart()
+{
+    return QUrl(QStringLiteral("pageid://gettingstarted"));
+}
+
 void ModHlp::openStart()
 {
-    openFile(pageStart);
+    openFile(pageStart());
 }
 
 void ModHlp::modExitIntermod()
@@ -137,6 +141,7 @@ void ModHlp::modExitIntermod()
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrHelp, this);
     m_lastPages = openPages();
     closeAllFiles();
+    delete m_window;
     for (QWidget* dialog : m_dialogPages.keys())
         closeDialogHlp(dialog);
     if (m_index != nullptr && modGuiHook != nullptr)

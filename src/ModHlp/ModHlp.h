@@ -34,6 +34,7 @@ class QWebView;
 namespace nsModHlp {
 
 class HlpConfigPage;
+class HlpDialogWindow;
 class HlpIndexWidget;
 class HlpNetworkAccessManager;
 class HlpWidget;
@@ -124,16 +125,15 @@ public:
 
     void registerPlugin(ModHlpPluginIf* plugin);
 
-    /// Opens the page that explains a word of a source: an instruction, a directive, the key of a message.
-    void explainWord(const QString& word);
     /// Opens the page about a widget: about the word at its text cursor; else about the page or panel that it is a part
-    /// of, which says so by its property "helpRef"; else the first page.
+    /// of, which says so by its property "helpRef"; else the first page. In front of a modal dialog, if there is one.
     void explain(QWidget* widget);
     /// Shows what a widget is: its own short text, or that of what it is a part of. Without any, the next click chooses
     /// what is explained.
     void whatsThis(QWidget* widget);
 
-    /// Opens the pages that the links of these short texts name, and the collection once the window is painted.
+    /// Of the whole program: opens the pages that the links of these short texts name, what a dialog's button or F1 in
+    /// a modal one asks for, and the collection once the window is painted.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
@@ -174,9 +174,11 @@ private:
     void showIndexWidget();
     void openCollection();
     void closeCollection();
+    static QUrl pageStart();
     void openStart();
     QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
+    void show(const QUrl& url);
     void find(bool backwards);
     QUrl urlOfWord(const QString& word);
 
@@ -187,6 +189,7 @@ private:
     HlpActionsHelp* m_actionsHelp = nullptr;
     HlpActionsNavi* m_actionsNavi = nullptr;
     QPointer<HlpIndexWidget> m_index;
+    QPointer<HlpDialogWindow> m_window;        ///< in front of a modal dialog
     QPointer<HlpConfigPage> m_configPage;      ///< null while the settings dialog is closed
     QList<HlpWidget*> m_pages;                 ///< of the centre
     QHash<QWidget*, HlpWidget*> m_dialogPages; ///< by the dialog that they stand beside

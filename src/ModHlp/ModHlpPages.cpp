@@ -3,15 +3,18 @@
 #include "ModHlp.h"
 
 #include "HelpRef.h"
+#include "HlpDialogWindow.h"
 #include "HlpNetworkAccessManager.h"
 #include "HlpWidget.h"
 #include "ModFindReplaceHookIf.h"
 #include "ModNetworkHookIf.h"
 #include "ModPrjHookIf.h"
 
+#include <QApplication>
 #include <QDesktopServices>
 #include <QHelpEngine>
 #include <QHelpLink>
+#include <QKeyEvent>
 #include <QNetworkProxy>
 #include <QPlainTextEdit>
 #include <QRegularExpression>
@@ -172,8 +175,6 @@ void ModHlp::setFileName(QWidget* widget, QString title)
 
 namespace {
 
-const QUrl pageNames(QStringLiteral("pageid://langnames"));
-
 /// The pages of the instruction sets, by the names of the processors.
 const struct
 {
@@ -244,19 +245,34 @@ QUrl ModHlp::urlOfWord(const QString& word)
     return links.isEmpty() ? QUrl() : links.first();
 }
 
-void ModHlp::explainWord(const QString& word)
+/// Shows a page where the user can read it: in the centre, which a modal dialog locks.
+void ModHlp::show(const QUrl& url)
 {
-    // Any other word is a name that the program makes itself.
-    const QUrl url = urlOfWord(word);
-    openFile(url.isEmpty() ? pageNames : url);
+    QWidget* modal = QApplication::activeModalWidget();
+    if (modal == nullptr || isOfWeb(url)) {
+        openFile(url);
+        return;
+    }
+    // One that has been closed is deleted later.
+    if (m_window != nullptr && (m_window->parentWidget() != modal || !m_window->isVisible()))
+        delete m_window;
+    if (m_window == nullptr)
+        m_window = new HlpDialogWindow(m_network, modal);
+    m_window->page()->setSource(url);
+    m_window->show();
+    m_window->raise();
+    m_window->activateWindow();
 }
 
 void ModHlp::explain(QWidget* widget)
 {
     if (const auto* text = qobject_cast<QPlainTextEdit*>(widget)) {
         const QString word = wordAt(*text);
-        if (!word.isEmpty()) {
-            explainWord(word);
+        QUrl url = urlOfWord(word);
+        if (url.isEmpty() && !word.isEmpty())
+            url = QUrl(text->property(HelpRef::propertyForNames).toString());
+        if (!url.isEmpty()) {
+            show(url);
             return;
         }
     }
@@ -269,11 +285,11 @@ void ModHlp::explain(QWidget* widget)
         }
         const QString ref = part->property(HelpRef::property).toString();
         if (!ref.isEmpty()) {
-            openFile(QUrl(ref));
+            show(QUrl(ref));
             return;
         }
     }
-    openStart();
+    show(pageStart());
 }
 
 void ModHlp::whatsThis(QWidget* widget)
@@ -289,12 +305,30 @@ void ModHlp::whatsThis(QWidget* widget)
 
 bool ModHlp::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::Paint && !m_network->isReady())
-        QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
-    if (event->type() != QEvent::WhatsThisClicked)
-        return QObject::eventFilter(watched, event);
-    openFile(QUrl(static_cast<QWhatsThisClickedEvent*>(event)->href()));
-    return true;
+    switch (event->type()) {
+    case QEvent::Paint:
+        if (watched == parent() && !m_network->isReady())
+            QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
+        return false;
+    case QEvent::WhatsThisClicked:
+        show(QUrl(static_cast<QWhatsThisClickedEvent*>(event)->href()));
+        return true;
+    case QEvent::HelpRequest:
+        explain(qobject_cast<QWidget*>(watched));
+        return true;
+    case QEvent::KeyPress: {
+        // The shortcut of the window does not reach into a modal dialog.
+        const auto* key = static_cast<QKeyEvent*>(event);
+        auto* widget = qobject_cast<QWidget*>(watched);
+        if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier || widget == nullptr ||
+            QApplication::activeModalWidget() == nullptr || widget->window() == m_window)
+            return false;
+        explain(widget);
+        return true;
+    }
+    default:
+        return false;
+    }
 }
 
 // --- beside dialogs ---

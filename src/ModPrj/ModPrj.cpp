@@ -1,5 +1,6 @@
 #include "ModPrj.h"
 
+#include "HelpRef.h"
 #include "PrjConfigPage.h"
 #include "PrjMngrWidget.h"
 
@@ -329,6 +330,7 @@ bool ModPrj::askToTryAgain()
                         m_project.path().toHtmlEscaped() + QLatin1String("</b><p><p>") +
                         tr("Without the file, the changes of the project are lost.") + QLatin1String("</p>"),
                     QMessageBox::Retry | QMessageBox::Discard, QApplication::activeWindow());
+    HelpRef::set(&box, QStringLiteral("pageId://recovery#files"));
     box.setDefaultButton(QMessageBox::Retry);
     box.setEscapeButton(QMessageBox::Retry);
     return box.exec() == QMessageBox::Retry && isValid();

@@ -3,6 +3,7 @@
 #include "ScriptEngine.h"
 
 #include "Display.h"
+#include "HelpRef.h"
 #include "ModMsgHookIf.h"
 
 #include <QApplication>
@@ -242,6 +243,7 @@ void ModScript::runFromDialog()
     // Anything may be deleted while the dialog is open.
     const QPointer<ModScript> self(this);
     const QPointer<QFileDialog> dialog(new QFileDialog(QApplication::activeWindow(), tr("Run script"), m_lastDir));
+    HelpRef::set(dialog, QStringLiteral("pageId://scripts#run"));
     dialog->setNameFilters({tr("Script files(*.js)"), tr("Any files(*)")});
     dialog->setFileMode(QFileDialog::ExistingFile);
     dialog->setOption(QFileDialog::DontUseNativeDialog);

@@ -270,7 +270,7 @@ SyscallPrograms::ePermission_t ModSyscall::ask(int index, const SyscallCommand& 
         tr("The project \"%1\" wants to run a program on this computer, with these arguments.\n\nShall this command be "
            "run, now and whenever the project asks for it?")
             .arg(ConsentQuestion::readable(modPrjHook->prjFileName())),
-        shown(command));
+        shown(command), QStringLiteral("pageId://externalPrograms#consent"));
     if (monitor != nullptr)
         monitor->setBusy(false);
     if (!self || monitor == nullptr || monitor != monitors[index] || commandOf(index) != command)

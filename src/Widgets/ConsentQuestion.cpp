@@ -1,5 +1,6 @@
 #include "ConsentQuestion.h"
 
+#include "HelpRef.h"
 #include "Unattended.h"
 
 #include <QApplication>
@@ -85,7 +86,8 @@ QString ConsentQuestion::readable(const QString& line)
     return shown;
 }
 
-ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QString& text, const QString& act)
+ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QString& text, const QString& act,
+                                                const QString& helpPage)
 {
     if (isUnattended()) {
         QStringList lines = readableLines(act);
@@ -112,6 +114,7 @@ ConsentQuestion::eAnswer_t ConsentQuestion::ask(const QString& title, const QStr
     head->addWidget(label, 1);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Yes | QDialogButtonBox::No);
+    HelpRef::set(dialog, helpPage, buttons);
     QPushButton* no = buttons->button(QDialogButtonBox::No);
     buttons->button(QDialogButtonBox::Yes)->setAutoDefault(false);
     no->setDefault(true);

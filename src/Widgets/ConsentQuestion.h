@@ -20,7 +20,8 @@ public:
     /// wait; it reports the act on standard error.
     /// @param text what is asked
     /// @param act what would happen, in full; shown as it is, to be read, scrolled and copied
-    static eAnswer_t ask(const QString& title, const QString& text, const QString& act);
+    /// @param helpPage page of the help about what is asked
+    static eAnswer_t ask(const QString& title, const QString& text, const QString& act, const QString& helpPage);
 
     /// Is there nobody to ask?
     static bool isUnattended();

@@ -1,5 +1,6 @@
 #include "TextCompareDialog.h"
 
+#include "HelpRef.h"
 #include "TextCompareSide.h"
 
 #include <QDialogButtonBox>
@@ -94,7 +95,6 @@ TextCompareDialog::TextCompareDialog(QWidget* parent)
 {
     setObjectName(QStringLiteral("textCompareDialog"));
     setWindowTitle(tr("Compare texts"));
-    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(2 * gap, 2 * gap, 2 * gap, 2 * gap);
     layout->setSpacing(gap);
@@ -144,6 +144,7 @@ void TextCompareDialog::connectSides()
 void TextCompareDialog::addNavigation()
 {
     m_buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    HelpRef::set(this, QStringLiteral("pageId://recovery#compare"), m_buttons);
     m_previous = m_buttons->addButton(tr("&Previous difference"), QDialogButtonBox::ActionRole);
     m_previous->setObjectName(QStringLiteral("textComparePrevious"));
     m_previous->setToolTip(tr("Goes to the difference above (Alt+Up)"));

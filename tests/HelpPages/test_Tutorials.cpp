@@ -20,6 +20,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QTabBar>
@@ -414,6 +415,75 @@ void Tutorials::firstOutput()
     QFile written(projectDir() + "/lamps.hex");
     ASSERT_TRUE(written.open(QIODevice::ReadOnly));
     EXPECT_EQ(written.readAll().count('\n'), 1024);
+}
+
+TEST_F(Tutorials, AUartIsSimulatedByHand)
+{
+    ASSERT_NO_FATAL_FAILURE(makeProject("uart.nalvo", "UART"));
+    ASSERT_NO_FATAL_FAILURE(chooseProcessor());
+    choose("File > New...");
+    ASSERT_NO_FATAL_FAILURE(paste(sourcesOf("tutorialUart").at(0)));
+    ASSERT_NO_FATAL_FAILURE(saveAs("uart.psm"));
+    choose("Simulator > Enable/disable simulator");
+    ASSERT_NE(sim(), nullptr);
+    module<ModGuiHookIf>()->setCurrentWidget(sim()->ioWidget());
+    auto* kind = qobject_cast<QComboBox*>(part("procSimIODevType"));
+    ASSERT_NE(kind, nullptr);
+    const auto add = [&](const QString& name, const QString& addr) -> QWidget* {
+        kind->setCurrentText(name);
+        EXPECT_EQ(kind->currentText(), name);
+        const QList<QWidget*> before = sim()->ioWidget()->findChildren<QWidget*>("procSimIODevice");
+        button(sim()->ioWidget(), "Add");
+        for (QWidget* device : sim()->ioWidget()->findChildren<QWidget*>("procSimIODevice")) {
+            if (before.contains(device))
+                continue;
+            if (!addr.isEmpty()) {
+                type(device->findChild<QLineEdit*>("procSimEdtNumeric"), addr);
+                QTest::keyClick(device->findChild<QLineEdit*>("procSimEdtNumeric"), Qt::Key_Return);
+            }
+            auto* direction = device->findChild<QComboBox*>("procSimEdtDirection");
+            direction->setFocus();
+            for (int i = 0; i < direction->count() && direction->currentText() != "Read"; ++i)
+                QTest::keyClick(direction, Qt::Key_Up);
+            EXPECT_EQ(direction->currentText(), "Read");
+            return device;
+        }
+        return nullptr;
+    };
+    QWidget* status = add("Register", QString());
+    ASSERT_NE(status, nullptr);
+    EXPECT_EQ(status->findChild<QLineEdit*>("procSimEdtNumeric")->text(), "00");
+    type(valueOf(status), "04");
+    QWidget* received = add("Fifo", "01");
+    ASSERT_NE(received, nullptr);
+    auto* arrow = received->findChild<QToolButton*>("procSimIOExpand");
+    auto* lines = received->findChild<QPlainTextEdit*>();
+    ASSERT_NE(arrow, nullptr);
+    ASSERT_NE(lines, nullptr);
+    QTest::mouseClick(arrow, Qt::LeftButton);
+    settleLayout();
+    ASSERT_TRUE(lines->isVisible()) << "the arrow unfolds it";
+    lines->setFocus();
+    QTest::keyClick(lines, Qt::Key_A, Qt::ControlModifier);
+    for (const char* byte : {"48", "69", "0D"}) {
+        QTest::keyClicks(lines, byte);
+        if (QByteArray(byte) != "0D")
+            QTest::keyClick(lines, Qt::Key_Return);
+    }
+    // With the keyboard in the list, as the reader has it.
+    ASSERT_EQ(QApplication::focusWidget(), lines);
+    QTest::keyClick(lines, Qt::Key_F9);
+    screenshot("tutorial-uart1");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return message("Can not read IO value.") != nullptr; }, 5000));
+    settleLayout();
+    QWidget* sent = card("UART_TX");
+    ASSERT_NE(sent, nullptr);
+    if (sent == received)
+        ADD_FAILURE() << "the same device answers";
+    auto* output = sent->findChild<QPlainTextEdit*>();
+    ASSERT_NE(output, nullptr);
+    EXPECT_EQ(output->toPlainText().simplified(), "48 69 0D 0A");
+    screenshot("tutorial-uart");
 }
 
 } // namespace

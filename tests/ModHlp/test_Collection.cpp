@@ -60,7 +60,6 @@ protected:
         QPlainTextEdit text("LOAD s0, 1");
         hlp->explain(&text);
         hlp->explain(nullptr);
-        hlp->explainWord("errSyntax");
         QWidget dialog;
         hlp->showDialogHlpRef(&dialog, "pageId://about");
         find("text");

@@ -25,6 +25,7 @@ protected:
     QString pageAt(const QString& text, int position)
     {
         QPlainTextEdit edit(text);
+        HelpRef::setForNames(&edit, "pageId://langNames");
         QTextCursor cursor = edit.textCursor();
         cursor.setPosition(position);
         edit.setTextCursor(cursor);
@@ -61,6 +62,20 @@ TEST_F(Ways, theCursorOnNoWord)
     EXPECT_EQ(pageAt("", 0), "start.html");
     EXPECT_EQ(pageAt("LOAD  , 1", 5), "start.html");
     EXPECT_EQ(pageAt("#", 0), "langnames.html");
+}
+
+TEST_F(Ways, aTextWithoutNames)
+{
+    gui.showsPages = false;
+    start();
+    prj.setValue("ModProcessor/processor", QString("Xilinx PicoBlaze 3"));
+    QPlainTextEdit values("FF");
+    HelpRef::set(&values, "pageId://about");
+    hlp->explain(&values);
+    EXPECT_EQ(page()->source().fileName(), "about.html");
+    values.setPlainText("LOAD");
+    hlp->explain(&values);
+    EXPECT_EQ(page()->source().fileName(), "instrxpblze3.html");
 }
 
 TEST_F(Ways, aWidgetOrWhatItIsAPartOf)

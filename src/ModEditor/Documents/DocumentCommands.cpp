@@ -5,6 +5,7 @@
 #include "DocumentSync.h"
 #include "EditorServices.h"
 #include "EditorWidget.h"
+#include "HelpRef.h"
 #include "OpenDocuments.h"
 
 #include <QFileDialog>
@@ -26,6 +27,7 @@ bool isUntouched(EditorWidget* widget)
 
 void setupDialog(QFileDialog* dialog)
 {
+    HelpRef::set(dialog, QStringLiteral("pageId://editor#file-menu"));
     dialog->setNameFilters({DocumentCommands::tr("Assembler files(*.psm)"), DocumentCommands::tr("Any files(*)")});
     dialog->setDefaultSuffix("psm");
     dialog->setViewMode(QFileDialog::List);

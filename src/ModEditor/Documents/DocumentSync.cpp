@@ -5,6 +5,7 @@
 #include "EditorRecovery.h"
 #include "EditorServices.h"
 #include "EditorWidget.h"
+#include "HelpRef.h"
 #include "MyNoticeBar.h"
 #include "OpenDocuments.h"
 #include "TextCompareDialog.h"
@@ -197,6 +198,7 @@ DocumentSync::eConflict_t DocumentSync::askForConflict(EditorWidget* widget, con
     for (;;) {
         QMessageBox box(QMessageBox::Warning, gone ? tr("File was removed") : tr("File was changed outside"), text,
                         QMessageBox::NoButton, QApplication::activeWindow());
+        HelpRef::set(&box, QStringLiteral("pageId://editor#changes-outside"));
         QPushButton* mine = box.addButton(gone ? tr("Save again") : tr("Keep mine"), QMessageBox::AcceptRole);
         QPushButton* file = nullptr;
         QPushButton* compare = nullptr;

@@ -9,6 +9,7 @@
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
 #include "Folding.h"
+#include "HelpRef.h"
 #include "MarkFollower.h"
 #include "TextCompletion.h"
 #include "TextOverlay.h"
@@ -75,6 +76,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
 {
+    HelpRef::set(this, QStringLiteral("pageId://editor"));
+    HelpRef::setForNames(this, QStringLiteral("pageId://langNames"));
     m_textDocument->setDocumentLayout(new QPlainTextDocumentLayout(m_textDocument));
     m_syntaxHighlighter = new EditorSyntaxHighlighter(m_textDocument);
     m_wordMarks = new WordMarks(this, m_syntaxHighlighter);

@@ -1,5 +1,7 @@
 #include "RecoverDialog.h"
 
+#include "HelpRef.h"
+
 #include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHeaderView>
@@ -51,6 +53,7 @@ RecoverDialog::RecoverDialog(RecoveryStore* store, QWidget* parent)
     m_hint->setWordWrap(true);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    HelpRef::set(this, QStringLiteral("pageId://recovery#list"), buttons);
     m_compare = buttons->addButton(tr("Com&pare..."), QDialogButtonBox::ActionRole);
     m_compare->setObjectName(QStringLiteral("recoverCompare"));
     m_compare->setToolTip(tr("Shows the kept text beside that of its file"));

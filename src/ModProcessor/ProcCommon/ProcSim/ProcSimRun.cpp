@@ -11,6 +11,7 @@
 #include "ProcSimWidgets.h"
 
 #include "AsmFeFileHndlr.h"
+#include "HelpRef.h"
 #include "ModAsmFeHookIf.h"
 #include "ModEditorHookIf.h"
 #include "Opcode.h"
@@ -328,6 +329,7 @@ bool ProcSim::resolvePage(int* memRange)
     const Opcode* before = programCounter();
     const int deleted = m_deletions;
     ProcSimResolvePageDialog dialog(m_engine->config().pageCount, QApplication::activeWindow());
+    HelpRef::set(&dialog, QStringLiteral("pageId://simulatorState#pc"));
     dialog.exec();
     // The row is the number of the range: the first row is the shared range.
     *memRange = dialog.selectedRow();

@@ -519,6 +519,7 @@ void ProcSimWaveViewer::save()
     const QPointer<ProcSimWaveViewer> self(this);
     QFileDialog dialog(QApplication::activeWindow(), tr("Save waves"), m_lastPath);
     dialog.setObjectName(QStringLiteral("procSimWaveSaveDialog"));
+    HelpRef::set(&dialog, QStringLiteral("pageId://simulatorWaves"));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
