@@ -333,7 +333,7 @@ TEST_F(SourcesInWindow, replacesWhatIsTickedAsOneStepADocument)
     screenshot("find-in-sources");
     list()->topLevelItem(1)->child(0)->setCheckState(0, Qt::Unchecked);
     find<QPushButton>("buttonSourceReplace")->click();
-    EXPECT_EQ(status(), QString("2 hits replaced"));
+    EXPECT_EQ(status(), QString("Replaced: 2"));
     EXPECT_EQ(current(), documentOf("c.psm"));
     EditorWidget* a = documentOf("a.psm");
     EditorWidget* b = documentOf("b.psm");
@@ -369,8 +369,9 @@ TEST_F(SourcesInWindow, linesThatHaveChangedAreNotReplaced)
     find<QPushButton>("buttonSourceReplace")->click();
     EXPECT_EQ(line(a, 1), QString("x  load s0, 1"));
     EXPECT_EQ(line(a, 2), QString("  [jump] start"));
-    EXPECT_TRUE(status().contains(", 1 not: their lines have changed")) << status().toStdString();
-    EXPECT_TRUE(messageTexts().join('\n').contains("Not replaced in a.psm: 1 hits"));
+    EXPECT_TRUE(status().contains("; left, as their lines have changed: 1")) << status().toStdString();
+    EXPECT_TRUE(messageTexts().join('\n').contains(
+        "Not replaced in a.psm, as the lines have changed or can not be changed: 1"));
     forgetChanges();
 }
 

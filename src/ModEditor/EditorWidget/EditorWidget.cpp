@@ -16,14 +16,11 @@
 #include "WordMarks.h"
 
 #include <QAction>
-#include <QApplication>
-#include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontInfo>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMimeData>
-#include <QPainter>
 #include <QPlainTextDocumentLayout>
 #include <QStringListModel>
 #include <QTextBlock>
@@ -265,96 +262,6 @@ void EditorWidget::rehighlight()
     m_wordMarks->rehighlight();
 }
 
-LineCommands EditorWidget::lineCommands()
-{
-    m_columns->end();
-    LineCommands commands(this, indentStyle());
-    // What is hidden below the last line is not left behind.
-    const QPair<int, int> lines = commands.selectedLines();
-    m_folding->show(lines.first, lines.second + 1);
-    return commands;
-}
-
-void EditorWidget::cut()
-{
-    if (m_columns->isActive())
-        m_columns->cut();
-    else
-        QPlainTextEdit::cut();
-}
-
-void EditorWidget::copy()
-{
-    if (m_columns->isActive())
-        m_columns->copy();
-    else
-        QPlainTextEdit::copy();
-}
-
-void EditorWidget::paste()
-{
-    if (m_columns->isActive())
-        m_columns->paste(QApplication::clipboard()->mimeData());
-    else
-        QPlainTextEdit::paste();
-}
-
-void EditorWidget::insertFromMimeData(const QMimeData* source)
-{
-    if (ColumnSelection::isColumnText(source))
-        m_columns->pasteAtCursor(source);
-    else
-        QPlainTextEdit::insertFromMimeData(source);
-}
-
-void EditorWidget::indent()
-{
-    lineCommands().indent();
-}
-
-void EditorWidget::deindent()
-{
-    lineCommands().deindent();
-}
-
-void EditorWidget::commentOut()
-{
-    lineCommands().commentOut();
-}
-
-void EditorWidget::commentIn()
-{
-    lineCommands().commentIn();
-}
-
-void EditorWidget::duplicateLine()
-{
-    lineCommands().duplicateLine();
-}
-
-void EditorWidget::moveLineUp()
-{
-    moveLines(true);
-}
-
-void EditorWidget::moveLineDown()
-{
-    moveLines(false);
-}
-
-void EditorWidget::moveLines(bool up)
-{
-    LineCommands commands = lineCommands();
-    const QPair<int, int> lines = commands.selectedLines();
-    const int revision = m_textDocument->revision();
-    if (up)
-        commands.moveLineUp();
-    else
-        commands.moveLineDown();
-    if (m_textDocument->revision() != revision)
-        m_markFollower->moveLines(lines.first, lines.second, up);
-}
-
 void EditorWidget::setActionChanged()
 {
     emit actionChanged(this);
@@ -410,24 +317,6 @@ void EditorWidget::setDynamicLineWrapEn(bool enabled)
 void EditorWidget::setAutoReturnIndentEn(bool enabled)
 {
     m_autoReturnIndentEn = enabled;
-}
-
-void EditorWidget::setComfort(const sEditorComfort_t& comfort)
-{
-    m_comfort = comfort;
-    applyComfort();
-}
-
-void EditorWidget::applyComfort()
-{
-    m_overlay->setRulerColumn(m_comfort.rulerColumn);
-    QTextOption option = m_textDocument->defaultTextOption();
-    QTextOption::Flags flags = option.flags();
-    flags.setFlag(QTextOption::ShowTabsAndSpaces, m_comfort.showBlanksEn);
-    if (flags == option.flags())
-        return;
-    option.setFlags(flags);
-    m_textDocument->setDefaultTextOption(option);
 }
 
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
@@ -510,27 +399,6 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         insertLineBreak(event);
         break;
     }
-}
-
-/// The keys that do more where the user has set it. @return the key is done
-bool EditorWidget::comfortKey(const QKeyEvent* event)
-{
-    const Qt::KeyboardModifiers modifiers = event->modifiers() & ~Qt::KeypadModifier;
-    if (event->key() == Qt::Key_Backspace && modifiers == Qt::NoModifier)
-        return m_comfort.indentWithBlanks && LineCommands(this, indentStyle()).removeIndent();
-    if (event->key() == Qt::Key_Home && (modifiers & ~Qt::ShiftModifier) == 0)
-        return m_comfort.smartHomeEn &&
-               LineCommands(this, indentStyle()).goToTextStart((modifiers & Qt::ShiftModifier) != 0);
-    return false;
-}
-
-void EditorWidget::paintEvent(QPaintEvent* event)
-{
-    QPlainTextEdit::paintEvent(event);
-    QPainter painter(viewport());
-    m_overlay->paint(&painter);
-    m_columns->paint(&painter);
-    m_folding->paint(&painter);
 }
 
 /// Passes a key to the text edit. With Shift it would insert a line separator: in the file this character ends a line,

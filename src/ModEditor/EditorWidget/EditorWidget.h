@@ -128,7 +128,7 @@ public:
     void setCursorBgColor(const QColor& color);
     void setHighlightBgColor(const QColor& color);
 
-    // ---- Commands for lines, see LineCommands, which has more of them
+    // ---- Commands for lines (EditorWidgetLines.cpp), see LineCommands, which has more of them
     /// The commands at the cursor, with the indent of the document.
     LineCommands lineCommands();
     void indent();

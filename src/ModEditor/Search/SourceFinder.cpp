@@ -219,10 +219,9 @@ void SourceFinder::replace()
         else
             count += replaceIn(widget, hits.value(path), &leftHere);
         if (leftHere > 0)
-            m_parts.services->showWarning(
-                tr("Not replaced in %1: %2 hits, as their lines have changed or can not be changed")
-                    .arg(m_parts.services->relPath(path))
-                    .arg(leftHere));
+            m_parts.services->showWarning(tr("Not replaced in %1, as the lines have changed or can not be changed: %2")
+                                              .arg(m_parts.services->relPath(path))
+                                              .arg(leftHere));
         left += leftHere;
     }
     if (m_parts.documents->contains(before))
@@ -231,8 +230,8 @@ void SourceFinder::replace()
         return;
     // What the list shows is no longer there.
     m_panel->clear();
-    m_panel->setStatus(left == 0 ? tr("%1 hits replaced").arg(count)
-                                 : tr("%1 hits replaced, %2 not: their lines have changed").arg(count).arg(left));
+    m_panel->setStatus(left == 0 ? tr("Replaced: %1").arg(count)
+                                 : tr("Replaced: %1; left, as their lines have changed: %2").arg(count).arg(left));
 }
 
 } // namespace nsModEditor
