@@ -45,9 +45,6 @@ ModEditor::ModEditor(QObject* parent)
     , m_commands(
           std::make_unique<DocumentCommands>(m_documents.get(), m_services.get(), m_keeper.get(), m_sync.get(), this))
     , m_finder(std::make_unique<EditorFinder>(this, this, m_documents.get()))
-    , m_sourceFinder(std::make_unique<SourceFinder>(
-          SourceFinder::sParts_t{m_documents.get(), m_services.get(), m_commands.get(), this, this}))
-    , m_session(std::make_unique<DocumentSession>(m_documents.get(), m_services.get()))
     , m_textCompletionList(new QStringListModel(this))
 {
     connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
@@ -106,8 +103,8 @@ void ModEditor::modInit()
     m_actionsFile = new EditorActionsFile(this);
     m_actionsEdit = new EditorActionsEdit(this);
     m_actionsSim = new EditorActionsSim(this);
-    m_textActions = new TextActions(m_documents.get(), this);
-    connect(m_textActions, &TextActions::findInSources, m_sourceFinder.get(), &SourceFinder::open);
+    m_textActions = new TextActions(
+        SourceFinder::sParts_t{m_documents.get(), m_services.get(), m_commands.get(), this, this}, this);
     connect(m_actionsFile, SIGNAL(triggered(nsModEditor::EditorActionsFile::eAction_t)), this,
             SLOT(handleActions(nsModEditor::EditorActionsFile::eAction_t)));
     connect(m_actionsEdit, SIGNAL(triggered(nsModEditor::EditorActionsEdit::eAction_t)), this,
@@ -154,7 +151,7 @@ void ModEditor::modExitIntermod()
         m_recoveryOffer->closeNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
-    m_sourceFinder->close();
+    m_textActions->sourceFinder()->close();
     if (modMsgHook != nullptr)
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
 }
@@ -269,7 +266,7 @@ void ModEditor::prjOpen()
     EditorWidget* last = lastFile.isEmpty() ? nullptr : m_commands->openFile(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value(editorKeys::lastCursorPos, 0));
-    m_session->restore(m_services->projectFile(), comfort.keepMarksEn, isKilled);
+    m_keeper->session().restore(m_services->projectFile(), comfort.keepMarksEn, isKilled);
     // Without a last file one of the pages is current, too.
     updateActionState();
 }
@@ -290,12 +287,13 @@ void ModEditor::prjSave()
     modPrjHook->setValue(editorKeys::lastFile,
                          current != nullptr ? m_services->relPath(current->filePath()) : QString());
     modPrjHook->setValue(editorKeys::lastCursorPos, current != nullptr ? current->cursorPos() : 0);
-    m_session->save(m_services->projectFile(), comfort.keepMarksEn);
+    m_keeper->session().save(m_services->projectFile(), comfort.keepMarksEn);
 }
 
 void ModEditor::prjClose()
 {
-    m_sourceFinder->clear();
+    if (m_textActions != nullptr)
+        m_textActions->sourceFinder()->clear();
     closeAllFiles();
     m_keeper->clearSession();
     setActionState(nullptr);

@@ -33,7 +33,6 @@ namespace nsModEditor {
 
 class DocumentCommands;
 class DocumentKeeper;
-class DocumentSession;
 class DocumentSync;
 class EditorConfigPage;
 class EditorMemPageAddrMap;
@@ -46,7 +45,6 @@ class EditorTipManager;
 class EditorWidget;
 class OpenDocuments;
 class RecoveryOffer;
-class SourceFinder;
 class TextActions;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
@@ -107,12 +105,12 @@ public:
     void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override;
     void setMemPageAddrMap(EditorMemPageAddrMap* map) override;
     QMap<QString, QList<int>> simBreakpoints() override;
-    bool simBreakpointsChanged() override { return m_simBreakpointsChangedFlag; }
+    bool simBreakpointsChanged() override { return m_breakpointChanges.any; }
     bool simStartPointer(QString* path, int* line) override;
     void simEn(bool enabled) override;
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
-    int simBreakpointsRevision() override { return m_simBreakpointsRevision; }
+    int simBreakpointsRevision() override { return m_breakpointChanges.revision; }
 
     // ModCfgAppPluginIf
     void rdAppCfg() override;
@@ -224,8 +222,6 @@ private:
     std::unique_ptr<DocumentSync> m_sync;
     std::unique_ptr<DocumentCommands> m_commands;
     std::unique_ptr<EditorFinder> m_finder;
-    std::unique_ptr<SourceFinder> m_sourceFinder;
-    std::unique_ptr<DocumentSession> m_session;
     std::unique_ptr<RecoveryOffer> m_recoveryOffer; ///< null before modInit() and after modExit()
     PluginList<ModEditorPluginIf> m_plugins;
     ModEditorPluginIfAssembler* m_assembler = nullptr; ///< not owned
@@ -241,8 +237,11 @@ private:
     EditorActionsSim* m_actionsSim = nullptr;
     TextActions* m_textActions = nullptr;
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
-    bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
-    int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes
+    struct sBreakpointChanges_t
+    {
+        bool any = false; ///< once set, it stays
+        int revision = 0; ///< incremented when the result of simBreakpoints() changes
+    } m_breakpointChanges;
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
 };

@@ -219,8 +219,8 @@ bool ModEditor::simStartPointer(QString* path, int* line)
 
 void ModEditor::setSimBreakpointsChanged()
 {
-    m_simBreakpointsChangedFlag = true;
-    ++m_simBreakpointsRevision;
+    m_breakpointChanges.any = true;
+    ++m_breakpointChanges.revision;
 }
 
 void ModEditor::clearSimBreakpoints()

@@ -37,9 +37,10 @@ void format(EditorWidget* widget)
 
 } // namespace
 
-TextActions::TextActions(const OpenDocuments* documents, QObject* parent)
+TextActions::TextActions(const SourceFinder::sParts_t& parts, QObject* parent)
     : QObject(parent)
-    , m_documents(documents)
+    , m_documents(parts.documents)
+    , m_sourceFinder(parts)
     , m_actions(new EditorActionsLines(this))
     , m_lineMenu(std::make_unique<QMenu>(tr("Lines")))
     , m_foldMenu(std::make_unique<QMenu>(tr("Folding")))
@@ -132,7 +133,7 @@ void TextActions::goToBookmark(bool backward)
 void TextActions::handle(EditorActionsLines::eAction_t action)
 {
     if (action == EditorActionsLines::eActionFindInSources) {
-        emit findInSources();
+        m_sourceFinder.open();
         return;
     }
     EditorWidget* widget = m_documents->current();

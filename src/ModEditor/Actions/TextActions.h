@@ -2,6 +2,7 @@
 
 #include "EditorActionsLines.h"
 #include "ModActionHookIf.h"
+#include "SourceFinder.h"
 
 #include <QObject>
 
@@ -20,8 +21,8 @@ class TextActions : public QObject
     Q_OBJECT
 
 public:
-    /// @param documents not owned
-    explicit TextActions(const OpenDocuments* documents, QObject* parent = nullptr);
+    /// @param parts what the search in all sources needs
+    explicit TextActions(const SourceFinder::sParts_t& parts, QObject* parent = nullptr);
     ~TextActions() override;
 
     QList<QAction*> menuActions(ModActionHookIf::eActionClass_t actionClass) const;
@@ -32,15 +33,15 @@ public:
     /// Goes to the bookmark after or before the cursor; from the last one of a document on to the next document.
     void goToBookmark(bool backward);
 
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    SourceFinder* sourceFinder() { return &m_sourceFinder; }
 
-signals:
-    void findInSources();
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void handle(EditorActionsLines::eAction_t action);
 
     const OpenDocuments* m_documents;
+    SourceFinder m_sourceFinder;
     EditorActionsLines* m_actions;
     std::unique_ptr<QMenu> m_lineMenu;
     std::unique_ptr<QMenu> m_foldMenu;

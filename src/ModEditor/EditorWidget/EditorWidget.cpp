@@ -83,10 +83,10 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
-    m_columns = new ColumnSelection(this);
-    m_folding = new Folding(this);
-    m_markFollower = new MarkFollower(this, &m_marks);
-    m_overlay = std::make_unique<TextOverlay>(this);
+    m_tools.columns = new ColumnSelection(this);
+    m_tools.folding = new Folding(this);
+    m_tools.markFollower = new MarkFollower(this, &m_marks);
+    m_tools.overlay = std::make_unique<TextOverlay>(this);
 
     connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
@@ -114,9 +114,9 @@ EditorWidget::~EditorWidget()
     m_textDocument->disconnect(this);
     disconnect(this);
     disconnect(m_wordMarks);
-    delete m_columns;
-    delete m_folding;
-    delete m_markFollower;
+    delete m_tools.columns;
+    delete m_tools.folding;
+    delete m_tools.markFollower;
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -206,7 +206,7 @@ void EditorWidget::setModified()
 
 bool EditorWidget::hasSelection() const
 {
-    return textCursor().hasSelection() || m_columns->hasWidth();
+    return textCursor().hasSelection() || m_tools.columns->hasWidth();
 }
 
 bool EditorWidget::isUndoAvailable() const

@@ -116,9 +116,9 @@ public:
     /// What Tab inserts.
     LineCommands::sIndent_t indentStyle() const { return {m_tabIndent, m_comfort.indentWithBlanks}; }
     /// What is shown above the text.
-    TextOverlay* overlay() const { return m_overlay.get(); }
+    TextOverlay* overlay() const { return m_tools.overlay.get(); }
     /// What is hidden of the text.
-    Folding* folding() const { return m_folding; }
+    Folding* folding() const { return m_tools.folding; }
     void setSelectionHighlightEn(bool enabled);
     void setTextCompletionEn(bool enabled);
     /// @param length characters
@@ -274,9 +274,14 @@ private:
     int m_fontSize = 0;     ///< points, the sum of both
     bool m_autoReturnIndentEn = false;
     sEditorComfort_t m_comfort;
-    ColumnSelection* m_columns = nullptr;
-    Folding* m_folding = nullptr;
-    std::unique_ptr<TextOverlay> m_overlay;
+    /// What helps with the text; the objects are children.
+    struct sTools_t
+    {
+        ColumnSelection* columns = nullptr;
+        Folding* folding = nullptr;
+        MarkFollower* markFollower = nullptr;
+        std::unique_ptr<TextOverlay> overlay;
+    } m_tools;
 
     bool m_reportedModified = false; ///< value of isModified() that was reported last
     bool m_settingText = false;
@@ -284,7 +289,6 @@ private:
     LineHighlights m_lineHighlights;
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
-    MarkFollower* m_markFollower = nullptr;
 };
 
 } // namespace nsModEditor

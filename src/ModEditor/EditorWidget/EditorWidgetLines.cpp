@@ -17,34 +17,34 @@ namespace nsModEditor {
 
 LineCommands EditorWidget::lineCommands()
 {
-    m_columns->end();
+    m_tools.columns->end();
     LineCommands commands(this, indentStyle());
     // What is hidden below the last line is not left behind.
     const QPair<int, int> lines = commands.selectedLines();
-    m_folding->show(lines.first, lines.second + 1);
+    m_tools.folding->show(lines.first, lines.second + 1);
     return commands;
 }
 
 void EditorWidget::cut()
 {
-    if (m_columns->isActive())
-        m_columns->cut();
+    if (m_tools.columns->isActive())
+        m_tools.columns->cut();
     else
         QPlainTextEdit::cut();
 }
 
 void EditorWidget::copy()
 {
-    if (m_columns->isActive())
-        m_columns->copy();
+    if (m_tools.columns->isActive())
+        m_tools.columns->copy();
     else
         QPlainTextEdit::copy();
 }
 
 void EditorWidget::paste()
 {
-    if (m_columns->isActive())
-        m_columns->paste(QApplication::clipboard()->mimeData());
+    if (m_tools.columns->isActive())
+        m_tools.columns->paste(QApplication::clipboard()->mimeData());
     else
         QPlainTextEdit::paste();
 }
@@ -52,7 +52,7 @@ void EditorWidget::paste()
 void EditorWidget::insertFromMimeData(const QMimeData* source)
 {
     if (ColumnSelection::isColumnText(source))
-        m_columns->pasteAtCursor(source);
+        m_tools.columns->pasteAtCursor(source);
     else
         QPlainTextEdit::insertFromMimeData(source);
 }
@@ -102,7 +102,7 @@ void EditorWidget::moveLines(bool up)
     else
         commands.moveLineDown();
     if (m_textDocument->revision() != revision)
-        m_markFollower->moveLines(lines.first, lines.second, up);
+        m_tools.markFollower->moveLines(lines.first, lines.second, up);
 }
 
 void EditorWidget::setComfort(const sEditorComfort_t& comfort)
@@ -113,7 +113,7 @@ void EditorWidget::setComfort(const sEditorComfort_t& comfort)
 
 void EditorWidget::applyComfort()
 {
-    m_overlay->setRulerColumn(m_comfort.rulerColumn);
+    m_tools.overlay->setRulerColumn(m_comfort.rulerColumn);
     QTextOption option = m_textDocument->defaultTextOption();
     QTextOption::Flags flags = option.flags();
     flags.setFlag(QTextOption::ShowTabsAndSpaces, m_comfort.showBlanksEn);
@@ -139,9 +139,9 @@ void EditorWidget::paintEvent(QPaintEvent* event)
 {
     QPlainTextEdit::paintEvent(event);
     QPainter painter(viewport());
-    m_overlay->paint(&painter);
-    m_columns->paint(&painter);
-    m_folding->paint(&painter);
+    m_tools.overlay->paint(&painter);
+    m_tools.columns->paint(&painter);
+    m_tools.folding->paint(&painter);
 }
 
 } // namespace nsModEditor
