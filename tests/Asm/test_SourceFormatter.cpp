@@ -37,7 +37,8 @@ TEST(SourceFormatter, aLabelAtTheStartStaysThereAndAnotherOneDoesNotGoThere)
 TEST(SourceFormatter, leavesArgumentsStringsAndCommentsAsTheyAre)
 {
     EXPECT_EQ(formatted("LOAD  s0, 0xaB+( 3  *2 )"), "        LOAD    s0, 0xaB+( 3  *2 )");
-    EXPECT_EQ(formatted("LOAD  s0, \"a;  b\" ; \\navSep  \"x\""), "        LOAD    s0, \"a;  b\"             ; \\navSep  \"x\"");
+    EXPECT_EQ(formatted("LOAD  s0, \"a;  b\" ; \\navSep  \"x\""),
+              "        LOAD    s0, \"a;  b\"             ; \\navSep  \"x\"");
     EXPECT_EQ(formatted("LOAD s0, '\\;'"), "        LOAD    s0, '\\;'");
     EXPECT_EQ(formatted("unknown s0 s1"), "        unknown s0 s1");
 }

@@ -1,7 +1,7 @@
 #include "ColumnSelection.h"
 
-#include "EditorWidget.h"
 #include "Folding.h"
+#include "SourceEdit.h"
 #include "TextColumns.h"
 
 #include <QApplication>
@@ -38,7 +38,7 @@ QStringList linesOf(QString text)
 
 } // namespace
 
-ColumnSelection::ColumnSelection(EditorWidget* editor)
+ColumnSelection::ColumnSelection(SourceEdit* editor)
     : QObject(editor)
     , m_editor(editor)
 {
@@ -59,7 +59,7 @@ void ColumnSelection::end()
         return;
     m_active = false;
     m_editor->viewport()->update();
-    emit m_editor->actionChanged(m_editor);
+    m_editor->reportActions();
 }
 
 int ColumnSelection::left() const
@@ -237,7 +237,7 @@ void ColumnSelection::extendTo(QPoint place)
     m_position = place;
     m_editor->folding()->show(top(), bottom());
     showCursor();
-    emit m_editor->actionChanged(m_editor);
+    m_editor->reportActions();
 }
 
 void ColumnSelection::extendBy(int columns, int lines)

@@ -13,7 +13,7 @@ class QTextBlock;
 
 namespace nsModEditor {
 
-class EditorWidget;
+class SourceEdit;
 
 /// A rectangle of text, as wide in each of its lines: drawn with the mouse and Alt, or with Alt, Shift and the arrows.
 ///
@@ -25,7 +25,7 @@ class ColumnSelection : public QObject
 
 public:
     /// @param editor owns the object
-    explicit ColumnSelection(EditorWidget* editor);
+    explicit ColumnSelection(SourceEdit* editor);
 
     bool isActive() const { return m_active; }
     /// It is wider than a cursor.
@@ -66,7 +66,7 @@ private:
     void insertLines(const QStringList& lines);
     void insertInLine(int line, int column, const QString& text);
 
-    EditorWidget* m_editor;
+    SourceEdit* m_editor;
     bool m_active = false;
     bool m_dragging = false;
     bool m_busy = false; ///< the changes that are reported are its own

@@ -2,17 +2,14 @@
 
 #include "EditorWidget.h"
 
-#include "ColumnSelection.h"
 #include "EditorConfig.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
-#include "Folding.h"
 #include "HelpRef.h"
 #include "MarkFollower.h"
 #include "TextCompletion.h"
-#include "TextOverlay.h"
 #include "WordMarks.h"
 
 #include <QAction>
@@ -69,7 +66,7 @@ void acceptAsCopy(QDropEvent* event)
 } // namespace
 
 EditorWidget::EditorWidget(QWidget* parent)
-    : QPlainTextEdit(parent)
+    : SourceEdit(parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
 {
@@ -83,10 +80,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
-    m_tools.columns = new ColumnSelection(this);
-    m_tools.folding = new Folding(this);
-    m_tools.markFollower = new MarkFollower(this, &m_marks);
-    m_tools.overlay = std::make_unique<TextOverlay>(this);
+    setupTools();
+    m_markFollower = new MarkFollower(this, &m_marks);
 
     connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
@@ -114,9 +109,8 @@ EditorWidget::~EditorWidget()
     m_textDocument->disconnect(this);
     disconnect(this);
     disconnect(m_wordMarks);
-    delete m_tools.columns;
-    delete m_tools.folding;
-    delete m_tools.markFollower;
+    deleteTools();
+    delete m_markFollower;
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -204,11 +198,6 @@ void EditorWidget::setModified()
     emit modifiedChanged(this);
 }
 
-bool EditorWidget::hasSelection() const
-{
-    return textCursor().hasSelection() || m_tools.columns->hasWidth();
-}
-
 bool EditorWidget::isUndoAvailable() const
 {
     return m_textDocument->isUndoAvailable();
@@ -221,14 +210,14 @@ bool EditorWidget::isRedoAvailable() const
 
 void EditorWidget::undo()
 {
-    QPlainTextEdit::undo();
+    SourceEdit::undo();
     m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
 
 void EditorWidget::redo()
 {
-    QPlainTextEdit::redo();
+    SourceEdit::redo();
     m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
@@ -251,7 +240,7 @@ sPrintJob EditorWidget::printJob(const QString& name, bool selectionOnly) const
     job.time = QDateTime::currentDateTime();
     job.font = font();
     job.font.setPointSize(m_baseFontSize);
-    job.tabIndent = qMax(m_tabIndent, 1);
+    job.tabIndent = qMax(indentStyle().width, 1);
     job.start = isPart ? cursor.selectionStart() : 0;
     job.end = isPart ? cursor.selectionEnd() : m_textDocument->characterCount() - 1;
     return job;
@@ -260,6 +249,29 @@ sPrintJob EditorWidget::printJob(const QString& name, bool selectionOnly) const
 void EditorWidget::rehighlight()
 {
     m_wordMarks->rehighlight();
+}
+
+void EditorWidget::moveLineUp()
+{
+    moveLines(true);
+}
+
+void EditorWidget::moveLineDown()
+{
+    moveLines(false);
+}
+
+void EditorWidget::moveLines(bool up)
+{
+    LineCommands commands = lineCommands();
+    const QPair<int, int> lines = commands.selectedLines();
+    const int revision = m_textDocument->revision();
+    if (up)
+        commands.moveLineUp();
+    else
+        commands.moveLineDown();
+    if (m_textDocument->revision() != revision)
+        m_markFollower->moveLines(lines.first, lines.second, up);
 }
 
 void EditorWidget::setActionChanged()
@@ -292,26 +304,10 @@ void EditorWidget::applyFont(const QFont& font)
     m_fontSize = qBound(EditorConfig::minFontSize, m_baseFontSize + m_zoom, EditorConfig::maxFontSize);
     QFont scaled = font;
     scaled.setPointSize(m_fontSize);
-    QPlainTextEdit::setFont(scaled);
+    SourceEdit::setFont(scaled);
     calculateTabWidth();
     updateLeftMarginWidth();
     emit actionChanged(this);
-}
-
-void EditorWidget::setTabIndent(int indent)
-{
-    m_tabIndent = indent;
-    calculateTabWidth();
-}
-
-void EditorWidget::calculateTabWidth()
-{
-    setTabStopDistance(QFontMetricsF(font()).horizontalAdvance(QString(qMax(m_tabIndent, 1), 'x')));
-}
-
-void EditorWidget::setDynamicLineWrapEn(bool enabled)
-{
-    setLineWrapMode(enabled ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
 }
 
 void EditorWidget::setAutoReturnIndentEn(bool enabled)
@@ -322,7 +318,7 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
-        QPlainTextEdit::dragEnterEvent(event);
+        SourceEdit::dragEnterEvent(event);
     else
         acceptAsCopy(event);
 }
@@ -330,7 +326,7 @@ void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 void EditorWidget::dragMoveEvent(QDragMoveEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
-        QPlainTextEdit::dragMoveEvent(event);
+        SourceEdit::dragMoveEvent(event);
     else
         acceptAsCopy(event);
 }
@@ -339,7 +335,7 @@ void EditorWidget::dropEvent(QDropEvent* event)
 {
     const QStringList paths = draggedFiles(event->mimeData());
     if (paths.isEmpty()) {
-        QPlainTextEdit::dropEvent(event);
+        SourceEdit::dropEvent(event);
         return;
     }
     acceptAsCopy(event);
@@ -350,7 +346,7 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
 {
     const int delta = event->angleDelta().y();
     if (delta == 0 || !(event->modifiers() & Qt::ControlModifier)) {
-        QPlainTextEdit::wheelEvent(event);
+        SourceEdit::wheelEvent(event);
         return;
     }
     // Starts at the displayed size, so that turning the wheel at a limit has no delayed effect.
@@ -367,7 +363,7 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (isReadOnly()) {
-        QPlainTextEdit::keyPressEvent(event);
+        SourceEdit::keyPressEvent(event);
         return;
     }
     if (comfortKey(event)) {
@@ -381,7 +377,7 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Insert:
         // With a modifier, Insert is a clipboard key.
         if (modifiers & ~Qt::KeypadModifier) {
-            QPlainTextEdit::keyPressEvent(event);
+            SourceEdit::keyPressEvent(event);
             break;
         }
         setOverwriteMode(!overwriteMode());
@@ -406,12 +402,12 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
 void EditorWidget::insertLineBreak(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::InsertLineSeparator)) {
-        QPlainTextEdit::keyPressEvent(event);
+        SourceEdit::keyPressEvent(event);
         return;
     }
     QKeyEvent plain(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier, event->text(),
                     event->isAutoRepeat(), ushort(event->count()));
-    QPlainTextEdit::keyPressEvent(&plain);
+    SourceEdit::keyPressEvent(&plain);
     event->setAccepted(plain.isAccepted());
 }
 
@@ -432,7 +428,7 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
 
 void EditorWidget::resizeEvent(QResizeEvent* event)
 {
-    QPlainTextEdit::resizeEvent(event);
+    SourceEdit::resizeEvent(event);
     layoutNotices();
     const QRect rect = contentsRect();
     m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(),

@@ -1,18 +1,14 @@
 #pragma once
 
 #include "DocumentFormat.h"
-#include "EditorComfort.h"
 #include "EditorMemPageAddrMap.h"
-#include "LineCommands.h"
 #include "LineHighlights.h"
 #include "LineMarks.h"
 #include "PrintedPages.h"
+#include "SourceEdit.h"
 
 #include <QColor>
-#include <QPlainTextEdit>
 #include <QPointer>
-
-#include <memory>
 
 class QAction;
 class QHelpEvent;
@@ -22,17 +18,14 @@ class MyNoticeBar;
 
 namespace nsModEditor {
 
-class ColumnSelection;
 class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
-class Folding;
 class MarkFollower;
 class TextCompletion;
-class TextOverlay;
 class WordMarks;
 
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
@@ -40,7 +33,7 @@ class WordMarks;
 /// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line
 /// numbers that stay where they are when lines come and go above them, unless the user wants them to follow their text.
 /// All lines are counted from 0.
-class EditorWidget : public QPlainTextEdit
+class EditorWidget : public SourceEdit
 {
     Q_OBJECT
 
@@ -69,7 +62,6 @@ public:
     bool isSettingText() const { return m_settingText; }
     bool isModified() const;
     void clearModified();
-    bool hasSelection() const;
     bool isUndoAvailable() const;
     bool isRedoAvailable() const;
     /// Inserts at the cursor, in place of the selection if there is one.
@@ -107,18 +99,7 @@ public:
     void setZoom(int points);
     /// Resets the zoom.
     void resetZoom();
-    /// @param indent width of a tab in characters
-    void setTabIndent(int indent);
-    void setDynamicLineWrapEn(bool enabled);
     void setAutoReturnIndentEn(bool enabled);
-    void setComfort(const sEditorComfort_t& comfort);
-    const sEditorComfort_t& comfort() const { return m_comfort; }
-    /// What Tab inserts.
-    LineCommands::sIndent_t indentStyle() const { return {m_tabIndent, m_comfort.indentWithBlanks}; }
-    /// What is shown above the text.
-    TextOverlay* overlay() const { return m_tools.overlay.get(); }
-    /// What is hidden of the text.
-    Folding* folding() const { return m_tools.folding; }
     void setSelectionHighlightEn(bool enabled);
     void setTextCompletionEn(bool enabled);
     /// @param length characters
@@ -128,14 +109,7 @@ public:
     void setCursorBgColor(const QColor& color);
     void setHighlightBgColor(const QColor& color);
 
-    // ---- Commands for lines (EditorWidgetLines.cpp), see LineCommands, which has more of them
-    /// The commands at the cursor, with the indent of the document.
-    LineCommands lineCommands();
-    void indent();
-    void deindent();
-    void commentOut();
-    void commentIn();
-    void duplicateLine();
+    // ---- Commands for lines, which take the marks along
     void moveLineUp();
     void moveLineDown();
 
@@ -201,17 +175,9 @@ public:
     void showLeftMarginToolTip(const QPoint& pos);
     EditorWidgetLeftMargin* leftMargin() const { return m_leftMargin; }
 
-    // Where the lines are on the screen, for margin and marks.
-    using QPlainTextEdit::blockBoundingGeometry;
-    using QPlainTextEdit::blockBoundingRect;
-    using QPlainTextEdit::contentOffset;
-    using QPlainTextEdit::firstVisibleBlock;
+    void reportActions() override { emit actionChanged(this); }
 
 public slots:
-    // Of a column where one is selected.
-    void cut();
-    void copy();
-    void paste();
     void undo();
     void redo();
     /// The text has changed: emits modifiedChanged() if isModified() has changed.
@@ -235,8 +201,6 @@ protected:
     void dropEvent(QDropEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
-    void insertFromMimeData(const QMimeData* source) override;
     void resizeEvent(QResizeEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
 
@@ -248,13 +212,10 @@ private slots:
     void layoutNotices();
 
 private:
-    void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
     void applyFont(const QFont& font);
-    void applyComfort();
     void moveLines(bool up);
-    bool comfortKey(const QKeyEvent* event);
 
     QTextDocument* m_textDocument;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
@@ -268,20 +229,10 @@ private:
     EditorNotices* m_notices = nullptr;
     int m_noticeHeight = 0; ///< pixels
 
-    int m_tabIndent = 4;
     int m_baseFontSize = 0; ///< points, of the font that was set
     int m_zoom = 0;         ///< points that the user has added
     int m_fontSize = 0;     ///< points, the sum of both
     bool m_autoReturnIndentEn = false;
-    sEditorComfort_t m_comfort;
-    /// What helps with the text; the objects are children.
-    struct sTools_t
-    {
-        ColumnSelection* columns = nullptr;
-        Folding* folding = nullptr;
-        MarkFollower* markFollower = nullptr;
-        std::unique_ptr<TextOverlay> overlay;
-    } m_tools;
 
     bool m_reportedModified = false; ///< value of isModified() that was reported last
     bool m_settingText = false;
@@ -289,6 +240,7 @@ private:
     LineHighlights m_lineHighlights;
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
+    MarkFollower* m_markFollower = nullptr;
 };
 
 } // namespace nsModEditor

@@ -60,7 +60,7 @@ void EditorWidget::setCursorToLine(int line)
 {
     QTextCursor cursor = textCursor();
     line = qBound(0, line, blockCount());
-    if (m_tools.folding->hasHidden()) {
+    if (folding()->hasHidden()) {
         // Hidden lines are no steps of the cursor.
         setCursorPos(m_textDocument->findBlockByNumber(qMin(line, blockCount() - 1)).position());
         return;

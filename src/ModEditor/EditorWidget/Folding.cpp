@@ -1,6 +1,6 @@
 #include "Folding.h"
 
-#include "EditorWidget.h"
+#include "SourceEdit.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -61,7 +61,7 @@ sFoldWord_t foldWordOf(const QString& line)
 
 } // namespace
 
-Folding::Folding(EditorWidget* editor)
+Folding::Folding(SourceEdit* editor)
     : QObject(editor)
     , m_editor(editor)
 {

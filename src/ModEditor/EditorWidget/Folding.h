@@ -9,7 +9,7 @@ class QPainter;
 
 namespace nsModEditor {
 
-class EditorWidget;
+class SourceEdit;
 
 /// Lines that belong together, counted from 0: the first one stays visible when the others are hidden.
 struct sFoldRange_t
@@ -29,7 +29,7 @@ class Folding : public QObject
 
 public:
     /// @param editor owns the object
-    explicit Folding(EditorWidget* editor);
+    explicit Folding(SourceEdit* editor);
 
     /// What can be folded in a text, in the order of the first lines.
     static QVector<sFoldRange_t> rangesOf(const QTextDocument* document);
@@ -54,7 +54,7 @@ private:
     void showCursor();
     QRectF markOf(const QTextBlock& block) const;
 
-    EditorWidget* m_editor;
+    SourceEdit* m_editor;
 };
 
 } // namespace nsModEditor

@@ -1,7 +1,7 @@
 #include "TextOverlay.h"
 
 #include "Brackets.h"
-#include "EditorWidget.h"
+#include "SourceEdit.h"
 
 #include <QPainter>
 #include <QTextBlock>
@@ -16,7 +16,7 @@ const int hitAlpha = 45;
 const int maxHitsInLine = 1000; ///< that are marked
 
 /// The characters from one position to another of a line in the pixels of the viewport, a rectangle for each row.
-QList<QRectF> rectsOf(const EditorWidget* editor, const QTextBlock& block, int from, int to)
+QList<QRectF> rectsOf(const SourceEdit* editor, const QTextBlock& block, int from, int to)
 {
     QList<QRectF> rects;
     const QPointF origin = editor->blockBoundingGeometry(block).translated(editor->contentOffset()).topLeft();
@@ -34,7 +34,7 @@ QList<QRectF> rectsOf(const EditorWidget* editor, const QTextBlock& block, int f
 
 } // namespace
 
-TextOverlay::TextOverlay(EditorWidget* editor)
+TextOverlay::TextOverlay(SourceEdit* editor)
     : m_editor(editor)
 {
 }

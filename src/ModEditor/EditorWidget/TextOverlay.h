@@ -6,14 +6,14 @@ class QPainter;
 
 namespace nsModEditor {
 
-class EditorWidget;
+class SourceEdit;
 
 /// What a document shows above its text: the ruler, the pair of brackets at the cursor, the hits of a search.
 class TextOverlay
 {
 public:
     /// @param editor not owned
-    explicit TextOverlay(EditorWidget* editor);
+    explicit TextOverlay(SourceEdit* editor);
 
     /// Where the ruler stands, in characters from the start of the line; 0 for none.
     void setRulerColumn(int column);
@@ -28,7 +28,7 @@ private:
     void paintBrackets(QPainter* painter) const;
     void paintHits(QPainter* painter) const;
 
-    EditorWidget* m_editor;
+    SourceEdit* m_editor;
     int m_rulerColumn = 0;
     QRegularExpression m_hits;
 };
