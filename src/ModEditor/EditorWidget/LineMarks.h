@@ -1,7 +1,9 @@
 #pragma once
 
 #include <QList>
-#include <QSet>
+#include <QVector>
+
+#include <algorithm>
 
 namespace nsModEditor {
 
@@ -14,17 +16,18 @@ class LineMarks
 public:
     void toggle(int line)
     {
-        if (m_set.contains(line)) {
-            m_set.remove(line);
+        const auto place = std::lower_bound(m_sorted.begin(), m_sorted.end(), line);
+        if (place != m_sorted.end() && *place == line) {
+            m_sorted.erase(place);
             m_lines.removeOne(line);
         } else {
-            m_set.insert(line);
+            m_sorted.insert(place, line);
             m_lines.append(line);
         }
     }
     void clear()
     {
-        m_set.clear();
+        m_sorted.clear();
         m_lines.clear();
     }
     /// Replaces each line by what the function makes of it; less than 0 takes the mark away. Of two marks that come to
@@ -32,20 +35,30 @@ public:
     template <class Function>
     void map(Function newLine)
     {
-        const QList<int> lines = m_lines;
+        QList<int> moved;
+        moved.reserve(m_lines.size());
+        for (const int line : qAsConst(m_lines)) {
+            const int target = newLine(line);
+            if (target >= 0)
+                moved.append(target);
+        }
+        m_lines = moved;
+        m_sorted = QVector<int>(moved.begin(), moved.end());
+        std::sort(m_sorted.begin(), m_sorted.end());
+        if (std::adjacent_find(m_sorted.begin(), m_sorted.end()) == m_sorted.end())
+            return;
         clear();
-        for (const int line : lines) {
-            const int moved = newLine(line);
-            if (moved >= 0 && !contains(moved))
-                toggle(moved);
+        for (const int line : qAsConst(moved)) {
+            if (!contains(line))
+                toggle(line);
         }
     }
-    bool contains(int line) const { return m_set.contains(line); }
+    bool contains(int line) const { return std::binary_search(m_sorted.begin(), m_sorted.end(), line); }
     const QList<int>& lines() const { return m_lines; }
 
 private:
     QList<int> m_lines;
-    QSet<int> m_set;
+    QVector<int> m_sorted; ///< the same in ascending order
 };
 
 /// All marks of a document.

@@ -8,12 +8,20 @@
 #include <QFileInfo>
 #include <QTimer>
 
+#include <algorithm>
+
 namespace nsModEditor {
 
 namespace {
 
 const int sliceTime = 15;        ///< milliseconds
 const int pieceLength = 1 << 15; ///< characters that are searched at once
+
+/// The text of most files: it is the same in all encodings, with one line feed at the end of a line.
+bool isPlainText(const QByteArray& bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(), [](char c) { return static_cast<signed char>(c) > 0 && c != '\r'; });
+}
 
 /// What these look at may lie in the lines around.
 bool looksAround(const QString& pattern)
@@ -110,7 +118,11 @@ bool SourceSearch::beginSource()
                                          : file.errorString());
             return false;
         }
-        DocumentFormat::decode(file.readAll(), &m_text);
+        const QByteArray bytes = file.readAll();
+        if (isPlainText(bytes))
+            m_text = QString::fromLatin1(bytes);
+        else
+            DocumentFormat::decode(bytes, &m_text);
     }
     m_isInSource = true;
     return true;
