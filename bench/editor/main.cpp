@@ -68,6 +68,13 @@ public:
         editor.resize(900, 700);
         editor.show();
         editor.setSelectionHighlightEn(true);
+        nsModEditor::sEditorComfort_t comfort;
+        comfort.indentWithBlanks = true;
+        comfort.smartHomeEn = true;
+        comfort.showBlanksEn = true;
+        comfort.rulerColumn = 100;
+        comfort.marksFollowTextEn = true;
+        editor.setComfort(comfort);
         const QString text = program(lineCount);
         openMs = paintedAfter([&] { editor.setText(text); }, 1);
         for (int line = 0; line < lineCount; ++line) {

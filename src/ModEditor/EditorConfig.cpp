@@ -51,6 +51,13 @@ void allItems(Items items, Config& config)
     items.item(editorKeys::textCompleterItemCount, config.textCompleterItemCount, 1, EditorConfig::maxItemCount);
     items.item(editorKeys::reloadKeepsUndo, config.reloadKeepsUndo);
     items.item(editorKeys::highlightSelectionEn, config.highlightSelectionEn);
+    items.item(editorKeys::indentWithBlanks, config.comfort.indentWithBlanks);
+    items.item(editorKeys::smartHomeEn, config.comfort.smartHomeEn);
+    items.item(editorKeys::trimOnSaveEn, config.comfort.trimOnSaveEn);
+    items.item(editorKeys::showBlanksEn, config.comfort.showBlanksEn);
+    items.item(editorKeys::rulerColumn, config.comfort.rulerColumn, 0, sEditorComfort_t::maxRulerColumn);
+    items.item(editorKeys::marksFollowTextEn, config.comfort.marksFollowTextEn);
+    items.item(editorKeys::keepMarksEn, config.comfort.keepMarksEn);
     items.choice(editorKeys::memPageAddrEn, config.memPageAddrEn, EditorConfig::memPageAddrSimOnly);
     items.item(editorKeys::cursorBgColor, config.cursorBgColor);
     items.item(editorKeys::highlightBgColor, config.highlightBgColor);

@@ -5,6 +5,7 @@
 #include <QTextCharFormat>
 
 #include "Colors.h"
+#include "EditorComfort.h"
 #include "ModEditorHookIf.h"
 
 class ModCfgAppHookIf;
@@ -69,6 +70,7 @@ public:
     int textCompleterItemCount = 10;
     bool reloadKeepsUndo = false; ///< a reload by the user is a step that can be undone
     bool highlightSelectionEn = true;
+    sEditorComfort_t comfort;
     int memPageAddrEn = memPageAddrSimOnly;
     QColor cursorBgColor = Colors::of(Colors::eEditorCursorLine, Colors::eLight);
     QColor highlightBgColor = Colors::of(Colors::eEditorFlaggedLine, Colors::eLight);

@@ -56,6 +56,20 @@ void EditorConfigPage::addFormating(MyPageLayout* layout)
                                    tr("Lines longer than the window go on in the next row"));
     m_autoReturnIndentEn = addCheck(layout, "autoReturnIndentEn", tr("Auto return indent:"),
                                     tr("A new line starts below the start of the one before"));
+    m_comfort.indentWithBlanks = addCheck(layout, "indentWithBlanks", tr("Indent with blanks:"),
+                                          tr("Tab inserts blanks up to the next tab stop; Backspace removes them"));
+    m_comfort.smartHomeEn =
+        addCheck(layout, "smartHomeEn", tr("Home key to first word:"),
+                 tr("The key Home goes to the first word of the line, and pressed again to its start"));
+    m_comfort.trimOnSaveEn = addCheck(layout, "trimOnSaveEn", tr("Remove trailing blanks on save:"),
+                                      tr("A save removes the blanks at the end of all lines"));
+    m_comfort.showBlanksEn =
+        addCheck(layout, "showBlanksEn", tr("Show blanks and tabs:"), tr("Each blank is a dot, each tab an arrow"));
+    m_comfort.rulerColumn =
+        addNumber(layout, "rulerColumn", tr("Ruler at column:"), tr("A line behind so many characters"),
+                  tr(" characters"), sEditorComfort_t::maxRulerColumn);
+    m_comfort.rulerColumn->setMinimum(0);
+    m_comfort.rulerColumn->setSpecialValueText(tr("none"));
 }
 
 void EditorConfigPage::addTextCompletion(MyPageLayout* layout)
@@ -102,6 +116,12 @@ void EditorConfigPage::addLeftMargin(MyPageLayout* layout)
     m_simStartAddressSymbolColor =
         addColor(layout, "simStartAddressSymbolColor", tr("Simulator start address symbol color:"));
     m_bookmarkSymbolColor = addColor(layout, "bookmarkSymbolColor", tr("Bookmark symbol color:"));
+    m_comfort.marksFollowTextEn =
+        addCheck(layout, "marksFollowTextEn", tr("Marks move with the text:"),
+                 tr("Breakpoints, bookmarks and the start mark stay on their text when lines come and go above"));
+    m_comfort.keepMarksEn =
+        addCheck(layout, "keepMarksEn", tr("Keep marks and zoom:"),
+                 tr("Marks and zoom of the documents are there again when the project is opened the next time"));
 }
 
 void EditorConfigPage::addFonts(MyPageLayout* layout)
@@ -174,6 +194,7 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     m_simBreakpointSymbolColor->setColor(Colors::shown(Colors::eMarkBreakpoint, config->simBreakpointSymbolColor));
     m_simStartAddressSymbolColor->setColor(Colors::shown(Colors::eMarkStart, config->simStartAddressSymbolColor));
     m_bookmarkSymbolColor->setColor(Colors::shown(Colors::eMarkBookmark, config->bookmarkSymbolColor));
+    setComfort(config->comfort);
 
     // A family that is not installed is shown as its substitute, but stays in the settings.
     m_stdFont = config->stdFont;
@@ -192,6 +213,30 @@ void EditorConfigPage::setConfig(const EditorConfig* config)
     for (int i = 0; i < EditorConfig::fontContextCount; ++i)
         m_fontTable->setFormat(
             i, Colors::shown(EditorConfig::colorOf(EditorConfig::eFontContext_t(i)), config->fontFormats[i]));
+}
+
+void EditorConfigPage::setComfort(const sEditorComfort_t& comfort)
+{
+    m_comfort.indentWithBlanks->setChecked(comfort.indentWithBlanks);
+    m_comfort.smartHomeEn->setChecked(comfort.smartHomeEn);
+    m_comfort.trimOnSaveEn->setChecked(comfort.trimOnSaveEn);
+    m_comfort.showBlanksEn->setChecked(comfort.showBlanksEn);
+    m_comfort.rulerColumn->setValue(comfort.rulerColumn);
+    m_comfort.marksFollowTextEn->setChecked(comfort.marksFollowTextEn);
+    m_comfort.keepMarksEn->setChecked(comfort.keepMarksEn);
+}
+
+sEditorComfort_t EditorConfigPage::comfort() const
+{
+    sEditorComfort_t comfort;
+    comfort.indentWithBlanks = m_comfort.indentWithBlanks->isChecked();
+    comfort.smartHomeEn = m_comfort.smartHomeEn->isChecked();
+    comfort.trimOnSaveEn = m_comfort.trimOnSaveEn->isChecked();
+    comfort.showBlanksEn = m_comfort.showBlanksEn->isChecked();
+    comfort.rulerColumn = m_comfort.rulerColumn->value();
+    comfort.marksFollowTextEn = m_comfort.marksFollowTextEn->isChecked();
+    comfort.keepMarksEn = m_comfort.keepMarksEn->isChecked();
+    return comfort;
 }
 
 void EditorConfigPage::setTabIndent(int indent)
@@ -219,6 +264,7 @@ void EditorConfigPage::config(EditorConfig* config) const
     config->simBreakpointSymbolColor = Colors::stored(Colors::eMarkBreakpoint, m_simBreakpointSymbolColor->color());
     config->simStartAddressSymbolColor = Colors::stored(Colors::eMarkStart, m_simStartAddressSymbolColor->color());
     config->bookmarkSymbolColor = Colors::stored(Colors::eMarkBookmark, m_bookmarkSymbolColor->color());
+    config->comfort = comfort();
     config->stdFont = m_stdFont;
     for (int i = 0; i < EditorConfig::fontContextCount; ++i)
         config->fontFormats[i] =

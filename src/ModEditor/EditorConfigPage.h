@@ -56,6 +56,20 @@ private:
                         const QString& unit, int max);
     MyColorSelector* addColor(MyPageLayout* layout, const char* name, const QString& title);
 
+    /// Of the fields of sEditorComfort_t.
+    struct sComfortControls_t
+    {
+        QCheckBox* indentWithBlanks = nullptr;
+        QCheckBox* smartHomeEn = nullptr;
+        QCheckBox* trimOnSaveEn = nullptr;
+        QCheckBox* showBlanksEn = nullptr;
+        QSpinBox* rulerColumn = nullptr;
+        QCheckBox* marksFollowTextEn = nullptr;
+        QCheckBox* keepMarksEn = nullptr;
+    };
+    void setComfort(const sEditorComfort_t& comfort);
+    sEditorComfort_t comfort() const;
+
     QSpinBox* m_tabIndent = nullptr;
     QCheckBox* m_dynamicLineWrapEn = nullptr;
     QCheckBox* m_autoReturnIndentEn = nullptr;
@@ -73,6 +87,7 @@ private:
     MyColorSelector* m_simBreakpointSymbolColor = nullptr;
     MyColorSelector* m_simStartAddressSymbolColor = nullptr;
     MyColorSelector* m_bookmarkSymbolColor = nullptr;
+    sComfortControls_t m_comfort;
     QFontComboBox* m_fontFamily = nullptr;
     QComboBox* m_fontSize = nullptr;
     MyFontTable* m_fontTable = nullptr;

@@ -1,13 +1,18 @@
 #pragma once
 
+#include "TextSearch.h"
+
 #include <QCoreApplication>
 #include <QString>
+#include <QTextCursor>
+#include <QTimer>
 
 class ModFindReplacePluginIf;
 class ModGuiPluginIf;
 
 namespace nsModEditor {
 
+class EditorWidget;
 class OpenDocuments;
 
 /// Finds and replaces in the current document what the find and replace strip asks for.
@@ -24,15 +29,12 @@ public:
         bool wrapPending = false; ///< the end of the document was reached; the next search continues at the other end
         QString findString;
         QString replaceString;
+        bool regExp = false;
+        bool inSelection = false;
     };
 
     /// Reads the strip and the documents, writes the current document and the status bar. Not owned.
-    EditorFinder(const ModFindReplacePluginIf* strip, const ModGuiPluginIf* gui, const OpenDocuments* documents)
-        : m_strip(strip)
-        , m_gui(gui)
-        , m_documents(documents)
-    {
-    }
+    EditorFinder(const ModFindReplacePluginIf* strip, const ModGuiPluginIf* gui, const OpenDocuments* documents);
 
     /// One search. If the text is not found, only a message is shown; the next search continues at the other end.
     /// @param configChanged the strip has changed since the last call
@@ -41,13 +43,37 @@ public:
     void replace(bool configChanged);
     void replaceAll(bool configChanged);
 
+    /// Marks and counts the hits of what stands in the strip, and shows the first one after the cursor, which stays
+    /// where it is.
+    void preview();
+    /// Counts again, after the cursor has moved or the text has changed.
+    void showCount() const;
+    /// The text of a document has changed: counts again when the user pauses.
+    void noteChange();
+    /// Takes the marks away.
+    void end();
+
 private:
     void setFindParameter();
+    static sSearch_t searchOf(const sFindParameter_t& parameter);
+    sFindParameter_t stripParameter() const;
+    void takeRange(const sFindParameter_t& parameter);
+    bool hasRange(const EditorWidget* widget) const;
+    /// The strip asks for more than the text edit's own search can.
+    bool isExtended(const EditorWidget* widget) const;
+    bool search(EditorWidget* widget, bool backward, bool fromEdge) const;
+    QTextCursor hitFrom(EditorWidget* widget, const TextSearch& search, int position, bool backward) const;
+    void replaceHit(EditorWidget* widget) const;
+    void replaceAllHits(EditorWidget* widget) const;
+    void say(const QString& text) const;
 
     const ModFindReplacePluginIf* m_strip;
     const ModGuiPluginIf* m_gui;
     const OpenDocuments* m_documents;
     sFindParameter_t m_findParameter;
+    QTimer m_pause;
+    bool m_isPreviewing = false; ///< the strip is open for a document
+    QTextCursor m_range;         ///< what the search is restricted to; null for the whole document
 };
 
 } // namespace nsModEditor

@@ -15,6 +15,13 @@ inline const QLatin1String textCompleterPrefixLength("ModEditor/textCompleterPre
 inline const QLatin1String textCompleterItemCount("ModEditor/textCompleterItemCount");
 inline const QLatin1String reloadKeepsUndo("ModEditor/reloadKeepsUndo");
 inline const QLatin1String highlightSelectionEn("ModEditor/highlightSelectionEn");
+inline const QLatin1String indentWithBlanks("ModEditor/indentWithBlanks");
+inline const QLatin1String smartHomeEn("ModEditor/smartHomeEn");
+inline const QLatin1String trimOnSaveEn("ModEditor/trimOnSaveEn");
+inline const QLatin1String showBlanksEn("ModEditor/showBlanksEn");
+inline const QLatin1String rulerColumn("ModEditor/rulerColumn");
+inline const QLatin1String marksFollowTextEn("ModEditor/marksFollowTextEn");
+inline const QLatin1String keepMarksEn("ModEditor/keepMarksEn");
 inline const QLatin1String memPageAddrEn("ModEditor/memPageAddrEn");
 inline const QLatin1String cursorBgColor("ModEditor/cursorBgColor");
 inline const QLatin1String highlightBgColor("ModEditor/highlightBgColor");

@@ -3,6 +3,7 @@
 #include "Colors.h"
 #include "DocumentCommands.h"
 #include "DocumentKeeper.h"
+#include "DocumentSession.h"
 #include "DocumentSync.h"
 #include "EditorConfigPage.h"
 #include "EditorFinder.h"
@@ -19,6 +20,8 @@
 #include "HelpRef.h"
 #include "OpenDocuments.h"
 #include "RecoveryOffer.h"
+#include "SourceFinder.h"
+#include "TextActions.h"
 
 #include "ModCfgAppHookIf.h"
 #include "ModEditorPluginIf.h"
@@ -103,6 +106,8 @@ void ModEditor::modInit()
     m_actionsFile = new EditorActionsFile(this);
     m_actionsEdit = new EditorActionsEdit(this);
     m_actionsSim = new EditorActionsSim(this);
+    m_textActions = new TextActions(
+        SourceFinder::sParts_t{m_documents.get(), m_services.get(), m_commands.get(), this, this}, this);
     connect(m_actionsFile, SIGNAL(triggered(nsModEditor::EditorActionsFile::eAction_t)), this,
             SLOT(handleActions(nsModEditor::EditorActionsFile::eAction_t)));
     connect(m_actionsEdit, SIGNAL(triggered(nsModEditor::EditorActionsEdit::eAction_t)), this,
@@ -149,6 +154,7 @@ void ModEditor::modExitIntermod()
         m_recoveryOffer->closeNotice();
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(m_statusBar);
+    m_textActions->sourceFinder()->close();
     if (modMsgHook != nullptr)
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrSource, this);
 }
@@ -172,6 +178,8 @@ void ModEditor::modExit()
     m_actionsEdit = nullptr;
     delete m_actionsSim;
     m_actionsSim = nullptr;
+    delete m_textActions;
+    m_textActions = nullptr;
     delete m_statusBar;
 }
 
@@ -284,6 +292,7 @@ void ModEditor::prjOpen()
     EditorWidget* last = lastFile.isEmpty() ? nullptr : m_commands->openFile(fileOf(lastFile));
     if (last != nullptr)
         last->setCursorPos(isKilled ? session.lastCursorPos : modPrjHook->value(editorKeys::lastCursorPos, 0));
+    m_keeper->session().restore(m_services->projectFile(), comfort.keepMarksEn, isKilled);
     // Without a last file one of the pages is current, too.
     updateActionState();
 }
@@ -304,10 +313,13 @@ void ModEditor::prjSave()
     modPrjHook->setValue(editorKeys::lastFile,
                          current != nullptr ? m_services->relPath(current->filePath()) : QString());
     modPrjHook->setValue(editorKeys::lastCursorPos, current != nullptr ? current->cursorPos() : 0);
+    m_keeper->session().save(m_services->projectFile(), comfort.keepMarksEn);
 }
 
 void ModEditor::prjClose()
 {
+    if (m_textActions != nullptr)
+        m_textActions->sourceFinder()->clear();
     closeAllFiles();
     m_keeper->clearSession();
     setActionState(nullptr);
@@ -342,7 +354,10 @@ QList<QAction*> ModEditor::menuActions(ModActionHookIf::eActionClass_t actionCla
     case ModActionHookIf::eActionClassFile:
         return m_actionsFile->menuActions() << m_recoveryOffer->menuActions();
     case ModActionHookIf::eActionClassEdit:
-        return m_actionsEdit->menuActions() << m_supportMenu->menu->menuAction();
+        return m_actionsEdit->menuActions()
+               << m_supportMenu->menu->menuAction() << m_textActions->menuActions(actionClass);
+    case ModActionHookIf::eActionClassNavigation:
+        return m_textActions->menuActions(actionClass);
     case ModActionHookIf::eActionClassSimulator:
         return m_actionsSim->menuActions();
     default:
@@ -465,7 +480,9 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
     // from.
     connect(widget, &EditorWidget::filesDropped, m_commands.get(), &DocumentCommands::openDroppedFiles,
             Qt::QueuedConnection);
+    connect(widget, &QPlainTextEdit::textChanged, m_textActions, [this] { m_finder->noteChange(); });
     widget->addActions(m_actionsEdit->menuActions());
+    m_textActions->addTo(widget);
 }
 
 void ModEditor::configureEditorWidget(EditorWidget* widget)
@@ -475,6 +492,7 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
     widget->setDynamicLineWrapEn(dynamicLineWrapEn);
     widget->setLineNumberEn(lineNumberEn);
     widget->setAutoReturnIndentEn(autoReturnIndentEn);
+    widget->setComfort(comfort);
     widget->setTextCompleterPrefixLength(textCompleterPrefixLength);
     widget->setTextCompleterItemCount(textCompleterItemCount);
     widget->setSelectionHighlightEn(highlightSelectionEn);

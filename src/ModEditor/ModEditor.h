@@ -46,6 +46,7 @@ class EditorTipManager;
 class EditorWidget;
 class OpenDocuments;
 class RecoveryOffer;
+class TextActions;
 
 /// All open documents: opens, reloads, saves, prints and closes them, and shows lines of them for other modules.
 ///
@@ -105,12 +106,12 @@ public:
     void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override;
     void setMemPageAddrMap(EditorMemPageAddrMap* map) override;
     QMap<QString, QList<int>> simBreakpoints() override;
-    bool simBreakpointsChanged() override { return m_simBreakpointsChangedFlag; }
+    bool simBreakpointsChanged() override { return m_breakpointChanges.any; }
     bool simStartPointer(QString* path, int* line) override;
     void simEn(bool enabled) override;
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
-    int simBreakpointsRevision() override { return m_simBreakpointsRevision; }
+    int simBreakpointsRevision() override { return m_breakpointChanges.revision; }
     void registerPlugin(ModEditorPluginIfText* plugin) override;
     void unregisterPlugin(ModEditorPluginIfText* plugin) override;
     QList<EditorDocument*> documents() override;
@@ -159,6 +160,8 @@ public:
     void findPrev(bool configChanged) override;
     void replace(bool configChanged) override;
     void replaceAll(bool configChanged) override;
+    bool hasExpressions() override { return true; }
+    void findPreview() override { m_finder->preview(); }
 
     // ModClipboardPluginIf
     void clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature) override;
@@ -245,9 +248,13 @@ private:
     EditorActionsFile* m_actionsFile = nullptr;
     EditorActionsEdit* m_actionsEdit = nullptr;
     EditorActionsSim* m_actionsSim = nullptr;
+    TextActions* m_textActions = nullptr;
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
-    bool m_simBreakpointsChangedFlag = false;         ///< once set, it stays
-    int m_simBreakpointsRevision = 0;                 ///< incremented when the result of simBreakpoints() changes
+    struct sBreakpointChanges_t
+    {
+        bool any = false; ///< once set, it stays
+        int revision = 0; ///< incremented when the result of simBreakpoints() changes
+    } m_breakpointChanges;
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
 };

@@ -10,6 +10,7 @@
 #include "OpenDocuments.h"
 #include "PageProperties.h"
 #include "RecoveryOffer.h"
+#include "TextActions.h"
 
 #include "ModClipboardHookIf.h"
 #include "ModGuiHookIf.h"
@@ -133,6 +134,7 @@ void ModEditor::setActionState(EditorWidget* current)
     m_actionsEdit->setEnabled(false);
     m_supportMenu->setEnabled(false);
     const bool valid = modPrjHook != nullptr && modPrjHook->isValid();
+    m_textActions->setEnabled(false, valid);
     m_actionsSim->setEnabled(valid);
     if (!valid)
         return;
@@ -153,6 +155,7 @@ void ModEditor::setActionState(EditorWidget* current)
     for (int action = EditorActionsEdit::eActionIndent; action <= EditorActionsEdit::eActionResetZoom; ++action)
         m_actionsEdit->setEnabled(EditorActionsEdit::eAction_t(action), true);
     m_supportMenu->setEnabled(true);
+    m_textActions->setEnabled(true, true);
     if (modClipboardHook != nullptr)
         modClipboardHook->setFeatureEnable(ModClipboardHookIf::eClipboardFeaturePaste, true);
     setActionStateEditorWidget(current);
@@ -228,8 +231,8 @@ bool ModEditor::simStartPointer(QString* path, int* line)
 
 void ModEditor::setSimBreakpointsChanged()
 {
-    m_simBreakpointsChangedFlag = true;
-    ++m_simBreakpointsRevision;
+    m_breakpointChanges.any = true;
+    ++m_breakpointChanges.revision;
 }
 
 void ModEditor::clearSimBreakpoints()
@@ -277,6 +280,7 @@ QString ModEditor::findInit()
 
 void ModEditor::findExit()
 {
+    m_finder->end();
     if (modGuiHook != nullptr)
         modGuiHook->clearStatusBarText();
     // The search bar was in front of it.

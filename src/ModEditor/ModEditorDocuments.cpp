@@ -55,7 +55,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     if (m_keeper->recovery() != nullptr)
         m_keeper->recovery()->forget(widget);
     // Its breakpoints are removed with it.
-    ++m_simBreakpointsRevision;
+    ++m_breakpointChanges.revision;
     m_sync->forget(widget);
     m_commands->forget(widget);
     if (modGuiHook != nullptr)

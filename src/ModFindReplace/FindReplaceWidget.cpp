@@ -111,14 +111,35 @@ void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
 void FindReplaceWidget::setupOptions()
 {
     m_options = new QWidget(this);
-    auto* layout = new QHBoxLayout(m_options);
+    auto* layout = new QBoxLayout(QBoxLayout::LeftToRight, m_options);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(gap);
     m_caseSensitive = addCheckBox("checkCaseSensitive", tr("Case sensitive"), tr("Tell upper from lower case"));
     m_wholeWords = addCheckBox("checkWholeWords", tr("Whole words only"), tr("Leave out hits inside of a longer word"));
-    layout->addWidget(m_caseSensitive);
-    layout->addWidget(m_wholeWords);
-    layout->addStretch();
+    m_regExp = addOption("buttonRegExp", QStringLiteral(".*"),
+                         tr("Regular expression; in the replacement, \\1 is what its first group has found"));
+    m_inSelection = addOption("buttonInSelection", QStringLiteral("[ ]"), tr("Only in what is selected now"));
+    // In a narrow window, one row is above the other.
+    auto* boxes = new QHBoxLayout;
+    boxes->setSpacing(gap);
+    boxes->addWidget(m_caseSensitive);
+    boxes->addWidget(m_wholeWords);
+    boxes->addStretch();
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(gap / 2);
+    buttons->addWidget(m_regExp);
+    buttons->addWidget(m_inSelection);
+    m_resultBelow = new QLabel(m_options);
+    m_resultBelow->setEnabled(false);
+    buttons->addWidget(m_resultBelow);
+    buttons->addStretch();
+    layout->addLayout(boxes);
+    layout->addLayout(buttons);
+    m_result = new QLabel(m_find);
+    m_result->setObjectName(QStringLiteral("labelResult"));
+    m_result->setEnabled(false);
+    connect(m_regExp, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
+    connect(m_inSelection, &QToolButton::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_caseSensitive, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
     connect(m_wholeWords, &QCheckBox::toggled, this, &FindReplaceWidget::configChanged);
 }
@@ -147,12 +168,20 @@ QSize FindReplaceWidget::minimumSizeHint() const
 void FindReplaceWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    const bool narrow = width() < narrowWidth() + gap + m_options->sizeHint().width();
+    placeResult();
+    // The width that the options have in one row, in whichever way they stand now.
+    int options = gap;
+    for (const QWidget* part : {static_cast<QWidget*>(m_caseSensitive), static_cast<QWidget*>(m_wholeWords),
+                                static_cast<QWidget*>(m_regExp), static_cast<QWidget*>(m_inSelection)})
+        options += part->sizeHint().width() + gap;
+    const bool narrow = width() < narrowWidth() + gap + options;
     if (narrow == m_narrow)
         return;
     m_narrow = narrow;
     auto* grid = static_cast<QGridLayout*>(layout());
     grid->removeWidget(m_options);
+    static_cast<QBoxLayout*>(m_options->layout())
+        ->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
     if (narrow)
         grid->addWidget(m_options, 2, columnEdit, 1, columnCount - columnEdit);
     else
@@ -164,7 +193,7 @@ void FindReplaceWidget::setupTabOrder()
 {
     const QList<QWidget*> order = {m_close,      m_find,          m_replace,          m_nextButton,
                                    m_prevButton, m_replaceButton, m_replaceAllButton, m_caseSensitive,
-                                   m_wholeWords, m_toggle};
+                                   m_wholeWords, m_regExp,        m_inSelection,      m_toggle};
     for (int i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
 }
@@ -200,6 +229,18 @@ QCheckBox* FindReplaceWidget::addCheckBox(const char* name, const QString& text,
     return box;
 }
 
+QToolButton* FindReplaceWidget::addOption(const char* name, const QString& text, const QString& toolTip)
+{
+    auto* button = new QToolButton(this);
+    button->setObjectName(QLatin1String(name));
+    button->setText(text);
+    button->setCheckable(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    button->setToolTip(toolTip);
+    button->setAccessibleName(toolTip);
+    return button;
+}
+
 QString FindReplaceWidget::findString() const
 {
     return m_find->text();
@@ -218,6 +259,47 @@ bool FindReplaceWidget::isCaseSensitive() const
 bool FindReplaceWidget::isWholeWords() const
 {
     return m_wholeWordsEn && m_wholeWords->isChecked();
+}
+
+bool FindReplaceWidget::isRegExp() const
+{
+    return m_expressionsEn && m_regExp->isChecked();
+}
+
+bool FindReplaceWidget::isInSelection() const
+{
+    return m_expressionsEn && m_inSelection->isChecked();
+}
+
+void FindReplaceWidget::setExpressionsEnable(bool enable)
+{
+    m_expressionsEn = enable;
+    m_regExp->setEnabled(enable);
+    m_inSelection->setEnabled(enable);
+    // The selection is another one each time the bar opens.
+    m_inSelection->setChecked(false);
+    setResult(QString(), QString());
+}
+
+void FindReplaceWidget::setResult(const QString& text, const QString& toolTip)
+{
+    m_result->setText(text);
+    m_result->setToolTip(toolTip);
+    m_result->adjustSize();
+    placeResult();
+}
+
+/// Beside the button that clears the field, where the field has the room.
+void FindReplaceWidget::placeResult()
+{
+    const int clearButton = m_find->height();
+    const bool fits = m_find->width() > smallestEdit + clearButton + m_result->width();
+    m_result->setVisible(fits && !m_result->text().isEmpty());
+    m_resultBelow->setText(m_result->text());
+    m_resultBelow->setToolTip(m_result->toolTip());
+    m_resultBelow->setVisible(!fits && !m_result->text().isEmpty());
+    m_find->setTextMargins(0, 0, m_result->isHidden() ? 0 : m_result->width() + gap / 2, 0);
+    m_result->move(m_find->width() - clearButton - m_result->width(), (m_find->height() - m_result->height()) / 2);
 }
 
 bool FindReplaceWidget::isFindEnabled() const

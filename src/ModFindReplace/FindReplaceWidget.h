@@ -27,6 +27,9 @@ public:
     bool isCaseSensitive() const;
     /// Also false while the option is not offered.
     bool isWholeWords() const;
+    /// Also false while the options are not offered.
+    bool isRegExp() const;
+    bool isInSelection() const;
     /// There is a text to find.
     bool isFindEnabled() const;
     eMode_t mode() const { return m_mode; }
@@ -40,6 +43,11 @@ public:
     void setReplaceEnable(bool enable);
     /// Offers the choice "Whole words only"; its state is kept meanwhile.
     void setWholeWordsEnable(bool enable);
+
+    /// Offers regular expressions and the search in a selection; without, there are no results, either.
+    void setExpressionsEnable(bool enable);
+    /// Shows what the search has come to.
+    void setResult(const QString& text, const QString& toolTip);
 
     /// The room without the options, which go into a row of their own where it is narrow.
     QSize minimumSizeHint() const override;
@@ -74,6 +82,8 @@ private:
     QToolButton* addToolButton(const char* name, const QString& icon, const QString& toolTip);
     QPushButton* addButton(QHBoxLayout* layout, const char* name, const QString& text, const QString& toolTip);
     QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
+    QToolButton* addOption(const char* name, const QString& text, const QString& toolTip);
+    void placeResult();
     bool enterPressed(const QKeyEvent* event);
 
     QToolButton* m_close = nullptr;
@@ -88,13 +98,18 @@ private:
     QPushButton* m_prevButton = nullptr;
     QPushButton* m_replaceButton = nullptr;
     QPushButton* m_replaceAllButton = nullptr;
-    QWidget* m_options = nullptr; ///< the two check boxes
+    QWidget* m_options = nullptr; ///< how to search
     QCheckBox* m_caseSensitive = nullptr;
     QCheckBox* m_wholeWords = nullptr;
+    QToolButton* m_regExp = nullptr;
+    QToolButton* m_inSelection = nullptr;
+    QLabel* m_result = nullptr;      ///< at the right in the text to find
+    QLabel* m_resultBelow = nullptr; ///< the same where that is too narrow
     eMode_t m_mode = eModeFind;
     bool m_narrow = false; ///< the options have a row of their own
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
+    bool m_expressionsEn = true;
 };
 
 } // namespace nsModFindReplace

@@ -94,6 +94,22 @@ bool ModFindReplace::isWholeWords()
     return m_widget != nullptr && m_widget->isWholeWords();
 }
 
+bool ModFindReplace::isRegExp()
+{
+    return m_widget != nullptr && m_widget->isRegExp();
+}
+
+bool ModFindReplace::isInSelection()
+{
+    return m_widget != nullptr && m_widget->isInSelection();
+}
+
+void ModFindReplace::setFindResult(const QString& text, const QString& toolTip)
+{
+    if (m_widget != nullptr)
+        m_widget->setResult(text, toolTip);
+}
+
 // --- life cycle ---
 
 void ModFindReplace::modRegisterPlugins(QList<ModPluginIf*> modules)
@@ -163,6 +179,14 @@ void ModFindReplace::setFocus(ModGuiHookIf::eLocation_t location, ModGuiPluginIf
     // When the last page was removed there is neither a widget nor a location.
     if (location == ModGuiHookIf::eLocationTabs || (widget == nullptr && currentWidget() == nullptr))
         setActionsEn(widget);
+    preview();
+}
+
+/// Lets the client show what the bar would find in its current page.
+void ModFindReplace::preview()
+{
+    if (m_activePlugin != nullptr && m_activePlugin == currentPlugin())
+        m_activePlugin->findPreview();
 }
 
 void ModFindReplace::initWidget(FindReplaceWidget::eMode_t mode)
@@ -180,6 +204,7 @@ void ModFindReplace::initWidget(FindReplaceWidget::eMode_t mode)
     m_activePlugin = parameter.plugin;
     m_widget->setReplaceEnable(parameter.replaceEn);
     m_widget->setWholeWordsEnable(parameter.wholeWordsEn);
+    m_widget->setExpressionsEnable(parameter.plugin->hasExpressions());
     // A field that is not shown yet does not take the focus.
     showWidget();
     m_widget->setInitString(parameter.plugin->findInit(), mode);
@@ -242,6 +267,7 @@ void ModFindReplace::setConfigChanged()
         return;
     m_configChanged = true;
     setActionsEn(currentWidget());
+    preview();
 }
 
 bool ModFindReplace::takeConfigChanged()

@@ -39,6 +39,9 @@ public:
     QString replaceString() override;
     bool isCaseSensitive() override;
     bool isWholeWords() override;
+    bool isRegExp() override;
+    bool isInSelection() override;
+    void setFindResult(const QString& text, const QString& toolTip) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -75,6 +78,7 @@ private:
     };
 
     void connectWidget();
+    void preview();
     QWidget* currentWidget() const;
     /// The client whose page is current, or null.
     ModFindReplacePluginIf* currentPlugin() const;

@@ -3,6 +3,7 @@
 #include "AsmFeFileHndlr.h"
 #include "CfgTree.h"
 #include "Opcode.h"
+#include "SourceFormatter.h"
 
 #include <QRegularExpression>
 
@@ -46,10 +47,10 @@ QString firstDifference(const QByteArray& expected, const QByteArray& actual)
 
 } // namespace
 
-AsmRun::AsmRun(const AsmCase& asmCase)
+AsmRun::AsmRun(const AsmCase& asmCase, eSources_t sources)
     : m_case(asmCase)
 {
-    prepareFolder();
+    prepareFolder(sources);
     writeProject();
     run();
 }
@@ -61,16 +62,34 @@ AsmRun::~AsmRun()
     m_asmFe.modExit();
 }
 
-void AsmRun::prepareFolder()
+void AsmRun::prepareFolder(eSources_t sources)
 {
     const QString name = QDir(dataFolder).relativeFilePath(m_case.path);
-    const QString folder = QStringLiteral(NALVO_BINARY_DIR "/asm-cases/") + name;
+    const QString folder = QStringLiteral(NALVO_BINARY_DIR "/asm-cases") +
+                           (sources == sourcesFormatted ? QStringLiteral("-formatted/") : QStringLiteral("/")) + name;
     QDir(folder).removeRecursively();
     QDir().mkpath(folder);
     m_dir = QDir(folder);
     const QString from = m_case.isFolder ? m_case.path : QFileInfo(m_case.path).path();
     for (const QString& file : m_case.sources + m_case.otherFiles)
         QFile::copy(from + '/' + file, m_dir.filePath(file));
+    if (sources == sourcesFormatted)
+        formatSources();
+}
+
+void AsmRun::formatSources()
+{
+    const SourceFormatter formatter;
+    for (const QString& name : m_case.sources) {
+        const QByteArray once = formatter.formatted(content(m_dir.filePath(name)));
+        if (formatter.formatted(once) != once)
+            differ("formatted twice is not once: " + name);
+        QFile file(m_dir.filePath(name));
+        // A source can be a file that nobody may write.
+        file.setPermissions(file.permissions() | QFile::WriteOwner);
+        if (!file.open(QIODevice::WriteOnly) || file.write(once) != once.size())
+            differ("can not write " + name);
+    }
 }
 
 void AsmRun::writeProject()

@@ -16,7 +16,10 @@
 class AsmRun
 {
 public:
-    explicit AsmRun(const AsmCase& asmCase);
+    /// What happens to the sources before they are assembled.
+    enum eSources_t { sourcesAsTheyAre, sourcesFormatted };
+
+    explicit AsmRun(const AsmCase& asmCase, eSources_t sources = sourcesAsTheyAre);
     ~AsmRun();
 
     /// Everything that differs from the case's expectations, one line each; empty if nothing does.
@@ -27,7 +30,8 @@ public:
     QStringList keylessMessages() const;
 
 private:
-    void prepareFolder();
+    void prepareFolder(eSources_t sources);
+    void formatSources();
     void writeProject();
     void run();
     void compareResult();

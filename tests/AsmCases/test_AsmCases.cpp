@@ -48,6 +48,15 @@ TEST_P(AsmCases, matches)
     EXPECT_TRUE(differences.isEmpty()) << differences.join('\n').toStdString();
 }
 
+/// The formatter changes neither words nor messages.
+TEST_P(AsmCases, matchesWhenFormatted)
+{
+    const AsmCase asmCase(GetParam());
+    AsmRun run(asmCase, AsmRun::sourcesFormatted);
+    const QStringList differences = run.differences();
+    EXPECT_TRUE(differences.isEmpty()) << differences.join('\n').toStdString();
+}
+
 INSTANTIATE_TEST_SUITE_P(data, AsmCases, ::testing::ValuesIn(allCases()), caseName);
 
 /// Messages that no stage can show, as the catalogue holds them for other uses, or as an earlier check makes them

@@ -36,8 +36,14 @@ public:
     QString replaceString() override { return replacement; }
     bool isCaseSensitive() override { return caseSensitive; }
     bool isWholeWords() override { return wholeWords; }
+    bool isRegExp() override { return regExp; }
+    bool isInSelection() override { return inSelection; }
+    void setFindResult(const QString& text, const QString&) override { result = text; }
 
     QHash<QWidget*, int> widgets;
+    bool regExp = false;
+    bool inSelection = false;
+    QString result;
     QString find;
     QString replacement;
     bool caseSensitive = false;

@@ -96,7 +96,7 @@ TEST_F(State, settingsRoundTripEveryKey)
 {
     editor.wrAppCfg();
     const QStringList keys = cfg.tree.values.keys();
-    EXPECT_EQ(keys.size(), 18 + 3 * EditorConfig::fontContextCount);
+    EXPECT_EQ(keys.size(), 25 + 3 * EditorConfig::fontContextCount);
     for (const char* key : {"ModEditor/tabIndent", "ModEditor/memPageAddrEn", "ModEditor/stdFont",
                             "ModEditor/font/cmd/weight", "ModEditor/font/keyWords/color", "ModEditor/font/doc/italic"})
         EXPECT_TRUE(keys.contains(key)) << key;

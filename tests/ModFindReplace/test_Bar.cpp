@@ -49,7 +49,7 @@ TEST_F(Bar, hasItsWordsAndATipForEveryControl)
     for (const auto& button : buttons)
         EXPECT_EQ(part<QAbstractButton>(button.first)->text(), button.second);
     QStringList labels;
-    for (QLabel* label : bar()->findChildren<QLabel*>())
+    for (QLabel* label : bar()->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly))
         labels.append(label->text());
     EXPECT_EQ(labels, QStringList({"Find:", "Replace:"}));
     for (QAbstractButton* button : bar()->findChildren<QAbstractButton*>()) {

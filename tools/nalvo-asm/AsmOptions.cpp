@@ -45,7 +45,12 @@ void setup(QCommandLineParser* parser)
          tr("Write the output files of this event: button1 (default), button2, save, or none."),
          tr("event"),
          "button1"},
-        {{"f", "format"}, tr("Show messages as text (default) or json."), tr("format"), "text"},
+        {{"f", "format"},
+         tr("Show messages as text (default) or json. Without a project: put the lines of the source FILE into "
+            "columns, on standard output. - is standard input."),
+         tr("format|FILE"),
+         "text"},
+        {"in-place", tr("With --format FILE: write the source back into its file.")},
         {{"l", "listing"}, tr("Write a listing, one line an instruction, to FILE. - is standard output."), tr("FILE")},
         {{"s", "symbols"}, tr("Write labels and #EQUs as JSON to FILE. - is standard output."), tr("FILE")},
         {{"W", "werror"}, tr("Count warnings as errors, but for kinds of output that no device writes.")},
@@ -67,6 +72,13 @@ void setup(QCommandLineParser* parser)
     parser->addPositionalArgument("PROJECT.nalvo", tr("The project to assemble."), "[--] PROJECT.nalvo");
 }
 
+/// A name of a format beside a project is the format of messages, all else a source.
+bool isFormat(const QCommandLineParser& parser)
+{
+    const QString value = parser.value("format");
+    return parser.isSet("format") && value != "text" && value != "json" && parser.positionalArguments().isEmpty();
+}
+
 } // namespace
 
 AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
@@ -78,7 +90,20 @@ AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
         return parsed;
     if (parser.isSet("explain"))
         return readExplained(parser) ? parseRun : parseWrong;
+    if (isFormat(parser))
+        return readFormatted(parser) ? parseRun : parseWrong;
+    if (parser.isSet("in-place"))
+        return wrongUsage(tr("--in-place needs --format FILE and no project.")) ? parseRun : parseWrong;
     return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
+}
+
+bool AsmOptions::readFormatted(const QCommandLineParser& parser)
+{
+    formattedFile = parser.value("format");
+    inPlace = parser.isSet("in-place");
+    if (formattedFile.isEmpty())
+        return wrongUsage(tr("The name of the source is empty."));
+    return formattedFile == "-" && inPlace ? wrongUsage(tr("Standard input can not be written back.")) : true;
 }
 
 bool AsmOptions::readExplained(const QCommandLineParser& parser)

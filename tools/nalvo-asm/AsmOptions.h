@@ -23,10 +23,13 @@ struct AsmOptions : nsBatch::BatchOptions
     bool externalPrograms = false; ///< the project's programs are run
     QString listingFile;           ///< empty: none; "-": standard output
     QString symbolsFile;           ///< empty: none; "-": standard output
+    QString formattedFile;         ///< the source to format; empty: none; "-": standard input
+    bool inPlace = false;          ///< it is written back
     QString explainedKey;          ///< the message to explain; empty: a project is assembled
 
 private:
     bool readExplained(const QCommandLineParser& parser);
+    bool readFormatted(const QCommandLineParser& parser);
     bool readChoices(const QCommandLineParser& parser);
     bool readFiles(const QCommandLineParser& parser);
 };

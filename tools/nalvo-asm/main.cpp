@@ -1,6 +1,7 @@
 // nalvo-asm: assembles a project as the window does, for makefiles and continuous integration.
 
 #include "AsmExplain.h"
+#include "AsmFormat.h"
 #include "AsmOptions.h"
 #include "AsmPermissions.h"
 #include "AsmPrograms.h"
@@ -168,6 +169,12 @@ int program(const QStringList& arguments)
     }
     if (!options.explainedKey.isEmpty())
         return finish(options, explain(options.explainedKey));
+    if (!options.formattedFile.isEmpty()) {
+        const QString failure = formatFile(options.formattedFile, options.inPlace);
+        if (!failure.isEmpty())
+            printError(failure);
+        return finish(options, failure.isEmpty() ? exitAssembled : exitNotAssembled);
+    }
     return finish(options, checkSourceDateEpoch() ? run(options) : exitWrongUsage);
 }
 

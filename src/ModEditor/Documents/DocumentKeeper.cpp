@@ -11,6 +11,7 @@ DocumentKeeper::DocumentKeeper(const OpenDocuments* documents, EditorServices* s
     : QObject(parent)
     , m_documents(documents)
     , m_services(services)
+    , m_session(documents, services)
 {
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "DocumentSession.h"
 #include "RecoveryStore.h"
 
 #include <QObject>
@@ -41,6 +42,8 @@ public:
 
     /// What was open when the program was killed in the open project; without a project if it was not.
     RecoveryStore::Session takeSession();
+    /// What comes back the next time that the project is opened.
+    DocumentSession& session() { return m_session; }
     /// No project is open any more.
     void clearSession();
 
@@ -50,6 +53,7 @@ private:
     const OpenDocuments* m_documents; ///< not owned
     EditorServices* m_services;       ///< not owned
     std::unique_ptr<EditorRecovery> m_recovery;
+    DocumentSession m_session;
 };
 
 } // namespace nsModEditor

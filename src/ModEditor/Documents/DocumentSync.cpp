@@ -129,6 +129,8 @@ bool DocumentSync::writeDocument(EditorWidget* widget)
         m_services->showError(tr("Document is read-only and can not be saved: ") + widget->filePath());
         return false;
     }
+    if (widget->comfort().trimOnSaveEn)
+        widget->lineCommands().removeTrailingBlanks(true);
     const QByteArray bytes = encoded(widget);
     if (!m_services->writeFile(widget->filePath(), bytes))
         return false;

@@ -8,7 +8,7 @@
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
 #include "HelpRef.h"
-#include "LineCommands.h"
+#include "MarkFollower.h"
 #include "PageProperties.h"
 #include "TextCompletion.h"
 #include "WordMarks.h"
@@ -67,7 +67,7 @@ void acceptAsCopy(QDropEvent* event)
 } // namespace
 
 EditorWidget::EditorWidget(QWidget* parent)
-    : EditorDocument(parent)
+    : SourceEdit(parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
     , m_messageMarks(this)
@@ -83,6 +83,8 @@ EditorWidget::EditorWidget(QWidget* parent)
     m_fontSize = m_baseFontSize;
     setLineWrapMode(QPlainTextEdit::NoWrap);
     m_completion = new TextCompletion(this);
+    setupTools();
+    m_markFollower = new MarkFollower(this, &m_marks);
 
     connect(this, &QPlainTextEdit::selectionChanged, m_wordMarks, &WordMarks::markSelection);
     connect(this, SIGNAL(copyAvailable(bool)), this, SLOT(setActionChanged()));
@@ -111,6 +113,8 @@ EditorWidget::~EditorWidget()
     m_textDocument->disconnect(this);
     disconnect(this);
     disconnect(m_wordMarks);
+    deleteTools();
+    delete m_markFollower;
 }
 
 void EditorWidget::setSyntaxHighlighterConfig(EditorSyntaxHighlighterConfig* config)
@@ -199,11 +203,6 @@ void EditorWidget::setModified()
     emit modifiedChanged(this);
 }
 
-bool EditorWidget::hasSelection() const
-{
-    return textCursor().hasSelection();
-}
-
 bool EditorWidget::isUndoAvailable() const
 {
     return m_textDocument->isUndoAvailable();
@@ -216,14 +215,14 @@ bool EditorWidget::isRedoAvailable() const
 
 void EditorWidget::undo()
 {
-    QPlainTextEdit::undo();
+    SourceEdit::undo();
     m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
 
 void EditorWidget::redo()
 {
-    QPlainTextEdit::redo();
+    SourceEdit::redo();
     m_reportedModified = isModified();
     emit modifiedChanged(this);
 }
@@ -246,7 +245,7 @@ sPrintJob EditorWidget::printJob(const QString& name, bool selectionOnly) const
     job.time = QDateTime::currentDateTime();
     job.font = font();
     job.font.setPointSize(m_baseFontSize);
-    job.tabIndent = qMax(m_tabIndent, 1);
+    job.tabIndent = qMax(indentStyle().width, 1);
     job.start = isPart ? cursor.selectionStart() : 0;
     job.end = isPart ? cursor.selectionEnd() : m_textDocument->characterCount() - 1;
     return job;
@@ -257,39 +256,27 @@ void EditorWidget::rehighlight()
     m_wordMarks->rehighlight();
 }
 
-void EditorWidget::indent()
-{
-    LineCommands(this).indent();
-}
-
-void EditorWidget::deindent()
-{
-    LineCommands(this).deindent();
-}
-
-void EditorWidget::commentOut()
-{
-    LineCommands(this).commentOut();
-}
-
-void EditorWidget::commentIn()
-{
-    LineCommands(this).commentIn();
-}
-
-void EditorWidget::duplicateLine()
-{
-    LineCommands(this).duplicateLine();
-}
-
 void EditorWidget::moveLineUp()
 {
-    LineCommands(this).moveLineUp();
+    moveLines(true);
 }
 
 void EditorWidget::moveLineDown()
 {
-    LineCommands(this).moveLineDown();
+    moveLines(false);
+}
+
+void EditorWidget::moveLines(bool up)
+{
+    LineCommands commands = lineCommands();
+    const QPair<int, int> lines = commands.selectedLines();
+    const int revision = m_textDocument->revision();
+    if (up)
+        commands.moveLineUp();
+    else
+        commands.moveLineDown();
+    if (m_textDocument->revision() != revision)
+        m_markFollower->moveLines(lines.first, lines.second, up);
 }
 
 void EditorWidget::setActionChanged()
@@ -307,7 +294,12 @@ void EditorWidget::setFont(const QFont& font)
 
 void EditorWidget::resetZoom()
 {
-    m_zoom = 0;
+    setZoom(0);
+}
+
+void EditorWidget::setZoom(int points)
+{
+    m_zoom = points;
     applyFont(font());
 }
 
@@ -317,26 +309,10 @@ void EditorWidget::applyFont(const QFont& font)
     m_fontSize = qBound(EditorConfig::minFontSize, m_baseFontSize + m_zoom, EditorConfig::maxFontSize);
     QFont scaled = font;
     scaled.setPointSize(m_fontSize);
-    QPlainTextEdit::setFont(scaled);
+    SourceEdit::setFont(scaled);
     calculateTabWidth();
     updateLeftMarginWidth();
     emit actionChanged(this);
-}
-
-void EditorWidget::setTabIndent(int indent)
-{
-    m_tabIndent = indent;
-    calculateTabWidth();
-}
-
-void EditorWidget::calculateTabWidth()
-{
-    setTabStopDistance(QFontMetricsF(font()).horizontalAdvance(QString(qMax(m_tabIndent, 1), 'x')));
-}
-
-void EditorWidget::setDynamicLineWrapEn(bool enabled)
-{
-    setLineWrapMode(enabled ? QPlainTextEdit::WidgetWidth : QPlainTextEdit::NoWrap);
 }
 
 void EditorWidget::setAutoReturnIndentEn(bool enabled)
@@ -347,7 +323,7 @@ void EditorWidget::setAutoReturnIndentEn(bool enabled)
 void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
-        QPlainTextEdit::dragEnterEvent(event);
+        SourceEdit::dragEnterEvent(event);
     else
         acceptAsCopy(event);
 }
@@ -355,7 +331,7 @@ void EditorWidget::dragEnterEvent(QDragEnterEvent* event)
 void EditorWidget::dragMoveEvent(QDragMoveEvent* event)
 {
     if (draggedFiles(event->mimeData()).isEmpty())
-        QPlainTextEdit::dragMoveEvent(event);
+        SourceEdit::dragMoveEvent(event);
     else
         acceptAsCopy(event);
 }
@@ -364,7 +340,7 @@ void EditorWidget::dropEvent(QDropEvent* event)
 {
     const QStringList paths = draggedFiles(event->mimeData());
     if (paths.isEmpty()) {
-        QPlainTextEdit::dropEvent(event);
+        SourceEdit::dropEvent(event);
         return;
     }
     acceptAsCopy(event);
@@ -375,7 +351,7 @@ void EditorWidget::wheelEvent(QWheelEvent* event)
 {
     const int delta = event->angleDelta().y();
     if (delta == 0 || !(event->modifiers() & Qt::ControlModifier)) {
-        QPlainTextEdit::wheelEvent(event);
+        SourceEdit::wheelEvent(event);
         return;
     }
     // Starts at the displayed size, so that turning the wheel at a limit has no delayed effect.
@@ -392,7 +368,11 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
         return;
     }
     if (isReadOnly()) {
-        QPlainTextEdit::keyPressEvent(event);
+        SourceEdit::keyPressEvent(event);
+        return;
+    }
+    if (comfortKey(event)) {
+        event->accept();
         return;
     }
     switch (event->key()) {
@@ -402,7 +382,7 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
     case Qt::Key_Insert:
         // With a modifier, Insert is a clipboard key.
         if (modifiers & ~Qt::KeypadModifier) {
-            QPlainTextEdit::keyPressEvent(event);
+            SourceEdit::keyPressEvent(event);
             break;
         }
         setOverwriteMode(!overwriteMode());
@@ -427,12 +407,12 @@ void EditorWidget::keyPressEvent(QKeyEvent* event)
 void EditorWidget::insertLineBreak(QKeyEvent* event)
 {
     if (!event->matches(QKeySequence::InsertLineSeparator)) {
-        QPlainTextEdit::keyPressEvent(event);
+        SourceEdit::keyPressEvent(event);
         return;
     }
     QKeyEvent plain(event->type(), event->key(), event->modifiers() & ~Qt::ShiftModifier, event->text(),
                     event->isAutoRepeat(), ushort(event->count()));
-    QPlainTextEdit::keyPressEvent(&plain);
+    SourceEdit::keyPressEvent(&plain);
     event->setAccepted(plain.isAccepted());
 }
 
@@ -453,7 +433,7 @@ void EditorWidget::insertAutoReturnIndent(QKeyEvent* event)
 
 void EditorWidget::resizeEvent(QResizeEvent* event)
 {
-    QPlainTextEdit::resizeEvent(event);
+    SourceEdit::resizeEvent(event);
     layoutNotices();
     const QRect rect = contentsRect();
     m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, leftMarginWidth(),

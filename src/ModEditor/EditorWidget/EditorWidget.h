@@ -7,6 +7,7 @@
 #include "LineMarks.h"
 #include "MessageMarks.h"
 #include "PrintedPages.h"
+#include "SourceEdit.h"
 
 #include <QColor>
 #include <QPointer>
@@ -25,14 +26,16 @@ class EditorSyntaxHighlighter;
 class EditorSyntaxHighlighterConfig;
 class EditorTipManager;
 class EditorWidgetLeftMargin;
+class MarkFollower;
 class TextCompletion;
 class WordMarks;
 
 /// The page of one document: a text edit for assembler sources, with commands for whole lines and a margin.
 ///
 /// The margin carries marks for the simulator, addresses of the assembled code and line numbers. Marks are plain line
-/// numbers that stay where they are when lines come and go above them; nobody saves them. All lines are counted from 0.
-class EditorWidget : public EditorDocument
+/// numbers that stay where they are when lines come and go above them, unless the user wants them to follow their text.
+/// All lines are counted from 0.
+class EditorWidget : public SourceEdit
 {
     Q_OBJECT
 
@@ -57,9 +60,10 @@ public:
     void setText(const QString& text);
     /// The text for a file, one line feed between lines. Unlike toPlainText() it keeps non-breaking blanks.
     QString text() const override;
+    /// setText() is at work: what changes is no edit.
+    bool isSettingText() const { return m_settingText; }
     bool isModified() const;
     void clearModified();
-    bool hasSelection() const;
     bool isUndoAvailable() const;
     bool isRedoAvailable() const;
     /// Inserts at the cursor, in place of the selection if there is one.
@@ -92,11 +96,11 @@ public:
     void setFont(const QFont& font);
     /// Points, from EditorConfig::minFontSize to EditorConfig::maxFontSize; the wheel with Ctrl changes it.
     int fontSize() const { return m_fontSize; }
+    /// What the user has added to the size of the font, in points.
+    int zoom() const { return m_zoom; }
+    void setZoom(int points);
     /// Resets the zoom.
     void resetZoom();
-    /// @param indent width of a tab in characters
-    void setTabIndent(int indent);
-    void setDynamicLineWrapEn(bool enabled);
     void setAutoReturnIndentEn(bool enabled);
     void setSelectionHighlightEn(bool enabled);
     void setTextCompletionEn(bool enabled);
@@ -107,12 +111,7 @@ public:
     void setCursorBgColor(const QColor& color);
     void setHighlightBgColor(const QColor& color);
 
-    // ---- Commands for lines, see LineCommands
-    void indent();
-    void deindent();
-    void commentOut();
-    void commentIn();
-    void duplicateLine();
+    // ---- Commands for lines, which take the marks along
     void moveLineUp();
     void moveLineDown();
 
@@ -143,6 +142,8 @@ public:
 
     // ---- Marks (EditorWidgetMargin.cpp)
     const sDocumentMarks_t& marks() const { return m_marks; }
+    /// All marks at once, such as those of the last session.
+    void setMarks(const sDocumentMarks_t& marks);
     QList<int> simBreakpoints() const { return m_marks.simBreakpoints.lines(); }
     /// Sets the breakpoint, or clears it where there is one.
     void setSimBreakpoint(int line);
@@ -181,11 +182,7 @@ public:
     void showLeftMarginToolTip(const QPoint& pos);
     EditorWidgetLeftMargin* leftMargin() const { return m_leftMargin; }
 
-    // Where the lines are on the screen, for margin and marks.
-    using QPlainTextEdit::blockBoundingGeometry;
-    using QPlainTextEdit::blockBoundingRect;
-    using QPlainTextEdit::contentOffset;
-    using QPlainTextEdit::firstVisibleBlock;
+    void reportActions() override { emit actionChanged(this); }
 
 public slots:
     void undo();
@@ -223,10 +220,10 @@ private slots:
     void layoutNotices();
 
 private:
-    void calculateTabWidth();
     void insertAutoReturnIndent(QKeyEvent* event);
     void insertLineBreak(QKeyEvent* event);
     void applyFont(const QFont& font);
+    void moveLines(bool up);
 
     QTextDocument* m_textDocument;
     EditorSyntaxHighlighter* m_syntaxHighlighter;
@@ -240,7 +237,6 @@ private:
     EditorNotices* m_notices = nullptr;
     int m_noticeHeight = 0; ///< pixels
 
-    int m_tabIndent = 4;
     int m_baseFontSize = 0; ///< points, of the font that was set
     int m_zoom = 0;         ///< points that the user has added
     int m_fontSize = 0;     ///< points, the sum of both
@@ -253,6 +249,7 @@ private:
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
     MessageMarks m_messageMarks;
+    MarkFollower* m_markFollower = nullptr;
 };
 
 } // namespace nsModEditor

@@ -121,6 +121,18 @@ void EditorWidget::showLeftMarginToolTip(const QPoint& pos)
     m_leftMargin->showToolTipAt(pos);
 }
 
+void EditorWidget::setMarks(const sDocumentMarks_t& marks)
+{
+    const bool isChanged = marks.simBreakpoints.lines() != m_marks.simBreakpoints.lines();
+    // There is one start mark in all documents.
+    if (marks.simStartPointer >= 0)
+        emit clearAllSimStartPointer();
+    m_marks = marks;
+    m_leftMargin->update();
+    if (isChanged)
+        emit simBreakpointChanged();
+}
+
 void EditorWidget::setSimBreakpoint(int line)
 {
     if (line < 0)

@@ -2,6 +2,7 @@
 
 #include "EditorWidget.h"
 
+#include "Folding.h"
 #include "WordMarks.h"
 
 #include <QHelpEvent>
@@ -59,6 +60,11 @@ void EditorWidget::setCursorToLine(int line)
 {
     QTextCursor cursor = textCursor();
     line = qBound(0, line, blockCount());
+    if (folding()->hasHidden()) {
+        // Hidden lines are no steps of the cursor.
+        setCursorPos(m_textDocument->findBlockByNumber(qMin(line, blockCount() - 1)).position());
+        return;
+    }
     const int current = cursor.blockNumber();
     // Upwards it moves by lines on the screen, so a wrapped line counts as more than one.
     if (line >= current)

@@ -1,17 +1,84 @@
 #include "LineCommands.h"
 
+#include "TextColumns.h"
+
 #include <QPlainTextEdit>
+#include <QPoint>
+#include <QTextBoundaryFinder>
 #include <QTextDocument>
+
+#include <algorithm>
+#include <climits>
 
 namespace nsModEditor {
 
 namespace {
+
+/// Number of blanks at the start.
+int indentOf(const QString& text)
+{
+    int length = 0;
+    while (length < text.length() && text.at(length).isSpace())
+        ++length;
+    return length;
+}
+
+/// Where the blanks at the end begin. A blank after a backslash is text.
+int endOfText(const QString& text)
+{
+    int end = text.size();
+    while (end > 0 && text.at(end - 1).isSpace())
+        --end;
+    return end > 0 && end < text.size() && text.at(end - 1) == '\\' ? end + 1 : end;
+}
+
+/// The position, or the start of the character that it is within.
+int placeOfCharacter(const QString& text, int position)
+{
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    finder.setPosition(qMin(position, text.size()));
+    return finder.isAtBoundary() ? finder.position() : qMax(finder.toPreviousBoundary(), 0);
+}
+
+/// Replaces the text of a line, if it is another one.
+void setLine(const QTextBlock& block, const QString& text)
+{
+    if (block.text() == text)
+        return;
+    QTextCursor cursor(block);
+    cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+    cursor.insertText(text);
+}
 
 int insertTab(QTextCursor cursor)
 {
     cursor.movePosition(QTextCursor::StartOfBlock);
     cursor.insertText("\t");
     return 1;
+}
+
+int insertBlanks(QTextCursor cursor, int width)
+{
+    if (cursor.block().length() == 1)
+        return 0;
+    cursor.movePosition(QTextCursor::StartOfBlock);
+    cursor.insertText(QString(width, ' '));
+    return width;
+}
+
+/// A tab counts as the whole width.
+int removeBlanks(QTextCursor cursor, int width)
+{
+    const QString text = cursor.block().text();
+    int count = 0;
+    while (count < width && count < text.length() && text.at(count) == ' ')
+        ++count;
+    if (count < width && count < text.length() && text.at(count) == '\t')
+        ++count;
+    cursor.setPosition(cursor.block().position());
+    cursor.setPosition(cursor.block().position() + count, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    return -count;
 }
 
 int removeBlank(QTextCursor cursor)
@@ -51,6 +118,13 @@ LineCommands::LineCommands(QPlainTextEdit* edit)
 {
 }
 
+LineCommands::LineCommands(QPlainTextEdit* edit, const sIndent_t& indent)
+    : m_edit(edit)
+    , m_indent(indent)
+{
+    m_indent.width = qMax(m_indent.width, 1);
+}
+
 /// Runs the command on each line that the selection touches, or on the line of the cursor, as one step to undo.
 void LineCommands::forSelectedLines(const Command& command)
 {
@@ -87,10 +161,12 @@ void LineCommands::indent()
     const QTextCursor cursor = m_edit->textCursor();
     const bool severalLines =
         m_edit->document()->findBlock(cursor.selectionStart()) != m_edit->document()->findBlock(cursor.selectionEnd());
-    if (severalLines)
+    if (!m_indent.blanks && severalLines)
         forSelectedLines(insertTab);
+    else if (severalLines)
+        forSelectedLines([this](const QTextCursor& line) { return insertBlanks(line, m_indent.width); });
     else
-        m_edit->textCursor().insertText("\t");
+        m_edit->textCursor().insertText(m_indent.blanks ? blanksToTabStop(cursor) : QString("\t"));
     m_edit->ensureCursorVisible();
 }
 
@@ -98,7 +174,10 @@ void LineCommands::deindent()
 {
     if (m_edit->isReadOnly())
         return;
-    forSelectedLines(removeBlank);
+    if (m_indent.blanks)
+        forSelectedLines([this](const QTextCursor& line) { return removeBlanks(line, m_indent.width); });
+    else
+        forSelectedLines(removeBlank);
     m_edit->ensureCursorVisible();
 }
 
@@ -152,6 +231,11 @@ QTextBlock LineCommands::lastSelectedBlock() const
     return cursor.hasSelection() && block.position() == cursor.selectionEnd() ? block.previous() : block;
 }
 
+QPair<int, int> LineCommands::selectedLines() const
+{
+    return {firstSelectedBlock().blockNumber(), lastSelectedBlock().blockNumber()};
+}
+
 void LineCommands::moveLineUp()
 {
     if (m_edit->isReadOnly())
@@ -199,6 +283,254 @@ void LineCommands::exchangeLines(const QTextBlock& first, const QTextBlock& last
     moved.setPosition(qBound(0, anchor + shift, end));
     moved.setPosition(qBound(0, position + shift, end), QTextCursor::KeepAnchor);
     m_edit->setTextCursor(moved);
+}
+
+/// The blanks from the start of the selection to the next tab stop.
+QString LineCommands::blanksToTabStop(const QTextCursor& cursor) const
+{
+    const QTextBlock block = m_edit->document()->findBlock(cursor.selectionStart());
+    const int column = TextColumns(block.text(), m_indent.width).columnOf(cursor.selectionStart() - block.position());
+    return QString(m_indent.width - column % m_indent.width, ' ');
+}
+
+bool LineCommands::removeIndent()
+{
+    QTextCursor cursor = m_edit->textCursor();
+    const int at = cursor.positionInBlock();
+    if (m_edit->isReadOnly() || cursor.hasSelection() || at == 0)
+        return false;
+    const QString before = cursor.block().text().left(at);
+    if (indentOf(before) < at)
+        return false;
+    const TextColumns columns(before, m_indent.width);
+    const int column = columns.columnOf(at);
+    const int stop = (column - 1) / m_indent.width * m_indent.width;
+    int from = at - 1;
+    while (from > 0 && before.at(from) == ' ' && columns.columnOf(from) > stop)
+        --from;
+    cursor.setPosition(cursor.block().position() + from, QTextCursor::KeepAnchor);
+    cursor.removeSelectedText();
+    m_edit->setTextCursor(cursor);
+    return true;
+}
+
+bool LineCommands::goToTextStart(bool select)
+{
+    QTextCursor cursor = m_edit->textCursor();
+    if (cursor.block().lineCount() > 1)
+        return false;
+    const int indent = indentOf(cursor.block().text());
+    const int at = cursor.positionInBlock() == indent ? 0 : indent;
+    cursor.setPosition(cursor.block().position() + at, select ? QTextCursor::KeepAnchor : QTextCursor::MoveAnchor);
+    m_edit->setTextCursor(cursor);
+    return true;
+}
+
+/// The selected lines, or the one of the cursor.
+QList<QTextBlock> LineCommands::selectedBlocks() const
+{
+    QList<QTextBlock> blocks;
+    const QTextBlock last = lastSelectedBlock();
+    for (QTextBlock block = firstSelectedBlock(); block.isValid(); block = block.next()) {
+        blocks.append(block);
+        if (block == last)
+            break;
+    }
+    return blocks;
+}
+
+void LineCommands::toggleComment()
+{
+    if (m_edit->isReadOnly())
+        return;
+    QList<QTextBlock> blocks = selectedBlocks();
+    const auto isEmpty = [](const QTextBlock& block) { return indentOf(block.text()) == block.text().size(); };
+    if (blocks.size() > 1)
+        blocks.erase(std::remove_if(blocks.begin(), blocks.end(), isEmpty), blocks.end());
+    if (blocks.isEmpty())
+        return;
+    const bool isComment = std::all_of(blocks.begin(), blocks.end(), [](const QTextBlock& block) {
+        return block.text().midRef(indentOf(block.text())).startsWith(';');
+    });
+    int column = INT_MAX;
+    for (const QTextBlock& block : qAsConst(blocks)) {
+        const QString text = block.text();
+        column = qMin(column, TextColumns(text, m_indent.width).columnOf(indentOf(text)));
+    }
+    QTextCursor step(m_edit->document());
+    step.beginEditBlock();
+    for (const QTextBlock& block : qAsConst(blocks)) {
+        const QString text = block.text();
+        QTextCursor line(block);
+        if (!isComment) {
+            line.setPosition(block.position() + TextColumns(text, m_indent.width).indexAt(column));
+            line.insertText("; ");
+            continue;
+        }
+        const int at = indentOf(text);
+        line.setPosition(block.position() + at);
+        line.setPosition(block.position() + at + (text.midRef(at).startsWith("; ") ? 2 : 1), QTextCursor::KeepAnchor);
+        line.removeSelectedText();
+    }
+    step.endEditBlock();
+    m_edit->ensureCursorVisible();
+}
+
+void LineCommands::deleteLines()
+{
+    if (m_edit->isReadOnly())
+        return;
+    const QTextBlock first = firstSelectedBlock();
+    const QTextBlock last = lastSelectedBlock();
+    const int column = m_edit->textCursor().positionInBlock();
+    QTextCursor cursor(first);
+    if (last.next().isValid()) {
+        cursor.setPosition(last.next().position(), QTextCursor::KeepAnchor);
+    } else {
+        // The line end before the last line goes with it.
+        cursor.setPosition(qMax(first.position() - 1, 0));
+        cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
+    }
+    const int line = first.blockNumber();
+    cursor.removeSelectedText();
+    const QTextBlock now = m_edit->document()->findBlockByNumber(qMin(line, m_edit->document()->blockCount() - 1));
+    cursor.setPosition(now.position() + placeOfCharacter(now.text(), column));
+    m_edit->setTextCursor(cursor);
+    m_edit->ensureCursorVisible();
+}
+
+void LineCommands::joinLines()
+{
+    if (m_edit->isReadOnly())
+        return;
+    const int count = qMax(selectedBlocks().size() - 1, 1);
+    QTextCursor cursor(firstSelectedBlock());
+    int at = -1;
+    cursor.beginEditBlock();
+    for (int i = 0; i < count && cursor.block().next().isValid(); ++i) {
+        const QTextBlock block = cursor.block();
+        const QString text = block.text();
+        const QString next = block.next().text();
+        const int end = endOfText(text);
+        const int start = indentOf(next);
+        at = block.position() + end;
+        QTextCursor gap(m_edit->document());
+        gap.setPosition(at);
+        gap.setPosition(block.next().position() + start, QTextCursor::KeepAnchor);
+        gap.insertText(end > 0 && start < next.size() ? QString(" ") : QString());
+    }
+    cursor.endEditBlock();
+    if (at < 0)
+        return;
+    cursor.setPosition(at);
+    m_edit->setTextCursor(cursor);
+    m_edit->ensureCursorVisible();
+}
+
+void LineCommands::sortLines()
+{
+    const QList<QTextBlock> blocks = selectedBlocks();
+    if (m_edit->isReadOnly() || blocks.size() < 2)
+        return;
+    QStringList texts;
+    for (const QTextBlock& block : blocks)
+        texts.append(block.text());
+    std::stable_sort(texts.begin(), texts.end(), [](const QString& a, const QString& b) {
+        const int order = a.compare(b, Qt::CaseInsensitive);
+        return order != 0 ? order < 0 : a < b;
+    });
+    const int first = blocks.first().blockNumber();
+    QTextCursor cursor(m_edit->document());
+    cursor.beginEditBlock();
+    for (int i = 0; i < texts.size(); ++i)
+        setLine(m_edit->document()->findBlockByNumber(first + i), texts.at(i));
+    cursor.endEditBlock();
+    const QTextBlock last = m_edit->document()->findBlockByNumber(first + texts.size() - 1);
+    cursor.setPosition(m_edit->document()->findBlockByNumber(first).position());
+    cursor.setPosition(last.position() + last.length() - 1, QTextCursor::KeepAnchor);
+    m_edit->setTextCursor(cursor);
+}
+
+void LineCommands::changeCase(bool upper)
+{
+    if (m_edit->isReadOnly())
+        return;
+    QTextCursor cursor = m_edit->textCursor();
+    const int position = cursor.position();
+    const bool hasSelection = cursor.hasSelection();
+    if (!hasSelection)
+        cursor.select(QTextCursor::WordUnderCursor);
+    const QString before = cursor.selectedText();
+    const QString after = upper ? before.toUpper() : before.toLower();
+    if (before == after)
+        return;
+    const int start = cursor.selectionStart();
+    const bool backward = cursor.position() < cursor.anchor();
+    cursor.insertText(after);
+    const int end = start + after.size();
+    cursor.setPosition(hasSelection ? (backward ? end : start) : qMin(position, end));
+    if (hasSelection)
+        cursor.setPosition(backward ? start : end, QTextCursor::KeepAnchor);
+    m_edit->setTextCursor(cursor);
+}
+
+void LineCommands::changeLines(bool all, const std::function<QString(const QString& line)>& change)
+{
+    if (m_edit->isReadOnly())
+        return;
+    // In a line that is replaced, a cursor would go to its end.
+    const auto placeOf = [this](int position) {
+        const QTextBlock block = m_edit->document()->findBlock(position);
+        return QPoint(position - block.position(), block.blockNumber());
+    };
+    const auto positionOf = [this](const QPoint& place) {
+        const QTextBlock block = m_edit->document()->findBlockByNumber(place.y());
+        return block.position() + placeOfCharacter(block.text(), qMin(place.x(), block.length() - 1));
+    };
+    QTextCursor cursor = m_edit->textCursor();
+    const QPoint anchor = placeOf(cursor.anchor());
+    const QPoint position = placeOf(cursor.position());
+    const QTextBlock last = all ? m_edit->document()->lastBlock() : lastSelectedBlock();
+    bool isChanged = false;
+    QTextCursor step(m_edit->document());
+    step.beginEditBlock();
+    for (QTextBlock block = all ? m_edit->document()->firstBlock() : firstSelectedBlock(); block.isValid();
+         block = block.next()) {
+        const QString text = change(block.text());
+        isChanged = isChanged || text != block.text();
+        setLine(block, text);
+        if (block == last)
+            break;
+    }
+    step.endEditBlock();
+    if (!isChanged)
+        return;
+    cursor.setPosition(positionOf(anchor));
+    cursor.setPosition(positionOf(position), QTextCursor::KeepAnchor);
+    m_edit->setTextCursor(cursor);
+}
+
+void LineCommands::removeTrailingBlanks(bool all)
+{
+    if (m_edit->isReadOnly())
+        return;
+    const QTextBlock last = all ? m_edit->document()->lastBlock() : lastSelectedBlock();
+    QTextCursor step(m_edit->document());
+    step.beginEditBlock();
+    for (QTextBlock block = all ? m_edit->document()->firstBlock() : firstSelectedBlock(); block.isValid();
+         block = block.next()) {
+        const QString text = block.text();
+        const int end = endOfText(text);
+        if (end < text.size()) {
+            QTextCursor cursor(block);
+            cursor.setPosition(block.position() + end);
+            cursor.setPosition(block.position() + text.size(), QTextCursor::KeepAnchor);
+            cursor.removeSelectedText();
+        }
+        if (block == last)
+            break;
+    }
+    step.endEditBlock();
 }
 
 } // namespace nsModEditor

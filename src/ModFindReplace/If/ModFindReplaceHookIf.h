@@ -21,4 +21,11 @@ public:
     virtual QString replaceString() = 0;
     virtual bool isCaseSensitive() = 0;
     virtual bool isWholeWords() = 0;
+
+    /// The text to find is a regular expression; only for clients with hasExpressions().
+    virtual bool isRegExp() { return false; }
+    /// The search is restricted to what was selected; likewise.
+    virtual bool isInSelection() { return false; }
+    /// What the search has come to, such as "3 of 17". @param toolTip more about it, may be empty
+    virtual void setFindResult(const QString& /*text*/, const QString& /*toolTip*/) {}
 };

@@ -24,6 +24,12 @@ public:
     virtual void replace(bool configChanged) = 0;
     virtual void replaceAll(bool configChanged) = 0;
 
+    /// The client can search for regular expressions and in a selection, and shows results.
+    virtual bool hasExpressions() { return false; }
+    /// The strip serves this client, and the parameters or the current widget have changed: the client can show what a
+    /// search would find. It moves no cursor.
+    virtual void findPreview() {}
+
     /// Set by the server while the client is registered, null otherwise. Not owned.
     ModFindReplaceHookIf* modFindReplaceHook = nullptr;
 };

@@ -1,0 +1,160 @@
+#include "DocumentSession.h"
+
+#include "EditorConfig.h"
+#include "EditorServices.h"
+#include "EditorWidget.h"
+#include "LineMarks.h"
+#include "OpenDocuments.h"
+#include "SafeFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QScrollBar>
+
+namespace nsModEditor {
+
+namespace {
+
+const int version = 1;
+const qint64 maxSize = 1 << 24; ///< bytes of the file
+const int maxMarks = 100000;    ///< of one kind in a document
+
+namespace keys {
+const QLatin1String version("nalvoSession");
+const QLatin1String documents("documents");
+const QLatin1String file("file");
+const QLatin1String cursor("cursor");
+const QLatin1String anchor("anchor");
+const QLatin1String top("top"); ///< first line on the screen
+const QLatin1String left("left");
+const QLatin1String zoom("zoom");
+const QLatin1String breakpoints("breakpoints");
+const QLatin1String bookmarks("bookmarks");
+const QLatin1String start("start");
+} // namespace keys
+
+QJsonArray arrayOf(const QList<int>& lines)
+{
+    QJsonArray array;
+    for (const int line : lines)
+        array.append(line);
+    return array;
+}
+
+/// The lines that the document has.
+LineMarks marksOf(const QJsonValue& value, int lineCount)
+{
+    LineMarks marks;
+    const QJsonArray array = value.toArray();
+    for (int i = 0; i < qMin(array.size(), maxMarks); ++i) {
+        const int line = array.at(i).toInt(-1);
+        if (line >= 0 && line < lineCount && !marks.contains(line))
+            marks.toggle(line);
+    }
+    return marks;
+}
+
+} // namespace
+
+DocumentSession::DocumentSession(const OpenDocuments* documents, EditorServices* services)
+    : m_documents(documents)
+    , m_services(services)
+{
+}
+
+QString DocumentSession::fileOf(const QString& project)
+{
+    return project + QStringLiteral(".user");
+}
+
+QJsonObject DocumentSession::stateOf(EditorWidget* widget, bool keepMarks) const
+{
+    QJsonObject state{{keys::file, m_services->relPath(widget->filePath())},
+                      {keys::cursor, widget->textCursor().position()},
+                      {keys::anchor, widget->textCursor().anchor()},
+                      {keys::top, widget->verticalScrollBar()->value()},
+                      {keys::left, widget->horizontalScrollBar()->value()}};
+    if (!keepMarks)
+        return state;
+    state.insert(keys::zoom, widget->zoom());
+    state.insert(keys::breakpoints, arrayOf(widget->simBreakpoints()));
+    state.insert(keys::bookmarks, arrayOf(widget->bookmarks()));
+    state.insert(keys::start, widget->marks().simStartPointer);
+    return state;
+}
+
+void DocumentSession::save(const QString& project, bool keepMarks)
+{
+    if (project.isEmpty())
+        return;
+    QJsonArray documents;
+    for (EditorWidget* widget : m_documents->all()) {
+        if (!widget->filePath().isEmpty())
+            documents.append(stateOf(widget, keepMarks));
+    }
+    const QString path = fileOf(project);
+    if (documents.isEmpty() && !QFileInfo::exists(path))
+        return;
+    const QByteArray bytes =
+        QJsonDocument(QJsonObject{{keys::version, version}, {keys::documents, documents}}).toJson();
+    QFile before(path);
+    if (QFileInfo(path).isFile() && before.size() <= maxSize && before.open(QIODevice::ReadOnly) &&
+        before.readAll() == bytes)
+        return;
+    // Without it, the documents open at their start the next time.
+    SafeFile::replace(path, bytes, nullptr);
+}
+
+void DocumentSession::restore(const QString& project, bool keepMarks, bool isNewer)
+{
+    const QString path = fileOf(project);
+    if (project.isEmpty() || !QFileInfo::exists(path))
+        return;
+    QFile file(path);
+    QJsonObject session;
+    if (QFileInfo(path).isFile() && file.size() <= maxSize && file.open(QIODevice::ReadOnly))
+        session = QJsonDocument::fromJson(file.readAll()).object();
+    if (session.value(keys::version).toInt() != version || !session.value(keys::documents).isArray()) {
+        m_services->showWarning(tr("The places of the last session can not be read: ") + path);
+        return;
+    }
+    EditorWidget* current = m_documents->current();
+    for (const QJsonValue& value : session.value(keys::documents).toArray()) {
+        const QJsonObject state = value.toObject();
+        for (EditorWidget* widget : m_documents->all()) {
+            // The place in the current document stands in the project, too.
+            if (m_services->relPath(widget->filePath()) == state.value(keys::file).toString())
+                restoreState(widget, state, keepMarks, isNewer || widget == current);
+        }
+    }
+}
+
+void DocumentSession::restoreState(EditorWidget* widget, const QJsonObject& state, bool keepMarks,
+                                   bool keepsCursor) const
+{
+    const int end = widget->document()->characterCount() - 1;
+    const int position = qBound(0, state.value(keys::cursor).toInt(), end);
+    if (keepMarks) {
+        const int range = EditorConfig::maxFontSize;
+        widget->setZoom(qBound(-range, state.value(keys::zoom).toInt(), range));
+        sDocumentMarks_t marks;
+        marks.simBreakpoints = marksOf(state.value(keys::breakpoints), widget->blockCount());
+        marks.bookmarks = marksOf(state.value(keys::bookmarks), widget->blockCount());
+        const int start = state.value(keys::start).toInt(-1);
+        marks.simStartPointer = start < widget->blockCount() ? qMax(start, -1) : -1;
+        widget->setMarks(marks);
+    }
+    if (keepsCursor && widget->cursorPos() != position)
+        return;
+    QTextCursor cursor = widget->textCursor();
+    cursor.setPosition(qBound(0, state.value(keys::anchor).toInt(), end));
+    cursor.setPosition(position, QTextCursor::KeepAnchor);
+    widget->setTextCursor(cursor);
+    widget->verticalScrollBar()->setValue(state.value(keys::top).toInt());
+    widget->horizontalScrollBar()->setValue(state.value(keys::left).toInt());
+}
+
+} // namespace nsModEditor

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QRegularExpression>
+
+class QPainter;
+
+namespace nsModEditor {
+
+class SourceEdit;
+
+/// What a document shows above its text: the ruler, the pair of brackets at the cursor, the hits of a search.
+class TextOverlay
+{
+public:
+    /// @param editor not owned
+    explicit TextOverlay(SourceEdit* editor);
+
+    /// Where the ruler stands, in characters from the start of the line; 0 for none.
+    void setRulerColumn(int column);
+    /// Marks what the expression finds; an empty one marks nothing.
+    void setHits(const QRegularExpression& expression);
+    const QRegularExpression& hits() const { return m_hits; }
+
+    void paint(QPainter* painter) const;
+
+private:
+    void paintRuler(QPainter* painter) const;
+    void paintBrackets(QPainter* painter) const;
+    void paintHits(QPainter* painter) const;
+
+    SourceEdit* m_editor;
+    int m_rulerColumn = 0;
+    QRegularExpression m_hits;
+};
+
+} // namespace nsModEditor
