@@ -92,6 +92,8 @@ const KeyTable& settingsKeys()
         {"ModNetwork/proxyType", "int", "0", "3"},
         {"ModNetwork/proxyPort", "int", "0", "8080"},
         {"ModSwUpdate/updateCheckInterval", "int", "1", "3"},
+        // What the user has entered there is stored once there is any: empty texts are not.
+        {"ModImport/program/mode", "int", "0", "1"},
         {"ModSwUpdate/timeOut", "int", "20", "33"},
         {"ModSrcNavi/naviWidgetLocation", "int", "1", "2"},
         {"ModSrcNavi/tagListSortMode", "int", "0", "2"},
