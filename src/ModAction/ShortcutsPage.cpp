@@ -56,6 +56,9 @@ void ShortcutsPage::addList()
 {
     m_search->setObjectName(QStringLiteral("shortcutSearch"));
     m_search->setClearButtonEnabled(true);
+    // Neither the words that are looked for nor the keys of the selected command are a change of the page.
+    m_search->setProperty("isSetting", false);
+    m_edit->setProperty("isSetting", false);
     m_search->setPlaceholderText(tr("Words of the command, or keys"));
     m_list->setObjectName(QStringLiteral("shortcutList"));
     m_list->setAccessibleName(tr("Commands and their keys"));

@@ -42,7 +42,8 @@ QStringList PageValues::of(const QWidget* page)
 {
     QStringList values;
     for (const QWidget* widget : page->findChildren<QWidget*>()) {
-        if (isPartOfControl(widget, page))
+        const QVariant isSetting = widget->property("isSetting");
+        if (isPartOfControl(widget, page) || (isSetting.isValid() && !isSetting.toBool()))
             continue;
         const auto* view = qobject_cast<const QAbstractItemView*>(widget);
         const QMetaProperty property = widget->metaObject()->userProperty();

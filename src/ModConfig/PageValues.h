@@ -10,7 +10,8 @@ namespace nsModConfig {
 class PageValues
 {
 public:
-    /// The values of all controls in @p page, in the order in which the controls were made.
+    /// The values of all controls in @p page, in the order in which the controls were made. A control whose property
+    /// "isSetting" is false, such as a search field, holds none.
     static QStringList of(const QWidget* page);
 };
 

@@ -112,6 +112,9 @@ protected:
 
     static QString valueOf(QWidget* widget)
     {
+        // A search field is no setting.
+        if (widget->property("isSetting").isValid())
+            return QString();
         if (auto* box = qobject_cast<QSpinBox*>(widget))
             return QString::number(box->value());
         if (auto* box = qobject_cast<QDoubleSpinBox*>(widget))

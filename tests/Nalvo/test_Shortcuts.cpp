@@ -226,6 +226,15 @@ TEST_F(ShortcutsInWindow, EscClosesTheSettingsAtOnceWhereNothingWasChanged)
     QTest::keyClick(window->findChild<QWidget*>("configList"), Qt::Key_Escape);
     EXPECT_TRUE(waitForClose());
     EXPECT_EQ(answers.seen(), 0);
+    // What was looked for, and where, is no change.
+    openPage();
+    auto* search = onPage<QLineEdit>("shortcutSearch");
+    search->setFocus();
+    QTest::keyClicks(search, "file");
+    QTest::keyClick(onPage<QTreeWidget>("shortcutList"), Qt::Key_Down);
+    QTest::keyClick(search, Qt::Key_Escape);
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(answers.seen(), 0);
 }
 
 TEST_F(ShortcutsInWindow, EscAsksBeforeItDropsAChange)
