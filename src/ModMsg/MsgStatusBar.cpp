@@ -9,12 +9,18 @@ MsgStatusBar::MsgStatusBar(QWidget* parent)
 {
     setObjectName(QStringLiteral("msgCounts"));
     setAutoRaise(true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setFocusPolicy(Qt::NoFocus);
     setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     setToolTip(tr("Errors and warnings since the last run began; a click shows the first of the worst"));
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &MsgStatusBar::showCounts);
     showCounts();
+}
+
+QSize MsgStatusBar::minimumSizeHint() const
+{
+    return QSize(iconSize().width(), QToolButton::minimumSizeHint().height());
 }
 
 void MsgStatusBar::setCounts(int errors, int warnings)

@@ -16,6 +16,8 @@ public:
     /// Without any, there is nothing to be seen. Shown when control returns to the event loop, so that a run with
     /// thousands of messages stays fast.
     void setCounts(int errors, int warnings);
+    /// In a narrow window the icon does, so that nothing else in the bar is cut.
+    QSize minimumSizeHint() const override;
 
 private:
     void showCounts();
