@@ -227,7 +227,7 @@ TEST_F(SymbolsInWindow, aRenameIsRefusedWithWords)
     setCursorInto(document, "limit * 2");
     EXPECT_EQ(rename("twice"), "There is a constant of this name: twice");
     EXPECT_EQ(rename("start"), "There is a label of this name: start");
-    EXPECT_EQ(rename("ADD"), "Using opcode as label is not allowed: ADD");
+    EXPECT_EQ(rename("ADD"), "Using instruction as label is not allowed: ADD");
     EXPECT_EQ(rename("a b"), "Found unalowed characters in name.");
     EXPECT_EQ(document->toPlainText(), symbolsWindow::mainText);
     const auto refusal = [this] {
