@@ -3,6 +3,7 @@
 #include "Colors.h"
 #include "DocumentCommands.h"
 #include "DocumentKeeper.h"
+#include "DocumentMarks.h"
 #include "DocumentSession.h"
 #include "DocumentSync.h"
 #include "EditorConfigPage.h"
@@ -40,6 +41,7 @@ namespace nsModEditor {
 ModEditor::ModEditor(QObject* parent)
     : QObject(parent)
     , m_documents(std::make_unique<OpenDocuments>(this))
+    , m_marks(std::make_unique<DocumentMarks>(m_documents.get()))
     , m_services(std::make_unique<EditorServices>(this, this, this))
     , m_keeper(std::make_unique<DocumentKeeper>(m_documents.get(), m_services.get()))
     , m_sync(std::make_unique<DocumentSync>(m_documents.get(), m_services.get(), m_keeper.get()))
@@ -97,8 +99,8 @@ void ModEditor::modRegisterPlugins(QList<ModPluginIf*> modules)
 void ModEditor::modInit()
 {
     m_statusBar = new EditorStatusBar;
-    connect(m_statusBar, SIGNAL(lineEndSelected(int)), this, SLOT(setLineEnd(int)));
-    connect(m_statusBar, SIGNAL(markSelected(bool)), this, SLOT(setMark(bool)));
+    connect(m_statusBar, &EditorStatusBar::lineEndSelected, m_commands.get(), &DocumentCommands::setLineEnd);
+    connect(m_statusBar, &EditorStatusBar::markSelected, m_commands.get(), &DocumentCommands::setMark);
     m_syntaxHighlighterConfig = new EditorSyntaxHighlighterConfig(this);
     m_tipManager = new EditorTipManager;
     m_supportMenu = new EditorSupportMenu(this);
@@ -472,10 +474,7 @@ void ModEditor::connectEditorWidget(EditorWidget* widget)
             SLOT(setActionStateEditorWidget(nsModEditor::EditorWidget*)));
     connect(widget, SIGNAL(modifiedChanged(nsModEditor::EditorWidget*)), this,
             SLOT(setModifiedState(nsModEditor::EditorWidget*)));
-    connect(widget, SIGNAL(simBreakpointChanged()), this, SLOT(setSimBreakpointsChanged()));
-    connect(widget, SIGNAL(clearAllBreakpoints()), this, SLOT(clearSimBreakpoints()));
-    connect(widget, SIGNAL(clearAllSimStartPointer()), this, SLOT(clearAllSimStartPointer()));
-    connect(widget, SIGNAL(clearAllBookmarks()), this, SLOT(clearAllBookmarks()));
+    m_marks->add(widget);
     // After the drop has ended: opening can ask a question, which would block the program that the files are dragged
     // from.
     connect(widget, &EditorWidget::filesDropped, m_commands.get(), &DocumentCommands::openDroppedFiles,

@@ -33,6 +33,7 @@ namespace nsModEditor {
 
 class DocumentCommands;
 class DocumentKeeper;
+class DocumentMarks;
 class DocumentSync;
 class EditorConfigPage;
 class EditorDocument;
@@ -106,12 +107,12 @@ public:
     void configHighlighterAddRegExp(eHighlightRule_t rule, QRegExp regExp) override;
     void setMemPageAddrMap(EditorMemPageAddrMap* map) override;
     QMap<QString, QList<int>> simBreakpoints() override;
-    bool simBreakpointsChanged() override { return m_breakpointChanges.any; }
+    bool simBreakpointsChanged() override;
     bool simStartPointer(QString* path, int* line) override;
     void simEn(bool enabled) override;
     void setTextCompletionList(QStringList& words) override;
     EditorSupportMenu* supportMenu() override { return m_supportMenu; }
-    int simBreakpointsRevision() override { return m_breakpointChanges.revision; }
+    int simBreakpointsRevision() override;
     void registerPlugin(ModEditorPluginIfText* plugin) override;
     void unregisterPlugin(ModEditorPluginIfText* plugin) override;
     QList<EditorDocument*> documents() override;
@@ -203,13 +204,6 @@ private slots:
     void handleActions(nsModEditor::EditorActionsSim::eAction_t action);
     void setActionStateEditorWidget(nsModEditor::EditorWidget* widget);
     void setModifiedState(nsModEditor::EditorWidget* widget);
-    void setSimBreakpointsChanged();
-    void clearSimBreakpoints();
-    void clearAllSimStartPointer();
-    void clearAllBookmarks();
-    // What the user chooses in the status bar.
-    void setLineEnd(int lineEnd);
-    void setMark(bool mark);
 
 private:
     // DocumentPages (ModEditorDocuments.cpp)
@@ -229,6 +223,7 @@ private:
     void clearMessageFlag();
 
     std::unique_ptr<OpenDocuments> m_documents;
+    std::unique_ptr<DocumentMarks> m_marks;
     std::unique_ptr<EditorServices> m_services;
     std::unique_ptr<DocumentKeeper> m_keeper;
     std::unique_ptr<DocumentSync> m_sync;
@@ -250,11 +245,6 @@ private:
     EditorActionsSim* m_actionsSim = nullptr;
     TextActions* m_textActions = nullptr;
     EditorMemPageAddrMap* m_memPageAddrMap = nullptr; ///< owned
-    struct sBreakpointChanges_t
-    {
-        bool any = false; ///< once set, it stays
-        int revision = 0; ///< incremented when the result of simBreakpoints() changes
-    } m_breakpointChanges;
     bool m_simEnabled = false;
     bool m_isMessageFlagged = false; ///< the flagged line is that of a message which the user has clicked
 };

@@ -1,8 +1,9 @@
-// Actions: what the user chooses, what is offered when, marks in all documents, find and replace, clipboard.
+// Actions: what the user chooses, what is offered when, find and replace, clipboard.
 
 #include "ModEditor.h"
 
 #include "DocumentCommands.h"
+#include "DocumentMarks.h"
 #include "EditorFinder.h"
 #include "EditorStatusBar.h"
 #include "EditorSupportMenu.h"
@@ -115,10 +116,10 @@ void ModEditor::handleActions(EditorActionsSim::eAction_t action)
 {
     switch (action) {
     case EditorActionsSim::eActionClearBreakpoints:
-        clearSimBreakpoints();
+        m_marks->clearBreakpoints();
         break;
     case EditorActionsSim::eActionClearStartPointer:
-        clearAllSimStartPointer();
+        m_marks->clearStartPointers();
         break;
     }
 }
@@ -210,48 +211,22 @@ void ModEditor::setModifiedState(EditorWidget* widget)
 
 QMap<QString, QList<int>> ModEditor::simBreakpoints()
 {
-    QMap<QString, QList<int>> breakpoints;
-    for (EditorWidget* widget : m_documents->all()) {
-        if (!widget->filePath().isEmpty())
-            breakpoints.insert(widget->filePath(), widget->simBreakpoints());
-    }
-    return breakpoints;
+    return m_marks->breakpoints();
+}
+
+bool ModEditor::simBreakpointsChanged()
+{
+    return m_marks->haveBreakpointsChanged();
+}
+
+int ModEditor::simBreakpointsRevision()
+{
+    return m_marks->breakpointRevision();
 }
 
 bool ModEditor::simStartPointer(QString* path, int* line)
 {
-    for (EditorWidget* widget : m_documents->all()) {
-        if (widget->simStartPointer(line)) {
-            *path = widget->filePath();
-            return true;
-        }
-    }
-    return false;
-}
-
-void ModEditor::setSimBreakpointsChanged()
-{
-    m_breakpointChanges.any = true;
-    ++m_breakpointChanges.revision;
-}
-
-void ModEditor::clearSimBreakpoints()
-{
-    for (EditorWidget* widget : m_documents->all())
-        widget->clearSimBreakpoints();
-    setSimBreakpointsChanged();
-}
-
-void ModEditor::clearAllSimStartPointer()
-{
-    for (EditorWidget* widget : m_documents->all())
-        widget->clearSimStartPointer();
-}
-
-void ModEditor::clearAllBookmarks()
-{
-    for (EditorWidget* widget : m_documents->all())
-        widget->clearBookmarks();
+    return m_marks->startPointer(path, line);
 }
 
 void ModEditor::clipboardAction(ModClipboardHookIf::eClipboardFeature_t feature)
@@ -306,26 +281,6 @@ void ModEditor::replace(bool configChanged)
 void ModEditor::replaceAll(bool configChanged)
 {
     m_finder->replaceAll(configChanged);
-}
-
-void ModEditor::setLineEnd(int lineEnd)
-{
-    EditorWidget* widget = m_documents->current();
-    if (widget == nullptr || widget->isReadOnly())
-        return;
-    DocumentFormat format = widget->format();
-    format.setLineEnd(DocumentFormat::eLineEnd_t(lineEnd));
-    widget->setFormat(format);
-}
-
-void ModEditor::setMark(bool mark)
-{
-    EditorWidget* widget = m_documents->current();
-    if (widget == nullptr || widget->isReadOnly())
-        return;
-    DocumentFormat format = widget->format();
-    format.setMark(mark && format.encoding() == DocumentFormat::eEncodingUtf8);
-    widget->setFormat(format);
 }
 
 } // namespace nsModEditor

@@ -4,6 +4,7 @@
 
 #include "DocumentCommands.h"
 #include "DocumentKeeper.h"
+#include "DocumentMarks.h"
 #include "DocumentSync.h"
 #include "EditorRecovery.h"
 #include "EditorServices.h"
@@ -54,8 +55,7 @@ void ModEditor::removeEditorWidget(EditorWidget* widget)
     m_documents->remove(widget);
     if (m_keeper->recovery() != nullptr)
         m_keeper->recovery()->forget(widget);
-    // Its breakpoints are removed with it.
-    ++m_breakpointChanges.revision;
+    m_marks->forgetOne();
     m_sync->forget(widget);
     m_commands->forget(widget);
     if (modGuiHook != nullptr)

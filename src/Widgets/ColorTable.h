@@ -33,6 +33,8 @@ struct ColorTable
         eLinkVisited,
         // Notices and marks of the messages
         eErrorLine,
+        eWarningLine,
+        eInfoLine,
         eErrorText,
         eErrorGround,
         eErrorBorder,
@@ -161,6 +163,8 @@ struct ColorTable
         {eScrollHandle, "scrollHandle", 0xa3adba, 0x55616e},
         {eLinkVisited, "linkVisited", 0x5b3a94, 0xc0a5f5},
         {eErrorLine, "errorLine", 0xc62f2f, 0xff8a80},
+        {eWarningLine, "warningLine", 0xb36b00, 0xf5b324},
+        {eInfoLine, "infoLine", 0x204398, 0x8fb0ff},
         {eErrorText, "errorText", 0xb3261e, 0xff8a80},
         {eErrorGround, "errorGround", 0xfbe3e1, 0x43282a},
         {eErrorBorder, "errorBorder", 0xe5aaa5, 0x7d4244},

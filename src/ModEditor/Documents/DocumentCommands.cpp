@@ -299,6 +299,26 @@ void DocumentCommands::settleFile(EditorWidget* widget, bool isNew)
     }
 }
 
+void DocumentCommands::setLineEnd(int lineEnd)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr || widget->isReadOnly())
+        return;
+    DocumentFormat format = widget->format();
+    format.setLineEnd(DocumentFormat::eLineEnd_t(lineEnd));
+    widget->setFormat(format);
+}
+
+void DocumentCommands::setMark(bool mark)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr || widget->isReadOnly())
+        return;
+    DocumentFormat format = widget->format();
+    format.setMark(mark && format.encoding() == DocumentFormat::eEncodingUtf8);
+    widget->setFormat(format);
+}
+
 void DocumentCommands::printFile(EditorWidget* widget)
 {
     if (widget == nullptr)

@@ -56,6 +56,11 @@ public:
     /// @param isNew the user can not read the messages any more: the next start is to report what was kept
     void settleFiles(bool isNew);
 
+    /// Changes the format in which the current document will be written. @param lineEnd a DocumentFormat::eLineEnd_t
+    void setLineEnd(int lineEnd);
+    /// The same for its byte order mark, which only UTF-8 can have.
+    void setMark(bool mark);
+
     /// Asks for the printer. @param widget may be null
     void printFile(EditorWidget* widget);
     /// Prints the document, or what is selected in it, as the printer is set.

@@ -91,7 +91,7 @@ void EditorWidget::setMessageMarks(const QVector<sMessageMark>& marks)
 
 void EditorWidget::paintEvent(QPaintEvent* event)
 {
-    EditorDocument::paintEvent(event);
+    SourceEdit::paintEvent(event);
     QPainter painter(viewport());
     const QTextBlock block = firstVisibleBlock();
     m_messageMarks.paint(&painter, block, blockBoundingGeometry(block).translated(contentOffset()).topLeft(),

@@ -1,5 +1,7 @@
 #include "MessageMarks.h"
 
+#include "Colors.h"
+
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QTextBlock>
@@ -76,8 +78,8 @@ int MessageMarks::gradeOf(const QTextBlock& line) const
 
 QColor MessageMarks::colorOf(int grade)
 {
-    static const QColor colors[] = {QColor(0x20, 0x43, 0x98), QColor(0xB3, 0x6B, 0x00), QColor(0xC4, 0x1E, 0x1E)};
-    return colors[qBound(0, grade, 2)];
+    static const Colors::eRole_t roles[] = {Colors::eInfoLine, Colors::eWarningLine, Colors::eErrorLine};
+    return Colors::of(roles[qBound(0, grade, 2)]);
 }
 
 void MessageMarks::paint(QPainter* painter, const QTextBlock& firstVisible, const QPointF& offset, int bottom) const
