@@ -10,7 +10,7 @@ SymbolActions::SymbolActions(QObject* parent)
          QT_TR_NOOP("Goes to where the name at the cursor is defined; Ctrl and a click on the name do the same"),
          nullptr, "F2"},
         {eActionUsages, QT_TR_NOOP("Find usages"), QT_TR_NOOP("Lists all places of the name at the cursor"), nullptr,
-         "Ctrl+Shift+U"},
+         "Shift+F2"},
         {eActionRename, QT_TR_NOOP("Rename..."),
          QT_TR_NOOP("Gives the label or constant at the cursor another name, in all sources"), nullptr, "Ctrl+Shift+R"},
         separator(),

@@ -163,7 +163,7 @@ TEST_F(SymbolsInWindow, usagesStandInAList)
 {
     open();
     setCursorInto(document, "limit * 2");
-    key(Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
+    key(Qt::Key_F2, Qt::ShiftModifier);
     EXPECT_EQ(usageRows(),
               QStringList({"main.psm:1|Definition|#EQU limit, 26", "main.psm:2|Use|#EQU twice, limit * 2",
                            "main.psm:3|Use|start: LOAD s0, limit", "sub/other.psm:2|Use|work: LOAD s2, ::limit"}));
@@ -187,7 +187,7 @@ TEST_F(SymbolsInWindow, usagesStandInAList)
     EXPECT_EQ(place(), "main.psm:3 limit");
     // The same name in another namespace is another name.
     setCursorInto(document, "start");
-    key(Qt::Key_U, Qt::ControlModifier | Qt::ShiftModifier);
+    key(Qt::Key_F2, Qt::ShiftModifier);
     EXPECT_EQ(usageRows(), QStringList({"main.psm:4|Definition|start: LOAD s0, limit", "main.psm:7|Use|JUMP start"}));
     // Nothing is to be asked at the close.
     document->clearModified();
