@@ -1,7 +1,10 @@
 #include "Shortcuts.h"
 
 #include <QAction>
+#include <QMenu>
 #include <QVariant>
+
+#include <algorithm>
 
 namespace nsModAction {
 
@@ -15,11 +18,36 @@ QString textOf(const QList<QKeySequence>& keys)
     return QKeySequence::listToString(keys, QKeySequence::PortableText);
 }
 
+/// The user may have taken its keys away.
+bool hasKeys(const QAction* action)
+{
+    return !action->shortcuts().isEmpty() || !action->property(standardProperty).toString().isEmpty();
+}
+
 QList<QKeySequence> keysOf(const QString& text)
 {
     QList<QKeySequence> keys = QKeySequence::listFromString(text, QKeySequence::PortableText);
     keys.removeAll(QKeySequence());
     return keys;
+}
+
+/// Also those of submenus of commands. A submenu whose entries have no keys at all, such as that of recent files,
+/// offers things and no commands.
+QList<QAction*> commandsIn(const QList<QAction*>& actions)
+{
+    QList<QAction*> commands;
+    for (QAction* action : actions) {
+        if (action->isSeparator() || Shortcuts::plainText(action->text()).isEmpty())
+            continue;
+        if (action->menu() == nullptr) {
+            commands.append(action);
+            continue;
+        }
+        const QList<QAction*> entries = commandsIn(action->menu()->actions());
+        if (std::any_of(entries.cbegin(), entries.cend(), [](QAction* entry) { return hasKeys(entry); }))
+            commands.append(entries);
+    }
+    return commands;
 }
 
 } // namespace
@@ -61,9 +89,7 @@ void Shortcuts::setEntries(const QString& menu, const QList<QAction*>& actions)
         m_menus.append(menu);
     QList<QPointer<QAction>>& entries = m_entries[menu];
     entries.clear();
-    for (QAction* action : actions) {
-        if (action->isSeparator() || action->menu() != nullptr || plainText(action->text()).isEmpty())
-            continue;
+    for (QAction* action : commandsIn(actions)) {
         entries.append(action);
         apply(menu, action);
     }

@@ -18,6 +18,8 @@
 #include <QToolTip>
 #include <QTreeWidget>
 
+#include <functional>
+
 namespace {
 
 class ShortcutsInWindow : public MainWindowFixture
@@ -275,4 +277,36 @@ TEST_F(ShortcutsInWindow, TheSettingsMayCloseWhileEscAsks)
     ModalAnswers answers({[this](QDialog*) { module<ModConfigHookIf>()->closeDialog(false); }});
     QTest::keyClick(indent, Qt::Key_Escape);
     EXPECT_TRUE(waitForClose());
+}
+
+TEST_F(ShortcutsInWindow, NoTwoCommandsHaveTheSameKeys)
+{
+    QMap<QString, QStringList> users;
+    std::function<void(const QMenu*)> read = [&](const QMenu* menu) {
+        for (const QAction* action : menu->actions()) {
+            for (const QKeySequence& keys : action->shortcuts())
+                users[keys.toString(QKeySequence::PortableText)].append(action->text());
+            if (action->menu() != nullptr)
+                read(action->menu());
+        }
+    };
+    for (const QAction* entry : window->menuBar()->actions())
+        read(entry->menu());
+    ASSERT_GT(users.size(), 40);
+    // Some desktops have it for the next hit; in a document it leads to a line.
+    const QStringList shared{"Ctrl+G"};
+    for (auto it = users.cbegin(); it != users.cend(); ++it)
+        EXPECT_TRUE(it->size() == 1 || shared.contains(it.key())) << qPrintable(it.key() + ": " + it->join(", "));
+}
+
+TEST_F(ShortcutsInWindow, TheCommandsOfASubmenuCanHaveKeysToo)
+{
+    openPage();
+    auto* list = onPage<QTreeWidget>("shortcutList");
+    EXPECT_EQ(list->findItems("Sort lines", Qt::MatchExactly, 1).size(), 1);
+    EXPECT_TRUE(list->findItems("Lines", Qt::MatchExactly, 1).isEmpty());
+    assign("Sort lines", Qt::Key_S, Qt::ControlModifier | Qt::AltModifier);
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(readSetting("ModAction/shortcuts"), "Edit/Sort lines=Ctrl+Alt+S");
 }

@@ -1,0 +1,43 @@
+#include "MyLinkButton.h"
+#include "MyLinkList.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+const int narrow = 300;
+
+} // namespace
+
+TEST(LinkList, ALongNameDoesNotMakeItsPageWide)
+{
+    QApplication::setStyleSheet(QString());
+    MyLinkList list;
+    const QString name = QString("a_very_long_name_").repeated(12) + "1";
+    bool isPressed = false;
+    MyLinkList::sLink_t link;
+    link.text = name;
+    link.detail = QString("/a/long/path").repeated(12);
+    link.act = [&isPressed] { isPressed = true; };
+    MyLinkList::sSection_t section;
+    section.title = "Recent";
+    section.links = {link};
+    list.setSections({section});
+    EXPECT_LE(list.minimumSizeHint().width(), narrow);
+    list.resize(narrow, 200);
+    list.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+    auto* button = list.findChild<MyLinkButton*>();
+    ASSERT_NE(button, nullptr);
+    EXPECT_LE(button->mapTo(&list, QPoint(button->width(), 0)).x(), narrow);
+    EXPECT_EQ(button->text(), name) << "only the picture is shorter";
+    const QImage elided = button->grab().toImage();
+    button->setText(name.chopped(1) + "W");
+    EXPECT_NE(button->grab().toImage(), elided) << "the end of the name is seen";
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_TRUE(isPressed);
+}
