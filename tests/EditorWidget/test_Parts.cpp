@@ -104,7 +104,7 @@ TEST_F(EditorActions, File)
                                           {10, "Close all other documents", "Close all other documents", {}},
                                           separator,
                                       });
-    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
+    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1, 3}));
     EXPECT_EQ(picturedOf(actions.menuActions()).size(), 11);
     actions.setEnabled(false);
     EXPECT_TRUE(enabledOf(actions.menuActions()).isEmpty());
@@ -144,7 +144,7 @@ TEST_F(EditorActions, Edit)
                                           {9, "Reset zoom", "Font size as in the settings", QKeySequence("Ctrl+0")},
                                           separator,
                                       });
-    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
+    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1, 3}));
     EXPECT_EQ(picturedOf(actions.menuActions()), (QStringList{"Undo...", "Redo...", "Comment out"}));
     actions.setEnabled(false);
     actions.setEnabled(EditorActionsEdit::eActionUndo, true);
@@ -188,7 +188,7 @@ TEST(EditorStatusBar, ShowsFontSizeAndMode)
     QStringList titles;
     for (const QLabel* label : bar.findChildren<QLabel*>("statusBarTitle"))
         titles.append(label->text());
-    EXPECT_EQ(titles, (QStringList{"Font size:", "Mode:", "File:"}));
+    EXPECT_EQ(titles, (QStringList{"Font size:", "Mode:", "Line:", "File:"}));
     auto* size = bar.findChild<QLabel*>("editorStatusBarFontSize");
     auto* mode = bar.findChild<QLabel*>("editorStatusBarMode");
     ASSERT_NE(size, nullptr);

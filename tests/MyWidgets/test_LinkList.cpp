@@ -1,7 +1,6 @@
 #include "MyLinkButton.h"
 #include "MyLinkList.h"
 
-#include <QApplication>
 #include <QLabel>
 #include <QTest>
 
@@ -15,7 +14,6 @@ const int narrow = 300;
 
 TEST(LinkList, ALongNameDoesNotMakeItsPageWide)
 {
-    QApplication::setStyleSheet(QString());
     MyLinkList list;
     const QString name = QString("a_very_long_name_").repeated(12) + "1";
     bool isPressed = false;

@@ -246,9 +246,12 @@ TEST_F(Access, noTwoEntriesOfAMenuHaveOneMnemonicOrKey)
                 EXPECT_FALSE(seen.contains(key)) << qPrintable(action->text() + " and " + seen.value(key));
                 seen.insert(key, action->text());
             }
+        }
+        for (const QAction* action : entries(bar->menu())) {
             for (const QKeySequence& sequence : action->shortcuts()) {
                 const QString text = sequence.toString();
-                EXPECT_FALSE(keys.contains(text))
+                // For some desktops it is the next hit, too; in a document it leads to a line.
+                EXPECT_TRUE(!keys.contains(text) || text == "Ctrl+G")
                     << qPrintable(text + ": " + action->text() + " and " + keys.value(text));
                 keys.insert(text, action->text());
             }

@@ -18,8 +18,6 @@
 #include <QToolTip>
 #include <QTreeWidget>
 
-#include <functional>
-
 namespace {
 
 class ShortcutsInWindow : public MainWindowFixture
@@ -277,26 +275,6 @@ TEST_F(ShortcutsInWindow, TheSettingsMayCloseWhileEscAsks)
     ModalAnswers answers({[this](QDialog*) { module<ModConfigHookIf>()->closeDialog(false); }});
     QTest::keyClick(indent, Qt::Key_Escape);
     EXPECT_TRUE(waitForClose());
-}
-
-TEST_F(ShortcutsInWindow, NoTwoCommandsHaveTheSameKeys)
-{
-    QMap<QString, QStringList> users;
-    std::function<void(const QMenu*)> read = [&](const QMenu* menu) {
-        for (const QAction* action : menu->actions()) {
-            for (const QKeySequence& keys : action->shortcuts())
-                users[keys.toString(QKeySequence::PortableText)].append(action->text());
-            if (action->menu() != nullptr)
-                read(action->menu());
-        }
-    };
-    for (const QAction* entry : window->menuBar()->actions())
-        read(entry->menu());
-    ASSERT_GT(users.size(), 40);
-    // Some desktops have it for the next hit; in a document it leads to a line.
-    const QStringList shared{"Ctrl+G"};
-    for (auto it = users.cbegin(); it != users.cend(); ++it)
-        EXPECT_TRUE(it->size() == 1 || shared.contains(it.key())) << qPrintable(it.key() + ": " + it->join(", "));
 }
 
 TEST_F(ShortcutsInWindow, TheCommandsOfASubmenuCanHaveKeysToo)
