@@ -14,7 +14,8 @@ namespace nsModEditor {
 
 namespace {
 
-const int widthForPosition = 1000; ///< pixels of the window
+const int widthForTitles = 1280;   ///< pixels of the window
+const int widthForPosition = 1000; ///< the same
 
 /// Makes room for each of the texts.
 void reserve(QLabel* label, const QStringList& texts)
@@ -56,6 +57,7 @@ QLabel* EditorStatusBar::addPair(const QString& title, const QString& toolTip, c
 {
     auto* titleLabel = new MyStatusBarTitle(title, this);
     titleLabel->setToolTip(toolTip);
+    m_titles.append(titleLabel);
     auto* value = new QLabel(this);
     value->setObjectName(name);
     value->setToolTip(toolTip);
@@ -69,6 +71,7 @@ void EditorStatusBar::addFormat()
     const QString toolTip = tr("Encoding and line ends of the file; click to change line ends and byte order mark");
     auto* title = new MyStatusBarTitle(tr("File:"), this);
     title->setToolTip(toolTip);
+    m_titles.append(title);
     m_format = new QToolButton(this);
     m_format->setObjectName(QStringLiteral("editorStatusBarFormat"));
     m_format->setToolTip(toolTip);
@@ -141,9 +144,10 @@ bool EditorStatusBar::eventFilter(QObject* watched, QEvent* event)
 
 void EditorStatusBar::fitToWindow()
 {
-    const bool fits = m_window == nullptr || m_window == this || m_window->width() >= widthForPosition;
-    m_position->setVisible(fits);
-    layout()->itemAt(layout()->indexOf(m_position) - 1)->widget()->setVisible(fits);
+    const bool isAlone = m_window == nullptr || m_window == this;
+    m_position->setVisible(isAlone || m_window->width() >= widthForPosition);
+    for (QWidget* title : qAsConst(m_titles))
+        title->setVisible(isAlone || m_window->width() >= widthForTitles);
 }
 
 void EditorStatusBar::setPosition(int line, int column)

@@ -3,6 +3,7 @@
 #include "DocumentFormat.h"
 
 #include <QPointer>
+#include <QVector>
 #include <QWidget>
 
 class QAction;
@@ -44,10 +45,12 @@ private slots:
 
 private:
     void addFormat();
-    /// In a small window the place of the cursor gives way to the other values.
+    /// In a small window the titles give way to the values of all parts of the status bar, in a smaller one the place
+    /// of the cursor does, too. The tips of the values say what they are.
     void fitToWindow();
     QLabel* addPair(const QString& title, const QString& toolTip, const QString& name);
 
+    QVector<QWidget*> m_titles;
     QLabel* m_fontSize;
     QLabel* m_mode;
     QLabel* m_position;
