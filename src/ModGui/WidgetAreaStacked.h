@@ -4,17 +4,20 @@
 
 #include <QWidget>
 
+class QHBoxLayout;
 class QStackedWidget;
 
 namespace nsModGui {
 
-/// An area that shows one of its widgets at a time and is hidden while it has none.
+/// An area that shows one of its widgets at a time and is hidden while it has none. A companion, as PageProperties has
+/// it, stands beside the shown one and is never the current widget.
 class WidgetAreaStacked : public QWidget, public WidgetArea
 {
     Q_OBJECT
 
 public:
     explicit WidgetAreaStacked(QWidget* parent = nullptr);
+    ~WidgetAreaStacked() override;
 
     void addWidget(QWidget* widget);
     void setCurrentWidget(QWidget* widget);
@@ -30,7 +33,10 @@ public:
     bool isAreaVisible() const override { return !isHidden(); }
 
 private:
+    void hideIfEmpty();
+
     QStackedWidget* m_stack;
+    QHBoxLayout* m_row; ///< the stack, then the companions
 };
 
 } // namespace nsModGui

@@ -6,6 +6,7 @@
 #include "ModGuiHookIf.h"
 #include "ModMsgPluginIf.h"
 #include "ModScriptHookIf.h"
+#include "PageProperties.h"
 
 #include <QWidget>
 
@@ -268,6 +269,7 @@ void ModMsg::modInitIntermod()
     if (modGuiHook != nullptr) {
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_viewer, tr("Messages"));
         m_statusBar = new MsgStatusBar;
+        m_statusBar->setProperty(PageProperties::isCompanion, true);
         connect(m_statusBar, &MsgStatusBar::clicked, this, &ModMsg::showFirstWorst);
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusThird, m_statusBar, QString());
     }

@@ -2,6 +2,7 @@
 
 #include "GuiFixture.h"
 
+#include "PageProperties.h"
 #include "WidgetAreaStacked.h"
 
 #include <QFrame>
@@ -287,6 +288,39 @@ TEST_F(GuiTest, AWidgetThatItsOwnerDeletesIsForgottenEverywhere)
     EXPECT_FALSE(closeButton()->isEnabled());
     hook->setStatusBarText("text");
     hook->clearStatusBarText();
+}
+
+TEST_F(GuiTest, ACompanionStandsBesideWhatTheStatusBarShows)
+{
+    const Hook::eLocation_t third = Hook::eLocationStatusThird;
+    QWidget* companion = make("companion");
+    companion->setProperty(PageProperties::isCompanion, true);
+    hook->addWidget(&a, third, companion, "");
+    EXPECT_TRUE(hook->hasWidget(third, companion));
+    EXPECT_TRUE(hook->widgetVisible(third));
+    EXPECT_EQ(hook->currentWidget(third), nullptr);
+    QWidget* first = make("first");
+    QWidget* second = make("second");
+    hook->addWidget(&a, third, first, "");
+    hook->addWidget(&b, third, second, "");
+    window.show();
+    EXPECT_EQ(hook->currentWidget(third), second);
+    EXPECT_TRUE(companion->isVisible());
+    EXPECT_TRUE(second->isVisible());
+    EXPECT_FALSE(first->isVisible());
+    hook->removeWidget(first);
+    hook->removeWidget(second);
+    EXPECT_TRUE(companion->isVisible());
+    EXPECT_TRUE(hook->widgetVisible(third));
+    hook->removeWidget(companion);
+    EXPECT_EQ(companion->parent(), nullptr);
+    EXPECT_FALSE(hook->widgetVisible(third));
+    hook->addWidget(&a, third, companion, "");
+    EXPECT_TRUE(hook->widgetVisible(third));
+    delete companion;
+    EXPECT_FALSE(hook->widgetVisible(third));
+    delete first;
+    delete second;
 }
 
 TEST(GuiLifetime, TheModuleMayGoBeforeOrAfterItsWindow)

@@ -8,5 +8,8 @@ namespace PageProperties {
 constexpr const char* file = "pageFile";
 /// bool: the page holds changes that are not in its file.
 constexpr const char* modified = "pageModified";
+/// bool, of a widget for the status bar, set before it is added: it is seen beside the widget that its area shows, and
+/// not instead of it.
+constexpr const char* isCompanion = "isCompanion";
 
 } // namespace PageProperties
