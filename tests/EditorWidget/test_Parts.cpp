@@ -144,7 +144,7 @@ TEST_F(EditorActions, Edit)
                                           {9, "Reset zoom", "Font size as in the settings", QKeySequence("Ctrl+0")},
                                           separator,
                                       });
-    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1, 3}));
+    EXPECT_EQ(enabledOf(actions.toolBarActions()), (QList<int>{0, 1}));
     EXPECT_EQ(picturedOf(actions.menuActions()), (QStringList{"Undo...", "Redo...", "Comment out"}));
     actions.setEnabled(false);
     actions.setEnabled(EditorActionsEdit::eActionUndo, true);
