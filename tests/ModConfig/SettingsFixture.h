@@ -250,6 +250,8 @@ protected:
         return name == "targetEnable" || name == "proxyType" || name.startsWith("syscallEn") ||
                name.startsWith("syscallBlocking");
     }
+    /// What another field disables once it is changed.
+    static bool isDisabledByOthers(QWidget* widget) { return widget->objectName() == "coreWarnings"; }
     void changeEverything() const
     {
         for (const QString& title : titles()) {
@@ -259,13 +261,13 @@ protected:
             for (QCheckBox* box : page(title)->findChildren<QCheckBox*>()) {
                 if (enablesOthers(box) && box->isChecked())
                     last.append(box);
-                else if (enablesOthers(box))
+                else if (enablesOthers(box) || isDisabledByOthers(box))
                     change(box);
             }
             if (auto* proxy = page(title)->findChild<QComboBox*>("proxyType"))
                 proxy->setCurrentIndex(proxy->findText("HTTP Proxy", Qt::MatchStartsWith));
             for (QWidget* widget : page(title)->findChildren<QWidget*>()) {
-                if (!enablesOthers(widget) && !valueOf(widget).isNull())
+                if (!enablesOthers(widget) && !isDisabledByOthers(widget) && !valueOf(widget).isNull())
                     change(widget);
             }
             // The last ones first: they depend on those before them.

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -41,18 +42,18 @@ QString readAll(int fd, QByteArray* text)
         return systemError(errno);
     if (S_ISDIR(info.st_mode))
         return systemError(EISDIR);
-    QByteArray piece(pieceSize, '\0');
+    std::vector<char> piece(pieceSize);
     for (;;) {
         if (isStopRequested() || (!S_ISREG(info.st_mode) && !waitForInput(fd)))
             return tr("interrupted");
-        const ssize_t size = read(fd, piece.data(), size_t(pieceSize));
+        const ssize_t size = read(fd, piece.data(), piece.size());
         if (size < 0 && (errno == EINTR || errno == EAGAIN))
             continue;
         if (size < 0)
             return systemError(errno);
         if (size == 0)
             return QString();
-        text->append(piece.constData(), int(size));
+        text->append(piece.data(), int(size));
         if (text->size() > largestText)
             return tr("it is larger than %1 MiB").arg(largestText >> 20);
     }

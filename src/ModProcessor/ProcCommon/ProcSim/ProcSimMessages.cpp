@@ -25,7 +25,7 @@ void ProcSim::show(const sSimReport_t& report)
 {
     // Updates the widgets first, as one of them may come to the front and would cover the message.
     updateWidgets();
-    // What can not be started has no engine yet.
+    // What is wrong with the start is said before there is an engine.
     const Opcode* opcode = m_engine != nullptr ? m_engine->placeOf(report) : nullptr;
     if (report.kind == sSimReport_t::eKindUnsupported) {
         modAsmFeHook->msgHndlr()->signMsg(nsModAsmFe::errOcUnsupported, &opcode->srcRef, report.arg);
