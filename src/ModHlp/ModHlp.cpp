@@ -141,7 +141,7 @@ void ModHlp::modExitIntermod()
         modMsgHook->unregisterPluginUrlHndlr(ModMsgHookIf::eUrlHndlrHelp, this);
     m_lastPages = openPages();
     closeAllFiles();
-    delete m_window;
+    dropWindow();
     for (QWidget* dialog : m_dialogPages.keys())
         closeDialogHlp(dialog);
     if (m_index != nullptr && modGuiHook != nullptr)

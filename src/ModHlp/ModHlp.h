@@ -133,7 +133,7 @@ public:
     void whatsThis(QWidget* widget);
 
     /// Of the whole program: opens the pages that the links of these short texts name, what a dialog's button or F1 in
-    /// a modal one asks for, and the collection once the window is painted.
+    /// a dialog asks for, and the collection once the window is painted.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 signals:
@@ -178,6 +178,8 @@ private:
     void openStart();
     QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
+    void dropWindow();
+    void deleteSoon(QWidget* widget);
     void show(const QUrl& url);
     void find(bool backwards);
     QUrl urlOfWord(const QString& word);

@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QHelpEngine>
 #include <QHelpLink>
 #include <QKeyEvent>
@@ -137,10 +138,24 @@ void ModHlp::dropPage(HlpWidget* page)
     page->disconnect(this);
     if (modGuiHook != nullptr)
         modGuiHook->removeWidget(page);
-    // Later, as the call may come from the page itself; but before the network manager, if the program ends now.
-    page->hide();
-    page->setParent(m_closedPages.get());
-    page->deleteLater();
+    deleteSoon(page);
+}
+
+/// Later, as the call may come from a page itself; but before the network manager, if the program ends now.
+void ModHlp::deleteSoon(QWidget* widget)
+{
+    widget->hide();
+    widget->setParent(m_closedPages.get());
+    widget->deleteLater();
+}
+
+/// Takes the page in front of a modal dialog away, if there is one.
+void ModHlp::dropWindow()
+{
+    if (m_window == nullptr)
+        return;
+    deleteSoon(m_window);
+    m_window = nullptr;
 }
 
 void ModHlp::removeWidgetRequest(QWidget* widget)
@@ -255,7 +270,7 @@ void ModHlp::show(const QUrl& url)
     }
     // One that has been closed is deleted later.
     if (m_window != nullptr && (m_window->parentWidget() != modal || !m_window->isVisible()))
-        delete m_window;
+        dropWindow();
     if (m_window == nullptr)
         m_window = new HlpDialogWindow(m_network, modal);
     m_window->page()->setSource(url);
@@ -317,11 +332,11 @@ bool ModHlp::eventFilter(QObject* watched, QEvent* event)
         explain(qobject_cast<QWidget*>(watched));
         return true;
     case QEvent::KeyPress: {
-        // The shortcut of the window does not reach into a modal dialog.
+        // The shortcut of the window does not reach into other windows.
         const auto* key = static_cast<QKeyEvent*>(event);
         auto* widget = qobject_cast<QWidget*>(watched);
         if (key->key() != Qt::Key_F1 || key->modifiers() != Qt::NoModifier || widget == nullptr ||
-            QApplication::activeModalWidget() == nullptr || widget->window() == m_window)
+            qobject_cast<QDialog*>(widget->window()) == nullptr || widget->window() == m_window)
             return false;
         explain(widget);
         return true;

@@ -16,7 +16,6 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QShortcut>
 #include <QVBoxLayout>
 
 namespace nsModImport {
@@ -91,9 +90,6 @@ ImportProgramDialog::ImportProgramDialog(QThreadPool* pool, QWidget* parent)
     connect(m_worker, &ImportWorker::stepBegun, this, &ImportProgramDialog::showStep);
     connect(m_worker, &ImportWorker::converted, this, &ImportProgramDialog::handleConverted);
     connect(m_worker, &ImportWorker::written, this, &ImportProgramDialog::handleWritten);
-    // The main window's own F1 does not reach another window.
-    connect(new QShortcut(QKeySequence(QKeySequence::HelpContents), this), &QShortcut::activated, this,
-            &ImportProgramDialog::helpRequested);
     updateState();
     m_form->setFocus();
 }

@@ -37,8 +37,6 @@ signals:
     /// @param line counted from 1
     void placeRequested(QString file, int line);
     void openProjectRequested(QString file);
-    /// F1.
-    void helpRequested();
 
 public slots:
     void convert();

@@ -14,12 +14,6 @@
 
 namespace nsModImport {
 
-namespace {
-
-const char* const programHelp = "pageId://filesImport#program";
-
-} // namespace
-
 ModImport::ModImport(QObject* parent)
     : QObject(parent)
 {
@@ -110,13 +104,9 @@ void ModImport::openImportProgramDialog()
         m_programDialog = new ImportProgramDialog(&m_pool, qobject_cast<QWidget*>(parent()));
         m_programDialog->setConfig(m_programConfig);
         m_programDialog->setCanOpenProject(modPrjHook != nullptr);
-        HelpRef::set(m_programDialog, QLatin1String(programHelp));
+        HelpRef::set(m_programDialog, QStringLiteral("pageId://filesImport#program"));
         connect(m_programDialog, &ImportProgramDialog::placeRequested, this, &ModImport::showPlace);
         connect(m_programDialog, &ImportProgramDialog::openProjectRequested, this, &ModImport::openProject);
-        connect(m_programDialog, &ImportProgramDialog::helpRequested, this, [this] {
-            if (modHlpHook != nullptr)
-                modHlpHook->showHlp(QUrl(QLatin1String(programHelp)));
-        });
         connect(m_programDialog, &QDialog::finished, this, [this] {
             if (m_programDialog)
                 m_programConfig = m_programDialog->config();

@@ -33,8 +33,6 @@ void set(QDialog* dialog, const QString& page, QDialogButtonBox* buttons)
 {
     set(dialog, page);
     dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
-    if (buttons == nullptr)
-        return;
     // Enter in the dialog must not choose it.
     QPushButton* help = buttons->addButton(QDialogButtonBox::Help);
     help->setAutoDefault(false);

@@ -23,7 +23,7 @@ void setForNames(QWidget* text, const QString& page);
 /// @param text plain text, a few sentences
 void setWhatsThis(QWidget* widget, const QString& text, const QString& page);
 /// F1 in the dialog opens this page, and so does a button "Help" that is appended to its buttons.
-/// @param buttons the dialog's own, or null for a dialog that has no place for another one
+/// @param buttons the dialog's own
 void set(QDialog* dialog, const QString& page, QDialogButtonBox* buttons);
 /// As F1 in the widget does: whoever shows the help gets a QEvent::HelpRequest of it. Without any, nothing happens.
 void request(QWidget* widget);

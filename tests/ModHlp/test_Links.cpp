@@ -3,6 +3,8 @@
 #include "HlpFixture.h"
 
 #include "FakeBrowser.h"
+#include "HelpRef.h"
+#include "HlpDialogWindow.h"
 #include "HlpWidgetNetworkReply.h"
 #include "LocalHttpServer.h"
 #include "QtPrinters.h"
@@ -12,6 +14,7 @@
 #include <QWebElement>
 #include <QWebFrame>
 
+using nsModHlp::HlpDialogWindow;
 using nsModHlp::HlpNetworkAccessManager;
 using nsModHlp::HlpWidget;
 
@@ -69,6 +72,30 @@ TEST_F(Links, aScriptLinkRunsItsCall)
     // The page stays where it is.
     EXPECT_TRUE(shows("Start page"));
     EXPECT_EQ(pages().size(), 1);
+}
+
+TEST_F(Links, aScriptOfThePageInFrontOfADialogMayEndTheProgram)
+{
+    start();
+    QDialog dialog;
+    dialog.setModal(true);
+    HelpRef::set(&dialog, "pageId://gettingStarted");
+    dialog.show();
+    ASSERT_EQ(QApplication::activeModalWidget(), &dialog);
+    QTest::keyClick(&dialog, Qt::Key_F1);
+    const QPointer<HlpDialogWindow> front(dialog.findChild<HlpDialogWindow*>());
+    ASSERT_NE(front, nullptr);
+    ASSERT_TRUE(isLoaded(front->page(), "Start page"));
+    bool hasEnded = false;
+    QObject::connect(hlp->findChild<HlpNetworkAccessManager*>(), &HlpNetworkAccessManager::callScript, &dialog, [&] {
+        hlp->modExitIntermod();
+        // The call comes from the page itself.
+        EXPECT_NE(front, nullptr);
+        EXPECT_FALSE(front->isVisible());
+        hasEnded = true;
+    });
+    click(front->page(), "script");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hasEnded && front == nullptr; }, 60000));
 }
 
 TEST_F(Links, theCallOfAScriptLink)

@@ -189,6 +189,26 @@ TEST_F(HelpInDialogs, dialogsOnTopOfOneAnother)
     EXPECT_FALSE(isCentreLeftAlone());
 }
 
+TEST_F(HelpInDialogs, aDialogThatLocksNothingLeavesThePageToTheCentre)
+{
+    QAction* import = nullptr;
+    for (QAction* action : window->findChildren<QAction*>()) {
+        if (action->text().startsWith("Import program"))
+            import = action;
+    }
+    ASSERT_NE(import, nullptr);
+    import->trigger();
+    auto* dialog = window->findChild<QDialog*>("importProgramDialog");
+    ASSERT_NE(dialog, nullptr);
+    dialog->activateWindow();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return dialog->isActiveWindow(); }, 60000));
+    pressF1In(fieldOf(dialog));
+    EXPECT_EQ(helpOf(dialog), nullptr);
+    auto* page = qobject_cast<nsModHlp::HlpWidget*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->source().fileName() + '#' + page->source().fragment(), "filesimport.html#program");
+}
+
 TEST_F(HelpInDialogs, theProgramEndsUnderThePage)
 {
     QPointer<HlpDialogWindow> help;

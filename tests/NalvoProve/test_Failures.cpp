@@ -147,7 +147,7 @@ TEST_F(ProveFailures, TheCoreIsNotWhatItShouldBe)
 TEST_F(ProveFailures, FilesThatAreNoCores)
 {
     QByteArray binary;
-    for (int i = 0; i < 50000; ++i)
+    for (quint32 i = 0; i < 50000; ++i)
         binary += char(i * i / 7 + i);
     for (const char* name : {"binary.v", "binary.vhd"}) {
         write(name, binary);
