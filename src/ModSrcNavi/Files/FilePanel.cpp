@@ -73,6 +73,11 @@ FilePanel::~FilePanel()
         delete m_widget;
 }
 
+FileListWidget* FilePanel::widget() const
+{
+    return m_widget;
+}
+
 void FilePanel::setProjectOpen(bool isOpen)
 {
     m_isOpen = isOpen;

@@ -43,7 +43,7 @@ public:
     ~FilePanel() override;
 
     /// Stays here; null when the window has taken it along.
-    FileListWidget* widget() const { return m_widget; }
+    FileListWidget* widget() const;
     QMenu* recentMenu() const { return m_menu; }
 
     /// A project is open, or not any more.
