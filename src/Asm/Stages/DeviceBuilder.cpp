@@ -6,6 +6,7 @@
 #include "AsmProgram.h"
 #include "AsmProjectInfo.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 #include "StringEncoder.h"
 #include "TargetKinds.h"
 
@@ -16,7 +17,7 @@
 namespace nsModAsmFe {
 
 DeviceBuilder::DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, const AsmProjectInfo& project,
-                             const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+                             const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_sets(program.sets)
     , m_opcodes(program.opcodes)
     , m_ioDevs(program.ioDevs)
@@ -24,7 +25,8 @@ DeviceBuilder::DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, con
     , m_config(config)
     , m_project(project)
     , m_messages(messages)
-    , m_values(program, numbers, messages)
+    , m_watch(watch)
+    , m_values(program, numbers, messages, watch)
 {
 }
 
@@ -35,6 +37,8 @@ bool DeviceBuilder::setupIODevs()
         if (!set->nameSpaceUpper.startsWith(QLatin1String("IODEV::")) || set->nameUpper != QLatin1String("EN") ||
             set->valueType != Set::valueTrue)
             continue;
+        if (!m_watch.ask())
+            return false;
         set->used = true;
         auto dev = std::make_unique<IODev>();
         dev->devName = set->nameSpace;
@@ -256,6 +260,8 @@ bool DeviceBuilder::setupIODevDefault()
         success = false;
     };
     for (Opcode* opcode : m_opcodes) {
+        if (!m_watch.goesOn())
+            return false;
         opcode->mappedToIODev = true;
         if (opcode->memRange != 0) {
             setValue(opcode->memAddr, opcode, false);

@@ -35,6 +35,9 @@ bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
         return true;
     }
     askForOutsideFiles(event);
+    if (!m_listener.runGoesOn(0))
+        return false;
+    m_listener.outputsBegin();
     // A kind that fails does not keep the others from being written.
     bool success = true;
     for (const sTargetKind_t& kind : targetKinds()) {
@@ -153,8 +156,8 @@ bool OutputWriter::mapIODevToFiles(const sTargetKind_t& kind)
         if (!target.en)
             continue;
         any = true;
-        if (!m_listener.runGoesOn(0) || !checkTargetFile(target.outputFile) ||
-            !writer->writeFile(dev, &m_program.metaTags)) {
+        m_listener.runGoesOn(0);
+        if (!checkTargetFile(target.outputFile) || !writer->writeFile(dev, &m_program.metaTags)) {
             success = false;
             break;
         }

@@ -33,8 +33,13 @@ enum eWordKind_t {
 struct sCompletion
 {
     QString word;
-    QString note; ///< what it is, in a few words
-    int kind = 0; ///< eWordKind_t
+    QString note;  ///< what it is, in a few words; empty for a symbol with a value
+    int kind = 0;  ///< eWordKind_t
+    int value = 0; ///< of a symbol
+    int page = -1; ///< of a label
+
+    /// As the list shows it. A list shows a few of thousands, so the texts of values are made here.
+    QString shownNote() const;
 };
 
 /// What is typed at a place of a line, and what fits there.
@@ -63,6 +68,7 @@ public:
 private:
     void make();
     void add(const QString& word, const QString& note, eWordKind_t kind);
+    void sort();
     void addInstructions(const nsProc::ProcTable* table);
     void addLanguage();
     void addProcessor(const nsProc::ProcTable* table);
