@@ -2,7 +2,8 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell"
+NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
+ binutils make srecord python3-yaml"
 
 # need_packages NAME ...
 need_packages() {
