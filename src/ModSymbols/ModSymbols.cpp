@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTextBlock>
+#include <QTimer>
 
 namespace nsModSymbols {
 
@@ -237,6 +238,25 @@ void ModSymbols::asmRunEnded()
         modAsmFeHook->showEquList();
     m_isOpening = false;
     updateActions();
+    prepareWords();
+}
+
+/// The first letters that are typed after a run do not wait for the list of words: it is made when the window has
+/// nothing else to do, in two steps.
+void ModSymbols::prepareWords()
+{
+    if (!isCompletionOn())
+        return;
+    const auto isOpen = [this] { return modPrjHook != nullptr && modPrjHook->isValid() && modAsmFeHook != nullptr; };
+    QTimer::singleShot(0, this, [this, isOpen] {
+        if (!isOpen())
+            return;
+        m_names.table();
+        QTimer::singleShot(0, this, [this, isOpen] {
+            if (isOpen())
+                m_completionWords->prepare();
+        });
+    });
 }
 
 void ModSymbols::say(const QString& text) const

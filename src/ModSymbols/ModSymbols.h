@@ -121,6 +121,7 @@ private:
     void updateActions();
     void updateHistoryActions();
     void textChanged();
+    void prepareWords();
     bool show(const sTextPlace& place);
     bool jump(const sTextPlace& place);
     void findUsages(nsModEditor::EditorDocument* document);

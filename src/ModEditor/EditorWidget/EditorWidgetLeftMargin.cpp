@@ -48,12 +48,6 @@ EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor)
     setCursor(Qt::ArrowCursor);
     setAccessibleName(tr("Marks, addresses and line numbers"));
     connect(this, &QWidget::customContextMenuRequested, this, &EditorWidgetLeftMargin::showMenu);
-
-    auto* menuAction = new QAction(tr("Marks of the line"), editor);
-    menuAction->setShortcut(QKeySequence("Ctrl+F10"));
-    menuAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(menuAction, &QAction::triggered, this, &EditorWidgetLeftMargin::showMenuAtCursor);
-    editor->addAction(menuAction);
 }
 
 void EditorWidgetLeftMargin::setBgColor(const QColor& color)

@@ -146,6 +146,12 @@ void CompletionWords::add(const QString& word, const QString& note, eWordKind_t 
     m_words.append(entry);
 }
 
+void CompletionWords::prepare()
+{
+    if (!m_isMade)
+        make();
+}
+
 void CompletionWords::make()
 {
     m_isMade = true;
@@ -288,8 +294,7 @@ int CompletionWords::kindsOfArgument(const QString& instruction, int number) con
 
 sCompletionPlace CompletionWords::placeOf(const QString& text)
 {
-    if (!m_isMade)
-        make();
+    prepare();
     sCompletionPlace place;
     int start = wordStart(text);
     bool isComment = false;
@@ -338,8 +343,7 @@ sCompletionPlace CompletionWords::placeOf(const QString& text)
 
 QVector<sCompletion> CompletionWords::wordsAt(const sCompletionPlace& place)
 {
-    if (!m_isMade)
-        make();
+    prepare();
     QVector<sCompletion> best;
     QVector<sCompletion> others;
     for (const sCompletion& candidate : qAsConst(m_words)) {

@@ -52,7 +52,7 @@ struct sCompletionPlace
 
 /// The words that complete what is typed: of the language, of the processor and of the program of the last run.
 ///
-/// Made anew after a run; a look-up takes a walk over all of them.
+/// Made anew after a run, by prepare() or by the first look-up. A look-up takes a walk over all of them.
 class CompletionWords
 {
 public:
@@ -60,6 +60,8 @@ public:
     CompletionWords(const ModAsmFePluginIf* assembler, ProgramNames* names);
 
     void clear() { m_isMade = false; }
+    /// Makes the words where they are not there yet, before anybody waits for them.
+    void prepare();
     /// Where the end of the text is. @param text of the line up to the cursor
     sCompletionPlace placeOf(const QString& text);
     /// What fits, those of the best kinds first, and within each group in alphabetical order.
