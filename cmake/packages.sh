@@ -4,6 +4,8 @@ NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
 NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
  binutils make srecord python3-yaml"
+# For tools/package alone.
+NALVO_PACKAGE_PACKAGES="debhelper lintian"
 
 # need_packages NAME ...
 need_packages() {
