@@ -275,6 +275,7 @@ TEST_F(AsmToolImages, WrongTexts)
     const QString kinds = "hex, mem, mif, coe, binary, ihex, ram";
     expectWrong("mif", "An output is KIND=FILE: mif");
     expectWrong("mif=", "An output is KIND=FILE: mif=");
+    expectWrong("mif=-", "An output goes to a file and not to standard output: mif=-");
     expectWrong("elf=x", "Unknown kind of output: elf. There are " + kinds);
     // These need a template, which is a setting of the project.
     expectWrong("vhdl=x", "Unknown kind of output: vhdl. There are " + kinds);

@@ -62,7 +62,10 @@ void AsmOutputFiles::writeImages(const AsmOutputRequest& request)
 {
     const QList<IODev*>& devices = m_project.assembler().program().ioDevs.devices();
     if (request.isForEachMemory()) {
-        std::all_of(devices.begin(), devices.end(), [&](IODev* dev) { return writeImage(request, dev); });
+        for (IODev* dev : devices) {
+            if (!writeImage(request, dev))
+                break;
+        }
         return;
     }
     QStringList names;

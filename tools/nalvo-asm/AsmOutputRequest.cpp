@@ -37,6 +37,8 @@ QString AsmOutputRequest::parse(const QString& text)
     target.outputFile = text.mid(equals + 1);
     if (equals < 0 || target.outputFile.isEmpty())
         return tr("An output is KIND=FILE: %1").arg(text);
+    if (target.outputFile == QLatin1String("-"))
+        return tr("An output goes to a file and not to standard output: %1").arg(text);
     const QStringList parts = text.left(equals).split(':');
     const sTargetKind_t* found = nullptr;
     for (const sTargetKind_t& row : targetKinds()) {

@@ -94,16 +94,15 @@ private:
 };
 
 /// Appends a range of a block RAM: its address in bytes, then a word a line.
-/// @param shift, bits which part of each word
+/// @param shift, bits which part of each word; shift is below 32
 void appendRange(QByteArray* text, unsigned int address, const Words& words, int shift, int bits)
 {
     text->append('@');
     appendHex(text, address, 8);
     text->append('\n');
-    // A part above the highest bit of a word, of a width of one bit, is always zero.
+    const unsigned int mask = bits < 32 ? (1u << bits) - 1 : ~0u;
     for (unsigned int word : words) {
-        const unsigned int part = shift < 32 ? word >> shift : 0;
-        appendHex(text, bits < 32 ? part & ((1u << bits) - 1) : part, digitsOf(bits));
+        appendHex(text, word >> shift & mask, digitsOf(bits));
         text->append('\n');
     }
 }
@@ -136,7 +135,7 @@ bool TargetWriteFileImage::writeFile(IODev* dev, const MetaTags*)
         unsigned int& word = words[size_t(addr)];
         if (!dev->value(addr, &word))
             return fail(errInternal, tr("addrIterator exceeds memSize"));
-        if (bitsOf(word) > file.wordWidth)
+        if (file.wordWidth < 32 && word >> file.wordWidth != 0)
             return fail(errTargetWordTooWide, QString::number(addr), QString::number(file.wordWidth));
     }
     return writeBytes(file.outputFile, bytes(words, file), errTargetOpenOutput);
@@ -209,6 +208,7 @@ QByteArray TargetWriteFileRamMem::bytes(const Words& words, const TargetFile& ta
     }
     // Of an odd width, the low half has the bit more.
     const int lowBits = (target.wordWidth + 1) / 2;
+    // A word of one bit has a high half all the same, of zeros.
     const int highBits = std::max(target.wordWidth - lowBits, 1);
     appendRange(&text, 0, words, 0, lowBits);
     appendRange(&text, unsigned(words.size()) * unsigned(ramBytesOf(lowBits)), words, lowBits, highBits);
