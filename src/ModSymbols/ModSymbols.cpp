@@ -270,6 +270,8 @@ void ModSymbols::say(const QString& text) const
 void ModSymbols::handleAction(SymbolActions::eAction_t action)
 {
     const QPointer<EditorDocument> document(current());
+    // Questions are asked, under which the window can go, and the module with it.
+    const QPointer<ModSymbols> self(this);
     say(QString());
     switch (action) {
     case SymbolActions::eActionDefinition:
@@ -297,7 +299,8 @@ void ModSymbols::handleAction(SymbolActions::eAction_t action)
         walkMessages(-1);
         break;
     }
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
 }
 
 void ModSymbols::handleCompletionAction()
@@ -321,7 +324,8 @@ QString ModSymbols::tipAt(EditorDocument* document, int line, int column)
 /// Shows a place as it is now. @return false: there is no such file
 bool ModSymbols::show(const sTextPlace& place)
 {
-    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path))
+    const QPointer<ModSymbols> self(this);
+    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path) || self == nullptr)
         return false;
     EditorDocument* document = documentOf(place.path);
     if (document == nullptr)
@@ -343,8 +347,10 @@ bool ModSymbols::jump(const sTextPlace& place)
     if (place.isNull())
         return false;
     m_history.leave(current());
+    const QPointer<ModSymbols> self(this);
     const bool isShown = show(place);
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
     return isShown;
 }
 
@@ -375,12 +381,14 @@ void ModSymbols::walkMessages(int step)
     if (onDisk.isNull() || modEditorHook == nullptr)
         return;
     m_history.leave(current());
-    if (!modEditorHook->openFile(onDisk.path))
+    const QPointer<ModSymbols> self(this);
+    if (!modEditorHook->openFile(onDisk.path) || self == nullptr)
         return;
     EditorDocument* document = documentOf(onDisk.path);
     const sTextPlace now = document != nullptr ? m_messages.placeIn(document) : sTextPlace();
     show(now.isNull() ? onDisk : now);
-    say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
+    if (self != nullptr)
+        say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
 }
 
 } // namespace nsModSymbols

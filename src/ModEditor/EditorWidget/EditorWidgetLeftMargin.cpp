@@ -112,9 +112,10 @@ bool EditorWidgetLeftMargin::event(QEvent* event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(),
-                       m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())).join('\n').toHtmlEscaped(),
-                       this);
+    QString tip;
+    for (const QString& message : m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())))
+        tip += QStringLiteral("<div>%1</div>").arg(message.toHtmlEscaped());
+    QToolTip::showText(help->globalPos(), tip, this);
     return true;
 }
 
