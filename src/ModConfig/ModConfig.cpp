@@ -1,6 +1,7 @@
 #include "ModConfig.h"
 
 #include "ConfigDialog.h"
+#include "ConfigKeys.h"
 #include "ModConfigPagePluginIf.h"
 #include "PageValues.h"
 
@@ -66,6 +67,8 @@ void ModConfig::openDialog()
     m_plugins.forEach([this](ModConfigPluginIf* plugin) { addPages(plugin); });
     connect(m_list, &QListWidget::currentItemChanged, this, &ModConfig::changeDlgPage);
     enableConfigItems(modPrjHook != nullptr && modPrjHook->isValid());
+    if (modCfgAppHook != nullptr && modCfgAppHook->value(configKeys::opensAtLastPage, 0) != 0)
+        selectLastPage();
     setDockRightVisible(false);
     m_state = eState_t::open;
     m_dialog->setFocus();
@@ -167,6 +170,16 @@ bool ModConfig::selectDialogPageByTitle(QString title)
     return false;
 }
 
+/// Where that page is gone or needs a project, the first one stays.
+void ModConfig::selectLastPage()
+{
+    const QString title = modCfgAppHook->value(configKeys::lastPage, QString());
+    for (QListWidgetItem* item : items()) {
+        if (item->text() == title && (item->flags() & Qt::ItemIsEnabled) != 0)
+            m_list->setCurrentItem(item);
+    }
+}
+
 void ModConfig::enableConfigItems(bool enable)
 {
     for (QListWidgetItem* item : items()) {
@@ -245,8 +258,11 @@ void ModConfig::closeDialog(bool accepted)
     std::optional<nsModMsg::MsgGroup> group;
     if (accepted)
         group.emplace(modMsgHook, tr("Applying the configuration..."));
+    const QString lastPage = m_list->currentItem() != nullptr ? m_list->currentItem()->text() : QString();
     closePages(accepted);
     removeDialog();
+    if (modCfgAppHook != nullptr && modCfgAppHook->value(configKeys::opensAtLastPage, 0) != 0)
+        modCfgAppHook->setValue(configKeys::lastPage, lastPage);
     m_state = eState_t::closed;
     if (accepted)
         saveConfig();

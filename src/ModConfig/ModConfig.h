@@ -113,6 +113,7 @@ private:
     void forgetPage(ModConfigPagePluginIf* page);
     void enableConfigItems(bool enable);
     void selectFirstEnabled();
+    void selectLastPage();
     bool mayApply();
     void fillPage(QListWidgetItem* item);
     bool isChanged() const;

@@ -90,14 +90,14 @@ void PageSwitcher::begin()
     qApp->installEventFilter(this);
 }
 
-void PageSwitcher::step(int step)
+void PageSwitcher::step(int step, bool isHeld)
 {
     if (!m_isOn)
         begin();
     const int count = m_shown.size();
     if (count > 0)
         show((m_list->currentRow() + step + count) % count);
-    else
+    if (count == 0 || !isHeld)
         end();
 }
 

@@ -19,8 +19,10 @@ public:
     /// @param tabs parent of this object
     explicit PageSwitcher(QTabWidget* tabs);
 
-    /// To the page used before the present one, and on from there. @param step 1, or -1 for the other way round
-    void step(int step);
+    /// To the page used before the present one, and on from there.
+    /// @param step 1, or -1 for the other way round
+    /// @param isHeld the user holds Ctrl and can go on; else the page stays
+    void step(int step, bool isHeld = true);
     /// Pages, the one used last first.
     QList<QWidget*> order() const;
 

@@ -11,6 +11,32 @@
 
 namespace nsModGui {
 
+namespace {
+
+/// A command that knows whether a key with Ctrl has triggered it, which the user may hold to go on.
+class HeldAction : public QAction
+{
+public:
+    using QAction::QAction;
+
+    bool isHeld() const { return m_isHeld; }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Shortcut)
+            m_isHeld = (static_cast<QShortcutEvent*>(event)->key()[0] & Qt::CTRL) != 0;
+        const bool result = QAction::event(event);
+        m_isHeld = false;
+        return result;
+    }
+
+private:
+    bool m_isHeld = false;
+};
+
+} // namespace
+
 WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     : QTabWidget(parent)
     , m_closeButton(new QPushButton(this))
@@ -37,16 +63,19 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
 
 void WidgetAreaTabbed::setupPageKeys()
 {
-    const auto add = [this](const QString& text, const char* key, auto act) {
-        auto* action = new QAction(text, this);
+    const auto add = [this](const QString& text, const QString& toolTip, const char* key, auto act) {
+        auto* action = new HeldAction(text, this);
+        action->setToolTip(toolTip);
         action->setShortcut(QKeySequence(QLatin1String(key)));
-        connect(action, &QAction::triggered, this, act);
+        connect(action, &QAction::triggered, this, [act, action] { act(action->isHeld()); });
         addAction(action);
     };
-    add(tr("Page used before"), "Ctrl+Tab", [this] { m_switcher->step(1); });
-    add(tr("Page used longest ago"), "Ctrl+Shift+Tab", [this] { m_switcher->step(-1); });
-    add(tr("Next page"), "Ctrl+PgDown", [this] { stepPage(1); });
-    add(tr("Previous page"), "Ctrl+PgUp", [this] { stepPage(-1); });
+    add(tr("Page used before"), tr("To the page that was in front before; on from there while Ctrl is held"),
+        "Ctrl+Tab", [this](bool isHeld) { m_switcher->step(1, isHeld); });
+    add(tr("Page used longest ago"), tr("To the page that was in front longest ago"), "Ctrl+Shift+Tab",
+        [this](bool isHeld) { m_switcher->step(-1, isHeld); });
+    add(tr("Next page"), tr("To the page on the right"), "Ctrl+PgDown", [this](bool) { stepPage(1); });
+    add(tr("Previous page"), tr("To the page on the left"), "Ctrl+PgUp", [this](bool) { stepPage(-1); });
 }
 
 void WidgetAreaTabbed::stepPage(int step)

@@ -36,7 +36,7 @@ ModSrcNavi::ModSrcNavi(QObject* parent)
     , m_naviWidget(new NaviWidget)
     , m_filePanel(new FilePanel(
           [this] {
-              return FilePanel::sServices_t{modPrjHook, modSourcesHook, modEditorHook, modGuiHook};
+              return FilePanel::sServices_t{modPrjHook, modSourcesHook, modEditorHook, modGuiHook, m_symbols};
           },
           this))
 {
@@ -67,6 +67,24 @@ void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIf* plugin)
 {
     if (m_plugins.remove(plugin))
         plugin->modSrcNaviHook = nullptr;
+}
+
+void ModSrcNavi::registerPlugin(ModSrcNaviPluginIfSymbols* plugin)
+{
+    if (plugin == nullptr)
+        return;
+    if (m_symbols != nullptr)
+        m_symbols->modSrcNaviHook = nullptr;
+    m_symbols = plugin;
+    plugin->modSrcNaviHook = this;
+}
+
+void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin)
+{
+    if (plugin == nullptr || plugin != m_symbols)
+        return;
+    m_symbols = nullptr;
+    plugin->modSrcNaviHook = nullptr;
 }
 
 // --- tags ---
@@ -119,6 +137,7 @@ void ModSrcNavi::showSelectedTag(NaviTag* tag)
 void ModSrcNavi::modRegisterPlugins(QList<ModPluginIf*> modules)
 {
     registerPluginsOf<ModSrcNaviPluginIf>(modules, this);
+    registerPluginsOf<ModSrcNaviPluginIfSymbols>(modules, this);
 }
 
 void ModSrcNavi::modInit()

@@ -204,11 +204,21 @@ void DocumentNames::takeWord()
 {
     if (m_list == nullptr || m_document->isReadOnly())
         return;
-    QString word = m_list->currentWord();
+    const sCompletion chosen = m_list->current();
+    QString word = chosen.word;
     hideList();
+    if (word.isEmpty())
+        return;
     const bool isLower = !m_place.prefix.isEmpty() && m_place.prefix.at(0).isLower();
     if ((m_place.kinds & wordInstruction) && !word.startsWith('#'))
         word = isLower ? word.toLower() : word.toUpper();
+    // In a namespace, a name of the outermost one has to be told from those of its own.
+    const bool isName = (chosen.kind & (wordConstant | wordLabel)) != 0;
+    if (isName && !word.contains(QLatin1String("::")) &&
+        (m_place.prefix.startsWith(QLatin1String("::")) ||
+         (m_module != nullptr &&
+          !m_module->names().nameSpaceAt(m_document, m_document->textCursor().blockNumber()).isEmpty())))
+        word.prepend(QLatin1String("::"));
     m_isTaking = true;
     QTextCursor cursor = m_document->textCursor();
     cursor.beginEditBlock();

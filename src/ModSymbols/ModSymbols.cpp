@@ -18,6 +18,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTextBlock>
+#include <QTimer>
 
 namespace nsModSymbols {
 
@@ -237,6 +238,25 @@ void ModSymbols::asmRunEnded()
         modAsmFeHook->showEquList();
     m_isOpening = false;
     updateActions();
+    prepareWords();
+}
+
+/// The first letters that are typed after a run do not wait for the list of words: it is made when the window has
+/// nothing else to do, in two steps.
+void ModSymbols::prepareWords()
+{
+    if (!isCompletionOn())
+        return;
+    const auto isOpen = [this] { return modPrjHook != nullptr && modPrjHook->isValid() && modAsmFeHook != nullptr; };
+    QTimer::singleShot(0, this, [this, isOpen] {
+        if (!isOpen())
+            return;
+        m_names.table();
+        QTimer::singleShot(0, this, [this, isOpen] {
+            if (isOpen())
+                m_completionWords->prepare();
+        });
+    });
 }
 
 void ModSymbols::say(const QString& text) const
@@ -250,6 +270,8 @@ void ModSymbols::say(const QString& text) const
 void ModSymbols::handleAction(SymbolActions::eAction_t action)
 {
     const QPointer<EditorDocument> document(current());
+    // Questions are asked, under which the window can go, and the module with it.
+    const QPointer<ModSymbols> self(this);
     say(QString());
     switch (action) {
     case SymbolActions::eActionDefinition:
@@ -277,7 +299,8 @@ void ModSymbols::handleAction(SymbolActions::eAction_t action)
         walkMessages(-1);
         break;
     }
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
 }
 
 void ModSymbols::handleCompletionAction()
@@ -301,7 +324,8 @@ QString ModSymbols::tipAt(EditorDocument* document, int line, int column)
 /// Shows a place as it is now. @return false: there is no such file
 bool ModSymbols::show(const sTextPlace& place)
 {
-    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path))
+    const QPointer<ModSymbols> self(this);
+    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path) || self == nullptr)
         return false;
     EditorDocument* document = documentOf(place.path);
     if (document == nullptr)
@@ -323,8 +347,10 @@ bool ModSymbols::jump(const sTextPlace& place)
     if (place.isNull())
         return false;
     m_history.leave(current());
+    const QPointer<ModSymbols> self(this);
     const bool isShown = show(place);
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
     return isShown;
 }
 
@@ -355,12 +381,14 @@ void ModSymbols::walkMessages(int step)
     if (onDisk.isNull() || modEditorHook == nullptr)
         return;
     m_history.leave(current());
-    if (!modEditorHook->openFile(onDisk.path))
+    const QPointer<ModSymbols> self(this);
+    if (!modEditorHook->openFile(onDisk.path) || self == nullptr)
         return;
     EditorDocument* document = documentOf(onDisk.path);
     const sTextPlace now = document != nullptr ? m_messages.placeIn(document) : sTextPlace();
     show(now.isNull() ? onDisk : now);
-    say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
+    if (self != nullptr)
+        say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
 }
 
 } // namespace nsModSymbols

@@ -2,6 +2,7 @@
 
 #include "Brackets.h"
 #include "EditorWidget.h"
+#include "EditorWidgetLeftMargin.h"
 #include "Folding.h"
 #include "GotoLineField.h"
 #include "OpenDocuments.h"
@@ -42,6 +43,7 @@ TextActions::TextActions(const SourceFinder::sParts_t& parts, QObject* parent)
     , m_documents(parts.documents)
     , m_sourceFinder(parts)
     , m_actions(new EditorActionsLines(this))
+    , m_marginActions(new EditorActionsMargin(this))
     , m_lineMenu(std::make_unique<QMenu>(tr("Lines")))
     , m_foldMenu(std::make_unique<QMenu>(tr("Folding")))
 {
@@ -51,6 +53,8 @@ TextActions::TextActions(const SourceFinder::sParts_t& parts, QObject* parent)
     m_lineMenu->setToolTipsVisible(true);
     connect(m_actions, qOverload<EditorActionsLines::eAction_t>(&EditorActionsLines::triggered), this,
             &TextActions::handle);
+    connect(m_marginActions, qOverload<EditorActionsMargin::eAction_t>(&EditorActionsMargin::triggered), this,
+            &TextActions::handleMargin);
     setEnabled(false, false);
 }
 
@@ -60,8 +64,8 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
 {
     switch (actionClass) {
     case ModActionHookIf::eActionClassEdit:
-        return QList<QAction*>{m_lineMenu->menuAction(), m_foldMenu->menuAction()} << m_actions->places()
-                                                                                   << m_actions->findInSources();
+        return QList<QAction*>{m_lineMenu->menuAction(), m_foldMenu->menuAction()}
+               << m_actions->places() << m_marginActions->actions() << m_actions->findInSources();
     case ModActionHookIf::eActionClassNavigation:
         return m_actions->bookmarks();
     default:
@@ -75,6 +79,7 @@ void TextActions::addTo(EditorWidget* widget)
     widget->addActions(m_actions->places());
     widget->addActions(m_actions->bookmarks());
     widget->addActions(m_actions->folds());
+    widget->addActions(m_marginActions->actions());
     widget->installEventFilter(this);
 }
 
@@ -97,6 +102,7 @@ bool TextActions::eventFilter(QObject* watched, QEvent* event)
 void TextActions::setEnabled(bool current, bool project)
 {
     m_actions->setEnabled(current);
+    m_marginActions->setEnabled(current);
     m_actions->setEnabled(EditorActionsLines::eActionFindInSources, project);
     m_lineMenu->menuAction()->setEnabled(current);
     m_foldMenu->menuAction()->setEnabled(current);
@@ -128,6 +134,17 @@ void TextActions::goToBookmark(bool backward)
             return;
         }
     }
+}
+
+void TextActions::handleMargin(EditorActionsMargin::eAction_t action)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr)
+        return;
+    if (action == EditorActionsMargin::eActionMarks)
+        widget->leftMargin()->showMenuAtCursor();
+    else
+        widget->switchToNotice();
 }
 
 void TextActions::handle(EditorActionsLines::eAction_t action)

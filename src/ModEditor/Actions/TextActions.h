@@ -1,6 +1,7 @@
 #pragma once
 
 #include "EditorActionsLines.h"
+#include "EditorActionsMargin.h"
 #include "ModActionHookIf.h"
 #include "SourceFinder.h"
 
@@ -39,10 +40,12 @@ public:
 
 private:
     void handle(EditorActionsLines::eAction_t action);
+    void handleMargin(EditorActionsMargin::eAction_t action);
 
     const OpenDocuments* m_documents;
     SourceFinder m_sourceFinder;
     EditorActionsLines* m_actions;
+    EditorActionsMargin* m_marginActions;
     std::unique_ptr<QMenu> m_lineMenu;
     std::unique_ptr<QMenu> m_foldMenu;
 };

@@ -57,6 +57,29 @@ LineMarks marksOf(const QJsonValue& value, int lineCount)
     return marks;
 }
 
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.size() <= maxSize && file.open(QIODevice::ReadOnly) ? file.readAll()
+                                                                                                : QByteArray();
+}
+
+/// May the file be written over? A damaged one of ours may, one of a newer version or of another program may not.
+bool isOurs(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return true;
+    if (!info.isFile() || info.size() > maxSize)
+        return false;
+    const QByteArray content = contentOf(path);
+    const QJsonDocument document = QJsonDocument::fromJson(content);
+    if (document.isNull())
+        return info.size() == 0 || content.contains(QByteArray(keys::version.data()));
+    const int found = document.object().value(keys::version).toInt(0);
+    return found > 0 && found <= version;
+}
+
 } // namespace
 
 DocumentSession::DocumentSession(const OpenDocuments* documents, EditorServices* services)
@@ -100,9 +123,7 @@ void DocumentSession::save(const QString& project, bool keepMarks)
         return;
     const QByteArray bytes =
         QJsonDocument(QJsonObject{{keys::version, version}, {keys::documents, documents}}).toJson();
-    QFile before(path);
-    if (QFileInfo(path).isFile() && before.size() <= maxSize && before.open(QIODevice::ReadOnly) &&
-        before.readAll() == bytes)
+    if (contentOf(path) == bytes || !isOurs(path))
         return;
     // Without it, the documents open at their start the next time.
     SafeFile::replace(path, bytes, nullptr);
@@ -113,10 +134,7 @@ void DocumentSession::restore(const QString& project, bool keepMarks, bool isNew
     const QString path = fileOf(project);
     if (project.isEmpty() || !QFileInfo::exists(path))
         return;
-    QFile file(path);
-    QJsonObject session;
-    if (QFileInfo(path).isFile() && file.size() <= maxSize && file.open(QIODevice::ReadOnly))
-        session = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject session = QJsonDocument::fromJson(contentOf(path)).object();
     if (session.value(keys::version).toInt() != version || !session.value(keys::documents).isArray()) {
         m_services->showWarning(tr("The places of the last session can not be read: ") + path);
         return;

@@ -270,13 +270,12 @@ void EditorWidget::moveLines(bool up)
 {
     LineCommands commands = lineCommands();
     const QPair<int, int> lines = commands.selectedLines();
-    const int revision = m_textDocument->revision();
-    if (up)
-        commands.moveLineUp();
-    else
-        commands.moveLineDown();
-    if (m_textDocument->revision() != revision)
-        m_markFollower->moveLines(lines.first, lines.second, up);
+    m_markFollower->moveLines(lines.first, lines.second, up, [&commands, up] {
+        if (up)
+            commands.moveLineUp();
+        else
+            commands.moveLineDown();
+    });
 }
 
 void EditorWidget::setActionChanged()

@@ -90,6 +90,8 @@ public:
     /// Shows a bar at the upper edge, below the present ones. The document owns it; F6 moves the focus to the bars and
     /// back.
     void addNotice(MyNoticeBar* bar);
+    /// Moves the focus from the text to the first bar, and back. Nothing where there is no bar.
+    void switchToNotice();
 
     // ---- Look and behaviour (EditorWidget.cpp)
     /// The point size and the zoom of the document make its font size.

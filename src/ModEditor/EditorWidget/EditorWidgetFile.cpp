@@ -116,6 +116,12 @@ void EditorWidget::addNotice(MyNoticeBar* bar)
     layoutNotices();
 }
 
+void EditorWidget::switchToNotice()
+{
+    if (m_notices != nullptr)
+        m_notices->switchFocus();
+}
+
 void EditorWidget::layoutNotices()
 {
     if (m_notices == nullptr)

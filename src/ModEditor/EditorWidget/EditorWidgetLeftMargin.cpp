@@ -48,12 +48,6 @@ EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor)
     setCursor(Qt::ArrowCursor);
     setAccessibleName(tr("Marks, addresses and line numbers"));
     connect(this, &QWidget::customContextMenuRequested, this, &EditorWidgetLeftMargin::showMenu);
-
-    auto* menuAction = new QAction(tr("Marks of the line"), editor);
-    menuAction->setShortcut(QKeySequence("Ctrl+F10"));
-    menuAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(menuAction, &QAction::triggered, this, &EditorWidgetLeftMargin::showMenuAtCursor);
-    editor->addAction(menuAction);
 }
 
 void EditorWidgetLeftMargin::setBgColor(const QColor& color)
@@ -118,9 +112,10 @@ bool EditorWidgetLeftMargin::event(QEvent* event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(),
-                       m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())).join('\n').toHtmlEscaped(),
-                       this);
+    QString tip;
+    for (const QString& message : m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())))
+        tip += QStringLiteral("<div>%1</div>").arg(message.toHtmlEscaped());
+    QToolTip::showText(help->globalPos(), tip, this);
     return true;
 }
 

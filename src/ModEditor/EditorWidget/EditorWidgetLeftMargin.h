@@ -59,6 +59,9 @@ public:
     /// @param pos in the margin
     void showToolTipAt(const QPoint& pos);
 
+    /// The menu of the line of the cursor.
+    void showMenuAtCursor();
+
 protected:
     /// Shows the messages about a line as its tip.
     bool event(QEvent* event) override;
@@ -70,7 +73,6 @@ protected:
 
 private slots:
     void showMenu(const QPoint& pos);
-    void showMenuAtCursor();
 
 private:
     void paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight);

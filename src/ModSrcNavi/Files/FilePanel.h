@@ -15,6 +15,7 @@ class ModGuiHookIf;
 class ModMsgHookIf;
 class ModPrjHookIf;
 class ModSourcesHookIf;
+class ModSrcNaviPluginIfSymbols;
 
 namespace nsModSrcNavi {
 
@@ -34,6 +35,7 @@ public:
         ModSourcesHookIf* sources = nullptr;
         ModEditorHookIf* editor = nullptr;
         ModGuiHookIf* gui = nullptr;
+        ModSrcNaviPluginIfSymbols* symbols = nullptr;
     };
 
     static constexpr int maxRecent = 20;
