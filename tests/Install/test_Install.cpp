@@ -68,7 +68,7 @@ TEST_F(Install, theExamplesComeWithoutWhatARunHasWritten)
 TEST_F(Install, everyFileBelongsToOneComponent)
 {
     QStringList files;
-    for (const char* component : {"program", "tools", "help", "data", "docs"})
+    for (const char* component : {"program", "tools", "help", "data", "editors", "docs"})
         files += InstalledTree(component).files();
     files.sort();
     EXPECT_EQ(files.join('\n').toStdString(), tree->files().join('\n').toStdString());
