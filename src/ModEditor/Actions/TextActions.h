@@ -3,6 +3,7 @@
 #include "EditorActionsLines.h"
 #include "ModActionHookIf.h"
 #include "SourceFinder.h"
+#include "SplitViews.h"
 
 #include <QObject>
 
@@ -39,12 +40,16 @@ public:
 
 private:
     void handle(EditorActionsLines::eAction_t action);
+    bool handleViews(EditorActionsLines::eAction_t action, EditorWidget* widget);
+    void enableViews();
 
     const OpenDocuments* m_documents;
+    SplitViews m_splitViews;
     SourceFinder m_sourceFinder;
     EditorActionsLines* m_actions;
     std::unique_ptr<QMenu> m_lineMenu;
     std::unique_ptr<QMenu> m_foldMenu;
+    std::unique_ptr<QMenu> m_viewMenu;
 };
 
 } // namespace nsModEditor
