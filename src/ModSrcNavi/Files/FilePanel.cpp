@@ -1,5 +1,6 @@
 #include "FilePanel.h"
 
+#include "DialogParent.h"
 #include "FileListWidget.h"
 #include "NaviTag.h"
 #include "NaviTagList.h"
@@ -81,6 +82,7 @@ FileListWidget* FilePanel::widget() const
 void FilePanel::setProjectOpen(bool isOpen)
 {
     m_isOpen = isOpen;
+    updateMenu();
     if (m_widget == nullptr)
         return;
     m_widget->setEnabled(isOpen);
@@ -149,7 +151,7 @@ void FilePanel::pageShown(QWidget* page)
     m_recent.prepend(file);
     while (m_recent.size() > maxRecent)
         m_recent.removeLast();
-    m_menu->menuAction()->setEnabled(m_isOpen);
+    updateMenu();
 }
 
 void FilePanel::setRecent(const QStringList& files)
@@ -160,6 +162,13 @@ void FilePanel::setRecent(const QStringList& files)
             !m_recent.contains(file) && m_recent.size() < maxRecent)
             m_recent.append(file);
     }
+    updateMenu();
+}
+
+void FilePanel::updateMenu()
+{
+    if (m_menu != nullptr)
+        m_menu->menuAction()->setEnabled(m_isOpen && !m_recent.isEmpty());
 }
 
 void FilePanel::fillMenu()
@@ -225,12 +234,12 @@ QVector<QuickOpen::sTarget_t> FilePanel::targets(const NaviTagList& tags) const
     return targets;
 }
 
-void FilePanel::quickOpen(const NaviTagList& tags, QWidget* parent)
+void FilePanel::quickOpen(const NaviTagList& tags)
 {
     if (m_services().prj == nullptr || !m_isOpen)
         return;
     const QPointer<FilePanel> self(this);
-    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), parent));
+    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), DialogParent::get()));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QuickOpen::sTarget_t chosen = dialog ? dialog->chosen() : QuickOpen::sTarget_t();
     delete dialog;
