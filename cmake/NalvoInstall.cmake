@@ -8,7 +8,8 @@
 #
 # All links are relative and no program knows where it was built or installed, so the installed tree can be moved as a
 # whole.
-# Components: program, tools (the batch programs with what they read), help, data, docs.
+# Components: program, tools (the batch programs with what they read), help, data, editors, docs. What desktops, shells and other
+# editors read is installed by its own folder.
 
 option(NALVO_INSTALL_FONTS "Install copies of the fonts; a package may name those of the system instead" ON)
 

@@ -8,6 +8,8 @@ TEST(InstalledFiles, nameNoPathOfTheBuild)
     const QStringList files = tree.files();
     EXPECT_GT(files.size(), 50);
     for (const QString& name : files) {
+        if (QFileInfo(tree.path(name)).isSymLink())
+            continue;
         QFile file(tree.path(name));
         ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
         const QByteArray content = file.readAll();

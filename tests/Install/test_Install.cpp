@@ -68,7 +68,7 @@ TEST_F(Install, theExamplesComeWithoutWhatARunHasWritten)
 TEST_F(Install, everyFileBelongsToOneComponent)
 {
     QStringList files;
-    for (const char* component : {"program", "tools", "help", "data", "docs"})
+    for (const char* component : {"program", "tools", "help", "data", "editors", "docs"})
         files += InstalledTree(component).files();
     files.sort();
     EXPECT_EQ(files.join('\n').toStdString(), tree->files().join('\n').toStdString());
@@ -116,7 +116,7 @@ TEST_F(Install, aWindowWithoutItsHelpIsNoticed)
 {
     const InstalledTree program("program");
     const InstalledTree data("data");
-    const sRun_t copied = runProgram("cp", {"-R", data.path("."), program.path()});
+    const sRun_t copied = runProgram("cp", {"-R", data.path() + "/.", program.path()});
     ASSERT_EQ(copied.status, 0) << copied.out.constData();
     const sRun_t run = runProgram("sh", {script("window.sh"), program.path("bin")});
     EXPECT_NE(run.status, 0);
