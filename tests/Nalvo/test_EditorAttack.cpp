@@ -1,9 +1,10 @@
-// The comfort of the editor at the worst moment: what is closed under a dialog, files of other encodings and
+// The comfort of the editor at the worst moment: what is closed under a dialog or a list, files of other encodings and
 // line ends, text that is hidden.
 
 #include "ModalAnswers.h"
 #include "SymbolsWindow.h"
 
+#include "CompletionPopup.h"
 #include "Folding.h"
 
 #include <QHelpEvent>
@@ -13,6 +14,7 @@
 namespace {
 
 using nsModEditor::EditorWidget;
+using nsModSymbols::CompletionPopup;
 
 class EditorAttack : public SymbolsWindow
 {
@@ -23,6 +25,19 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("can not be read");
     }
     void saveAll() { action("Save all")->trigger(); }
+    CompletionPopup* listOf(EditorWidget* widget) const
+    {
+        auto* popup = widget->findChild<CompletionPopup*>("completion");
+        return popup != nullptr && popup->isVisible() ? popup : nullptr;
+    }
+    void typeForList(EditorWidget* widget)
+    {
+        widget->setFocus();
+        widget->moveCursor(QTextCursor::End);
+        widget->textCursor().insertText("\n");
+        QTest::keyClicks(widget, "lo");
+        EXPECT_NE(listOf(widget), nullptr);
+    }
     /// Searches all sources and replaces all hits. @return what the panel says
     QString replaceInSources(const QString& text, const QString& replacement, const std::function<void()>& between = {})
     {
@@ -101,9 +116,10 @@ TEST_F(EditorAttack, aRenameKeepsEncodingMarkAndLineEnds)
 
 TEST_F(EditorAttack, formattingKeepsEncodingAndLineEndsAndUndoAll)
 {
-    const QByteArray main = "#EQU limit, 26 ; \xe4\xa0\r\nstart: load s0,limit;x\n\tadd s0 ,\"\xe9;\"[1:0]\r\n"
+    const QByteArray main = "#EQU limit, 26 ; \xe4\xa0\r\nstart: load s0,limit;x\n\tadd s0 ,limit[1:0];\xe9\r\n"
                             "call ns::work\njump start";
     open(main, symbolsWindow::otherText);
+    const QVector<int> before = words();
     for (QAction* candidate : document->actions()) {
         if (candidate->text().startsWith("Format"))
             candidate->trigger();
@@ -115,6 +131,7 @@ TEST_F(EditorAttack, formattingKeepsEncodingAndLineEndsAndUndoAll)
     EXPECT_TRUE(after.contains("start:  LOAD    s0, limit               ;x\n")) << after.constData();
     EXPECT_EQ(after.count("\r\n"), 2);
     EXPECT_FALSE(after.endsWith('\n'));
+    EXPECT_EQ(words(), before);
     document->undo();
     EXPECT_FALSE(document->isUndoAvailable());
     saveAll();
@@ -154,6 +171,49 @@ TEST_F(EditorAttack, whatWasFoundMayBeGoneWhenItIsReplaced)
     const QString status = replaceInSources("top", "limit", [this] { module<nsModPrj::ModPrj>()->closePrj(); });
     EXPECT_EQ(status, "");
     EXPECT_EQ(bytesOf("main.psm"), QByteArray(symbolsWindow::mainText));
+}
+
+TEST_F(EditorAttack, whatIsClosedUnderTheListOfWordsTakesItAlong)
+{
+    writeSetting("ModSymbols/completionEn", "1");
+    writeSetting("ModEditor/textCompleterPrefixLength", "2");
+    open();
+    // Its document.
+    typeForList(document);
+    document->clearModified();
+    editor()->removeWidgetRequest(document);
+    QApplication::processEvents();
+    document = openFile("main.psm");
+    // Its text.
+    typeForList(document);
+    document->setText("start: JUMP start");
+    EXPECT_EQ(listOf(document), nullptr);
+    QTest::keyClick(document, Qt::Key_Return);
+    EXPECT_EQ(document->toPlainText(), "\nstart: JUMP start");
+    // An undo, and another document in front.
+    typeForList(document);
+    document->undo();
+    EXPECT_EQ(listOf(document), nullptr);
+    typeForList(document);
+    openFile("sub/other.psm");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return listOf(document) == nullptr; }, 60000));
+    editor()->selectFile(document->filePath());
+    // The run that ends under it, and the project.
+    typeForList(document);
+    saveAll();
+    QTest::keyClick(document, Qt::Key_Down);
+    QTest::keyClick(document, Qt::Key_Tab);
+    typeForList(document);
+    for (EditorWidget* widget : editor()->editorWidgets())
+        widget->clearModified();
+    EXPECT_TRUE(module<nsModPrj::ModPrj>()->closePrj());
+    QApplication::processEvents();
+    // The program.
+    EXPECT_TRUE(module<nsModPrj::ModPrj>()->openPrj(projectDir() + "/names.nalvo"));
+    document = openFile("main.psm");
+    typeForList(document);
+    document->clearModified();
+    window.reset();
 }
 
 TEST_F(EditorAttack, jumpsShowWhatIsFolded)
@@ -197,6 +257,7 @@ TEST_F(EditorAttack, jumpsShowWhatIsFolded)
     EXPECT_TRUE(other->toPlainText().contains("::top"));
     other->undo();
     EXPECT_EQ(other->toPlainText(), symbolsWindow::otherText);
+    EXPECT_TRUE(other->textCursor().block().isVisible());
 }
 
 TEST_F(EditorAttack, messagesOfWhatIsGone)
