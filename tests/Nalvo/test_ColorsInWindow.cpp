@@ -371,8 +371,9 @@ TEST_F(ColorsInWindow, whatIsOpenFollows)
                 wrong = part(dialog->grab().toImage(), dark);
             }});
             command(opener);
-            if (answers.seen() > 0)
+            if (answers.seen() > 0) {
                 EXPECT_LT(wrong, 0.03) << opener << dark;
+            }
         }
     }
 }

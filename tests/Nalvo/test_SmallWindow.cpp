@@ -41,9 +41,10 @@ TEST_P(SmallWindow, theProjectManagerScrollsDownAlone)
         tabs->setCurrentIndex(tab);
         settleLayout();
         for (const QScrollArea* area : page->findChildren<QScrollArea*>()) {
-            if (area->isVisible())
+            if (area->isVisible()) {
                 EXPECT_FALSE(area->horizontalScrollBar()->isVisible())
                     << tab << ' ' << area->viewport()->width() << " of " << area->widget()->minimumSizeHint().width();
+            }
         }
     }
 }
