@@ -2,7 +2,9 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell"
+# The editors that read our syntax definitions, or the parts of them that do: what highlights for Kate, the schema of GtkSourceView, Vim.
+NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
+ libkf5syntaxhighlighting-tools libgtksourceview-4-common libxml2-utils vim"
 
 # need_packages NAME ...
 need_packages() {
