@@ -7,6 +7,7 @@
 #include "UsagesPanel.h"
 
 #include "EditorDocument.h"
+#include "ModActionHookIf.h"
 #include "ModAsmFeHookIf.h"
 #include "ModCfgAppHookIf.h"
 #include "ModEditorHookIf.h"
@@ -62,6 +63,11 @@ void ModSymbols::modInit()
     m_completionActions = new CompletionActions(this);
     connect(m_actions, &SymbolActions::triggered, this, &ModSymbols::handleAction);
     connect(m_completionActions, &CompletionActions::completionRequested, this, &ModSymbols::handleCompletionAction);
+    // The menus know what the user wants instead.
+    connect(m_completionActions, &CompletionActions::keysChanged, this, [this] {
+        if (modActionHook != nullptr)
+            modActionHook->refreshActions();
+    });
     updateActions();
 }
 

@@ -204,9 +204,14 @@ TEST(Icons, areThereInAllSizesAndAsDrawings)
 TEST(Installed, liesWhereDesktopsAndShellsLook)
 {
     QTemporaryDir prefix;
-    QStringList expected{"share/applications/" + appId + ".desktop", "share/metainfo/" + appId + ".metainfo.xml",
-                         "share/mime/packages/nalvo.xml", "share/zsh/site-functions/_nalvo",
-                         "share/zsh/site-functions/_nalvo-tools"};
+    QStringList expected{"share/applications/" + appId + ".desktop",
+                         "share/metainfo/" + appId + ".metainfo.xml",
+                         "share/mime/packages/nalvo.xml",
+                         "share/zsh/site-functions/_nalvo",
+                         "share/zsh/site-functions/_nalvo-tools",
+                         "share/cmake/Nalvo/NalvoConfig.cmake",
+                         "share/cmake/Nalvo/NalvoConfigVersion.cmake",
+                         "share/cmake/Nalvo/NalvoRom.cmake"};
     for (const QString& name :
          {QStringLiteral("apps/nalvo"), QStringLiteral("mimetypes/application-x-nalvo-project")}) {
         for (const int size : {16, 22, 24, 32, 48, 64, 128, 256, 512})

@@ -200,6 +200,20 @@ TEST_F(ColorsTest, anIconFollowsTheSchemeAfterItWasMade)
     EXPECT_EQ(icon.pixmap(24, 24).toImage(), light);
 }
 
+TEST_F(ColorsTest, anIconCanHaveAPictureOfItsOwnForAMode)
+{
+    QIcon icon(QStringLiteral(":/ModEditor/img/file/document-new.png"));
+    QPixmap own(48, 48);
+    own.fill(QColor(12, 34, 56));
+    own.setDevicePixelRatio(2);
+    icon.addPixmap(own, QIcon::Selected);
+    for (const Colors::eScheme_t scheme : {Colors::eLight, Colors::eDark}) {
+        Colors::setScheme(scheme);
+        EXPECT_EQ(icon.pixmap(24, 24, QIcon::Selected).toImage().pixelColor(12, 12), QColor(12, 34, 56));
+        EXPECT_NE(icon.pixmap(24, 24).toImage().pixelColor(12, 12), QColor(12, 34, 56));
+    }
+}
+
 TEST_F(ColorsTest, anIconFromElsewhereIsLeftAlone)
 {
     const QIcon icon(QStringLiteral(":/there/is/none.png"));

@@ -4,6 +4,8 @@
 
 #include <QXmlStreamWriter>
 
+#include <cstring>
+
 namespace nsSyntax {
 
 namespace {

@@ -6,13 +6,13 @@
 #include "LineMarks.h"
 #include "OpenDocuments.h"
 #include "SafeFile.h"
+#include "ViewPlace.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QScrollBar>
 
 namespace nsModEditor {
 
@@ -30,6 +30,7 @@ const QLatin1String cursor("cursor");
 const QLatin1String anchor("anchor");
 const QLatin1String top("top"); ///< first line on the screen
 const QLatin1String left("left");
+const QLatin1String split("split");
 const QLatin1String zoom("zoom");
 const QLatin1String breakpoints("breakpoints");
 const QLatin1String bookmarks("bookmarks");
@@ -85,6 +86,7 @@ bool isOurs(const QString& path)
 DocumentSession::DocumentSession(const OpenDocuments* documents, EditorServices* services)
     : m_documents(documents)
     , m_services(services)
+    , m_splitViews(documents)
 {
 }
 
@@ -95,11 +97,15 @@ QString DocumentSession::fileOf(const QString& project)
 
 QJsonObject DocumentSession::stateOf(EditorWidget* widget, bool keepMarks) const
 {
+    const sViewPlace place = sViewPlace::of(widget);
     QJsonObject state{{keys::file, m_services->relPath(widget->filePath())},
-                      {keys::cursor, widget->textCursor().position()},
-                      {keys::anchor, widget->textCursor().anchor()},
-                      {keys::top, widget->verticalScrollBar()->value()},
-                      {keys::left, widget->horizontalScrollBar()->value()}};
+                      {keys::cursor, place.position},
+                      {keys::anchor, place.anchor},
+                      {keys::top, place.top},
+                      {keys::left, place.left}};
+    const QJsonObject split = m_splitViews.stateOf(widget);
+    if (!split.isEmpty())
+        state.insert(keys::split, split);
     if (!keepMarks)
         return state;
     state.insert(keys::zoom, widget->zoom());
@@ -165,14 +171,12 @@ void DocumentSession::restoreState(EditorWidget* widget, const QJsonObject& stat
         marks.simStartPointer = start < widget->blockCount() ? qMax(start, -1) : -1;
         widget->setMarks(marks);
     }
+    m_splitViews.restore(widget, state.value(keys::split).toObject());
     if (keepsCursor && widget->cursorPos() != position)
         return;
-    QTextCursor cursor = widget->textCursor();
-    cursor.setPosition(qBound(0, state.value(keys::anchor).toInt(), end));
-    cursor.setPosition(position, QTextCursor::KeepAnchor);
-    widget->setTextCursor(cursor);
-    widget->verticalScrollBar()->setValue(state.value(keys::top).toInt());
-    widget->horizontalScrollBar()->setValue(state.value(keys::left).toInt());
+    const sViewPlace place{position, state.value(keys::anchor).toInt(), state.value(keys::top).toInt(),
+                           state.value(keys::left).toInt()};
+    place.show(widget);
 }
 
 } // namespace nsModEditor

@@ -1,7 +1,7 @@
 #include "MarkFollower.h"
 
+#include "DocumentViews.h"
 #include "EditorWidget.h"
-#include "EditorWidgetLeftMargin.h"
 #include "LineMarks.h"
 
 #include <QTextBlock>
@@ -32,7 +32,7 @@ void MarkFollower::map(Function newLine)
     m_marks->bookmarks.map(newLine);
     if (m_marks->simStartPointer >= 0)
         m_marks->simStartPointer = newLine(m_marks->simStartPointer);
-    m_editor->leftMargin()->update();
+    m_editor->views()->updateMargins();
     if (breakpoints != m_marks->simBreakpoints.lines())
         emit m_editor->simBreakpointChanged();
 }
