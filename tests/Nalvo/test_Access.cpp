@@ -4,6 +4,7 @@
 
 #include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
 #include "ModPrj.h"
 
 #include <QAbstractItemView>
@@ -204,7 +205,7 @@ TEST_F(Access, everyPageOfTheSettingsCanBeUsedByKeys)
 TEST_F(Access, theTabKeyGoesThroughEveryPanelAndPageAsItIsRead)
 {
     // What comes by a command: usages, find in sources, the panels of the simulator.
-    auto* document = window->findChild<QPlainTextEdit*>("editorWidget");
+    auto* document = qobject_cast<QPlainTextEdit*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     ASSERT_NE(document, nullptr);
     document->setFocus();
     document->moveCursor(QTextCursor::Down);

@@ -295,9 +295,8 @@ TEST_F(DocumentsInWindow, quickOpenFindsFilesAndSymbolsByKeyboardAlone)
 
 TEST_F(DocumentsInWindow, quickOpenLeadsToTheDefinitionOfEveryName)
 {
-    writeFile("b.psm",
-              "#EQU bitMask, 0x1F\n#NAMESPACE uart\nsend:   LOAD s0, bitMask\n        JUMP send\n#ENDNAMESPACE\n"
-              "beta:   JUMP beta\n");
+    writeFile("b.psm", "#EQU bitMask, 0x1F\n#NAMESPACE uart\nsend:   LOAD s0, 1\n        JUMP send\n#ENDNAMESPACE\n"
+                       "beta:   LOAD s0, bitMask\n        JUMP beta\n");
     QTest::keyClick(window.get(), Qt::Key_B, Qt::ControlModifier);
     settleLayout();
     ASSERT_TRUE(module<nsModAsmFe::ModAsmFe>()->isAssembled());
