@@ -4,6 +4,7 @@
 #include "Assembler.h"
 #include "EditorMemPageAddrMap.h"
 #include "EditorSupportMenu.h"
+#include "HighlightRules.h"
 #include "InstructionWords.h"
 #include "ModEditorHookIf.h"
 #include "Opcode.h"
@@ -49,108 +50,23 @@ const char* const navigatorCommands[] = {
     "; \\navHw \"Your title\"",
 };
 
-/// A rule for a fixed expression.
-struct sRule_t
-{
-    ModEditorHookIf::eHighlightRule_t rule;
-    const char* expression;
-    Qt::CaseSensitivity cs;
-};
-
-const sRule_t organizationRules[] = {
-    {ModEditorHookIf::eHighlightRuleKeyWords, "\\bADDR\\b", Qt::CaseInsensitive},
-    {ModEditorHookIf::eHighlightRuleKeyWords, "\\bMEMRANGE\\b", Qt::CaseInsensitive},
-    {ModEditorHookIf::eHighlightRuleKeyWords, "\\bSHARED\\b", Qt::CaseInsensitive},
-    {ModEditorHookIf::eHighlightRuleKeyWords, "PAGE[0-9]+", Qt::CaseInsensitive},
-    {ModEditorHookIf::eHighlightRuleLabel, "^\\S+:", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleHexNumber, "\\b0[xX]{1}[0-9A-Fa-f]+\\b", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleDecNumber, "\\b[0-9]+\\b", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleOctNumber, "\\\\[0-7]+", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleBinNumber, "\\b[bB]{1}[0-1]+\\b", Qt::CaseSensitive},
-};
-
-const char* const attributeExpressions[] = {
-    "\\b[24]+BE\\b",   "\\bLEN\\b",  "\\bINSTMEM\\b", "\\bIODev\\b", "\\bhiMem\\b", "\\bloMem\\b", "\\bvhdl\\b",
-    "\\bverilog\\b",   "\\bhex\\b",  "\\bsim\\b",     "\\bmem\\b",   "\\bfifo\\b",  "\\breg\\b",   "\\bappend\\b",
-    "\\accessMode\\b", "\\btrue\\b", "\\bfalse\\b",   "\\brd\\b",    "\\bwr\\b",    "\\brdWr\\b",
-};
-
-const char* const directiveExpressions[] = {
-    "#\\bEQU\\b",
-    "#\\bSET\\b",
-    "#\\bORG\\b",
-    "#\\bDEFINE\\b",
-    "#\\bDEFINE\\b[\\s\\t]+\\S+",
-    "#\\bIFDEF\\b",
-    "#\\bIFDEF\\b[\\s\\t\\S]+",
-    "#\\bELSEIF\\b",
-    "#\\bELSEIF\\b[\\s\\t\\S]+",
-    "#\\bELSE\\b",
-    "#\\bENDIF\\b",
-    "#\\bMACRO\\b",
-    "#\\bMACRO\\b[\\s\\t]+\\S+",
-    "#\\bMACRO\\b",
-    "#\\bNAMESPACE\\b",
-    "#\\bNAMESPACE\\b[\\s\\t]+\\S+",
-    "#\\bENDNAMESPACE\\b",
-};
-
-const sRule_t lastRules[] = {
-    {ModEditorHookIf::eHighlightRuleString, "\\\".*\\\"", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleComment, ";[^\n]*", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleSeparator, "^;[\\s]*\\#\\#[^\n]*", Qt::CaseSensitive},
-    {ModEditorHookIf::eHighlightRuleNaviCmd,
-     "^*\\\\\\bnavHw\\b"
-     "|^*\\\\\\bnavConst\\b"
-     "|^*\\\\\\bnavSep\\b"
-     "|^*\\\\\\bnavGrpBegin\\b"
-     "|^*\\\\\\bnavGrpEnd\\b"
-     "|^*\\\\\\bnavHw\\b\\s+\".*\""
-     "|^*\\\\\\bnavHw\\b\\s+\\S+\\s*"
-     "|^*\\\\\\bnavConst\\b\\s+\".*\""
-     "|^*\\\\\\bnavConst\\b\\s+\\S+\\s*"
-     "|^*\\\\\\bnavSep\\b\\s+\".*\""
-     "|^*\\\\\\bnavSep\\b\\s+\\S+\\s*"
-     "|^*\\\\\\bnavGrpBegin\\b\\s+\".*\""
-     "|^*\\\\\\bnavGrpBegin\\b\\s+\\S+\\s*"
-     "|^*\\\\\\bnavGrpEnd\\b",
-     Qt::CaseInsensitive},
-};
-
-/// Adds rules to the editor's list, in the order of the calls.
-class RuleList
-{
-public:
-    explicit RuleList(ModEditorHookIf* editor)
-        : m_editor(editor)
-    {
-    }
-
-    void add(ModEditorHookIf::eHighlightRule_t rule, const QString& expression, Qt::CaseSensitivity cs)
-    {
-        m_editor->configHighlighterAddRegExp(rule, QRegExp(expression, cs));
-    }
-    void addWords(ModEditorHookIf::eHighlightRule_t rule, const QStringList& words, Qt::CaseSensitivity cs)
-    {
-        for (const QString& word : words)
-            add(rule, "\\b" + word + "\\b", cs);
-    }
-    template <size_t n>
-    void addRules(const sRule_t (&rules)[n])
-    {
-        for (const sRule_t& rule : rules)
-            add(rule.rule, rule.expression, rule.cs);
-    }
-    template <size_t n>
-    void addExpressions(ModEditorHookIf::eHighlightRule_t rule, const char* const (&expressions)[n])
-    {
-        for (const char* expression : expressions)
-            add(rule, expression, Qt::CaseInsensitive);
-    }
-
-private:
-    ModEditorHookIf* m_editor;
-};
+// The rules are made below the modules, which know no editor.
+static_assert(int(highlightDirective) == ModEditorHookIf::eHighlightRuleDirective &&
+                  int(highlightInstruction) == ModEditorHookIf::eHighlightRuleCmd &&
+                  int(highlightHardware) == ModEditorHookIf::eHighlightRuleHw &&
+                  int(highlightHex) == ModEditorHookIf::eHighlightRuleHexNumber &&
+                  int(highlightDecimal) == ModEditorHookIf::eHighlightRuleDecNumber &&
+                  int(highlightOctal) == ModEditorHookIf::eHighlightRuleOctNumber &&
+                  int(highlightBinary) == ModEditorHookIf::eHighlightRuleBinNumber &&
+                  int(highlightLabel) == ModEditorHookIf::eHighlightRuleLabel &&
+                  int(highlightComment) == ModEditorHookIf::eHighlightRuleComment &&
+                  int(highlightDoc) == ModEditorHookIf::eHighlightRuleDoc &&
+                  int(highlightSeparator) == ModEditorHookIf::eHighlightRuleSeparator &&
+                  int(highlightNavigator) == ModEditorHookIf::eHighlightRuleNaviCmd &&
+                  int(highlightAttribute) == ModEditorHookIf::eHighlightRuleAttr &&
+                  int(highlightString) == ModEditorHookIf::eHighlightRuleString &&
+                  int(highlightKeyWord) == ModEditorHookIf::eHighlightRuleKeyWords,
+              "the kinds of text are those of the editor");
 
 } // namespace
 
@@ -244,24 +160,16 @@ void AsmEditorFeed::setHighlighter(ModEditorHookIf* editor)
     if (editor == nullptr)
         return;
     editor->clearHighlighter();
-    RuleList rules(editor);
-    const AsmWords& words = m_assembler.words();
-    rules.addWords(ModEditorHookIf::eHighlightRuleCmd, words.instructionWords(), Qt::CaseInsensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleKeyWords, words.argumentWords(), Qt::CaseInsensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleHw, words.regs().keys(), Qt::CaseSensitive);
-    rules.addWords(ModEditorHookIf::eHighlightRuleHw, words.banks().keys(), Qt::CaseSensitive);
-    rules.addRules(organizationRules);
-    rules.addWords(ModEditorHookIf::eHighlightRuleAttr, m_assembler.charsets().names(), Qt::CaseInsensitive);
-    rules.addExpressions(ModEditorHookIf::eHighlightRuleAttr, attributeExpressions);
+    QStringList devices;
     for (const IODev* dev : m_assembler.program().ioDevs.devices()) {
         if (!dev->devName.isEmpty())
-            rules.add(ModEditorHookIf::eHighlightRuleAttr, QString("::\\b%1\\b").arg(dev->devName),
-                      Qt::CaseInsensitive);
+            devices.append(dev->devName);
     }
-    rules.add(ModEditorHookIf::eHighlightRuleAttr, "\\b\\S+\\b::", Qt::CaseInsensitive);
-    rules.add(ModEditorHookIf::eHighlightRuleAttr, "::", Qt::CaseInsensitive);
-    rules.addExpressions(ModEditorHookIf::eHighlightRuleDirective, directiveExpressions);
-    rules.addRules(lastRules);
+    const QVector<sHighlightRule_t> rules =
+        highlightRules(m_assembler.words(), m_assembler.charsets().names(), devices);
+    for (const sHighlightRule_t& rule : rules)
+        editor->configHighlighterAddRegExp(ModEditorHookIf::eHighlightRule_t(rule.kind),
+                                           QRegExp(rule.expression, rule.cs));
 }
 
 void AsmEditorFeed::setupTextCompleter(ModEditorHookIf* editor)

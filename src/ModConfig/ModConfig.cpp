@@ -1,5 +1,6 @@
 #include "ModConfig.h"
 
+#include "Colors.h"
 #include "ConfigDialog.h"
 #include "ConfigKeys.h"
 #include "ModConfigPagePluginIf.h"
@@ -26,6 +27,8 @@ namespace nsModConfig {
 ModConfig::ModConfig(QObject* parent)
     : QObject(parent)
 {
+    // Before the pages, which are made later: they still show the colours of the former scheme.
+    connect(Colors::instance(), &Colors::changed, this, &ModConfig::takeNewColors);
 }
 
 ModConfig::~ModConfig() = default;
@@ -398,6 +401,26 @@ bool ModConfig::isChanged() const
             return true;
     }
     return false;
+}
+
+/// Another colour scheme changes what pages show, which is no change of the user's.
+void ModConfig::takeNewColors()
+{
+    QList<ModConfigPagePluginIf*> unchanged;
+    for (const sConfigItem_t& entry : qAsConst(m_items)) {
+        if (PageValues::of(entry.page->pageWidget()) == entry.values)
+            unchanged.append(entry.page);
+    }
+    const QPointer<ConfigDialog> dialog(m_dialog);
+    QMetaObject::invokeMethod(
+        this,
+        [this, dialog, unchanged] {
+            for (sConfigItem_t& entry : m_items) {
+                if (dialog != nullptr && dialog == m_dialog && unchanged.contains(entry.page))
+                    entry.values = PageValues::of(entry.page->pageWidget());
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void ModConfig::handleActions(ActionsConfig::eAction_t)

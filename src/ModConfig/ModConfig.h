@@ -93,6 +93,7 @@ private slots:
     /// Shows the help of the current page beside the dialog.
     void hndlEventHelp();
     void forgetDialog();
+    void takeNewColors();
     void changeDlgPage(QListWidgetItem* next, QListWidgetItem* prev);
 
 private:

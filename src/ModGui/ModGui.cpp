@@ -384,6 +384,11 @@ void ModGui::setEmptyPage(QWidget* page)
         tabs()->setEmptyPage(page);
 }
 
+QSplitter* ModGui::splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation)
+{
+    return tabs() != nullptr ? tabs()->splitPage(page, second, orientation) : nullptr;
+}
+
 void ModGui::removeWidgetRequest(QWidget* widget)
 {
     const sWidgetData_t* data = m_widgets.value(widget);

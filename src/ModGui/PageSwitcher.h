@@ -5,9 +5,10 @@
 #include <QPointer>
 
 class QListWidget;
-class QTabWidget;
 
 namespace nsModGui {
+
+class WidgetAreaTabbed;
 
 /// Goes through the pages in the order in which they were used last, while Ctrl is held: the pages are listed, each is
 /// shown as it is reached, and their order changes only when Ctrl is let go.
@@ -17,7 +18,7 @@ class PageSwitcher : public QFrame
 
 public:
     /// @param tabs parent of this object
-    explicit PageSwitcher(QTabWidget* tabs);
+    explicit PageSwitcher(WidgetAreaTabbed* tabs);
 
     /// To the page used before the present one, and on from there.
     /// @param step 1, or -1 for the other way round
@@ -35,7 +36,7 @@ private:
     void end();
     void show(int row);
 
-    QTabWidget* m_tabs;
+    WidgetAreaTabbed* m_tabs;
     QListWidget* m_list;
     QList<QPointer<QWidget>> m_used;  ///< the one used last first
     QList<QPointer<QWidget>> m_shown; ///< rows of the list

@@ -1,6 +1,7 @@
 #include "WidgetAreaTabbed.h"
 
 #include "EmptyPage.h"
+#include "PageSplitter.h"
 #include "PageSwitcher.h"
 #include "TabControls.h"
 
@@ -53,7 +54,7 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     setCornerWidget(m_closeButton);
     connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
     connect(this, &QTabWidget::currentChanged, this,
-            [this](int index) { emit currentWidgetChanged(this, widget(index)); });
+            [this](int index) { emit currentWidgetChanged(this, pageAt(index)); });
     auto* controls = new TabControls(this);
     connect(controls, &TabControls::closeRequested, this, &WidgetAreaTabbed::removeWidgetRequest);
     connect(controls, &TabControls::showFileRequested, this, &WidgetAreaTabbed::showFileRequested);
@@ -87,8 +88,8 @@ void WidgetAreaTabbed::stepPage(int step)
         setCurrentIndex(index);
         break;
     }
-    if (currentWidget() != nullptr)
-        currentWidget()->setFocus(Qt::ShortcutFocusReason);
+    if (currentPage() != nullptr)
+        currentPage()->setFocus(Qt::ShortcutFocusReason);
 }
 
 QString WidgetAreaTabbed::chkAppName(const QString& name) const
@@ -107,7 +108,7 @@ void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
 {
     if (!hasWidget(widget))
         return;
-    const int index = indexOf(widget);
+    const int index = indexOfPage(widget);
     // A tab must not count its own name as used.
     setTabText(index, QString());
     setTabText(index, chkAppName(name));
@@ -123,10 +124,81 @@ void WidgetAreaTabbed::setEmptyPage(QWidget* page)
     m_emptyPage->setPage(page);
 }
 
+QWidget* WidgetAreaTabbed::pageAt(int index) const
+{
+    return PageSplitter::pageOf(widget(index));
+}
+
+int WidgetAreaTabbed::indexOfPage(const QWidget* page) const
+{
+    for (int index = 0; page != nullptr && index < count(); ++index) {
+        if (pageAt(index) == page)
+            return index;
+    }
+    return -1;
+}
+
+void WidgetAreaTabbed::replaceTab(int index, QWidget* widget)
+{
+    const QString text = tabText(index);
+    const QIcon icon = tabIcon(index);
+    const QString toolTip = tabToolTip(index);
+    const bool isEnabled = isTabEnabled(index);
+    const bool isCurrent = index == currentIndex();
+    insertTab(index, widget, icon, text);
+    setTabToolTip(index, toolTip);
+    setTabEnabled(index, isEnabled);
+    if (isCurrent)
+        setCurrentIndex(index);
+}
+
+QSplitter* WidgetAreaTabbed::splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation)
+{
+    const int index = indexOfPage(page);
+    if (index < 0)
+        return nullptr;
+    // A page that changes its parent loses the focus.
+    QWidget* focused = window()->focusWidget();
+    const QPointer<QWidget> focus(isAncestorOf(focused) ? focused : nullptr);
+    // For everybody else it is the same page all the time.
+    const bool wasBlocked = blockSignals(true);
+    unsplitPage(page);
+    PageSplitter* splitter = nullptr;
+    if (second != nullptr) {
+        splitter = new PageSplitter(orientation, this);
+        replaceTab(index, splitter);
+        // It takes its old tab along.
+        splitter->setWidgets(page, second);
+        connect(splitter, &PageSplitter::pageDeleted, this, [this, splitter] {
+            removeTab(indexOf(splitter));
+            splitter->deleteLater();
+        });
+    }
+    blockSignals(wasBlocked);
+    if (focus != nullptr && focus->isVisible())
+        focus->setFocus();
+    return splitter;
+}
+
+void WidgetAreaTabbed::unsplitPage(QWidget* page)
+{
+    const int index = indexOfPage(page);
+    auto* splitter = qobject_cast<PageSplitter*>(widget(index));
+    if (splitter == nullptr)
+        return;
+    const bool wasBlocked = blockSignals(true);
+    if (splitter->second() != nullptr)
+        splitter->second()->setParent(nullptr);
+    replaceTab(index, page);
+    removeTab(index + 1);
+    blockSignals(wasBlocked);
+    delete splitter;
+}
+
 void WidgetAreaTabbed::setWidgetIcon(QWidget* widget, const QIcon& icon)
 {
     if (hasWidget(widget))
-        setTabIcon(indexOf(widget), icon);
+        setTabIcon(indexOfPage(widget), icon);
 }
 
 void WidgetAreaTabbed::addWidget(const QString& name, QWidget* widget)
@@ -142,32 +214,33 @@ void WidgetAreaTabbed::removeWidget(QWidget* widget)
 {
     if (!hasWidget(widget))
         return;
-    removeTab(indexOf(widget));
+    unsplitPage(widget);
+    removeTab(indexOfPage(widget));
     widget->setParent(nullptr);
 }
 
 bool WidgetAreaTabbed::hasWidget(QWidget* widget) const
 {
-    return widget != nullptr && indexOf(widget) >= 0;
+    return indexOfPage(widget) >= 0;
 }
 
 void WidgetAreaTabbed::showWidget(QWidget* widget)
 {
     if (!hasWidget(widget))
         return;
-    QTabWidget::setCurrentWidget(widget);
+    setCurrentIndex(indexOfPage(widget));
     setVisible(true);
 }
 
 void WidgetAreaTabbed::setWidgetEnabled(QWidget* widget, bool enabled)
 {
     if (hasWidget(widget))
-        setTabEnabled(indexOf(widget), enabled);
+        setTabEnabled(indexOfPage(widget), enabled);
 }
 
 void WidgetAreaTabbed::requestClose()
 {
-    emit removeWidgetRequest(currentWidget());
+    emit removeWidgetRequest(currentPage());
 }
 
 void WidgetAreaTabbed::keyPressEvent(QKeyEvent* event)

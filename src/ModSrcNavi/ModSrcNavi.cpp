@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QPointer>
 
 namespace nsModSrcNavi {
 
@@ -114,7 +115,17 @@ void ModSrcNavi::showTagList()
         list = m_tagList.tagListAsc();
     else
         list = m_tagList.tagListDesc();
+    // Whoever looks at the list of files goes on to do so; over anything else the navigator comes to the front.
+    FileListWidget* files = m_filePanel->widget();
+    const bool isBehind = modGuiHook != nullptr && files != nullptr && files->isVisible() &&
+                          modGuiHook->currentWidget(dockLocation()) == files;
+    const QPointer<QWidget> focus(QApplication::focusWidget());
     m_naviWidget->showTagList(&list, flat);
+    if (!isBehind)
+        return;
+    modGuiHook->setCurrentWidget(files);
+    if (focus != nullptr && files->isAncestorOf(focus))
+        focus->setFocus();
 }
 
 void ModSrcNavi::sortModeChanged()
@@ -323,7 +334,7 @@ void ModSrcNavi::handleActions(NaviActions::eAction_t action)
 {
     switch (action) {
     case NaviActions::eActionQuickOpen:
-        m_filePanel->quickOpen(m_tagList, m_naviWidget != nullptr ? m_naviWidget->window() : nullptr);
+        m_filePanel->quickOpen(m_tagList);
         break;
     case NaviActions::eActionFileList:
         if (modGuiHook != nullptr && m_filePanel->widget() != nullptr) {

@@ -165,9 +165,13 @@ void ModSymbols::applyRename(const sSymbol& symbol, const QString& name)
     const QString stale = m_names.staleReason();
     if (!stale.isEmpty())
         return fail(stale);
+    const QPointer<ModSymbols> self(this);
     for (const sSymbolPlace& place : placesNow()) {
         const QString path = m_names.placeOf(place).path;
-        if (documentOf(path) == nullptr && !modEditorHook->openFile(path))
+        const bool isOpen = documentOf(path) != nullptr || modEditorHook->openFile(path);
+        if (self == nullptr)
+            return;
+        if (!isOpen)
             return fail(tr("\"%1\" can not be opened.").arg(path));
     }
     const SymbolTable table = m_names.table();

@@ -116,6 +116,7 @@ bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyRelease:
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::DragEnter:
     case QEvent::Drop:
@@ -131,8 +132,12 @@ bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (widget != nullptr && m_bar && (widget == m_bar || m_bar->isAncestorOf(widget)))
         return false;
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    // Before a command of the page that has this key, too.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         cancel();
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
     if (event->type() == QEvent::Close)
         event->ignore();
     return true;

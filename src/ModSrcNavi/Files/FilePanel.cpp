@@ -1,5 +1,6 @@
 #include "FilePanel.h"
 
+#include "DialogParent.h"
 #include "FileListWidget.h"
 #include "NaviTag.h"
 #include "NaviTagList.h"
@@ -82,6 +83,7 @@ FileListWidget* FilePanel::widget() const
 void FilePanel::setProjectOpen(bool isOpen)
 {
     m_isOpen = isOpen;
+    updateMenu();
     if (m_widget == nullptr)
         return;
     m_widget->setEnabled(isOpen);
@@ -150,7 +152,7 @@ void FilePanel::pageShown(QWidget* page)
     m_recent.prepend(file);
     while (m_recent.size() > maxRecent)
         m_recent.removeLast();
-    m_menu->menuAction()->setEnabled(m_isOpen);
+    updateMenu();
 }
 
 void FilePanel::setRecent(const QStringList& files)
@@ -161,6 +163,13 @@ void FilePanel::setRecent(const QStringList& files)
             !m_recent.contains(file) && m_recent.size() < maxRecent)
             m_recent.append(file);
     }
+    updateMenu();
+}
+
+void FilePanel::updateMenu()
+{
+    if (m_menu != nullptr)
+        m_menu->menuAction()->setEnabled(m_isOpen && !m_recent.isEmpty());
 }
 
 void FilePanel::fillMenu()
@@ -242,12 +251,12 @@ QVector<QuickOpen::sTarget_t> FilePanel::targets(const NaviTagList& tags) const
     return targets;
 }
 
-void FilePanel::quickOpen(const NaviTagList& tags, QWidget* parent)
+void FilePanel::quickOpen(const NaviTagList& tags)
 {
     if (m_services().prj == nullptr || !m_isOpen)
         return;
     const QPointer<FilePanel> self(this);
-    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), parent));
+    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), DialogParent::get()));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QuickOpen::sTarget_t chosen = dialog ? dialog->chosen() : QuickOpen::sTarget_t();
     delete dialog;

@@ -95,10 +95,9 @@ void CompletionPopup::showWords(const QVector<sCompletion>& words, const QRect& 
     show();
 }
 
-QString CompletionPopup::currentWord() const
+sCompletion CompletionPopup::current() const
 {
-    const int row = currentIndex().row();
-    return row >= 0 && row < m_model->words().size() ? m_model->words().at(row).word : QString();
+    return m_model->words().value(currentIndex().row());
 }
 
 int CompletionPopup::count() const

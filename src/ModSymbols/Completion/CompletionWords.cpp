@@ -346,15 +346,20 @@ QVector<sCompletion> CompletionWords::wordsAt(const sCompletionPlace& place)
     prepare();
     QVector<sCompletion> best;
     QVector<sCompletion> others;
+    const bool isOutermost = place.prefix.startsWith(QLatin1String("::"));
+    const QString prefix = isOutermost ? place.prefix.mid(2) : place.prefix;
     for (const sCompletion& candidate : qAsConst(m_words)) {
         if ((candidate.kind & place.kinds) == 0)
             continue;
         const QString& word = candidate.word;
-        bool isHit = word.startsWith(place.prefix, Qt::CaseInsensitive);
-        if (!isHit && (candidate.kind & (wordConstant | wordLabel))) {
+        const bool isName = (candidate.kind & (wordConstant | wordLabel)) != 0;
+        bool isHit = word.startsWith(prefix, Qt::CaseInsensitive);
+        if (isOutermost) {
+            isHit = isHit && isName && !word.contains(QLatin1String("::"));
+        } else if (!isHit && isName) {
             // A name is found without its namespace, too.
             const int end = word.lastIndexOf(QLatin1String("::"));
-            isHit = end >= 0 && word.midRef(end + 2).startsWith(place.prefix, Qt::CaseInsensitive);
+            isHit = end >= 0 && word.midRef(end + 2).startsWith(prefix, Qt::CaseInsensitive);
         }
         if (isHit)
             (candidate.kind & place.bestKinds ? best : others).append(candidate);
