@@ -81,22 +81,26 @@ int main(int argc, char** argv)
     QVector<double> assembled;
     QVector<double> window;
     QVector<double> bare;
+    QVector<double> libraries;
     // In turns, so that a busy moment of the machine hits all of them.
     for (int round = 0; round <= rounds; ++round) {
         const double ms[] = {wholeRun(nalvoAsm, {"--version"}), wholeRun(nalvoAsm, {project}),
                              firstPaint(build.filePath("bench_start_nalvo")),
-                             firstPaint(build.filePath("bench_start_bare"))};
+                             firstPaint(build.filePath("bench_start_bare")),
+                             firstPaint(build.filePath("bench_start_libraries"))};
         if (round == 0)
             continue;
         version.append(ms[0]);
         assembled.append(ms[1]);
         window.append(ms[2]);
         bare.append(ms[3]);
+        libraries.append(ms[4]);
     }
     print("asm_version_ms", version);
     print("asm_project_ms", assembled);
     print("window_ms", window);
     print("bare_ms", bare);
+    print("libraries_ms", libraries);
     std::printf("window_ratio: %.2f\n", best(window) / best(bare));
     return 0;
 }

@@ -4,6 +4,7 @@
 set -eu
 bin=$(CDPATH= cd -- "$1" && pwd)
 here=$(CDPATH= cd -- "$(dirname -- "$0")" && pwd)
+release=$(sh "$here/../../tools/release-notes" version)
 shipped=$(dirname "$(dirname "$(readlink -f "$bin/nalvo")")")
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
@@ -11,6 +12,12 @@ fail() {
   echo "FAILED: $*" >&2
   exit 1
 }
+
+shown=$("$bin/nalvo" --version)
+case "$shown" in
+  *" $release") echo "$shown" ;;
+  *) fail "nalvo shows \"$shown\", the release is $release" ;;
+esac
 
 mkdir "$work/examples"
 cp -R "$shipped/examples/." "$work/examples"
