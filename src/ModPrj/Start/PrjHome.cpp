@@ -1,5 +1,6 @@
 #include "PrjHome.h"
 
+#include "DesktopRecents.h"
 #include "ExamplesDialog.h"
 
 #include "MyLinkButton.h"
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -212,7 +214,10 @@ bool PrjHome::eventFilter(QObject* watched, QEvent* event)
 
 void PrjHome::addRecent(const QString& file)
 {
-    m_recents.add(QFileInfo(file).absoluteFilePath());
+    const QString path = QFileInfo(file).absoluteFilePath();
+    m_recents.add(path);
+    // Waits for the disk, so the project is shown first.
+    QTimer::singleShot(0, this, [path] { DesktopRecents::add(path); });
     fillMenu();
     m_access.recentsChanged();
 }
