@@ -2,7 +2,9 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell"
+# The last ones read what is installed for desktops and shells: metadata, type of the project file, manual pages, completions.
+NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
+ desktop-file-utils appstream shared-mime-info man-db zsh"
 
 # need_packages NAME ...
 need_packages() {
