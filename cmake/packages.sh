@@ -2,8 +2,9 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-# The last ones read what is installed for desktops and shells: metadata, type of the project file, manual pages, completions.
+# The last line reads what is installed for desktops and shells: metadata, type of the project file, manual pages, completions.
 NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
+ binutils make srecord python3-yaml
  desktop-file-utils appstream shared-mime-info man-db zsh"
 
 # need_packages NAME ...

@@ -38,6 +38,16 @@ _nalvo_value()
         *:-f | *:--format) _nalvo_words "$3" "text json" ;;
         nalvo-asm:--explain) ;;
         nalvo-asm:-l | nalvo-asm:--listing | nalvo-asm:-s | nalvo-asm:--symbols) _nalvo_files "$3" ;;
+        nalvo-asm:--depfile | nalvo-asm:--depfile-target) _nalvo_files "$3" ;;
+        # KIND[:OPTION...]=FILE
+        nalvo-asm:-o | nalvo-asm:--output)
+            if [[ $3 == *=* ]]; then
+                _nalvo_files "${3#*=}"
+            elif [[ $3 != *:* ]]; then
+                compopt -o nospace 2>/dev/null
+                _nalvo_words "$3" "hex= mem= mif= coe= binary= ihex= ram="
+            fi
+            ;;
         nalvo-import:-d | nalvo-import:--dialect) _nalvo_words "$3" "auto kcpsm3 kcpsm6 pblazide mico8" ;;
         nalvo-import:--processor) _nalvo_words "$3" "pb3 pb6 mico8" ;;
         nalvo-import:-o | nalvo-import:--output | nalvo-import:-I)
@@ -48,7 +58,7 @@ _nalvo_value()
         nalvo-prove:--core) _nalvo_files "$3" v vhd vhdl ;;
         nalvo-prove:--language) _nalvo_words "$3" "verilog vhdl" ;;
         *:--reads | *:--stimulus | nalvo-sim:--trace | nalvo-sim:--vcd | nalvo-sim:--dump) _nalvo_files "$3" ;;
-        # ADDR=FILE: the part before the sign is a number, or a word of its own where the sign breaks words.
+        # ADDR=FILE
         *:--port) [[ $3 == *=* ]] && _nalvo_files "${3#*=}" ;;
         # Numbers and labels.
         *:-n | *:--instructions | *:--max-clocks | *:--hwbuild) ;;
@@ -63,8 +73,8 @@ _nalvo_options()
     local program=$1
     case $program in
         nalvo-asm)
-            echo "-e --event -f --format --in-place -l --listing -s --symbols -W --werror --allow-outside --explain
-                --external-programs -q -v -h --help --version"
+            echo "-e --event -f --format --in-place -l --listing -s --symbols -o --output --depfile --depfile-target
+                -W --werror --allow-outside --explain --external-programs -q -v -h --help --version"
             ;;
         nalvo-import)
             echo "-d --dialect -o --output -I --reference --image --processor -f --format --force -q -v -h --help --version"
@@ -82,30 +92,26 @@ _nalvo_options()
 
 _nalvo_tools()
 {
-    local program=${1##*/} current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]} i
+    local program=${1##*/} current=${COMP_WORDS[COMP_CWORD]} first=$COMP_CWORD value option i
     COMPREPLY=()
-    # "--option=value" and "ADDR=FILE" come as words of their own where "=" breaks words.
-    if [[ $current == = ]]; then
-        current=
-    elif [[ $previous == = ]]; then
-        previous=${COMP_WORDS[COMP_CWORD - 2]}
-    fi
-    if [[ ${COMP_WORDS[COMP_CWORD]} == = || ${COMP_WORDS[COMP_CWORD - 1]} == = ]]; then
-        # The file behind "--port ADDR=".
-        for i in 2 3 4; do
-            if [[ $COMP_CWORD -ge $i && ${COMP_WORDS[COMP_CWORD - i]} == --port ]]; then
-                _nalvo_files "$current"
-                return
-            fi
-        done
-    fi
     for ((i = 1; i < COMP_CWORD; ++i)); do
         if [[ ${COMP_WORDS[i]} == -- ]]; then
             _nalvo_operands "$program" "$current"
             return
         fi
     done
-    if [[ $previous == -* ]] && _nalvo_value "$program" "$previous" "$current"; then
+    # Bash breaks "--option=value" and "ADDR=FILE" at the signs, and replaces what is behind the last one.
+    value=$current
+    while [[ $first -gt 1 && (${COMP_WORDS[first]} == [=:] || ${COMP_WORDS[first - 1]} == [=:]) ]]; do
+        first=$((first - 1))
+        value=${COMP_WORDS[first]}$value
+    done
+    option=${COMP_WORDS[first - 1]}
+    if [[ $value == --*=* ]]; then
+        option=${value%%=*}
+        value=${value#*=}
+    fi
+    if [[ $option == -* ]] && _nalvo_value "$program" "$option" "$value"; then
         return
     fi
     if [[ $current == -* ]]; then

@@ -6,6 +6,15 @@ _nalvo_format_or_source() {
   _alternative 'formats:format:(text json)' 'files:source:_files -g "*.psm"'
 }
 
+# KIND[:OPTION...]=FILE
+_nalvo_output() {
+  if compset -P '*='; then
+    _files
+  else
+    compadd -S = -- hex mem mif coe binary ihex ram
+  fi
+}
+
 # ADDR=FILE: a number, then a file.
 _nalvo_port() {
   if compset -P '*='; then
@@ -44,6 +53,9 @@ case $service in
       '--in-place[write the formatted source back into its file]' \
       '(-l --listing)'{-l+,--listing=}'[write a listing]:listing:_files' \
       '(-s --symbols)'{-s+,--symbols=}'[write labels and constants as JSON]:file of symbols:_files' \
+      '*'{-o+,--output=}'[write the memory in a format]:kind and file:_nalvo_output' \
+      '--depfile=[write a rule for make or ninja]:rule:_files' \
+      '*--depfile-target=[what the rule is about]:name of the target:_files' \
       '(-W --werror)'{-W,--werror}'[count warnings as errors]' \
       '--allow-outside[write outputs that a source names outside of the folder]' \
       '--explain=[show what the help says about a message]:key of a message: ' \

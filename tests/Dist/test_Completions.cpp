@@ -7,6 +7,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <algorithm>
@@ -106,7 +107,20 @@ private:
 };
 
 INSTANTIATE_TEST_SUITE_P(Shells, Shell, ::testing::Values(std::string("bash"), std::string("zsh")),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& shell) { return shell.param; });
+
+/// The kinds of output that the manual page names.
+QStringList pageKinds()
+{
+    static const QRegularExpression name("^\\.Cm (\\w+)", QRegularExpression::MultilineOption);
+    const QString page = content(installed("man/man1/nalvo-asm.1"));
+    QStringList kinds;
+    auto names = name.globalMatch(page.section("Kinds are\n", 1).section("options are", 0, 0));
+    while (names.hasNext())
+        kinds.append(names.next().captured(1));
+    kinds.sort();
+    return kinds;
+}
 
 bool offersOptions(const QStringList& offered)
 {
@@ -183,6 +197,19 @@ TEST_P(Shell, offersTheValuesThatTheProgramTakes)
     }
 }
 
+TEST_P(Shell, offersTheKindsOfOutput)
+{
+    const QString help = helpText("nalvo-asm").simplified();
+    QStringList kinds = help.section("KIND is one of: ", 1).section('.', 0, 0).split(", ");
+    EXPECT_GE(kinds.size(), 5);
+    kinds.sort();
+    QStringList offered = offers("nalvo-asm --output ");
+    for (QString& kind : offered)
+        kind.remove('=');
+    EXPECT_EQ(offered, kinds);
+    EXPECT_EQ(pageKinds(), kinds);
+}
+
 TEST_P(Shell, offersFilesThatTheProgramsRead)
 {
     const QList<QPair<QString, QStringList>> expected = {
@@ -195,11 +222,15 @@ TEST_P(Shell, offersFilesThatTheProgramsRead)
         {"nalvo-asm --format ", {"a source.psm", "json", "sub", "text"}},
         {"nalvo-asm --listing v", {"values.txt"}},
         {"nalvo-asm --listing=v", {"values.txt"}},
+        {"nalvo-asm -o hex=v", {"values.txt"}},
+        {"nalvo-asm --output=hex=v", {"values.txt"}},
+        {"nalvo-asm --depfile=v", {"values.txt"}},
         {"nalvo-import ", {"a source.psm", "sub"}},
         {"nalvo-import --output ", {"sub"}},
         {"nalvo-prove --core ", {"core.vhd", "sub"}},
         {"nalvo-sim ", {"p.nalvo", "sub"}},
         {"nalvo-sim --port 0x10=v", {"values.txt"}},
+        {"nalvo-sim --port=0x10=v", {"values.txt"}},
         {"nalvo-sim -n ", {}},
     };
     QStringList lines;

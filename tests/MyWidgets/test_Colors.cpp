@@ -105,8 +105,9 @@ TEST_F(ColorsTest, formatsOfTextCanBeToldApartOnPaper)
     // Two dark colours that are equal come from equal light ones, or the way back is lost.
     for (int one = Colors::firstFormat; one <= Colors::lastFormat; ++one) {
         for (int other = one; other <= Colors::lastFormat; ++other) {
-            if (Colors::rows[one].dark == Colors::rows[other].dark)
+            if (Colors::rows[one].dark == Colors::rows[other].dark) {
                 EXPECT_EQ(Colors::rows[one].light, Colors::rows[other].light) << Colors::rows[one].name;
+            }
         }
     }
     Colors::setScheme(Colors::eDark);

@@ -270,8 +270,9 @@ TEST_F(Access, everyActionCanBeReachedByKeys)
     }
     for (const QToolBar* bar : window->findChildren<QToolBar*>()) {
         for (QAction* action : bar->actions()) {
-            if (!action->isSeparator())
+            if (!action->isSeparator()) {
                 EXPECT_TRUE(inMenus.contains(action)) << qPrintable(action->text());
+            }
         }
     }
 }

@@ -390,8 +390,9 @@ TEST_F(SourcesInWindow, theProjectGoesWhileItIsSearched)
     EXPECT_EQ(list()->topLevelItemCount(), 0);
     // Without a project there is nothing to search.
     for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text() == "Find in sources...")
+        if (action->text() == "Find in sources...") {
             EXPECT_FALSE(action->isEnabled());
+        }
     }
     EXPECT_TRUE(closeWindow());
 }

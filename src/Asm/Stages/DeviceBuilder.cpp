@@ -105,6 +105,31 @@ bool DeviceBuilder::setupIODevSetPath(Set* set, QString* value)
     return true;
 }
 
+bool DeviceBuilder::setupIODevSetWidth(Set* set, int* bits)
+{
+    int value = 0;
+    if (!setupIODevSetNumeric(set, &value))
+        return false;
+    if (value < 1 || value > TargetFile::maxWordWidth) {
+        m_messages.signMsg(errUnsupportedArgument, &set->srcRef, set->value);
+        return false;
+    }
+    *bits = value;
+    return true;
+}
+
+bool DeviceBuilder::setupIODevSetLayout(Set* set, const sTargetKind_t& kind, int* layout)
+{
+    set->used = true;
+    const int index = kind.layoutNames().indexOf(set->value.toLower());
+    if (index < 0) {
+        m_messages.signMsg(errUnsupportedArgument, &set->srcRef, set->value);
+        return false;
+    }
+    *layout = index;
+    return true;
+}
+
 bool DeviceBuilder::setupIODevAttrSize(IODev* dev)
 {
     Set* set = m_sets.find(dev->devName, "SIZE");
@@ -213,6 +238,11 @@ bool DeviceBuilder::setupIODevAttrTarget(IODev* dev, const sTargetKind_t& kind)
         return false;
     if (kind.hasGapStuffing &&
         !isTaken(parameter("GAPSTUFFING"), [&](Set* set) { return setupIODevSetBoolean(set, &target.gapStuffingEn); }))
+        return false;
+    if (kind.isImage &&
+        (!isTaken(parameter("WIDTH"), [&](Set* set) { return setupIODevSetWidth(set, &target.wordWidth); }) ||
+         (*kind.layouts != '\0' &&
+          !isTaken(parameter("LAYOUT"), [&](Set* set) { return setupIODevSetLayout(set, kind, &target.layout); }))))
         return false;
     return !target.en || checkTarget(dev, kind);
 }

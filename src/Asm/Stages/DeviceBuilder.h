@@ -49,6 +49,8 @@ private:
     bool setupIODevSetBoolean(Set* set, bool* value);
     bool setupIODevSetString(Set* set, QString* value);
     bool setupIODevSetPath(Set* set, QString* value);
+    bool setupIODevSetWidth(Set* set, int* bits);
+    bool setupIODevSetLayout(Set* set, const sTargetKind_t& kind, int* layout);
     bool setupIODevDefault();
     bool setupIODevChkInstMemMapped();
 

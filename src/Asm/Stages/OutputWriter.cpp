@@ -44,9 +44,14 @@ bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
     return success;
 }
 
+/// The event writes the files of this kind. Without any, those kinds that every project has still report that.
 bool OutputWriter::isWanted(const sTargetKind_t& kind, AsmFeConfig::eAssembleEvent_t event) const
 {
     const TargetConfig& config = m_config.targets[kind.kind];
+    const QList<IODev*>& devices = m_program.ioDevs.devices();
+    if (kind.isImage &&
+        std::none_of(devices.begin(), devices.end(), [&](const IODev* dev) { return dev->targets[kind.kind].en; }))
+        return false;
     switch (event) {
     case AsmFeConfig::eEventButton1:
         return config.writeFileEventBut1;
