@@ -195,6 +195,31 @@ TEST_F(BuildSystems, NinjaFollowsAllThatItReads)
     EXPECT_TRUE(exists("examples/build_systems/build/rom.mif"));
 }
 
+TEST_F(BuildSystems, TheInstalledPackageFindsTheProgramBesideIt)
+{
+    write("dist/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Dist VERSION 1.2 LANGUAGES NONE)\n"
+                                 "add_subdirectory(" NALVO_SOURCE_DIR "/dist/cmake cmake)\n");
+    ASSERT_EQ(call("cmake", {"-S", path("dist"), "-B", path("dist-build")}).status, 0);
+    const AsmToolResult installed = call("cmake", {"--install", path("dist-build"), "--prefix", path("usr")});
+    ASSERT_EQ(installed.status, 0) << installed.err.constData();
+    mkdir("usr/bin");
+    ASSERT_TRUE(QFile::link(NALVO_ASM, path("usr/bin/nalvo-asm")));
+    write("own/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Own LANGUAGES NONE)\n"
+                                "find_package(Nalvo 1.1 REQUIRED)\n"
+                                "nalvo_add_rom(rom ALL PROJECT ../" +
+                                    QByteArray(project) + " OUTPUT hex=rom.hex)\n");
+    const AsmToolResult configured =
+        call("cmake", {"-S", path("own"), "-B", path("build"), "-DCMAKE_PREFIX_PATH=" + path("usr")});
+    ASSERT_EQ(configured.status, 0) << configured.err.constData();
+    EXPECT_TRUE(read("build/CMakeCache.txt").contains(path("usr/bin/nalvo-asm").toUtf8()));
+    ASSERT_EQ(call("cmake", {"--build", path("build")}).status, 0);
+    EXPECT_EQ(read("build/rom.hex"), expectedHex());
+    // A newer release than the installed one is another package.
+    write("own/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Own LANGUAGES NONE)\n"
+                                "find_package(Nalvo 1.3 REQUIRED)\n");
+    EXPECT_NE(call("cmake", {"-S", path("own"), "-B", path("other"), "-DCMAKE_PREFIX_PATH=" + path("usr")}).status, 0);
+}
+
 /// As FuseSoC calls it: with a YAML file, in a folder of its own.
 TEST_F(BuildSystems, TheGeneratorWritesTheFilesAndTheirCore)
 {
