@@ -56,7 +56,7 @@ QStringList entriesOf(const QByteArray& list)
         const QXmlStreamAttributes attributes = reader.attributes();
         if (reader.name() == QLatin1String("bookmark")) {
             href = attributes.value("href").toString();
-            times = attributes.value("modified") + "|" + attributes.value("visited");
+            times = attributes.value("modified").toString() + '|' + attributes.value("visited").toString();
         } else if (reader.name() == QLatin1String("application")) {
             entries.append(
                 QStringList{href, attributes.value("name").toString(), attributes.value("count").toString(), times}
