@@ -2,9 +2,14 @@
 
 NALVO_BUILD_PACKAGES="g++ cmake ninja-build qtbase5-dev libqt5svg5-dev qtscript5-dev qttools5-dev qhelpgenerator-qt5 libqt5webkit5-dev
  libcmark-gfm-dev libcmark-gfm-extensions-dev libgtest-dev libgmock-dev fonts-dejavu-core fonts-dejavu-extra"
-# The editors that read our syntax definitions, or the parts of them that do: what highlights for Kate, the schema of GtkSourceView, Vim.
+# The first line checks and runs our own; the others read what is made for other tools, for desktops and shells, and for other editors:
+# the library that highlights for Kate, the schema of GtkSourceView, Vim.
 NALVO_TEST_PACKAGES="ghdl iverilog clang-format hunspell hunspell-en-gb chromium-headless-shell
+ binutils make srecord python3-yaml
+ desktop-file-utils appstream shared-mime-info man-db zsh
  libkf5syntaxhighlighting-tools libgtksourceview-4-common libxml2-utils vim"
+# For tools/package alone.
+NALVO_PACKAGE_PACKAGES="debhelper lintian"
 
 # need_packages NAME ...
 need_packages() {

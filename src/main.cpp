@@ -1,4 +1,5 @@
 #include "Nalvo.h"
+#include "ProgramInfo.h"
 
 #include <QApplication>
 
@@ -6,6 +7,10 @@
 
 int main(int argc, char** argv)
 {
+    if (ProgramInfo::isAsked(argc, argv))
+        return ProgramInfo::show(argc, argv);
+    // By this name the desktop finds name and icon of the windows.
+    QGuiApplication::setDesktopFileName(QStringLiteral("example.brelmont.nalvo"));
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     // Both live until the process ends.

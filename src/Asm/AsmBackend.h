@@ -8,6 +8,7 @@ namespace nsModAsmFe {
 class AsmFeMsgHndlr;
 class IODevList;
 class OpcodeList;
+class RunWatch;
 class SetList;
 
 /// The part of the program that a back end works on during a run, and the settings that concern it. Nothing is owned;
@@ -18,6 +19,7 @@ struct AsmBeProgram
     SetList* sets = nullptr;           ///< read, and those of the processor marked as used
     IODevList* ioDevs = nullptr;       ///< read; filled before the second stage
     AsmFeMsgHndlr* msgHndlr = nullptr; ///< reports
+    RunWatch* watch = nullptr;         ///< of the run in progress; null outside of a run
     bool isSetRefused = false;         ///< a `#SET` over a setting of the configuration is an error
     bool isSetWarned = false;          ///< a `#SET` over a setting of the configuration warns
     int pageSize = 0;                  ///< words of an instruction memory page, from the memory mapper

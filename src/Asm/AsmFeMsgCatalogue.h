@@ -125,6 +125,7 @@ enum eMsgType_t {
     warnTargetStuffing = 118,
     errTargetOutside = 119,
     errInternal = 120,
+    errTargetWordTooWide = 121,
     eMsgTypeCount, ///< number of messages, not a message
 };
 

@@ -68,6 +68,9 @@ public:
     /// The run is about to write these files. Whoever wrote the project has named them, which need not be the user.
     /// @return those that must not be written
     virtual QStringList refusedOutputs(const QVector<AsmOutsideFile>&) { return {}; }
+    /// The output files are written from now on, which is not cancelled: what runGoesOn() returns does not matter any
+    /// more, so that the files are all of one run.
+    virtual void outputsBegin() {}
     /// What the user can do about a refused file, for the message.
     virtual QString refusalHint() { return QString(); }
     /// The output files are written: external programs that belong to the event may run.

@@ -66,6 +66,7 @@ bool Assembler::run(const QStringList& sources, const AsmProjectInfo& project, A
         return false;
     m_running = true;
     m_runSucceeded = false;
+    m_watch = RunWatch(m_listener);
     m_project = project;
     m_messages.clearMessages();
     m_messages.openGroup(AsmFeMsgHndlr::tr("Assembling..."));
@@ -113,7 +114,7 @@ void Assembler::clear()
 template <class Stage>
 bool Assembler::runGroup(eMsgGrp_t group, const QString& arg, Stage stage)
 {
-    const bool goesOn = m_listener->runGoesOn(0);
+    const bool goesOn = m_watch.ask();
     m_messages.signMsgGroup(group, arg);
     // Whoever shows the group may have taken away what the stage works with.
     m_assembled = goesOn && !m_abandoned && stage() && !m_abandoned;
@@ -128,9 +129,9 @@ void Assembler::runFrontEndStages(const QStringList& sources)
     m_listener->naviTagsComplete();
     if (!parsed)
         return;
-    SetChecker sets(m_program.sets, m_charsets, m_numbers, m_messages, *m_listener);
-    SymbolChecker symbols(m_program, m_words, m_messages);
-    MemoryMapper mapper(m_program, m_config, m_numbers, m_messages);
+    SetChecker sets(m_program.sets, m_charsets, m_numbers, m_messages, *m_listener, m_watch);
+    SymbolChecker symbols(m_program, m_words, m_messages, m_watch);
+    MemoryMapper mapper(m_program, m_config, m_numbers, m_messages, m_watch);
     if (runGroup(chkSetDirectives, QString(), [&] { return sets.syntacticsCheckSet(); }) &&
         runGroup(chkLabelDirectives, QString(), [&] { return symbols.syntacticsCheckLabel(); }) &&
         runGroup(chkOrgDirectives, QString(), [&] { return mapper.mapOpcodeToMemCheckOrgDirectives(); }))
@@ -170,7 +171,7 @@ bool Assembler::checkEqus()
     ArgumentChecker arguments(m_numbers, m_messages);
     FormulaResolver formulas(m_program.equs, m_numbers, m_messages);
     StringEncoder strings(m_charsets, m_config, m_numbers, m_messages);
-    return EquResolver(m_program.equs, m_words, arguments, formulas, strings, m_numbers, m_messages)
+    return EquResolver(m_program.equs, m_words, arguments, formulas, strings, m_numbers, m_messages, m_watch)
         .syntacticsCheckEquArguments();
 }
 
@@ -179,15 +180,15 @@ bool Assembler::checkInstructions()
     ArgumentChecker arguments(m_numbers, m_messages);
     FormulaResolver formulas(m_program.equs, m_numbers, m_messages);
     StringEncoder strings(m_charsets, m_config, m_numbers, m_messages);
-    return InstructionChecker(m_program, m_words, arguments, formulas, strings, m_numbers, m_messages)
+    return InstructionChecker(m_program, m_words, arguments, formulas, strings, m_numbers, m_messages, m_watch)
         .syntacticsCheckOpcode();
 }
 
 void Assembler::runBackEndStages()
 {
     const QString processor = m_backend->processorName();
-    MemoryMapper mapper(m_program, m_config, m_numbers, m_messages);
-    DeviceBuilder devices(m_program, m_config, m_project, m_numbers, m_messages);
+    MemoryMapper mapper(m_program, m_config, m_numbers, m_messages, m_watch);
+    DeviceBuilder devices(m_program, m_config, m_project, m_numbers, m_messages, m_watch);
     if (!runGroup(grpMapOpcodeToMem, QString(), [&] { return mapper.mapOpcodeToMem(m_backend->beConfig()); }))
         return;
     runGroup(refreshMemAddrMapInfo, QString(), [&] {
@@ -211,6 +212,7 @@ AsmBeProgram Assembler::backendProgram()
     program.sets = &m_program.sets;
     program.ioDevs = &m_program.ioDevs;
     program.msgHndlr = &m_messages;
+    program.watch = &m_watch;
     program.isSetRefused = m_config.behaviorSet == AsmFeConfig::setError;
     program.isSetWarned = m_config.behaviorSet == AsmFeConfig::setWarn;
     program.pageSize = m_program.geometry.pageSize;
@@ -223,8 +225,8 @@ AsmBeProgram Assembler::backendProgram()
 void Assembler::finishRun()
 {
     runGroup(grpUsageCheck, QString(), [&] {
-        SymbolChecker(m_program, m_words, m_messages).usageCheck();
-        return true;
+        SymbolChecker(m_program, m_words, m_messages, m_watch).usageCheck();
+        return m_watch.ask();
     });
     m_listener->programComplete();
     runGroup(refreshTextCompleter, QString(), [&] {

@@ -8,6 +8,7 @@
 #include "AsmProjectInfo.h"
 #include "AsmRunListener.h"
 #include "AsmWords.h"
+#include "RunWatch.h"
 #include "SymbolTable.h"
 
 #include <QStringList>
@@ -102,6 +103,7 @@ private:
     AsmBackend* m_backend = nullptr; ///< not owned
     AsmRunListener m_nobody;         ///< stands in for a listener
     AsmRunListener* m_listener;      ///< not owned
+    RunWatch m_watch;                ///< of the run in progress
     AsmFeParseArg m_numbers;
     AsmCharsets m_charsets;
     AsmWords m_words;

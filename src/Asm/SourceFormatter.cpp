@@ -139,6 +139,9 @@ QString SourceFormatter::codeLine(const QString& line) const
 
 QByteArray SourceFormatter::formatted(const QByteArray& source) const
 {
+    // Of two bytes a character, one can look like a blank.
+    if (source.startsWith("\xff\xfe") || source.startsWith("\xfe\xff"))
+        return source;
     static const QByteArray mark("\xef\xbb\xbf");
     QByteArray result = source.startsWith(mark) ? mark : QByteArray();
     int pos = result.size();

@@ -10,8 +10,9 @@ namespace nsModAction {
 
 namespace {
 
-/// On an action: the keys that it was made with, as text.
+/// On an action: the keys that it comes with, and those that it was given here, as text.
 const char* const standardProperty = "standardKeys";
+const char* const givenProperty = "givenKeys";
 
 QString textOf(const QList<QKeySequence>& keys)
 {
@@ -24,10 +25,22 @@ bool hasKeys(const QAction* action)
     return !action->shortcuts().isEmpty() || !action->property(standardProperty).toString().isEmpty();
 }
 
+bool isKnown(const QKeySequence& keys)
+{
+    for (int i = 0; i < keys.count(); ++i) {
+        if ((keys[i] & ~int(Qt::KeyboardModifierMask)) == Qt::Key_unknown)
+            return false;
+    }
+    return keys.count() > 0;
+}
+
 QList<QKeySequence> keysOf(const QString& text)
 {
-    QList<QKeySequence> keys = QKeySequence::listFromString(text, QKeySequence::PortableText);
-    keys.removeAll(QKeySequence());
+    QList<QKeySequence> keys;
+    for (const QKeySequence& one : QKeySequence::listFromString(text, QKeySequence::PortableText)) {
+        if (isKnown(one))
+            keys.append(one);
+    }
     return keys;
 }
 
@@ -68,11 +81,14 @@ QString Shortcuts::idOf(const QString& menu, const QAction* action)
 
 QList<QKeySequence> Shortcuts::standardKeys(QAction* action)
 {
-    const QVariant known = action->property(standardProperty);
-    if (known.isValid())
-        return keysOf(known.toString());
-    action->setProperty(standardProperty, textOf(action->shortcuts()));
-    return action->shortcuts();
+    // Its owner may give it other keys later.
+    const QString present = textOf(action->shortcuts());
+    const QVariant given = action->property(givenProperty);
+    if (!given.isValid() || given.toString() != present) {
+        action->setProperty(standardProperty, present);
+        action->setProperty(givenProperty, present);
+    }
+    return keysOf(action->property(standardProperty).toString());
 }
 
 void Shortcuts::apply(const QString& menu, QAction* action) const
@@ -81,6 +97,7 @@ void Shortcuts::apply(const QString& menu, QAction* action) const
     const QList<QKeySequence> keys = m_chosen.value(idOf(menu, action), standard);
     if (keys != action->shortcuts())
         action->setShortcuts(keys);
+    action->setProperty(givenProperty, textOf(action->shortcuts()));
 }
 
 void Shortcuts::setEntries(const QString& menu, const QList<QAction*>& actions)
@@ -91,6 +108,7 @@ void Shortcuts::setEntries(const QString& menu, const QList<QAction*>& actions)
     entries.clear();
     for (QAction* action : commandsIn(actions)) {
         entries.append(action);
+        m_standard.insert(idOf(menu, action), standardKeys(action));
         apply(menu, action);
     }
 }
@@ -110,14 +128,17 @@ QVector<Shortcuts::sCommand_t> Shortcuts::commands() const
 
 void Shortcuts::setChosen(const QHash<QString, QList<QKeySequence>>& chosen)
 {
-    const QVector<sCommand_t> known = commands();
-    for (const sCommand_t& command : known) {
-        const auto it = chosen.constFind(command.id);
-        if (it == chosen.constEnd() || *it == command.standard)
-            m_chosen.remove(command.id);
+    for (auto it = chosen.cbegin(); it != chosen.cend(); ++it) {
+        if (*it == m_standard.value(it.key()))
+            m_chosen.remove(it.key());
         else
-            m_chosen.insert(command.id, *it);
+            m_chosen.insert(it.key(), *it);
     }
+    applyAll();
+}
+
+void Shortcuts::applyAll()
+{
     for (const QString& menu : qAsConst(m_menus)) {
         for (const QPointer<QAction>& action : m_entries.value(menu)) {
             if (action != nullptr)
@@ -141,15 +162,13 @@ void Shortcuts::setStored(const QStringList& entries)
     for (const QString& entry : entries) {
         // A key can be "=", an id has none behind its last one that separates: the first one does.
         const int separator = entry.indexOf(QLatin1Char('='));
-        if (separator > 0)
-            m_chosen.insert(entry.left(separator), keysOf(entry.mid(separator + 1)));
+        const QString text = entry.mid(separator + 1);
+        const QList<QKeySequence> keys = keysOf(text);
+        // Without keys on purpose, or what is there can not be read.
+        if (separator > 0 && (text.isEmpty() || !keys.isEmpty()))
+            m_chosen.insert(entry.left(separator), keys);
     }
-    for (const QString& menu : qAsConst(m_menus)) {
-        for (const QPointer<QAction>& action : m_entries.value(menu)) {
-            if (action != nullptr)
-                apply(menu, action);
-        }
-    }
+    applyAll();
 }
 
 } // namespace nsModAction

@@ -29,7 +29,7 @@ public:
 
     /// The commands in the order of the menus.
     QVector<sCommand_t> commands() const;
-    /// Other keys for commands; those that are not named get the keys that they come with.
+    /// Other keys for commands. Those that are not named keep theirs: they have come since the list was asked for.
     void setChosen(const QHash<QString, QList<QKeySequence>>& chosen);
 
     /// What the settings hold: an entry "id=keys" for each command with other keys than it comes with.
@@ -42,10 +42,12 @@ private:
     static QString idOf(const QString& menu, const QAction* action);
     static QList<QKeySequence> standardKeys(QAction* action);
     void apply(const QString& menu, QAction* action) const;
+    void applyAll();
 
     QStringList m_menus; ///< in the order of setEntries()
     QHash<QString, QList<QPointer<QAction>>> m_entries;
-    QHash<QString, QList<QKeySequence>> m_chosen; ///< by id, also of commands that are not there now
+    QHash<QString, QList<QKeySequence>> m_standard; ///< by id, of all commands so far
+    QHash<QString, QList<QKeySequence>> m_chosen;   ///< by id, also of commands that are not there now
 };
 
 } // namespace nsModAction

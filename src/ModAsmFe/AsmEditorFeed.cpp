@@ -117,26 +117,28 @@ void AsmEditorFeed::setupSupportMenuNames(EditorSupportMenu* menu, const QString
 {
     if (names == *shown)
         return;
-    const QSet<QString> before(shown->cbegin(), shown->cend());
+    QSet<QString> inMenu(shown->cbegin(), shown->cend());
     const QSet<QString> now(names.cbegin(), names.cend());
-    QSet<QString> gone = before;
-    gone.subtract(now);
-    QSet<QString> added = now;
-    added.subtract(before);
+    const QSet<QString> gone = QSet<QString>(inMenu).subtract(now);
+    bool goesOn = true;
     if (now.isEmpty() || gone.size() > now.size() / 2) {
         menu->removeEntry(title);
-        gone.clear();
-        added = now;
+        inMenu.clear();
+    } else {
+        for (auto name = gone.cbegin(); name != gone.cend() && goesOn; ++name) {
+            menu->removeEntry(title + '/' + *name);
+            inMenu.remove(*name);
+            goesOn = m_listener.runGoesOn(0);
+        }
     }
-    for (const QString& name : qAsConst(gone)) {
-        m_listener.runGoesOn(0);
-        menu->removeEntry(title + '/' + name);
+    const QSet<QString> added = QSet<QString>(now).subtract(inMenu);
+    for (auto name = added.cbegin(); name != added.cend() && goesOn; ++name) {
+        menu->setEntry(title + '/' + *name, *name, EditorSupportMenu::typeText);
+        inMenu.insert(*name);
+        goesOn = m_listener.runGoesOn(0);
     }
-    for (const QString& name : qAsConst(added)) {
-        m_listener.runGoesOn(0);
-        menu->setEntry(title + '/' + name, name, EditorSupportMenu::typeText);
-    }
-    *shown = names;
+    // Where the run was cancelled the next one goes on from what the menu has.
+    *shown = goesOn ? names : QStringList(inMenu.values());
 }
 
 void AsmEditorFeed::setupSupportMenuHardware(ModEditorHookIf* editor)

@@ -151,6 +151,7 @@ public slots:
 private:
     // AsmRunListener
     bool runGoesOn(int lines) override;
+    void outputsBegin() override;
     void programDropped() override;
     bool wantsNaviTags() override { return modSrcNaviHook != nullptr; }
     void naviTagFound(const AsmNaviTag& tag) override;

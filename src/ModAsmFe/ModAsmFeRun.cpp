@@ -70,7 +70,7 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
     m_busy = nullptr;
     m_work = nullptr;
     if (work.isCancelled() && modMsgHook != nullptr)
-        modMsgHook->showWarningMessage(tr("The run was cancelled."));
+        modMsgHook->showWarningMessage(tr("The run was cancelled. The output files are as they were."));
     showFiles();
     showWritten();
     m_plugins.forEach([](ModAsmFePluginIf* plugin) { plugin->asmRunEnded(); });
@@ -106,6 +106,12 @@ bool ModAsmFe::runGoesOn(int lines)
     if (m_busy != nullptr)
         m_busy->goesOn();
     return m_work == nullptr || m_work->goesOn(lines > 0 ? tr("%1 lines").arg(lines) : QString());
+}
+
+void ModAsmFe::outputsBegin()
+{
+    if (m_work != nullptr)
+        m_work->commits();
 }
 
 void ModAsmFe::programDropped()

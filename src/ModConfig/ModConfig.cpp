@@ -1,6 +1,8 @@
 #include "ModConfig.h"
 
+#include "Colors.h"
 #include "ConfigDialog.h"
+#include "ConfigKeys.h"
 #include "ModConfigPagePluginIf.h"
 #include "PageValues.h"
 
@@ -25,6 +27,8 @@ namespace nsModConfig {
 ModConfig::ModConfig(QObject* parent)
     : QObject(parent)
 {
+    // Before the pages, which are made later: they still show the colours of the former scheme.
+    connect(Colors::instance(), &Colors::changed, this, &ModConfig::takeNewColors);
 }
 
 ModConfig::~ModConfig() = default;
@@ -66,6 +70,8 @@ void ModConfig::openDialog()
     m_plugins.forEach([this](ModConfigPluginIf* plugin) { addPages(plugin); });
     connect(m_list, &QListWidget::currentItemChanged, this, &ModConfig::changeDlgPage);
     enableConfigItems(modPrjHook != nullptr && modPrjHook->isValid());
+    if (modCfgAppHook != nullptr && modCfgAppHook->value(configKeys::opensAtLastPage, 0) != 0)
+        selectLastPage();
     setDockRightVisible(false);
     m_state = eState_t::open;
     m_dialog->setFocus();
@@ -167,6 +173,16 @@ bool ModConfig::selectDialogPageByTitle(QString title)
     return false;
 }
 
+/// Where that page is gone or needs a project, the first one stays.
+void ModConfig::selectLastPage()
+{
+    const QString title = modCfgAppHook->value(configKeys::lastPage, QString());
+    for (QListWidgetItem* item : items()) {
+        if (item->text() == title && (item->flags() & Qt::ItemIsEnabled) != 0)
+            m_list->setCurrentItem(item);
+    }
+}
+
 void ModConfig::enableConfigItems(bool enable)
 {
     for (QListWidgetItem* item : items()) {
@@ -245,8 +261,11 @@ void ModConfig::closeDialog(bool accepted)
     std::optional<nsModMsg::MsgGroup> group;
     if (accepted)
         group.emplace(modMsgHook, tr("Applying the configuration..."));
+    const QString lastPage = m_list->currentItem() != nullptr ? m_list->currentItem()->text() : QString();
     closePages(accepted);
     removeDialog();
+    if (modCfgAppHook != nullptr && modCfgAppHook->value(configKeys::opensAtLastPage, 0) != 0)
+        modCfgAppHook->setValue(configKeys::lastPage, lastPage);
     m_state = eState_t::closed;
     if (accepted)
         saveConfig();
@@ -382,6 +401,26 @@ bool ModConfig::isChanged() const
             return true;
     }
     return false;
+}
+
+/// Another colour scheme changes what pages show, which is no change of the user's.
+void ModConfig::takeNewColors()
+{
+    QList<ModConfigPagePluginIf*> unchanged;
+    for (const sConfigItem_t& entry : qAsConst(m_items)) {
+        if (PageValues::of(entry.page->pageWidget()) == entry.values)
+            unchanged.append(entry.page);
+    }
+    const QPointer<ConfigDialog> dialog(m_dialog);
+    QMetaObject::invokeMethod(
+        this,
+        [this, dialog, unchanged] {
+            for (sConfigItem_t& entry : m_items) {
+                if (dialog != nullptr && dialog == m_dialog && unchanged.contains(entry.page))
+                    entry.values = PageValues::of(entry.page->pageWidget());
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 void ModConfig::handleActions(ActionsConfig::eAction_t)

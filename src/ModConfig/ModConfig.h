@@ -93,6 +93,7 @@ private slots:
     /// Shows the help of the current page beside the dialog.
     void hndlEventHelp();
     void forgetDialog();
+    void takeNewColors();
     void changeDlgPage(QListWidgetItem* next, QListWidgetItem* prev);
 
 private:
@@ -113,6 +114,7 @@ private:
     void forgetPage(ModConfigPagePluginIf* page);
     void enableConfigItems(bool enable);
     void selectFirstEnabled();
+    void selectLastPage();
     bool mayApply();
     void fillPage(QListWidgetItem* item);
     bool isChanged() const;

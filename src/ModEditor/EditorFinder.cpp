@@ -1,8 +1,8 @@
 #include "EditorFinder.h"
 
+#include "DocumentViews.h"
 #include "EditorWidget.h"
 #include "OpenDocuments.h"
-#include "TextOverlay.h"
 
 #include "ModFindReplaceHookIf.h"
 #include "ModFindReplacePluginIf.h"
@@ -257,7 +257,7 @@ void EditorFinder::preview()
     takeRange(parameter);
     const TextSearch search(searchOf(parameter));
     for (EditorWidget* widget : m_documents->all())
-        widget->overlay()->setHits(widget == current && search.isValid() ? search.expression() : QRegularExpression());
+        widget->views()->setHits(widget == current && search.isValid() ? search.expression() : QRegularExpression());
     showCount();
     if (current == nullptr || !search.isValid())
         return;
@@ -318,7 +318,7 @@ void EditorFinder::end()
     m_isPreviewing = false;
     m_pause.stop();
     for (EditorWidget* widget : m_documents->all())
-        widget->overlay()->setHits(QRegularExpression());
+        widget->views()->setHits(QRegularExpression());
     if (EditorWidget* widget = m_documents->current())
         widget->ensureCursorVisible();
 }

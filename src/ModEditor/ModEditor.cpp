@@ -6,6 +6,7 @@
 #include "DocumentMarks.h"
 #include "DocumentSession.h"
 #include "DocumentSync.h"
+#include "DocumentViews.h"
 #include "EditorConfigPage.h"
 #include "EditorFinder.h"
 #include "EditorKeys.h"
@@ -503,6 +504,7 @@ void ModEditor::configureEditorWidget(EditorWidget* widget)
     widget->leftMargin()->setStartPointerColor(Colors::shown(Colors::eMarkStart, simStartAddressSymbolColor));
     widget->leftMargin()->setBookmarkColor(Colors::shown(Colors::eMarkBookmark, bookmarkSymbolColor));
     widget->setMemPageAddrEn(memPageAddrEn == memPageAddrOn || (memPageAddrEn == memPageAddrSimOnly && m_simEnabled));
+    widget->views()->takeLook();
     widget->rehighlight();
 }
 

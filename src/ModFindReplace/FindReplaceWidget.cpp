@@ -22,6 +22,8 @@ constexpr int gap = 8;           ///< the grid of the interface
 constexpr int smallestEdit = 96; ///< width of the text fields in a narrow window
 
 enum eColumn_t { columnClose, columnToggle, columnLabel, columnEdit, columnButtons, columnOptions, columnCount };
+/// A row that has nothing takes no room.
+enum eRow_t { rowFind, rowFindButtons, rowReplace, rowReplaceButtons, rowOptions };
 
 } // namespace
 
@@ -37,7 +39,7 @@ FindReplaceWidget::FindReplaceWidget(QWidget* parent)
     setupReplaceRow(layout);
     setupOptions();
     layout->setColumnStretch(columnEdit, 1);
-    layout->addWidget(m_options, 0, columnOptions);
+    arrange();
     // Fixed width, so that the fields do not move when the second row is shown or hidden.
     layout->setColumnMinimumWidth(columnLabel, labelWidth());
     setupTabOrder();
@@ -67,11 +69,10 @@ void FindReplaceWidget::setupFindRow(QGridLayout* layout)
     m_prevButton = addButton(buttons, "buttonPrevious", tr("&Previous"), tr("Find the previous hit"));
     buttons->addStretch();
 
-    layout->addWidget(m_close, 0, columnClose);
-    layout->addWidget(m_toggle, 0, columnToggle);
-    layout->addWidget(m_findLabel, 0, columnLabel);
-    layout->addWidget(m_find, 0, columnEdit);
-    layout->addWidget(m_findButtons, 0, columnButtons);
+    layout->addWidget(m_close, rowFind, columnClose);
+    layout->addWidget(m_toggle, rowFind, columnToggle);
+    layout->addWidget(m_findLabel, rowFind, columnLabel);
+    layout->addWidget(m_find, rowFind, columnEdit);
 
     connect(m_find, &QLineEdit::textChanged, this, &FindReplaceWidget::chkFindStringVld);
     connect(m_nextButton, &QPushButton::clicked, this, &FindReplaceWidget::findNext);
@@ -99,9 +100,8 @@ void FindReplaceWidget::setupReplaceRow(QGridLayout* layout)
     m_replaceAllButton = addButton(buttons, "buttonReplaceAll", tr("Replace &all"), tr("Replace all hits"));
     buttons->addStretch();
 
-    layout->addWidget(m_replaceLabel, 1, columnLabel);
-    layout->addWidget(m_replace, 1, columnEdit);
-    layout->addWidget(m_replaceButtons, 1, columnButtons);
+    layout->addWidget(m_replaceLabel, rowReplace, columnLabel);
+    layout->addWidget(m_replace, rowReplace, columnEdit);
 
     connect(m_replace, &QLineEdit::textChanged, this, &FindReplaceWidget::configChanged);
     connect(m_replaceButton, &QPushButton::clicked, this, &FindReplaceWidget::replace);
@@ -120,11 +120,11 @@ void FindReplaceWidget::setupOptions()
                          tr("Regular expression; in the replacement, \\1 is what its first group has found"));
     m_inSelection = addOption("buttonInSelection", QStringLiteral("[ ]"), tr("Only in what is selected now"));
     // In a narrow window, one row is above the other.
-    auto* boxes = new QHBoxLayout;
-    boxes->setSpacing(gap);
-    boxes->addWidget(m_caseSensitive);
-    boxes->addWidget(m_wholeWords);
-    boxes->addStretch();
+    m_boxes = new QHBoxLayout;
+    m_boxes->setSpacing(gap);
+    m_boxes->addWidget(m_caseSensitive);
+    m_boxes->addWidget(m_wholeWords);
+    m_boxes->addStretch();
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap / 2);
     buttons->addWidget(m_regExp);
@@ -133,7 +133,7 @@ void FindReplaceWidget::setupOptions()
     m_resultBelow->setEnabled(false);
     buttons->addWidget(m_resultBelow);
     buttons->addStretch();
-    layout->addLayout(boxes);
+    layout->addLayout(m_boxes);
     layout->addLayout(buttons);
     m_result = new QLabel(m_find);
     m_result->setObjectName(QStringLiteral("labelResult"));
@@ -149,20 +149,25 @@ int FindReplaceWidget::labelWidth() const
     return qMax(m_findLabel->sizeHint().width(), m_replaceLabel->sizeHint().width());
 }
 
-int FindReplaceWidget::narrowWidth() const
+/// Of the row with a text field and nothing behind it.
+int FindReplaceWidget::fieldWidth() const
 {
-    int width = smallestEdit;
-    for (const QWidget* part : {static_cast<QWidget*>(m_close), static_cast<QWidget*>(m_toggle)})
-        width += part->sizeHint().width();
-    width += labelWidth();
-    width += qMax(m_findButtons->sizeHint().width(), m_replaceButtons->sizeHint().width());
     const QMargins margins = layout()->contentsMargins();
-    return width + columnButtons * gap + margins.left() + margins.right();
+    return m_close->sizeHint().width() + m_toggle->sizeHint().width() + labelWidth() + smallestEdit + columnEdit * gap +
+           margins.left() + margins.right();
+}
+
+int FindReplaceWidget::buttonsWidth() const
+{
+    return qMax(m_findButtons->sizeHint().width(), m_replaceButtons->sizeHint().width());
 }
 
 QSize FindReplaceWidget::minimumSizeHint() const
 {
-    return QSize(narrowWidth(), QWidget::minimumSizeHint().height());
+    const QMargins margins = layout()->contentsMargins();
+    const int boxes = qMax(m_caseSensitive->sizeHint().width(), m_wholeWords->sizeHint().width());
+    const int width = qMax(fieldWidth(), qMax(buttonsWidth(), boxes) + margins.left() + margins.right());
+    return QSize(width, QWidget::minimumSizeHint().height());
 }
 
 void FindReplaceWidget::resizeEvent(QResizeEvent* event)
@@ -170,23 +175,45 @@ void FindReplaceWidget::resizeEvent(QResizeEvent* event)
     QWidget::resizeEvent(event);
     placeResult();
     // The width that the options have in one row, in whichever way they stand now.
-    int options = gap;
+    int options = 0;
     for (const QWidget* part : {static_cast<QWidget*>(m_caseSensitive), static_cast<QWidget*>(m_wholeWords),
                                 static_cast<QWidget*>(m_regExp), static_cast<QWidget*>(m_inSelection)})
         options += part->sizeHint().width() + gap;
-    const bool narrow = width() < narrowWidth() + gap + options;
-    if (narrow == m_narrow)
+    const int narrow = fieldWidth() + gap + buttonsWidth();
+    const eSpace_t space = width() < narrow ? eTight : width() < narrow + 2 * gap + options ? eNarrow : eWide;
+    const QMargins margins = layout()->contentsMargins();
+    const int boxes = m_caseSensitive->sizeHint().width() + gap + m_wholeWords->sizeHint().width();
+    const bool areBeside = width() >= boxes + margins.left() + margins.right();
+    if (space == m_space && areBeside == m_areBoxesBeside)
         return;
-    m_narrow = narrow;
-    auto* grid = static_cast<QGridLayout*>(layout());
-    grid->removeWidget(m_options);
-    static_cast<QBoxLayout*>(m_options->layout())
-        ->setDirection(narrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    if (narrow)
-        grid->addWidget(m_options, 2, columnEdit, 1, columnCount - columnEdit);
-    else
-        grid->addWidget(m_options, 0, columnOptions);
+    m_space = space;
+    m_areBoxesBeside = areBeside;
+    arrange();
     updateGeometry();
+}
+
+/// In a narrow window the options stand below the fields, in a tight one the buttons do, too.
+void FindReplaceWidget::arrange()
+{
+    auto* grid = static_cast<QGridLayout*>(layout());
+    for (QWidget* part : {m_findButtons, m_replaceButtons, m_options})
+        grid->removeWidget(part);
+    const bool tight = m_space == eTight;
+    static_cast<QBoxLayout*>(m_options->layout())
+        ->setDirection(m_space == eWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    m_boxes->setDirection(m_areBoxesBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+    if (tight) {
+        grid->addWidget(m_findButtons, rowFindButtons, columnClose, 1, columnCount);
+        grid->addWidget(m_replaceButtons, rowReplaceButtons, columnClose, 1, columnCount);
+        grid->addWidget(m_options, rowOptions, columnClose, 1, columnCount);
+        return;
+    }
+    grid->addWidget(m_findButtons, rowFind, columnButtons);
+    grid->addWidget(m_replaceButtons, rowReplace, columnButtons);
+    if (m_space == eNarrow)
+        grid->addWidget(m_options, rowOptions, columnEdit, 1, columnCount - columnEdit);
+    else
+        grid->addWidget(m_options, rowFind, columnOptions);
 }
 
 void FindReplaceWidget::setupTabOrder()

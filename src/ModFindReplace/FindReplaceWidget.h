@@ -73,12 +73,17 @@ private slots:
     void chkFindStringVld(QString text);
 
 private:
+    /// What the width of the window is enough for: all in a row, the options below, the buttons below, too.
+    enum eSpace_t { eWide, eNarrow, eTight };
+
     void setupFindRow(QGridLayout* layout);
     void setupReplaceRow(QGridLayout* layout);
     void setupOptions();
     void setupTabOrder();
     int labelWidth() const;
-    int narrowWidth() const;
+    int fieldWidth() const;
+    int buttonsWidth() const;
+    void arrange();
     QToolButton* addToolButton(const char* name, const QString& icon, const QString& toolTip);
     QPushButton* addButton(QHBoxLayout* layout, const char* name, const QString& text, const QString& toolTip);
     QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
@@ -98,7 +103,8 @@ private:
     QPushButton* m_prevButton = nullptr;
     QPushButton* m_replaceButton = nullptr;
     QPushButton* m_replaceAllButton = nullptr;
-    QWidget* m_options = nullptr; ///< how to search
+    QWidget* m_options = nullptr;   ///< how to search
+    QHBoxLayout* m_boxes = nullptr; ///< its check boxes
     QCheckBox* m_caseSensitive = nullptr;
     QCheckBox* m_wholeWords = nullptr;
     QToolButton* m_regExp = nullptr;
@@ -106,7 +112,8 @@ private:
     QLabel* m_result = nullptr;      ///< at the right in the text to find
     QLabel* m_resultBelow = nullptr; ///< the same where that is too narrow
     eMode_t m_mode = eModeFind;
-    bool m_narrow = false; ///< the options have a row of their own
+    eSpace_t m_space = eWide;
+    bool m_areBoxesBeside = true;
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
     bool m_expressionsEn = true;

@@ -2,6 +2,7 @@
 
 #include "MyPageLayout.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 
 namespace nsModGui {
@@ -9,6 +10,7 @@ namespace nsModGui {
 GuiConfigPage::GuiConfigPage(QWidget* parent)
     : QWidget(parent)
     , m_colors(new QComboBox(this))
+    , m_lastPage(new QCheckBox(tr("Open at the page that was shown last"), this))
 {
     setObjectName(QStringLiteral("configPage"));
     m_colors->setObjectName(QStringLiteral("colorScheme"));
@@ -20,7 +22,21 @@ GuiConfigPage::GuiConfigPage(QWidget* parent)
     layout->addSection(tr("Colours"));
     layout->addField(tr("Scheme:"), m_colors, tr("Light or dark colours for the whole program"));
     layout->addHint(tr("Colours of the editor and the navigator that you have chosen yourself stay as they are."));
+    layout->addSection(tr("Configuration"));
+    m_lastPage->setObjectName(QStringLiteral("opensAtLastPage"));
+    m_lastPage->setToolTip(tr("This configuration opens where it was closed, and not at its first page"));
+    layout->addRow(m_lastPage);
     setDefaultConfig();
+}
+
+void GuiConfigPage::setOpensAtLastPage(bool opens)
+{
+    m_lastPage->setChecked(opens);
+}
+
+bool GuiConfigPage::opensAtLastPage() const
+{
+    return m_lastPage->isChecked();
 }
 
 void GuiConfigPage::setColors(ColorScheme::eChoice_t choice)
@@ -51,6 +67,7 @@ QString GuiConfigPage::pageHelpRef()
 void GuiConfigPage::setDefaultConfig()
 {
     setColors(ColorScheme::eAsSystem);
+    setOpensAtLastPage(false);
 }
 
 } // namespace nsModGui

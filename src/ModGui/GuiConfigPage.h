@@ -5,11 +5,12 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 
 namespace nsModGui {
 
-/// The settings of the window: its colours.
+/// The settings of the window: its colours, and how the configuration dialog opens.
 class GuiConfigPage : public QWidget, public nsModConfig::ModConfigPagePluginIf
 {
     Q_OBJECT
@@ -19,6 +20,8 @@ public:
 
     void setColors(ColorScheme::eChoice_t choice);
     ColorScheme::eChoice_t colors() const;
+    void setOpensAtLastPage(bool opens);
+    bool opensAtLastPage() const;
 
     // ModConfigPagePluginIf
     QWidget* pageWidget() override { return this; }
@@ -33,6 +36,7 @@ public:
 
 private:
     QComboBox* m_colors;
+    QCheckBox* m_lastPage;
 };
 
 } // namespace nsModGui

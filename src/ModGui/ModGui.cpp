@@ -1,6 +1,7 @@
 #include "ModGui.h"
 
 #include "ColorScheme.h"
+#include "ConfigKeys.h"
 #include "DockShares.h"
 #include "GuiConfigPage.h"
 #include "SplashScreen.h"
@@ -383,6 +384,11 @@ void ModGui::setEmptyPage(QWidget* page)
         tabs()->setEmptyPage(page);
 }
 
+QSplitter* ModGui::splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation)
+{
+    return tabs() != nullptr ? tabs()->splitPage(page, second, orientation) : nullptr;
+}
+
 void ModGui::removeWidgetRequest(QWidget* widget)
 {
     const sWidgetData_t* data = m_widgets.value(widget);
@@ -479,6 +485,9 @@ void ModGui::modExit()
 
 QList<QAction*> ModGui::menuActions(ModActionHookIf::eActionClass_t actionClass)
 {
+    // The ways from page to page.
+    if (actionClass == ModActionHookIf::eActionClassNavigation && tabs() != nullptr)
+        return tabs()->actions();
     const bool isOurs = actionClass == ModActionHookIf::eActionClassHelp && m_actions != nullptr;
     return isOurs ? m_actions->menuActions() : QList<QAction*>();
 }
@@ -510,6 +519,8 @@ void ModGui::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
 {
     if (m_configPage != nullptr && m_colorScheme != nullptr)
         m_configPage->setColors(m_colorScheme->choice());
+    if (m_configPage != nullptr && modCfgAppHook != nullptr)
+        m_configPage->setOpensAtLastPage(modCfgAppHook->value(nsModConfig::configKeys::opensAtLastPage, 0) != 0);
 }
 
 void ModGui::configPageClose(bool accepted)
@@ -517,6 +528,8 @@ void ModGui::configPageClose(bool accepted)
     const QPointer<GuiConfigPage> page = m_configPage;
     if (page != nullptr && accepted && m_colorScheme != nullptr) {
         m_colorScheme->setChoice(page->colors());
+        if (modCfgAppHook != nullptr)
+            modCfgAppHook->setValue(nsModConfig::configKeys::opensAtLastPage, page->opensAtLastPage() ? 1 : 0);
         // The dialog saves the settings tree, so the new value is written to it first.
         wrAppCfg();
     }

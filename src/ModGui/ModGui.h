@@ -65,6 +65,7 @@ public:
     void setStatusBarText(QString text) override;
     void clearStatusBarText() override;
     void setEmptyPage(QWidget* page) override;
+    QSplitter* splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;

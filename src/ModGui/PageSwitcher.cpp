@@ -1,9 +1,10 @@
 #include "PageSwitcher.h"
 
+#include "WidgetAreaTabbed.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QListWidget>
-#include <QTabWidget>
 #include <QVBoxLayout>
 
 namespace nsModGui {
@@ -16,7 +17,7 @@ const int margin = 4; ///< pixels
 
 } // namespace
 
-PageSwitcher::PageSwitcher(QTabWidget* tabs)
+PageSwitcher::PageSwitcher(WidgetAreaTabbed* tabs)
     : QFrame(tabs)
     , m_tabs(tabs)
     , m_list(new QListWidget(this))
@@ -43,13 +44,13 @@ QList<QWidget*> PageSwitcher::order() const
 {
     QList<QWidget*> pages;
     for (const QPointer<QWidget>& page : m_used) {
-        if (page && m_tabs->indexOf(page) >= 0)
+        if (page && m_tabs->indexOfPage(page) >= 0)
             pages.append(page);
     }
     // Pages that were never in front.
     for (int index = 0; index < m_tabs->count(); ++index) {
-        if (!pages.contains(m_tabs->widget(index)))
-            pages.append(m_tabs->widget(index));
+        if (!pages.contains(m_tabs->pageAt(index)))
+            pages.append(m_tabs->pageAt(index));
     }
     return pages;
 }
@@ -58,7 +59,7 @@ void PageSwitcher::pageChanged()
 {
     if (m_isOn)
         return;
-    QWidget* page = m_tabs->currentWidget();
+    QWidget* page = m_tabs->currentPage();
     m_used.removeAll(nullptr);
     m_used.removeAll(page);
     if (page != nullptr)
@@ -68,11 +69,11 @@ void PageSwitcher::pageChanged()
 void PageSwitcher::begin()
 {
     m_isOn = true;
-    m_first = m_tabs->currentWidget();
+    m_first = m_tabs->currentPage();
     m_shown.clear();
     m_list->clear();
     for (QWidget* page : order()) {
-        const int index = m_tabs->indexOf(page);
+        const int index = m_tabs->indexOfPage(page);
         if (!m_tabs->isTabEnabled(index))
             continue;
         m_shown.append(page);
@@ -90,14 +91,14 @@ void PageSwitcher::begin()
     qApp->installEventFilter(this);
 }
 
-void PageSwitcher::step(int step)
+void PageSwitcher::step(int step, bool isHeld)
 {
     if (!m_isOn)
         begin();
     const int count = m_shown.size();
     if (count > 0)
         show((m_list->currentRow() + step + count) % count);
-    else
+    if (count == 0 || !isHeld)
         end();
 }
 
@@ -105,11 +106,11 @@ void PageSwitcher::show(int row)
 {
     m_list->setCurrentRow(row);
     QWidget* page = m_shown.value(row);
-    if (page == nullptr || m_tabs->indexOf(page) < 0) {
+    if (page == nullptr || m_tabs->indexOfPage(page) < 0) {
         end();
         return;
     }
-    m_tabs->setCurrentWidget(page);
+    m_tabs->setCurrentIndex(m_tabs->indexOfPage(page));
     page->setFocus(Qt::ShortcutFocusReason);
 }
 

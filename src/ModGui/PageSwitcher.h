@@ -5,9 +5,10 @@
 #include <QPointer>
 
 class QListWidget;
-class QTabWidget;
 
 namespace nsModGui {
+
+class WidgetAreaTabbed;
 
 /// Goes through the pages in the order in which they were used last, while Ctrl is held: the pages are listed, each is
 /// shown as it is reached, and their order changes only when Ctrl is let go.
@@ -17,10 +18,12 @@ class PageSwitcher : public QFrame
 
 public:
     /// @param tabs parent of this object
-    explicit PageSwitcher(QTabWidget* tabs);
+    explicit PageSwitcher(WidgetAreaTabbed* tabs);
 
-    /// To the page used before the present one, and on from there. @param step 1, or -1 for the other way round
-    void step(int step);
+    /// To the page used before the present one, and on from there.
+    /// @param step 1, or -1 for the other way round
+    /// @param isHeld the user holds Ctrl and can go on; else the page stays
+    void step(int step, bool isHeld = true);
     /// Pages, the one used last first.
     QList<QWidget*> order() const;
 
@@ -33,7 +36,7 @@ private:
     void end();
     void show(int row);
 
-    QTabWidget* m_tabs;
+    WidgetAreaTabbed* m_tabs;
     QListWidget* m_list;
     QList<QPointer<QWidget>> m_used;  ///< the one used last first
     QList<QPointer<QWidget>> m_shown; ///< rows of the list

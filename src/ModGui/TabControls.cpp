@@ -1,5 +1,7 @@
 #include "TabControls.h"
 
+#include "WidgetAreaTabbed.h"
+
 #include "PageProperties.h"
 
 #include <QApplication>
@@ -8,17 +10,16 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QTabBar>
-#include <QTabWidget>
 
 namespace nsModGui {
 
-TabControls::TabControls(QTabWidget* tabs)
+TabControls::TabControls(WidgetAreaTabbed* tabs)
     : QObject(tabs)
     , m_tabs(tabs)
 {
     m_tabs->setTabsClosable(true);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this,
-            [this](int index) { emit closeRequested(m_tabs->widget(index)); });
+            [this](int index) { emit closeRequested(m_tabs->pageAt(index)); });
     m_tabs->tabBar()->installEventFilter(this);
     m_tabs->tabBar()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(m_tabs->tabBar(), &QWidget::customContextMenuRequested, this, &TabControls::showMenu);
@@ -29,7 +30,7 @@ bool TabControls::eventFilter(QObject* watched, QEvent* event)
     if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseButtonRelease) {
         const auto* mouse = static_cast<QMouseEvent*>(event);
         if (mouse->button() == Qt::MiddleButton) {
-            QWidget* page = m_tabs->widget(m_tabs->tabBar()->tabAt(mouse->pos()));
+            QWidget* page = m_tabs->pageAt(m_tabs->tabBar()->tabAt(mouse->pos()));
             if (event->type() == QEvent::MouseButtonPress)
                 m_pressed = page;
             else if (page != nullptr && page == m_pressed)
@@ -46,7 +47,7 @@ void TabControls::showMenu(const QPoint& place)
     // The key for menus asks at the place of the focus.
     if (index < 0 && m_tabs->tabBar()->hasFocus())
         index = m_tabs->currentIndex();
-    const QPointer<QWidget> page(m_tabs->widget(index));
+    const QPointer<QWidget> page(m_tabs->pageAt(index));
     if (page.isNull())
         return;
     const QString path = page->property(PageProperties::file).toString();
@@ -79,11 +80,11 @@ void TabControls::closeAllBut(QWidget* kept)
 {
     QList<QPointer<QWidget>> pages;
     for (int index = 0; index < m_tabs->count(); ++index)
-        pages.append(m_tabs->widget(index));
+        pages.append(m_tabs->pageAt(index));
     const QPointer<TabControls> self(this);
     for (const QPointer<QWidget>& page : qAsConst(pages)) {
         // The owner may ask, and the user may close anything meanwhile.
-        if (self && page && page != kept && m_tabs->indexOf(page) >= 0)
+        if (self && page && page != kept && m_tabs->indexOfPage(page) >= 0)
             emit closeRequested(page);
     }
 }

@@ -3,10 +3,11 @@
 #include <QObject>
 #include <QPointer>
 
-class QTabWidget;
 class QWidget;
 
 namespace nsModGui {
+
+class WidgetAreaTabbed;
 
 /// What the user can do on a tab of the centre: a close button, the middle mouse button, and a menu.
 class TabControls : public QObject
@@ -15,7 +16,7 @@ class TabControls : public QObject
 
 public:
     /// @param tabs parent of this object
-    explicit TabControls(QTabWidget* tabs);
+    explicit TabControls(WidgetAreaTabbed* tabs);
 
 signals:
     void closeRequested(QWidget* page);
@@ -30,7 +31,7 @@ private:
     /// Asks for each page in turn; one that refuses stays.
     void closeAllBut(QWidget* kept);
 
-    QTabWidget* m_tabs;
+    WidgetAreaTabbed* m_tabs;
     QPointer<QWidget> m_pressed; ///< page on whose tab the middle button went down
 };
 

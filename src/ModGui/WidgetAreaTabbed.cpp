@@ -1,6 +1,7 @@
 #include "WidgetAreaTabbed.h"
 
 #include "EmptyPage.h"
+#include "PageSplitter.h"
 #include "PageSwitcher.h"
 #include "TabControls.h"
 
@@ -10,6 +11,32 @@
 #include <QRegExp>
 
 namespace nsModGui {
+
+namespace {
+
+/// A command that knows whether a key with Ctrl has triggered it, which the user may hold to go on.
+class HeldAction : public QAction
+{
+public:
+    using QAction::QAction;
+
+    bool isHeld() const { return m_isHeld; }
+
+protected:
+    bool event(QEvent* event) override
+    {
+        if (event->type() == QEvent::Shortcut)
+            m_isHeld = (static_cast<QShortcutEvent*>(event)->key()[0] & Qt::CTRL) != 0;
+        const bool result = QAction::event(event);
+        m_isHeld = false;
+        return result;
+    }
+
+private:
+    bool m_isHeld = false;
+};
+
+} // namespace
 
 WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     : QTabWidget(parent)
@@ -27,7 +54,7 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     setCornerWidget(m_closeButton);
     connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
     connect(this, &QTabWidget::currentChanged, this,
-            [this](int index) { emit currentWidgetChanged(this, widget(index)); });
+            [this](int index) { emit currentWidgetChanged(this, pageAt(index)); });
     auto* controls = new TabControls(this);
     connect(controls, &TabControls::closeRequested, this, &WidgetAreaTabbed::removeWidgetRequest);
     connect(controls, &TabControls::showFileRequested, this, &WidgetAreaTabbed::showFileRequested);
@@ -37,16 +64,19 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
 
 void WidgetAreaTabbed::setupPageKeys()
 {
-    const auto add = [this](const QString& text, const char* key, auto act) {
-        auto* action = new QAction(text, this);
+    const auto add = [this](const QString& text, const QString& toolTip, const char* key, auto act) {
+        auto* action = new HeldAction(text, this);
+        action->setToolTip(toolTip);
         action->setShortcut(QKeySequence(QLatin1String(key)));
-        connect(action, &QAction::triggered, this, act);
+        connect(action, &QAction::triggered, this, [act, action] { act(action->isHeld()); });
         addAction(action);
     };
-    add(tr("Page used before"), "Ctrl+Tab", [this] { m_switcher->step(1); });
-    add(tr("Page used longest ago"), "Ctrl+Shift+Tab", [this] { m_switcher->step(-1); });
-    add(tr("Next page"), "Ctrl+PgDown", [this] { stepPage(1); });
-    add(tr("Previous page"), "Ctrl+PgUp", [this] { stepPage(-1); });
+    add(tr("Page used before"), tr("To the page that was in front before; on from there while Ctrl is held"),
+        "Ctrl+Tab", [this](bool isHeld) { m_switcher->step(1, isHeld); });
+    add(tr("Page used longest ago"), tr("To the page that was in front longest ago"), "Ctrl+Shift+Tab",
+        [this](bool isHeld) { m_switcher->step(-1, isHeld); });
+    add(tr("Next page"), tr("To the page on the right"), "Ctrl+PgDown", [this](bool) { stepPage(1); });
+    add(tr("Previous page"), tr("To the page on the left"), "Ctrl+PgUp", [this](bool) { stepPage(-1); });
 }
 
 void WidgetAreaTabbed::stepPage(int step)
@@ -58,8 +88,8 @@ void WidgetAreaTabbed::stepPage(int step)
         setCurrentIndex(index);
         break;
     }
-    if (currentWidget() != nullptr)
-        currentWidget()->setFocus(Qt::ShortcutFocusReason);
+    if (currentPage() != nullptr)
+        currentPage()->setFocus(Qt::ShortcutFocusReason);
 }
 
 QString WidgetAreaTabbed::chkAppName(const QString& name) const
@@ -78,7 +108,7 @@ void WidgetAreaTabbed::setWidgetName(QWidget* widget, const QString& name)
 {
     if (!hasWidget(widget))
         return;
-    const int index = indexOf(widget);
+    const int index = indexOfPage(widget);
     // A tab must not count its own name as used.
     setTabText(index, QString());
     setTabText(index, chkAppName(name));
@@ -94,10 +124,81 @@ void WidgetAreaTabbed::setEmptyPage(QWidget* page)
     m_emptyPage->setPage(page);
 }
 
+QWidget* WidgetAreaTabbed::pageAt(int index) const
+{
+    return PageSplitter::pageOf(widget(index));
+}
+
+int WidgetAreaTabbed::indexOfPage(const QWidget* page) const
+{
+    for (int index = 0; page != nullptr && index < count(); ++index) {
+        if (pageAt(index) == page)
+            return index;
+    }
+    return -1;
+}
+
+void WidgetAreaTabbed::replaceTab(int index, QWidget* widget)
+{
+    const QString text = tabText(index);
+    const QIcon icon = tabIcon(index);
+    const QString toolTip = tabToolTip(index);
+    const bool isEnabled = isTabEnabled(index);
+    const bool isCurrent = index == currentIndex();
+    insertTab(index, widget, icon, text);
+    setTabToolTip(index, toolTip);
+    setTabEnabled(index, isEnabled);
+    if (isCurrent)
+        setCurrentIndex(index);
+}
+
+QSplitter* WidgetAreaTabbed::splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation)
+{
+    const int index = indexOfPage(page);
+    if (index < 0)
+        return nullptr;
+    // A page that changes its parent loses the focus.
+    QWidget* focused = window()->focusWidget();
+    const QPointer<QWidget> focus(isAncestorOf(focused) ? focused : nullptr);
+    // For everybody else it is the same page all the time.
+    const bool wasBlocked = blockSignals(true);
+    unsplitPage(page);
+    PageSplitter* splitter = nullptr;
+    if (second != nullptr) {
+        splitter = new PageSplitter(orientation, this);
+        replaceTab(index, splitter);
+        // It takes its old tab along.
+        splitter->setWidgets(page, second);
+        connect(splitter, &PageSplitter::pageDeleted, this, [this, splitter] {
+            removeTab(indexOf(splitter));
+            splitter->deleteLater();
+        });
+    }
+    blockSignals(wasBlocked);
+    if (focus != nullptr && focus->isVisible())
+        focus->setFocus();
+    return splitter;
+}
+
+void WidgetAreaTabbed::unsplitPage(QWidget* page)
+{
+    const int index = indexOfPage(page);
+    auto* splitter = qobject_cast<PageSplitter*>(widget(index));
+    if (splitter == nullptr)
+        return;
+    const bool wasBlocked = blockSignals(true);
+    if (splitter->second() != nullptr)
+        splitter->second()->setParent(nullptr);
+    replaceTab(index, page);
+    removeTab(index + 1);
+    blockSignals(wasBlocked);
+    delete splitter;
+}
+
 void WidgetAreaTabbed::setWidgetIcon(QWidget* widget, const QIcon& icon)
 {
     if (hasWidget(widget))
-        setTabIcon(indexOf(widget), icon);
+        setTabIcon(indexOfPage(widget), icon);
 }
 
 void WidgetAreaTabbed::addWidget(const QString& name, QWidget* widget)
@@ -113,32 +214,33 @@ void WidgetAreaTabbed::removeWidget(QWidget* widget)
 {
     if (!hasWidget(widget))
         return;
-    removeTab(indexOf(widget));
+    unsplitPage(widget);
+    removeTab(indexOfPage(widget));
     widget->setParent(nullptr);
 }
 
 bool WidgetAreaTabbed::hasWidget(QWidget* widget) const
 {
-    return widget != nullptr && indexOf(widget) >= 0;
+    return indexOfPage(widget) >= 0;
 }
 
 void WidgetAreaTabbed::showWidget(QWidget* widget)
 {
     if (!hasWidget(widget))
         return;
-    QTabWidget::setCurrentWidget(widget);
+    setCurrentIndex(indexOfPage(widget));
     setVisible(true);
 }
 
 void WidgetAreaTabbed::setWidgetEnabled(QWidget* widget, bool enabled)
 {
     if (hasWidget(widget))
-        setTabEnabled(indexOf(widget), enabled);
+        setTabEnabled(indexOfPage(widget), enabled);
 }
 
 void WidgetAreaTabbed::requestClose()
 {
-    emit removeWidgetRequest(currentWidget());
+    emit removeWidgetRequest(currentPage());
 }
 
 void WidgetAreaTabbed::keyPressEvent(QKeyEvent* event)

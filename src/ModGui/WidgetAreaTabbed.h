@@ -5,13 +5,15 @@
 #include <QTabWidget>
 
 class QPushButton;
+class QSplitter;
 
 namespace nsModGui {
 
 class EmptyPage;
 class PageSwitcher;
 
-/// The tabbed centre of the main window.
+/// The tabbed centre of the main window. A tab holds a page, or a splitter with the page and a second widget: whoever
+/// means pages asks for them here and not by the operations of tabs.
 class WidgetAreaTabbed : public QTabWidget, public WidgetArea
 {
     Q_OBJECT
@@ -27,12 +29,21 @@ public:
     void setOpenText(const QString& text);
     /// What it shows below the name while it has no page; see ModGuiHookIf::setEmptyPage().
     void setEmptyPage(QWidget* page);
+    /// See ModGuiHookIf::splitPage().
+    QSplitter* splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation);
+
+    /// The page of a tab; null if there is none.
+    QWidget* pageAt(int index) const;
+    /// The tab of a page, -1 for others.
+    int indexOfPage(const QWidget* page) const;
+    /// Null while there is none.
+    QWidget* currentPage() const { return pageAt(currentIndex()); }
 
     // WidgetArea
     void addWidget(const QString& name, QWidget* widget) override;
     void removeWidget(QWidget* widget) override;
     bool hasWidget(QWidget* widget) const override;
-    QWidget* currentAreaWidget() const override { return currentWidget(); }
+    QWidget* currentAreaWidget() const override { return currentPage(); }
     void showWidget(QWidget* widget) override;
     void setWidgetEnabled(QWidget* widget, bool enabled) override;
     void setAreaVisible(bool visible) override { setVisible(visible); }
@@ -61,6 +72,9 @@ private:
     /// Shows the next enabled page; after the last one the first one. @param step 1, or -1 for the one before
     void stepPage(int step);
     void updateEmptyState();
+    /// Puts a widget into the place of a tab, with all that the tab has; the widget of before stays in a tab after it.
+    void replaceTab(int index, QWidget* widget);
+    void unsplitPage(QWidget* page);
 
     QPushButton* m_closeButton;
     EmptyPage* m_emptyPage;

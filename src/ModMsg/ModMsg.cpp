@@ -268,9 +268,11 @@ void ModMsg::modInitIntermod()
 {
     if (modGuiHook != nullptr) {
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockBottom, m_viewer, tr("Messages"));
-        m_statusBar = new MsgStatusBar;
-        m_statusBar->setProperty(PageProperties::isCompanion, true);
-        connect(m_statusBar, &MsgStatusBar::clicked, this, &ModMsg::showFirstWorst);
+        if (m_statusBar == nullptr) {
+            m_statusBar = new MsgStatusBar;
+            m_statusBar->setProperty(PageProperties::isCompanion, true);
+            connect(m_statusBar, &MsgStatusBar::clicked, this, &ModMsg::showFirstWorst);
+        }
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusThird, m_statusBar, QString());
     }
     if (modScriptHook != nullptr)

@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QMenu>
+#include <QPointer>
 
 namespace nsModSrcNavi {
 
@@ -36,7 +37,7 @@ ModSrcNavi::ModSrcNavi(QObject* parent)
     , m_naviWidget(new NaviWidget)
     , m_filePanel(new FilePanel(
           [this] {
-              return FilePanel::sServices_t{modPrjHook, modSourcesHook, modEditorHook, modGuiHook};
+              return FilePanel::sServices_t{modPrjHook, modSourcesHook, modEditorHook, modGuiHook, m_symbols};
           },
           this))
 {
@@ -69,6 +70,24 @@ void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIf* plugin)
         plugin->modSrcNaviHook = nullptr;
 }
 
+void ModSrcNavi::registerPlugin(ModSrcNaviPluginIfSymbols* plugin)
+{
+    if (plugin == nullptr)
+        return;
+    if (m_symbols != nullptr)
+        m_symbols->modSrcNaviHook = nullptr;
+    m_symbols = plugin;
+    plugin->modSrcNaviHook = this;
+}
+
+void ModSrcNavi::unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin)
+{
+    if (plugin == nullptr || plugin != m_symbols)
+        return;
+    m_symbols = nullptr;
+    plugin->modSrcNaviHook = nullptr;
+}
+
 // --- tags ---
 
 void ModSrcNavi::clearTagList()
@@ -96,7 +115,17 @@ void ModSrcNavi::showTagList()
         list = m_tagList.tagListAsc();
     else
         list = m_tagList.tagListDesc();
+    // Whoever looks at the list of files goes on to do so; over anything else the navigator comes to the front.
+    FileListWidget* files = m_filePanel->widget();
+    const bool isBehind = modGuiHook != nullptr && files != nullptr && files->isVisible() &&
+                          modGuiHook->currentWidget(dockLocation()) == files;
+    const QPointer<QWidget> focus(QApplication::focusWidget());
     m_naviWidget->showTagList(&list, flat);
+    if (!isBehind)
+        return;
+    modGuiHook->setCurrentWidget(files);
+    if (focus != nullptr && files->isAncestorOf(focus))
+        focus->setFocus();
 }
 
 void ModSrcNavi::sortModeChanged()
@@ -119,6 +148,7 @@ void ModSrcNavi::showSelectedTag(NaviTag* tag)
 void ModSrcNavi::modRegisterPlugins(QList<ModPluginIf*> modules)
 {
     registerPluginsOf<ModSrcNaviPluginIf>(modules, this);
+    registerPluginsOf<ModSrcNaviPluginIfSymbols>(modules, this);
 }
 
 void ModSrcNavi::modInit()
@@ -304,7 +334,7 @@ void ModSrcNavi::handleActions(NaviActions::eAction_t action)
 {
     switch (action) {
     case NaviActions::eActionQuickOpen:
-        m_filePanel->quickOpen(m_tagList, m_naviWidget != nullptr ? m_naviWidget->window() : nullptr);
+        m_filePanel->quickOpen(m_tagList);
         break;
     case NaviActions::eActionFileList:
         if (modGuiHook != nullptr && m_filePanel->widget() != nullptr) {

@@ -50,6 +50,8 @@ public:
     // ModSrcNaviHookIf
     void registerPlugin(ModSrcNaviPluginIf* plugin) override;
     void unregisterPlugin(ModSrcNaviPluginIf* plugin) override;
+    void registerPlugin(ModSrcNaviPluginIfSymbols* plugin) override;
+    void unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin) override;
     void clearTagList() override;
     void addTag(NaviTag* tag) override;
     void showTagList() override;
@@ -104,6 +106,7 @@ private:
     ModGuiHookIf::eLocation_t dockLocation() const;
 
     PluginList<ModSrcNaviPluginIf> m_plugins;
+    ModSrcNaviPluginIfSymbols* m_symbols = nullptr; ///< not owned
     NaviTagList m_tagList;
     QPointer<NaviWidget> m_naviWidget; ///< the window may take it along when it goes
     FilePanel* m_filePanel;

@@ -34,6 +34,7 @@ DocumentNames::DocumentNames(EditorDocument* document, ModSymbols* module)
     document->viewport()->installEventFilter(this);
     document->viewport()->setMouseTracking(true);
     connect(document, &QPlainTextEdit::textChanged, this, &DocumentNames::textChanged);
+    connect(document, &EditorDocument::tipRequested, this, &DocumentNames::showTip);
     connect(document, &QPlainTextEdit::cursorPositionChanged, this, [this] {
         // A word is left by a click or a key that moves the cursor.
         if (!m_isTyped && !m_isTaking)
@@ -77,7 +78,7 @@ bool DocumentNames::eventFilter(QObject* object, QEvent* event)
     case QEvent::MouseButtonRelease:
         return object == m_document->viewport() && mouseEvent(static_cast<QMouseEvent*>(event));
     case QEvent::ToolTip:
-        return object == m_document->viewport() && showTip(static_cast<QHelpEvent*>(event));
+        return object == m_document->viewport() && showTip(m_document, static_cast<QHelpEvent*>(event));
     case QEvent::FocusOut:
     case QEvent::Hide:
     case QEvent::Wheel:
@@ -204,11 +205,21 @@ void DocumentNames::takeWord()
 {
     if (m_list == nullptr || m_document->isReadOnly())
         return;
-    QString word = m_list->currentWord();
+    const sCompletion chosen = m_list->current();
+    QString word = chosen.word;
     hideList();
+    if (word.isEmpty())
+        return;
     const bool isLower = !m_place.prefix.isEmpty() && m_place.prefix.at(0).isLower();
     if ((m_place.kinds & wordInstruction) && !word.startsWith('#'))
         word = isLower ? word.toLower() : word.toUpper();
+    // In a namespace, a name of the outermost one has to be told from those of its own.
+    const bool isName = (chosen.kind & (wordConstant | wordLabel)) != 0;
+    if (isName && !word.contains(QLatin1String("::")) &&
+        (m_place.prefix.startsWith(QLatin1String("::")) ||
+         (m_module != nullptr &&
+          !m_module->names().nameSpaceAt(m_document, m_document->textCursor().blockNumber()).isEmpty())))
+        word.prepend(QLatin1String("::"));
     m_isTaking = true;
     QTextCursor cursor = m_document->textCursor();
     cursor.beginEditBlock();
@@ -225,11 +236,16 @@ void DocumentNames::takeWord()
 
 // --- pointer ---
 
-/// @return false beyond the end of a line or of the text
 bool DocumentNames::placeAt(const QPoint& pos, int* line, int* column) const
 {
-    const QTextCursor cursor = m_document->cursorForPosition(pos);
-    const QRect rect = m_document->cursorRect(cursor);
+    return placeIn(m_document, pos, line, column);
+}
+
+/// @return false beyond the end of a line or of the text
+bool DocumentNames::placeIn(QPlainTextEdit* view, const QPoint& pos, int* line, int* column)
+{
+    const QTextCursor cursor = view->cursorForPosition(pos);
+    const QRect rect = view->cursorRect(cursor);
     if (pos.y() < rect.top() || pos.y() > rect.bottom())
         return false;
     *line = cursor.blockNumber();
@@ -323,17 +339,20 @@ void DocumentNames::hideLink()
     m_document->viewport()->setCursor(Qt::IBeamCursor);
 }
 
-bool DocumentNames::showTip(const QHelpEvent* event)
+/// @param view of the document, which may be shown in two
+bool DocumentNames::showTip(QPlainTextEdit* view, const QHelpEvent* event)
 {
+    if (m_module == nullptr)
+        return false;
     int line = 0;
     int column = 0;
     QString tip;
-    if (placeAt(event->pos(), &line, &column))
+    if (placeIn(view, event->pos(), &line, &column))
         tip = m_module->tipAt(m_document, line, column);
     if (tip.isEmpty())
         QToolTip::hideText();
     else
-        QToolTip::showText(event->globalPos(), tip, m_document->viewport());
+        QToolTip::showText(event->globalPos(), tip, view->viewport());
     return true;
 }
 

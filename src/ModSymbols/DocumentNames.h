@@ -8,6 +8,7 @@
 class QHelpEvent;
 class QKeyEvent;
 class QMouseEvent;
+class QPlainTextEdit;
 class QTextCursor;
 
 namespace nsModEditor {
@@ -41,13 +42,14 @@ private:
     bool keyPressed(QKeyEvent* event);
     bool keyPressedInList(QKeyEvent* event);
     bool mouseEvent(QMouseEvent* event);
-    bool showTip(const QHelpEvent* event);
+    bool showTip(QPlainTextEdit* view, const QHelpEvent* event);
     void textChanged();
     void showList(bool isAsked);
     void hideList();
     void takeWord();
     QString textToCursor() const;
     bool placeAt(const QPoint& pos, int* line, int* column) const;
+    static bool placeIn(QPlainTextEdit* view, const QPoint& pos, int* line, int* column);
     void showLink(const QPoint& pos);
     void hideLink();
 

@@ -7,6 +7,7 @@
 #include "UsagesPanel.h"
 
 #include "EditorDocument.h"
+#include "ModActionHookIf.h"
 #include "ModAsmFeHookIf.h"
 #include "ModCfgAppHookIf.h"
 #include "ModEditorHookIf.h"
@@ -18,6 +19,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QTextBlock>
+#include <QTimer>
 
 namespace nsModSymbols {
 
@@ -61,6 +63,11 @@ void ModSymbols::modInit()
     m_completionActions = new CompletionActions(this);
     connect(m_actions, &SymbolActions::triggered, this, &ModSymbols::handleAction);
     connect(m_completionActions, &CompletionActions::completionRequested, this, &ModSymbols::handleCompletionAction);
+    // The menus know what the user wants instead.
+    connect(m_completionActions, &CompletionActions::keysChanged, this, [this] {
+        if (modActionHook != nullptr)
+            modActionHook->refreshActions();
+    });
     updateActions();
 }
 
@@ -237,6 +244,25 @@ void ModSymbols::asmRunEnded()
         modAsmFeHook->showEquList();
     m_isOpening = false;
     updateActions();
+    prepareWords();
+}
+
+/// The first letters that are typed after a run do not wait for the list of words: it is made when the window has
+/// nothing else to do, in two steps.
+void ModSymbols::prepareWords()
+{
+    if (!isCompletionOn())
+        return;
+    const auto isOpen = [this] { return modPrjHook != nullptr && modPrjHook->isValid() && modAsmFeHook != nullptr; };
+    QTimer::singleShot(0, this, [this, isOpen] {
+        if (!isOpen())
+            return;
+        m_names.table();
+        QTimer::singleShot(0, this, [this, isOpen] {
+            if (isOpen())
+                m_completionWords->prepare();
+        });
+    });
 }
 
 void ModSymbols::say(const QString& text) const
@@ -250,6 +276,8 @@ void ModSymbols::say(const QString& text) const
 void ModSymbols::handleAction(SymbolActions::eAction_t action)
 {
     const QPointer<EditorDocument> document(current());
+    // Questions are asked, under which the window can go, and the module with it.
+    const QPointer<ModSymbols> self(this);
     say(QString());
     switch (action) {
     case SymbolActions::eActionDefinition:
@@ -277,7 +305,8 @@ void ModSymbols::handleAction(SymbolActions::eAction_t action)
         walkMessages(-1);
         break;
     }
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
 }
 
 void ModSymbols::handleCompletionAction()
@@ -301,7 +330,8 @@ QString ModSymbols::tipAt(EditorDocument* document, int line, int column)
 /// Shows a place as it is now. @return false: there is no such file
 bool ModSymbols::show(const sTextPlace& place)
 {
-    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path))
+    const QPointer<ModSymbols> self(this);
+    if (place.isNull() || modEditorHook == nullptr || !modEditorHook->openFile(place.path) || self == nullptr)
         return false;
     EditorDocument* document = documentOf(place.path);
     if (document == nullptr)
@@ -323,8 +353,10 @@ bool ModSymbols::jump(const sTextPlace& place)
     if (place.isNull())
         return false;
     m_history.leave(current());
+    const QPointer<ModSymbols> self(this);
     const bool isShown = show(place);
-    updateHistoryActions();
+    if (self != nullptr)
+        updateHistoryActions();
     return isShown;
 }
 
@@ -355,12 +387,14 @@ void ModSymbols::walkMessages(int step)
     if (onDisk.isNull() || modEditorHook == nullptr)
         return;
     m_history.leave(current());
-    if (!modEditorHook->openFile(onDisk.path))
+    const QPointer<ModSymbols> self(this);
+    if (!modEditorHook->openFile(onDisk.path) || self == nullptr)
         return;
     EditorDocument* document = documentOf(onDisk.path);
     const sTextPlace now = document != nullptr ? m_messages.placeIn(document) : sTextPlace();
     show(now.isNull() ? onDisk : now);
-    say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
+    if (self != nullptr)
+        say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
 }
 
 } // namespace nsModSymbols

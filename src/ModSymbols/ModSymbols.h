@@ -14,6 +14,7 @@
 #include "ModPluginIf.h"
 #include "ModPrjPluginIf.h"
 #include "ModSourcesPluginIf.h"
+#include "ModSrcNaviPluginIf.h"
 
 #include <QHash>
 #include <QObject>
@@ -43,6 +44,7 @@ class ModSymbols : public QObject,
                    public ModPrjPluginIf,
                    public ModGuiPluginIf,
                    public ModSourcesPluginIf,
+                   public ModSrcNaviPluginIfSymbols,
                    public ModEditorPluginIf,
                    public ModEditorPluginIfText,
                    public ModAsmFePluginIf,
@@ -78,6 +80,10 @@ public:
     // ModSourcesPluginIf: the run that follows reports itself.
     void srcFileListChanged() override {}
     void srcFileContentChanged() override {}
+
+    // ModSrcNaviPluginIfSymbols
+    QVector<nsModSrcNavi::NaviSymbol> naviSymbols() override;
+    void showNaviSymbol(const nsModSrcNavi::NaviSymbol& symbol) override;
 
     // ModEditorPluginIfText
     void documentOpened(nsModEditor::EditorDocument* document) override;
@@ -115,6 +121,7 @@ private:
     void updateActions();
     void updateHistoryActions();
     void textChanged();
+    void prepareWords();
     bool show(const sTextPlace& place);
     bool jump(const sTextPlace& place);
     void findUsages(nsModEditor::EditorDocument* document);

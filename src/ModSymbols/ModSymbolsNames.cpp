@@ -2,6 +2,7 @@
 
 #include "ModSymbols.h"
 
+#include "NumberText.h"
 #include "RenameDialog.h"
 #include "SymbolRename.h"
 #include "UsagesPanel.h"
@@ -25,6 +26,28 @@ using nsModAsmFe::sSymbolPlace;
 using nsModAsmFe::SymbolRename;
 using nsModAsmFe::SymbolTable;
 using nsModEditor::EditorDocument;
+
+namespace {
+
+/// What a name is, in a few words.
+QString noteOf(const sSymbol& symbol)
+{
+    switch (symbol.kind) {
+    case nsModAsmFe::symbolLabel:
+        return symbol.hasValue ? NumberText::address(symbol.value, symbol.page) : ModSymbols::tr("label");
+    case nsModAsmFe::symbolConstant:
+        return symbol.hasValue ? NumberText::inBases(symbol.value) : symbol.text;
+    case nsModAsmFe::symbolNameSpace:
+        return ModSymbols::tr("namespace");
+    case nsModAsmFe::symbolDevice:
+        return ModSymbols::tr("device");
+    case nsModAsmFe::symbolFile:
+        break;
+    }
+    return QString();
+}
+
+} // namespace
 
 void ModSymbols::addUsagesPanel()
 {
@@ -142,9 +165,13 @@ void ModSymbols::applyRename(const sSymbol& symbol, const QString& name)
     const QString stale = m_names.staleReason();
     if (!stale.isEmpty())
         return fail(stale);
+    const QPointer<ModSymbols> self(this);
     for (const sSymbolPlace& place : placesNow()) {
         const QString path = m_names.placeOf(place).path;
-        if (documentOf(path) == nullptr && !modEditorHook->openFile(path))
+        const bool isOpen = documentOf(path) != nullptr || modEditorHook->openFile(path);
+        if (self == nullptr)
+            return;
+        if (!isOpen)
             return fail(tr("\"%1\" can not be opened.").arg(path));
     }
     const SymbolTable table = m_names.table();
@@ -184,6 +211,35 @@ void ModSymbols::applyRename(const sSymbol& symbol, const QString& name)
         before->setFocus();
     }
     say(places.size() == 1 ? tr("1 place renamed") : tr("%1 places renamed").arg(places.size()));
+}
+
+// --- quick open ---
+
+QVector<nsModSrcNavi::NaviSymbol> ModSymbols::naviSymbols()
+{
+    QVector<nsModSrcNavi::NaviSymbol> result;
+    const SymbolTable& table = m_names.table();
+    const QVector<const sSymbolPlace*> definitions = table.definitions();
+    for (int i = 0; i < definitions.size(); ++i) {
+        const sSymbol& symbol = table.symbol(i);
+        if (definitions.at(i) == nullptr || symbol.kind == nsModAsmFe::symbolFile)
+            continue;
+        const sTextPlace place = m_names.placeOf(*definitions.at(i));
+        nsModSrcNavi::NaviSymbol found;
+        found.name = symbol.fullName();
+        found.note = noteOf(symbol);
+        found.file = place.path;
+        found.line = place.line;
+        found.column = place.column;
+        found.length = place.length;
+        result.append(found);
+    }
+    return result;
+}
+
+void ModSymbols::showNaviSymbol(const nsModSrcNavi::NaviSymbol& symbol)
+{
+    jump({symbol.file, symbol.line, symbol.column, symbol.length});
 }
 
 } // namespace nsModSymbols

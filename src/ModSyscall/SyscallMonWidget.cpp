@@ -10,6 +10,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPointer>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QVBoxLayout>
 
@@ -176,11 +177,20 @@ void SyscallMonWidget::setupLayout()
     streams->addWidget(m_input, 1, 1);
     streams->addWidget(m_send, 1, 2);
 
-    auto* layout = new QHBoxLayout(this);
+    // In a dock that is lower it scrolls, so that it does not keep the other panels of the dock from being low.
+    auto* area = new QScrollArea(this);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(new QWidget);
+    auto* layout = new QHBoxLayout(area->widget());
     layout->setContentsMargins(gap, gap, gap, gap);
     layout->setSpacing(2 * gap);
     layout->addLayout(fields, fieldsStretch);
     layout->addLayout(streams, outputStretch);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(area);
 }
 
 void SyscallMonWidget::setConfig(QString exe, QString arg, QString comment)

@@ -6,6 +6,7 @@
 
 #include "Opcode.h"
 #include "OpcodeList.h"
+#include "RunWatch.h"
 
 namespace nsProc {
 
@@ -46,11 +47,14 @@ ProcAsmWords::ProcAsmWords(const ProcTable& table, int scrpdSize, const ProcAsmR
 {
 }
 
-bool ProcAsmWords::assembleOpcodes(const OpcodeList& opcodes)
+bool ProcAsmWords::assembleOpcodes(const OpcodeList& opcodes, RunWatch* watch)
 {
     bool success = true;
-    for (Opcode* opcode : opcodes)
+    for (Opcode* opcode : opcodes) {
+        if (watch != nullptr && !watch->goesOn())
+            return false;
         success = assembleOpcode(opcode) && success;
+    }
     return success;
 }
 

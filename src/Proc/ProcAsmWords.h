@@ -7,6 +7,7 @@ namespace nsModAsmFe {
 class Arg;
 class Opcode;
 class OpcodeList;
+class RunWatch;
 } // namespace nsModAsmFe
 
 namespace nsProc {
@@ -21,8 +22,10 @@ public:
     /// @param scrpdSize bytes of the scratchpad
     ProcAsmWords(const ProcTable& table, int scrpdSize, const ProcAsmReport& report);
 
-    /// Writes the words of all instructions. @return false after at least one reported error
-    bool assembleOpcodes(const nsModAsmFe::OpcodeList& opcodes);
+    /// Writes the words of all instructions.
+    /// @param watch null where nobody can cancel
+    /// @return false after at least one reported error, or if the run was cancelled
+    bool assembleOpcodes(const nsModAsmFe::OpcodeList& opcodes, nsModAsmFe::RunWatch* watch);
     /// Writes the word of one instruction.
     bool assembleOpcode(nsModAsmFe::Opcode* opcode);
 

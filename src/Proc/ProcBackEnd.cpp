@@ -43,7 +43,7 @@ bool ProcBackEnd::assembleStage2(const AsmBeProgram& program, const ProcCoreConf
 bool ProcBackEnd::assembleOpcodes(const AsmBeProgram& program, const ProcCoreConfig& config) const
 {
     const ProcAsmReport report(m_table.asmHelpPage, program.msgHndlr);
-    return ProcAsmWords(m_table, config.scrpdSize, report).assembleOpcodes(*program.opcodes);
+    return ProcAsmWords(m_table, config.scrpdSize, report).assembleOpcodes(*program.opcodes, program.watch);
 }
 
 bool ProcBackEnd::assembleOpcode(const AsmBeProgram& program, const ProcCoreConfig& config, Opcode* opcode) const

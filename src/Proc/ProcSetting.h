@@ -65,6 +65,7 @@ struct sProcSetting_t
     ePage_t page = ePageCore;
     const char* title = "";   ///< label in front of the control
     const char* unit = "";    ///< text after it; empty if there is none
+    bool isAddress = false;   ///< also read and shown in hexadecimal
     const char* toolTip = ""; ///< the texts are translated in the context of ProcConfigWidget
     double shownMin = 0;      ///< in the unit that is shown, as the two below; a choice has none
     double shownMax = 0;

@@ -75,7 +75,8 @@ constexpr sProcSetting_t intVectorAddrSetting()
     s.title = QT_TRANSLATE_NOOP("nsProc::ProcConfigWidget", "Interrupt vector address:");
     s.toolTip = QT_TRANSLATE_NOOP(
         "nsProc::ProcConfigWidget",
-        "Address where the processor goes on at an interrupt, in decimal: 1023 is 0x3FF, 4095 is 0xFFF");
+        "Address where the processor goes on at an interrupt, in decimal or, behind 0x, in hexadecimal");
+    s.isAddress = true;
     s.shownMax = 4095;
     s.shownStart = 4095;
     return s;

@@ -12,6 +12,8 @@ public:
 
     void setCursorColor(const QColor& color);
     void setFlagColor(const QColor& color);
+    QColor cursorColor() const { return m_cursorLine.format.background().color(); }
+    QColor flagColor() const { return m_flag.format.background().color(); }
     /// Whether the line of the cursor is coloured; it is at first.
     void setCursorShown(bool shown);
     /// The cursor has moved.

@@ -22,7 +22,32 @@ MyLinkButton::MyLinkButton(const QString& text, QWidget* parent)
 QSize MyLinkButton::minimumSizeHint() const
 {
     const QSize whole = sizeHint();
-    return {qMin(whole.width(), leastCharacters * fontMetrics().averageCharWidth()), whole.height()};
+    const int around = whole.width() - widthOf(text());
+    const int least =
+        m_shortText.isEmpty() ? leastCharacters * fontMetrics().averageCharWidth() : around + widthOf(m_shortText);
+    return {qMin(whole.width(), least), whole.height()};
+}
+
+void MyLinkButton::setShortText(const QString& text)
+{
+    m_shortText = text;
+    updateGeometry();
+    update();
+}
+
+QString MyLinkButton::shownText() const
+{
+    const int missing = sizeHint().width() - width();
+    if (missing <= 0)
+        return text();
+    const int room = widthOf(text()) - missing;
+    const bool isShort = !m_shortText.isEmpty() && widthOf(m_shortText) <= room;
+    return isShort ? m_shortText : fontMetrics().elidedText(text(), Qt::ElideMiddle, room, Qt::TextShowMnemonic);
+}
+
+int MyLinkButton::widthOf(const QString& text) const
+{
+    return fontMetrics().size(Qt::TextShowMnemonic, text).width();
 }
 
 void MyLinkButton::paintEvent(QPaintEvent*)
@@ -30,11 +55,7 @@ void MyLinkButton::paintEvent(QPaintEvent*)
     QStylePainter painter(this);
     QStyleOptionButton option;
     initStyleOption(&option);
-    const int missing = sizeHint().width() - width();
-    if (missing > 0) {
-        const int room = fontMetrics().size(Qt::TextShowMnemonic, text()).width() - missing;
-        option.text = fontMetrics().elidedText(text(), Qt::ElideMiddle, room, Qt::TextShowMnemonic);
-    }
+    option.text = shownText();
     painter.drawControl(QStyle::CE_PushButton, option);
 }
 

@@ -1,11 +1,11 @@
 #include "MyLinkList.h"
 
+#include "MyElidedLabel.h"
 #include "MyLinkButton.h"
 #include "MySectionTitle.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QStylePainter>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -19,29 +19,6 @@ QString plainToolTip(const QString& text)
 {
     return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
 }
-
-/// A line of plain text that takes the width it gets; a part in its middle is left out if it does not fit.
-class ElidedLabel : public QLabel
-{
-public:
-    explicit ElidedLabel(QWidget* parent)
-        : QLabel(parent)
-    {
-        setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-    QSize minimumSizeHint() const override { return {0, QLabel::minimumSizeHint().height()}; }
-    QSize sizeHint() const override { return minimumSizeHint(); }
-
-protected:
-    void paintEvent(QPaintEvent*) override
-    {
-        QStylePainter painter(this);
-        painter.drawItemText(contentsRect(), Qt::AlignLeft | Qt::AlignVCenter, palette(), isEnabled(),
-                             fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
-                             foregroundRole());
-    }
-};
 
 } // namespace
 
@@ -141,7 +118,7 @@ QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)
     }
     row->addWidget(text);
     if (!link.detail.isEmpty()) {
-        auto* detail = new ElidedLabel(line);
+        auto* detail = new MyElidedLabel(Qt::ElideMiddle, line);
         detail->setObjectName(QStringLiteral("pageHint"));
         detail->setText(link.detail);
         detail->setToolTip(plainToolTip(link.toolTip));

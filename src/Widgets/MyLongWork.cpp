@@ -52,6 +52,13 @@ bool MyLongWork::goesOn(const QString& state)
     return !m_cancelled;
 }
 
+void MyLongWork::commits()
+{
+    m_committed = true;
+    if (m_button)
+        m_button->setEnabled(false);
+}
+
 void MyLongWork::rests()
 {
     hideBar();
@@ -69,17 +76,18 @@ void MyLongWork::showBar()
         progress->setRange(0, 0);
         progress->setFixedWidth(barWidth);
         progress->setTextVisible(false);
-        auto* button = new QToolButton(m_bar);
-        button->setObjectName(QStringLiteral("longWorkCancel"));
-        button->setText(tr("Cancel"));
-        button->setToolTip(tr("Ends the work in progress (Esc)"));
-        button->setCursor(Qt::ArrowCursor);
-        connect(button, &QToolButton::clicked, this, &MyLongWork::cancel);
+        m_button = new QToolButton(m_bar);
+        m_button->setObjectName(QStringLiteral("longWorkCancel"));
+        m_button->setText(tr("Cancel"));
+        m_button->setToolTip(tr("Ends the work in progress (Esc)"));
+        m_button->setCursor(Qt::ArrowCursor);
+        m_button->setEnabled(!m_committed);
+        connect(m_button.data(), &QToolButton::clicked, this, &MyLongWork::cancel);
         auto* layout = new QHBoxLayout(m_bar);
         layout->setContentsMargins(8, 0, 4, 0);
         layout->addWidget(m_state);
         layout->addWidget(progress);
-        layout->addWidget(button);
+        layout->addWidget(m_button);
     }
     m_shown = true;
     m_show(m_bar);
@@ -94,7 +102,7 @@ void MyLongWork::hideBar()
 
 void MyLongWork::cancel()
 {
-    m_cancelled = true;
+    m_cancelled = m_cancelled || !m_committed;
 }
 
 bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
@@ -108,6 +116,7 @@ bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
     case QEvent::KeyRelease:
     case QEvent::Shortcut:
     case QEvent::ShortcutOverride:
+    case QEvent::InputMethod:
     case QEvent::ContextMenu:
     case QEvent::DragEnter:
     case QEvent::Drop:
@@ -123,8 +132,12 @@ bool MyLongWork::eventFilter(QObject* watched, QEvent* event)
     const auto* widget = qobject_cast<QWidget*>(watched);
     if (widget != nullptr && m_bar && (widget == m_bar || m_bar->isAncestorOf(widget)))
         return false;
-    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
+    // Before a command of the page that has this key, too.
+    const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+    if (isKey && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape)
         cancel();
+    if (event->type() == QEvent::ShortcutOverride)
+        event->accept();
     if (event->type() == QEvent::Close)
         event->ignore();
     return true;

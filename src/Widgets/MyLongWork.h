@@ -7,6 +7,7 @@
 #include <functional>
 
 class QLabel;
+class QToolButton;
 
 /// Progress of long work in the GUI thread, which its user can cancel: by the button beside the progress, or by Esc.
 ///
@@ -38,6 +39,8 @@ public:
     /// @param state how far the work is, for the user
     /// @return false: the user has cancelled the work
     bool goesOn(const QString& state);
+    /// What follows belongs together: the work can not be cancelled any more, which the bar shows.
+    void commits();
     /// The work rests, as the user is asked or waits for something else: the bar goes, and the time counts anew.
     void rests();
     bool isShown() const { return m_shown; }
@@ -59,7 +62,9 @@ private:
     QElapsedTimer m_handled; ///< since events were handled last
     QPointer<QWidget> m_bar;
     QPointer<QLabel> m_state;
+    QPointer<QToolButton> m_button;
     bool m_shown = false;
     bool m_cancelled = false;
+    bool m_committed = false;
     bool m_handles = false; ///< events are being handled
 };

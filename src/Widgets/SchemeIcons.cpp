@@ -21,19 +21,27 @@ class SchemeIconEngine : public QIconEngine
 public:
     void addFile(const QString& fileName, const QSize&, QIcon::Mode mode, QIcon::State state) override
     {
-        m_files.append({fileName, mode, state});
+        m_files.append({fileName, {}, mode, state});
+        m_isLoaded = false;
+    }
+
+    /// A picture of the caller's, which is the same in both schemes.
+    void addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state) override
+    {
+        m_files.append({QString(), pixmap, mode, state});
+        m_files.last().pixmap.setDevicePixelRatio(1.0); // sizes here are real pixels
         m_isLoaded = false;
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        const QPixmap* best = nearest(size, mode, state);
-        if (best == nullptr)
+        const int best = nearest(size, mode, state);
+        if (best < 0)
             return {};
-        QPixmap result = *best;
+        QPixmap result = m_pictures.at(best);
         if (result.width() > size.width() || result.height() > size.height())
             result = result.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        if (mode == QIcon::Normal || qApp == nullptr)
+        if (mode == QIcon::Normal || m_files.at(best).mode == mode || qApp == nullptr)
             return result;
         QStyleOption option;
         option.palette = QApplication::palette();
@@ -49,10 +57,10 @@ public:
 
     QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override
     {
-        const QPixmap* best = nearest(size, mode, state);
-        if (best == nullptr)
+        const int best = nearest(size, mode, state);
+        if (best < 0)
             return {};
-        const QSize actual = best->size();
+        const QSize actual = m_pictures.at(best).size();
         return actual.width() > size.width() || actual.height() > size.height()
                    ? actual.scaled(size, Qt::KeepAspectRatio)
                    : actual;
@@ -75,7 +83,8 @@ public:
 private:
     struct sFile_t
     {
-        QString name;
+        QString name;   ///< empty: the pixmap is the picture
+        QPixmap pixmap; ///< null if there is a name
         QIcon::Mode mode;
         QIcon::State state;
     };
@@ -88,6 +97,10 @@ private:
         m_scheme = Colors::scheme();
         m_pictures.clear();
         for (const sFile_t& file : qAsConst(m_files)) {
+            if (file.name.isEmpty()) {
+                m_pictures.append(file.pixmap);
+                continue;
+            }
             // An image, unlike a pixmap, is not replaced by a finer one on a fine screen: sizes here are real pixels.
             m_pictures.append(QPixmap::fromImage(QImage(Colors::picture(file.name))));
         }
@@ -95,7 +108,8 @@ private:
 
     /// The smallest picture that is large enough, or the largest one. A mode or state without a picture of its own has
     /// those of the others.
-    const QPixmap* nearest(const QSize& size, QIcon::Mode mode, QIcon::State state)
+    /// @return its index; -1: there is none
+    int nearest(const QSize& size, QIcon::Mode mode, QIcon::State state)
     {
         load();
         int best = -1;
@@ -110,7 +124,7 @@ private:
                 bestRank = rank;
             }
         }
-        return best < 0 ? nullptr : &m_pictures.at(best);
+        return best;
     }
 
     static bool isBetter(const QSize& found, const QSize& best, const QSize& wanted)

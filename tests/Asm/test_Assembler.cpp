@@ -7,6 +7,7 @@
 #include "Opcode.h"
 
 #include <QFile>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -105,6 +106,42 @@ public:
 
     QStringList calls;
     bool externalAnswer = true;
+};
+
+/// Cancels the run at the Nth time that it is asked, once.
+class Canceller : public AsmRunListener
+{
+public:
+    explicit Canceller(const Log& log)
+        : m_log(log)
+    {
+    }
+
+    bool runGoesOn(int) override
+    {
+        if (!hasBegun)
+            ++asked;
+        // The last group that was opened, if it is open still.
+        for (int i = m_log.lines.size() - 1; i >= 0 && !m_log.lines.at(i).startsWith("close"); --i) {
+            if (m_log.lines.at(i).startsWith("open ")) {
+                groups.insert(m_log.lines.at(i).mid(5));
+                break;
+            }
+        }
+        return hasBegun ? answerOfOutputs : asked != cancelAt;
+    }
+    void outputsBegin() override { hasBegun = true; }
+    void runFailed() override { hasFailed = true; }
+
+    int cancelAt = 0; ///< 0: never
+    int asked = 0;    ///< before the outputs
+    bool answerOfOutputs = true;
+    bool hasBegun = false;
+    bool hasFailed = false;
+    QSet<QString> groups; ///< in which it was asked
+
+private:
+    const Log& m_log;
 };
 
 class AssemblerTest : public ::testing::Test
@@ -253,4 +290,61 @@ TEST_F(AssemblerTest, noRunStartsWithinARun)
     EXPECT_TRUE(run(program));
     EXPECT_FALSE(inner);
     EXPECT_EQ(assembler.program().opcodes.count(), 2);
+}
+
+namespace {
+
+/// A program of which each stage has enough to do to be asked meanwhile.
+QByteArray longProgram()
+{
+    QByteArray text = "#SET instMem::pageSize, 16384\n";
+    for (int i = 0; i < 3000; ++i) {
+        const QByteArray number = QByteArray::number(i);
+        text += "#EQU value" + number + ", " + (i == 0 ? QByteArray("1") : "value" + QByteArray::number(i - 1)) + "\n";
+        text += "#ORG ADDR, " + QByteArray::number(4 * i) + "\n";
+        text += "label" + number + ": LOAD s0, 1\n";
+    }
+    return text;
+}
+
+} // namespace
+
+TEST_F(AssemblerTest, aRunIsCancelledAtAnyTimeAndLeavesTheOutputsAsTheyWere)
+{
+    assembler.setBackend(&processor);
+    const QByteArray source = longProgram();
+    const auto content = [&] {
+        QFile file(dir.filePath("out.hex"));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    Canceller nobody(log);
+    assembler.setListener(&nobody);
+    ASSERT_TRUE(run(source)) << qPrintable(log.lines.join('\n'));
+    for (const char* group : {"grpParsingFiles", "chkLabelDirectives", "chkOrgDirectives", "chkEquDirectives",
+                              "grpMapOpcodeToMem", "chkInstructions", "grpSetupIODevs", "grpUsageCheck"})
+        EXPECT_TRUE(nobody.groups.contains(group)) << group;
+    QFile::remove(dir.filePath("out.hex"));
+    ASSERT_TRUE(run("LOAD s0, 1\n"));
+    const QByteArray old = content();
+    ASSERT_FALSE(old.isEmpty());
+    for (int cancelAt = 1; cancelAt <= nobody.asked; ++cancelAt) {
+        SCOPED_TRACE(cancelAt);
+        Canceller canceller(log);
+        canceller.cancelAt = cancelAt;
+        assembler.setListener(&canceller);
+        EXPECT_FALSE(run(source));
+        EXPECT_FALSE(assembler.isAssembled());
+        EXPECT_FALSE(canceller.hasBegun);
+        EXPECT_TRUE(canceller.hasFailed);
+        EXPECT_TRUE(assembler.writtenFiles().isEmpty());
+        EXPECT_EQ(content(), old);
+    }
+    // Outputs are written whole, whatever is answered meanwhile.
+    Canceller late(log);
+    late.answerOfOutputs = false;
+    assembler.setListener(&late);
+    EXPECT_TRUE(run(source));
+    EXPECT_TRUE(late.hasBegun);
+    EXPECT_NE(content(), old);
+    assembler.setListener(nullptr);
 }

@@ -87,6 +87,11 @@ TEST(SourceFormatter, aFileKeepsItsLineEndsAndItsMark)
     EXPECT_EQ(formatter.formatted("\xef\xbb\xbfret\n"), QByteArray("\xef\xbb\xbf        RET\n"));
     EXPECT_EQ(formatter.formatted(QByteArray()), QByteArray());
     EXPECT_EQ(formatter.formatted("ret ; \xe4\n"), QByteArray("        RET                             ; \xe4\n"));
+    // Two bytes a character: the blanks at the end of the first line are the halves of a dagger.
+    const QByteArray wide("\xff\xfe;\0 \x20\n\0", 8);
+    EXPECT_EQ(formatter.formatted(wide), wide);
+    const QByteArray dagger = QByteArray("\xfe\xff") + ";\x20\x20\n;\x20\x20";
+    EXPECT_EQ(formatter.formatted(dagger), dagger);
     const QByteArray nul("ret\0x\nret\n", 10);
     EXPECT_EQ(formatter.formatted(nul), QByteArray("ret\0x\n        RET\n", 18));
 }

@@ -11,6 +11,7 @@
 #include "FormulaResolver.h"
 #include "MemoryMapper.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 #include "SourceReader.h"
 #include "StringEncoder.h"
 #include "TargetKinds.h"
@@ -103,7 +104,8 @@ TEST_F(Stages, constantsAreResolvedInTheOrderOfTheirDependence)
     ArgumentChecker arguments(numbers, messages);
     FormulaResolver formulas(program.equs, numbers, messages);
     StringEncoder strings(charsets, config, numbers, messages);
-    EquResolver resolver(program.equs, words, arguments, formulas, strings, numbers, messages);
+    RunWatch watch;
+    EquResolver resolver(program.equs, words, arguments, formulas, strings, numbers, messages, watch);
     ASSERT_TRUE(resolver.syntacticsCheckEquArguments());
     EXPECT_EQ(valueOf("last"), 16);
     EXPECT_EQ(valueOf("sum"), 17);
@@ -117,7 +119,8 @@ TEST_F(Stages, theMapperNeedsPositionsOnly)
     org->srcRef.absLineNo = 2;
     org->name = "5";
     program.orgs.append(org);
-    MemoryMapper mapper(program, config, numbers, messages);
+    RunWatch watch;
+    MemoryMapper mapper(program, config, numbers, messages, watch);
     ASSERT_TRUE(mapper.mapOpcodeToMemCheckOrgDirectives());
     ASSERT_TRUE(mapper.mapOpcodeToMem(8));
     EXPECT_EQ(program.geometry.pageSize, 8);

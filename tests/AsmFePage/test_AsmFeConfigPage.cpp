@@ -12,6 +12,7 @@
 #include "TargetMapperConfigWidget.h"
 
 #include <QGraphicsEffect>
+#include <QSpinBox>
 #include <QTemporaryDir>
 
 using namespace nsModAsmFe;
@@ -154,6 +155,61 @@ TEST_F(AsmFePage, GivesBackWhatItWasGiven)
     EXPECT_FALSE(result.targets[kindMem].gapStuffingEn);
     EXPECT_TRUE(result.targets[kindMem].writeFileEventSave);
     EXPECT_EQ(result.targets[kindMem].outputFile, dir.filePath("o.mem"));
+}
+
+TEST_F(AsmFePage, ImagesGiveBackWhatTheyWereGiven)
+{
+    AsmFeConfig config;
+    const eTargetKind_t images[] = {kindMif, kindCoe, kindBinary, kindIntelHex, kindRamMem};
+    for (eTargetKind_t kind : images) {
+        config.targets[kind].en = kind != kindCoe;
+        config.targets[kind].outputFile = dir.filePath(QString("o.%1").arg(int(kind)));
+        config.targets[kind].wordWidth = 10 + kind;
+        config.targets[kind].writeFileEventSave = kind == kindIntelHex;
+    }
+    config.targets[kindBinary].layout = layoutBig;
+    config.targets[kindIntelHex].layout = layoutWords;
+    config.targets[kindRamMem].layout = layoutWhole;
+    page.setConfig(&config, dir.path());
+    AsmFeConfig result;
+    page.config(&result);
+    for (eTargetKind_t kind : images) {
+        EXPECT_EQ(result.targets[kind].en, config.targets[kind].en) << kind;
+        EXPECT_EQ(result.targets[kind].outputFile, config.targets[kind].outputFile);
+        EXPECT_EQ(result.targets[kind].wordWidth, config.targets[kind].wordWidth);
+        EXPECT_EQ(result.targets[kind].writeFileEventSave, config.targets[kind].writeFileEventSave);
+        EXPECT_EQ(result.targets[kind].layout, config.targets[kind].layout);
+    }
+}
+
+TEST_F(AsmFePage, AnImageByKeys)
+{
+    auto* section = page.findChild<QWidget*>("targetIntelHex");
+    ASSERT_NE(section, nullptr);
+    auto* width = section->findChild<QSpinBox*>("targetWordWidth");
+    auto* layout = section->findChild<QComboBox*>("targetLayout");
+    ASSERT_TRUE(width != nullptr && layout != nullptr);
+    EXPECT_FALSE(width->isEnabled());
+    QTest::keyClick(enable("targetIntelHex"), Qt::Key_Space);
+    EXPECT_TRUE(width->isEnabled() && layout->isEnabled());
+    EXPECT_FALSE(outputHint());
+    EXPECT_EQ(hint("targetIntelHex"), "No output file is given: nothing will be written.");
+    type(outputFile("targetIntelHex")->pathEdit(), "a.ihex");
+    EXPECT_EQ(hint("targetIntelHex"), "");
+    width->selectAll();
+    QTest::keyClicks(width, "32");
+    choose(layout, "A record a word, addresses count words");
+    auto* event = page.findChild<QCheckBox*>(QString("targetEvent%12").arg(int(kindIntelHex)));
+    ASSERT_NE(event, nullptr);
+    EXPECT_EQ(event->toolTip(), "Write Intel HEX files: After saving");
+    QTest::keyClick(event, Qt::Key_Space);
+    AsmFeConfig result;
+    page.config(&result);
+    EXPECT_TRUE(result.targets[kindIntelHex].en);
+    EXPECT_EQ(result.targets[kindIntelHex].outputFile, dir.filePath("a.ihex"));
+    EXPECT_EQ(result.targets[kindIntelHex].wordWidth, 32);
+    EXPECT_EQ(result.targets[kindIntelHex].layout, int(layoutWords));
+    EXPECT_TRUE(result.targets[kindIntelHex].writeFileEventSave);
 }
 
 TEST_F(AsmFePage, CharacterSetThatNobodyKnowsStays)

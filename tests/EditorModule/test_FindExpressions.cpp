@@ -3,12 +3,17 @@
 #include "EditorModuleTest.h"
 
 #include "SourceSearch.h"
+#include "SourceSearchPanel.h"
 #include "TextOverlay.h"
 #include "TextSearch.h"
 
+#include <QCheckBox>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextBlock>
+#include <QTreeWidget>
 
 using namespace nsModEditor;
 
@@ -130,7 +135,7 @@ TEST_F(FindExpressions, inTheSelectionOnly)
 
 TEST_F(FindExpressions, previewMarksCountsAndMovesNoCursor)
 {
-    EditorWidget* widget = open("a.psm", QString("x\n").repeated(500) + "needle\nneedle");
+    EditorWidget* widget = open("a.psm", QByteArray("x\n").repeated(500) + "needle\nneedle");
     widget->resize(300, 200);
     widget->show();
     findReplace.find = "needle";
@@ -260,6 +265,66 @@ TEST_F(FindExpressions, tooManyHitsEndTheSearch)
     EXPECT_TRUE(QTest::qWaitFor([&] { return end.count() > 0; }, 60000));
     EXPECT_FALSE(end.first().first().toBool());
     EXPECT_EQ(search.hits(), SourceSearch::maxHits);
+}
+
+/// A panel with the hits of one text.
+class SearchPanel : public SourceSearchPanel
+{
+public:
+    SearchPanel(const sSearch_t& search, const QString& text)
+    {
+        findChild<QLineEdit*>("editSourceFind")->setText(search.text);
+        findChild<QCheckBox*>("checkSourceRegExp")->setChecked(search.regExp);
+        setListed(this->search());
+        QVector<sFoundLine_t> lines;
+        const QStringList texts = text.split('\n');
+        for (int i = 0; i < texts.size(); ++i)
+            lines.append({i, texts.at(i), TextSearch(search).hitsIn(texts.at(i))});
+        addSource("/a.psm", "a.psm", lines);
+    }
+    void replaceBy(const QString& text) { findChild<QLineEdit*>("editSourceReplace")->setText(text); }
+    QTreeWidgetItem* source() const { return findChild<QTreeWidget*>("listSourceHits")->topLevelItem(0); }
+    bool canReplace() const { return findChild<QPushButton*>("buttonSourceReplace")->isEnabled(); }
+};
+
+TEST_F(FindExpressions, thousandsOfHitsInOneLongLine)
+{
+    // Half a million characters: who looks at the line once for each hit does not come to an end.
+    const int count = 10000;
+    SearchPanel panel({"a(b)", false, false, true},
+                      QString("ab--------------------------------------------------").repeated(count));
+    ASSERT_EQ(panel.source()->childCount(), count);
+    panel.replaceBy("<\\1>");
+    EXPECT_TRUE(panel.source()->child(0)->text(1).startsWith("<b>-----"));
+    EXPECT_TRUE(panel.source()->child(1)->text(1).startsWith("ab--"));
+    EXPECT_TRUE(panel.source()->child(1)->text(1).contains("-<b>-"));
+    EXPECT_TRUE(panel.source()->child(count - 1)->text(1).startsWith("ab---"));
+    EXPECT_LE(panel.source()->child(count - 1)->text(1).size(), 400);
+    const QVector<sListedHit_t> hits = panel.tickedHits();
+    ASSERT_EQ(hits.size(), count);
+    EXPECT_EQ(hits.last().hit.replacement, "<b>");
+    EXPECT_EQ(hits.last().hit.start, 52 * (count - 1));
+    panel.replaceBy("");
+    EXPECT_EQ(panel.tickedHits().last().hit.replacement, "");
+}
+
+TEST_F(FindExpressions, theButtonKnowsWhetherAnythingIsTicked)
+{
+    SearchPanel panel({"a", false, false, false}, "a a\nb\na");
+    EXPECT_TRUE(panel.canReplace());
+    panel.source()->setCheckState(0, Qt::Unchecked);
+    EXPECT_FALSE(panel.canReplace());
+    EXPECT_TRUE(panel.tickedHits().isEmpty());
+    panel.source()->child(1)->setCheckState(0, Qt::Checked);
+    EXPECT_TRUE(panel.canReplace());
+    ASSERT_EQ(panel.tickedHits().size(), 1);
+    EXPECT_EQ(panel.tickedHits().first().hit.start, 2);
+    panel.source()->child(1)->setCheckState(0, Qt::Unchecked);
+    EXPECT_FALSE(panel.canReplace());
+    panel.source()->setCheckState(0, Qt::Checked);
+    EXPECT_TRUE(panel.canReplace());
+    panel.clear();
+    EXPECT_FALSE(panel.canReplace());
 }
 
 } // namespace

@@ -213,6 +213,17 @@ TEST_F(Columns, TabsAndCharactersOfSeveralUnitsKeepTheirWidth)
     EXPECT_EQ(text(), QString("a\nb"));
 }
 
+TEST_F(Columns, DeleteTakesAWholeTab)
+{
+    editor->setText("\ta\n\tb\nxyz\n");
+    moveTo(0, 0);
+    extend(Qt::Key_Down, 3);
+    QTest::keyClick(editor.get(), Qt::Key_Delete);
+    EXPECT_EQ(text(), QString("a\nb\nyz\n"));
+    editor->undo();
+    EXPECT_EQ(text(), QString("\ta\n\tb\nxyz\n"));
+}
+
 TEST_F(Columns, ReadOnlyTextCanBeCopiedOnly)
 {
     editor->setText("abc\ndef");

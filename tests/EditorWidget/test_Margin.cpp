@@ -388,12 +388,12 @@ TEST_F(Margin, ADocumentMayBeClosedWhileItsMenuIsOpen)
     EXPECT_EQ(editor, nullptr);
 }
 
-TEST_F(Margin, TheMenuOpensByKeyForTheLineOfTheCursor)
+TEST_F(Margin, TheMenuOpensForTheLineOfTheCursor)
 {
     editor->setText(numberedLines(9));
     moveTo(6, 2);
     MenuHelper helper([](QMenu* menu) { menu->actions().first()->trigger(); });
-    QTest::keyClick(editor.get(), Qt::Key_F10, Qt::ControlModifier);
+    editor->leftMargin()->showMenuAtCursor();
     EXPECT_EQ(helper.seen(), 1);
     EXPECT_EQ(editor->simBreakpoints(), QList<int>{6});
 }

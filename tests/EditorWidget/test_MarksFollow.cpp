@@ -118,6 +118,42 @@ TEST_F(MarksFollow, MovedLinesTakeThemAlong)
     EXPECT_EQ(marks(), QList<int>{0});
 }
 
+TEST_F(MarksFollow, UndoAndRedoOfAMovedLineTakeThemAlong)
+{
+    setMarks({2, 4});
+    moveTo(2, 0);
+    editor->moveLineDown();
+    editor->moveLineDown();
+    EXPECT_EQ(marks(), (QList<int>{4, 3}));
+    editor->undo();
+    EXPECT_EQ(marks(), (QList<int>{3, 4}));
+    editor->undo();
+    EXPECT_EQ(marks(), (QList<int>{2, 4}));
+    editor->redo();
+    editor->redo();
+    EXPECT_EQ(marks(), (QList<int>{4, 3}));
+    EXPECT_EQ(editor->document()->findBlockByNumber(4).text(), QString("line 2"));
+    // The same move once more in place of its redo is one move.
+    editor->undo();
+    editor->undo();
+    moveTo(2, 0);
+    editor->moveLineDown();
+    EXPECT_EQ(marks(), (QList<int>{3, 4}));
+    editor->undo();
+    EXPECT_EQ(marks(), (QList<int>{2, 4}));
+    // Several lines, upwards.
+    select(editor->document()->findBlockByNumber(4).position(), editor->document()->findBlockByNumber(6).position());
+    editor->moveLineUp();
+    EXPECT_EQ(marks(), (QList<int>{2, 3}));
+    editor->undo();
+    EXPECT_EQ(marks(), (QList<int>{2, 4}));
+    // Another change of as many steps leaves them.
+    QTextCursor cursor(editor->document()->findBlockByNumber(2));
+    cursor.insertText("x");
+    editor->undo();
+    EXPECT_EQ(marks(), (QList<int>{2, 4}));
+}
+
 TEST_F(MarksFollow, BreakpointsAndTheStartMarkToo)
 {
     editor->setSimBreakpoint(4);

@@ -212,6 +212,19 @@ TEST_F(MoreLines, CaseOfTheSelectionOrTheWord)
     EXPECT_EQ(pos(), 0);
 }
 
+TEST_F(MoreLines, WhatIsNoBlankOfOneByteIsNoBlank)
+{
+    // Bytes of another encoding, read as what they are not: the second half of a character, or three dots.
+    const QString half = QString("; \u00a4") + QChar(0xa0);
+    const QString dots = QString("; wait") + QChar(0x85);
+    editor->setText(half + "  \n" + dots + "\t\n" + QChar(0x3000));
+    commands().removeTrailingBlanks(true);
+    EXPECT_EQ(editor->text(), half + "\n" + dots + "\n" + QChar(0x3000));
+    moveTo(0, 0);
+    commands().joinLines();
+    EXPECT_EQ(editor->text(), half + " " + dots + "\n" + QChar(0x3000));
+}
+
 TEST_F(MoreLines, TrailingBlanks)
 {
     const QString before = "one  \n\t\ntwo \\  \nthree ";

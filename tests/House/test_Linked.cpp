@@ -29,6 +29,7 @@ QStringList qtLibrariesOf(const QString& program)
 
 TEST(Linked, programsWithoutAWindowLoadTheCoreAlone)
 {
+    EXPECT_EQ(qtLibrariesOf(NALVO_IMPORT).join(' ').toStdString(), "Core");
     EXPECT_EQ(qtLibrariesOf(NALVO_ASM).join(' ').toStdString(), "Core");
     EXPECT_EQ(qtLibrariesOf(NALVO_PROVE).join(' ').toStdString(), "Core");
     EXPECT_EQ(qtLibrariesOf(NALVO_SIM).join(' ').toStdString(), "Core");

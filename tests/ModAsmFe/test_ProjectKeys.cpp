@@ -94,6 +94,46 @@ TEST(ProjectKeys, everyKeySurvivesOpeningAndSaving)
     EXPECT_EQ(asTexts(f.prj.tree.values), asTexts(values));
 }
 
+TEST(ProjectKeys, anImageHasKeysOnlyWhereItIsUsed)
+{
+    AsmFixture f;
+    f.open();
+    // The events of a kind that nobody uses are no reason to store it.
+    f.asmFe.targets[kindCoe].writeFileEventBut1 = false;
+    f.prj.savePrjCfg();
+    EXPECT_EQ(asTexts(f.prj.tree.values), asTexts(defaults));
+    f.asmFe.targets[kindMif].outputFile = f.path("sub/out.mif");
+    f.asmFe.targets[kindIntelHex].layout = layoutWords;
+    f.asmFe.targets[kindRamMem].wordWidth = 9;
+    f.asmFe.targets[kindBinary].en = true;
+    f.prj.savePrjCfg();
+    QHash<QString, QVariant> expected = defaults;
+    for (const char* kind : {"mif", "binary", "ihex", "ram"}) {
+        const QString key = QString("Outputs/%1/").arg(kind);
+        expected.insert(key + "en", int(qstrcmp(kind, "binary") == 0));
+        expected.insert(key + "writeFileEventBut1", 1);
+        expected.insert(key + "writeFileEventBut2", 1);
+        expected.insert(key + "writeFileEventSave", 0);
+        expected.insert(key + "outputFile", qstrcmp(kind, "mif") == 0 ? "sub/out.mif" : "");
+        expected.insert(key + "wordWidth", qstrcmp(kind, "ram") == 0 ? 9 : 18);
+    }
+    expected.insert("Outputs/binary/layout", 0);
+    expected.insert("Outputs/ihex/layout", 2);
+    expected.insert("Outputs/ram/layout", 0);
+    EXPECT_EQ(asTexts(f.prj.tree.values), asTexts(expected));
+    // What was stored once stays, and follows what the user does.
+    f.prj.close();
+    f.prj.tree = f.prj.saved;
+    f.open();
+    EXPECT_EQ(f.asmFe.targets[kindMif].outputFile, f.path("sub/out.mif"));
+    EXPECT_EQ(f.asmFe.targets[kindIntelHex].layout, int(layoutWords));
+    EXPECT_EQ(f.asmFe.targets[kindRamMem].wordWidth, 9);
+    f.asmFe.targets[kindBinary].en = false;
+    f.prj.savePrjCfg();
+    expected["Outputs/binary/en"] = 0;
+    EXPECT_EQ(asTexts(f.prj.tree.values), asTexts(expected));
+}
+
 TEST(ProjectKeys, pathsOutsideOfTheProject)
 {
     AsmFixture f;

@@ -9,6 +9,7 @@
 #include "MsgViewer.h"
 #include "QtPrinters.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -145,6 +146,46 @@ TEST_F(ConfigInWindow, theCloseKeyAppliesFromWithinAField)
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_FALSE(isOpen());
     EXPECT_EQ(prj->prjTitle(), "By key");
+}
+
+TEST_F(ConfigInWindow, opensAtTheFirstPageUnlessTheUserWantsTheLastOne)
+{
+    config->openDialog();
+    const QString first = current();
+    list()->setCurrentItem(item("Editor"));
+    config->closeDialog(false);
+    config->openDialog();
+    EXPECT_EQ(current(), first);
+    list()->setCurrentItem(item("Appearance"));
+    auto* box = dialog()->findChild<QCheckBox*>("opensAtLastPage");
+    EXPECT_FALSE(box->isChecked());
+    QTest::keyClick(box, Qt::Key_Space);
+    config->closeDialog(true);
+    config->openDialog();
+    EXPECT_EQ(current(), "Appearance");
+    EXPECT_TRUE(dialog()->findChild<QCheckBox*>("opensAtLastPage")->isChecked());
+    // However it is closed; also in the next window.
+    list()->setCurrentItem(item("Editor"));
+    config->closeDialog(false);
+    ASSERT_TRUE(closeWindow());
+    makeWindow();
+    config = module<nsModConfig::ModConfig>();
+    config->openDialog();
+    EXPECT_EQ(current(), "Editor");
+    config->closeDialog(false);
+    // A title goes before it, and a page that needs a project without one does not come to the front.
+    config->openDialog("Appearance");
+    EXPECT_EQ(current(), "Appearance");
+    config->closeDialog(false);
+    prj = module<nsModPrj::ModPrj>();
+    ASSERT_TRUE(prj->openPrj(makePrj("a")));
+    config->openDialog("Sources");
+    ASSERT_EQ(current(), "Sources");
+    config->closeDialog(false);
+    prj->closePrj();
+    config->openDialog();
+    EXPECT_TRUE(isEnabled(current())) << qPrintable(current());
+    EXPECT_EQ(current(), first);
 }
 
 TEST_F(ConfigInWindow, theRightDockFollowsTheTabs)

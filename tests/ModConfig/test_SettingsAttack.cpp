@@ -76,12 +76,13 @@ TEST_F(SettingsAttack, RestoreAndDefaultsConcernTheirPageAlone)
             Snapshot wanted = before;
             keepShownProcessor(&after);
             keepShownProcessor(&wanted);
-            if (button == "Restore values")
+            if (button == "Restore values") {
                 expectSame(after[title], wanted[title], button + " on " + title);
-            else if (title == "Sources")
+            } else if (title == "Sources") {
                 expectSame(after[title], changed[title], "defaults leave the list of sources alone");
-            else if (title != "All shortcuts") // a list alone, with tests of its own
+            } else if (title != "All shortcuts") { // a list alone, with tests of its own
                 EXPECT_NE(after[title], changed[title]) << qPrintable(title);
+            }
             config()->closeDialog();
         }
     }

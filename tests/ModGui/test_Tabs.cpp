@@ -3,6 +3,7 @@
 #include "GuiFixture.h"
 
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QTest>
 
 TEST_F(GuiTest, TabsOfOneNameAreNumbered)
@@ -269,4 +270,64 @@ TEST_F(GuiTest, EmptyCentreShowsAPageOfItsOwn)
     EXPECT_FALSE(page->isVisible());
     delete widget;
     EXPECT_TRUE(page->isVisible());
+}
+
+TEST_F(GuiTest, APageWithASecondWidgetStaysThePage)
+{
+    QWidget* one = make("one");
+    QWidget* two = make("two");
+    QWidget* second = make("second");
+    hook->addWidget(&a, Hook::eLocationTabs, one, "one");
+    hook->addWidget(&a, Hook::eLocationTabs, two, "two");
+    window.show();
+    QCoreApplication::processEvents();
+    log.clear();
+    QSplitter* splitter = hook->splitPage(one, second, Qt::Vertical);
+    ASSERT_NE(splitter, nullptr);
+    EXPECT_EQ(splitter->widget(0), one);
+    EXPECT_EQ(splitter->widget(1), second);
+    EXPECT_TRUE(log.isEmpty()) << log.join(' ').toStdString();
+    EXPECT_EQ(tabTexts(), (QStringList{"one", "two"}));
+    EXPECT_EQ(hook->currentWidget(Hook::eLocationTabs), two);
+    EXPECT_FALSE(one->isVisible());
+    hook->setCurrentWidget(one);
+    EXPECT_EQ(log, (QStringList{"b:1:other:one", "a:1:own:one"}));
+    EXPECT_EQ(hook->currentWidget(Hook::eLocationTabs), one);
+    EXPECT_TRUE(one->isVisible() && second->isVisible());
+    EXPECT_TRUE(hook->hasWidget(Hook::eLocationTabs, one));
+    EXPECT_FALSE(hook->hasWidget(Hook::eLocationTabs, second));
+    hook->setWidgetName(one, "other");
+    EXPECT_EQ(tabs()->tabText(0), QString("other"));
+    log.clear();
+    emit tabs()->tabCloseRequested(0);
+    EXPECT_EQ(a.closeRequests, QList<QWidget*>{one});
+    log.clear();
+    EXPECT_EQ(hook->splitPage(one, nullptr, Qt::Vertical), nullptr);
+    EXPECT_EQ(second->parent(), nullptr);
+    EXPECT_EQ(tabs()->indexOf(one), 0);
+    EXPECT_TRUE(one->isVisible());
+    EXPECT_TRUE(log.isEmpty()) << log.join(' ').toStdString();
+    EXPECT_TRUE(tabs()->findChildren<QSplitter*>().isEmpty());
+    // What is no page is not split.
+    EXPECT_EQ(hook->splitPage(second, two, Qt::Vertical), nullptr);
+    EXPECT_EQ(hook->splitPage(nullptr, two, Qt::Vertical), nullptr);
+}
+
+TEST_F(GuiTest, ASplitPageCanBeRemovedAndDeleted)
+{
+    for (const bool isDeleted : {false, true}) {
+        SCOPED_TRACE(isDeleted);
+        QWidget* page = make("page");
+        QWidget* second = make("second");
+        hook->addWidget(&a, Hook::eLocationTabs, page, "page");
+        ASSERT_NE(hook->splitPage(page, second, Qt::Horizontal), nullptr);
+        if (isDeleted)
+            delete page;
+        else
+            hook->removeWidget(page);
+        EXPECT_EQ(tabs()->count(), 0);
+        EXPECT_EQ(second->parent(), nullptr);
+        EXPECT_EQ(hook->currentWidget(Hook::eLocationTabs), nullptr);
+        EXPECT_TRUE(hook->centerWidgetList().isEmpty());
+    }
 }

@@ -220,8 +220,8 @@ TEST_F(Module, servesItsClients)
     {
     } client;
     ModSrcNaviHookIf* hook = &navi;
-    hook->registerPlugin(nullptr);
-    hook->unregisterPlugin(nullptr);
+    hook->registerPlugin(static_cast<ModSrcNaviPluginIf*>(nullptr));
+    hook->unregisterPlugin(static_cast<ModSrcNaviPluginIf*>(nullptr));
     hook->unregisterPlugin(&client);
     EXPECT_EQ(client.modSrcNaviHook, nullptr);
     hook->registerPlugin(&client);

@@ -105,8 +105,9 @@ TEST_F(ColorsTest, formatsOfTextCanBeToldApartOnPaper)
     // Two dark colours that are equal come from equal light ones, or the way back is lost.
     for (int one = Colors::firstFormat; one <= Colors::lastFormat; ++one) {
         for (int other = one; other <= Colors::lastFormat; ++other) {
-            if (Colors::rows[one].dark == Colors::rows[other].dark)
+            if (Colors::rows[one].dark == Colors::rows[other].dark) {
                 EXPECT_EQ(Colors::rows[one].light, Colors::rows[other].light) << Colors::rows[one].name;
+            }
         }
     }
     Colors::setScheme(Colors::eDark);
@@ -197,6 +198,20 @@ TEST_F(ColorsTest, anIconFollowsTheSchemeAfterItWasMade)
     EXPECT_EQ(most(target), Colors::of(Colors::eDrawingLine, Colors::eDark));
     Colors::setScheme(Colors::eLight);
     EXPECT_EQ(icon.pixmap(24, 24).toImage(), light);
+}
+
+TEST_F(ColorsTest, anIconCanHaveAPictureOfItsOwnForAMode)
+{
+    QIcon icon(QStringLiteral(":/ModEditor/img/file/document-new.png"));
+    QPixmap own(48, 48);
+    own.fill(QColor(12, 34, 56));
+    own.setDevicePixelRatio(2);
+    icon.addPixmap(own, QIcon::Selected);
+    for (const Colors::eScheme_t scheme : {Colors::eLight, Colors::eDark}) {
+        Colors::setScheme(scheme);
+        EXPECT_EQ(icon.pixmap(24, 24, QIcon::Selected).toImage().pixelColor(12, 12), QColor(12, 34, 56));
+        EXPECT_NE(icon.pixmap(24, 24).toImage().pixelColor(12, 12), QColor(12, 34, 56));
+    }
 }
 
 TEST_F(ColorsTest, anIconFromElsewhereIsLeftAlone)

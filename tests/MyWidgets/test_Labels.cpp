@@ -4,6 +4,7 @@
 #include "MyButtonCancel.h"
 #include "MyButtonOk.h"
 #include "MyButtonOpenFile.h"
+#include "MyElidedLabel.h"
 #include "MyFieldTitle.h"
 #include "MyHLine.h"
 #include "MyPageLayout.h"
@@ -17,6 +18,7 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QSpinBox>
@@ -178,4 +180,28 @@ TEST_F(PageLayout, withoutAProjectItSaysSoAndKeepsWhatThePageDisabled)
     EXPECT_TRUE(free->isEnabled());
     EXPECT_FALSE(dependent->isEnabled());
     EXPECT_FALSE(note->isVisible());
+}
+
+TEST(MyLabels, aLineTakesAnyWidthAndLeavesOutWhatDoesNotFit)
+{
+    const QString text = QStringLiteral("a/rather/long/path/of/a/file.psm <b>");
+    for (const Qt::TextElideMode mode : {Qt::ElideMiddle, Qt::ElideRight}) {
+        MyElidedLabel label(mode);
+        label.setText(text);
+        EXPECT_EQ(label.textFormat(), Qt::PlainText);
+        EXPECT_EQ(label.minimumSizeHint().width(), 0);
+        EXPECT_EQ(label.sizeHint().width(), 0);
+        EXPECT_GT(label.sizeHint().height(), 0);
+        QLabel plain;
+        plain.setTextFormat(Qt::PlainText);
+        const auto pictureOf = [&](QLabel* shown, const QString& its, int width) {
+            shown->setText(its);
+            shown->resize(width, label.sizeHint().height());
+            return shown->grab().toImage();
+        };
+        const int whole = label.fontMetrics().horizontalAdvance(text) + 8;
+        EXPECT_EQ(pictureOf(&label, text, whole), pictureOf(&plain, text, whole));
+        EXPECT_EQ(pictureOf(&label, text, 120),
+                  pictureOf(&plain, label.fontMetrics().elidedText(text, mode, 120), 120));
+    }
 }

@@ -39,3 +39,25 @@ TEST(LinkList, ALongNameDoesNotMakeItsPageWide)
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(isPressed);
 }
+
+TEST(LinkList, ALinkWithoutRoomShowsItsShortText)
+{
+    MyLinkButton link("Next: Choose the output files");
+    link.setShortText("Next...");
+    link.resize(link.sizeHint());
+    EXPECT_EQ(link.shownText(), "Next: Choose the output files");
+    EXPECT_LT(link.minimumSizeHint().width(), link.sizeHint().width());
+    link.resize(link.sizeHint().width() - 1, link.height());
+    EXPECT_EQ(link.shownText(), "Next...");
+    link.resize(link.minimumSizeHint());
+    EXPECT_EQ(link.shownText(), "Next...") << "it has room for it at its smallest";
+    link.resize(link.minimumSizeHint().width() - 1, link.height());
+    EXPECT_NE(link.shownText(), "Next...") << "a text that does not fit either";
+    EXPECT_EQ(link.text(), "Next: Choose the output files");
+    link.resize(link.minimumSizeHint());
+    const QImage picture = link.grab().toImage();
+    link.setText("Next: Choose the output folder");
+    EXPECT_EQ(link.grab().toImage(), picture) << "only the short text is painted";
+    link.setShortText("Next.,.");
+    EXPECT_NE(link.grab().toImage(), picture);
+}

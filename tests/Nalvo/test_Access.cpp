@@ -12,13 +12,16 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPlainTextEdit>
 #include <QSpinBox>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -198,6 +201,48 @@ TEST_F(Access, everyPageOfTheSettingsCanBeUsedByKeys)
     }
 }
 
+TEST_F(Access, theTabKeyGoesThroughEveryPanelAndPageAsItIsRead)
+{
+    // What comes by a command: usages, find in sources, the panels of the simulator.
+    auto* document = window->findChild<QPlainTextEdit*>("editorWidget");
+    ASSERT_NE(document, nullptr);
+    document->setFocus();
+    document->moveCursor(QTextCursor::Down);
+    for (const char* command : {"Run assembler", "Find usages", "Find in sources...", "Files of the project",
+                                "Enable/disable simulator", "Replace"})
+        EXPECT_TRUE(trigger(command)) << command;
+    QStringList panels;
+    const auto expectOrder = [&panels](QWidget* panel, const QString& title) {
+        settleLayout();
+        expectReadingOrder(panel, qPrintable(title));
+        panels.append(title);
+    };
+    const auto expectDocks = [&] {
+        for (QDockWidget* dock : window->findChildren<QDockWidget*>()) {
+            auto* tabs = dock->findChild<QTabWidget*>();
+            if (!dock->isVisible())
+                continue;
+            if (tabs == nullptr) {
+                expectOrder(dock->widget(), dock->windowTitle());
+                continue;
+            }
+            for (int index = 0; index < tabs->count(); ++index) {
+                tabs->setCurrentIndex(index);
+                expectOrder(tabs->widget(index), tabs->tabText(index));
+            }
+        }
+    };
+    expectDocks();
+    auto* centre = window->findChild<QTabWidget*>("widgetAreaTabs");
+    EXPECT_TRUE(trigger("Import files..."));
+    EXPECT_TRUE(trigger("New project...") || trigger("Open project..."));
+    for (int index = 0; index < centre->count(); ++index) {
+        centre->setCurrentIndex(index);
+        expectOrder(centre->widget(index), centre->tabText(index));
+    }
+    EXPECT_GE(panels.size(), 12) << qPrintable(panels.join(", "));
+}
+
 TEST_F(Access, theListOfProcessorsShowsAllOfThem)
 {
     module<ModConfigHookIf>()->openDialog("Processor");
@@ -270,8 +315,9 @@ TEST_F(Access, everyActionCanBeReachedByKeys)
     }
     for (const QToolBar* bar : window->findChildren<QToolBar*>()) {
         for (QAction* action : bar->actions()) {
-            if (!action->isSeparator())
+            if (!action->isSeparator()) {
                 EXPECT_TRUE(inMenus.contains(action)) << qPrintable(action->text());
+            }
         }
     }
 }

@@ -16,6 +16,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QTextBlock>
 #include <QTextLayout>
 #include <QTimer>
@@ -274,4 +275,105 @@ TEST_F(ColorsInWindow, theInsertionMenuHasTheLookOfTheWindow)
     QApplication::sendEvent(document->viewport(), &event);
     EXPECT_FALSE(sheet.isEmpty());
     EXPECT_EQ(sheet, window->styleSheet());
+}
+
+TEST_F(ColorsInWindow, aSwitchUnderTheSettingsLosesNothingOfThem)
+{
+    makeWindow();
+    openProject();
+    module<ModConfigHookIf>()->openDialog("Editor");
+    module<ModConfigHookIf>()->closeDialog(true);
+    const auto settings = [this] {
+        QMap<QString, QVariant> values;
+        const QSettings file(settingsFile(), QSettings::IniFormat);
+        for (const QString& key : file.allKeys()) {
+            if (key.startsWith("ModEditor/") || key.startsWith("ModSrcNavi/") || key.startsWith("ModAction/"))
+                values.insert(key, file.value(key));
+        }
+        return values;
+    };
+    const QMap<QString, QVariant> before = settings();
+    ASSERT_GT(before.size(), 20);
+    for (const bool dark : {true, false}) {
+        module<ModConfigHookIf>()->openDialog("Editor");
+        auto* list = window->findChild<QListWidget*>("configList");
+        for (int row = 0; row < list->count(); ++row) {
+            list->setCurrentRow(row);
+            changeSystem(dark);
+            changeSystem(!dark);
+            changeSystem(dark);
+        }
+        EXPECT_EQ(isDark(), dark);
+        module<ModConfigHookIf>()->closeDialog(true);
+        const QMap<QString, QVariant> after = settings();
+        for (auto it = before.cbegin(); it != before.cend(); ++it)
+            EXPECT_EQ(after.value(it.key()), it.value()) << qPrintable(it.key());
+    }
+}
+
+TEST_F(ColorsInWindow, aSwitchIsNoChangeOfTheSettingsThatEscapeWouldAskFor)
+{
+    makeWindow();
+    openProject();
+    const auto escape = [this] {
+        auto* dialog = window->findChild<QWidget*>("configDialog");
+        dialog->setFocus();
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+        settleLayout();
+    };
+    for (const bool dark : {true, false}) {
+        module<ModConfigHookIf>()->openDialog("Editor");
+        changeSystem(dark);
+        ModalAnswers answers({});
+        escape();
+        EXPECT_EQ(answers.seen(), 0);
+        EXPECT_EQ(window->findChild<QWidget*>("configDialog"), nullptr);
+    }
+    // What the user has changed before is asked for after.
+    module<ModConfigHookIf>()->openDialog("Editor");
+    for (QAbstractButton* box : window->findChild<QWidget*>("configDialog")->findChildren<QAbstractButton*>()) {
+        if (box->objectName() == "dynamicLineWrapEn")
+            QTest::keyClick(box, Qt::Key_Space);
+    }
+    changeSystem(true);
+    ModalAnswers answers({});
+    escape();
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_NE(window->findChild<QWidget*>("configDialog"), nullptr);
+}
+
+TEST_F(ColorsInWindow, whatIsOpenFollows)
+{
+    makeWindow();
+    openProject();
+    const auto command = [this](const QString& text) {
+        for (QAction* action : window->findChildren<QAction*>()) {
+            if (action->text() == text && action->isEnabled())
+                return action->trigger();
+        }
+        ADD_FAILURE() << "no command " << qPrintable(text);
+    };
+    command("Run assembler");
+    command("Enable/disable simulator");
+    for (const bool dark : {true, false}) {
+        changeSystem(dark);
+        command("Next instruction");
+        EXPECT_LT(part(window->grab().toImage(), dark), 0.03) << dark;
+    }
+    command("Enable/disable simulator");
+    for (const bool dark : {true, false}) {
+        for (const char* opener : {"Open...", "Quick open...", "Open project..."}) {
+            changeSystem(!dark);
+            double wrong = 1;
+            ModalAnswers answers({[&](QDialog* dialog) {
+                settleLayout();
+                changeSystem(dark);
+                wrong = part(dialog->grab().toImage(), dark);
+            }});
+            command(opener);
+            if (answers.seen() > 0) {
+                EXPECT_LT(wrong, 0.03) << opener << dark;
+            }
+        }
+    }
 }

@@ -114,6 +114,36 @@ TEST_F(CompletionInWindow, whatFitsTheArgumentComesFirst)
     screenshot("completion");
 }
 
+TEST_F(CompletionInWindow, aNameIsWrittenAsItsNamespaceNeedsIt)
+{
+    openWithCompletion();
+    document = openFile("sub/other.psm");
+    setCursorInto(document, "RET");
+    document->moveCursor(QTextCursor::StartOfBlock);
+    const auto line = [this] { return document->textCursor().block().text(); };
+    type("LOAD s0, lim");
+    EXPECT_EQ(words(), QStringList("limit"));
+    QTest::keyClick(document, Qt::Key_Tab);
+    EXPECT_EQ(line(), "LOAD s0, ::limitRET");
+    QTest::keyClick(document, Qt::Key_Return);
+    type("LOAD s1, ::tw");
+    EXPECT_EQ(words(), QStringList("twice"));
+    QTest::keyClick(document, Qt::Key_Tab);
+    EXPECT_EQ(line(), "LOAD s1, ::twiceRET");
+    QTest::keyClick(document, Qt::Key_Return);
+    type("CALL wor");
+    QTest::keyClick(document, Qt::Key_Tab);
+    EXPECT_EQ(line(), "CALL ns::workRET");
+    QTest::keyClick(document, Qt::Key_Return);
+    action("Save all")->trigger();
+    EXPECT_TRUE(module<nsModAsmFe::ModAsmFe>()->isAssembled());
+    // Outside of all it stays as it is.
+    document->moveCursor(QTextCursor::End);
+    type("LOAD s0, lim");
+    QTest::keyClick(document, Qt::Key_Tab);
+    EXPECT_EQ(line(), "LOAD s0, limit");
+}
+
 TEST_F(CompletionInWindow, theListIsWalkedByKeys)
 {
     openWithCompletion();

@@ -285,12 +285,51 @@ TEST_F(DocumentsInWindow, quickOpenFindsFilesAndSymbolsByKeyboardAlone)
     ASSERT_TRUE(module<nsModAsmFe::ModAsmFe>()->isAssembled()) << "Ctrl+B runs the assembler";
     EXPECT_EQ(quickOpen("bps").value(0), "b.psm");
     EXPECT_EQ(current(), "b.psm");
-    EXPECT_EQ(quickOpen("gam").value(0), "gamma:");
+    EXPECT_EQ(quickOpen("gam").value(0), "gamma");
     EXPECT_EQ(current(), "c.psm");
     quickOpen("a");
     quickOpen("", 1);
     EXPECT_EQ(current(), "c.psm") << "without a letter: the files used last";
     EXPECT_EQ(quickOpen("zzz"), QStringList());
+}
+
+TEST_F(DocumentsInWindow, quickOpenLeadsToTheDefinitionOfEveryName)
+{
+    writeFile("b.psm",
+              "#EQU bitMask, 0x1F\n#NAMESPACE uart\nsend:   LOAD s0, bitMask\n        JUMP send\n#ENDNAMESPACE\n"
+              "beta:   JUMP beta\n");
+    QTest::keyClick(window.get(), Qt::Key_B, Qt::ControlModifier);
+    settleLayout();
+    ASSERT_TRUE(module<nsModAsmFe::ModAsmFe>()->isAssembled());
+    const auto place = [this] {
+        const auto* document = qobject_cast<EditorWidget*>(tabs()->currentWidget());
+        return document == nullptr ? QString()
+                                   : QString("%1:%2 %3")
+                                         .arg(current())
+                                         .arg(document->cursorLine())
+                                         .arg(document->textCursor().selectedText());
+    };
+    EXPECT_EQ(quickOpen("bitm"), QStringList("bitMask"));
+    EXPECT_EQ(place(), "b.psm:0 bitMask");
+    EXPECT_EQ(quickOpen("send").value(0), "uart::send");
+    EXPECT_EQ(place(), "b.psm:2 send");
+    // Behind @ there are names alone.
+    EXPECT_TRUE(quickOpen("a").contains("a.psm"));
+    const QStringList names = quickOpen("@a");
+    EXPECT_TRUE(names.contains("alpha")) << qPrintable(names.join(' '));
+    EXPECT_FALSE(names.contains("a.psm"));
+    EXPECT_EQ(quickOpen("@alp").value(0), "alpha");
+    EXPECT_EQ(place(), "a.psm:0 alpha");
+    // It is a jump, which has a way back.
+    QTest::keyClick(tabs()->currentWidget(), Qt::Key_Left, Qt::AltModifier);
+    EXPECT_EQ(current(), "b.psm");
+    // The text as it stands counts, not that of the run.
+    auto* document = qobject_cast<EditorWidget*>(tabs()->currentWidget());
+    document->moveCursor(QTextCursor::Start);
+    document->insertText("; moved\n");
+    quickOpen("bitm");
+    EXPECT_EQ(place(), "b.psm:1 bitMask");
+    document->clearModified();
 }
 
 TEST_F(DocumentsInWindow, quickOpenNeedsAProjectAndEscLeaves)
@@ -549,6 +588,7 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
     for (int i = 0; i < 20000; ++i)
         many += "        LOAD s0, 1\n";
     writeFile("c.psm", many);
+    writeFile("out.hex", "of an earlier run\n");
     asmFe->setWorkDelay(0);
     for (const bool byKey : {false, true}) {
         SCOPED_TRACE(byKey);
@@ -572,8 +612,11 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
         timer.stop();
         EXPECT_TRUE(seen);
         EXPECT_FALSE(asmFe->isAssembled());
-        EXPECT_FALSE(QFile::exists(path("out.hex")));
-        EXPECT_TRUE(messageTexts().contains("The run was cancelled.")) << qPrintable(messageTexts().join('\n'));
+        QFile out(path("out.hex"));
+        EXPECT_TRUE(out.open(QIODevice::ReadOnly));
+        EXPECT_EQ(out.readAll(), "of an earlier run\n");
+        EXPECT_TRUE(messageTexts().contains("The run was cancelled. The output files are as they were."))
+            << qPrintable(messageTexts().join('\n'));
         EXPECT_EQ(window->findChild<QToolButton*>("longWorkCancel"), nullptr) << "the bar has gone";
     }
     asmFe->setWorkDelay(1000);

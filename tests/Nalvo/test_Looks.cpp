@@ -1,11 +1,13 @@
 // Pictures of the main states in both schemes, at several scales, fonts and sizes of the window, for a person to look
-// at. Where there is room, what a program can see is checked: no text is cut off or unpainted, the window keeps its
-// size.
+// at. What a program can see is checked: the window keeps its size, and where there is room, no text is cut off or
+// unpainted.
 
+#include "Contrast.h"
 #include "ExampleFolder.h"
 #include "MainWindowFixture.h"
 
 #include "Colors.h"
+#include "HlpWidget.h"
 #include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModPrj.h"
@@ -67,10 +69,12 @@ protected:
         window->resize(m_size);
         settleLayout();
         picture(state, window.get());
-        if (!m_isRoomy)
-            return;
         EXPECT_LE(window->width(), m_size.width()) << state.toStdString() << " makes the window grow";
         EXPECT_LE(window->height(), m_size.height()) << state.toStdString() << " makes the window grow";
+        SCOPED_TRACE((m_scheme + ' ' + state).toStdString());
+        if (m_isRoomy) {
+            EXPECT_GT(expectContrast(window.get(), window->grab().toImage()), 2);
+        }
     }
     void picture(const QString& state, QWidget* widget)
     {
@@ -104,6 +108,15 @@ protected:
     {
         makeWindow();
         take("start");
+        ASSERT_TRUE(trigger("New project..."));
+        take("new-project");
+        QTest::mouseClick(window->findChild<QPushButton*>("buttonCancel"), Qt::LeftButton);
+        settleLayout();
+        ASSERT_TRUE(trigger("Online Help"));
+        auto* help = window->findChild<nsModHlp::HlpWidget*>();
+        ASSERT_NE(help, nullptr);
+        ASSERT_TRUE(QTest::qWaitFor([help] { return !help->title().isEmpty(); }, 60000));
+        take("help");
         openExample();
         take("project");
         module<ModEditorHookIf>()->openFile(projectDir() + "/uart_monitor/src/main.psm");
@@ -194,6 +207,7 @@ INSTANTIATE_TEST_SUITE_P(
     All, LooksAtScale,
     ::testing::Values(sLook_t{"1", "light 9 1024x700"}, sLook_t{"1", "dark 9 1024x700"},
                       sLook_t{"1", "light 14 1024x700"}, sLook_t{"1", "dark 14 2560x1440"},
+                      sLook_t{"1", "light 10 2560x1440"}, sLook_t{"1", "light 10 1280x750"},
                       sLook_t{"1.5", "light 9 1280x750"}, sLook_t{"1.5", "dark 14 1024x700"},
                       sLook_t{"2", "light 14 1280x750"}, sLook_t{"2", "dark 9 1024x700"}),
     [](const ::testing::TestParamInfo<sLook_t>& one) {

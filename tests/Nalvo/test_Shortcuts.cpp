@@ -3,7 +3,10 @@
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
 
+#include "EditorWidget.h"
 #include "ModConfigHookIf.h"
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
 
 #include <QAction>
 #include <QHelpEvent>
@@ -13,6 +16,7 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QSpinBox>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QToolTip>
@@ -201,6 +205,7 @@ TEST_F(ShortcutsInWindow, BrokenEntriesOfTheSettingsHarmNothing)
 
 TEST_F(ShortcutsInWindow, TheToolTipOfAButtonNamesTheKeys)
 {
+    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n")));
     int seen = 0;
     for (QToolBar* bar : window->findChildren<QToolBar*>()) {
         for (QToolButton* button : bar->findChildren<QToolButton*>()) {
@@ -287,4 +292,79 @@ TEST_F(ShortcutsInWindow, TheCommandsOfASubmenuCanHaveKeysToo)
     press("Apply and close");
     EXPECT_TRUE(waitForClose());
     EXPECT_EQ(readSetting("ModAction/shortcuts"), "Edit/Sort lines=Ctrl+Alt+S");
+}
+
+TEST_F(ShortcutsInWindow, EveryKeyOfTheWindowIsListed)
+{
+    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n")));
+    settleLayout();
+    openPage();
+    QStringList listed;
+    auto* list = onPage<QTreeWidget>("shortcutList");
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+        listed += list->topLevelItem(row)->text(2).split("; ");
+    int seen = 0;
+    for (const QAction* action : window->findChildren<QAction*>()) {
+        for (const QKeySequence& key : action->shortcuts()) {
+            EXPECT_TRUE(listed.contains(key.toString(QKeySequence::NativeText)))
+                << qPrintable(action->text() + ": " + key.toString());
+            ++seen;
+        }
+    }
+    EXPECT_GT(seen, 40);
+    for (const char* key : {"F6", "Ctrl+F10", "Ctrl+Tab", "Ctrl+PgDown", "F1", "F2", "F8", "F9", "Ctrl+P"})
+        EXPECT_TRUE(listed.contains(key)) << key;
+}
+
+TEST_F(ShortcutsInWindow, TheMenuOfTheMarginOpensByItsKeyAlsoByAnotherOne)
+{
+    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n      JUMP loop\n")));
+    auto* document =
+        qobject_cast<nsModEditor::EditorWidget*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
+    ASSERT_NE(document, nullptr);
+    const auto openMenu = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        document->setCursorToLine(1);
+        document->setFocus();
+        QStringList texts;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, [&] {
+            auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+            if (menu == nullptr)
+                return;
+            for (const QAction* action : menu->actions())
+                texts.append(action->text());
+            menu->close();
+        });
+        timer.start(0);
+        QTest::keyClick(document, key, modifiers);
+        return texts;
+    };
+    EXPECT_FALSE(openMenu(Qt::Key_F10, Qt::ControlModifier).isEmpty());
+    openPage();
+    assign("Marks of the line", Qt::Key_F12, Qt::NoModifier);
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_TRUE(openMenu(Qt::Key_F10, Qt::ControlModifier).isEmpty());
+    EXPECT_FALSE(openMenu(Qt::Key_F12, Qt::NoModifier).isEmpty());
+}
+
+TEST_F(ShortcutsInWindow, APageThatIsChosenWithoutCtrlLeavesNoListBehind)
+{
+    for (const char* name : {"a.psm", "b.psm"})
+        ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile(name, "loop: JUMP loop\n")));
+    const auto page = [this] { return module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs); };
+    QWidget* second = page();
+    command("Navigation", "Page used before")->trigger();
+    EXPECT_NE(page(), second);
+    EXPECT_FALSE(window->findChild<QWidget*>("pageSwitcher")->isVisible());
+    command("Navigation", "Page used before")->trigger();
+    EXPECT_EQ(page(), second);
+    openPage();
+    assign("Page used before", Qt::Key_F12, Qt::NoModifier);
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(page(), second);
+    QTest::keyClick(second, Qt::Key_F12);
+    EXPECT_NE(page(), second);
+    EXPECT_FALSE(window->findChild<QWidget*>("pageSwitcher")->isVisible());
 }

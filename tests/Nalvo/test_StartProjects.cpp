@@ -77,6 +77,25 @@ TEST(ExampleProjects, aTemplateWithAnotherContentStopsTheCopyAndNothingIsLeft)
     EXPECT_EQ(mine.readAll(), "mine");
 }
 
+TEST(ExampleProjects, anEmptyFolderOfAnExampleIsCopied)
+{
+    QTemporaryDir shipped;
+    QTemporaryDir target;
+    ASSERT_TRUE(QDir(shipped.path()).mkpath("a/output"));
+    ASSERT_TRUE(QDir(target.path()).mkpath("copies"));
+    QFile project(shipped.filePath("a/a.nalvo"));
+    ASSERT_TRUE(project.open(QIODevice::WriteOnly));
+    project.write("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<project version=\"3\"/>\n");
+    project.close();
+    const nsModPrj::ExampleProjects examples(shipped.path());
+    ASSERT_EQ(examples.list().size(), 1);
+    QString error;
+    EXPECT_EQ(examples.copy(examples.list().constFirst(), target.filePath("copies"), &error),
+              target.filePath("copies/a/a.nalvo"))
+        << qPrintable(error);
+    EXPECT_TRUE(QFileInfo(target.filePath("copies/a/output")).isDir());
+}
+
 TEST(ExampleProjects, anInstallationWithoutThemHasNone)
 {
     for (const QString& dir : {QString(), QStringLiteral("/nowhere/examples")}) {

@@ -390,8 +390,9 @@ TEST_F(SourcesInWindow, theProjectGoesWhileItIsSearched)
     EXPECT_EQ(list()->topLevelItemCount(), 0);
     // Without a project there is nothing to search.
     for (QAction* action : window->findChildren<QAction*>()) {
-        if (action->text() == "Find in sources...")
+        if (action->text() == "Find in sources...") {
             EXPECT_FALSE(action->isEnabled());
+        }
     }
     EXPECT_TRUE(closeWindow());
 }
@@ -486,6 +487,28 @@ TEST_F(SessionInWindow, aDamagedFileIsIgnoredWithOneMessage)
         EXPECT_EQ(warnings(), 1) << bad.constData();
         EXPECT_NE(documentOf("a.psm"), nullptr);
     }
+}
+
+TEST_F(SessionInWindow, onlyAFileOfItsOwnIsWrittenOver)
+{
+    const auto after = [this](const QByteArray& before) {
+        writeFile("p.nalvo.user", before);
+        openProject();
+        open("b.psm");
+        forgetChanges();
+        EXPECT_TRUE(module<nsModPrj::ModPrj>()->closePrj());
+        window.reset();
+        return sessionText();
+    };
+    // Of a newer version, of another program, a text.
+    for (const QByteArray& foreign :
+         {QByteArray("{\"nalvoSession\": 2, \"documents\": [], \"more\": 1}"), QByteArray("{\"other\": true}"),
+          QByteArray("[Settings]\nuser=me\n"), QByteArray("<user/>")})
+        EXPECT_EQ(after(foreign), foreign);
+    // Damaged ones of its own.
+    for (const QByteArray& damaged : {QByteArray(), QByteArray("{\"nalvoSession\": 1, \"docum"),
+                                      QByteArray("{\"nalvoSession\": 1, \"documents\": 7}")})
+        EXPECT_TRUE(after(damaged).contains("b.psm")) << damaged.constData();
 }
 
 TEST_F(SessionInWindow, numbersOutOfRangeDoNoHarm)

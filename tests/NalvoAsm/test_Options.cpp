@@ -99,7 +99,8 @@ TEST_F(AsmToolOptions, OptionsOfTheLibrariesAreUnknown)
 TEST_F(AsmToolOptions, OneTextAloneGoesToStandardOutput)
 {
     writeGoodProject();
-    const char* const reason = "Only one of JSON messages, listing and symbols can go to standard output.";
+    const char* const reason =
+        "Only one of JSON messages, listing, symbols and dependencies can go to standard output.";
     expectWrongUsage({"-l", "-", "-s", "-", "p.nalvo"}, reason);
     expectWrongUsage({"-f", "json", "-l", "-", "p.nalvo"}, reason);
     expectWrongUsage({"-f", "json", "-s", "-", "p.nalvo"}, reason);
@@ -109,12 +110,11 @@ TEST_F(AsmToolOptions, ListingAndSymbolsNeedTwoFiles)
 {
     writeGoodProject();
     mkdir("d");
-    expectWrongUsage({"-l", "x", "-s", "x", "p.nalvo"}, "Listing and symbols can not go to the same file: x");
-    expectWrongUsage({"-l", "d/../x", "-s", path("x"), "p.nalvo"},
-                     "Listing and symbols can not go to the same file: d/../x");
+    expectWrongUsage({"-l", "x", "-s", "x", "p.nalvo"}, "Two outputs can not go to the same file: x");
+    expectWrongUsage({"-l", "d/../x", "-s", path("x"), "p.nalvo"}, "Two outputs can not go to the same file: d/../x");
     write("x", "");
     ASSERT_TRUE(QFile::link("x", path("link")));
-    expectWrongUsage({"-l", "link", "-s", "x", "p.nalvo"}, "Listing and symbols can not go to the same file: link");
+    expectWrongUsage({"-l", "link", "-s", "x", "p.nalvo"}, "Two outputs can not go to the same file: link");
     EXPECT_EQ(run({"-l", "/dev/null", "-s", "/dev/null", "p.nalvo"}).status, 0);
 }
 

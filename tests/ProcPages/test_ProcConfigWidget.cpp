@@ -10,6 +10,7 @@
 #include "XPBlze6Config.h"
 #include "XPBlze6ConfigWidget.h"
 
+#include <QLabel>
 #include <QTabBar>
 #include <QTabWidget>
 
@@ -188,6 +189,35 @@ TEST_F(ProcConfigWidgetTest, DefaultsAreThoseOfANewProcessor)
     EXPECT_EQ(mico.scrpdSize, 32);
     EXPECT_EQ(mico.regCount, 32);
     EXPECT_EQ(mico.instrClkCnt, 2);
+}
+
+TEST_F(ProcConfigWidgetTest, TheInterruptVectorIsReadAndShownInHexadecimalToo)
+{
+    nsXPBlze6::XPBlze6Config config;
+    blaze6.setConfig(&config);
+    present(&blaze6);
+    auto* box = blaze6.findChild<QSpinBox*>("intVectorAddr");
+    const auto* hex = blaze6.findChild<QLabel*>("intVectorAddrHex");
+    ASSERT_NE(hex, nullptr);
+    EXPECT_EQ(box->text(), "1023");
+    EXPECT_EQ(hex->text(), "= 0x3FF");
+    const auto retype = [box](const QString& text) {
+        box->setFocus();
+        box->selectAll();
+        QTest::keyClicks(box, text);
+        QTest::keyClick(box, Qt::Key_Return);
+    };
+    retype("0x3f0");
+    EXPECT_EQ(box->value(), 0x3F0);
+    EXPECT_EQ(box->text(), "1008");
+    EXPECT_EQ(hex->text(), "= 0x3F0");
+    retype("17");
+    EXPECT_EQ(hex->text(), "= 0x011");
+    // A digit that would lead out of the range is not taken.
+    retype("0xFFFF");
+    EXPECT_EQ(box->value(), 0xFFF);
+    blaze6.config(&config);
+    EXPECT_EQ(config.intVectorAddr, 0xFFF);
 }
 
 TEST_F(ProcConfigWidgetTest, AChangeOfTabAsksForOtherHelp)

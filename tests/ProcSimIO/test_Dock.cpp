@@ -3,6 +3,7 @@
 #include "PortsFixture.h"
 
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace nsProc;
@@ -132,7 +133,7 @@ TEST(PortsDockLife, DevicesOutliveTheDockAndShowUpInTheNext)
     EXPECT_TRUE(ports->devices().isEmpty());
 }
 
-TEST_F(PortsDock, TheColumnNeverScrollsSideways)
+TEST_F(PortsDock, TheColumnScrollsSidewaysInANarrowDockOnly)
 {
     addReg(0x12)->setValue(0x12, "A_VERY_LONG_NAME_OF_A_PORT_THAT_FITS_NOWHERE", 0xFF);
     addFifo(1)->setValue(1, "X", 2);
@@ -143,11 +144,19 @@ TEST_F(PortsDock, TheColumnNeverScrollsSideways)
         dock.refresh();
         QApplication::processEvents();
     }
-    dock.resize(dock.minimumSizeHint().width(), 300);
+    dock.resize(dock.sizeHint().width(), 300);
     QApplication::processEvents();
     auto* scroll = dock.findChild<QScrollArea*>("procSimIOScroll");
     EXPECT_LE(scroll->widget()->width(), scroll->viewport()->width());
-    EXPECT_LE(dock.minimumSizeHint().width(), 320);
+    EXPECT_LE(dock.sizeHint().width(), 320);
+    EXPECT_LE(dock.minimumSizeHint().width(), 160);
+    dock.resize(dock.minimumSizeHint().width(), 300);
+    QApplication::processEvents();
+    EXPECT_EQ(dock.width(), dock.minimumSizeHint().width());
+    // What does not fit can be reached.
+    EXPECT_GT(scroll->horizontalScrollBar()->maximum(), 0);
+    for (const QPushButton* button : dock.findChildren<QPushButton*>())
+        EXPECT_TRUE(dock.rect().contains(QRect(button->mapTo(&dock, QPoint(0, 0)), button->size())));
 }
 
 TEST_F(PortsDock, AMillionWritesCostNoWidget)

@@ -9,9 +9,11 @@
 #include <QList>
 #include <QMap>
 #include <QSet>
+#include <QVector>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -240,6 +242,33 @@ protected:
     qint64 readData(char*, qint64) override { return -1; }
     qint64 writeData(const char*, qint64 size) override { return qMin<qint64>(size, 100); }
 };
+
+TEST(WaveVcd, TheWatchSeesHowFarItIsAndEndsIt)
+{
+    Data data;
+    data.addChannel(1, rd, {});
+    for (int i = 1; i <= 100000; ++i)
+        data.addValue(1, rd, i & 0xFF, i);
+    QBuffer whole;
+    ASSERT_TRUE(whole.open(QIODevice::WriteOnly));
+    QVector<int> percents;
+    ASSERT_TRUE(ProcSimVcd::write(&whole, data, 1e6, [&](int percent) {
+        percents.append(percent);
+        return true;
+    }));
+    EXPECT_GT(percents.size(), 10);
+    EXPECT_TRUE(std::is_sorted(percents.cbegin(), percents.cend()));
+    EXPECT_GE(percents.last(), 90);
+    EXPECT_LE(percents.last(), 100);
+    QBuffer part;
+    ASSERT_TRUE(part.open(QIODevice::WriteOnly));
+    // The data may be gone when the watch says no.
+    EXPECT_FALSE(ProcSimVcd::write(&part, data, 1e6, [&](int) {
+        data.clear();
+        return false;
+    }));
+    EXPECT_LT(part.data().size(), whole.data().size());
+}
 
 TEST(WaveVcd, FullDeviceFails)
 {

@@ -15,6 +15,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolButton>
 
 namespace {
 
@@ -452,6 +453,63 @@ TEST_F(WavesViewer, AFullDiskLeavesTheOldDumpAndIsAFailure)
     file.close();
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), old);
+}
+
+TEST_F(WavesViewer, ALongSaveShowsItsProgressAndCanBeCancelled)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("run.vcd");
+    const auto content = [&path] {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    viewer->addAddrChannel(1, wr, -1, {});
+    ASSERT_TRUE(viewer->saveVcd(path).isEmpty());
+    const QByteArray old = content();
+    for (int i = 1; i <= 50000; ++i)
+        viewer->data()->addValue(1, wr, i & 0xFF, i);
+    viewer->setWorkDelay(0);
+    QString state;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        auto* cancel = viewer->findChild<QToolButton*>("longWorkCancel");
+        if (cancel == nullptr || !cancel->isVisible())
+            return;
+        state = viewer->findChild<QLabel*>("longWorkState")->text();
+        QTest::mouseClick(cancel, Qt::LeftButton);
+    });
+    timer.start(0);
+    bool cancelled = false;
+    EXPECT_TRUE(viewer->saveVcd(path, &cancelled).isEmpty());
+    timer.stop();
+    EXPECT_TRUE(cancelled);
+    EXPECT_TRUE(state.startsWith("Saving: ")) << state.toStdString();
+    EXPECT_EQ(content(), old);
+    EXPECT_EQ(viewer->findChild<QToolButton*>("longWorkCancel"), nullptr) << "the bar has gone";
+    // Where the values change meanwhile nothing is written that would hold both.
+    timer.disconnect();
+    QObject::connect(&timer, &QTimer::timeout, [&] { viewer->clearValues(); });
+    timer.start(0);
+    EXPECT_EQ(viewer->saveVcd(path, &cancelled), "The simulation went on while its waves were saved.");
+    timer.stop();
+    EXPECT_FALSE(cancelled);
+    EXPECT_EQ(content(), old);
+}
+
+TEST_F(WavesViewer, AViewerThatGoesWhileItSavesLeavesTheFile)
+{
+    QTemporaryDir dir;
+    const QString path = dir.filePath("run.vcd");
+    viewer->addAddrChannel(1, wr, -1, {});
+    for (int i = 1; i <= 50000; ++i)
+        viewer->data()->addValue(1, wr, i & 0xFF, i);
+    viewer->setWorkDelay(0);
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { viewer.reset(); });
+    timer.start(0);
+    EXPECT_TRUE(viewer->saveVcd(path).isEmpty());
+    EXPECT_EQ(viewer, nullptr);
+    EXPECT_TRUE(QFile::exists(path)) << "the values outlive the viewer";
 }
 
 TEST_F(WavesViewer, FailureToSaveIsShown)

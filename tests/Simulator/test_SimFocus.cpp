@@ -57,11 +57,11 @@ TEST_F(SimFocus, panelsAndPagesStandUnderTheirNames)
     ASSERT_TRUE(open("XPBlze3", {"LOAD s0, 1"}));
     ASSERT_NE(document(), nullptr);
     editor()->newFile("; new");
-    EXPECT_EQ(names("dockLeft"), QStringList("Source Navigator"));
+    EXPECT_EQ(names("dockLeft"), QStringList({"Files", "Source Navigator"}));
     EXPECT_EQ(names("dockRight"), QStringList({"EQU list", "Help", "IO device map viewer"}));
     EXPECT_EQ(names("dockBottom"), QStringList({"External program 1", "Messages"}));
     trigger(Action::eActionEnable);
-    EXPECT_EQ(names("dockLeft"), QStringList({"Processor core", "Source Navigator"}));
+    EXPECT_EQ(names("dockLeft"), QStringList({"Files", "Processor core", "Source Navigator"}));
     EXPECT_EQ(names("dockRight"), QStringList({"EQU list", "Help", "IO device map viewer", "Processor ports"}));
     EXPECT_EQ(names("dockBottom"), QStringList({"External program 1", "Messages", "Processor callstack"}));
     emit window->findChild<nsProc::ProcSimIO*>()->wavesRequested();

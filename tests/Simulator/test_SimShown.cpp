@@ -502,6 +502,25 @@ TEST_F(SimShown, TheLastOfCallStackAndWavesComesToTheFrontWithTheGroup)
     EXPECT_EQ(bottom(), sim()->waveViewer());
 }
 
+TEST_F(SimShown, CallsLeaveTheWavesInFront)
+{
+    ASSERT_TRUE(start("XPBlze3", {"again: CALL sub", "JUMP again", "sub: RET"}));
+    auto* gui = module<ModGuiHookIf>();
+    const auto bottom = [gui] { return gui->currentWidget(ModGuiHookIf::eLocationDockBottom); };
+    sim()->showWaveViewer();
+    step();
+    EXPECT_EQ(sim()->callStack()->count(), 1);
+    EXPECT_EQ(bottom(), sim()->waveViewer());
+    EXPECT_EQ(sim()->callStackWidget()->model()->rowCount(), 1);
+    step();
+    EXPECT_EQ(bottom(), sim()->waveViewer());
+    // Over anything else it comes to the front.
+    gui->setCurrentWidget(messageView());
+    step();
+    step();
+    EXPECT_EQ(bottom(), sim()->callStackWidget());
+}
+
 TEST_F(SimShown, OtherPanelsLeaveTheGroupAndTheMessagesAlone)
 {
     ASSERT_TRUE(start("XPBlze3", {"RET"}));

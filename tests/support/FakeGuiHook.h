@@ -83,6 +83,7 @@ public:
     void setStatusBarText(QString text) override { statusText = text; }
     void clearStatusBarText() override { statusText.clear(); }
     void setEmptyPage(QWidget* page) override { emptyPage = page; }
+    QSplitter* splitPage(QWidget*, QWidget*, Qt::Orientation) override { return nullptr; }
 
     /// The first widget with this name, or null.
     QWidget* widgetNamed(const QString& name) const

@@ -13,6 +13,8 @@ public:
     ~FakeSrcNaviHook() override { qDeleteAll(tags); }
     void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
     void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
+    void registerPlugin(ModSrcNaviPluginIfSymbols* plugin) override { plugin->modSrcNaviHook = this; }
+    void unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin) override { plugin->modSrcNaviHook = nullptr; }
     void clearTagList() override
     {
         qDeleteAll(tags);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "MyLinkButton.h"
+
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -22,6 +24,8 @@ inline QString shownText(const QWidget* widget)
         if (tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull())
             return QString();
     }
+    if (const auto* link = qobject_cast<const MyLinkButton*>(widget))
+        return link->shownText();
     const auto* button = qobject_cast<const QAbstractButton*>(widget);
     return button != nullptr ? button->text() : QString();
 }

@@ -1,11 +1,13 @@
 // Turns the sources of the help into what the help compiler makes the program's collection of, or into a web site.
 //
 //     nalvo-help-build [--check | --site] <folder of the sources> <change log> <folder of the pictures> <output folder>
+//     nalvo-help-build --fix-times <collection file of the help compiler>
 //
 // Ends with 0 if all is written, with 1 and messages on the error stream otherwise. What is wrong between the pages is
 // reported; with --check it is a failure, nothing is written, and figures of the help are printed. A picture that is
 // missing is always a failure, except that --check does not look for pictures, which come from a run of the program.
 
+#include "CollectionTimes.h"
 #include "CollectionWriter.h"
 #include "HelpSources.h"
 #include "LinkCheck.h"
@@ -62,6 +64,11 @@ int main(int argc, char* argv[])
     qSetGlobalQHashSeed(0);
     QCoreApplication app(argc, argv);
     QStringList arguments = QCoreApplication::arguments().mid(1);
+    if (arguments.size() == 2 && arguments.first() == QLatin1String("--fix-times")) {
+        QString error;
+        return fixCollectionTimes(arguments.last(), &error) ? 0
+                                                            : fail({arguments.last() + QStringLiteral(": ") + error});
+    }
     const bool onlyCheck = arguments.removeAll(QStringLiteral("--check")) > 0;
     const bool isSite = arguments.removeAll(QStringLiteral("--site")) > 0;
     if (arguments.size() != 4 || (onlyCheck && isSite))

@@ -220,6 +220,11 @@ void PictureWindow::take(const QString& name, QWidget* widget, const QRect& part
         fail(name + QStringLiteral(": there is nothing to take a picture of"));
         return;
     }
+    // Whether a path that is too long shows its begin or its end depends on the order of layout and painting.
+    for (QLineEdit* edit : widget->findChildren<QLineEdit*>()) {
+        if (edit->isReadOnly())
+            edit->home(false);
+    }
     settle();
     save(name, pictureOf(widget, part));
 }

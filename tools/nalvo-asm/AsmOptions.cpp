@@ -6,6 +6,8 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace nsNalvoAsm {
 
 using namespace nsBatch;
@@ -53,6 +55,19 @@ void setup(QCommandLineParser* parser)
         {"in-place", tr("With --format FILE: write the source back into its file.")},
         {{"l", "listing"}, tr("Write a listing, one line an instruction, to FILE. - is standard output."), tr("FILE")},
         {{"s", "symbols"}, tr("Write labels and #EQUs as JSON to FILE. - is standard output."), tr("FILE")},
+        {{"o", "output"},
+         tr("Write the instruction memory to FILE as well, whatever the project writes. KIND is one of: %1. The help "
+            "has the options. {DEVICE} in FILE writes each memory. The option may be repeated.")
+             .arg(AsmOutputRequest::kindNames()),
+         tr("KIND[:OPTION...]=FILE")},
+        {"depfile",
+         tr("Write a rule for make or ninja to FILE: the files that are written, and the project, sources and "
+            "templates that they depend on. - is standard output."),
+         tr("FILE")},
+        {"depfile-target",
+         tr("With --depfile: the rule is about NAME, and not about the files that are written. The option may be "
+            "repeated."),
+         tr("NAME")},
         {{"W", "werror"}, tr("Count warnings as errors, but for kinds of output that no device writes.")},
         {"allow-outside",
          tr("Write output files outside of the project's folder also where a source names them, not the "
@@ -94,7 +109,8 @@ AsmOptions::eParse_t AsmOptions::parse(const QStringList& arguments)
         return readFormatted(parser) ? parseRun : parseWrong;
     if (parser.isSet("in-place"))
         return wrongUsage(tr("--in-place needs --format FILE and no project.")) ? parseRun : parseWrong;
-    return readProject(parser) && readChoices(parser) && readFiles(parser) ? parseRun : parseWrong;
+    return readProject(parser) && readChoices(parser) && readOutputs(parser) && readFiles(parser) ? parseRun
+                                                                                                  : parseWrong;
 }
 
 bool AsmOptions::readFormatted(const QCommandLineParser& parser)
@@ -141,20 +157,49 @@ bool AsmOptions::readChoices(const QCommandLineParser& parser)
     return style.quiet && style.verbose ? wrongUsage(tr("-q and -v exclude each other.")) : true;
 }
 
+bool AsmOptions::readOutputs(const QCommandLineParser& parser)
+{
+    for (const QString& text : parser.values("output")) {
+        AsmOutputRequest request;
+        const QString problem = request.parse(text);
+        if (!problem.isEmpty())
+            return wrongUsage(problem);
+        outputs.append(request);
+    }
+    depfileTargets = parser.values("depfile-target");
+    if (depfileTargets.contains(QString()))
+        return wrongUsage(tr("The name of the target is empty."));
+    return depfileTargets.isEmpty() || parser.isSet("depfile") ? true
+                                                               : wrongUsage(tr("--depfile-target needs --depfile."));
+}
+
 bool AsmOptions::readFiles(const QCommandLineParser& parser)
 {
     listingFile = parser.value("listing");
     symbolsFile = parser.value("symbols");
+    depfile = parser.value("depfile");
     if (parser.isSet("listing") && listingFile.isEmpty())
         return wrongUsage(tr("The name of the listing file is empty."));
     if (parser.isSet("symbols") && symbolsFile.isEmpty())
         return wrongUsage(tr("The name of the symbols file is empty."));
-    const int atStdout = int(listingFile == "-") + int(symbolsFile == "-") + int(style.json);
+    if (parser.isSet("depfile") && depfile.isEmpty())
+        return wrongUsage(tr("The name of the dependency file is empty."));
+    QStringList files;
+    int atStdout = int(style.json);
+    for (const QString& file : {listingFile, symbolsFile, depfile}) {
+        if (file == "-")
+            ++atStdout;
+        else if (!file.isEmpty())
+            files.append(file);
+    }
     if (atStdout > 1)
-        return wrongUsage(tr("Only one of JSON messages, listing and symbols can go to standard output."));
-    const bool bothFiles = !listingFile.isEmpty() && !symbolsFile.isEmpty() && atStdout == 0;
-    if (bothFiles && isSameTarget(listingFile, symbolsFile))
-        return wrongUsage(tr("Listing and symbols can not go to the same file: %1").arg(listingFile));
+        return wrongUsage(
+            tr("Only one of JSON messages, listing, symbols and dependencies can go to standard output."));
+    for (int i = 0; i < files.size(); ++i) {
+        const auto isSame = [&](const QString& other) { return isSameTarget(files[i], other); };
+        if (std::any_of(files.cbegin() + i + 1, files.cend(), isSame))
+            return wrongUsage(tr("Two outputs can not go to the same file: %1").arg(files[i]));
+    }
     return true;
 }
 

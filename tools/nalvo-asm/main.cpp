@@ -3,10 +3,10 @@
 #include "AsmExplain.h"
 #include "AsmFormat.h"
 #include "AsmOptions.h"
+#include "AsmOutputFiles.h"
 #include "AsmPermissions.h"
 #include "AsmPrograms.h"
 #include "AsmReport.h"
-#include "BatchFiles.h"
 #include "BatchOutput.h"
 #include "BatchProcess.h"
 #include "BatchProject.h"
@@ -61,44 +61,6 @@ void showSummary(const BatchMsg& msg, const BatchMsgStyle& style, bool success, 
     printError(parts.join(", "));
 }
 
-/// Writes the reports that the options ask for, and refuses to overwrite a file of the run.
-class Reports
-{
-public:
-    Reports(BatchProject& project, const QString& file)
-        : m_project(project)
-        , m_taken(file, project.sources().files(), project.assembler().program().ioDevs)
-    {
-    }
-
-    bool write(const QString& file,
-               QByteArray (*text)(const nsModAsmFe::AsmProgram&, const nsModAsmFe::AsmFeFileHndlr&))
-    {
-        if (file.isEmpty())
-            return true;
-        if (m_taken.contains(file)) {
-            m_project.msg().showErrorMessage(tr("File of the project would be overwritten: %1").arg(file), QUrl(), {});
-            return false;
-        }
-        const QString failure = writeReport(file, text(m_project.assembler().program(), m_project.sources()));
-        if (!failure.isEmpty()) {
-            const QString name = file == "-" ? tr("standard output") : file;
-            m_project.msg().showErrorMessage(tr("Can not write %1: %2").arg(name, failure), QUrl(), {});
-            return false;
-        }
-        if (file != "-")
-            m_written.append(QFileInfo(file).absoluteFilePath());
-        return true;
-    }
-
-    QStringList written() const { return m_written; }
-
-private:
-    BatchProject& m_project;
-    ProjectFiles m_taken;
-    QStringList m_written;
-};
-
 int run(const AsmOptions& options)
 {
     BatchProject& project = BatchProject::create(options.style);
@@ -112,16 +74,24 @@ int run(const AsmOptions& options)
     static AsmPermissions permissions(options.allowOutside, programs, options.externalPrograms);
     assembler.setListener(&permissions);
     const bool assembled = project.assemble(options.event);
-    Reports reports(project, file);
+    // A run that has reported an error counts as failed, even where the assembler could go on.
+    const auto succeeds = [&] {
+        return assembled && project.msg().errors() == 0 && project.msg().fatalWarnings() == 0;
+    };
+    AsmOutputFiles files(project, file);
     if (assembler.isAssembled()) {
-        reports.write(options.listingFile, listingText);
-        reports.write(options.symbolsFile, symbolsText);
+        for (const AsmOutputRequest& request : options.outputs)
+            files.writeImages(request);
+        files.writeReport(options.listingFile, listingText);
+        files.writeReport(options.symbolsFile, symbolsText);
     }
     programs.finish();
-    // A run that has reported an error counts as failed, even where the assembler could go on.
-    const bool success = assembled && project.msg().errors() == 0 && project.msg().fatalWarnings() == 0;
+    // After a failure the outputs need not exist, and the rule of the last success still holds.
+    if (succeeds())
+        files.writeDepfile(options.depfile, options.depfileTargets);
+    const bool success = succeeds();
     showSummary(project.msg(), options.style, success, assembler.program().opcodes.count(),
-                assembler.writtenFiles() + reports.written());
+                assembler.writtenFiles() + files.written());
     return success ? exitAssembled : exitNotAssembled;
 }
 
@@ -151,7 +121,7 @@ int finish(const AsmOptions& options, int status)
     if (failure.isEmpty())
         return status;
     // For a report on standard output, the failure has been reported already.
-    if (options.listingFile != "-" && options.symbolsFile != "-")
+    if (options.listingFile != "-" && options.symbolsFile != "-" && options.depfile != "-")
         printError(tr("Can not write standard output: %1").arg(failure));
     return status == exitAssembled ? exitNotAssembled : status;
 }

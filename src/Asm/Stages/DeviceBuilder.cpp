@@ -6,6 +6,7 @@
 #include "AsmProgram.h"
 #include "AsmProjectInfo.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 #include "StringEncoder.h"
 #include "TargetKinds.h"
 
@@ -16,7 +17,7 @@
 namespace nsModAsmFe {
 
 DeviceBuilder::DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, const AsmProjectInfo& project,
-                             const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+                             const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_sets(program.sets)
     , m_opcodes(program.opcodes)
     , m_ioDevs(program.ioDevs)
@@ -24,7 +25,8 @@ DeviceBuilder::DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, con
     , m_config(config)
     , m_project(project)
     , m_messages(messages)
-    , m_values(program, numbers, messages)
+    , m_watch(watch)
+    , m_values(program, numbers, messages, watch)
 {
 }
 
@@ -35,6 +37,8 @@ bool DeviceBuilder::setupIODevs()
         if (!set->nameSpaceUpper.startsWith(QLatin1String("IODEV::")) || set->nameUpper != QLatin1String("EN") ||
             set->valueType != Set::valueTrue)
             continue;
+        if (!m_watch.ask())
+            return false;
         set->used = true;
         auto dev = std::make_unique<IODev>();
         dev->devName = set->nameSpace;
@@ -102,6 +106,31 @@ bool DeviceBuilder::setupIODevSetPath(Set* set, QString* value)
     // An empty path would become the project's folder.
     if (!value->isEmpty())
         *value = m_project.absPath(*value);
+    return true;
+}
+
+bool DeviceBuilder::setupIODevSetWidth(Set* set, int* bits)
+{
+    int value = 0;
+    if (!setupIODevSetNumeric(set, &value))
+        return false;
+    if (value < 1 || value > TargetFile::maxWordWidth) {
+        m_messages.signMsg(errUnsupportedArgument, &set->srcRef, set->value);
+        return false;
+    }
+    *bits = value;
+    return true;
+}
+
+bool DeviceBuilder::setupIODevSetLayout(Set* set, const sTargetKind_t& kind, int* layout)
+{
+    set->used = true;
+    const int index = kind.layoutNames().indexOf(set->value.toLower());
+    if (index < 0) {
+        m_messages.signMsg(errUnsupportedArgument, &set->srcRef, set->value);
+        return false;
+    }
+    *layout = index;
     return true;
 }
 
@@ -214,6 +243,11 @@ bool DeviceBuilder::setupIODevAttrTarget(IODev* dev, const sTargetKind_t& kind)
     if (kind.hasGapStuffing &&
         !isTaken(parameter("GAPSTUFFING"), [&](Set* set) { return setupIODevSetBoolean(set, &target.gapStuffingEn); }))
         return false;
+    if (kind.isImage &&
+        (!isTaken(parameter("WIDTH"), [&](Set* set) { return setupIODevSetWidth(set, &target.wordWidth); }) ||
+         (*kind.layouts != '\0' &&
+          !isTaken(parameter("LAYOUT"), [&](Set* set) { return setupIODevSetLayout(set, kind, &target.layout); }))))
+        return false;
     return !target.en || checkTarget(dev, kind);
 }
 
@@ -256,6 +290,8 @@ bool DeviceBuilder::setupIODevDefault()
         success = false;
     };
     for (Opcode* opcode : m_opcodes) {
+        if (!m_watch.goesOn())
+            return false;
         opcode->mappedToIODev = true;
         if (opcode->memRange != 0) {
             setValue(opcode->memAddr, opcode, false);

@@ -12,6 +12,7 @@ class AsmFeParseArg;
 class IODev;
 class IODevList;
 class OpcodeList;
+class RunWatch;
 class Set;
 class SetList;
 struct AsmMemGeometry;
@@ -30,7 +31,7 @@ public:
     /// @param config read: the outputs of the device that takes the program
     /// @param project read: the folder that paths in sources are relative to
     DeviceBuilder(AsmProgram& program, const AsmFeConfig& config, const AsmProjectInfo& project,
-                  const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+                  const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch);
 
     /// @return false after a reported error
     bool setupIODevs();
@@ -49,6 +50,8 @@ private:
     bool setupIODevSetBoolean(Set* set, bool* value);
     bool setupIODevSetString(Set* set, QString* value);
     bool setupIODevSetPath(Set* set, QString* value);
+    bool setupIODevSetWidth(Set* set, int* bits);
+    bool setupIODevSetLayout(Set* set, const sTargetKind_t& kind, int* layout);
     bool setupIODevDefault();
     bool setupIODevChkInstMemMapped();
 
@@ -59,6 +62,7 @@ private:
     const AsmFeConfig& m_config;
     const AsmProjectInfo& m_project;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
     DeviceValues m_values;
     const SrcReference* m_devSrcRef = nullptr; ///< where the device that is set up was declared; not owned
     int m_devWords = 0;                        ///< cells of all devices so far

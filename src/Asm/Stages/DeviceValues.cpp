@@ -5,6 +5,7 @@
 #include "AsmLimits.h"
 #include "AsmProgram.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 
 #include <QRegExp>
 #include <QStringList>
@@ -25,12 +26,13 @@ struct DeviceValues::sInstMemSpan_t
     bool contains(qint64 addr) const { return addr >= qMin(start, stop) && addr <= qMax(start, stop); }
 };
 
-DeviceValues::DeviceValues(AsmProgram& program, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+DeviceValues::DeviceValues(AsmProgram& program, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_sets(program.sets)
     , m_opcodes(program.opcodes)
     , m_geometry(program.geometry)
     , m_numbers(numbers)
     , m_messages(messages)
+    , m_watch(watch)
 {
 }
 
@@ -65,6 +67,8 @@ bool DeviceValues::setupIODevAttrValue(IODev* dev, Set* set)
     }
     const QStringList items = list.split(',', Qt::SkipEmptyParts);
     for (const QString& item : items) {
+        if (!m_watch.goesOn())
+            return false;
         bool success = false;
         if (AsmFeParseArg::isNumeric(item))
             success = setupIODevAttrValueNumeric(dev, set, item, addr);
@@ -202,13 +206,13 @@ bool DeviceValues::mapInstMem(IODev* dev, Set* set, const sInstMemSpan_t& span, 
 {
     for (Opcode* opcode : m_opcodes) {
         if (opcode->memRange != 0) {
-            if (!mapInstWord(dev, set, span, addr, opcode, opcode->memAddr))
+            if (!m_watch.goesOn() || !mapInstWord(dev, set, span, addr, opcode, opcode->memAddr))
                 return false;
             continue;
         }
         const qint64 end = qMax(span.start, span.stop);
         for (qint64 memAddr = opcode->memAddr; memAddr <= end; memAddr += m_geometry.pageSize) {
-            if (!mapInstWord(dev, set, span, addr, opcode, memAddr))
+            if (!m_watch.goesOn() || !mapInstWord(dev, set, span, addr, opcode, memAddr))
                 return false;
         }
     }

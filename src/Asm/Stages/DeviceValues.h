@@ -9,6 +9,7 @@ class AsmFeParseArg;
 class IODev;
 class Opcode;
 class OpcodeList;
+class RunWatch;
 class Set;
 class SetList;
 struct AsmMemGeometry;
@@ -20,7 +21,7 @@ class DeviceValues
 public:
     /// @param program read: settings, which are marked as used, words and geometry; instructions that a device takes
     /// are marked as mapped
-    DeviceValues(AsmProgram& program, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+    DeviceValues(AsmProgram& program, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch);
 
     /// Fills the cells of a device from its `VALUE`s. @return false after a reported error
     bool setupIODevAttrValues(IODev* dev);
@@ -44,6 +45,7 @@ private:
     const AsmMemGeometry& m_geometry;
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
     bool m_instMemMapped = false;
 };
 

@@ -7,6 +7,7 @@
 #include "AsmWords.h"
 #include "EquList.h"
 #include "FormulaResolver.h"
+#include "RunWatch.h"
 #include "StringEncoder.h"
 
 #include <QStringList>
@@ -29,7 +30,7 @@ struct EquResolver::sEquStep_t
 };
 
 EquResolver::EquResolver(EquList& equs, const AsmWords& words, ArgumentChecker& arguments, FormulaResolver& formulas,
-                         StringEncoder& strings, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages)
+                         StringEncoder& strings, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_equs(equs)
     , m_words(words)
     , m_arguments(arguments)
@@ -37,14 +38,18 @@ EquResolver::EquResolver(EquList& equs, const AsmWords& words, ArgumentChecker& 
     , m_strings(strings)
     , m_numbers(numbers)
     , m_messages(messages)
+    , m_watch(watch)
 {
 }
 
 bool EquResolver::syntacticsCheckEquArguments()
 {
     m_equFailed = false;
-    for (Equ* equ = m_equs.first(); equ != nullptr; equ = equ->next)
+    for (Equ* equ = m_equs.first(); equ != nullptr; equ = equ->next) {
         syntacticsCheckEquArgument(equ);
+        if (!m_watch.goesOn())
+            return false;
+    }
     return !m_equFailed;
 }
 
@@ -62,6 +67,8 @@ bool EquResolver::syntacticsCheckEquArgument(Equ* root)
     m_equCheckStack.insert(root);
     bool success = true;
     while (!path.empty()) {
+        if (!m_watch.goesOn())
+            return false;
         const eEquResult_t result = checkEquStep(&path, success);
         if (result == equWaits) {
             Equ* target = path.back().target;

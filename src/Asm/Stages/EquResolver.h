@@ -14,6 +14,7 @@ class AsmWords;
 class Equ;
 class EquList;
 class FormulaResolver;
+class RunWatch;
 class StringEncoder;
 
 /// The values of constants: each `#EQU` is evaluated after those that it names, in the order in which it names them.
@@ -24,7 +25,7 @@ public:
     /// @param equs their values are written
     /// @param words read: registers and banks
     EquResolver(EquList& equs, const AsmWords& words, ArgumentChecker& arguments, FormulaResolver& formulas,
-                StringEncoder& strings, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+                StringEncoder& strings, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages, RunWatch& watch);
 
     /// Evaluates all of them. @return false after a reported error
     bool syntacticsCheckEquArguments();
@@ -54,6 +55,7 @@ private:
     StringEncoder& m_strings;
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
     QHash<const Equ*, sEquDeadEnd_t> m_equDeadEnds;
     QSet<const Equ*> m_equCheckStack; ///< the `#EQU`s on the present path of resolution
     bool m_equFailed = false;         ///< one of them has failed

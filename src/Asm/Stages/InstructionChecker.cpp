@@ -8,6 +8,7 @@
 #include "AsmWords.h"
 #include "FormulaResolver.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 #include "StringEncoder.h"
 
 #include <QHash>
@@ -16,7 +17,7 @@ namespace nsModAsmFe {
 
 InstructionChecker::InstructionChecker(AsmProgram& program, const AsmWords& words, ArgumentChecker& arguments,
                                        FormulaResolver& formulas, StringEncoder& strings, const AsmFeParseArg& numbers,
-                                       AsmFeMsgHndlr& messages)
+                                       AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_program(program)
     , m_words(words)
     , m_arguments(arguments)
@@ -24,6 +25,7 @@ InstructionChecker::InstructionChecker(AsmProgram& program, const AsmWords& word
     , m_strings(strings)
     , m_numbers(numbers)
     , m_messages(messages)
+    , m_watch(watch)
 {
 }
 
@@ -35,6 +37,8 @@ bool InstructionChecker::syntacticsCheckOpcode()
     }
     bool success = true;
     for (Opcode* opcode : m_program.opcodes) {
+        if (!m_watch.goesOn())
+            return false;
         opcode->opcode = opcodeOfMnemonic(opcode->name);
         if (opcode->opcode == ocUndefined) {
             m_messages.signMsg(errOcUnsupported, &opcode->srcRef, opcode->name);

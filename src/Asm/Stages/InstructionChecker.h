@@ -11,6 +11,7 @@ class AsmFeParseArg;
 class AsmWords;
 class FormulaResolver;
 class Opcode;
+class RunWatch;
 class StringEncoder;
 struct AsmProgram;
 
@@ -22,7 +23,7 @@ public:
     /// @param words read: registers and banks
     InstructionChecker(AsmProgram& program, const AsmWords& words, ArgumentChecker& arguments,
                        FormulaResolver& formulas, StringEncoder& strings, const AsmFeParseArg& numbers,
-                       AsmFeMsgHndlr& messages);
+                       AsmFeMsgHndlr& messages, RunWatch& watch);
 
     /// @return false after a reported error
     bool syntacticsCheckOpcode();
@@ -39,6 +40,7 @@ private:
     StringEncoder& m_strings;
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
 };
 
 } // namespace nsModAsmFe

@@ -6,13 +6,14 @@
 #include "AsmLimits.h"
 #include "AsmProgram.h"
 #include "Opcode.h"
+#include "RunWatch.h"
 
 #include <QRegExp>
 
 namespace nsModAsmFe {
 
 MemoryMapper::MemoryMapper(AsmProgram& program, const AsmFeConfig& config, const AsmFeParseArg& numbers,
-                           AsmFeMsgHndlr& messages)
+                           AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_orgs(program.orgs)
     , m_sets(program.sets)
     , m_opcodes(program.opcodes)
@@ -21,6 +22,7 @@ MemoryMapper::MemoryMapper(AsmProgram& program, const AsmFeConfig& config, const
     , m_config(config)
     , m_numbers(numbers)
     , m_messages(messages)
+    , m_watch(watch)
 {
 }
 
@@ -41,6 +43,8 @@ bool MemoryMapper::mapOpcodeToMemCheckOrgDirectives()
         success = false;
     };
     for (Org* org = m_orgs.first(); org != nullptr; org = org->next) {
+        if (!m_watch.goesOn())
+            return false;
         if (AsmFeParseArg::isNumeric(org->name)) {
             org->value = org->name;
             org->name = QStringLiteral("ADDR");
@@ -280,6 +284,8 @@ bool MemoryMapper::mapOpcodeToMemSetAddresses()
 /// @param free in: next free address; out: the address after the instruction
 bool MemoryMapper::placeOpcode(Opcode* opcode, int range, int* free, int limit)
 {
+    if (!m_watch.goesOn())
+        return false;
     const int addr = opcode->pageAddr < 0 ? *free : opcode->pageAddr;
     if (addr < *free) {
         m_messages.signMsg(errMMAddrConflictPrevCode, &opcode->srcRef);
@@ -355,6 +361,8 @@ bool MemoryMapper::mapOpcodeToMemCheckForInterPageReferencing()
 {
     bool success = true;
     for (const Opcode* opcode : m_opcodes) {
+        if (!m_watch.goesOn())
+            return false;
         // The instruction check has set the opcode and the types of the arguments.
         if (opcode->memRange <= 0 || (opcode->opcode != ocJump && opcode->opcode != ocCall))
             continue;

@@ -11,6 +11,7 @@ class MemRangeList;
 class Opcode;
 class OpcodeList;
 class OrgList;
+class RunWatch;
 class Set;
 class SetList;
 struct AsmMemGeometry;
@@ -24,7 +25,8 @@ public:
     /// @param program read: origins and settings, which are marked as used; written: ranges, geometry, and the
     /// addresses of the instructions
     /// @param config read: what a `#SET` over a setting does
-    MemoryMapper(AsmProgram& program, const AsmFeConfig& config, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages);
+    MemoryMapper(AsmProgram& program, const AsmFeConfig& config, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages,
+                 RunWatch& watch);
 
     /// Checks the `#ORG`s and gives them their types. @return false after a reported error
     bool mapOpcodeToMemCheckOrgDirectives();
@@ -60,6 +62,7 @@ private:
     const AsmFeConfig& m_config;
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
 };
 
 } // namespace nsModAsmFe

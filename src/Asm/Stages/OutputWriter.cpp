@@ -35,6 +35,9 @@ bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
         return true;
     }
     askForOutsideFiles(event);
+    if (!m_listener.runGoesOn(0))
+        return false;
+    m_listener.outputsBegin();
     // A kind that fails does not keep the others from being written.
     bool success = true;
     for (const sTargetKind_t& kind : targetKinds()) {
@@ -44,9 +47,14 @@ bool OutputWriter::mapIODevToFile(AsmFeConfig::eAssembleEvent_t event)
     return success;
 }
 
+/// The event writes the files of this kind. Without any, those kinds that every project has still report that.
 bool OutputWriter::isWanted(const sTargetKind_t& kind, AsmFeConfig::eAssembleEvent_t event) const
 {
     const TargetConfig& config = m_config.targets[kind.kind];
+    const QList<IODev*>& devices = m_program.ioDevs.devices();
+    if (kind.isImage &&
+        std::none_of(devices.begin(), devices.end(), [&](const IODev* dev) { return dev->targets[kind.kind].en; }))
+        return false;
     switch (event) {
     case AsmFeConfig::eEventButton1:
         return config.writeFileEventBut1;
@@ -153,8 +161,8 @@ bool OutputWriter::mapIODevToFiles(const sTargetKind_t& kind)
         if (!target.en)
             continue;
         any = true;
-        if (!m_listener.runGoesOn(0) || !checkTargetFile(target.outputFile) ||
-            !writer->writeFile(dev, &m_program.metaTags)) {
+        m_listener.runGoesOn(0);
+        if (!checkTargetFile(target.outputFile) || !writer->writeFile(dev, &m_program.metaTags)) {
             success = false;
             break;
         }

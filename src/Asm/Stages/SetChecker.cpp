@@ -4,17 +4,19 @@
 #include "AsmFeMsgHndlr.h"
 #include "AsmFeParseArg.h"
 #include "AsmRunListener.h"
+#include "RunWatch.h"
 #include "SetList.h"
 
 namespace nsModAsmFe {
 
 SetChecker::SetChecker(SetList& sets, AsmCharsets& charsets, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages,
-                       AsmRunListener& listener)
+                       AsmRunListener& listener, RunWatch& watch)
     : m_sets(sets)
     , m_charsets(charsets)
     , m_numbers(numbers)
     , m_messages(messages)
     , m_listener(listener)
+    , m_watch(watch)
 {
 }
 
@@ -22,6 +24,8 @@ bool SetChecker::syntacticsCheckSet()
 {
     bool success = true;
     for (Set* set = m_sets.first(); set != nullptr; set = set->next) {
+        if (!m_watch.goesOn())
+            return false;
         if (set->value.isEmpty()) {
             m_messages.signMsg(errExpectArgument, &set->srcRef);
             success = false;

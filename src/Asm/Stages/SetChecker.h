@@ -6,6 +6,7 @@ class AsmCharsets;
 class AsmFeMsgHndlr;
 class AsmFeParseArg;
 class AsmRunListener;
+class RunWatch;
 class Set;
 class SetList;
 
@@ -17,7 +18,7 @@ public:
     /// @param charsets written: the default character set
     /// @param listener gets the tabulator width
     SetChecker(SetList& sets, AsmCharsets& charsets, const AsmFeParseArg& numbers, AsmFeMsgHndlr& messages,
-               AsmRunListener& listener);
+               AsmRunListener& listener, RunWatch& watch);
 
     /// @return false after a reported error
     bool syntacticsCheckSet();
@@ -32,6 +33,7 @@ private:
     const AsmFeParseArg& m_numbers;
     AsmFeMsgHndlr& m_messages;
     AsmRunListener& m_listener;
+    RunWatch& m_watch;
 };
 
 } // namespace nsModAsmFe

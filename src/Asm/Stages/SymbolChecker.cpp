@@ -4,15 +4,17 @@
 #include "AsmFeParseArg.h"
 #include "AsmProgram.h"
 #include "AsmWords.h"
+#include "RunWatch.h"
 
 #include <algorithm>
 
 namespace nsModAsmFe {
 
-SymbolChecker::SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages)
+SymbolChecker::SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages, RunWatch& watch)
     : m_program(program)
     , m_words(words)
     , m_messages(messages)
+    , m_watch(watch)
 {
 }
 
@@ -56,6 +58,8 @@ bool SymbolChecker::syntacticsCheckLabel()
 {
     bool success = true;
     for (const Label* label = m_program.labels.first(); label != nullptr; label = label->next) {
+        if (!m_watch.goesOn())
+            return false;
         if (!checkName(&label->srcRef, label->name)) {
             success = false;
         } else if (m_program.equs.containsName(label->name)) {
@@ -69,22 +73,25 @@ bool SymbolChecker::syntacticsCheckLabel()
 bool SymbolChecker::syntacticsCheckEquNames()
 {
     bool success = true;
-    for (const Equ* equ = m_program.equs.first(); equ != nullptr; equ = equ->next)
+    for (const Equ* equ = m_program.equs.first(); equ != nullptr; equ = equ->next) {
+        if (!m_watch.goesOn())
+            return false;
         success = checkName(&equ->srcRef, equ->name) && success;
+    }
     return success;
 }
 
 void SymbolChecker::usageCheck()
 {
-    for (const Equ* equ = m_program.equs.first(); equ != nullptr; equ = equ->next) {
+    for (const Equ* equ = m_program.equs.first(); equ != nullptr && m_watch.goesOn(); equ = equ->next) {
         if (!equ->used)
             m_messages.signMsg(warnEquUnused, &equ->srcRef, equ->name);
     }
-    for (const Set* set = m_program.sets.first(); set != nullptr; set = set->next) {
+    for (const Set* set = m_program.sets.first(); set != nullptr && m_watch.goesOn(); set = set->next) {
         if (!set->used)
             m_messages.signMsg(warnSetIgnoring, &set->srcRef);
     }
-    for (const Org* org = m_program.orgs.first(); org != nullptr; org = org->next) {
+    for (const Org* org = m_program.orgs.first(); org != nullptr && m_watch.goesOn(); org = org->next) {
         if (!org->used)
             m_messages.signMsg(warnOrgIgnoring, &org->srcRef);
     }

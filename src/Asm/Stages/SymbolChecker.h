@@ -8,6 +8,7 @@ namespace nsModAsmFe {
 
 class AsmFeMsgHndlr;
 class AsmWords;
+class RunWatch;
 struct AsmProgram;
 struct SrcReference;
 
@@ -17,7 +18,7 @@ class SymbolChecker
 public:
     /// @param program read: labels, constants, settings and origins
     /// @param words read: the names that are taken
-    SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages);
+    SymbolChecker(const AsmProgram& program, const AsmWords& words, AsmFeMsgHndlr& messages, RunWatch& watch);
 
     /// @return false after a reported error
     bool syntacticsCheckLabel();
@@ -37,6 +38,7 @@ private:
     const AsmProgram& m_program;
     const AsmWords& m_words;
     AsmFeMsgHndlr& m_messages;
+    RunWatch& m_watch;
 };
 
 } // namespace nsModAsmFe

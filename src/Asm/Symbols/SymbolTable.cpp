@@ -79,6 +79,16 @@ const sSymbolPlace* SymbolTable::definitionOf(int symbol) const
     return place != m_places.cend() ? &*place : nullptr;
 }
 
+QVector<const sSymbolPlace*> SymbolTable::definitions() const
+{
+    QVector<const sSymbolPlace*> result(m_symbols.size(), nullptr);
+    for (const sSymbolPlace& place : m_places) {
+        if (place.isDefinition && result.at(place.symbol) == nullptr)
+            result[place.symbol] = &place;
+    }
+    return result;
+}
+
 QString SymbolTable::nameSpaceAt(int file, int line) const
 {
     const auto after =

@@ -70,6 +70,8 @@ public:
     QVector<sSymbolPlace> placesOf(int symbol) const;
     /// The first place that defines the symbol; null if there is none.
     const sSymbolPlace* definitionOf(int symbol) const;
+    /// definitionOf() of all symbols, by their index.
+    QVector<const sSymbolPlace*> definitions() const;
     const sSymbol& symbol(int index) const { return m_symbols.at(index); }
     sSymbol& symbol(int index) { return m_symbols[index]; }
     const QVector<sSymbol>& symbols() const { return m_symbols; }

@@ -124,6 +124,10 @@ void AsmFeConfigPage::addOutputs()
     m_mapper->setObjectName(QStringLiteral("targetMapper"));
     m_layout->addSection(tr("File write events"));
     m_layout->addWide(m_mapper);
+    const auto newImage = [this](const QString& name, const QString& filter, const char* suffix,
+                                 const QStringList& layouts = {}) {
+        return new TargetImageConfigWidget(name, filter, QLatin1String(suffix), layouts, this);
+    };
     // In the order of the page.
     const struct
     {
@@ -131,10 +135,21 @@ void AsmFeConfigPage::addOutputs()
         const char* name;
         QString title;
         TargetConfigWidget* widget;
-    } targets[] = {{kindHex, "targetHex", tr("Hex output file"), new TargetHexConfigWidget(this)},
-                   {kindMem, "targetMem", tr("Mem output file"), new TargetMemConfigWidget(this)},
-                   {kindVhdl, "targetVhdl", tr("VHDL output file"), new TargetVhdlConfigWidget(this)},
-                   {kindVerilog, "targetVerilog", tr("Verilog output file"), new TargetVerilogConfigWidget(this)}};
+    } targets[] = {
+        {kindHex, "targetHex", tr("Hex output file"), new TargetHexConfigWidget(this)},
+        {kindMem, "targetMem", tr("Mem output file"), new TargetMemConfigWidget(this)},
+        {kindVhdl, "targetVhdl", tr("VHDL output file"), new TargetVhdlConfigWidget(this)},
+        {kindVerilog, "targetVerilog", tr("Verilog output file"), new TargetVerilogConfigWidget(this)},
+        {kindMif, "targetMif", tr("MIF output file"), newImage(tr("MIF"), tr("MIF files(*.mif)"), "mif")},
+        {kindCoe, "targetCoe", tr("COE output file"), newImage(tr("COE"), tr("COE files(*.coe)"), "coe")},
+        {kindBinary, "targetBinary", tr("Binary output file"),
+         newImage(tr("binary"), tr("Binary files(*.bin)"), "bin", {tr("Lowest byte first"), tr("Highest byte first")})},
+        {kindIntelHex, "targetIntelHex", tr("Intel HEX output file"),
+         newImage(tr("Intel HEX"), tr("Intel HEX files(*.ihex)"), "ihex",
+                  {tr("Lowest byte first"), tr("Highest byte first"), tr("A record a word, addresses count words")})},
+        {kindRamMem, "targetRamMem", tr("Block RAM mem output file"),
+         newImage(tr("block RAM mem"), tr("Mem files(*.mem)"), "mem",
+                  {tr("Low halves of all words, then high halves"), tr("Whole words")})}};
     static_assert(std::size(targets) == targetKindCount, "each kind has its section");
     for (const auto& target : targets) {
         m_targets[target.kind] = target.widget;

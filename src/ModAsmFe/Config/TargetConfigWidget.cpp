@@ -6,10 +6,12 @@
 #include "ShippedFolder.h"
 
 #include <QCheckBox>
+#include <QComboBox>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSpinBox>
 
 namespace nsModAsmFe {
 
@@ -143,6 +145,43 @@ void TargetMemConfigWidget::config(TargetConfig* config) const
 {
     TargetConfigWidget::config(config);
     config->gapStuffingEn = m_gapStuffing->isChecked();
+}
+
+TargetImageConfigWidget::TargetImageConfigWidget(const QString& name, const QString& filter, const QString& suffix,
+                                                 const QStringList& layouts, QWidget* parent)
+    : TargetConfigWidget(parent)
+    , m_wordWidth(new QSpinBox(this))
+{
+    addEnable(tr("Write the instruction memory as a file of this kind: %1").arg(name));
+    addOutputFile(tr("Select %1 output file").arg(name), filter, suffix);
+    m_wordWidth->setObjectName(QStringLiteral("targetWordWidth"));
+    m_wordWidth->setRange(1, TargetFile::maxWordWidth);
+    m_wordWidth->setSuffix(tr(" bits"));
+    m_wordWidth->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
+    addField(tr("Word width:"), m_wordWidth, tr("Bits of a word; an instruction has 18"));
+    if (!layouts.isEmpty()) {
+        m_layouts = new QComboBox(this);
+        m_layouts->setObjectName(QStringLiteral("targetLayout"));
+        m_layouts->addItems(layouts);
+        addField(tr("Layout:"), m_layouts, tr("How the words lie in the file"));
+    }
+    addHint();
+}
+
+void TargetImageConfigWidget::setConfig(const TargetConfig* config, const QString& prjDir)
+{
+    m_wordWidth->setValue(config->wordWidth);
+    if (m_layouts != nullptr)
+        m_layouts->setCurrentIndex(config->layout);
+    TargetConfigWidget::setConfig(config, prjDir);
+}
+
+void TargetImageConfigWidget::config(TargetConfig* config) const
+{
+    TargetConfigWidget::config(config);
+    config->wordWidth = m_wordWidth->value();
+    if (m_layouts != nullptr && m_layouts->currentIndex() >= 0)
+        config->layout = m_layouts->currentIndex();
 }
 
 TargetHdlConfigWidget::TargetHdlConfigWidget(const QString& language, const QString& filter, const QString& suffix,

@@ -7,9 +7,11 @@
 class MyFileSelectOpen;
 class MyFileSelectSave;
 class QCheckBox;
+class QComboBox;
 class QGridLayout;
 class QLabel;
 class QLineEdit;
+class QSpinBox;
 
 namespace nsModAsmFe {
 
@@ -80,6 +82,27 @@ public:
 
 private:
     QCheckBox* m_gapStuffing;
+};
+
+/// Settings of an image for a tool of a vendor: how wide its words are, and how they lie in the file.
+class TargetImageConfigWidget : public TargetConfigWidget
+{
+    Q_OBJECT
+
+public:
+    /// @param name of the kind in texts, such as "MIF"
+    /// @param filter such as "MIF files(*.mif)"
+    /// @param suffix of the files, without a dot
+    /// @param layouts texts of the layouts of the kind, in their order; empty if it has none
+    TargetImageConfigWidget(const QString& name, const QString& filter, const QString& suffix,
+                            const QStringList& layouts, QWidget* parent = nullptr);
+
+    void setConfig(const TargetConfig* config, const QString& prjDir) override;
+    void config(TargetConfig* config) const override;
+
+private:
+    QSpinBox* m_wordWidth;
+    QComboBox* m_layouts = nullptr; ///< null if the kind has none
 };
 
 /// Settings of a file in a hardware description language, made from a template.

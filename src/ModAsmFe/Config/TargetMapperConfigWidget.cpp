@@ -1,6 +1,7 @@
 #include "TargetMapperConfigWidget.h"
 
 #include "MyFieldTitle.h"
+#include "TargetKinds.h"
 
 #include <QCheckBox>
 #include <QGraphicsOpacityEffect>
@@ -31,8 +32,9 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     : QWidget(parent)
     , m_layout(new QGridLayout(this))
 {
-    const QString kinds[] = {tr("Write VHDL files:"), tr("Write verilog files:"), tr("Write hex files:"),
-                             tr("Write mem files:")};
+    const QString kinds[] = {tr("Write VHDL files:"),   tr("Write verilog files:"),   tr("Write hex files:"),
+                             tr("Write mem files:"),    tr("Write MIF files:"),       tr("Write COE files:"),
+                             tr("Write binary files:"), tr("Write Intel HEX files:"), tr("Write block RAM mem files:")};
     static_assert(std::size(kinds) == targetKindCount, "each kind has its title");
     const QString events[eventCount] = {tr("Button 1"), tr("Button 2"), tr("After saving")};
     m_layout->setContentsMargins(0, 0, 0, 0);
@@ -78,13 +80,13 @@ void TargetMapperConfigWidget::setOutputEnabled(eTargetKind_t kind, bool enabled
     updateHint();
 }
 
-/// Shows the hint while an event of an output that is off is set.
+/// Shows the hint while an event is set of an output that is off, and whose kind warns then.
 void TargetMapperConfigWidget::updateHint()
 {
     bool anyWarns = false;
     for (int kind = 0; kind < targetKindCount; ++kind) {
         for (const QCheckBox* box : m_boxes[kind])
-            anyWarns = anyWarns || (!m_isOn[kind] && box->isChecked());
+            anyWarns = anyWarns || (!m_isOn[kind] && box->isChecked() && !targetKind(eTargetKind_t(kind)).isImage);
     }
     m_hint->setVisible(anyWarns);
 }

@@ -83,7 +83,9 @@ QWidget* IODevViewerList::setupLegend()
         auto* square = new QLabel(entry);
         m_legendSquares.append({square, kind});
         line->addWidget(square);
-        line->addWidget(new QLabel(text, entry), 1);
+        auto* label = new QLabel(text, entry);
+        line->addWidget(label, 1);
+        m_legendTexts.append(label);
         m_legendEntries.append(entry);
     };
     add(IODevViewerItem::eInitValue, tr("Init value"));
@@ -107,6 +109,9 @@ void IODevViewerList::showColors()
 /// Two lines where the width suffices, else one line an entry.
 void IODevViewerList::arrangeLegend(int width)
 {
+    // A text that can be broken does not say how wide it is.
+    for (QLabel* text : qAsConst(m_legendTexts))
+        text->setWordWrap(false);
     int needed = 2 * margin + 3 * margin;
     for (const QWidget* entry : m_legendEntries.mid(0, 3))
         needed += entry->sizeHint().width();
@@ -120,6 +125,8 @@ void IODevViewerList::arrangeLegend(int width)
         else
             m_legendLayout->addWidget(entry, i, 0, 1, 4);
     }
+    for (QLabel* text : qAsConst(m_legendTexts))
+        text->setWordWrap(!wide);
 }
 
 void IODevViewerList::resizeEvent(QResizeEvent* event)
@@ -249,10 +256,12 @@ void IODevViewerList::layoutElements()
     const int available = qMax(1, m_scroll->viewport()->width() - 2 * margin);
     int width = available;
     int y = margin;
-    // Texts keep to the width of the panel, a map may exceed it.
+    // Texts keep to the width of the panel as far as they can be broken, a map may exceed it.
     const auto place = [&](QLabel* label, int gap) {
-        const int height = label->wordWrap() ? label->heightForWidth(available) : label->sizeHint().height();
-        label->setGeometry(margin, y, available, height);
+        const int labelWidth = qMax(available, label->minimumSizeHint().width());
+        const int height = label->wordWrap() ? label->heightForWidth(labelWidth) : label->sizeHint().height();
+        label->setGeometry(margin, y, labelWidth, height);
+        width = qMax(width, labelWidth);
         y += height + gap;
     };
     const int columns = m_elements.isEmpty() ? 0 : columnsThatFit(available);

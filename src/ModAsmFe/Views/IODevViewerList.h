@@ -81,6 +81,7 @@ private:
     QLabel* m_more = nullptr;
     QWidget* m_legend = nullptr;
     QGridLayout* m_legendLayout = nullptr;
+    QList<QLabel*> m_legendTexts;
     QList<QWidget*> m_legendEntries; ///< the title first
     QList<QPair<QLabel*, IODevViewerItem::eCellKind_t>> m_legendSquares;
     QScrollArea* m_scroll = nullptr;

@@ -40,9 +40,17 @@ EditorActionsLines::EditorActionsLines(QObject* parent)
          "Ctrl+Shift+M"},
         {eActionFoldAll, QT_TR_NOOP("Fold all"), QT_TR_NOOP("Hide all conditionals, namespaces and groups")},
         {eActionUnfoldAll, QT_TR_NOOP("Unfold all"), QT_TR_NOOP("Show all lines")},
+        {eActionSplitBeside, QT_TR_NOOP("Side by side"),
+         QT_TR_NOOP("Show another place of the document to the right of this one"), nullptr, "Ctrl+Shift+L"},
+        {eActionSplitBelow, QT_TR_NOOP("One below the other"),
+         QT_TR_NOOP("Show another place of the document below this one"), nullptr, "Ctrl+Shift+T"},
+        {eActionOtherView, QT_TR_NOOP("Go to the other view"),
+         QT_TR_NOOP("Go on at the other place of the document that is shown"), nullptr, "Ctrl+Shift+O"},
+        {eActionUnsplit, QT_TR_NOOP("Close the other view"), QT_TR_NOOP("Show the place of the cursor only"), nullptr,
+         "Ctrl+Shift+X"},
     });
     // In other widgets these keys have other functions.
-    for (QAction* action : commands() + places() + bookmarks() + folds())
+    for (QAction* action : commands() + places() + bookmarks() + folds() + views())
         action->setShortcutContext(Qt::WidgetWithChildrenShortcut);
 }
 

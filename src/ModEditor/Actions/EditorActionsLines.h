@@ -30,6 +30,10 @@ public:
         eActionFold = 14,
         eActionFoldAll = 15,
         eActionUnfoldAll = 16,
+        eActionSplitBeside = 17,
+        eActionSplitBelow = 18,
+        eActionOtherView = 19,
+        eActionUnsplit = 20,
     };
 
     explicit EditorActionsLines(QObject* parent);
@@ -41,6 +45,7 @@ public:
     /// Needs no document.
     QAction* findInSources() const { return entry(eActionFindInSources); }
     QList<QAction*> folds() const { return entriesBetween(eActionFold, eActionUnfoldAll); }
+    QList<QAction*> views() const { return entriesBetween(eActionSplitBeside, eActionUnsplit); }
     QList<QAction*> bookmarks() const { return entriesBetween(eActionSetBookmark, eActionPrevBookmark); }
     /// None.
     QList<QAction*> toolBarActions() const override { return {}; }

@@ -1,7 +1,9 @@
 #include "TextActions.h"
 
 #include "Brackets.h"
+#include "DocumentViews.h"
 #include "EditorWidget.h"
+#include "EditorWidgetLeftMargin.h"
 #include "Folding.h"
 #include "GotoLineField.h"
 #include "OpenDocuments.h"
@@ -40,17 +42,24 @@ void format(EditorWidget* widget)
 TextActions::TextActions(const SourceFinder::sParts_t& parts, QObject* parent)
     : QObject(parent)
     , m_documents(parts.documents)
+    , m_splitViews(parts.documents)
     , m_sourceFinder(parts)
     , m_actions(new EditorActionsLines(this))
+    , m_marginActions(new EditorActionsMargin(this))
     , m_lineMenu(std::make_unique<QMenu>(tr("Lines")))
     , m_foldMenu(std::make_unique<QMenu>(tr("Folding")))
+    , m_viewMenu(std::make_unique<QMenu>(tr("Split view")))
 {
     m_foldMenu->addActions(m_actions->folds());
     m_foldMenu->setToolTipsVisible(true);
     m_lineMenu->addActions(m_actions->commands());
     m_lineMenu->setToolTipsVisible(true);
+    m_viewMenu->addActions(m_actions->views());
+    m_viewMenu->setToolTipsVisible(true);
     connect(m_actions, qOverload<EditorActionsLines::eAction_t>(&EditorActionsLines::triggered), this,
             &TextActions::handle);
+    connect(m_marginActions, qOverload<EditorActionsMargin::eAction_t>(&EditorActionsMargin::triggered), this,
+            &TextActions::handleMargin);
     setEnabled(false, false);
 }
 
@@ -60,8 +69,8 @@ QList<QAction*> TextActions::menuActions(ModActionHookIf::eActionClass_t actionC
 {
     switch (actionClass) {
     case ModActionHookIf::eActionClassEdit:
-        return QList<QAction*>{m_lineMenu->menuAction(), m_foldMenu->menuAction()} << m_actions->places()
-                                                                                   << m_actions->findInSources();
+        return QList<QAction*>{m_lineMenu->menuAction(), m_foldMenu->menuAction(), m_viewMenu->menuAction()}
+               << m_actions->places() << m_marginActions->actions() << m_actions->findInSources();
     case ModActionHookIf::eActionClassNavigation:
         return m_actions->bookmarks();
     default:
@@ -75,6 +84,8 @@ void TextActions::addTo(EditorWidget* widget)
     widget->addActions(m_actions->places());
     widget->addActions(m_actions->bookmarks());
     widget->addActions(m_actions->folds());
+    widget->addActions(m_marginActions->actions());
+    widget->addActions(m_actions->views());
     widget->installEventFilter(this);
 }
 
@@ -97,9 +108,12 @@ bool TextActions::eventFilter(QObject* watched, QEvent* event)
 void TextActions::setEnabled(bool current, bool project)
 {
     m_actions->setEnabled(current);
+    m_marginActions->setEnabled(current);
     m_actions->setEnabled(EditorActionsLines::eActionFindInSources, project);
     m_lineMenu->menuAction()->setEnabled(current);
     m_foldMenu->menuAction()->setEnabled(current);
+    m_viewMenu->menuAction()->setEnabled(current);
+    enableViews();
 }
 
 void TextActions::goToBookmark(bool backward)
@@ -130,6 +144,17 @@ void TextActions::goToBookmark(bool backward)
     }
 }
 
+void TextActions::handleMargin(EditorActionsMargin::eAction_t action)
+{
+    EditorWidget* widget = m_documents->current();
+    if (widget == nullptr)
+        return;
+    if (action == EditorActionsMargin::eActionMarks)
+        widget->leftMargin()->showMenuAtCursor();
+    else
+        widget->switchToNotice();
+}
+
 void TextActions::handle(EditorActionsLines::eAction_t action)
 {
     if (action == EditorActionsLines::eActionFindInSources) {
@@ -137,7 +162,7 @@ void TextActions::handle(EditorActionsLines::eAction_t action)
         return;
     }
     EditorWidget* widget = m_documents->current();
-    if (widget == nullptr)
+    if (widget == nullptr || handleViews(action, widget))
         return;
     switch (action) {
     case EditorActionsLines::eActionToggleComment:
@@ -188,9 +213,42 @@ void TextActions::handle(EditorActionsLines::eAction_t action)
     case EditorActionsLines::eActionUnfoldAll:
         widget->folding()->unfoldAll();
         break;
-    case EditorActionsLines::eActionFindInSources:
+    default:
         break;
     }
+}
+
+/// @return it is a command for the views of a document
+bool TextActions::handleViews(EditorActionsLines::eAction_t action, EditorWidget* widget)
+{
+    switch (action) {
+    case EditorActionsLines::eActionSplitBeside:
+        m_splitViews.split(widget, Qt::Horizontal);
+        break;
+    case EditorActionsLines::eActionSplitBelow:
+        m_splitViews.split(widget, Qt::Vertical);
+        break;
+    case EditorActionsLines::eActionOtherView:
+        widget->views()->exchange();
+        widget->setFocus();
+        break;
+    case EditorActionsLines::eActionUnsplit:
+        m_splitViews.unsplit(widget);
+        break;
+    default:
+        return false;
+    }
+    enableViews();
+    return true;
+}
+
+/// What needs a split page.
+void TextActions::enableViews()
+{
+    const EditorWidget* widget = m_documents->current();
+    const bool isSplit = widget != nullptr && widget->views()->second() != nullptr;
+    m_actions->setEnabled(EditorActionsLines::eActionOtherView, isSplit);
+    m_actions->setEnabled(EditorActionsLines::eActionUnsplit, isSplit);
 }
 
 } // namespace nsModEditor

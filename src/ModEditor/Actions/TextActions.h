@@ -1,8 +1,10 @@
 #pragma once
 
 #include "EditorActionsLines.h"
+#include "EditorActionsMargin.h"
 #include "ModActionHookIf.h"
 #include "SourceFinder.h"
+#include "SplitViews.h"
 
 #include <QObject>
 
@@ -39,12 +41,18 @@ public:
 
 private:
     void handle(EditorActionsLines::eAction_t action);
+    void handleMargin(EditorActionsMargin::eAction_t action);
+    bool handleViews(EditorActionsLines::eAction_t action, EditorWidget* widget);
+    void enableViews();
 
     const OpenDocuments* m_documents;
+    SplitViews m_splitViews;
     SourceFinder m_sourceFinder;
     EditorActionsLines* m_actions;
+    EditorActionsMargin* m_marginActions;
     std::unique_ptr<QMenu> m_lineMenu;
     std::unique_ptr<QMenu> m_foldMenu;
+    std::unique_ptr<QMenu> m_viewMenu;
 };
 
 } // namespace nsModEditor

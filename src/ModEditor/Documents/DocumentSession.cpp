@@ -6,13 +6,13 @@
 #include "LineMarks.h"
 #include "OpenDocuments.h"
 #include "SafeFile.h"
+#include "ViewPlace.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QScrollBar>
 
 namespace nsModEditor {
 
@@ -30,6 +30,7 @@ const QLatin1String cursor("cursor");
 const QLatin1String anchor("anchor");
 const QLatin1String top("top"); ///< first line on the screen
 const QLatin1String left("left");
+const QLatin1String split("split");
 const QLatin1String zoom("zoom");
 const QLatin1String breakpoints("breakpoints");
 const QLatin1String bookmarks("bookmarks");
@@ -57,11 +58,35 @@ LineMarks marksOf(const QJsonValue& value, int lineCount)
     return marks;
 }
 
+QByteArray contentOf(const QString& path)
+{
+    QFile file(path);
+    return QFileInfo(path).isFile() && file.size() <= maxSize && file.open(QIODevice::ReadOnly) ? file.readAll()
+                                                                                                : QByteArray();
+}
+
+/// May the file be written over? A damaged one of ours may, one of a newer version or of another program may not.
+bool isOurs(const QString& path)
+{
+    const QFileInfo info(path);
+    if (!info.exists())
+        return true;
+    if (!info.isFile() || info.size() > maxSize)
+        return false;
+    const QByteArray content = contentOf(path);
+    const QJsonDocument document = QJsonDocument::fromJson(content);
+    if (document.isNull())
+        return info.size() == 0 || content.contains(QByteArray(keys::version.data()));
+    const int found = document.object().value(keys::version).toInt(0);
+    return found > 0 && found <= version;
+}
+
 } // namespace
 
 DocumentSession::DocumentSession(const OpenDocuments* documents, EditorServices* services)
     : m_documents(documents)
     , m_services(services)
+    , m_splitViews(documents)
 {
 }
 
@@ -72,11 +97,15 @@ QString DocumentSession::fileOf(const QString& project)
 
 QJsonObject DocumentSession::stateOf(EditorWidget* widget, bool keepMarks) const
 {
+    const sViewPlace place = sViewPlace::of(widget);
     QJsonObject state{{keys::file, m_services->relPath(widget->filePath())},
-                      {keys::cursor, widget->textCursor().position()},
-                      {keys::anchor, widget->textCursor().anchor()},
-                      {keys::top, widget->verticalScrollBar()->value()},
-                      {keys::left, widget->horizontalScrollBar()->value()}};
+                      {keys::cursor, place.position},
+                      {keys::anchor, place.anchor},
+                      {keys::top, place.top},
+                      {keys::left, place.left}};
+    const QJsonObject split = m_splitViews.stateOf(widget);
+    if (!split.isEmpty())
+        state.insert(keys::split, split);
     if (!keepMarks)
         return state;
     state.insert(keys::zoom, widget->zoom());
@@ -100,9 +129,7 @@ void DocumentSession::save(const QString& project, bool keepMarks)
         return;
     const QByteArray bytes =
         QJsonDocument(QJsonObject{{keys::version, version}, {keys::documents, documents}}).toJson();
-    QFile before(path);
-    if (QFileInfo(path).isFile() && before.size() <= maxSize && before.open(QIODevice::ReadOnly) &&
-        before.readAll() == bytes)
+    if (contentOf(path) == bytes || !isOurs(path))
         return;
     // Without it, the documents open at their start the next time.
     SafeFile::replace(path, bytes, nullptr);
@@ -113,10 +140,7 @@ void DocumentSession::restore(const QString& project, bool keepMarks, bool isNew
     const QString path = fileOf(project);
     if (project.isEmpty() || !QFileInfo::exists(path))
         return;
-    QFile file(path);
-    QJsonObject session;
-    if (QFileInfo(path).isFile() && file.size() <= maxSize && file.open(QIODevice::ReadOnly))
-        session = QJsonDocument::fromJson(file.readAll()).object();
+    const QJsonObject session = QJsonDocument::fromJson(contentOf(path)).object();
     if (session.value(keys::version).toInt() != version || !session.value(keys::documents).isArray()) {
         m_services->showWarning(tr("The places of the last session can not be read: ") + path);
         return;
@@ -147,14 +171,12 @@ void DocumentSession::restoreState(EditorWidget* widget, const QJsonObject& stat
         marks.simStartPointer = start < widget->blockCount() ? qMax(start, -1) : -1;
         widget->setMarks(marks);
     }
+    m_splitViews.restore(widget, state.value(keys::split).toObject());
     if (keepsCursor && widget->cursorPos() != position)
         return;
-    QTextCursor cursor = widget->textCursor();
-    cursor.setPosition(qBound(0, state.value(keys::anchor).toInt(), end));
-    cursor.setPosition(position, QTextCursor::KeepAnchor);
-    widget->setTextCursor(cursor);
-    widget->verticalScrollBar()->setValue(state.value(keys::top).toInt());
-    widget->horizontalScrollBar()->setValue(state.value(keys::left).toInt());
+    const sViewPlace place{position, state.value(keys::anchor).toInt(), state.value(keys::top).toInt(),
+                           state.value(keys::left).toInt()};
+    place.show(widget);
 }
 
 } // namespace nsModEditor

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "SplitViews.h"
+
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QJsonObject>
@@ -11,8 +13,9 @@ class EditorServices;
 class EditorWidget;
 class OpenDocuments;
 
-/// What this user has seen of the documents of a project: places, and if the user wants it, marks and zoom. It stands
-/// in a file of its own beside the project file, so that the project is the same for all of its users.
+/// What this user has seen of the documents of a project: places, how pages are split, and if the user wants it, marks
+/// and zoom. It stands in a file of its own beside the project file, so that the project is the same for all of its
+/// users.
 ///
 /// The file is never in the way: where it can not be written, nothing is kept.
 class DocumentSession
@@ -39,6 +42,7 @@ private:
 
     const OpenDocuments* m_documents;
     EditorServices* m_services;
+    SplitViews m_splitViews;
 };
 
 } // namespace nsModEditor

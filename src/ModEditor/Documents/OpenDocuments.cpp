@@ -65,6 +65,11 @@ void OpenDocuments::show(EditorWidget* widget) const
         m_gui->modGuiHook->setCurrentWidget(widget);
 }
 
+QSplitter* OpenDocuments::splitPage(EditorWidget* widget, QWidget* second, Qt::Orientation orientation) const
+{
+    return m_gui->modGuiHook != nullptr ? m_gui->modGuiHook->splitPage(widget, second, orientation) : nullptr;
+}
+
 void OpenDocuments::focusCurrent() const
 {
     if (EditorWidget* widget = current())

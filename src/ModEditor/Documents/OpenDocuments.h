@@ -5,8 +5,11 @@
 
 #include <QList>
 #include <QStringList>
+#include <Qt>
 
 class ModGuiPluginIf;
+class QSplitter;
+class QWidget;
 
 namespace nsModEditor {
 
@@ -46,6 +49,8 @@ public:
     QStringList pathsByPage() const;
     /// Makes the page of the document the current one.
     void show(EditorWidget* widget) const;
+    /// See ModGuiHookIf::splitPage(). Null without a window.
+    QSplitter* splitPage(EditorWidget* widget, QWidget* second, Qt::Orientation orientation) const;
     /// Gives the focus to the current document, after a command of the user.
     void focusCurrent() const;
 

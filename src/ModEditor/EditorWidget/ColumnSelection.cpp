@@ -164,9 +164,13 @@ void ColumnSelection::remove(int before, int after)
         for (int line = top(); line <= bottom(); ++line) {
             const QTextBlock block = m_editor->document()->findBlockByNumber(line);
             const TextColumns columns(block.text(), m_editor->indentStyle().width);
+            int end = columns.indexAt(to);
+            // A tab is wider than one column.
+            if (after > 0 && columns.columnOf(end) < to && columns.width() >= to)
+                end = columns.indexAfter(end);
             QTextCursor cursor(block);
             cursor.setPosition(block.position() + columns.indexAt(from));
-            cursor.setPosition(block.position() + columns.indexAt(to), QTextCursor::KeepAnchor);
+            cursor.setPosition(block.position() + end, QTextCursor::KeepAnchor);
             cursor.removeSelectedText();
         }
         m_anchor.setX(from);

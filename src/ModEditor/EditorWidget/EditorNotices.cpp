@@ -2,7 +2,6 @@
 
 #include "MyNoticeBar.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QEvent>
 #include <QVBoxLayout>
@@ -15,11 +14,6 @@ EditorNotices::EditorNotices(QWidget* parent)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    auto* focus = new QAction(tr("Go to the notice"), parent);
-    focus->setShortcut(QKeySequence(QStringLiteral("F6")));
-    focus->setShortcutContext(Qt::WidgetWithChildrenShortcut);
-    connect(focus, &QAction::triggered, this, &EditorNotices::switchFocus);
-    parent->addAction(focus);
 }
 
 void EditorNotices::add(MyNoticeBar* bar)

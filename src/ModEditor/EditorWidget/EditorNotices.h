@@ -12,13 +12,15 @@ class EditorNotices : public QWidget
     Q_OBJECT
 
 public:
-    /// @param parent the document; F6 in it moves the focus to the bars and back
+    /// @param parent the document
     explicit EditorNotices(QWidget* parent);
 
     /// Takes the bar over and shows it.
     void add(MyNoticeBar* bar);
     /// Height in pixels that the bars need; 0 without any.
     int heightFor(int width) const;
+    /// Moves the focus from the document to the first bar, and back.
+    void switchFocus();
 
 signals:
     /// A bar was added, removed or changed.
@@ -26,10 +28,6 @@ signals:
 
 protected:
     bool event(QEvent* event) override;
-
-private slots:
-    /// Moves the focus from the document to the first bar, and back.
-    void switchFocus();
 
 private:
     MyNoticeBar* firstBar() const;

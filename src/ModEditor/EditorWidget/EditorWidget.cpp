@@ -2,6 +2,7 @@
 
 #include "EditorWidget.h"
 
+#include "DocumentViews.h"
 #include "EditorConfig.h"
 #include "EditorSupportMenu.h"
 #include "EditorSyntaxHighlighter.h"
@@ -10,7 +11,9 @@
 #include "HelpRef.h"
 #include "MarkFollower.h"
 #include "PageProperties.h"
+#include "SecondView.h"
 #include "TextCompletion.h"
+#include "ViewPlace.h"
 #include "WordMarks.h"
 
 #include <QAction>
@@ -70,6 +73,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     : SourceEdit(parent)
     , m_textDocument(new QTextDocument(this))
     , m_lineHighlights(this)
+    , m_views(std::make_unique<DocumentViews>(this, &m_lineHighlights))
     , m_messageMarks(this)
 {
     HelpRef::set(this, QStringLiteral("pageId://editor"));
@@ -109,6 +113,8 @@ EditorWidget::~EditorWidget()
     // The shared dialog may have this document for its parent.
     if (m_tipManager != nullptr && m_tipManager->parent() == this)
         m_tipManager->setParent(nullptr);
+    // The second view shows the text of this one.
+    m_views->dropSecond();
     // The slots must not be called while the base class is being destroyed.
     m_textDocument->disconnect(this);
     disconnect(this);
@@ -164,6 +170,7 @@ void EditorWidget::setFilePath(const QString& path)
 void EditorWidget::setText(const QString& text)
 {
     const int flaggedLine = m_lineHighlights.isFlagged() ? m_lineHighlights.flaggedLine() : -1;
+    const sViewPlace second = m_views->second() != nullptr ? sViewPlace::of(m_views->second()) : sViewPlace();
     m_settingText = true;
     setUpdatesEnabled(false);
     setPlainText(text);
@@ -171,7 +178,9 @@ void EditorWidget::setText(const QString& text)
     m_textDocument->setModified(false);
     moveCursor(QTextCursor::Start);
     // The flag keeps its line number, like the marks.
-    m_lineHighlights.flag(flaggedLine);
+    m_views->flag(flaggedLine);
+    if (m_views->second() != nullptr)
+        m_views->second()->showPlace(second);
     setUpdatesEnabled(true);
     m_settingText = false;
     m_reportedModified = false;
@@ -270,13 +279,12 @@ void EditorWidget::moveLines(bool up)
 {
     LineCommands commands = lineCommands();
     const QPair<int, int> lines = commands.selectedLines();
-    const int revision = m_textDocument->revision();
-    if (up)
-        commands.moveLineUp();
-    else
-        commands.moveLineDown();
-    if (m_textDocument->revision() != revision)
-        m_markFollower->moveLines(lines.first, lines.second, up);
+    m_markFollower->moveLines(lines.first, lines.second, up, [&commands, up] {
+        if (up)
+            commands.moveLineUp();
+        else
+            commands.moveLineDown();
+    });
 }
 
 void EditorWidget::setActionChanged()
@@ -312,6 +320,7 @@ void EditorWidget::applyFont(const QFont& font)
     SourceEdit::setFont(scaled);
     calculateTabWidth();
     updateLeftMarginWidth();
+    m_views->takeLook();
     emit actionChanged(this);
 }
 

@@ -12,6 +12,8 @@
 #include <QColor>
 #include <QPointer>
 
+#include <memory>
+
 class QAction;
 class QHelpEvent;
 class QMenu;
@@ -20,6 +22,7 @@ class MyNoticeBar;
 
 namespace nsModEditor {
 
+class DocumentViews;
 class EditorNotices;
 class EditorSupportMenu;
 class EditorSyntaxHighlighter;
@@ -90,6 +93,11 @@ public:
     /// Shows a bar at the upper edge, below the present ones. The document owns it; F6 moves the focus to the bars and
     /// back.
     void addNotice(MyNoticeBar* bar);
+    /// Moves the focus from the text to the first bar, and back. Nothing where there is no bar.
+    void switchToNotice();
+
+    /// This one, and a second one while the page is split.
+    DocumentViews* views() const { return m_views.get(); }
 
     // ---- Look and behaviour (EditorWidget.cpp)
     /// The point size and the zoom of the document make its font size.
@@ -246,6 +254,7 @@ private:
     bool m_settingText = false;
 
     LineHighlights m_lineHighlights;
+    std::unique_ptr<DocumentViews> m_views;
     WordMarks* m_wordMarks = nullptr;
     sDocumentMarks_t m_marks;
     MessageMarks m_messageMarks;

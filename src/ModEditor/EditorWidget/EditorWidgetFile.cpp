@@ -2,6 +2,7 @@
 
 #include "EditorWidget.h"
 
+#include "DocumentViews.h"
 #include "EditorNotices.h"
 #include "MyNoticeBar.h"
 
@@ -58,6 +59,7 @@ void EditorWidget::setLocked(bool locked)
 {
     setTextInteractionFlags(locked ? Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard
                                    : Qt::TextEditorInteraction);
+    m_views->takeLook();
 }
 
 void EditorWidget::changeText(const QString& text)
@@ -114,6 +116,12 @@ void EditorWidget::addNotice(MyNoticeBar* bar)
     }
     m_notices->add(bar);
     layoutNotices();
+}
+
+void EditorWidget::switchToNotice()
+{
+    if (m_notices != nullptr)
+        m_notices->switchFocus();
 }
 
 void EditorWidget::layoutNotices()

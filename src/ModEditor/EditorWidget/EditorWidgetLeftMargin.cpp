@@ -40,49 +40,50 @@ int digits(int value, int base)
 } // namespace
 
 EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor)
-    : QWidget(editor)
+    : EditorWidgetLeftMargin(editor, editor)
+{
+}
+
+EditorWidgetLeftMargin::EditorWidgetLeftMargin(EditorWidget* editor, SourceEdit* view)
+    : QWidget(view)
     , m_editor(editor)
+    , m_view(view)
+    , m_look(view == editor ? std::make_shared<sLook_t>() : editor->leftMargin()->m_look)
 {
     setAttribute(Qt::WA_Hover);
     setContextMenuPolicy(Qt::CustomContextMenu);
     setCursor(Qt::ArrowCursor);
     setAccessibleName(tr("Marks, addresses and line numbers"));
     connect(this, &QWidget::customContextMenuRequested, this, &EditorWidgetLeftMargin::showMenu);
-
-    auto* menuAction = new QAction(tr("Marks of the line"), editor);
-    menuAction->setShortcut(QKeySequence("Ctrl+F10"));
-    menuAction->setShortcutContext(Qt::WidgetShortcut);
-    connect(menuAction, &QAction::triggered, this, &EditorWidgetLeftMargin::showMenuAtCursor);
-    editor->addAction(menuAction);
 }
 
 void EditorWidgetLeftMargin::setBgColor(const QColor& color)
 {
-    m_bgColor = color;
+    m_look->bgColor = color;
     update();
 }
 
 void EditorWidgetLeftMargin::setFgColor(const QColor& color)
 {
-    m_fgColor = color;
+    m_look->fgColor = color;
     update();
 }
 
 void EditorWidgetLeftMargin::setBreakpointColor(const QColor& color)
 {
-    m_breakpointColor = color;
+    m_look->breakpointColor = color;
     update();
 }
 
 void EditorWidgetLeftMargin::setStartPointerColor(const QColor& color)
 {
-    m_startPointerColor = color;
+    m_look->startPointerColor = color;
     update();
 }
 
 void EditorWidgetLeftMargin::setBookmarkColor(const QColor& color)
 {
-    m_bookmarkColor = color;
+    m_look->bookmarkColor = color;
     update();
 }
 
@@ -90,21 +91,21 @@ bool EditorWidgetLeftMargin::setAddrBase(int base)
 {
     if (base < 2 || base > 36)
         return false;
-    m_addrBase = base;
+    m_look->addrBase = base;
     return true;
 }
 
 void EditorWidgetLeftMargin::setAddrMap(EditorMemPageAddrMap* map, const QString& path)
 {
-    m_addrList = map != nullptr ? map->map(path) : nullptr;
-    m_addrMap = m_addrList != nullptr ? map : nullptr;
+    m_look->addrList = map != nullptr ? map->map(path) : nullptr;
+    m_look->addrMap = m_look->addrList != nullptr ? map : nullptr;
 }
 
 void EditorWidgetLeftMargin::setAddrInvalid()
 {
-    if (m_addrMap == nullptr)
+    if (m_look->addrMap == nullptr)
         return;
-    m_addrMap->valid = false;
+    m_look->addrMap->valid = false;
     update();
 }
 
@@ -118,15 +119,19 @@ bool EditorWidgetLeftMargin::event(QEvent* event)
     if (event->type() != QEvent::ToolTip)
         return QWidget::event(event);
     const auto* help = static_cast<QHelpEvent*>(event);
-    QToolTip::showText(help->globalPos(),
-                       m_editor->messagesAt(m_editor->blockNumberFromPos(help->pos().y())).join('\n').toHtmlEscaped(),
-                       this);
+    QString tip;
+    for (const QString& message : m_editor->messagesAt(m_view->lineAt(help->pos().y())))
+        tip += QStringLiteral("<div>%1</div>").arg(message.toHtmlEscaped());
+    QToolTip::showText(help->globalPos(), tip, this);
     return true;
 }
 
 void EditorWidgetLeftMargin::paintEvent(QPaintEvent* event)
 {
-    m_editor->leftMarginPaintEvent(event);
+    if (m_view == m_editor)
+        m_editor->leftMarginPaintEvent(event);
+    else
+        paint(event);
 }
 
 void EditorWidgetLeftMargin::mousePressEvent(QMouseEvent* event)
@@ -139,7 +144,7 @@ void EditorWidgetLeftMargin::mousePressEvent(QMouseEvent* event)
         event->ignore();
         return;
     }
-    const int line = m_editor->blockNumberFromPos(event->y());
+    const int line = m_view->lineAt(event->y());
     if (event->modifiers() == Qt::ControlModifier)
         m_editor->setSimStartPointer(line);
     else if (event->modifiers() == Qt::ShiftModifier)
@@ -153,7 +158,7 @@ void EditorWidgetLeftMargin::mousePressEvent(QMouseEvent* event)
 void EditorWidgetLeftMargin::wheelEvent(QWheelEvent* event)
 {
     // A scroll area takes the wheel from its viewport only.
-    QCoreApplication::sendEvent(m_editor->viewport(), event);
+    QCoreApplication::sendEvent(m_view->viewport(), event);
 }
 
 int EditorWidgetLeftMargin::symbolColumnWidth() const
@@ -163,37 +168,37 @@ int EditorWidgetLeftMargin::symbolColumnWidth() const
 
 int EditorWidgetLeftMargin::addrColumnWidth() const
 {
-    if (!m_addrEn)
+    if (!m_look->addrEn)
         return 0;
-    const int count = digits(m_maxAddr, m_addrBase) + 2; // with the "0x"
-    return count * m_editor->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
+    const int count = digits(m_look->maxAddr, m_look->addrBase) + 2; // with the "0x"
+    return count * m_view->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
 }
 
 int EditorWidgetLeftMargin::lineNumberColumnWidth() const
 {
-    if (!m_lineNumberEn)
+    if (!m_look->lineNumberEn)
         return 0;
-    return digits(m_editor->blockCount(), 10) * m_editor->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
+    return digits(m_view->blockCount(), 10) * m_view->fontMetrics().horizontalAdvance('9') + 2 + 2 * columnSpace;
 }
 
 void EditorWidgetLeftMargin::paint(QPaintEvent* event)
 {
     QPainter painter(this);
     const QRect area = event->rect();
-    painter.fillRect(area, m_bgColor);
+    painter.fillRect(area, m_look->bgColor);
     // Filled rectangles instead of lines, which stay sharp at any scale of the screen.
-    if (m_addrEn)
-        painter.fillRect(QRect(symbolColumnWidth(), area.top(), 1, area.height()), m_fgColor);
-    if (m_lineNumberEn)
-        painter.fillRect(QRect(symbolColumnWidth() + addrColumnWidth(), area.top(), 1, area.height()), m_fgColor);
+    if (m_look->addrEn)
+        painter.fillRect(QRect(symbolColumnWidth(), area.top(), 1, area.height()), m_look->fgColor);
+    if (m_look->lineNumberEn)
+        painter.fillRect(QRect(symbolColumnWidth() + addrColumnWidth(), area.top(), 1, area.height()), m_look->fgColor);
 
-    QTextBlock block = m_editor->firstVisibleBlock();
-    qreal top = m_editor->blockBoundingGeometry(block).translated(m_editor->contentOffset()).top();
-    const int symbolHeight = qRound(m_editor->blockBoundingRect(block).height());
+    QTextBlock block = m_view->firstVisibleBlock();
+    qreal top = m_view->blockBoundingGeometry(block).translated(m_view->contentOffset()).top();
+    const int symbolHeight = qRound(m_view->blockBoundingRect(block).height());
     // List and lines are read in parallel. An entry that is out of order hides the entries after it.
-    const EditorMemPageAddrMap::sItem_t* entry = m_addrEn ? m_addrList : nullptr;
+    const EditorMemPageAddrMap::sItem_t* entry = m_look->addrEn ? m_look->addrList : nullptr;
     for (; block.isValid() && top <= area.bottom(); block = block.next()) {
-        const qreal bottom = top + m_editor->blockBoundingRect(block).height();
+        const qreal bottom = top + m_view->blockBoundingRect(block).height();
         if (block.isVisible() && bottom >= area.top()) {
             const int line = block.blockNumber();
             while (entry != nullptr && entry->lineNo < line)
@@ -209,27 +214,27 @@ void EditorWidgetLeftMargin::paint(QPaintEvent* event)
 /// Symbols and number of a line.
 void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& block, int top, int symbolHeight)
 {
-    QFont blockFont = m_editor->font();
+    QFont blockFont = m_view->font();
     blockFont.setPointSize(qMax(m_editor->fontSize(), 1));
     painter->setFont(blockFont);
-    painter->setPen(m_fgColor);
+    painter->setPen(m_look->fgColor);
     const int line = block.blockNumber();
     if (line == m_editor->marks().simStartPointer)
-        painter->fillRect(QRect(startPointerX, top, symbolWidth, symbolHeight), m_startPointerColor);
+        painter->fillRect(QRect(startPointerX, top, symbolWidth, symbolHeight), m_look->startPointerColor);
     if (m_editor->marks().simBreakpoints.contains(line))
-        painter->fillRect(QRect(breakpointX, top, symbolWidth, symbolHeight), m_breakpointColor);
+        painter->fillRect(QRect(breakpointX, top, symbolWidth, symbolHeight), m_look->breakpointColor);
     if (m_editor->marks().bookmarks.contains(line))
-        painter->fillRect(QRect(bookmarkX, top, symbolWidth, symbolHeight), m_bookmarkColor);
-    const int grade = m_messageMarks != nullptr ? m_messageMarks->gradeOf(block) : -1;
+        painter->fillRect(QRect(bookmarkX, top, symbolWidth, symbolHeight), m_look->bookmarkColor);
+    const int grade = m_look->messageMarks != nullptr ? m_look->messageMarks->gradeOf(block) : -1;
     if (grade >= 0) {
         const int left = symbolColumnWidth() + addrColumnWidth() + 1;
-        const int rowHeight = qRound(m_editor->blockBoundingRect(block).height());
+        const int rowHeight = qRound(m_view->blockBoundingRect(block).height());
         QColor tint = MessageMarks::colorOf(grade);
         painter->fillRect(QRect(width() - columnSpace, top, columnSpace, rowHeight), tint);
         tint.setAlpha(messageTint);
         painter->fillRect(QRect(left, top, width() - columnSpace - left, rowHeight), tint);
     }
-    if (!m_lineNumberEn)
+    if (!m_look->lineNumberEn)
         return;
     const QRect cell(symbolColumnWidth() + addrColumnWidth(), top, lineNumberColumnWidth() - columnSpace,
                      painter->fontMetrics().height());
@@ -238,14 +243,14 @@ void EditorWidgetLeftMargin::paintBlock(QPainter* painter, const QTextBlock& blo
 
 void EditorWidgetLeftMargin::paintAddr(QPainter* painter, int top, int addr)
 {
-    painter->setPen(m_addrMap->valid ? m_fgColor : Colors::of(Colors::eMarginOld));
+    painter->setPen(m_look->addrMap->valid ? m_look->fgColor : Colors::of(Colors::eMarginOld));
     const QRect cell(symbolColumnWidth(), top, addrColumnWidth() - columnSpace, painter->fontMetrics().height());
-    painter->drawText(cell, Qt::AlignRight, QString("0x%1").arg(addr, minAddrDigits, m_addrBase, QChar('0')));
+    painter->drawText(cell, Qt::AlignRight, QString("0x%1").arg(addr, minAddrDigits, m_look->addrBase, QChar('0')));
 }
 
 void EditorWidgetLeftMargin::showToolTipAt(const QPoint& pos)
 {
-    const int line = m_editor->blockNumberFromPos(pos.y());
+    const int line = m_view->lineAt(pos.y());
     QString text;
     if (pos.x() < 6 && line == m_editor->marks().simStartPointer)
         text = tr("Simulator start address");
@@ -275,18 +280,18 @@ void EditorWidgetLeftMargin::addMenuEntries(QMenu* menu, int line)
     add(m_editor->marks().simBreakpoints.contains(line) ? tr("Clear simulator breakpoint")
                                                         : tr("Set simulator breakpoint"),
         [this, line] { m_editor->setSimBreakpoint(line); })
-        ->setIcon(iconOf(m_breakpointColor));
+        ->setIcon(iconOf(m_look->breakpointColor));
     add(tr("Clear all simulator breakpoints of the current file"), [this] { m_editor->clearSimBreakpoints(); });
     add(tr("Clear all simulator breakpoints"), [this] { emit m_editor->clearAllBreakpoints(); });
     menu->addSeparator();
     add(tr("Set simulator start address to this line"), [this, line] {
         m_editor->setSimStartPointer(line);
-    })->setIcon(iconOf(m_startPointerColor));
+    })->setIcon(iconOf(m_look->startPointerColor));
     add(tr("Set simulator start address to processor default"), [this] { emit m_editor->clearAllSimStartPointer(); });
     menu->addSeparator();
     add(m_editor->marks().bookmarks.contains(line) ? tr("Clear bookmark") : tr("Set bookmark"), [this, line] {
         m_editor->setBookmark(line);
-    })->setIcon(iconOf(m_bookmarkColor));
+    })->setIcon(iconOf(m_look->bookmarkColor));
     add(tr("Clar all bookmarks of the current file"), [this] { m_editor->clearBookmarks(); });
     add(tr("Clar all bookmarks"), [this] { emit m_editor->clearAllBookmarks(); });
 }
@@ -302,7 +307,7 @@ void EditorWidgetLeftMargin::runMenu(int line, const QPoint& globalPos)
 
 void EditorWidgetLeftMargin::showMenu(const QPoint& pos)
 {
-    runMenu(m_editor->blockNumberFromPos(pos.y()), mapToGlobal(pos));
+    runMenu(m_view->lineAt(pos.y()), mapToGlobal(pos));
 }
 
 void EditorWidgetLeftMargin::showMenuAtCursor()

@@ -2,7 +2,9 @@
 
 #include "EditorWidget.h"
 
+#include "DocumentViews.h"
 #include "EditorWidgetLeftMargin.h"
+#include "SecondView.h"
 
 #include <QPainter>
 #include <QTextBlock>
@@ -37,6 +39,8 @@ void EditorWidget::updateLeftMarginWidth()
     const QRect rect = contentsRect();
     m_leftMargin->setGeometry(rect.left(), rect.top() + m_noticeHeight, width, rect.height() - m_noticeHeight);
     m_leftMargin->update();
+    if (m_views->second() != nullptr)
+        m_views->second()->updateLeftMarginWidth();
 }
 
 void EditorWidget::updateLeftMargin(const QRect& rect, int)
@@ -86,7 +90,9 @@ void EditorWidget::setMemPageAddrInvalid(int)
 void EditorWidget::setMessageMarks(const QVector<sMessageMark>& marks)
 {
     m_messageMarks.set(marks);
-    m_leftMargin->update();
+    m_views->updateMargins();
+    if (m_views->second() != nullptr)
+        m_views->second()->viewport()->update();
 }
 
 void EditorWidget::paintEvent(QPaintEvent* event)
@@ -100,15 +106,7 @@ void EditorWidget::paintEvent(QPaintEvent* event)
 
 int EditorWidget::blockNumberFromPos(int y) const
 {
-    QTextBlock block = firstVisibleBlock();
-    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
-    for (; block.isValid() && top <= y; block = block.next()) {
-        const qreal bottom = top + blockBoundingRect(block).height();
-        if (block.isVisible() && y < bottom)
-            return block.blockNumber();
-        top = bottom;
-    }
-    return 0;
+    return lineAt(y);
 }
 
 void EditorWidget::leftMarginPaintEvent(QPaintEvent* event)
@@ -128,7 +126,7 @@ void EditorWidget::setMarks(const sDocumentMarks_t& marks)
     if (marks.simStartPointer >= 0)
         emit clearAllSimStartPointer();
     m_marks = marks;
-    m_leftMargin->update();
+    m_views->updateMargins();
     if (isChanged)
         emit simBreakpointChanged();
 }
@@ -138,14 +136,14 @@ void EditorWidget::setSimBreakpoint(int line)
     if (line < 0)
         return;
     m_marks.simBreakpoints.toggle(line);
-    m_leftMargin->update();
+    m_views->updateMargins();
     emit simBreakpointChanged();
 }
 
 void EditorWidget::clearSimBreakpoints()
 {
     m_marks.simBreakpoints.clear();
-    m_leftMargin->update();
+    m_views->updateMargins();
 }
 
 void EditorWidget::setSimStartPointer(int line)
@@ -155,7 +153,7 @@ void EditorWidget::setSimStartPointer(int line)
     emit clearAllSimStartPointer();
     if (isOther)
         m_marks.simStartPointer = qMax(line, -1);
-    m_leftMargin->update();
+    m_views->updateMargins();
 }
 
 bool EditorWidget::simStartPointer(int* line) const
@@ -169,7 +167,7 @@ bool EditorWidget::simStartPointer(int* line) const
 void EditorWidget::clearSimStartPointer()
 {
     m_marks.simStartPointer = -1;
-    m_leftMargin->update();
+    m_views->updateMargins();
 }
 
 void EditorWidget::setBookmark(int line)
@@ -177,13 +175,13 @@ void EditorWidget::setBookmark(int line)
     if (line < 0)
         return;
     m_marks.bookmarks.toggle(line);
-    m_leftMargin->update();
+    m_views->updateMargins();
 }
 
 void EditorWidget::clearBookmarks()
 {
     m_marks.bookmarks.clear();
-    m_leftMargin->update();
+    m_views->updateMargins();
 }
 
 } // namespace nsModEditor

@@ -2,6 +2,7 @@
 
 #include "EditorWidget.h"
 
+#include "DocumentViews.h"
 #include "Folding.h"
 #include "WordMarks.h"
 
@@ -124,27 +125,29 @@ void EditorWidget::setLineHighlighted(int line)
     // Uses the number of the line, so that the rows of wrapped lines above it do not count.
     line = qBound(0, line, blockCount() - 1);
     setCursorPos(m_textDocument->findBlockByNumber(line).position());
-    m_lineHighlights.flag(line);
+    m_views->flag(line);
 }
 
 void EditorWidget::markLine(int line)
 {
-    m_lineHighlights.flag(line);
+    m_views->flag(line);
 }
 
 void EditorWidget::clearLineHighlighted()
 {
-    m_lineHighlights.clearFlag();
+    m_views->flag(-1);
 }
 
 void EditorWidget::setCursorBgColor(const QColor& color)
 {
     m_lineHighlights.setCursorColor(color);
+    m_views->takeLook();
 }
 
 void EditorWidget::setHighlightBgColor(const QColor& color)
 {
     m_lineHighlights.setFlagColor(color);
+    m_views->takeLook();
 }
 
 void EditorWidget::setSelectionHighlightEn(bool enabled)

@@ -198,6 +198,8 @@ void Folding::show(int first, int last)
 /// An edit can bring the cursor, or the start of the document, into hidden lines.
 void Folding::showCursor()
 {
+    if (!m_isUnfolding)
+        return;
     const QTextCursor cursor = m_editor->textCursor();
     if (!cursor.block().isVisible())
         show(cursor.blockNumber(), cursor.blockNumber());

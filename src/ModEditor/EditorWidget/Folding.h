@@ -43,6 +43,8 @@ public:
     void unfoldAll();
     /// Shows the lines, and all that is hidden together with them.
     void show(int first, int last);
+    /// Whether hidden lines are shown as soon as the cursor of this view comes into them; they are at first.
+    void setUnfolding(bool unfolds) { m_isUnfolding = unfolds; }
 
     void paint(QPainter* painter) const;
 
@@ -55,6 +57,7 @@ private:
     QRectF markOf(const QTextBlock& block) const;
 
     SourceEdit* m_editor;
+    bool m_isUnfolding = true;
 };
 
 } // namespace nsModEditor

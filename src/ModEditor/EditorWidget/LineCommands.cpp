@@ -18,16 +18,17 @@ namespace {
 int indentOf(const QString& text)
 {
     int length = 0;
-    while (length < text.length() && text.at(length).isSpace())
+    while (length < text.length() && (text.at(length) == ' ' || text.at(length) == '\t'))
         ++length;
     return length;
 }
 
-/// Where the blanks at the end begin. A blank after a backslash is text.
+/// Where the blanks at the end begin. A blank after a backslash is text. Characters beyond ASCII that look like blanks
+/// stay: in a file of an unknown encoding they are halves of others.
 int endOfText(const QString& text)
 {
     int end = text.size();
-    while (end > 0 && text.at(end - 1).isSpace())
+    while (end > 0 && (text.at(end - 1) == ' ' || text.at(end - 1) == '\t'))
         --end;
     return end > 0 && end < text.size() && text.at(end - 1) == '\\' ? end + 1 : end;
 }

@@ -35,6 +35,24 @@ void SourceEdit::deleteTools()
     m_folding = nullptr;
 }
 
+void SourceEdit::setUnfolding(bool unfolds)
+{
+    m_folding->setUnfolding(unfolds);
+}
+
+int SourceEdit::lineAt(int y) const
+{
+    QTextBlock block = firstVisibleBlock();
+    qreal top = blockBoundingGeometry(block).translated(contentOffset()).top();
+    for (; block.isValid() && top <= y; block = block.next()) {
+        const qreal bottom = top + blockBoundingRect(block).height();
+        if (block.isVisible() && y < bottom)
+            return block.blockNumber();
+        top = bottom;
+    }
+    return 0;
+}
+
 void SourceEdit::setTabIndent(int indent)
 {
     m_tabIndent = indent;

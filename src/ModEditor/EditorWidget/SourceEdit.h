@@ -47,6 +47,9 @@ public:
     /// Selection, undo or the like have changed.
     virtual void reportActions() = 0;
 
+    /// The line at a height of the viewport, 0 where there is none.
+    int lineAt(int y) const;
+
     // Where the lines are on the screen.
     using QPlainTextEdit::blockBoundingGeometry;
     using QPlainTextEdit::blockBoundingRect;
@@ -63,6 +66,8 @@ protected:
     /// To be called once the text edit has its document.
     void setupTools();
     void deleteTools();
+    /// Whether hidden lines are shown as soon as the cursor comes into them; they are at first.
+    void setUnfolding(bool unfolds);
     void calculateTabWidth();
     /// The keys that do more where the user has set it. @return the key is done
     bool comfortKey(const QKeyEvent* event);

@@ -37,4 +37,10 @@ int TextColumns::indexAt(int column) const
     return m_indices.at(int(found - m_columns.begin()) - 1);
 }
 
+int TextColumns::indexAfter(int index) const
+{
+    const auto found = std::upper_bound(m_indices.begin(), m_indices.end(), index);
+    return found != m_indices.end() ? *found : m_indices.last();
+}
+
 } // namespace nsModEditor

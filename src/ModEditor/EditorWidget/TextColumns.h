@@ -17,6 +17,8 @@ public:
     int columnOf(int index) const;
     /// The position at or before the column; the end of the text for a column after it.
     int indexAt(int column) const;
+    /// The position after the character that begins at the position; the end of the text for its end.
+    int indexAfter(int index) const;
     /// The column after the last character.
     int width() const { return m_columns.last(); }
 

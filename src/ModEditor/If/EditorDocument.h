@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVector>
 
+class QHelpEvent;
 class QMenu;
 
 namespace nsModEditor {
@@ -42,6 +43,8 @@ public:
 signals:
     /// The menu of the text is about to be shown: entries can be added in front. It lives until it is closed.
     void menuRequested(QMenu* menu);
+    /// The pointer rests on a view that shows this document beside it.
+    void tipRequested(QPlainTextEdit* view, QHelpEvent* event);
 };
 
 } // namespace nsModEditor

@@ -26,7 +26,7 @@ class ModEditorHookIf
 {
 public:
     /// Kind of text that a highlighting rule paints; each has a format of its own in the editor's settings.
-    enum eHighlightRule_t {
+    enum eHighlightRule_t : int {
         eHighlightRuleDirective = 0,
         eHighlightRuleCmd = 1,
         eHighlightRuleHw = 2,

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLabel>
@@ -24,6 +25,14 @@ QString shown(const QString& line)
 {
     QString text = line.left(maxShown).trimmed();
     return text.replace('\t', ' ');
+}
+
+/// The part of the line that is shown, after the replacement of a hit.
+QString shownAfter(const QString& line, const sHit_t& hit)
+{
+    if (hit.start >= maxShown)
+        return shown(line);
+    return shown(line.left(hit.start) + hit.replacement + line.mid(hit.start + hit.length, maxShown));
 }
 
 } // namespace
@@ -85,7 +94,7 @@ void SourceSearchPanel::addFields(QGridLayout* layout)
     layout->setColumnStretch(1, 1);
 
     connect(m_find, &QLineEdit::textChanged, this, &SourceSearchPanel::updateButtons);
-    connect(m_replace, &QLineEdit::textChanged, this, &SourceSearchPanel::showPreviews);
+    connect(m_replace, &QLineEdit::textChanged, this, &SourceSearchPanel::showAllPreviews);
     for (QCheckBox* box : {m_caseSensitive, m_wholeWords, m_regExp})
         connect(box, &QCheckBox::toggled, this, &SourceSearchPanel::updateButtons);
     connect(m_findButton, &QPushButton::clicked, this, [this] {
@@ -109,7 +118,7 @@ void SourceSearchPanel::addList(QGridLayout* layout)
     layout->addWidget(m_list, 3, 0, 1, 3);
     layout->setRowStretch(3, 1);
     connect(m_list, &QTreeWidget::itemActivated, this, &SourceSearchPanel::activate);
-    connect(m_list, &QTreeWidget::itemChanged, this, &SourceSearchPanel::updateButtons);
+    connect(m_list, &QTreeWidget::itemChanged, this, &SourceSearchPanel::noteTick);
 }
 
 QCheckBox* SourceSearchPanel::addCheckBox(const char* name, const QString& text, const QString& toolTip)
@@ -142,6 +151,7 @@ void SourceSearchPanel::clear()
 {
     m_list->clear();
     m_hits.clear();
+    m_unticked.clear();
     updateButtons();
 }
 
@@ -159,12 +169,12 @@ void SourceSearchPanel::addSource(const QString& path, const QString& name, cons
             item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsAutoTristate);
             item->setCheckState(columnHit, Qt::Checked);
             m_hits.append({path, line.line, line.text, hit});
-            showPreview(item);
             items.append(item);
         }
     }
     source->setText(columnHit, tr("%1 (%2)").arg(name).arg(items.size()));
     source->addChildren(items);
+    showPreviews(source);
     m_list->addTopLevelItem(source);
     source->setFirstColumnSpanned(true);
     source->setExpanded(true);
@@ -203,33 +213,52 @@ QVector<sListedHit_t> SourceSearchPanel::tickedHits() const
     return ticked;
 }
 
-void SourceSearchPanel::showPreview(QTreeWidgetItem* item)
+/// What the lines of a source become. The hits of a line stand below one another; a long line can have thousands.
+void SourceSearchPanel::showPreviews(QTreeWidgetItem* source)
 {
-    sListedHit_t& listed = m_hits[item->data(columnHit, hitRole).toInt()];
-    for (const sHit_t& hit : TextSearch(m_listed).hitsIn(listed.text, m_replace->text())) {
-        if (hit.start == listed.hit.start)
-            listed.hit = hit;
+    const TextSearch search(m_listed);
+    int line = -1;
+    QHash<int, sHit_t> replacements; ///< of the line, by their start
+    for (int row = 0; row < source->childCount(); ++row) {
+        QTreeWidgetItem* item = source->child(row);
+        sListedHit_t& listed = m_hits[item->data(columnHit, hitRole).toInt()];
+        if (listed.line != line) {
+            line = listed.line;
+            replacements.clear();
+            for (const sHit_t& hit : search.hitsIn(listed.text, m_replace->text()))
+                replacements.insert(hit.start, hit);
+        }
+        listed.hit = replacements.value(listed.hit.start, listed.hit);
+        item->setText(columnAfter, shownAfter(listed.text, listed.hit));
     }
-    item->setText(columnAfter, shown(TextSearch::replaced(listed.text, {listed.hit})));
 }
 
-void SourceSearchPanel::showPreviews()
+void SourceSearchPanel::showAllPreviews()
 {
     const QSignalBlocker blocker(m_list);
-    for (int i = 0; i < m_list->topLevelItemCount(); ++i) {
-        QTreeWidgetItem* source = m_list->topLevelItem(i);
-        for (int row = 0; row < source->childCount(); ++row)
-            showPreview(source->child(row));
-    }
+    for (int i = 0; i < m_list->topLevelItemCount(); ++i)
+        showPreviews(m_list->topLevelItem(i));
     m_list->viewport()->update();
+}
+
+/// A box was ticked, or the tick was taken away.
+void SourceSearchPanel::noteTick(QTreeWidgetItem* item)
+{
+    const QVariant number = item->data(columnHit, hitRole);
+    if (!number.isValid())
+        return;
+    if (item->checkState(columnHit) == Qt::Checked)
+        m_unticked.remove(number.toInt());
+    else
+        m_unticked.insert(number.toInt());
+    updateButtons();
 }
 
 void SourceSearchPanel::updateButtons()
 {
     m_findButton->setEnabled(m_running || !m_find->text().isEmpty());
     // What is in the list is that of the fields, or it is not to be replaced.
-    m_replaceButton->setEnabled(!m_running && m_listed == search() &&
-                                *QTreeWidgetItemIterator(m_list, QTreeWidgetItemIterator::Checked) != nullptr);
+    m_replaceButton->setEnabled(!m_running && m_listed == search() && m_unticked.size() < m_hits.size());
 }
 
 void SourceSearchPanel::activate(QTreeWidgetItem* item)

@@ -2,6 +2,7 @@
 
 #include "SourceSearch.h"
 
+#include <QSet>
 #include <QWidget>
 
 class QCheckBox;
@@ -60,8 +61,9 @@ private:
     void addFields(QGridLayout* layout);
     void addList(QGridLayout* layout);
     QCheckBox* addCheckBox(const char* name, const QString& text, const QString& toolTip);
-    void showPreviews();
-    void showPreview(QTreeWidgetItem* item);
+    void showAllPreviews();
+    void showPreviews(QTreeWidgetItem* source);
+    void noteTick(QTreeWidgetItem* item);
     void updateButtons();
     void activate(QTreeWidgetItem* item);
 
@@ -75,6 +77,7 @@ private:
     QTreeWidget* m_list = nullptr;
     QLabel* m_status = nullptr;
     QVector<sListedHit_t> m_hits; ///< by the number that an entry carries
+    QSet<int> m_unticked;         ///< their numbers
     sSearch_t m_listed;
     bool m_running = false;
 };

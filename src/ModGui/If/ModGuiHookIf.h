@@ -3,9 +3,11 @@
 #include <QIcon>
 #include <QList>
 #include <QString>
+#include <Qt>
 
 class ModGuiPluginIf;
 class ModGuiPluginIfInterMod;
+class QSplitter;
 class QWidget;
 
 /// The nine areas of the main window, its title and its status bar. Served by nsModGui::ModGui.
@@ -61,4 +63,9 @@ public:
     virtual void clearStatusBarText() = 0;
     /// What the centre shows below the name of the program while eLocationTabs has no page; null for a hint of its own.
     virtual void setEmptyPage(QWidget* page) = 0;
+    /// Shows a second widget in the tab of a page of eLocationTabs, beside it or below it. The page stays the page in
+    /// all calls and events; the second widget is nobody's page and stays its maker's. Null takes it out of the tab,
+    /// without a parent, which removeWidget() of the page does, too.
+    /// @return what holds both, for their order and sizes; it lives as long as both are there. Null without it.
+    virtual QSplitter* splitPage(QWidget* page, QWidget* second, Qt::Orientation orientation) = 0;
 };

@@ -1,8 +1,7 @@
 #include "PrjMngrListElementWidget.h"
 
-#include "PrjMngrLine.h"
-
 #include "MyButton.h"
+#include "MyElidedLabel.h"
 #include "MyFieldTitle.h"
 
 #include <QDir>
@@ -19,9 +18,9 @@ const int maxToolTipLength = 2000;
 const int margin = 12;
 const int gap = 4;
 
-PrjMngrLine* makeLine(const char* name, QWidget* parent)
+MyElidedLabel* makeLine(const char* name, QWidget* parent)
 {
-    auto* line = new PrjMngrLine(parent);
+    auto* line = new MyElidedLabel(Qt::ElideRight, parent);
     line->setObjectName(QLatin1String(name));
     return line;
 }

@@ -3,11 +3,10 @@
 #include <QFrame>
 
 class MyButton;
+class MyElidedLabel;
 class QLabel;
 
 namespace nsModPrj {
-
-class PrjMngrLine;
 
 /// One project of the collection: title, version, comment, file, and buttons for what can be done with it.
 class PrjMngrListElementWidget : public QFrame
@@ -35,10 +34,10 @@ protected:
 
 private:
     QString m_prjFile;
-    PrjMngrLine* m_title;
-    PrjMngrLine* m_version;
-    PrjMngrLine* m_comment;
-    PrjMngrLine* m_path;
+    MyElidedLabel* m_title;
+    MyElidedLabel* m_version;
+    MyElidedLabel* m_comment;
+    MyElidedLabel* m_path;
     MyButton* m_remove;
     MyButton* m_open;
 };

@@ -12,6 +12,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QScrollArea>
+#include <QStyle>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -115,7 +116,8 @@ void PrjMngrWidget::orderTabs()
 void PrjMngrWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
-    int needed = 2 * margin + gap;
+    // As if there were a scroll bar, which comes and goes with the height of the buttons.
+    int needed = 2 * margin + gap + style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     for (int i = 0; i < m_buttons->count(); ++i)
         needed += m_buttons->itemAt(i)->sizeHint().width();
     m_buttons->setDirection(needed <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);

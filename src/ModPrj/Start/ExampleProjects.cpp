@@ -6,6 +6,7 @@
 #include "ShippedFolder.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
@@ -109,7 +110,10 @@ QString ExampleProjects::copy(const ExampleProject& example, const QString& targ
         return QString();
     }
     const QString to = target.absoluteFilePath(name);
+    // The folder of the outputs is empty where an installation ships it.
     bool success = true;
+    for (QDirIterator it(from, QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories); it.hasNext();)
+        success = target.mkpath(to + QLatin1Char('/') + QDir(from).relativeFilePath(it.next())) && success;
     for (const QString& file : ShippedFolder::filesBelow(from)) {
         const QFileInfo info(file);
         const QString path = to + QLatin1Char('/') + QDir(from).relativeFilePath(file);

@@ -1,5 +1,6 @@
 #include "PrjHome.h"
 
+#include "DesktopRecents.h"
 #include "ExamplesDialog.h"
 
 #include "MyLinkButton.h"
@@ -9,6 +10,7 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QMenu>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -17,7 +19,6 @@ namespace nsModPrj {
 namespace {
 
 // Widths of the window, in pixels, from which on the status bar has room for the link.
-const int widthForText = 1200;
 const int widthForLink = 1000;
 
 /// Shown for a project: the name of its file without the suffix.
@@ -39,6 +40,7 @@ PrjHome::PrjHome(sAccess_t access, QObject* parent)
     m_page->setObjectName(QStringLiteral("homeLinks"));
     m_status->setObjectName(QStringLiteral("nextStep"));
     m_statusButton->setObjectName(QStringLiteral("nextStepLink"));
+    m_statusButton->setShortText(tr("Next..."));
     auto* layout = new QHBoxLayout(m_status);
     layout->setContentsMargins(4, 0, 4, 0);
     layout->addWidget(m_statusButton);
@@ -184,7 +186,7 @@ void PrjHome::showStatus(const QList<PrjStep>& steps)
     const auto missing = std::find_if(steps.begin(), steps.end(), [](const PrjStep& step) { return step.isMissing; });
     const bool any = missing != steps.end();
     m_statusAct = any ? missing->act : nullptr;
-    m_statusText = any ? missing->text : QString();
+    m_statusButton->setText(any ? tr("Next: %1").arg(missing->text) : QString());
     m_statusButton->setToolTip(any ? QStringLiteral("%1: %2").arg(missing->text, missing->toolTip) : QString());
     if (m_page && m_window != m_page->window()) {
         m_window = m_page->window();
@@ -193,11 +195,10 @@ void PrjHome::showStatus(const QList<PrjStep>& steps)
     fitStatus();
 }
 
-/// In a small window the link is short, or gives way to what else stands in the status bar.
+/// In a small window the link gives way to what else stands in the status bar.
 void PrjHome::fitStatus()
 {
     const int width = m_window != nullptr ? m_window->width() : 0;
-    m_statusButton->setText(width >= widthForText ? tr("Next: %1").arg(m_statusText) : tr("Next..."));
     m_access.showStatus(m_statusAct != nullptr && width >= widthForLink);
 }
 
@@ -212,7 +213,10 @@ bool PrjHome::eventFilter(QObject* watched, QEvent* event)
 
 void PrjHome::addRecent(const QString& file)
 {
-    m_recents.add(QFileInfo(file).absoluteFilePath());
+    const QString path = QFileInfo(file).absoluteFilePath();
+    m_recents.add(path);
+    // Waits for the disk, so the project is shown first.
+    QTimer::singleShot(0, this, [path] { DesktopRecents::add(path); });
     fillMenu();
     m_access.recentsChanged();
 }

@@ -79,9 +79,8 @@ private:
     MyLinkButton* m_statusButton; ///< in m_status
     QPointer<QMenu> m_menu;
     std::function<void()> m_statusAct; ///< null: nothing is missing
-    QString m_statusText;
-    QPointer<QWidget> m_window; ///< whose width is followed
-    QString m_exampleFolder;    ///< that the user has chosen last
+    QPointer<QWidget> m_window;        ///< whose width is followed
+    QString m_exampleFolder;           ///< that the user has chosen last
     bool m_refreshes = false;
     bool m_locked = false;
 };

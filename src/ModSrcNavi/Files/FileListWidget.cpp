@@ -7,6 +7,7 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -173,7 +174,7 @@ QTreeWidgetItem* FileListWidget::addGroup(const QString& title, const QStringLis
         font.setItalic(state.isMissing);
         item->setFont(0, font);
     }
-    group->setExpanded(true);
+    group->setExpanded(!m_folded.contains(title));
     return group;
 }
 
@@ -181,15 +182,43 @@ void FileListWidget::setFiles(const ProjectFiles& files, const QDir& dir)
 {
     const QString current = currentFile();
     const bool sourceWas = isSource(m_tree->currentItem());
+    // The lines are made anew, and the user sees the same part of them.
+    const int place = m_tree->verticalScrollBar()->value();
+    const bool wasSeen = isCurrentSeen();
+    noteFolded();
+    m_tree->setAutoScroll(false);
     m_files = files;
     m_dir = dir;
     m_tree->clear();
     addGroup(tr("Sources"), files.sources, true, false);
     addGroup(tr("Templates"), files.templates, false, false);
     addGroup(tr("Outputs"), files.outputs, false, true);
-    if (!current.isEmpty() && !select(current) && sourceWas && !files.sources.isEmpty())
-        select(files.sources.last());
+    if (!current.isEmpty() && !makeCurrent(current) && sourceWas && !files.sources.isEmpty())
+        makeCurrent(files.sources.last());
+    m_tree->doItemsLayout();
+    m_tree->verticalScrollBar()->setValue(place);
+    m_tree->setAutoScroll(true);
+    if (wasSeen && !isCurrentSeen())
+        m_tree->scrollToItem(m_tree->currentItem());
     updateButtons();
+}
+
+bool FileListWidget::isCurrentSeen() const
+{
+    if (m_tree->currentItem() == nullptr)
+        return false;
+    const QRect line = m_tree->visualItemRect(m_tree->currentItem());
+    return line.isValid() && m_tree->viewport()->rect().contains(line.center());
+}
+
+void FileListWidget::noteFolded()
+{
+    for (int i = 0; i < m_tree->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* group = m_tree->topLevelItem(i);
+        m_folded.removeAll(group->text(0));
+        if (!group->isExpanded())
+            m_folded.append(group->text(0));
+    }
 }
 
 void FileListWidget::clear()
@@ -201,10 +230,17 @@ void FileListWidget::clear()
 
 bool FileListWidget::select(const QString& file)
 {
+    if (!makeCurrent(file))
+        return false;
+    m_tree->scrollToItem(m_tree->currentItem());
+    return true;
+}
+
+bool FileListWidget::makeCurrent(const QString& file)
+{
     for (QTreeWidgetItemIterator it(m_tree); *it != nullptr; ++it) {
         if ((*it)->data(0, roleFile).toString() == file) {
             m_tree->setCurrentItem(*it);
-            m_tree->scrollToItem(*it);
             return true;
         }
     }
@@ -250,7 +286,9 @@ void FileListWidget::updateButtons()
 
 void FileListWidget::showMenu(const QPoint& place)
 {
-    const QString file = currentFile();
+    // Beside the lines there is nothing that could be opened or removed.
+    const QTreeWidgetItem* item = m_tree->itemAt(place);
+    const QString file = item != nullptr ? item->data(0, roleFile).toString() : QString();
     auto* menu = new QMenu(this);
     menu->setObjectName(QStringLiteral("fileListMenu"));
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -265,7 +303,7 @@ void FileListWidget::showMenu(const QPoint& place)
         [file] { QApplication::clipboard()->setText(QDir::toNativeSeparators(file)); });
     menu->addSeparator();
     add(tr("&Add sources..."), true, [this] { emit addRequested(); });
-    add(tr("&Remove from the project"), isSource(m_tree->currentItem()), [this, file] { emit removeRequested(file); });
+    add(tr("&Remove from the project"), isSource(item), [this, file] { emit removeRequested(file); });
     menu->popup(m_tree->viewport()->mapToGlobal(place));
 }
 

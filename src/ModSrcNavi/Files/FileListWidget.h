@@ -65,6 +65,10 @@ private:
     QToolButton* addButton(const char* name, const QString& text, const QString& toolTip);
     QTreeWidgetItem* addGroup(const QString& title, const QStringList& files, bool isSource, bool isOutput);
     bool isSource(const QTreeWidgetItem* item) const;
+    /// Does not scroll. @return false: the file is not listed
+    bool makeCurrent(const QString& file);
+    bool isCurrentSeen() const;
+    void noteFolded();
     void moveSource(int row, int target);
     void moveCurrent(int step);
     void removeCurrent();
@@ -78,6 +82,7 @@ private:
     QToolButton* m_down;
     ProjectFiles m_files;
     QDir m_dir;
+    QStringList m_folded; ///< titles of the groups that the user has folded
 };
 
 } // namespace nsModSrcNavi

@@ -1,5 +1,6 @@
 #include "FilePanel.h"
 
+#include "DialogParent.h"
 #include "FileListWidget.h"
 #include "NaviTag.h"
 #include "NaviTagList.h"
@@ -8,6 +9,7 @@
 #include "ModGuiHookIf.h"
 #include "ModPrjHookIf.h"
 #include "ModSourcesHookIf.h"
+#include "ModSrcNaviPluginIf.h"
 #include "PageProperties.h"
 
 #include <QDir>
@@ -81,6 +83,7 @@ FileListWidget* FilePanel::widget() const
 void FilePanel::setProjectOpen(bool isOpen)
 {
     m_isOpen = isOpen;
+    updateMenu();
     if (m_widget == nullptr)
         return;
     m_widget->setEnabled(isOpen);
@@ -149,7 +152,7 @@ void FilePanel::pageShown(QWidget* page)
     m_recent.prepend(file);
     while (m_recent.size() > maxRecent)
         m_recent.removeLast();
-    m_menu->menuAction()->setEnabled(m_isOpen);
+    updateMenu();
 }
 
 void FilePanel::setRecent(const QStringList& files)
@@ -160,6 +163,13 @@ void FilePanel::setRecent(const QStringList& files)
             !m_recent.contains(file) && m_recent.size() < maxRecent)
             m_recent.append(file);
     }
+    updateMenu();
+}
+
+void FilePanel::updateMenu()
+{
+    if (m_menu != nullptr)
+        m_menu->menuAction()->setEnabled(m_isOpen && !m_recent.isEmpty());
 }
 
 void FilePanel::fillMenu()
@@ -209,35 +219,54 @@ QVector<QuickOpen::sTarget_t> FilePanel::targets(const NaviTagList& tags) const
         target.file = file;
         targets.append(target);
     }
+    const auto placeOf = [&services](const QString& file, int line) {
+        return services.prj->convToRelPath(file) + QLatin1Char('#') + QString::number(line + 1);
+    };
+    const QVector<NaviSymbol> names =
+        services.symbols != nullptr ? services.symbols->naviSymbols() : QVector<NaviSymbol>();
+    for (const NaviSymbol& symbol : names) {
+        QuickOpen::sTarget_t target;
+        target.name = symbol.name;
+        target.detail = symbol.note + QLatin1String("    ") + placeOf(symbol.file, symbol.line);
+        target.file = symbol.file;
+        target.isSymbol = true;
+        target.symbol = symbol;
+        targets.append(target);
+    }
     for (const NaviTag* tag : tags.tagListDocument()) {
-        const bool isSymbol =
-            tag->type == NaviTag::typeLabel || tag->type == NaviTag::typeConstant || tag->type == NaviTag::typeHardware;
-        if (!isSymbol || tag->disabled || tag->title.isEmpty())
+        // The labels are among the names of the program, where there are any.
+        const bool isTitle = tag->type == NaviTag::typeConstant || tag->type == NaviTag::typeHardware ||
+                             (tag->type == NaviTag::typeLabel && names.isEmpty());
+        if (!isTitle || tag->disabled || tag->title.isEmpty())
             continue;
         QuickOpen::sTarget_t target;
         target.name = tag->title;
-        target.detail = services.prj->convToRelPath(tag->filePath) + QLatin1Char('#') + QString::number(tag->line + 1);
+        target.detail = placeOf(tag->filePath, tag->line);
         target.file = tag->filePath;
         target.line = tag->line;
         target.lineRef = tag->lineRef;
+        target.isSymbol = true;
         targets.append(target);
     }
     return targets;
 }
 
-void FilePanel::quickOpen(const NaviTagList& tags, QWidget* parent)
+void FilePanel::quickOpen(const NaviTagList& tags)
 {
     if (m_services().prj == nullptr || !m_isOpen)
         return;
     const QPointer<FilePanel> self(this);
-    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), parent));
+    const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), DialogParent::get()));
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QuickOpen::sTarget_t chosen = dialog ? dialog->chosen() : QuickOpen::sTarget_t();
     delete dialog;
     ModEditorHookIf* editor = self ? m_services().editor : nullptr;
     if (!accepted || editor == nullptr || !m_isOpen || chosen.file.isEmpty())
         return;
-    if (chosen.line < 0)
+    ModSrcNaviPluginIfSymbols* symbols = m_services().symbols;
+    if (!chosen.symbol.name.isEmpty() && symbols != nullptr)
+        symbols->showNaviSymbol(chosen.symbol);
+    else if (chosen.line < 0)
         editor->openFile(chosen.file);
     else
         editor->setCursorToLine(chosen.file, chosen.line);

@@ -15,6 +15,7 @@ class ModGuiHookIf;
 class ModMsgHookIf;
 class ModPrjHookIf;
 class ModSourcesHookIf;
+class ModSrcNaviPluginIfSymbols;
 
 namespace nsModSrcNavi {
 
@@ -34,6 +35,7 @@ public:
         ModSourcesHookIf* sources = nullptr;
         ModEditorHookIf* editor = nullptr;
         ModGuiHookIf* gui = nullptr;
+        ModSrcNaviPluginIfSymbols* symbols = nullptr;
     };
 
     static constexpr int maxRecent = 20;
@@ -58,7 +60,7 @@ public:
     void refreshSoon();
     bool select(const QString& file);
     /// Asks for a file or symbol and goes there.
-    void quickOpen(const NaviTagList& tags, QWidget* parent);
+    void quickOpen(const NaviTagList& tags);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -68,6 +70,7 @@ private:
     void changeSources(const std::function<void(QStringList*)>& change);
     void open(const QString& file);
     void fillMenu();
+    void updateMenu();
     QVector<QuickOpen::sTarget_t> targets(const NaviTagList& tags) const;
 
     std::function<sServices_t()> m_services;

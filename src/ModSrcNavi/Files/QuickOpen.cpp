@@ -28,7 +28,7 @@ QuickOpen::QuickOpen(QVector<sTarget_t> targets, QWidget* parent)
     setObjectName(QStringLiteral("quickOpen"));
     setWindowTitle(tr("Quick open"));
     m_edit->setObjectName(QStringLiteral("quickOpenEdit"));
-    m_edit->setPlaceholderText(tr("Letters of a file, label or constant"));
+    m_edit->setPlaceholderText(tr("Letters of a file, label or constant; @ for names alone"));
     m_edit->setAccessibleName(tr("Name of a file or symbol"));
     m_edit->setClearButtonEnabled(true);
     m_list->setObjectName(QStringLiteral("quickOpenList"));
@@ -60,8 +60,14 @@ void QuickOpen::fill()
         int score;
     };
     QVector<sHit_t> hits;
+    QString pattern = m_edit->text().trimmed();
+    const bool symbolsOnly = pattern.startsWith(QLatin1Char('@'));
+    if (symbolsOnly)
+        pattern.remove(0, 1);
     for (int i = 0; i < m_targets.size(); ++i) {
-        const int score = fuzzyMatch(m_edit->text(), m_targets.at(i).name);
+        if (symbolsOnly && !m_targets.at(i).isSymbol)
+            continue;
+        const int score = fuzzyMatch(pattern, m_targets.at(i).name);
         if (score >= 0)
             hits.append({i, score});
     }

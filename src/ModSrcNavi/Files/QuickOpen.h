@@ -1,5 +1,7 @@
 #pragma once
 
+#include "NaviSymbol.h"
+
 #include <QDialog>
 #include <QVector>
 
@@ -8,7 +10,8 @@ class QListWidget;
 
 namespace nsModSrcNavi {
 
-/// A line to type into, and the files and symbols that fit it: Return goes to the chosen one, Esc leaves.
+/// A line to type into, and the files and symbols that fit it: Return goes to the chosen one, Esc leaves. Behind an `@`
+/// there are symbols alone.
 class QuickOpen : public QDialog
 {
     Q_OBJECT
@@ -16,11 +19,13 @@ class QuickOpen : public QDialog
 public:
     struct sTarget_t
     {
-        QString name;    ///< what is typed for it
-        QString detail;  ///< file and line of a symbol, or the folder of a file
-        QString file;    ///< absolute
-        int line = -1;   ///< counted from 0; -1: the file as a whole
-        QString lineRef; ///< text that finds the line again after edits
+        QString name;          ///< what is typed for it
+        QString detail;        ///< file and line of a symbol, or the folder of a file
+        QString file;          ///< absolute
+        int line = -1;         ///< counted from 0; -1: the file as a whole
+        QString lineRef;       ///< text that finds the line again after edits
+        bool isSymbol = false; ///< also in the list that holds no files
+        NaviSymbol symbol;     ///< without a name: none of the program
     };
     static constexpr int maxRows = 200; ///< lines of the list
 

@@ -5,6 +5,7 @@
 #include <QStringList>
 
 class ModSrcNaviPluginIf;
+class ModSrcNaviPluginIfSymbols;
 
 namespace nsModSrcNavi {
 struct NaviTag;
@@ -18,6 +19,9 @@ public:
 
     virtual void registerPlugin(ModSrcNaviPluginIf* plugin) = 0;
     virtual void unregisterPlugin(ModSrcNaviPluginIf* plugin) = 0;
+    /// One client at a time: a second one takes the place of the first.
+    virtual void registerPlugin(ModSrcNaviPluginIfSymbols* plugin) = 0;
+    virtual void unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin) = 0;
 
     virtual void clearTagList() = 0;
     /// Appends a tag; takes its ownership.

@@ -42,6 +42,7 @@ void CompletionActions::setDocument(bool isDocument)
 void CompletionActions::applyKey()
 {
     m_complete->setShortcut(isOn() ? QKeySequence(Qt::CTRL | Qt::Key_Space) : QKeySequence());
+    emit keysChanged();
 }
 
 } // namespace nsModSymbols

@@ -23,6 +23,8 @@ public:
 
 signals:
     void completionRequested();
+    /// The command has other keys now.
+    void keysChanged();
 
 private:
     void applyKey();

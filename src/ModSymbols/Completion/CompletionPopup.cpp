@@ -31,7 +31,7 @@ public:
         if (role != Qt::DisplayRole || index.row() >= m_words.size())
             return QVariant();
         const sCompletion& word = m_words.at(index.row());
-        return index.column() == 0 ? word.word : word.note;
+        return index.column() == 0 ? word.word : word.shownNote();
     }
 
 private:
@@ -75,7 +75,7 @@ void CompletionPopup::showWords(const QVector<sCompletion>& words, const QRect& 
     int noteLength = 0;
     for (int i = 0; i < qMin(words.size(), widthRows); ++i) {
         wordLength = qMax(wordLength, words.at(i).word.size());
-        noteLength = qMax(noteLength, words.at(i).note.size());
+        noteLength = qMax(noteLength, words.at(i).shownNote().size());
     }
     const QFontMetrics metrics = fontMetrics();
     const int character = metrics.averageCharWidth() + 1;
@@ -95,10 +95,9 @@ void CompletionPopup::showWords(const QVector<sCompletion>& words, const QRect& 
     show();
 }
 
-QString CompletionPopup::currentWord() const
+sCompletion CompletionPopup::current() const
 {
-    const int row = currentIndex().row();
-    return row >= 0 && row < m_model->words().size() ? m_model->words().at(row).word : QString();
+    return m_model->words().value(currentIndex().row());
 }
 
 int CompletionPopup::count() const

@@ -20,7 +20,8 @@ public:
     /// @param anchor upper left corner of the word and its height, in coordinates of the screen
     void showWords(const QVector<sCompletion>& words, const QRect& anchor, int rowCount);
     /// The word that would be taken; empty if there is none.
-    QString currentWord() const;
+    QString currentWord() const { return current().word; }
+    sCompletion current() const;
     int count() const;
     /// Moves the choice. @return false for a key that means nothing to the list
     bool handleMove(int key);

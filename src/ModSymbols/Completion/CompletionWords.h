@@ -33,8 +33,13 @@ enum eWordKind_t {
 struct sCompletion
 {
     QString word;
-    QString note; ///< what it is, in a few words
-    int kind = 0; ///< eWordKind_t
+    QString note;  ///< what it is, in a few words; empty for a symbol with a value
+    int kind = 0;  ///< eWordKind_t
+    int value = 0; ///< of a symbol
+    int page = -1; ///< of a label
+
+    /// As the list shows it. A list shows a few of thousands, so the texts of values are made here.
+    QString shownNote() const;
 };
 
 /// What is typed at a place of a line, and what fits there.
@@ -47,7 +52,7 @@ struct sCompletionPlace
 
 /// The words that complete what is typed: of the language, of the processor and of the program of the last run.
 ///
-/// Made anew after a run; a look-up takes a walk over all of them.
+/// Made anew after a run, by prepare() or by the first look-up. A look-up takes a walk over all of them.
 class CompletionWords
 {
 public:
@@ -55,6 +60,8 @@ public:
     CompletionWords(const ModAsmFePluginIf* assembler, ProgramNames* names);
 
     void clear() { m_isMade = false; }
+    /// Makes the words where they are not there yet, before anybody waits for them.
+    void prepare();
     /// Where the end of the text is. @param text of the line up to the cursor
     sCompletionPlace placeOf(const QString& text);
     /// What fits, those of the best kinds first, and within each group in alphabetical order.
@@ -63,6 +70,7 @@ public:
 private:
     void make();
     void add(const QString& word, const QString& note, eWordKind_t kind);
+    void sort();
     void addInstructions(const nsProc::ProcTable* table);
     void addLanguage();
     void addProcessor(const nsProc::ProcTable* table);

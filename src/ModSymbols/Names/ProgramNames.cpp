@@ -147,6 +147,21 @@ int ProgramNames::fileOf(const QString& path)
     return path.isEmpty() ? -1 : table().files.indexOf(path);
 }
 
+int ProgramNames::fileOf(const QString& path, eCost_t cost)
+{
+    int size = 0;
+    for (const QString& text : qAsConst(m_texts))
+        size += text.size();
+    const bool isKept = cost == eQuick && m_hasTable && size > quickSize;
+    return isKept ? m_table.files.indexOf(path) : fileOf(path);
+}
+
+QString ProgramNames::nameSpaceAt(const EditorDocument* document, int line)
+{
+    const int file = fileOf(document->filePath(), eQuick);
+    return file < 0 ? QString() : m_table.nameSpaceAt(file, line);
+}
+
 /// Is the name of the symbol, or a namespace, what the place has?
 bool ProgramNames::isStill(const nsModAsmFe::sSymbolPlace& place, const QString& line) const
 {
@@ -156,11 +171,7 @@ bool ProgramNames::isStill(const nsModAsmFe::sSymbolPlace& place, const QString&
 
 int ProgramNames::symbolAt(const EditorDocument* document, int line, int column, eCost_t cost)
 {
-    int size = 0;
-    for (const QString& text : qAsConst(m_texts))
-        size += text.size();
-    const bool isKept = cost == eQuick && m_hasTable && size > quickSize;
-    const int file = isKept ? m_table.files.indexOf(document->filePath()) : fileOf(document->filePath());
+    const int file = fileOf(document->filePath(), cost);
     if (file < 0)
         return -1;
     const QString text = document->document()->findBlockByNumber(line).text();

@@ -39,6 +39,8 @@ public:
     /// The name at a place of a document; -1 if there is none. What only the text has, such as a name in a line that a
     /// condition skips, is found by its name alone.
     int symbolAt(const nsModEditor::EditorDocument* document, int line, int column, eCost_t cost = eExact);
+    /// The namespace at a line of a document.
+    QString nameSpaceAt(const nsModEditor::EditorDocument* document, int line);
     sTextPlace placeOf(const nsModAsmFe::sSymbolPlace& place);
     /// The text of a line.
     QString lineText(int file, int line);
@@ -70,6 +72,7 @@ private:
     sVersion versionOf(const QString& path) const;
     static sVersion versionOnDisk(const QString& path);
     QString textOf(const QString& path) const;
+    int fileOf(const QString& path, eCost_t cost);
     bool isStill(const nsModAsmFe::sSymbolPlace& place, const QString& line) const;
 
     const ModAsmFePluginIf* m_assembler;

@@ -16,6 +16,7 @@ namespace nsProc {
 namespace {
 
 constexpr int pieceSize = 1 << 16;
+constexpr size_t valuesPerQuestion = 1 << 12;
 /// Times stay below this, so that they fit into signed 64-bit counters of other programs.
 constexpr long double timeMax = 4.6e18L;
 
@@ -68,10 +69,13 @@ QByteArray wireName(const ProcSimWaveData::sAddrChannel_t& channel)
 class Writer
 {
 public:
-    Writer(QIODevice* device, const ProcSimWaveData& data, double clkFreq)
+    Writer(QIODevice* device, const ProcSimWaveData& data, double clkFreq, ProcSimVcd::Watch watch)
         : m_device(device)
         , m_data(data)
+        , m_watch(std::move(watch))
     {
+        for (const auto& channel : data.channels())
+            m_total += channel->values.size();
         if (!std::isfinite(clkFreq) || clkFreq <= 0) {
             m_unit = &units[1];
             return;
@@ -166,6 +170,10 @@ private:
             push(channel);
         qint64 time = 0;
         while (m_ok && !queue.empty()) {
+            if (m_watch && ++m_done % valuesPerQuestion == 0 && !m_watch(int(m_done * 100 / m_total))) {
+                m_ok = false;
+                return;
+            }
             const Entry entry = queue.top();
             queue.pop();
             if (entry.first != time)
@@ -187,7 +195,10 @@ private:
 
     QIODevice* m_device;
     const ProcSimWaveData& m_data;
+    ProcSimVcd::Watch m_watch;
     const sUnit_t* m_unit;
+    size_t m_total = 0; ///< values to be written
+    size_t m_done = 0;
     long double m_clkFreq = 0;
     QByteArray m_text;
     bool m_ok = true;
@@ -203,9 +214,9 @@ QByteArray ProcSimVcd::vcdText(const ProcSimWaveData& data, double clkFreq)
     return buffer.data();
 }
 
-bool ProcSimVcd::write(QIODevice* device, const ProcSimWaveData& data, double clkFreq)
+bool ProcSimVcd::write(QIODevice* device, const ProcSimWaveData& data, double clkFreq, Watch watch)
 {
-    return Writer(device, data, clkFreq).write();
+    return Writer(device, data, clkFreq, std::move(watch)).write();
 }
 
 } // namespace nsProc

@@ -2,6 +2,8 @@
 
 #include <QByteArray>
 
+#include <functional>
+
 class QIODevice;
 
 namespace nsProc {
@@ -20,9 +22,13 @@ public:
     /// @param clkFreq Hz; 0 or below for unknown
     /// @return ASCII text, lines end with a line feed
     static QByteArray vcdText(const ProcSimWaveData& data, double clkFreq);
+    /// Asked now and then; false ends the writing, which then does not look at the data any more.
+    /// @param percent of the values that are written
+    using Watch = std::function<bool(int percent)>;
     /// The same to a device that is open for writing, a piece at a time.
-    /// @return false if the device took less than it was given
-    static bool write(QIODevice* device, const ProcSimWaveData& data, double clkFreq);
+    /// @param watch may be empty
+    /// @return false if the device took less than it was given, or the watch has ended it
+    static bool write(QIODevice* device, const ProcSimWaveData& data, double clkFreq, Watch watch = {});
 };
 
 } // namespace nsProc

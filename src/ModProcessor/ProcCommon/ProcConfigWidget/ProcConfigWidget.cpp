@@ -1,5 +1,6 @@
 #include "ProcConfigWidget.h"
 
+#include "ProcAddressBox.h"
 #include "ProcNumberBox.h"
 #include "ProcTable.h"
 
@@ -151,7 +152,20 @@ void ProcConfigWidget::addField(QGridLayout* grid, int row, const sProcSetting_t
     grid->addWidget(control, row, 1);
     if (*field.unit != '\0')
         grid->addWidget(new QLabel(tr(field.unit), this), row, 2);
+    else if (auto* address = qobject_cast<ProcAddressBox*>(control))
+        grid->addWidget(makeHexText(address), row, 2);
     m_fields.append({&field, control});
+}
+
+/// The same address as sources write it.
+QLabel* ProcConfigWidget::makeHexText(ProcAddressBox* address)
+{
+    auto* label = new QLabel(this);
+    label->setObjectName(address->objectName() + QLatin1String("Hex"));
+    const auto show = [label, address] { label->setText(QStringLiteral("= ") + address->hexText()); };
+    connect(address, qOverload<int>(&QSpinBox::valueChanged), label, show);
+    show();
+    return label;
 }
 
 QWidget* ProcConfigWidget::createControl(const sProcSetting_t& field)
@@ -163,7 +177,7 @@ QWidget* ProcConfigWidget::createControl(const sProcSetting_t& field)
         return box;
     }
     if (field.control == sProcSetting_t::eControlNumber) {
-        auto* box = new QSpinBox(this);
+        auto* box = field.isAddress ? new ProcAddressBox(this) : new QSpinBox(this);
         box->setRange(int(field.shownMin), int(field.shownMax));
         box->setValue(int(field.shownStart));
         box->setAlignment(Qt::AlignRight);

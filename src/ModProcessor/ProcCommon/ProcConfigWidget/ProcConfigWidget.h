@@ -7,12 +7,14 @@
 #include <QWidget>
 
 class QCheckBox;
+class QLabel;
 class QGridLayout;
 class QSpinBox;
 class QTabWidget;
 
 namespace nsProc {
 
+class ProcAddressBox;
 struct ProcTable;
 struct sProcSetting_t;
 
@@ -46,6 +48,7 @@ private slots:
 private:
     QGridLayout* addPage(const QString& title);
     void addField(QGridLayout* grid, int row, const sProcSetting_t& field);
+    QLabel* makeHexText(ProcAddressBox* address);
     QWidget* createControl(const sProcSetting_t& field);
     void addSimPage();
     void addNumber(QGridLayout* grid, const char* name, const QString& text, const QString& toolTip,

@@ -243,8 +243,13 @@ void ProcSim::updateWidgets()
 {
     if (m_widgets->core != nullptr)
         m_widgets->core->refresh();
-    if (m_widgets->callStack != nullptr)
+    if (m_widgets->callStack != nullptr) {
+        // It would come to the front of the dock. Who looks at the waves goes on looking at them.
+        const bool isBehind = m_widgets->waveViewer != nullptr && m_widgets->waveViewer->isVisible();
+        const bool wasBlocked = m_widgets->callStack->blockSignals(isBehind);
         m_widgets->callStack->refresh();
+        m_widgets->callStack->blockSignals(wasBlocked);
+    }
     if (m_widgets->io != nullptr)
         m_widgets->io->refresh();
     if (m_widgets->statusBar != nullptr)

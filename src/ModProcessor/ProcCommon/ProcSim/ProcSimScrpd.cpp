@@ -191,6 +191,15 @@ void ProcSimScrpd::setBase(int base)
         each->setBase(base);
 }
 
+void ProcSimScrpd::chooseColumns()
+{
+    if (m_blocks.isEmpty())
+        return;
+    const int wide = m_blocks.first()->rowWidth(ProcSimScrpdBlock::wideRow);
+    m_cellsPerRow = viewport()->width() >= wide ? ProcSimScrpdBlock::wideRow : ProcSimScrpdBlock::narrowRow;
+    arrange();
+}
+
 void ProcSimScrpd::refresh()
 {
     const int highlighted = m_data->scrpdHighlighted();
@@ -223,11 +232,7 @@ void ProcSimScrpd::scrollToHighlighted()
 void ProcSimScrpd::resizeEvent(QResizeEvent* event)
 {
     QScrollArea::resizeEvent(event);
-    if (m_blocks.isEmpty())
-        return;
-    const int wide = m_blocks.first()->rowWidth(ProcSimScrpdBlock::wideRow);
-    m_cellsPerRow = viewport()->width() >= wide ? ProcSimScrpdBlock::wideRow : ProcSimScrpdBlock::narrowRow;
-    arrange();
+    chooseColumns();
 }
 
 void ProcSimScrpd::showEvent(QShowEvent* event)
@@ -241,9 +246,9 @@ void ProcSimScrpd::showEvent(QShowEvent* event)
 bool ProcSimScrpd::event(QEvent* event)
 {
     const bool result = QScrollArea::event(event);
-    // Both events change the height of a row.
+    // Both events change the size of a cell.
     if (event->type() == QEvent::StyleChange || event->type() == QEvent::FontChange)
-        arrange();
+        chooseColumns();
     return result;
 }
 

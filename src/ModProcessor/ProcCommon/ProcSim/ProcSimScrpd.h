@@ -52,6 +52,8 @@ protected:
 private:
     void setup();
     /// Gives each block its place.
+    /// As many cells in a row as there is room for.
+    void chooseColumns();
     void arrange();
     void place(ProcSimScrpdBlock* block);
     /// Creates the blocks that have become visible, and deletes those that are hidden now.

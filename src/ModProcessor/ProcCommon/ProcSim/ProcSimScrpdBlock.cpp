@@ -29,6 +29,7 @@ ProcSimScrpdBlock::ProcSimScrpdBlock(std::shared_ptr<ProcSimCoreData> data, int 
             m_titles.append(title);
         }
         auto* cell = new ProcSimEdtNumeric(this);
+        cell->setCompact();
         m_cells.append(cell);
         connect(cell, &ProcSimEdtNumeric::edited, this, [this, addr](int value) { m_data->editScrpd(addr, value); });
     }

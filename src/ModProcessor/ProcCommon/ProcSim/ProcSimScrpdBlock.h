@@ -20,7 +20,7 @@ class ProcSimScrpdBlock : public QWidget
 public:
     static constexpr int narrowRow = 4; ///< cells
     static constexpr int wideRow = 8;   ///< cells
-    static constexpr int spacing = 4;   ///< pixels
+    static constexpr int spacing = 2;   ///< pixels
 
     /// @param first address of the first cell, a multiple of wideRow
     /// @param count at least 1

@@ -52,6 +52,8 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     : QWidget(parent)
     , m_clock(std::move(clock))
     , m_clkFreq(clkFreq)
+    , m_clocksWidth(fontMetrics().horizontalAdvance(QString(10, '0')))
+    , m_timeWidth(fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")))
 {
     const char* unit = nullptr;
     m_timeFactor = timeOfClock(clkFreq, &unit);
@@ -73,10 +75,10 @@ ProcSimStatusBar::ProcSimStatusBar(std::shared_ptr<ProcSimClock> clock, double c
     m_base->setToolTip(tr("Value format: base of the numbers in the panels"));
     setExact(false);
     addTitle(new MyStatusBarTitle(tr("Clock count:"), this));
-    m_clocks = addValue(QStringLiteral("procSimClocks"), fontMetrics().horizontalAdvance(QString(10, '0')));
+    m_clocks = addValue(QStringLiteral("procSimClocks"), m_clocksWidth);
     addTitle(new QLabel(tr("clocks"), this));
     addTitle(new MyStatusBarTitle(tr("Time count:"), this));
-    m_time = addValue(QStringLiteral("procSimTime"), fontMetrics().horizontalAdvance(QStringLiteral("0.00000e+00")));
+    m_time = addValue(QStringLiteral("procSimTime"), m_timeWidth);
     layout->addWidget(new QLabel(QString::fromLatin1(unit), this));
     HelpRef::setWhatsThis(this,
                           tr("Whether the program runs, the base of the numbers in the panels, and the clock cycles "
@@ -134,6 +136,13 @@ void ProcSimStatusBar::showTitles()
     const bool narrow = width() < sizeHint().width();
     for (QWidget* title : qAsConst(m_titles))
         title->setVisible(!narrow);
+    if (m_time == nullptr)
+        return;
+    // At last the numbers have the room of their digits only, so that they do not stand on each other.
+    const int room = QWidget::minimumSizeHint().width() - m_clocks->minimumWidth() - m_time->minimumWidth();
+    const bool isTight = width() < room + m_clocksWidth + m_timeWidth;
+    m_clocks->setMinimumWidth(isTight ? 0 : m_clocksWidth);
+    m_time->setMinimumWidth(isTight ? 0 : m_timeWidth);
 }
 
 void ProcSimStatusBar::addClkCntr(int clocks)

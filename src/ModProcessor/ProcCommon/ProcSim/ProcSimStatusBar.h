@@ -53,12 +53,14 @@ private:
 
     std::shared_ptr<ProcSimClock> m_clock;
     double m_clkFreq;
+    int m_clocksWidth; ///< pixels of the largest number
+    int m_timeWidth;   ///< the same
     double m_timeFactor;
     QLabel* m_state;
     QLabel* m_exact;
     QLabel* m_base;
-    QLabel* m_clocks;
-    QLabel* m_time;
+    QLabel* m_clocks = nullptr;
+    QLabel* m_time = nullptr;
     QList<QWidget*> m_titles; ///< what a narrow window does without
     qint64 m_shown = -1;
 };

@@ -4,12 +4,20 @@
 
 namespace nsProc {
 
+namespace {
+
+const int leastWidth = 56; ///< pixels
+
+} // namespace
+
 ProcSimEdtDirection::ProcSimEdtDirection(QWidget* parent)
     : QComboBox(parent)
 {
     setObjectName(QStringLiteral("procSimEdtDirection"));
     setToolTip(tr("Direction of the accesses that the device answers"));
     setFocusPolicy(Qt::StrongFocus);
+    // In a narrow dock the end of its text is cut off, which the list shows whole.
+    setMinimumWidth(leastWidth);
     addItem(tr("Read"), 1);
     addItem(tr("Write"), 2);
     addItem(tr("Read/Write"), 4);

@@ -14,6 +14,9 @@ namespace nsProc {
 
 namespace {
 
+const int space = 16;       ///< pixels beside the digits
+const int compactSpace = 8; ///< where many fields stand in a row
+
 /// Lets the digits of a base pass.
 class DigitValidator : public QRegExpValidator
 {
@@ -88,6 +91,13 @@ bool ProcSimEdtNumeric::setValue(int value)
     return true;
 }
 
+void ProcSimEdtNumeric::setCompact()
+{
+    m_isCompact = true;
+    setProperty("compact", true); // for the style sheet
+    updateWidth();
+}
+
 bool ProcSimEdtNumeric::event(QEvent* event)
 {
     if (event->type() == QEvent::ToolTip && m_highlighted &&
@@ -149,7 +159,7 @@ void ProcSimEdtNumeric::updateWidth()
 {
     // Wide enough for any base, so that nothing moves when the base changes. Octal has the most digits.
     const int digits = QString::number(m_max, 8).size();
-    setFixedWidth(fontMetrics().horizontalAdvance(QString(digits, '8')) + 16);
+    setFixedWidth(fontMetrics().horizontalAdvance(QString(digits, '8')) + (m_isCompact ? compactSpace : space));
 }
 
 } // namespace nsProc

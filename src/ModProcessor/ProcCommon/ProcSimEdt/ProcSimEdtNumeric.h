@@ -15,6 +15,8 @@ class ProcSimEdtNumeric : public QLineEdit
 public:
     explicit ProcSimEdtNumeric(QWidget* parent = nullptr);
 
+    /// Leaves less space beside the digits, for a field of a table.
+    void setCompact();
     /// @param max at least min; it decides how many digits are shown. Negative limits are not supported.
     void setRange(int min, int max);
     /// An empty field shows its value again, also with the base that it has.
@@ -54,6 +56,7 @@ private:
     int m_max = 255;
     int m_base = 0;
     int m_value = 0;
+    bool m_isCompact = false;
     bool m_highlighted = false;
     bool m_isEdited = false;
     bool m_isShowing = false;

@@ -20,7 +20,9 @@ namespace nsProc {
 
 namespace {
 
-constexpr int minCardWidth = 230; ///< pixels; the empty dock is as wide as one with devices
+constexpr int emptyWidth = 230; ///< pixels; the empty dock is as wide as one with devices
+constexpr int leastColumn = 96; ///< pixels of the cards that are always seen
+constexpr int margin = 8;
 
 } // namespace
 
@@ -39,8 +41,10 @@ ProcSimIO::ProcSimIO(std::shared_ptr<ProcSimPorts> ports, QWidget* parent)
                              "answers gets one by itself; Add adds one by hand."),
                           QStringLiteral("pageId://simulatorDevices"));
     auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(8, 8, 8, 8);
-    layout->setSpacing(8);
+    layout->setContentsMargins(margin, margin, margin, margin);
+    layout->setSpacing(margin);
+    // As narrow as minimumSizeHint() says.
+    layout->setSizeConstraint(QLayout::SetNoConstraint);
     addTools(layout);
     addColumn(layout);
     m_ports->setListener(this);
@@ -63,6 +67,7 @@ void ProcSimIO::addTools(QVBoxLayout* layout)
     m_type->addItem(tr("Register"), ProcSimPorts::eDevReg);
     m_type->addItem(tr("Memory block"), ProcSimPorts::eDevMem);
     m_type->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    m_type->setMinimumWidth(leastColumn / 2);
 
     const auto addButton = [this](const QString& text, const QString& toolTip, const char* name) {
         auto* button = new QPushButton(text, this);
@@ -74,6 +79,7 @@ void ProcSimIO::addTools(QVBoxLayout* layout)
     QPushButton* removeAll = addButton(tr("Remove all"), tr("Remove all devices"), "procSimIORemoveAll");
     QPushButton* waves = addButton(tr("Waves"), tr("Show the values of ports against time"), "procSimIOWaves");
     m_removeAll = removeAll;
+    m_waves = waves;
     connect(add, &QPushButton::clicked, this, &ProcSimIO::addIOPluginFromMenu);
     connect(removeAll, &QPushButton::clicked, this, &ProcSimIO::removeIOPlugins);
     connect(waves, &QPushButton::clicked, this, &ProcSimIO::wavesRequested);
@@ -82,13 +88,13 @@ void ProcSimIO::addTools(QVBoxLayout* layout)
     addLine->setSpacing(8);
     addLine->addWidget(m_type, 1);
     addLine->addWidget(add);
-    auto* line = new QHBoxLayout;
-    line->setSpacing(8);
-    line->addWidget(removeAll);
-    line->addStretch(1);
-    line->addWidget(waves);
+    m_buttons = new QHBoxLayout;
+    m_buttons->setSpacing(8);
+    m_buttons->addWidget(removeAll);
+    m_buttons->addStretch(1);
+    m_buttons->addWidget(waves);
     layout->addLayout(addLine);
-    layout->addLayout(line);
+    layout->addLayout(m_buttons);
 }
 
 void ProcSimIO::addColumn(QVBoxLayout* layout)
@@ -101,19 +107,19 @@ void ProcSimIO::addColumn(QVBoxLayout* layout)
     m_hint->setToolTip(tr("Devices can also be added by hand, before the program needs them"));
     m_hint->setWordWrap(true);
     m_hint->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    m_hint->setMinimumWidth(180);
+    m_hint->setMinimumWidth(leastColumn);
 
     m_scroll = new QScrollArea(this);
     m_scroll->setObjectName(QStringLiteral("procSimIOScroll"));
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setWidgetResizable(true);
-    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    m_scroll->setMinimumWidth(leastColumn);
     m_scroll->setFocusPolicy(Qt::NoFocus);
     m_column = new QWidget;
     m_column->setObjectName(QStringLiteral("procSimIOColumn"));
     m_columnLayout = new QVBoxLayout(m_column);
     m_columnLayout->setContentsMargins(0, 0, 0, 0);
-    m_columnLayout->setSpacing(8);
+    m_columnLayout->setSpacing(4);
     m_column->installEventFilter(this);
     m_columnLayout->addWidget(m_hint);
     m_columnLayout->addStretch(1);
@@ -165,9 +171,27 @@ void ProcSimIO::updateColumn()
 {
     m_hint->setVisible(m_cards.isEmpty());
     m_removeAll->setEnabled(!m_cards.isEmpty());
-    // Wide enough for the widest card beside the scroll bar: the column never scrolls sideways.
-    const int cardWidth = qMax(minCardWidth, m_column->minimumSizeHint().width());
-    m_scroll->setMinimumWidth(cardWidth + m_scroll->verticalScrollBar()->sizeHint().width());
+    updateGeometry();
+}
+
+QSize ProcSimIO::sizeHint() const
+{
+    const int cards = qMax(emptyWidth, m_column->minimumSizeHint().width());
+    return {cards + m_scroll->verticalScrollBar()->sizeHint().width() + 2 * margin, QWidget::sizeHint().height()};
+}
+
+QSize ProcSimIO::minimumSizeHint() const
+{
+    const int column = leastColumn + m_scroll->verticalScrollBar()->sizeHint().width();
+    const int buttons = qMax(m_removeAll->sizeHint().width(), m_waves->sizeHint().width());
+    return {qMax(column, buttons) + 2 * margin, QWidget::minimumSizeHint().height()};
+}
+
+void ProcSimIO::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const int beside = m_removeAll->sizeHint().width() + m_waves->sizeHint().width() + 3 * margin;
+    m_buttons->setDirection(beside <= width() ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }
 
 bool ProcSimIO::eventFilter(QObject* watched, QEvent* event)

@@ -9,6 +9,7 @@
 #include <memory>
 
 class QComboBox;
+class QHBoxLayout;
 class QLabel;
 class QScrollArea;
 class QVBoxLayout;
@@ -50,6 +51,11 @@ public:
     /// The card of a device; null if it has none.
     ProcSimIODeviceView* viewOf(const ProcSimIOPluginIf* device) const;
 
+    /// As wide as the widest card.
+    QSize sizeHint() const override;
+    /// Narrower, where the cards scroll sideways.
+    QSize minimumSizeHint() const override;
+
     void deviceAdded(ProcSimIOPluginIf* device) override;
     void deviceRemoved(ProcSimIOPluginIf* device) override;
 
@@ -61,6 +67,7 @@ signals:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     /// A device and its card, which goes when one of the two goes.
@@ -78,7 +85,9 @@ private:
     std::shared_ptr<ProcSimPorts> m_ports;
     QVector<sCard_t> m_cards; ///< in the order of the screen
     QComboBox* m_type = nullptr;
+    QHBoxLayout* m_buttons = nullptr; ///< beside each other, or below in a narrow dock
     QWidget* m_removeAll = nullptr;
+    QWidget* m_waves = nullptr;
     QScrollArea* m_scroll = nullptr;
     QWidget* m_column = nullptr;
     QVBoxLayout* m_columnLayout = nullptr;

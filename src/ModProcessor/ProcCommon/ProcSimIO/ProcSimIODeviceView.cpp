@@ -41,8 +41,8 @@ ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, Colors::eRole_
     m_directionLine->addWidget(m_direction);
     m_directionLine->addStretch(1);
 
-    m_body->setContentsMargins(8, 8, 8, 8);
-    m_body->setSpacing(8);
+    m_body->setContentsMargins(6, 4, 4, 4);
+    m_body->setSpacing(4);
     m_body->addLayout(m_addrRow);
     m_body->addLayout(m_directionLine);
     auto* layout = new QHBoxLayout(this);

@@ -2,6 +2,7 @@
 
 #include "DialogParent.h"
 #include "HelpRef.h"
+#include "MyLongWork.h"
 #include "ProcSimVcd.h"
 #include "ProcSimWaveTree.h"
 #include "ProcSimWavesWidget.h"
@@ -43,6 +44,7 @@ ProcSimWaveViewer::ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, doub
     : QWidget(parent)
     , m_data(std::move(data))
     , m_clkFreq(clkFreq)
+    , m_workDelay(MyLongWork::usualDelay)
 {
     setObjectName(QStringLiteral("procSimWaveViewer"));
     auto* layout = new QVBoxLayout(this);
@@ -506,12 +508,30 @@ void ProcSimWaveViewer::showMoment(qint64 pointed)
         m_moment->setText(tr("Now %1").arg(time.unitText(m_data->clock())));
 }
 
-QString ProcSimWaveViewer::saveVcd(const QString& path) const
+QString ProcSimWaveViewer::saveVcd(const QString& path, bool* cancelled)
 {
+    // The simulator, and this viewer with it, may be removed by what is handled meanwhile.
+    const QPointer<ProcSimWaveViewer> self(this);
+    const std::shared_ptr<ProcSimWaveData> data = m_data;
+    const unsigned changes = data->changes();
+    MyLongWork work(
+        tr("Saving"),
+        [self](QWidget* bar) {
+            if (self)
+                self->m_viewTools->layout()->addWidget(bar);
+        },
+        [](QWidget* bar) { bar->setParent(nullptr); }, m_workDelay);
     SafeFile file(path);
-    if (!file.open() || !ProcSimVcd::write(&file, *m_data, m_clkFreq) || !file.commit())
-        return file.errorString();
-    return {};
+    const bool written = file.open() && ProcSimVcd::write(&file, *data, m_clkFreq, [&](int percent) {
+                             return work.goesOn(tr("%1 %").arg(percent)) && data->changes() == changes;
+                         });
+    work.commits();
+    const bool isDone = written && file.commit();
+    if (cancelled != nullptr)
+        *cancelled = work.isCancelled();
+    if (isDone || work.isCancelled())
+        return {};
+    return data->changes() != changes ? tr("The simulation went on while its waves were saved.") : file.errorString();
 }
 
 void ProcSimWaveViewer::save()
@@ -530,8 +550,13 @@ void ProcSimWaveViewer::save()
     if (!accepted || dialog.selectedFiles().isEmpty())
         return;
     const QString path = dialog.selectedFiles().constFirst();
-    const QString failure = saveVcd(path);
-    if (failure.isEmpty()) {
+    bool cancelled = false;
+    const QString failure = saveVcd(path, &cancelled);
+    if (self == nullptr)
+        return;
+    if (cancelled) {
+        say(tr("Cancelled: \"%1\" is as it was.").arg(QFileInfo(path).fileName()));
+    } else if (failure.isEmpty()) {
         m_lastPath = path;
         say(tr("Saved as \"%1\".").arg(QFileInfo(path).fileName()));
     } else {

@@ -74,9 +74,13 @@ public:
     /// Shows what has changed. Fast if nothing has.
     void refresh();
 
-    /// Writes what is held as a value change dump, see ProcSimVcd.
+    /// Writes what is held as a value change dump, see ProcSimVcd. Shows how far it is when that takes long, and can be
+    /// cancelled then, which leaves the file as it was. Handles events: this may be gone when it returns.
+    /// @param cancelled out: the user has cancelled it; may be null
     /// @return empty, or why it failed
-    QString saveVcd(const QString& path) const;
+    QString saveVcd(const QString& path, bool* cancelled = nullptr);
+    /// Time after which progress is shown, in milliseconds.
+    void setWorkDelay(int delay) { m_workDelay = delay; }
 
     QSize sizeHint() const override;
 
@@ -125,6 +129,7 @@ private:
     qint64 m_shownClock = 0;
     bool m_stale = false;
     QString m_lastPath;
+    int m_workDelay; ///< milliseconds
     QBoxLayout* m_toolLayout = nullptr;
     QWidget* m_portTools = nullptr;
     QWidget* m_viewTools = nullptr;

@@ -1,0 +1,19 @@
+// Nothing that is installed knows where it was built.
+
+#include "InstalledTree.h"
+
+TEST(InstalledFiles, nameNoPathOfTheBuild)
+{
+    const InstalledTree tree;
+    const QStringList files = tree.files();
+    EXPECT_GT(files.size(), 50);
+    for (const QString& name : files) {
+        if (QFileInfo(tree.path(name)).isSymLink())
+            continue;
+        QFile file(tree.path(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(name);
+        const QByteArray content = file.readAll();
+        EXPECT_FALSE(content.contains(NALVO_SOURCE_DIR)) << qPrintable(name);
+        EXPECT_FALSE(content.contains(NALVO_BINARY_DIR)) << qPrintable(name);
+    }
+}

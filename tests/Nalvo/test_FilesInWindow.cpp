@@ -1,0 +1,343 @@
+// The panel of files, quick open and recent files under what else happens in the window, and a long run under the
+// project.
+
+#include "MainWindowFixture.h"
+#include "ModalAnswers.h"
+
+#include "EditorWidget.h"
+#include "FileListWidget.h"
+#include "ModActionHookIf.h"
+#include "ModAsmFe.h"
+#include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
+#include "ModPrj.h"
+#include "ModSourcesHookIf.h"
+#include "QuickOpen.h"
+
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QScrollBar>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolButton>
+#include <QTreeWidget>
+
+using nsModAsmFe::ModAsmFe;
+using nsModPrj::ModPrj;
+
+namespace {
+
+class FilesInWindow : public MainWindowFixture
+{
+protected:
+    FilesInWindow()
+    {
+        writeSetting("ModGui/width", "1280");
+        writeSetting("ModGui/height", "900");
+    }
+
+    /// Opens a project with sources s0.psm, s1.psm ..., which all assemble.
+    void open(int count)
+    {
+        makeWindow();
+        window->activateWindow();
+        QStringList names;
+        for (int i = 0; i < count; ++i) {
+            names.append(QStringLiteral("s%1.psm").arg(i));
+            writeFile(names.last(), QStringLiteral("l%1:     JUMP l%1\n").arg(i).toLatin1());
+        }
+        m_project = writeFile("files.nalvo", "<project version=\"3\"><PrjInfo><title>T</title></PrjInfo><sources>"
+                                             "<srcFiles>" +
+                                                 names.join(':').toLatin1() +
+                                                 "</srcFiles></sources><ModProcessor><processor>Xilinx PicoBlaze 3"
+                                                 "</processor></ModProcessor><AsmFe><target><hex><en>1</en><outputFile>"
+                                                 "out.hex</outputFile></hex></target></AsmFe></project>");
+        ASSERT_TRUE(prj()->openPrj(m_project));
+        settleLayout();
+    }
+
+    ModPrj* prj() const { return module<ModPrj>(); }
+    QString path(const QString& name) const { return projectDir() + '/' + name; }
+    QStringList sources() const { return module<ModSourcesHookIf>()->files(); }
+    nsModSrcNavi::FileListWidget* files() const { return window->findChild<nsModSrcNavi::FileListWidget*>(); }
+    QTreeWidget* tree() const { return files()->findChild<QTreeWidget*>("fileListTree"); }
+    QTreeWidgetItem* group(const QString& title) const
+    {
+        const QList<QTreeWidgetItem*> found = tree()->findItems(title, Qt::MatchExactly);
+        return found.isEmpty() ? nullptr : found.first();
+    }
+    void showFiles()
+    {
+        module<ModGuiHookIf>()->setCurrentWidget(files());
+        settleLayout();
+        ASSERT_TRUE(tree()->isVisible());
+    }
+    QMenu* menuAt(const QPoint& place) const
+    {
+        QContextMenuEvent event(QContextMenuEvent::Mouse, place, tree()->viewport()->mapToGlobal(place));
+        QApplication::sendEvent(tree()->viewport(), &event);
+        settleLayout();
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget->objectName() == "fileListMenu" && widget->isVisible())
+                return qobject_cast<QMenu*>(widget);
+        }
+        return nullptr;
+    }
+    static QAction* entry(const QMenu* menu, const QString& text)
+    {
+        for (QAction* action : menu->actions()) {
+            if (action->text().remove('&') == text)
+                return action;
+        }
+        return nullptr;
+    }
+    QAction* recentFiles() const
+    {
+        for (const QAction* top : window->menuBar()->actions()) {
+            if (QAction* found = top->menu() != nullptr ? entry(top->menu(), "Recent files") : nullptr)
+                return found;
+        }
+        return nullptr;
+    }
+    nsModEditor::EditorWidget* document() const
+    {
+        return qobject_cast<nsModEditor::EditorWidget*>(
+            window->findChild<QTabWidget*>("widgetAreaTabs")->currentWidget());
+    }
+    /// Runs a long program. @param act once, while the progress is shown
+    void runLong(const std::function<void(QToolButton* cancel)>& act)
+    {
+        auto* asmFe = module<ModAsmFe>();
+        QByteArray many;
+        for (int i = 0; i < 20000; ++i)
+            many += "        LOAD s0, 1\n";
+        writeFile("s0.psm", many);
+        asmFe->setWorkDelay(0);
+        bool seen = false;
+        QTimer timer;
+        QObject::connect(&timer, &QTimer::timeout, window.get(), [&] {
+            auto* cancel = window->findChild<QToolButton*>("longWorkCancel");
+            if (seen || cancel == nullptr || !cancel->isVisible() || !asmFe->isRunning())
+                return;
+            seen = true;
+            act(cancel);
+        });
+        timer.start(0);
+        asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
+        timer.stop();
+        EXPECT_TRUE(seen);
+        asmFe->setWorkDelay(1000);
+        settleLayout();
+    }
+
+    QString m_project;
+};
+
+} // namespace
+
+// --- recent files, quick open ---
+
+TEST_F(FilesInWindow, recentFilesAreThereAsSoonAsTheProjectIs)
+{
+    open(2);
+    EXPECT_FALSE(recentFiles()->isEnabled()) << "nothing was shown yet";
+    module<ModEditorHookIf>()->openFile(path("s1.psm"));
+    module<ModEditorHookIf>()->closeAllFiles();
+    settleLayout();
+    EXPECT_TRUE(recentFiles()->isEnabled());
+    prj()->closePrj();
+    settleLayout();
+    EXPECT_FALSE(recentFiles()->isEnabled()) << "without a project no file can be opened";
+    ASSERT_TRUE(closeWindow());
+    open(2);
+    EXPECT_TRUE(recentFiles()->isEnabled()) << "no page was shown since the start";
+}
+
+TEST_F(FilesInWindow, quickOpenStandsOnTheWindowWhereTheNavigatorIsHidden)
+{
+    writeSetting("ModSrcNavi/naviWidgetLocation", "0");
+    open(2);
+    QWidget* parent = nullptr;
+    bool isInside = false;
+    ModalAnswers answers({[&](QDialog* box) {
+        parent = box->parentWidget();
+        isInside = window->geometry().contains(box->geometry());
+        screenshot("quick-open-alone", box);
+    }});
+    QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(answers.seen(), 1);
+    EXPECT_EQ(parent, window.get()) << "which gives it its look";
+    EXPECT_TRUE(isInside);
+}
+
+// --- panel ---
+
+TEST_F(FilesInWindow, aFoldedGroupStaysFolded)
+{
+    open(3);
+    showFiles();
+    ASSERT_NE(group("Outputs"), nullptr);
+    group("Outputs")->setExpanded(false);
+    group("Sources")->setExpanded(false);
+    module<ModEditorHookIf>()->openFile(path("s1.psm"));
+    settleLayout();
+    EXPECT_FALSE(group("Outputs")->isExpanded());
+    EXPECT_FALSE(group("Sources")->isExpanded());
+    EXPECT_EQ(group("Sources")->child(1)->text(1), "open");
+}
+
+TEST_F(FilesInWindow, theListStaysWhereTheUserHasScrolledItTo)
+{
+    open(80);
+    showFiles();
+    ASSERT_TRUE(files()->select(path("s0.psm")));
+    QScrollBar* bar = tree()->verticalScrollBar();
+    ASSERT_GT(bar->maximum(), 10);
+    bar->setValue(bar->maximum());
+    const int place = bar->value();
+    module<ModEditorHookIf>()->openFile(path("s79.psm"));
+    settleLayout();
+    EXPECT_EQ(bar->value(), place);
+    EXPECT_EQ(files()->currentFile(), path("s0.psm"));
+    // A line that is moved by keys stays in sight.
+    ASSERT_TRUE(files()->select(path("s79.psm")));
+    tree()->setFocus();
+    for (int i = 0; i < 70; ++i)
+        QTest::keyClick(tree(), Qt::Key_Up, Qt::ControlModifier);
+    settleLayout();
+    EXPECT_EQ(sources().indexOf(path("s79.psm")), 9);
+    EXPECT_TRUE(tree()->viewport()->rect().contains(tree()->visualItemRect(tree()->currentItem()).center()));
+}
+
+TEST_F(FilesInWindow, aRunLeavesTheListInFrontOfTheNavigator)
+{
+    open(2);
+    showFiles();
+    module<ModEditorHookIf>()->openFile(path("s1.psm"));
+    document()->setFocus();
+    QTest::keyClicks(document(), "; new\n");
+    QTest::keyClick(document(), Qt::Key_S, Qt::ControlModifier);
+    settleLayout();
+    ASSERT_TRUE(module<ModAsmFe>()->isAssembled());
+    EXPECT_TRUE(tree()->isVisible());
+    EXPECT_TRUE(document()->hasFocus());
+    // A change of the order starts a run, too.
+    ASSERT_TRUE(files()->select(path("s1.psm")));
+    tree()->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up, Qt::ControlModifier);
+    settleLayout();
+    EXPECT_EQ(sources().first(), path("s1.psm"));
+    EXPECT_TRUE(tree()->isVisible());
+    EXPECT_TRUE(tree()->hasFocus());
+}
+
+TEST_F(FilesInWindow, theMenuIsForTheLineBelowIt)
+{
+    open(2);
+    showFiles();
+    ASSERT_TRUE(files()->select(path("s0.psm")));
+    QMenu* menu = menuAt(QPoint(20, tree()->viewport()->height() - 4));
+    ASSERT_NE(menu, nullptr);
+    EXPECT_FALSE(entry(menu, "Remove from the project")->isEnabled()) << "no line is there";
+    EXPECT_FALSE(entry(menu, "Open")->isEnabled());
+    EXPECT_TRUE(entry(menu, "Add sources...")->isEnabled());
+    menu->close();
+    menu = menuAt(tree()->visualItemRect(group("Outputs")->child(0)).center());
+    ASSERT_NE(menu, nullptr);
+    EXPECT_FALSE(entry(menu, "Remove from the project")->isEnabled()) << "an output";
+    menu->close();
+    menu = menuAt(tree()->visualItemRect(group("Sources")->child(1)).center());
+    ASSERT_NE(menu, nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                      menu->actionGeometry(entry(menu, "Remove from the project")).center());
+    settleLayout();
+    EXPECT_EQ(sources(), QStringList(path("s0.psm")));
+}
+
+TEST_F(FilesInWindow, theProjectMayCloseUnderTheMenu)
+{
+    for (const char* text : {"Open", "Add sources...", "Remove from the project"}) {
+        SCOPED_TRACE(text);
+        open(2);
+        showFiles();
+        QMenu* menu = menuAt(tree()->visualItemRect(group("Sources")->child(1)).center());
+        ASSERT_NE(menu, nullptr);
+        prj()->closePrj();
+        ModalAnswers answers({});
+        QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier, menu->actionGeometry(entry(menu, text)).center());
+        settleLayout();
+        EXPECT_TRUE(sources().isEmpty());
+        ASSERT_TRUE(prj()->openPrj(m_project));
+        EXPECT_EQ(sources().size(), 2);
+    }
+}
+
+TEST_F(FilesInWindow, anOutputThatIsNotWrittenYetSaysSo)
+{
+    open(1);
+    showFiles();
+    tree()->setCurrentItem(group("Outputs")->child(0));
+    tree()->setFocus();
+    ModalAnswers answers({});
+    QTest::keyClick(tree(), Qt::Key_Return);
+    settleLayout();
+    EXPECT_EQ(document(), nullptr);
+    EXPECT_TRUE(messageTexts().join('\n').contains(path("out.hex")) || messageTexts().join('\n').contains("out.hex"))
+        << qPrintable(messageTexts().join('\n'));
+    EXPECT_FALSE(QFile::exists(path("out.hex")));
+}
+
+// --- long runs ---
+
+TEST_F(FilesInWindow, theProjectMayCloseUnderALongRun)
+{
+    open(2);
+    runLong([this](QToolButton*) { EXPECT_TRUE(prj()->closePrj()); });
+    EXPECT_FALSE(prj()->isValid());
+    EXPECT_FALSE(module<ModAsmFe>()->isAssembled());
+    EXPECT_FALSE(QFile::exists(path("out.hex"))) << "the files of a project that is not open any more";
+    EXPECT_EQ(tree()->topLevelItemCount(), 0);
+    ASSERT_TRUE(prj()->openPrj(m_project));
+    EXPECT_TRUE(sources().size() == 2);
+}
+
+TEST_F(FilesInWindow, aLongRunIsCancelledByEscapeAlsoWhereThatKeyHasACommand)
+{
+    open(2);
+    module<ModEditorHookIf>()->openFile(path("s1.psm"));
+    settleLayout();
+    auto* command = new QAction(window.get());
+    command->setShortcut(QKeySequence(Qt::Key_Escape));
+    window->addAction(command);
+    int triggered = 0;
+    QObject::connect(command, &QAction::triggered, window.get(), [&triggered] { ++triggered; });
+    document()->setFocus();
+    runLong([this](QToolButton*) { QTest::keyClick(document(), Qt::Key_Escape); });
+    EXPECT_EQ(triggered, 0);
+    EXPECT_TRUE(messageTexts().contains("The run was cancelled."));
+    QTest::keyClick(document(), Qt::Key_Escape);
+    EXPECT_EQ(triggered, 1) << "after the run";
+}
+
+TEST_F(FilesInWindow, nothingIsTypedUnderALongRun)
+{
+    open(2);
+    module<ModEditorHookIf>()->openFile(path("s1.psm"));
+    settleLayout();
+    const QString text = document()->toPlainText();
+    document()->setFocus();
+    runLong([this](QToolButton* cancel) {
+        QTest::keyClicks(document(), "x");
+        QTest::keyClick(document(), Qt::Key_V, Qt::ControlModifier);
+        // As an input method does.
+        QInputMethodEvent event;
+        event.setCommitString("y");
+        QApplication::sendEvent(document(), &event);
+        QTest::mouseClick(cancel, Qt::LeftButton);
+    });
+    EXPECT_EQ(document()->toPlainText(), text);
+    EXPECT_FALSE(document()->document()->isModified());
+}
