@@ -218,7 +218,8 @@ TEST_F(FilesInWindow, aRunLeavesTheListInFrontOfTheNavigator)
     showFiles();
     module<ModEditorHookIf>()->openFile(path("s1.psm"));
     document()->setFocus();
-    QTest::keyClicks(document(), "; new\n");
+    QTest::keyClicks(document(), "; new ");
+    QTest::keyClick(document(), Qt::Key_Return);
     QTest::keyClick(document(), Qt::Key_S, Qt::ControlModifier);
     settleLayout();
     ASSERT_TRUE(module<ModAsmFe>()->isAssembled());
