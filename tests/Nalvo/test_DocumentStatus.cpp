@@ -2,6 +2,8 @@
 
 #include "DocumentsFixture.h"
 
+#include "MyLongWork.h"
+
 using nsModEditor::EditorWidget;
 
 // --- status, keys and buttons ---
@@ -100,7 +102,7 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
         many += "        LOAD s0, 1\n";
     writeFile("c.psm", many);
     writeFile("out.hex", "of an earlier run\n");
-    asmFe->setWorkDelay(0);
+    MyLongWork::setDelay(0);
     for (const bool byKey : {false, true}) {
         SCOPED_TRACE(byKey);
         bool seen = false;
@@ -130,7 +132,7 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
             << qPrintable(messageTexts().join('\n'));
         EXPECT_EQ(window->findChild<QToolButton*>("longWorkCancel"), nullptr) << "the bar has gone";
     }
-    asmFe->setWorkDelay(1000);
+    MyLongWork::setDelay(MyLongWork::usualDelay);
     writeFile("c.psm", "gamma:  JUMP gamma\n");
     asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
     EXPECT_TRUE(asmFe->isAssembled()) << "the next run is whole";
