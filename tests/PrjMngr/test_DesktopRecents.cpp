@@ -257,6 +257,7 @@ TEST_F(DesktopRecentsFile, getsAProjectThatIsOpened)
 {
     qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
     EXPECT_EQ(DesktopRecents::listFile(), list());
+    prj.modInitIntermod();
     start();
     ASSERT_TRUE(prj.openPrj(makePrj("first.nalvo"), nsModMsg::MsgGroup::eKeepEarlier));
     settleLayout();
