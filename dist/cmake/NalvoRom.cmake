@@ -8,7 +8,7 @@
 #               [DEPENDS FILE ...])
 #
 # A target that assembles a project. It runs again when the project, one of its sources, a template or the assembler has
-# changed, or a file of DEPENDS; the sources need not be listed.
+# changed, an argument here, or a file of DEPENDS; the sources need not be listed.
 #
 #   PROJECT  the project file, from the source folder
 #   OUTPUT   files that are written whatever the project writes, as by the option --output of nalvo-asm; from the build
@@ -89,6 +89,16 @@ function(nalvo_add_rom target)
     list(APPEND options --allow-outside)
   endif()
 
+  # Makefiles do not notice that a command has changed.
+  set(optionsFile "${CMAKE_CURRENT_BINARY_DIR}/${target}.nalvo.options")
+  set(known "")
+  if(EXISTS "${optionsFile}")
+    file(READ "${optionsFile}" known)
+  endif()
+  if(NOT known STREQUAL "${options}")
+    file(WRITE "${optionsFile}" "${options}")
+  endif()
+
   # The folders of outputs must exist when the assembler writes.
   set(folders "")
   foreach(file IN LISTS files)
@@ -102,7 +112,7 @@ function(nalvo_add_rom target)
     OUTPUT ${files}
     COMMAND "${CMAKE_COMMAND}" -E make_directory ${folders}
     COMMAND "${NALVO_ASM_EXECUTABLE}" -q ${options} --depfile "${depfile}" --depfile-target "${first}" -- "${project}"
-    DEPENDS "${project}" "${NALVO_ASM_EXECUTABLE}" ${ARG_DEPENDS}
+    DEPENDS "${project}" "${NALVO_ASM_EXECUTABLE}" "${optionsFile}" ${ARG_DEPENDS}
     DEPFILE "${depfile}"
     WORKING_DIRECTORY "${CMAKE_CURRENT_BINARY_DIR}"
     COMMENT "Assembling ${projectName}"

@@ -128,6 +128,8 @@ QVector<Shortcuts::sCommand_t> Shortcuts::commands() const
 
 void Shortcuts::setChosen(const QHash<QString, QList<QKeySequence>>& chosen)
 {
+    for (const sCommand_t& command : commands())
+        m_standard.insert(command.id, command.standard);
     for (auto it = chosen.cbegin(); it != chosen.cend(); ++it) {
         if (*it == m_standard.value(it.key()))
             m_chosen.remove(it.key());

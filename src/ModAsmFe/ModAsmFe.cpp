@@ -23,7 +23,6 @@ ModAsmFe::ModAsmFe(QObject* parent)
     , m_msgHndlr(new AsmFeMsgHndlr(m_fileHndlr, this))
     , m_assembler(*m_fileHndlr, *m_msgHndlr, *this)
     , m_editorFeed(m_assembler, *this)
-    , m_workDelay(MyLongWork::usualDelay)
 {
     m_assembler.setListener(this);
 }

@@ -72,8 +72,6 @@ public:
     void setAssembleOnChange(bool enabled) { m_assembleOnChange = enabled; }
     /// Output files that the last run has written, absolute, in order.
     QStringList writtenFiles() const { return m_assembler.writtenFiles(); }
-    /// Time after which a run shows its progress and can be cancelled, in milliseconds.
-    void setWorkDelay(int delay) { m_workDelay = delay; }
     /// A run is in progress.
     bool isRunning() const { return m_assembler.isRunning(); }
     /// @return the last run assembled the program and wrote all files of its event
@@ -202,7 +200,6 @@ private:
     int m_missedEvent = nothingMissed; ///< eAssembleEvent_t of a run that is to follow
     MyBusyCursor* m_busy = nullptr;    ///< of the run in progress; not owned
     MyLongWork* m_work = nullptr;      ///< of the run in progress; not owned
-    int m_workDelay;                   ///< milliseconds
 };
 
 } // namespace nsModAsmFe

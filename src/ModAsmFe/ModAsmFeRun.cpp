@@ -59,8 +59,7 @@ void ModAsmFe::assemble(eAssembleEvent_t event)
         [this](QWidget* bar) {
             if (modGuiHook != nullptr)
                 modGuiHook->removeWidget(bar);
-        },
-        m_workDelay);
+        });
     m_work = modGuiHook != nullptr ? &work : nullptr;
     if (m_actions != nullptr) {
         m_actions->setEnabled(false);

@@ -184,10 +184,10 @@ void FindReplaceWidget::resizeEvent(QResizeEvent* event)
     const QMargins margins = layout()->contentsMargins();
     const int boxes = m_caseSensitive->sizeHint().width() + gap + m_wholeWords->sizeHint().width();
     const bool areBeside = width() >= boxes + margins.left() + margins.right();
-    if (space == m_space && areBeside == m_areBoxesBeside)
+    if (space == m_space && areBeside == (m_boxes->direction() == QBoxLayout::LeftToRight))
         return;
     m_space = space;
-    m_areBoxesBeside = areBeside;
+    m_boxes->setDirection(areBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     arrange();
     updateGeometry();
 }
@@ -201,7 +201,6 @@ void FindReplaceWidget::arrange()
     const bool tight = m_space == eTight;
     static_cast<QBoxLayout*>(m_options->layout())
         ->setDirection(m_space == eWide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-    m_boxes->setDirection(m_areBoxesBeside ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
     if (tight) {
         grid->addWidget(m_findButtons, rowFindButtons, columnClose, 1, columnCount);
         grid->addWidget(m_replaceButtons, rowReplaceButtons, columnClose, 1, columnCount);

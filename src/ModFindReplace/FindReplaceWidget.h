@@ -113,7 +113,6 @@ private:
     QLabel* m_resultBelow = nullptr; ///< the same where that is too narrow
     eMode_t m_mode = eModeFind;
     eSpace_t m_space = eWide;
-    bool m_areBoxesBeside = true;
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
     bool m_expressionsEn = true;

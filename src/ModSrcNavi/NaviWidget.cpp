@@ -56,12 +56,13 @@ NaviWidget::NaviWidget(QWidget* parent)
 {
     qRegisterMetaType<NaviTag*>("nsModSrcNavi::NaviTag *");
     setObjectName(QStringLiteral("naviWidget"));
-    makeTree();
     auto* controls = new QVBoxLayout;
     controls->setContentsMargins(grid, grid, grid, grid);
     controls->setSpacing(grid);
     controls->addLayout(makeSortRow());
     controls->addLayout(makeBookmarkRow());
+    // After what stands above it, for the Tab key.
+    makeTree();
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -116,7 +117,6 @@ QBoxLayout* NaviWidget::makeBookmarkRow()
     setTabOrder(m_sortBox, set);
     setTabOrder(set, clear);
     setTabOrder(clear, clearAll);
-    setTabOrder(clearAll, m_tree);
     return row;
 }
 

@@ -12,14 +12,19 @@ namespace {
 const int handleInterval = 50; ///< milliseconds between two looks at the events
 const int barWidth = 80;       ///< pixels
 
+int delayOfBar = MyLongWork::usualDelay; ///< milliseconds
+
 } // namespace
 
-MyLongWork::MyLongWork(const QString& what, std::function<void(QWidget*)> show, std::function<void(QWidget*)> hide,
-                       int delay)
+void MyLongWork::setDelay(int delay)
+{
+    delayOfBar = delay;
+}
+
+MyLongWork::MyLongWork(const QString& what, std::function<void(QWidget*)> show, std::function<void(QWidget*)> hide)
     : m_what(what)
     , m_show(std::move(show))
     , m_hide(std::move(hide))
-    , m_delay(delay)
 {
     m_timer.start();
 }
@@ -35,10 +40,10 @@ bool MyLongWork::goesOn(const QString& state)
     if (m_cancelled || m_handles)
         return !m_cancelled;
     if (!m_shown) {
-        if (m_timer.elapsed() < m_delay || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
+        if (m_timer.elapsed() < delayOfBar || qobject_cast<QApplication*>(QCoreApplication::instance()) == nullptr)
             return true;
         showBar();
-    } else if (m_delay > 0 && m_handled.elapsed() < handleInterval) {
+    } else if (delayOfBar > 0 && m_handled.elapsed() < handleInterval) {
         return true;
     }
     if (m_state)

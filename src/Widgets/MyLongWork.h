@@ -28,12 +28,12 @@ class MyLongWork : public QObject
 public:
     /// Duration after which a user wants to know more, in milliseconds.
     static const int usualDelay = 1000;
+    /// Time after which a bar is shown from now on, in milliseconds.
+    static void setDelay(int delay);
 
     /// @param what is done, as "Assembling"
     /// @param show puts the bar into the window; @param hide takes it out again. The bar stays here.
-    /// @param delay time after which the bar is shown, in milliseconds
-    MyLongWork(const QString& what, std::function<void(QWidget*)> show, std::function<void(QWidget*)> hide,
-               int delay = usualDelay);
+    MyLongWork(const QString& what, std::function<void(QWidget*)> show, std::function<void(QWidget*)> hide);
     ~MyLongWork() override;
 
     /// @param state how far the work is, for the user
@@ -57,7 +57,6 @@ private:
     QString m_what;
     std::function<void(QWidget*)> m_show;
     std::function<void(QWidget*)> m_hide;
-    int m_delay;
     QElapsedTimer m_timer;
     QElapsedTimer m_handled; ///< since events were handled last
     QPointer<QWidget> m_bar;

@@ -199,7 +199,7 @@ TEST_F(AsmFePage, AnImageByKeys)
     width->selectAll();
     QTest::keyClicks(width, "32");
     choose(layout, "A record a word, addresses count words");
-    auto* event = page.findChild<QCheckBox*>(QString("targetEvent%12").arg(int(kindIntelHex)));
+    auto* event = page.findChild<QCheckBox*>(QString("targetEvent%1%2").arg(int(kindIntelHex)).arg(2));
     ASSERT_NE(event, nullptr);
     EXPECT_EQ(event->toolTip(), "Write Intel HEX files: After saving");
     QTest::keyClick(event, Qt::Key_Space);

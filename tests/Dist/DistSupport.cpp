@@ -101,6 +101,14 @@ QMap<QString, bool> helpOptions(const QString& program)
     return options;
 }
 
+QStringList listed(const QMap<QString, bool>& options)
+{
+    QStringList texts;
+    for (auto it = options.begin(); it != options.end(); ++it)
+        texts.append(it.value() ? it.key() + " VALUE" : it.key());
+    return texts;
+}
+
 QString version()
 {
     return run(programFile("nalvo-asm"), {"--version"}).out.trimmed().section(' ', 1);

@@ -35,6 +35,8 @@ sResult_t run(const QString& program, const QStringList& arguments, const QStrin
 
 /// What "--help" says: each name of each option, "-l" as well as "--listing", with true if it takes a value.
 QMap<QString, bool> helpOptions(const QString& program);
+/// The same as texts: "-v", or "-l VALUE" for an option that takes a value.
+QStringList listed(const QMap<QString, bool>& options);
 /// "--help" as it is printed.
 QString helpText(const QString& program);
 /// The release, as "--version" says it.

@@ -107,7 +107,7 @@ private:
 };
 
 INSTANTIATE_TEST_SUITE_P(Shells, Shell, ::testing::Values(std::string("bash"), std::string("zsh")),
-                         [](const auto& info) { return info.param; });
+                         [](const auto& shell) { return shell.param; });
 
 /// The kinds of output that the manual page names.
 QStringList pageKinds()

@@ -17,6 +17,7 @@ CompileCommands::CompileCommands()
     QFile file(NALVO_BINARY_DIR "/compile_commands.json");
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << "The build left no compile_commands.json";
     for (const QJsonValue& entry : QJsonDocument::fromJson(file.readAll()).array()) {
+        m_allSources.append(entry["file"].toString());
         // Tests compile some sources once more, with their own options.
         if (entry["command"].toString().contains(" -o tests/"))
             continue;

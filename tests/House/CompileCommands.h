@@ -12,8 +12,10 @@ public:
     /// Reads what the build has written down.
     CompileCommands();
 
-    /// All sources that the build compiles, absolute.
+    /// All sources of programs that the build compiles, absolute.
     const QStringList& sources() const { return m_sources; }
+    /// These and those of the tests.
+    const QStringList& allSources() const { return m_allSources; }
     /// The whole call for a source.
     QString command(const QString& source) const;
     /// Compiler, language, definitions and include paths for a source; without precompiled headers. Empty if it is not
@@ -22,6 +24,7 @@ public:
 
 private:
     QStringList m_sources;
+    QStringList m_allSources;
     QStringList m_commands;
 };
 

@@ -179,7 +179,7 @@ TEST(MsgCatalogue, complete)
         EXPECT_TRUE(QRegExp("(grp|chk|refresh)[A-Z]\\w+").exactMatch(row->key)) << row->key;
         EXPECT_TRUE(QString::fromLatin1(row->text).endsWith("...")) << row->key;
     }
-    EXPECT_EQ(keys.size(), 120 + 18);
+    EXPECT_EQ(keys.size(), 121 + 18);
     EXPECT_EQ(msgText(-1), nullptr);
     EXPECT_EQ(msgText(eMsgTypeCount), nullptr);
     EXPECT_EQ(msgGrpText(-1), nullptr);

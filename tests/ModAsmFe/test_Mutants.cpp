@@ -211,7 +211,7 @@ bool isDefineArgumentAlone(const QString& broken, const QByteArray& source)
     if (!broken.startsWith(begin))
         return false;
     for (const QString& message : broken.mid(begin.size()).split(" / ")) {
-        const QRegExp define("#DEFINE\\s+[^\\s,;]+\\s*,\\s*" + QRegExp::escape(message.mid(error.size())),
+        const QRegExp define("#DEFINE\\s+[^\\s,;]+(\\s*,\\s*|\\s+)" + QRegExp::escape(message.mid(error.size())),
                              Qt::CaseInsensitive);
         if (!message.startsWith(error) || define.indexIn(QString::fromLatin1(source)) < 0)
             return false;

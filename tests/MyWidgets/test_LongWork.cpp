@@ -23,11 +23,13 @@ protected:
         m_window.show();
         EXPECT_TRUE(QTest::qWaitForWindowExposed(&m_window, 60000));
     }
+    ~LongWork() override { MyLongWork::setDelay(MyLongWork::usualDelay); }
     std::unique_ptr<MyLongWork> work(int delay)
     {
+        MyLongWork::setDelay(delay);
         return std::make_unique<MyLongWork>(
             "Counting", [this](QWidget* bar) { m_window.layout()->addWidget(bar); },
-            [](QWidget* bar) { bar->setParent(nullptr); }, delay);
+            [](QWidget* bar) { bar->setParent(nullptr); });
     }
     QToolButton* button() const { return m_window.findChild<QToolButton*>("longWorkCancel"); }
     QString state() const

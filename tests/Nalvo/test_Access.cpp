@@ -4,6 +4,7 @@
 
 #include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
+#include "ModGuiHookIf.h"
 #include "ModPrj.h"
 
 #include <QAbstractItemView>
@@ -131,13 +132,13 @@ protected:
     static void expectReadingOrder(QWidget* page, const char* state)
     {
         QList<QWidget*> order;
-        QWidget* widget = page;
-        do {
+        // The page itself can stand anywhere in the chain.
+        for (QWidget* widget = page->window()->nextInFocusChain(); widget != page->window();
+             widget = widget->nextInFocusChain()) {
             if (widget != page && page->isAncestorOf(widget) && widget->isVisible() && widget->isEnabled() &&
                 (widget->focusPolicy() & Qt::TabFocus) != 0 && !isPart(widget))
                 order.append(widget);
-            widget = widget->nextInFocusChain();
-        } while (widget != page);
+        }
         for (int i = 1; i < order.size(); ++i) {
             const QRect before(order.at(i - 1)->mapTo(page, QPoint()), order.at(i - 1)->size());
             const QRect after(order.at(i)->mapTo(page, QPoint()), order.at(i)->size());
@@ -204,7 +205,7 @@ TEST_F(Access, everyPageOfTheSettingsCanBeUsedByKeys)
 TEST_F(Access, theTabKeyGoesThroughEveryPanelAndPageAsItIsRead)
 {
     // What comes by a command: usages, find in sources, the panels of the simulator.
-    auto* document = window->findChild<QPlainTextEdit*>("editorWidget");
+    auto* document = qobject_cast<QPlainTextEdit*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     ASSERT_NE(document, nullptr);
     document->setFocus();
     document->moveCursor(QTextCursor::Down);

@@ -14,6 +14,7 @@
 #include <QContextMenuEvent>
 #include <QListWidget>
 #include <QMenu>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QSettings>
@@ -347,9 +348,11 @@ TEST_F(ColorsInWindow, whatIsOpenFollows)
     makeWindow();
     openProject();
     const auto command = [this](const QString& text) {
-        for (QAction* action : window->findChildren<QAction*>()) {
-            if (action->text() == text && action->isEnabled())
-                return action->trigger();
+        for (const QAction* bar : window->menuBar()->actions()) {
+            for (QAction* action : bar->menu()->actions()) {
+                if (action->text() == text && action->isEnabled())
+                    return action->trigger();
+            }
         }
         ADD_FAILURE() << "no command " << qPrintable(text);
     };

@@ -12,6 +12,7 @@
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 #include "ModSourcesHookIf.h"
+#include "MyLongWork.h"
 #include "QuickOpen.h"
 
 #include <QContextMenuEvent>
@@ -115,7 +116,7 @@ protected:
         for (int i = 0; i < 20000; ++i)
             many += "        LOAD s0, 1\n";
         writeFile("s0.psm", many);
-        asmFe->setWorkDelay(0);
+        MyLongWork::setDelay(0);
         bool seen = false;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, window.get(), [&] {
@@ -129,7 +130,7 @@ protected:
         asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
         timer.stop();
         EXPECT_TRUE(seen);
-        asmFe->setWorkDelay(1000);
+        MyLongWork::setDelay(MyLongWork::usualDelay);
         settleLayout();
     }
 
@@ -218,7 +219,8 @@ TEST_F(FilesInWindow, aRunLeavesTheListInFrontOfTheNavigator)
     showFiles();
     module<ModEditorHookIf>()->openFile(path("s1.psm"));
     document()->setFocus();
-    QTest::keyClicks(document(), "; new\n");
+    QTest::keyClicks(document(), "; new ");
+    QTest::keyClick(document(), Qt::Key_Return);
     QTest::keyClick(document(), Qt::Key_S, Qt::ControlModifier);
     settleLayout();
     ASSERT_TRUE(module<ModAsmFe>()->isAssembled());

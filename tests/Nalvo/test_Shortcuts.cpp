@@ -312,7 +312,7 @@ TEST_F(ShortcutsInWindow, EveryKeyOfTheWindowIsListed)
         }
     }
     EXPECT_GT(seen, 40);
-    for (const char* key : {"F6", "Ctrl+F10", "Ctrl+Tab", "Ctrl+PgDown", "F1", "F2", "F8", "F9", "Ctrl+P"})
+    for (const char* key : {"F6", "Ctrl+F10", "Ctrl+Tab", "Ctrl+PgDown", "F1", "F2", "F8", "Ctrl+P"})
         EXPECT_TRUE(listed.contains(key)) << key;
 }
 
@@ -323,6 +323,8 @@ TEST_F(ShortcutsInWindow, TheMenuOfTheMarginOpensByItsKeyAlsoByAnotherOne)
         qobject_cast<nsModEditor::EditorWidget*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     ASSERT_NE(document, nullptr);
     const auto openMenu = [&](Qt::Key key, Qt::KeyboardModifiers modifiers) {
+        window->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(window.get(), 60000));
         document->setCursorToLine(1);
         document->setFocus();
         QStringList texts;

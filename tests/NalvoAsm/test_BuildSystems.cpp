@@ -126,11 +126,11 @@ TEST_P(BuildSystemsCMake, WhatTheProjectWritesAndATemplate)
     writeProject(AsmProject().output("hex", "out/r.hex").vhdl("t.vhd", "out/r.vhd"), "own/p.nalvo");
     write("own/a.psm", "#EQU unused, 1\n" + goodSource());
     write("own/t.vhd", vhdlTemplate("one\n"));
+    write("own/more.txt", "");
     ASSERT_EQ(configureText("nalvo_add_rom(rom ALL PROJECT p.nalvo WRITES out/r.hex out/r.vhd SYMBOLS deep/r.json "
                             "DEPENDS more.txt)\n")
                   .status,
               0);
-    write("own/more.txt", "");
     expectRebuilt([this] { return build(); }, {"own/p.nalvo", "own/a.psm", "own/t.vhd", "own/more.txt"});
     EXPECT_EQ(read("own/out/r.hex"), hexText());
     EXPECT_TRUE(exists("build/deep/r.json"));

@@ -56,7 +56,7 @@ QStringList entriesOf(const QByteArray& list)
         const QXmlStreamAttributes attributes = reader.attributes();
         if (reader.name() == QLatin1String("bookmark")) {
             href = attributes.value("href").toString();
-            times = attributes.value("modified") + "|" + attributes.value("visited");
+            times = attributes.value("modified").toString() + '|' + attributes.value("visited").toString();
         } else if (reader.name() == QLatin1String("application")) {
             entries.append(
                 QStringList{href, attributes.value("name").toString(), attributes.value("count").toString(), times}
@@ -257,6 +257,7 @@ TEST_F(DesktopRecentsFile, getsAProjectThatIsOpened)
 {
     qputenv("XDG_DATA_HOME", folder.path().toLocal8Bit());
     EXPECT_EQ(DesktopRecents::listFile(), list());
+    prj.modInitIntermod();
     start();
     ASSERT_TRUE(prj.openPrj(makePrj("first.nalvo"), nsModMsg::MsgGroup::eKeepEarlier));
     settleLayout();

@@ -74,8 +74,9 @@ TEST_F(ProcConfigWidgetTest, LabelsAndUnits)
 {
     EXPECT_EQ(labels(blaze3.findChild<QTabWidget*>()->widget(0)), QStringList({"Clock frequency:", "MHz"}));
     EXPECT_EQ(labels(blaze3.findChild<QTabWidget*>()->widget(1)), QStringList({"Instruction memory page size:", "kB"}));
-    EXPECT_EQ(labels(blaze6.findChild<QTabWidget*>()->widget(0)),
-              QStringList({"Clock frequency:", "MHz", "Scratchpad size:", "Bytes", "Interrupt vector address:"}));
+    EXPECT_EQ(
+        labels(blaze6.findChild<QTabWidget*>()->widget(0)),
+        QStringList({"Clock frequency:", "MHz", "Scratchpad size:", "Bytes", "Interrupt vector address:", "= 0xFFF"}));
     EXPECT_EQ(labels(mico8.findChild<QTabWidget*>()->widget(0)),
               QStringList({"Clock frequency:", "MHz", "Register count:", "Internal scratchpad size:", "Bytes",
                            "Instruction clock cycle count:", "Clock cycles"}));

@@ -2,6 +2,7 @@
 
 #include "FullDisk.h"
 #include "ModalHelper.h"
+#include "MyLongWork.h"
 #include "WavesFixture.h"
 
 #include <QComboBox>
@@ -22,6 +23,7 @@ namespace {
 class WavesViewer : public WavesTest
 {
 protected:
+    ~WavesViewer() override { MyLongWork::setDelay(MyLongWork::usualDelay); }
     /// Names of a row and of those below it.
     static QStringList names(const QTreeWidgetItem* item)
     {
@@ -468,7 +470,7 @@ TEST_F(WavesViewer, ALongSaveShowsItsProgressAndCanBeCancelled)
     const QByteArray old = content();
     for (int i = 1; i <= 50000; ++i)
         viewer->data()->addValue(1, wr, i & 0xFF, i);
-    viewer->setWorkDelay(0);
+    MyLongWork::setDelay(0);
     QString state;
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -503,7 +505,7 @@ TEST_F(WavesViewer, AViewerThatGoesWhileItSavesLeavesTheFile)
     viewer->addAddrChannel(1, wr, -1, {});
     for (int i = 1; i <= 50000; ++i)
         viewer->data()->addValue(1, wr, i & 0xFF, i);
-    viewer->setWorkDelay(0);
+    MyLongWork::setDelay(0);
     QTimer timer;
     QObject::connect(&timer, &QTimer::timeout, [&] { viewer.reset(); });
     timer.start(0);

@@ -504,7 +504,7 @@ TEST_F(SimShown, TheLastOfCallStackAndWavesComesToTheFrontWithTheGroup)
 
 TEST_F(SimShown, CallsLeaveTheWavesInFront)
 {
-    ASSERT_TRUE(start("XPBlze3", {"again: CALL sub", "JUMP again", "sub: RET"}));
+    ASSERT_TRUE(start("XPBlze3", {"again: CALL routine", "JUMP again", "routine: RET"}));
     auto* gui = module<ModGuiHookIf>();
     const auto bottom = [gui] { return gui->currentWidget(ModGuiHookIf::eLocationDockBottom); };
     sim()->showWaveViewer();

@@ -25,6 +25,7 @@ using namespace nsModAsmFe;
 namespace {
 
 const int longestLine = 1000;
+const int mostShown = 20; ///< differences
 
 /// A processor with the names of all of them.
 class AllProcessors : public nsProc::Processor
@@ -146,6 +147,9 @@ const QVector<sSample_t>& samples()
         {"        LOAD  s0, \"A\"'ISO-8859-1", "........IIII..HH..TTT.AAAAAAAAAA"},
         {"L1:     JUMP  L1", "LLL.....IIII...."},
         {"        LOAD  s0, 850", "........IIII..HH..NNN"},
+        {"        INSTMEM IODev LEN append false fifo hex hiMem loMem mem rd rdWr reg sim true verilog vhdl wr",
+         "........AAAAAAA.AAAAA.AAA.AAAAAA.AAAAA.AAAA.AAA.AAAAA.AAAAA.AAA.AA.AAAA.AAA.AAA.AAAA.AAAAAAA.AAAA.AA"},
+        {"        JUMP  Z'x, s0'2BE", "........IIII..K.A..HH.AAA"},
         {"#EQU    value, 0x10", "DDDD...........XXXX"},
         {"#set    IODEV::rx::TYPE, fifo", "DDDD....AAAAAAAAAAA......AAAA"},
         {"#SET    ASM::DFLTCHARSET,  iso-8859-1", "DDDD....AAAAAAAAAAAAAAAAAAAAAAAAAAAAA"},
@@ -264,7 +268,8 @@ void expectAsWindow(const QStringList& painted, const QString& who)
     ASSERT_EQ(painted.size(), lines.size()) << qPrintable(who);
     int compared = 0;
     int leftOut = 0;
-    for (int i = 0; i < lines.size(); ++i) {
+    int shown = 0;
+    for (int i = 0; i < lines.size() && shown < mostShown; ++i) {
         const QString& line = lines.at(i);
         ASSERT_EQ(painted.at(i).size(), line.size()) << qPrintable(who) << " line " << i << ": " << qPrintable(line);
         // Cases say themselves which of their lines are wrong.
@@ -281,9 +286,10 @@ void expectAsWindow(const QStringList& painted, const QString& who)
                 continue;
             ADD_FAILURE() << qPrintable(who) << "\n    " << qPrintable(line) << "\ngot " << qPrintable(painted.at(i))
                           << "\nwin " << qPrintable(window.at(i));
+            ++shown;
             break;
         }
     }
-    EXPECT_GT(compared, 100000);
+    EXPECT_GT(compared, shown == 0 ? 100000 : 0);
     EXPECT_LT(leftOut, compared / 100);
 }

@@ -36,7 +36,7 @@ PrjMngrOptions::PrjMngrOptions(QWidget* parent)
     for (const QString& name : NewProject::processors())
         m_processor->addItem(name, name);
     m_processor->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    m_processor->setMinimumContentsLength(18);
+    m_processor->setMinimumContentsLength(16);
     m_processor->setToolTip(tr("Processor that the program is for"));
     m_processor->setAccessibleName(tr("Processor"));
     addHdl(m_vhdl, m_vhdlTemplate, "prjMngrNewVhdlTemplate", QStringLiteral("vhd"));
@@ -92,7 +92,7 @@ void PrjMngrOptions::addHdl(QCheckBox* check, QComboBox* box, const char* name, 
     box->setAccessibleName(tr("Template of the %1").arg(check->text()));
     // In a small window the page must not become wider than the window lets it be.
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(8);
+    box->setMinimumContentsLength(6);
     box->setEnabled(false);
     if (box->count() == 0) {
         check->setEnabled(false);

@@ -48,6 +48,66 @@ struct sPlaces_t
     int count = 0;         ///< how often this program has used the file
 };
 
+/// Finds the tags in a text that is well-formed XML without a document type.
+class TagFinder
+{
+public:
+    struct sTag_t
+    {
+        int begin;
+        int end;
+        bool isEmptyElement;
+    };
+
+    explicit TagFinder(const QString& text)
+        : m_text(text)
+    {
+    }
+
+    /// The next tag. Comments, sections of characters and instructions are none.
+    sTag_t next()
+    {
+        for (;;) {
+            const int begin = m_text.indexOf(QLatin1Char('<'), m_pos);
+            if (begin < 0)
+                return {-1, -1, false};
+            if (skip(begin, "<!--", "-->") || skip(begin, "<![CDATA[", "]]>") || skip(begin, "<?", "?>"))
+                continue;
+            m_pos = endOfTag(begin);
+            return {begin, m_pos, m_text.midRef(begin, m_pos - begin).endsWith(QLatin1String("/>"))};
+        }
+    }
+
+private:
+    bool skip(int begin, const char* first, const char* last)
+    {
+        if (!m_text.midRef(begin).startsWith(QLatin1String(first)))
+            return false;
+        const int end = m_text.indexOf(QLatin1String(last), begin + int(qstrlen(first)));
+        m_pos = end < 0 ? m_text.size() : end + int(qstrlen(last));
+        return true;
+    }
+
+    /// A value in quotes may hold what ends a tag.
+    int endOfTag(int begin) const
+    {
+        QChar quote;
+        for (int i = begin; i < m_text.size(); ++i) {
+            const QChar c = m_text.at(i);
+            if (!quote.isNull())
+                quote = c == quote ? QChar() : quote;
+            else if (c == QLatin1Char('"') || c == QLatin1Char('\''))
+                quote = c;
+            else if (c == QLatin1Char('>'))
+                return i + 1;
+        }
+        return m_text.size();
+    }
+
+    const QString& m_text;
+    int m_pos = 0;
+};
+
 /// Walks over a list and finds the places.
 class ListReader
 {
@@ -55,6 +115,7 @@ public:
     ListReader(const QString& text, const QString& project)
         : m_text(text)
         , m_reader(text)
+        , m_tags(text)
         , m_project(project)
     {
     }
@@ -63,15 +124,20 @@ public:
     bool run()
     {
         while (!m_reader.atEnd()) {
-            m_begin = int(m_reader.characterOffset());
             const QXmlStreamReader::TokenType token = m_reader.readNext();
-            m_end = int(m_reader.characterOffset());
             if (token == QXmlStreamReader::DTD)
                 return false;
-            if (token == QXmlStreamReader::StartElement && !startElement())
-                return false;
-            if (token == QXmlStreamReader::EndElement)
+            if (token == QXmlStreamReader::StartElement) {
+                m_tag = m_tags.next();
+                if (!startElement())
+                    return false;
+            } else if (token == QXmlStreamReader::EndElement) {
+                // An empty element ends with the tag that it begins with.
+                if (!m_tag.isEmptyElement)
+                    m_tag = m_tags.next();
                 endElement();
+                m_tag.isEmptyElement = false;
+            }
         }
         return !m_reader.hasError() && isTag(m_places.end, "</xbel") && areWhole();
     }
@@ -89,20 +155,20 @@ private:
         if (!m_inEntry)
             return true;
         if (m_depth == 2)
-            m_places.entryTag = {m_begin, m_end};
+            m_places.entryTag = {m_tag.begin, m_tag.end};
         else if (isElement("application") && isThisProgram())
-            m_places.application.begin = m_begin;
+            m_places.application.begin = m_tag.begin;
         return true;
     }
 
     void endElement()
     {
         if (m_depth == 1)
-            m_places.end = m_begin;
+            m_places.end = m_tag.begin;
         if (m_inEntry && isElement("applications"))
-            m_places.applications = m_begin;
+            m_places.applications = m_tag.begin;
         if (m_inEntry && isElement("application") && m_places.application.begin >= 0 && m_places.application.end < 0)
-            m_places.application.end = m_end;
+            m_places.application.end = m_tag.end;
         if (m_depth == 2)
             m_inEntry = false;
         --m_depth;
@@ -158,10 +224,10 @@ private:
 
     const QString& m_text;
     QXmlStreamReader m_reader;
+    TagFinder m_tags;
     const QString m_project;
     sPlaces_t m_places;
-    int m_begin = 0; ///< of the present token
-    int m_end = 0;
+    TagFinder::sTag_t m_tag = {-1, -1, false}; ///< of the present element
     int m_depth = 0;
     bool m_inEntry = false;
 };

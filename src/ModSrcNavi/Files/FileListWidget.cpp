@@ -99,12 +99,12 @@ void FileTree::keyPressEvent(QKeyEvent* event)
 
 FileListWidget::FileListWidget(QWidget* parent)
     : QWidget(parent)
-    , m_tree(new FileTree(this))
     , m_add(addButton("fileListAdd", tr("Add..."), tr("Adds sources to the project")))
     , m_remove(
           addButton("fileListRemove", tr("Remove"), tr("Takes the source out of the project; the file stays (Del)")))
     , m_up(addButton("fileListUp", tr("Up"), tr("The assembler reads this source earlier (Ctrl+Up)")))
     , m_down(addButton("fileListDown", tr("Down"), tr("The assembler reads this source later (Ctrl+Down)")))
+    , m_tree(new FileTree(this))
 {
     setObjectName(QStringLiteral("fileList"));
     m_tree->setAccessibleName(tr("Files of the project"));

@@ -75,11 +75,11 @@ private:
     void updateButtons();
     void showMenu(const QPoint& place);
 
-    FileTree* m_tree;
     QToolButton* m_add;
     QToolButton* m_remove;
     QToolButton* m_up;
     QToolButton* m_down;
+    FileTree* m_tree; ///< made after the buttons above it, for the Tab key
     ProjectFiles m_files;
     QDir m_dir;
     QStringList m_folded; ///< titles of the groups that the user has folded

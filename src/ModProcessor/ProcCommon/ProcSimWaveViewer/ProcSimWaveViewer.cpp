@@ -44,7 +44,6 @@ ProcSimWaveViewer::ProcSimWaveViewer(std::shared_ptr<ProcSimWaveData> data, doub
     : QWidget(parent)
     , m_data(std::move(data))
     , m_clkFreq(clkFreq)
-    , m_workDelay(MyLongWork::usualDelay)
 {
     setObjectName(QStringLiteral("procSimWaveViewer"));
     auto* layout = new QVBoxLayout(this);
@@ -520,7 +519,7 @@ QString ProcSimWaveViewer::saveVcd(const QString& path, bool* cancelled)
             if (self)
                 self->m_viewTools->layout()->addWidget(bar);
         },
-        [](QWidget* bar) { bar->setParent(nullptr); }, m_workDelay);
+        [](QWidget* bar) { bar->setParent(nullptr); });
     SafeFile file(path);
     const bool written = file.open() && ProcSimVcd::write(&file, *data, m_clkFreq, [&](int percent) {
                              return work.goesOn(tr("%1 %").arg(percent)) && data->changes() == changes;

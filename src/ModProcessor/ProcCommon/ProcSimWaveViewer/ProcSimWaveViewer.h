@@ -79,8 +79,6 @@ public:
     /// @param cancelled out: the user has cancelled it; may be null
     /// @return empty, or why it failed
     QString saveVcd(const QString& path, bool* cancelled = nullptr);
-    /// Time after which progress is shown, in milliseconds.
-    void setWorkDelay(int delay) { m_workDelay = delay; }
 
     QSize sizeHint() const override;
 
@@ -129,7 +127,6 @@ private:
     qint64 m_shownClock = 0;
     bool m_stale = false;
     QString m_lastPath;
-    int m_workDelay; ///< milliseconds
     QBoxLayout* m_toolLayout = nullptr;
     QWidget* m_portTools = nullptr;
     QWidget* m_viewTools = nullptr;
