@@ -24,8 +24,11 @@ inline QString shownText(const QWidget* widget)
         if (tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull())
             return QString();
     }
-    if (const auto* link = qobject_cast<const MyLinkButton*>(widget))
-        return link->shownText();
+    if (const auto* link = qobject_cast<const MyLinkButton*>(widget)) {
+        // A short text was written for the place; one with an ellipsis is cut off.
+        const QString shown = link->shownText();
+        return shown.contains(QChar(0x2026)) ? link->text() : shown;
+    }
     const auto* button = qobject_cast<const QAbstractButton*>(widget);
     return button != nullptr ? button->text() : QString();
 }
