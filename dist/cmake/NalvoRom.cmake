@@ -12,7 +12,8 @@
 #
 #   PROJECT  the project file, from the source folder
 #   OUTPUT   files that are written whatever the project writes, as by the option --output of nalvo-asm; from the build
-#            folder. {DEVICE} in a name is not possible: which files that makes is not known before the run.
+#            folder. {DEVICE} in a name is not possible: which files that makes is not known before the run. A generator
+#            expression can not stand for an absolute path.
 #   WRITES   files that the project itself writes at the event; from the folder of the project file
 #   EVENT    default: button1 with WRITES; without, none, so that the folder of the project stays as it is
 #   LISTING, SYMBOLS  from the build folder
@@ -52,6 +53,9 @@ function(nalvo_add_rom target)
       set(ARG_EVENT button1)
     endif()
   endif()
+  if(NOT ARG_EVENT MATCHES "^(button1|button2|save|none)$")
+    message(FATAL_ERROR "nalvo_add_rom(${target}): EVENT is button1, button2, save or none: ${ARG_EVENT}")
+  endif()
 
   set(options --event "${ARG_EVENT}")
   set(files "")
@@ -81,6 +85,11 @@ function(nalvo_add_rom target)
   endforeach()
   if(NOT files)
     message(FATAL_ERROR "nalvo_add_rom(${target}): no file is written; there are OUTPUT, WRITES, LISTING and SYMBOLS")
+  endif()
+  set(others "${files}")
+  list(REMOVE_DUPLICATES others)
+  if(NOT others STREQUAL files)
+    message(FATAL_ERROR "nalvo_add_rom(${target}): two outputs go to the same file: ${files}")
   endif()
   if(ARG_WERROR)
     list(APPEND options --werror)

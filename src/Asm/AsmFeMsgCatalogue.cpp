@@ -140,7 +140,7 @@ constexpr sMsgText_t msgTexts[] = {
     NALVO_MSG(warnTargetStuffing, "Template memory size bigger than expected: Stuffing with zeros"),
     NALVO_MSG(errTargetOutside, "Output file outside of the project's folder is not allowed: %1 (%2)"),
     NALVO_MSG(errInternal, "Internal error: %1"),
-    NALVO_MSG(errTargetWordTooWide, "Word at address %1 does not fit into %2 bits!"),
+    NALVO_MSG(errTargetWordTooWide, "Word at address %1 does not fit into %2 bits: %3"),
 };
 
 /// Indexed by eMsgGrp_t.

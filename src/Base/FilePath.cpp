@@ -1,7 +1,10 @@
 #include "FilePath.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
+
+#include <sys/stat.h>
 
 namespace {
 
@@ -21,4 +24,13 @@ QString pathWithoutLinks(const QString& path)
     if (folder.isEmpty())
         return QDir::cleanPath(info.absoluteFilePath());
     return QDir(folder).filePath(info.fileName());
+}
+
+bool isSameFile(const QString& path, const QString& other)
+{
+    struct stat info = {};
+    struct stat otherInfo = {};
+    return stat(QFile::encodeName(path).constData(), &info) == 0 &&
+           stat(QFile::encodeName(other).constData(), &otherInfo) == 0 && info.st_dev == otherInfo.st_dev &&
+           info.st_ino == otherInfo.st_ino;
 }

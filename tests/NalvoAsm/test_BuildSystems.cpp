@@ -78,7 +78,15 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Generators, BuildSystemsCMake, ::testing::Values("Ninja", "Unix Makefiles"),
                          [](const auto& generator) { return QString(generator.param).remove(' ').toStdString(); });
 
-TEST_P(BuildSystemsCMake, TheExampleFollowsAllThatItReads)
+/// What does not depend on the build tool.
+class BuildSystemsConfigure : public BuildSystemsCMake
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Once, BuildSystemsConfigure, ::testing::Values("Ninja"));
+
+/// One build for all of this: to configure takes longer than to assemble.
+TEST_P(BuildSystemsCMake, TheExampleFollowsAllThatItReadsAndEndsAtAnError)
 {
     const AsmToolResult configured = configure();
     ASSERT_EQ(configured.status, 0) << configured.err.constData();
@@ -90,12 +98,15 @@ TEST_P(BuildSystemsCMake, TheExampleFollowsAllThatItReads)
     // The rule behind it sees the file that its target names.
     EXPECT_TRUE(read("build/rom.sha256").contains("rom.hex"));
     expectExamplesUnchanged();
-}
 
-TEST_P(BuildSystemsCMake, AnErrorEndsTheBuildAndIsShown)
-{
-    ASSERT_EQ(configure().status, 0);
+    // An output that is missing.
+    const int before = runs();
+    ASSERT_TRUE(QFile::remove(path("build/rom.mif")));
     ASSERT_EQ(build().status, 0);
+    EXPECT_EQ(runs(), before + 1);
+    EXPECT_TRUE(exists("build/rom.mif"));
+
+    // An error ends the build, each time, and is shown.
     const QByteArray good = read(source);
     write(source, good + "\n        JUMP nowhere_at_all\n");
     setAge(source, 1000);
@@ -109,16 +120,6 @@ TEST_P(BuildSystemsCMake, AnErrorEndsTheBuildAndIsShown)
     setAge(source, 1000);
     EXPECT_EQ(build().status, 0);
     EXPECT_EQ(read("build/rom.hex"), expectedHex());
-}
-
-TEST_P(BuildSystemsCMake, AMissingOutputIsMadeAnew)
-{
-    ASSERT_EQ(configure().status, 0);
-    ASSERT_EQ(build().status, 0);
-    ASSERT_TRUE(QFile::remove(path("build/rom.mif")));
-    ASSERT_EQ(build().status, 0);
-    EXPECT_EQ(runs(), 2);
-    EXPECT_TRUE(exists("build/rom.mif"));
 }
 
 TEST_P(BuildSystemsCMake, WhatTheProjectWritesAndATemplate)
@@ -153,7 +154,7 @@ TEST_P(BuildSystemsCMake, WithoutAllNothingIsBuiltUntilItIsWanted)
     EXPECT_FALSE(exists("out.hex")) << "without WRITES the project writes nothing";
 }
 
-TEST_P(BuildSystemsCMake, WrongArgumentsSayWhatIsWrong)
+TEST_P(BuildSystemsConfigure, WrongArgumentsSayWhatIsWrong)
 {
     writeGoodProject();
     expectNotConfigured("nalvo_add_rom(rom OUTPUT hex=r.hex)\n", "nalvo_add_rom(rom): PROJECT is missing");
@@ -163,6 +164,10 @@ TEST_P(BuildSystemsCMake, WrongArgumentsSayWhatIsWrong)
                         "an OUTPUT is KIND[:OPTION...]=FILE: r.hex");
     expectNotConfigured("nalvo_add_rom(rom PROJECT ../p.nalvo OUTPUT hex={DEVICE}.hex)\n", "an OUTPUT is KIND");
     expectNotConfigured("nalvo_add_rom(rom PROJECT ../p.nalvo OUTPUT hex=r.hex LISTING)\n", "no value for LISTING");
+    expectNotConfigured("nalvo_add_rom(rom PROJECT ../p.nalvo OUTPUT hex=r.hex mif=./r.hex)\n",
+                        "two outputs go to the same file");
+    expectNotConfigured("nalvo_add_rom(rom PROJECT ../p.nalvo OUTPUT hex=r.hex EVENT button3)\n",
+                        "EVENT is button1, button2, save or none: button3");
     expectNotConfigured("nalvo_add_rom(rom x PROJECT ../p.nalvo OUTPUT hex=r.hex)\n", "unknown arguments: x");
 }
 
@@ -174,6 +179,19 @@ TEST_F(BuildSystems, TheMakefileFollowsAllThatItReads)
     expectExamplesUnchanged();
     const AsmToolResult check = call("make", {"check"}, "examples/build_systems");
     EXPECT_EQ(check.status, 0) << check.err.constData();
+}
+
+TEST_F(BuildSystems, TheMakefileMakesAMissingOutputAnew)
+{
+    const auto build = [this] { return call("make", {"BUILD=" + path("rom")}, "examples/build_systems").status; };
+    ASSERT_EQ(build(), 0);
+    ASSERT_EQ(runs(), 1);
+    for (const char* file : {"rom/rom.mif", "rom/rom.hex"}) {
+        ASSERT_TRUE(QFile::remove(path(file)));
+        ASSERT_EQ(build(), 0);
+        EXPECT_TRUE(exists(file));
+    }
+    EXPECT_EQ(runs(), 3);
 }
 
 TEST_F(BuildSystems, TheMakefileLeavesNothingAfterAnError)
@@ -199,25 +217,30 @@ TEST_F(BuildSystems, TheInstalledPackageFindsTheProgramBesideIt)
 {
     write("dist/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Dist VERSION 1.2 LANGUAGES NONE)\n"
                                  "add_subdirectory(" NALVO_SOURCE_DIR "/dist/cmake cmake)\n");
-    ASSERT_EQ(call("cmake", {"-S", path("dist"), "-B", path("dist-build")}).status, 0);
-    const AsmToolResult installed = call("cmake", {"--install", path("dist-build"), "--prefix", path("usr")});
+    // In folders that are not the usual ones; then the whole is moved.
+    ASSERT_EQ(call("cmake", {"-S", path("dist"), "-B", path("dist-build"), "-DCMAKE_INSTALL_BINDIR=games",
+                             "-DCMAKE_INSTALL_DATADIR=data/of all"})
+                  .status,
+              0);
+    const AsmToolResult installed = call("cmake", {"--install", path("dist-build"), "--prefix", path("first")});
     ASSERT_EQ(installed.status, 0) << installed.err.constData();
-    mkdir("usr/bin");
-    ASSERT_TRUE(QFile::link(NALVO_ASM, path("usr/bin/nalvo-asm")));
+    mkdir("first/games");
+    ASSERT_TRUE(QFile::link(NALVO_ASM, path("first/games/nalvo-asm")));
+    ASSERT_TRUE(QDir().rename(path("first"), path("the other")));
     write("own/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Own LANGUAGES NONE)\n"
                                 "find_package(Nalvo 1.1 REQUIRED)\n"
                                 "nalvo_add_rom(rom ALL PROJECT ../" +
                                     QByteArray(project) + " OUTPUT hex=rom.hex)\n");
-    const AsmToolResult configured =
-        call("cmake", {"-S", path("own"), "-B", path("build"), "-DCMAKE_PREFIX_PATH=" + path("usr")});
+    const QString package = "-DNalvo_DIR=" + path("the other/data/of all/cmake/Nalvo");
+    const AsmToolResult configured = call("cmake", {"-S", path("own"), "-B", path("build"), package});
     ASSERT_EQ(configured.status, 0) << configured.err.constData();
-    EXPECT_TRUE(read("build/CMakeCache.txt").contains(path("usr/bin/nalvo-asm").toUtf8()));
+    EXPECT_TRUE(read("build/CMakeCache.txt").contains(path("the other/games/nalvo-asm").toUtf8()));
     ASSERT_EQ(call("cmake", {"--build", path("build")}).status, 0);
     EXPECT_EQ(read("build/rom.hex"), expectedHex());
     // A newer release than the installed one is another package.
     write("own/CMakeLists.txt", "cmake_minimum_required(VERSION 3.20)\nproject(Own LANGUAGES NONE)\n"
                                 "find_package(Nalvo 1.3 REQUIRED)\n");
-    EXPECT_NE(call("cmake", {"-S", path("own"), "-B", path("other"), "-DCMAKE_PREFIX_PATH=" + path("usr")}).status, 0);
+    EXPECT_NE(call("cmake", {"-S", path("own"), "-B", path("newer"), package}).status, 0);
 }
 
 /// As FuseSoC calls it: with a YAML file, in a folder of its own.

@@ -48,6 +48,7 @@ protected:
                 "a\\ b.psm",
                 "a\\\\ b#c.psm",
                 "~tilde.psm",
+                "~/in home.psm",
                 "sub dir/x.psm",
                 "gr\xc3\xbc\xc3\x9f"
                 "e.psm",
@@ -173,7 +174,8 @@ TEST_F(AsmToolDepfile, AFileThatCanNotBeWritten)
 
 TEST_F(AsmToolDepfile, ANameThatNoRuleCanHold)
 {
-    for (const char* name : {"a%b.psm", "a=b.psm", "a;b.psm", "a\nb.psm"}) {
+    for (const char* name : {"a%b.psm", "a=b.psm", "a;b.psm", "a\nb.psm", "a|b.psm", "a\\:b.psm", "a.psm\\", "a.psm ",
+                             "a.psm\t", "a.psm&"}) {
         writeSources({name});
         const AsmToolResult result = run({"--depfile", "rom.d", "-o", "hex=rom.hex", "p.nalvo"});
         EXPECT_EQ(result.status, 1) << name;

@@ -5,6 +5,8 @@
 
 #include <QStandardPaths>
 
+#include <unistd.h>
+
 using namespace nsImage;
 
 namespace {
@@ -239,16 +241,46 @@ TEST_F(AsmToolImages, AFileNeverReplacesOneOfTheRun)
         const QByteArray before = exists(file) ? read(file) : QByteArray();
         const AsmToolResult result = run({"-o", QString("mif=") + file, "p.nalvo"});
         EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.errLines().value(0), "error: File of the project would be overwritten: " + path(file));
+        EXPECT_EQ(result.errLines().value(0), QString("error: File of the project would be overwritten: ") + file);
         EXPECT_EQ(read(file), before.isEmpty() ? hexText() : before);
     }
     const AsmToolResult twice = run({"-o", "mif=x", "-o", "coe=./x", "p.nalvo"});
     EXPECT_EQ(twice.status, 1);
-    EXPECT_EQ(twice.errLines().value(0), "error: File was already written in this run: " + path("x"));
+    EXPECT_EQ(twice.errLines().value(0), "error: File was already written in this run: ./x");
     EXPECT_EQ(readMif(read("x")).words.size(), 1024);
     const AsmToolResult listing = run({"-o", "mif=y", "-l", "y", "p.nalvo"});
     EXPECT_EQ(listing.status, 1);
     EXPECT_EQ(listing.errLines().value(0), "error: File was already written in this run: y");
+}
+
+/// A file with two names is one file, whichever of them an output has.
+TEST_F(AsmToolImages, AnotherNameOfAFileOfTheRunIsNotWritten)
+{
+    writeProject(AsmProject().output("hex", "hard.psm").vhdl("t.vhd", "out.vhd"));
+    write("a.psm", goodSource());
+    write("t.vhd", vhdlTemplate());
+    ASSERT_EQ(link(qPrintable(path("a.psm")), qPrintable(path("hard.psm"))), 0);
+    ASSERT_EQ(link(qPrintable(path("t.vhd")), qPrintable(path("out.vhd"))), 0);
+    const AsmToolResult ofProject = run({"p.nalvo"});
+    EXPECT_EQ(ofProject.status, 1);
+    EXPECT_TRUE(ofProject.err.contains("would overwrite a file of the project: " + path("hard.psm").toUtf8()))
+        << ofProject.err.constData();
+    // No output of the project any more, but still a name of its source.
+    writeProject(AsmProject());
+    for (const QStringList& option :
+         {QStringList{"-o", "mif=hard.psm"}, {"-l", "hard.psm"}, {"--depfile", "hard.psm"}}) {
+        const AsmToolResult result = run(QStringList{"-e", "none", "--depfile-target", "x", "--depfile", "x.d"} +
+                                         option + QStringList("p.nalvo"));
+        EXPECT_EQ(result.status, 1) << option.join(' ').toStdString();
+        EXPECT_EQ(result.errLines().value(0), "error: File of the project would be overwritten: hard.psm");
+    }
+    EXPECT_EQ(read("a.psm"), goodSource());
+    EXPECT_EQ(read("t.vhd"), vhdlTemplate());
+    write("one", "");
+    ASSERT_EQ(link(qPrintable(path("one")), qPrintable(path("two"))), 0);
+    const AsmToolResult twice = run({"-q", "-e", "none", "-o", "mif=one", "-o", "coe=two", "p.nalvo"});
+    EXPECT_EQ(twice.errLines().value(0), "error: File was already written in this run: two");
+    EXPECT_EQ(readMif(read("one")).words.size(), 1024);
 }
 
 TEST_F(AsmToolImages, AFolderThatDoesNotExist)
@@ -265,7 +297,8 @@ TEST_F(AsmToolImages, AWordThatIsTooWideWritesNothing)
     writeGoodProject();
     const AsmToolResult result = run({"-o", "mif:17=x.mif", "p.nalvo"});
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.errLines().value(0), "error: Word at address 1 does not fit into 17 bits! [errTargetWordTooWide]");
+    EXPECT_EQ(result.errLines().value(0),
+              "error: Word at address 1 does not fit into 17 bits: " + path("x.mif") + " [errTargetWordTooWide]");
     EXPECT_FALSE(exists("x.mif"));
 }
 
@@ -281,11 +314,13 @@ TEST_F(AsmToolImages, WrongTexts)
     expectWrong("vhdl=x", "Unknown kind of output: vhdl. There are " + kinds);
     expectWrong("MIF=x", "Unknown kind of output: MIF. There are " + kinds);
     expectWrong("hex:9=x", "hex has no options: 9");
-    expectWrong("mif:big=x", "Unknown option of mif: big. There are a number of bits");
-    expectWrong("binary:words=x", "Unknown option of binary: words. There are little, big, a number of bits");
+    expectWrong("mif:big=x", "Unknown option of mif: big. Possible: a number of bits");
+    expectWrong("binary:words=x", "Unknown option of binary: words. Possible: little, big, a number of bits");
     expectWrong("ram:0=x", "A word has 1 to 32 bits: 0");
     expectWrong("ram:33=x", "A word has 1 to 32 bits: 33");
-    expectWrong("ram:-1=x", "Unknown option of ram: -1. There are halves, whole, a number of bits");
+    expectWrong("ram:-1=x", "Unknown option of ram: -1. Possible: halves, whole, a number of bits");
+    expectWrong("binary:big:little=x", "An output has one layout and one number of bits: binary:big:little=x");
+    expectWrong("ihex:18:words:32=x", "An output has one layout and one number of bits: ihex:18:words:32=x");
     EXPECT_FALSE(exists("x"));
 }
 

@@ -28,7 +28,7 @@ bool isReplaceable(const QString& file)
 bool isSameTarget(const QString& name, const QString& other)
 {
     const QString target = pathWithoutLinks(name);
-    return target == pathWithoutLinks(other) && !target.startsWith("/dev/");
+    return (target == pathWithoutLinks(other) || isSameFile(name, other)) && !target.startsWith("/dev/");
 }
 
 ProjectFiles::ProjectFiles(const QString& project, const QStringList& sources, const nsModAsmFe::IODevList& devices)
@@ -42,10 +42,7 @@ ProjectFiles::ProjectFiles(const QString& project, const QStringList& sources, c
 
 bool ProjectFiles::contains(const QString& file) const
 {
-    const QString canonical = QFileInfo(file).canonicalFilePath();
-    return !canonical.isEmpty() && std::any_of(m_files.cbegin(), m_files.cend(), [&](const QString& taken) {
-        return QFileInfo(taken).canonicalFilePath() == canonical;
-    });
+    return std::any_of(m_files.cbegin(), m_files.cend(), [&](const QString& taken) { return isSameFile(taken, file); });
 }
 
 QString OutputFile::open(const QString& name)

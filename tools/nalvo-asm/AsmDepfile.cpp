@@ -11,11 +11,14 @@ namespace nsNalvoAsm {
 
 namespace {
 
-/// These mean something to make in any place of a rule, and nothing takes that away in a way that ninja reads, too.
+/// Some characters mean something to make in any place of a rule or at the end of a name, and nothing takes that away
+/// in a way that ninja reads, too.
 bool isPossible(const QString& name)
 {
-    static const QString impossible = QStringLiteral("%;=\n\r");
-    return std::none_of(name.begin(), name.end(), [](QChar letter) { return impossible.contains(letter); });
+    static const QString impossible = QStringLiteral("%;=|\n\r");
+    static const QString impossibleAtEnd = QStringLiteral("\\& \t");
+    return std::none_of(name.begin(), name.end(), [](QChar letter) { return impossible.contains(letter); }) &&
+           !name.contains(QLatin1String("\\:")) && !name.isEmpty() && !impossibleAtEnd.contains(name.back());
 }
 
 QByteArray escaped(const QString& name)
@@ -23,9 +26,6 @@ QByteArray escaped(const QString& name)
     const QByteArray plain = QFile::encodeName(name);
     QByteArray result;
     int backslashes = 0;
-    // A name that begins with a tilde is that of a home folder.
-    if (plain.startsWith('~'))
-        result = "./";
     for (char letter : plain) {
         switch (letter) {
         case ' ':

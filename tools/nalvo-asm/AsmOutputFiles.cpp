@@ -85,9 +85,10 @@ void AsmOutputFiles::writeImages(const AsmOutputRequest& request)
 
 bool AsmOutputFiles::writeImage(const AsmOutputRequest& request, IODev* dev)
 {
-    const QString file = QFileInfo(request.fileOf(dev->devName)).absoluteFilePath();
-    if (!mayWrite(file))
+    const QString name = request.fileOf(dev->devName);
+    if (!mayWrite(name))
         return false;
+    const QString file = QFileInfo(name).absoluteFilePath();
     dev->targets[request.kind] = request.target;
     dev->targets[request.kind].outputFile = file;
     const std::unique_ptr<TargetMapper> writer = targetKind(request.kind).newWriter();
@@ -105,8 +106,11 @@ void AsmOutputFiles::writeDepfile(const QString& file, const QStringList& target
         return;
     const auto shown = [](const QStringList& paths) {
         QStringList result;
-        for (const QString& path : paths)
-            result.append(shownPath(path));
+        for (const QString& path : paths) {
+            const QString name = shownPath(path);
+            // To make, a name that begins with a tilde is that of a home folder, also behind "./".
+            result.append(name.startsWith('~') ? path : name);
+        }
         return result;
     };
     const AsmProgram& program = m_project.assembler().program();

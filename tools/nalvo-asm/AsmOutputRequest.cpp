@@ -49,10 +49,15 @@ QString AsmOutputRequest::parse(const QString& text)
         return tr("Unknown kind of output: %1. There are %2").arg(parts.first(), kindNames());
     kind = found->kind;
     target.en = true;
+    int layouts = 0;
+    int widths = 0;
     for (const QString& option : parts.mid(1)) {
         const QString problem = parseOption(option);
         if (!problem.isEmpty())
             return problem;
+        int& number = found->layoutNames().contains(option) ? layouts : widths;
+        if (++number > 1)
+            return tr("An output has one layout and one number of bits: %1").arg(text);
     }
     return QString();
 }
@@ -71,7 +76,7 @@ QString AsmOutputRequest::parseOption(const QString& option)
         const QStringList names =
             row.layoutNames() + (row.isImage ? QStringList(tr("a number of bits")) : QStringList());
         return names.isEmpty() ? tr("%1 has no options: %2").arg(QLatin1String(row.key), option)
-                               : tr("Unknown option of %1: %2. There are %3")
+                               : tr("Unknown option of %1: %2. Possible: %3")
                                      .arg(QLatin1String(row.key), option, names.join(QStringLiteral(", ")));
     }
     target.wordWidth = option.toInt();

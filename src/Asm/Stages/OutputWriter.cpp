@@ -118,13 +118,10 @@ bool OutputWriter::checkTargetFile(const QString& file)
         m_messages.signMsg(errTargetOutside, file, m_listener.refusalHint());
         return false;
     }
-    const QString canonical = QFileInfo(file).canonicalFilePath();
-    if (canonical.isEmpty())
+    if (!QFileInfo::exists(file))
         return true;
     const auto isOneOf = [&](const QStringList& others) {
-        return std::any_of(others.begin(), others.end(), [&](const QString& other) {
-            return !other.isEmpty() && QFileInfo(other).canonicalFilePath() == canonical;
-        });
+        return std::any_of(others.begin(), others.end(), [&](const QString& other) { return isSameFile(other, file); });
     };
     QStringList inputs = m_files.files();
     inputs.append(m_project.absPath(m_project.fileName));

@@ -1,5 +1,6 @@
 #include "TargetFileWriteHdl.h"
 
+#include "FilePath.h"
 #include "HexText.h"
 #include "IODev.h"
 #include "MetaTags.h"
@@ -86,8 +87,7 @@ bool TargetFileWriteHdl::writeFile(IODev* dev, const MetaTags* metaTags)
     QByteArray text;
     if (!fillTemplate(hdl, *metaTags, &text))
         return fail(errTargetOpenTemplate, hdl.templateFile);
-    const QString canonical = QFileInfo(hdl.outputFile).canonicalFilePath();
-    if (!canonical.isEmpty() && canonical == QFileInfo(hdl.templateFile).canonicalFilePath())
+    if (isSameFile(hdl.outputFile, hdl.templateFile))
         return fail(errTargetOpenDestination, hdl.outputFile);
     return writeBytes(hdl.outputFile, text, errTargetOpenDestination) && checkComplete();
 }

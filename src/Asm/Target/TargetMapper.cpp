@@ -34,9 +34,9 @@ TargetMapper::TargetMapper(QObject* parent)
 {
 }
 
-bool TargetMapper::fail(eMsgType_t type, const QString& arg1, const QString& arg2)
+bool TargetMapper::fail(eMsgType_t type, const QString& arg1, const QString& arg2, const QString& arg3)
 {
-    AsmFeMsgHndlr::showMsg(modMsgHook, type, nsModMsg::MsgUrl(), arg1, arg2);
+    AsmFeMsgHndlr::showMsg(modMsgHook, type, nsModMsg::MsgUrl(), arg1, arg2, arg3);
     return false;
 }
 

@@ -29,7 +29,8 @@ public:
 
 protected:
     /// Reports an error. @return false
-    bool fail(eMsgType_t type, const QString& arg1 = QString(), const QString& arg2 = QString());
+    bool fail(eMsgType_t type, const QString& arg1 = QString(), const QString& arg2 = QString(),
+              const QString& arg3 = QString());
     void warn(eMsgType_t type);
     /// @return the device has a kind; else an error is reported
     bool checkType(const IODev* dev);

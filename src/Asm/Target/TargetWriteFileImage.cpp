@@ -136,7 +136,7 @@ bool TargetWriteFileImage::writeFile(IODev* dev, const MetaTags*)
         if (!dev->value(addr, &word))
             return fail(errInternal, tr("addrIterator exceeds memSize"));
         if (file.wordWidth < 32 && word >> file.wordWidth != 0)
-            return fail(errTargetWordTooWide, QString::number(addr), QString::number(file.wordWidth));
+            return fail(errTargetWordTooWide, QString::number(addr), QString::number(file.wordWidth), file.outputFile);
     }
     return writeBytes(file.outputFile, bytes(words, file), errTargetOpenOutput);
 }
