@@ -13,12 +13,14 @@ QString keyOf(const sTargetKind_t& kind)
     return QLatin1String(kind.section) + '/' + QLatin1String(kind.key);
 }
 
-/// The project has a use for this kind, or had one. The events alone do not count: they begin as set.
+/// The project has a use for this kind, or had one: a device of a source may be written at these events.
 bool isUsed(PrjSettings* prj, const sTargetKind_t& kind, const TargetConfig& config)
 {
     const TargetConfig defaults;
     return config.en || !config.outputFile.isEmpty() || config.wordWidth != defaults.wordWidth ||
-           config.layout != defaults.layout || prj->value(keyOf(kind) + "/en", -1) != -1;
+           config.layout != defaults.layout || config.writeFileEventBut1 != defaults.writeFileEventBut1 ||
+           config.writeFileEventBut2 != defaults.writeFileEventBut2 ||
+           config.writeFileEventSave != defaults.writeFileEventSave || prj->value(keyOf(kind) + "/en", -1) != -1;
 }
 
 template <class Items, class Config>

@@ -336,6 +336,7 @@ TEST_F(AsmFePage, EventsOfAnOutputThatIsOffAreGreyAndSayThatTheyOnlyWarn)
     EXPECT_TRUE(isGrey("targetEvent20"));
     EXPECT_FALSE(eventsHint->isHidden());
     EXPECT_TRUE(eventsHint->text().contains("only warn that no file is defined"));
+    EXPECT_TRUE(eventsHint->text().contains("those of images, from MIF on, do not even warn"));
     QTest::keyClick(enable("targetHex"), Qt::Key_Space);
     for (const char* name : {"targetEvents2", "targetEvent20", "targetEvent21", "targetEvent22"})
         EXPECT_FALSE(isGrey(name)) << name;

@@ -204,6 +204,17 @@ TEST(Icons, areThereInAllSizesAndAsDrawings)
 
 // --- installation ---
 
+/// Below /usr, zsh looks where the distribution says, which is not where it looks below /usr/local.
+TEST(Installed, thePackagesPutCompletionsWhereZshLooks)
+{
+    static const QRegularExpression option("-DNALVO_ZSH_DIR=(\\S+)");
+    const QRegularExpressionMatch match = option.match(content(sourceFile("debian/rules")));
+    ASSERT_TRUE(match.hasMatch());
+    const QStringList folders = run("zsh", {"-f", "-c", "print -l $fpath"}).out.split('\n');
+    EXPECT_TRUE(folders.contains("/usr/" + match.captured(1))) << qPrintable(folders.join('\n'));
+    EXPECT_TRUE(folders.contains("/usr/local/share/zsh/site-functions")) << "what cmake --install takes by default";
+}
+
 TEST(Installed, liesWhereDesktopsAndShellsLook)
 {
     QTemporaryDir prefix;
@@ -214,6 +225,7 @@ TEST(Installed, liesWhereDesktopsAndShellsLook)
                          "share/zsh/site-functions/_nalvo-tools",
                          "share/cmake/Nalvo/NalvoConfig.cmake",
                          "share/cmake/Nalvo/NalvoConfigVersion.cmake",
+                         "share/cmake/Nalvo/NalvoPaths.cmake",
                          "share/cmake/Nalvo/NalvoRom.cmake"};
     for (const QString& name :
          {QStringLiteral("apps/nalvo"), QStringLiteral("mimetypes/application-x-nalvo-project")}) {

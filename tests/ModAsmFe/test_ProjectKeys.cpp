@@ -98,20 +98,20 @@ TEST(ProjectKeys, anImageHasKeysOnlyWhereItIsUsed)
 {
     AsmFixture f;
     f.open();
-    // The events of a kind that nobody uses are no reason to store it.
-    f.asmFe.targets[kindCoe].writeFileEventBut1 = false;
     f.prj.savePrjCfg();
     EXPECT_EQ(asTexts(f.prj.tree.values), asTexts(defaults));
     f.asmFe.targets[kindMif].outputFile = f.path("sub/out.mif");
     f.asmFe.targets[kindIntelHex].layout = layoutWords;
     f.asmFe.targets[kindRamMem].wordWidth = 9;
     f.asmFe.targets[kindBinary].en = true;
+    // No output of the project, but of a device of a source, which is not to be written then.
+    f.asmFe.targets[kindCoe].writeFileEventBut1 = false;
     f.prj.savePrjCfg();
     QHash<QString, QVariant> expected = defaults;
-    for (const char* kind : {"mif", "binary", "ihex", "ram"}) {
+    for (const char* kind : {"mif", "coe", "binary", "ihex", "ram"}) {
         const QString key = QString("Outputs/%1/").arg(kind);
         expected.insert(key + "en", int(qstrcmp(kind, "binary") == 0));
-        expected.insert(key + "writeFileEventBut1", 1);
+        expected.insert(key + "writeFileEventBut1", int(qstrcmp(kind, "coe") != 0));
         expected.insert(key + "writeFileEventBut2", 1);
         expected.insert(key + "writeFileEventSave", 0);
         expected.insert(key + "outputFile", qstrcmp(kind, "mif") == 0 ? "sub/out.mif" : "");
@@ -128,6 +128,7 @@ TEST(ProjectKeys, anImageHasKeysOnlyWhereItIsUsed)
     EXPECT_EQ(f.asmFe.targets[kindMif].outputFile, f.path("sub/out.mif"));
     EXPECT_EQ(f.asmFe.targets[kindIntelHex].layout, int(layoutWords));
     EXPECT_EQ(f.asmFe.targets[kindRamMem].wordWidth, 9);
+    EXPECT_FALSE(f.asmFe.targets[kindCoe].writeFileEventBut1);
     f.asmFe.targets[kindBinary].en = false;
     f.prj.savePrjCfg();
     expected["Outputs/binary/en"] = 0;

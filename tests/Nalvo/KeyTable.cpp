@@ -191,6 +191,46 @@ const KeyTable& projectKeys()
     return keys;
 }
 
+const KeyTable& imageKeys()
+{
+    static const KeyTable keys = {
+        {"Outputs/mif/en", "bool", "0", "1"},
+        {"Outputs/mif/writeFileEventBut1", "bool", "1", "0"},
+        {"Outputs/mif/writeFileEventBut2", "bool", "1", "0"},
+        {"Outputs/mif/writeFileEventSave", "bool", "0", "1"},
+        {"Outputs/mif/outputFile", "path", "", "out&#47;rom.mif"},
+        {"Outputs/mif/wordWidth", "int", "18", "9"},
+        {"Outputs/coe/en", "bool", "0", "1"},
+        {"Outputs/coe/writeFileEventBut1", "bool", "1", "0"},
+        {"Outputs/coe/writeFileEventBut2", "bool", "1", "0"},
+        {"Outputs/coe/writeFileEventSave", "bool", "0", "1"},
+        {"Outputs/coe/outputFile", "path", "", "out&#47;rom.coe"},
+        {"Outputs/coe/wordWidth", "int", "18", "16"},
+        {"Outputs/binary/en", "bool", "0", "1"},
+        {"Outputs/binary/writeFileEventBut1", "bool", "1", "0"},
+        {"Outputs/binary/writeFileEventBut2", "bool", "1", "0"},
+        {"Outputs/binary/writeFileEventSave", "bool", "0", "1"},
+        {"Outputs/binary/outputFile", "path", "", "out&#47;rom.binary"},
+        {"Outputs/binary/wordWidth", "int", "18", "32"},
+        {"Outputs/binary/layout", "int", "0", "1"},
+        {"Outputs/ihex/en", "bool", "0", "1"},
+        {"Outputs/ihex/writeFileEventBut1", "bool", "1", "0"},
+        {"Outputs/ihex/writeFileEventBut2", "bool", "1", "0"},
+        {"Outputs/ihex/writeFileEventSave", "bool", "0", "1"},
+        {"Outputs/ihex/outputFile", "path", "", "out&#47;rom.ihex"},
+        {"Outputs/ihex/wordWidth", "int", "18", "1"},
+        {"Outputs/ihex/layout", "int", "0", "2"},
+        {"Outputs/ram/en", "bool", "0", "1"},
+        {"Outputs/ram/writeFileEventBut1", "bool", "1", "0"},
+        {"Outputs/ram/writeFileEventBut2", "bool", "1", "0"},
+        {"Outputs/ram/writeFileEventSave", "bool", "0", "1"},
+        {"Outputs/ram/outputFile", "path", "", "out&#47;rom.ram"},
+        {"Outputs/ram/wordWidth", "int", "18", "27"},
+        {"Outputs/ram/layout", "int", "0", "1"},
+    };
+    return keys;
+}
+
 const KeyTable& documentKeys()
 {
     static const KeyTable keys = {

@@ -23,6 +23,8 @@ const KeyTable& settingsKeys();
 /// The keys of a project file that do not depend on the processor. The values stand here as they do in the elements,
 /// where "/" and some more characters are written as references.
 const KeyTable& projectKeys();
+/// The keys of the images for tools of vendors. Those of a kind go together, and only where the project uses it.
+const KeyTable& imageKeys();
 /// The keys of the documents that are open in a project; they go together.
 const KeyTable& documentKeys();
 /// The keys of a processor's section. @param processor name as in the project; an unknown one has none

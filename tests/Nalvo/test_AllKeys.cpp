@@ -147,7 +147,7 @@ protected:
 
 TEST_F(AllKeys, theTableSaysWhatItMeans)
 {
-    KeyTable keys = joined(joined(settingsKeys(), projectKeys()), documentKeys());
+    KeyTable keys = joined(joined(settingsKeys(), projectKeys()), joined(imageKeys(), documentKeys()));
     for (const char* processor : processors)
         keys = joined(keys, processorKeys(processor));
     for (const sKey_t& key : keys) {
@@ -203,6 +203,27 @@ TEST_F(AllKeys, anEmptySettingIsItsDefaultAgain)
     expectSame(settings(), defaults(settingsKeys()));
 }
 
+/// Each key on its own is a reason to keep its kind, and no other kind.
+TEST_F(AllKeys, aKeyOfAnImageKeepsItsKind)
+{
+    makeWindow();
+    for (const sKey_t& key : imageKeys()) {
+        const QString kind = QString(key.key).section('/', 0, 1) + '/';
+        KeyValues expected;
+        for (const sKey_t& other : imageKeys()) {
+            if (QString(other.key).startsWith(kind))
+                expected.insert(other.key, other.dflt);
+        }
+        expected.insert(key.key, key.other);
+        KeyValues found = openAndClose({{key.key, key.other}});
+        for (const QString& name : found.keys()) {
+            if (!name.startsWith("Outputs/"))
+                found.remove(name);
+        }
+        expectSame(found, expected);
+    }
+}
+
 TEST_P(ProjectKeys, aNewProjectGetsTheDefaults)
 {
     startAndStop({});
@@ -219,6 +240,18 @@ TEST_P(ProjectKeys, surviveOpeningAndClosing)
         // The width of a tab goes on from project to project where a project says none.
         const KeyValues written = overlaid({{"ModEditor/tabIndent", "4"}}, others);
         expectSame(openAndClose(written), overlaid(allDefaults(), others));
+    }
+}
+
+TEST_P(ProjectKeys, imagesSurvive)
+{
+    makeWindow();
+    const KeyTable& keys = imageKeys();
+    for (int round = 0; round < roundsOf(keys); ++round) {
+        SCOPED_TRACE(round);
+        // A kind of which one key is there is stored as a whole.
+        const KeyValues images = overlaid(defaults(keys), othersOf(keys, round));
+        expectSame(openAndClose(withProcessor(images)), overlaid(allDefaults(), images));
     }
 }
 

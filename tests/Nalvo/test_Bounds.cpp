@@ -89,7 +89,7 @@ TEST_P(Bounds, areKeptByProjects)
     for (const char* processor : processors) {
         SCOPED_TRACE(processor);
         KeyValues values = {{"sources/srcFiles", "main.psm"}, {"ModProcessor/processor", processor}};
-        for (const KeyTable& table : {projectKeys(), documentKeys(), processorKeys(processor)}) {
+        for (const KeyTable& table : {projectKeys(), imageKeys(), documentKeys(), processorKeys(processor)}) {
             for (const sKey_t& key : table) {
                 if (isNumber(key))
                     values.insert(key.key, GetParam());

@@ -10,6 +10,7 @@
 #include "ProcTable.h"
 #include "Processor.h"
 #include "SourcesConfig.h"
+#include "TargetKinds.h"
 
 namespace nsImport {
 
@@ -65,8 +66,11 @@ QByteArray ImportProject::text() const
     vhdl.entityName = vhdlEntity;
     vhdl.templateFile = vhdlTemplate;
     vhdl.outputFile = vhdlFile;
-    for (nsModAsmFe::TargetConfig& target : config.targets) {
-        // An event of an output that is off would cause a warning in each run.
+    for (const nsModAsmFe::sTargetKind_t& kind : nsModAsmFe::targetKinds()) {
+        // An event of an output that is off would cause a warning in each run; images are silent.
+        if (kind.isImage)
+            continue;
+        nsModAsmFe::TargetConfig& target = config.targets[kind.kind];
         target.writeFileEventBut1 = target.en;
         target.writeFileEventBut2 = target.en;
     }

@@ -62,7 +62,7 @@ TargetMapperConfigWidget::TargetMapperConfigWidget(QWidget* parent)
     m_layout->setColumnStretch(eventCount + 1, 1);
     m_hint =
         new QLabel(tr("Grey: this output is off. Its events only warn that no file is defined, unless a device of the "
-                      "sources has a file of this kind."),
+                      "sources has a file of this kind; those of images, from MIF on, do not even warn."),
                    this);
     m_hint->setObjectName(QStringLiteral("targetEventsHint"));
     m_hint->setWordWrap(true);
