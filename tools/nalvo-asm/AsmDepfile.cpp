@@ -18,7 +18,7 @@ bool isPossible(const QString& name)
     static const QString impossible = QStringLiteral("%;=|\n\r");
     static const QString impossibleAtEnd = QStringLiteral("\\& \t");
     return std::none_of(name.begin(), name.end(), [](QChar letter) { return impossible.contains(letter); }) &&
-           !name.contains(QLatin1String("\\:")) && !name.isEmpty() && !impossibleAtEnd.contains(name.back());
+           !name.contains(QLatin1String("\\:")) && (name.isEmpty() || !impossibleAtEnd.contains(name.back()));
 }
 
 QByteArray escaped(const QString& name)
