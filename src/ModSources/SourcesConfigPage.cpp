@@ -105,9 +105,11 @@ void SourcesConfigPage::insertFile(const QString& path)
 void SourcesConfigPage::dropFile(const QString& path)
 {
     const QString clean = QDir::cleanPath(path);
-    for (int row = m_list->count() - 1; row >= 0; --row) {
-        if (m_list->item(row)->data(Qt::UserRole).toString() == clean)
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(Qt::UserRole).toString() == clean) {
             delete m_list->takeItem(row);
+            return;
+        }
     }
 }
 
