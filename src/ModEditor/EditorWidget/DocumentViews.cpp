@@ -88,4 +88,11 @@ void DocumentViews::flag(int line)
         m_second->lineHighlights()->flag(line);
 }
 
+void DocumentViews::followFolds()
+{
+    m_highlights->followFolds();
+    if (m_second != nullptr)
+        m_second->lineHighlights()->followFolds();
+}
+
 } // namespace nsModEditor

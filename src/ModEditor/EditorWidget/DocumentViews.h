@@ -35,6 +35,8 @@ public:
     void setHits(const QRegularExpression& expression);
     /// Flags the line; one that there is not takes the flag away.
     void flag(int line);
+    /// Lines were hidden or shown.
+    void followFolds();
 
 private:
     EditorWidget* m_page;
