@@ -1,5 +1,6 @@
 #include "ModAction.h"
 
+#include "FixedKeys.h"
 #include "MenuKeys.h"
 #include "ModActionPluginIf.h"
 #include "ModCfgAppHookIf.h"
@@ -214,7 +215,7 @@ nsModConfig::ModConfigPagePluginIf* ModAction::configPage(int)
 void ModAction::configPageSetConfig(nsModConfig::ModConfigPagePluginIf*)
 {
     if (m_configPage != nullptr)
-        m_configPage->setCommands(m_shortcuts.commands());
+        m_configPage->setCommands(m_shortcuts.commands() + FixedKeys::rows());
 }
 
 void ModAction::configPageClose(bool accepted)

@@ -119,8 +119,8 @@ QVector<Shortcuts::sCommand_t> Shortcuts::commands() const
     for (const QString& menu : m_menus) {
         for (const QPointer<QAction>& action : m_entries.value(menu)) {
             if (action != nullptr)
-                result.append(
-                    {idOf(menu, action), menu, plainText(action->text()), standardKeys(action), action->shortcuts()});
+                result.append({idOf(menu, action), menu, plainText(action->text()), standardKeys(action),
+                               action->shortcuts(), false});
         }
     }
     return result;

@@ -22,6 +22,7 @@ public:
         QString text; ///< without mnemonic and dots
         QList<QKeySequence> standard;
         QList<QKeySequence> keys; ///< the present ones
+        bool isFixed = false;     ///< no command: keys of a single list or view, which can not be changed
     };
 
     /// The entries of a menu as they are now. Entries that are new get the keys that the user has chosen for them.

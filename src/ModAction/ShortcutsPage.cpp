@@ -108,6 +108,10 @@ void ShortcutsPage::setCommands(const QVector<Shortcuts::sCommand_t>& commands)
     for (int command = 0; command < m_commands.size(); ++command) {
         auto* item = new QTreeWidgetItem({m_commands.at(command).menu, m_commands.at(command).text});
         m_list->addTopLevelItem(item);
+        if (m_commands.at(command).isFixed) {
+            for (int column = 0; column < columnCount; ++column)
+                item->setForeground(column, palette().color(QPalette::Disabled, QPalette::Text));
+        }
         showRow(command);
     }
     if (!m_commands.isEmpty())
@@ -119,8 +123,10 @@ void ShortcutsPage::setCommands(const QVector<Shortcuts::sCommand_t>& commands)
 QHash<QString, QList<QKeySequence>> ShortcutsPage::keys() const
 {
     QHash<QString, QList<QKeySequence>> result;
-    for (const Shortcuts::sCommand_t& command : m_commands)
-        result.insert(command.id, command.keys);
+    for (const Shortcuts::sCommand_t& command : m_commands) {
+        if (!command.isFixed)
+            result.insert(command.id, command.keys);
+    }
     return result;
 }
 
@@ -176,11 +182,15 @@ int ShortcutsPage::current() const
 /// Another command that has one of its keys, noCommand for none.
 int ShortcutsPage::conflictOf(int command) const
 {
+    if (m_commands.at(command).isFixed)
+        return noCommand;
     for (int other = 0; other < m_commands.size(); ++other) {
         if (other == command)
             continue;
         for (const QKeySequence& key : m_commands.at(command).keys) {
-            if (m_commands.at(other).keys.contains(key))
+            // A key that the command comes with means the same in a list, as Copy does.
+            const bool isOwn = m_commands.at(other).isFixed && m_commands.at(command).standard.contains(key);
+            if (!isOwn && m_commands.at(other).keys.contains(key))
                 return other;
         }
     }
@@ -191,6 +201,8 @@ int ShortcutsPage::conflictOf(int command) const
 QString ShortcutsPage::menuWith(const QList<QKeySequence>& keys) const
 {
     for (const Shortcuts::sCommand_t& command : m_commands) {
+        if (command.isFixed)
+            break;
         const QString key = QStringLiteral("Alt+") + command.menu.left(1);
         if (keys.contains(QKeySequence::fromString(key, QKeySequence::PortableText)))
             return command.menu;
@@ -217,7 +229,7 @@ void ShortcutsPage::showCommand()
 {
     const int command = current();
     const bool isOne = command != noCommand;
-    m_edit->setEnabled(isOne);
+    m_edit->setEnabled(isOne && !m_commands.at(command).isFixed);
     m_reset->setEnabled(isOne && m_commands.at(command).keys != m_commands.at(command).standard);
     m_edit->setKeys(isOne ? m_commands.at(command).keys : QList<QKeySequence>());
     showConflict();
@@ -228,19 +240,24 @@ void ShortcutsPage::showConflict()
     const int command = current();
     const int other = command == noCommand ? noCommand : conflictOf(command);
     const QString menu = command == noCommand ? QString() : menuWith(m_commands.at(command).keys);
+    const bool isOtherFixed = other != noCommand && m_commands.at(other).isFixed;
     QString text;
-    if (!menu.isEmpty())
+    if (command != noCommand && m_commands.at(command).isFixed)
+        text = tr("These keys hold in this place alone and can not be changed.");
+    else if (!menu.isEmpty())
         text = tr("These keys open the menu \"%1\".").arg(menu);
+    else if (isOtherFixed)
+        text = tr("These keys belong to \"%1\", where they can not be changed.").arg(nameOf(m_commands.at(other)));
     else if (other != noCommand)
         text = tr("These keys belong to \"%1\", too.").arg(nameOf(m_commands.at(other)));
     m_conflict->setText(text);
-    m_take->setEnabled(menu.isEmpty() && other != noCommand);
+    m_take->setEnabled(menu.isEmpty() && other != noCommand && !isOtherFixed);
 }
 
 void ShortcutsPage::setKeys(const QKeySequence& keys)
 {
     const int command = current();
-    if (command == noCommand)
+    if (command == noCommand || m_commands.at(command).isFixed)
         return;
     change(command, keys.isEmpty() ? QList<QKeySequence>() : QList<QKeySequence>{keys});
     showCommand();
@@ -260,7 +277,8 @@ void ShortcutsPage::takeKeys()
     const int command = current();
     if (command == noCommand)
         return;
-    for (int other = conflictOf(command); other != noCommand; other = conflictOf(command)) {
+    for (int other = conflictOf(command); other != noCommand && !m_commands.at(other).isFixed;
+         other = conflictOf(command)) {
         QList<QKeySequence> left = m_commands.at(other).keys;
         for (const QKeySequence& key : m_commands.at(command).keys)
             left.removeAll(key);

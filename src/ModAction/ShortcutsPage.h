@@ -24,6 +24,7 @@ class ShortcutsPage : public QWidget, public nsModConfig::ModConfigPagePluginIf
 public:
     explicit ShortcutsPage(QWidget* parent = nullptr);
 
+    /// @param commands those that are fixed stand behind all others
     void setCommands(const QVector<Shortcuts::sCommand_t>& commands);
     /// The keys on the page, by the id of the command.
     QHash<QString, QList<QKeySequence>> keys() const;

@@ -1,9 +1,11 @@
 #include "ToolTipKeys.h"
 
+#include "ButtonCommand.h"
+
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QHelpEvent>
-#include <QToolButton>
 #include <QToolTip>
 
 namespace nsModAction {
@@ -19,8 +21,8 @@ bool ToolTipKeys::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() != QEvent::ToolTip)
         return false;
-    auto* button = qobject_cast<QToolButton*>(watched);
-    const QAction* action = button != nullptr ? button->defaultAction() : nullptr;
+    auto* button = qobject_cast<QAbstractButton*>(watched);
+    const QAction* action = button != nullptr ? ButtonCommand::of(button) : nullptr;
     if (action == nullptr || action->shortcut().isEmpty() || button->toolTip().isEmpty())
         return false;
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);

@@ -80,16 +80,18 @@ QWidget* ConfigDialog::makeButtons()
 {
     auto* frame = new QFrame(this);
     frame->setObjectName(QStringLiteral("configButtons"));
-    m_setDefault = new MyButton(tr("Set page default values"), frame);
+    auto* setDefault = new MyButton(tr("Set page default values"), frame);
+    setDefault->setShortText(tr("Default values"));
+    m_setDefault = setDefault;
     m_setDefault->setToolTip(tr("Fills the page that is shown with its default values"));
     m_restore = new MyButton(tr("Restore values"), frame);
     m_restore->setToolTip(tr("Undoes the changes on the page that is shown"));
     m_help = new MyButton(tr("Help"), frame);
-    m_help->setToolTip(tr("Shows the help of this page beside it"));
+    m_help->setToolTip(tr("Shows the help of this page beside it (F1)"));
     m_apply = new MyButton(tr("Apply and close"), frame);
     m_apply->setToolTip(tr("Takes over and saves the values of all pages"));
     m_cancel = new MyButtonCancel(frame);
-    m_cancel->setToolTip(tr("Closes the configuration without a change"));
+    m_cancel->setToolTip(tr("Closes the configuration without a change (Esc)"));
     connect(m_setDefault, &QPushButton::clicked, this, &ConfigDialog::setDefaultRequested);
     connect(m_restore, &QPushButton::clicked, this, &ConfigDialog::restoreRequested);
     connect(m_apply, &QPushButton::clicked, this, &ConfigDialog::closeRequested);

@@ -9,7 +9,6 @@
 #include "ModGuiHookIf.h"
 #include "ModGuiPluginIf.h"
 
-#include <QElapsedTimer>
 #include <QScrollBar>
 #include <QTextBlock>
 
@@ -21,6 +20,8 @@ namespace {
 
 const int maxCount = 9999;      ///< hits that are counted
 const int maxCountTime = 60;    ///< milliseconds that counting may take
+const int previewTime = 250;    ///< milliseconds that the look for the first hit may take while the user types
+const int findTime = 2000;      ///< milliseconds that a search may take
 const int linesAroundHit = 3;   ///< lines that are shown above a hit
 const int pause = 250;          ///< milliseconds without a change until the hits are counted again
 const int timeCheckLines = 256; ///< lines between two looks at the clock
@@ -102,7 +103,8 @@ void EditorFinder::say(const QString& text) const
         m_gui->modGuiHook->setStatusBarText(text);
 }
 
-QTextCursor EditorFinder::hitFrom(EditorWidget* widget, const TextSearch& search, int position, bool backward) const
+QTextCursor EditorFinder::hitFrom(EditorWidget* widget, const TextSearch& search, int position, bool backward,
+                                  SearchTime* time) const
 {
     const int begin = hasRange(widget) ? m_range.selectionStart() : 0;
     const int end = hasRange(widget) ? m_range.selectionEnd() : widget->document()->characterCount() - 1;
@@ -111,7 +113,11 @@ QTextCursor EditorFinder::hitFrom(EditorWidget* widget, const TextSearch& search
          block = backward ? block.previous() : block.next()) {
         if (backward ? block.position() + block.length() <= begin : block.position() > end)
             break;
-        QVector<sHit_t> hits = search.hitsIn(block.text());
+        QVector<sHit_t> hits = search.hitsIn(block.text(), time);
+        if (time->isOver() && hits.isEmpty()) {
+            time->leaveOut();
+            break;
+        }
         if (backward)
             std::reverse(hits.begin(), hits.end());
         for (const sHit_t& hit : qAsConst(hits)) {
@@ -129,7 +135,7 @@ QTextCursor EditorFinder::hitFrom(EditorWidget* widget, const TextSearch& search
 }
 
 /// Selects the next hit. @param fromEdge begins at the start or, backward, at the end
-bool EditorFinder::search(EditorWidget* widget, bool backward, bool fromEdge) const
+bool EditorFinder::search(EditorWidget* widget, bool backward, bool fromEdge, SearchTime* time) const
 {
     if (!isExtended(widget))
         return widget->find(m_findParameter.findString, m_findParameter.caseSensitive, m_findParameter.wholeWords,
@@ -140,7 +146,7 @@ bool EditorFinder::search(EditorWidget* widget, bool backward, bool fromEdge) co
     const QTextCursor cursor = widget->textCursor();
     const int edge = backward ? widget->document()->characterCount() - 1 : 0;
     const int from = fromEdge ? edge : backward ? cursor.selectionStart() : cursor.selectionEnd();
-    const QTextCursor hit = hitFrom(widget, TextSearch(searchOf(m_findParameter)), from, backward);
+    const QTextCursor hit = hitFrom(widget, TextSearch(searchOf(m_findParameter)), from, backward, time);
     if (hit.isNull())
         return false;
     widget->setTextCursor(hit);
@@ -160,19 +166,29 @@ void EditorFinder::find(bool configChanged, bool backward)
         say(tr("No valid regular expression: %1").arg(error));
         return;
     }
-    if (search(widget, backward, false)) {
+    SearchTime time(findTime);
+    if (search(widget, backward, false, &time)) {
         if (m_findParameter.wrapPending)
             say(QString());
         m_findParameter.wrapPending = false;
+    } else if (time.isOver()) {
+        say(tr("The regular expression takes too long."));
     } else if (!m_findParameter.wrapPending) {
         m_findParameter.wrapPending = true;
         say(backward ? tr("Begin of file reached, continuing from the end...")
                      : tr("End of file reached, continuing from the begin..."));
     } else {
         m_findParameter.wrapPending = false;
-        say(search(widget, backward, true) ? QString() : tr("String not found."));
+        say(search(widget, backward, true, &time) ? QString() : notFoundText(time));
     }
     showCount();
+}
+
+QString EditorFinder::notFoundText(const SearchTime& time)
+{
+    return time.isComplete()
+               ? tr("String not found.")
+               : tr("String not found; lines in which the regular expression takes too long were left out.");
 }
 
 void EditorFinder::replaceHit(EditorWidget* widget) const
@@ -214,22 +230,32 @@ void EditorFinder::replaceAllHits(EditorWidget* widget) const
     const TextSearch search(searchOf(m_findParameter));
     const int begin = hasRange(widget) ? m_range.selectionStart() : 0;
     const int end = hasRange(widget) ? m_range.selectionEnd() : widget->document()->characterCount() - 1;
-    QTextCursor step(widget->document());
-    step.beginEditBlock();
+    SearchTime time(findTime);
+    QVector<sHit_t> all; ///< by their place in the text
     // From the last line to the first one, so that the places of the hits stay true.
-    for (QTextBlock block = widget->document()->findBlock(end); block.isValid(); block = block.previous()) {
-        const QVector<sHit_t> hits = search.hitsIn(block.text(), m_findParameter.replaceString);
+    for (QTextBlock block = widget->document()->findBlock(end); block.isValid() && time.isComplete();
+         block = block.previous()) {
+        const QVector<sHit_t> hits = search.hitsIn(block.text(), m_findParameter.replaceString, &time);
         for (int i = hits.size() - 1; i >= 0; --i) {
             const int start = block.position() + hits.at(i).start;
-            if (start < begin || start + hits.at(i).length > end)
-                continue;
-            QTextCursor hit(widget->document());
-            hit.setPosition(start);
-            hit.setPosition(start + hits.at(i).length, QTextCursor::KeepAnchor);
-            hit.insertText(hits.at(i).replacement);
+            if (start >= begin && start + hits.at(i).length <= end)
+                all.append({start, hits.at(i).length, hits.at(i).replacement});
         }
         if (block.position() <= begin)
             break;
+    }
+    // A part of them would be worse than none: nobody could tell which.
+    if (!time.isComplete()) {
+        say(tr("Nothing was replaced: the regular expression takes too long."));
+        return;
+    }
+    QTextCursor step(widget->document());
+    step.beginEditBlock();
+    for (const sHit_t& hit : qAsConst(all)) {
+        QTextCursor place(widget->document());
+        place.setPosition(hit.start);
+        place.setPosition(hit.start + hit.length, QTextCursor::KeepAnchor);
+        place.insertText(hit.replacement);
     }
     step.endEditBlock();
 }
@@ -257,11 +283,12 @@ void EditorFinder::preview()
     takeRange(parameter);
     const TextSearch search(searchOf(parameter));
     for (EditorWidget* widget : m_documents->all())
-        widget->views()->setHits(widget == current && search.isValid() ? search.expression() : QRegularExpression());
+        widget->views()->setHits(widget == current && search.isValid() ? search.search() : sSearch_t());
     showCount();
     if (current == nullptr || !search.isValid())
         return;
-    const QTextCursor hit = hitFrom(current, search, current->textCursor().selectionStart(), false);
+    SearchTime time(previewTime);
+    const QTextCursor hit = hitFrom(current, search, current->textCursor().selectionStart(), false, &time);
     // What is hidden comes into view when the cursor goes there.
     if (hit.isNull() || !hit.block().isVisible())
         return;
@@ -285,14 +312,13 @@ void EditorFinder::showCount() const
     const int begin = hasRange(widget) ? m_range.selectionStart() : 0;
     const int end = hasRange(widget) ? m_range.selectionEnd() : widget->document()->characterCount() - 1;
     const QTextCursor cursor = widget->textCursor();
-    QElapsedTimer time;
-    time.start();
+    SearchTime time(maxCountTime);
     int count = 0;
     int present = 0;
     bool isWhole = true;
     for (QTextBlock block = widget->document()->findBlock(begin); block.isValid() && block.position() <= end;
          block = block.next()) {
-        for (const sHit_t& hit : search.hitsIn(block.text())) {
+        for (const sHit_t& hit : search.hitsIn(block.text(), &time)) {
             const int start = block.position() + hit.start;
             if (start < begin || start + hit.length > end)
                 continue;
@@ -300,9 +326,16 @@ void EditorFinder::showCount() const
             if (start == cursor.selectionStart() && start + hit.length == cursor.selectionEnd())
                 present = count;
         }
-        isWhole = count < maxCount && (block.blockNumber() % timeCheckLines != 0 || time.elapsed() < maxCountTime);
+        const bool isTimeToLook = block.blockNumber() % timeCheckLines == 0 || !time.isComplete();
+        isWhole = count < maxCount && !(isTimeToLook && time.isOver());
         if (!isWhole)
             break;
+    }
+    isWhole = isWhole && time.isComplete();
+    if (!isWhole && count == 0) {
+        hook->setFindResult(tr("Takes too long"), tr("The regular expression takes too long in some lines, which are "
+                                                     "left out."));
+        return;
     }
     const QString number = isWhole ? QString::number(count) : tr("more than %1").arg(count);
     hook->setFindResult(count == 0      ? tr("No hit")
@@ -318,7 +351,7 @@ void EditorFinder::end()
     m_isPreviewing = false;
     m_pause.stop();
     for (EditorWidget* widget : m_documents->all())
-        widget->views()->setHits(QRegularExpression());
+        widget->views()->setHits(sSearch_t());
     if (EditorWidget* widget = m_documents->current())
         widget->ensureCursorVisible();
 }

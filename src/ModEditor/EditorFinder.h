@@ -61,8 +61,10 @@ private:
     bool hasRange(const EditorWidget* widget) const;
     /// The strip asks for more than the text edit's own search can.
     bool isExtended(const EditorWidget* widget) const;
-    bool search(EditorWidget* widget, bool backward, bool fromEdge) const;
-    QTextCursor hitFrom(EditorWidget* widget, const TextSearch& search, int position, bool backward) const;
+    bool search(EditorWidget* widget, bool backward, bool fromEdge, SearchTime* time) const;
+    QTextCursor hitFrom(EditorWidget* widget, const TextSearch& search, int position, bool backward,
+                        SearchTime* time) const;
+    static QString notFoundText(const SearchTime& time);
     void replaceHit(EditorWidget* widget) const;
     void replaceAllHits(EditorWidget* widget) const;
     void say(const QString& text) const;

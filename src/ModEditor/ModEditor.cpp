@@ -53,6 +53,9 @@ ModEditor::ModEditor(QObject* parent)
 {
     connect(Colors::instance(), &Colors::changed, this, &ModEditor::showColors);
     connect(m_sync.get(), &DocumentSync::written, this, &ModEditor::setActionStateEditorWidget);
+    connect(m_marks.get(), &DocumentMarks::breakpointsCleared, this,
+            [this] { m_keeper->session().clearBreakpoints(); });
+    connect(m_marks.get(), &DocumentMarks::bookmarksCleared, this, [this] { m_keeper->session().clearBookmarks(); });
     connect(m_commands.get(), &DocumentCommands::renamed, this, [this](EditorWidget* widget, const QString& name) {
         if (modGuiHook != nullptr)
             modGuiHook->setWidgetName(widget, name);
@@ -324,6 +327,7 @@ void ModEditor::prjClose()
     if (m_textActions != nullptr)
         m_textActions->sourceFinder()->clear();
     closeAllFiles();
+    m_keeper->session().clear();
     m_keeper->clearSession();
     setActionState(nullptr);
     setMemPageAddrMap(nullptr);

@@ -52,6 +52,7 @@ EditorWidget* ModEditor::newEditorWidget(const QString& path)
 
 void ModEditor::removeEditorWidget(EditorWidget* widget)
 {
+    m_keeper->session().noteClosing(widget);
     m_documents->remove(widget);
     if (m_keeper->recovery() != nullptr)
         m_keeper->recovery()->forget(widget);

@@ -16,6 +16,7 @@ public:
 
     /// None: the bar has buttons of its own.
     QList<QAction*> toolBarActions() const override { return {}; }
+    QAction* command(eAction_t action) const { return entry(action); }
 
 signals:
     void triggered(nsModFindReplace::FindReplaceActions::eAction_t action);

@@ -1,5 +1,9 @@
 #include "FindReplaceWidget.h"
 
+#include "FindReplaceActions.h"
+
+#include "ButtonCommand.h"
+
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -370,6 +374,13 @@ void FindReplaceWidget::setWholeWordsEnable(bool enable)
 {
     m_wholeWordsEn = enable;
     m_wholeWords->setEnabled(enable);
+}
+
+void FindReplaceWidget::setCommands(const FindReplaceActions& commands)
+{
+    ButtonCommand::set(m_nextButton, commands.command(FindReplaceActions::eActionFindNext));
+    ButtonCommand::set(m_prevButton, commands.command(FindReplaceActions::eActionFindPrev));
+    ButtonCommand::set(m_toggle, commands.command(FindReplaceActions::eActionReplace));
 }
 
 void FindReplaceWidget::toggleMode()

@@ -13,6 +13,8 @@ class QToolButton;
 namespace nsModFindReplace {
 
 /// The search bar: what to find and how, and in its second row what to put in its place. It does not search itself.
+class FindReplaceActions;
+
 class FindReplaceWidget : public QWidget
 {
     Q_OBJECT
@@ -44,6 +46,8 @@ public:
     /// Offers the choice "Whole words only"; its state is kept meanwhile.
     void setWholeWordsEnable(bool enable);
 
+    /// The tool tips of its buttons name the keys of these commands.
+    void setCommands(const FindReplaceActions& commands);
     /// Offers regular expressions and the search in a selection; without, there are no results, either.
     void setExpressionsEnable(bool enable);
     /// Shows what the search has come to.

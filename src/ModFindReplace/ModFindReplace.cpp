@@ -125,6 +125,7 @@ void ModFindReplace::modInit()
     connectWidget();
     m_actions = new FindReplaceActions(this);
     m_actions->setEnabled(false);
+    m_widget->setCommands(*m_actions);
     connect(m_actions, qOverload<FindReplaceActions::eAction_t>(&FindReplaceActions::triggered), this,
             &ModFindReplace::handleActions);
 }

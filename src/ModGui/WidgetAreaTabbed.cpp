@@ -49,8 +49,9 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     m_closeButton->setObjectName(QStringLiteral("buttonCloseTab"));
     m_closeButton->setFlat(true);
     m_closeButton->setIcon(QIcon(QStringLiteral(":/ModGui/img/tab-close.png")));
-    m_closeButton->setToolTip(tr("Close page"));
-    m_closeButton->setAccessibleName(m_closeButton->toolTip());
+    m_closeButton->setAccessibleName(tr("Close page"));
+    m_closeButton->setToolTip(
+        tr("Close page (%1)").arg(QKeySequence(QKeySequence::Close).toString(QKeySequence::NativeText)));
     setCornerWidget(m_closeButton);
     connect(m_closeButton, &QPushButton::clicked, this, &WidgetAreaTabbed::requestClose);
     connect(this, &QTabWidget::currentChanged, this,

@@ -178,12 +178,9 @@ void ModImport::prjOpen()
         m_widget->setPrjPath(modPrjHook->prjDir().absolutePath());
 }
 
-void ModImport::prjOpened()
+/// Later, when the window has come to rest with the project.
+void ModImport::openSoon()
 {
-    if (!m_opensWithProject)
-        return;
-    m_opensWithProject = false;
-    // Later, when the window has come to rest with the project.
     QMetaObject::invokeMethod(
         this,
         [this] {
@@ -200,8 +197,10 @@ QList<PrjStep> ModImport::prjSteps()
     if (!modPrjHook->isValid())
         return {{PrjStep::eOrderStart, false, tr("Import sources..."),
                  tr("Makes a project and opens the page that converts sources of other assemblers"), [this] {
-                     m_opensWithProject = true;
-                     modPrjHook->showNewProject();
+                     modPrjHook->showNewProject([self = QPointer<ModImport>(this)] {
+                         if (self != nullptr)
+                             self->openSoon();
+                     });
                  }}};
     return {{PrjStep::eOrderSource + 1, false, tr("Import sources..."), tr("Converts sources of other assemblers"),
              [this] { openImportDialog(); }}};

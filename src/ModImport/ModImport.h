@@ -61,7 +61,7 @@ public:
 
     // ModPrjPluginIf
     void prjOpen() override;
-    void prjOpened() override;
+    void prjOpened() override {}
     void prjSave() override {}
     void prjClose() override;
     QList<PrjStep> prjSteps() override;
@@ -85,6 +85,7 @@ public slots:
 private:
     void showPlace(const QString& file, int line);
     void openProject(const QString& file);
+    void openSoon();
 
     ImportActions* m_actions = nullptr;
     ImportProgramActions* m_programActions = nullptr;
@@ -93,7 +94,6 @@ private:
     /// Imports that were stopped end here, before the program does. Two, so that a new one need not wait for such.
     QThreadPool m_pool;
     QPointer<ImportProgramDialog> m_programDialog;
-    bool m_opensWithProject = false; ///< the user has asked for an import without a project: the next one gets the page
 };
 
 } // namespace nsModImport

@@ -441,13 +441,13 @@ void ModPrj::hndlAction(PrjActions::eAction_t action)
 {
     switch (action) {
     case PrjActions::eActionNew:
-        prjMngrSetup();
-        prjMngrSetMode(eModeNew);
+        showNewProject(nullptr);
         break;
     case PrjActions::eActionClose:
         closePrj();
         [[fallthrough]];
     case PrjActions::eActionOpen:
+        m_afterNew = nullptr;
         prjMngrSetup();
         prjMngrSetMode(eModeOpen);
         break;

@@ -20,6 +20,8 @@
 
 #include <QPointer>
 
+#include <functional>
+
 namespace nsModPrj {
 
 class PrjConfigPage;
@@ -119,7 +121,7 @@ public:
     QString prjVersion() override;
     QString prjComment() override;
     void stepsChanged() override;
-    void showNewProject() override;
+    void showNewProject(std::function<void()> opened) override;
 
     // ModPluginIf
     void modRegisterPlugins(QList<ModPluginIf*> modules) override;
@@ -185,6 +187,7 @@ private:
     QPointer<PrjConfigPage> m_page;    ///< while the configuration dialog is open
     QPointer<PrjMngrWidget> m_prjMngr; ///< while the project manager is shown
     PrjHome* m_home = nullptr;         ///< null without a window
+    std::function<void()> m_afterNew;  ///< when a project that was made on its page is open; null: nothing
     QStringList m_collection;          ///< key "PrjMngr/collection"
     PluginList<ModPrjPluginIf> m_plugins;
 };

@@ -20,6 +20,8 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <utility>
+
 namespace nsModPrj {
 
 namespace {
@@ -78,6 +80,7 @@ void ModPrj::prjMngrSetup()
 
 void ModPrj::prjMngrClose()
 {
+    m_afterNew = nullptr;
     if (m_prjMngr == nullptr)
         return;
     PrjMngrWidget* page = m_prjMngr;
@@ -111,7 +114,7 @@ void ModPrj::setupHome()
         m_plugins.forEach([&steps](ModPrjPluginIf* plugin) { steps.append(plugin->prjSteps()); });
         return steps;
     };
-    access.newProject = [this] { showNewProject(); };
+    access.newProject = [this] { showNewProject(nullptr); };
     access.openProject = [this] { openProjectByDialog(); };
     access.open = [this](const QString& file) { prjMngrHndlEventOpen(file); };
     access.report = [this](const QString& text) { error(text); };
@@ -137,8 +140,9 @@ void ModPrj::stepsChanged()
         m_home->refreshSoon();
 }
 
-void ModPrj::showNewProject()
+void ModPrj::showNewProject(std::function<void()> opened)
 {
+    m_afterNew = std::move(opened);
     prjMngrSetup();
     prjMngrSetMode(eModeNew);
 }
@@ -258,7 +262,9 @@ void ModPrj::prjMngrHndlEventGenerateOpen(QString file, QString title)
     if (!group.end(generateFromPage(file, title)))
         return;
     prjMngrFetchCollection();
-    group.end(openPrjInGroup(file));
+    const auto opened = std::exchange(m_afterNew, nullptr);
+    if (group.end(openPrjInGroup(file)) && opened)
+        opened();
 }
 
 void ModPrj::prjMngrHndlEventAdd(QString file)
@@ -269,6 +275,7 @@ void ModPrj::prjMngrHndlEventAdd(QString file)
 
 void ModPrj::prjMngrHndlEventOpen(QString file)
 {
+    m_afterNew = nullptr;
     nsModMsg::MsgGroup group(groupHook(), openingText(file));
     prjMngrFetchCollection();
     group.end(openPrjInGroup(file));

@@ -59,7 +59,6 @@ bool ModSources::setFiles(QStringList files)
     QStringList clean;
     for (const QString& file : files)
         clean.append(QDir::cleanPath(file));
-    clean.removeDuplicates();
     if (clean == srcFiles)
         return true;
     srcFiles = clean;

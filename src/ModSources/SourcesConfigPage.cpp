@@ -52,13 +52,15 @@ SourcesConfigPage::SourcesConfigPage(QWidget* parent)
     auto* buttons = new QVBoxLayout;
     buttons->setSpacing(gap);
     buttons->addWidget(makeButton(tr("Add..."), tr("Adds files that lie beneath the project folder"), SLOT(addFile())));
-    m_remove = makeButton(tr("Remove"), tr("Takes the selected files out of the project; they stay on the disk"),
+    m_remove = makeButton(tr("Remove"), tr("Takes the selected files out of the project; they stay on the disk (Del)"),
                           SLOT(removeFile()));
     buttons->addWidget(m_remove);
     buttons->addSpacing(gap);
-    m_up = makeButton(tr("Up"), tr("Moves the selected files up, so that they are read earlier"), SLOT(moveUp()));
+    m_up = makeButton(tr("Up"), tr("Moves the selected files up, so that they are read earlier (Ctrl+Up)"),
+                      SLOT(moveUp()));
     buttons->addWidget(m_up);
-    m_down = makeButton(tr("Down"), tr("Moves the selected files down, so that they are read later"), SLOT(moveDown()));
+    m_down = makeButton(tr("Down"), tr("Moves the selected files down, so that they are read later (Ctrl+Down)"),
+                        SLOT(moveDown()));
     buttons->addWidget(m_down);
     buttons->addStretch(1);
     row->addLayout(buttons);
@@ -105,9 +107,11 @@ void SourcesConfigPage::insertFile(const QString& path)
 void SourcesConfigPage::dropFile(const QString& path)
 {
     const QString clean = QDir::cleanPath(path);
-    for (int row = m_list->count() - 1; row >= 0; --row) {
-        if (m_list->item(row)->data(Qt::UserRole).toString() == clean)
+    for (int row = 0; row < m_list->count(); ++row) {
+        if (m_list->item(row)->data(Qt::UserRole).toString() == clean) {
             delete m_list->takeItem(row);
+            return;
+        }
     }
 }
 

@@ -31,7 +31,7 @@ public:
 
     /// The list has changed elsewhere: follow it, whatever the user has changed here.
     void insertFile(const QString& path);
-    void dropFile(const QString& path);
+    void dropFile(const QString& path); ///< its first line
 
     // ModConfigPagePluginIf
     QWidget* pageWidget() override;

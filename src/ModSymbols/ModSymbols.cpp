@@ -293,10 +293,10 @@ void ModSymbols::handleAction(SymbolActions::eAction_t action)
             rename(document);
         break;
     case SymbolActions::eActionBack:
-        show(m_history.back(document));
+        travel(JumpHistory::wayBack);
         break;
     case SymbolActions::eActionForward:
-        show(m_history.forward(document));
+        travel(JumpHistory::wayForward);
         break;
     case SymbolActions::eActionNextMessage:
         walkMessages(1);
@@ -352,12 +352,25 @@ bool ModSymbols::jump(const sTextPlace& place)
 {
     if (place.isNull())
         return false;
-    m_history.leave(current());
+    const JumpHistory::sStop from = JumpHistory::here(current());
     const QPointer<ModSymbols> self(this);
     const bool isShown = show(place);
-    if (self != nullptr)
-        updateHistoryActions();
+    if (self == nullptr)
+        return false;
+    if (isShown)
+        m_history.leave(from);
+    updateHistoryActions();
     return isShown;
+}
+
+void ModSymbols::travel(JumpHistory::eWay_t way)
+{
+    const JumpHistory::sStop from = JumpHistory::here(current());
+    const sTextPlace place = m_history.take(way);
+    const QPointer<ModSymbols> self(this);
+    const bool isShown = show(place);
+    if (self != nullptr && isShown)
+        m_history.arrive(way, from);
 }
 
 void ModSymbols::goToDefinition(EditorDocument* document, int line, int column)
@@ -386,15 +399,18 @@ void ModSymbols::walkMessages(int step)
     const sTextPlace onDisk = m_messages.walk(step);
     if (onDisk.isNull() || modEditorHook == nullptr)
         return;
-    m_history.leave(current());
+    const JumpHistory::sStop from = JumpHistory::here(current());
     const QPointer<ModSymbols> self(this);
     if (!modEditorHook->openFile(onDisk.path) || self == nullptr)
         return;
     EditorDocument* document = documentOf(onDisk.path);
     const sTextPlace now = document != nullptr ? m_messages.placeIn(document) : sTextPlace();
-    show(now.isNull() ? onDisk : now);
-    if (self != nullptr)
-        say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
+    const bool isShown = show(now.isNull() ? onDisk : now);
+    if (self == nullptr)
+        return;
+    if (isShown)
+        m_history.leave(from);
+    say(QStringLiteral("%1: %2").arg(m_messages.position(), m_messages.currentText()));
 }
 
 } // namespace nsModSymbols

@@ -124,6 +124,7 @@ private:
     void prepareWords();
     bool show(const sTextPlace& place);
     bool jump(const sTextPlace& place);
+    void travel(JumpHistory::eWay_t way);
     void findUsages(nsModEditor::EditorDocument* document);
     void showUsage(int index);
     void addUsagesPanel();

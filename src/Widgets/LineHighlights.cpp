@@ -59,7 +59,14 @@ void LineHighlights::show()
     QList<QTextEdit::ExtraSelection> selections;
     if (m_isCursorShown)
         selections.append(m_cursorLine);
-    if (m_isFlagged)
-        selections.append(m_flag);
+    if (m_isFlagged) {
+        QTextEdit::ExtraSelection shown = m_flag;
+        QTextBlock block = m_flag.cursor.block();
+        while (!block.isVisible() && block.previous().isValid())
+            block = block.previous();
+        if (block != m_flag.cursor.block())
+            shown.cursor = QTextCursor(block);
+        selections.append(shown);
+    }
     m_edit->setExtraSelections(selections);
 }

@@ -21,6 +21,8 @@ public:
     /// Flags the line, counted from 0; a line that there is not takes the flag away.
     void flag(int line);
     void clearFlag();
+    /// Lines were hidden or shown: a flagged line that is hidden is seen at the last visible one before it.
+    void followFolds() { show(); }
     /// The line that is or was flagged last.
     int flaggedLine() const { return m_flag.cursor.blockNumber(); }
     bool isFlagged() const { return m_isFlagged; }

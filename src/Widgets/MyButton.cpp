@@ -6,7 +6,7 @@ MyButton::MyButton(QWidget* parent)
 }
 
 MyButton::MyButton(const QString& text, QWidget* parent)
-    : QPushButton(text, parent)
+    : MyTextButton(text, parent)
 {
     setObjectName(QStringLiteral("button"));
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QPushButton>
+#include "MyTextButton.h"
 
 /// A push button as all pages have it.
-class MyButton : public QPushButton
+class MyButton : public MyTextButton
 {
     Q_OBJECT
 

@@ -65,6 +65,85 @@ TEST_F(FindExpressions, anExpressionThatTakesLongIsGivenUp)
     EXPECT_EQ(hits({"(x+x+)+y", false, false, true}, QString("x").repeated(60)), QStringList());
 }
 
+TEST_F(FindExpressions, hitsAreThoseOfTheLibrary)
+{
+    quint32 state = 3;
+    const auto random = [&state](quint32 count) {
+        state = state * 1664525u + 1013904223u;
+        return (state >> 16) % count;
+    };
+    const QStringList patterns = {"a",      "ab|b", "a*",    "|a",     "b*?",    "(a|b)*c",  "a.*b",
+                                  ".*c",    "^a",   "b$",    "\\bab?", "a?b",    "(?<=a)b+", "(?!ab)[abc]",
+                                  "(.)\\1", "\\W",  "a\\Kb", "x?",     "(a+)+b", "(a*)*[cd]"};
+    int compared = 0;
+    for (int i = 0; i < 400; ++i) {
+        QString line;
+        for (int length = random(i % 10 == 0 ? 3000 : 40); length > 0; --length)
+            line += QString::fromUtf8("abc \u00e4")[int(random(5))];
+        // Beyond the first plane a character takes two places.
+        if (i % 7 == 0)
+            line.insert(int(random(quint32(line.size() + 1))), QString::fromUtf8("\U0001F600"));
+        const QString& pattern = patterns.at(int(random(quint32(patterns.size()))));
+        QStringList expected;
+        const QRegularExpression library(pattern, QRegularExpression::UseUnicodePropertiesOption);
+        bool isWhole = library.match(line).isValid();
+        for (auto it = library.globalMatch(line); it.hasNext();) {
+            const QRegularExpressionMatch match = it.next();
+            if (match.capturedLength() > 0)
+                expected.append(match.captured());
+        }
+        SearchTime time(60000);
+        QStringList actual;
+        for (const sHit_t& hit : TextSearch({pattern, true, false, true}).hitsIn(line, &time))
+            actual.append(line.mid(hit.start, hit.length));
+        if (!isWhole || !time.isComplete())
+            continue;
+        EXPECT_EQ(actual, expected) << pattern.toStdString() << " in " << line.left(80).toStdString();
+        ++compared;
+    }
+    EXPECT_GT(compared, 300);
+}
+
+TEST_F(FindExpressions, anExpressionThatTakesLongIsSaid)
+{
+    const QByteArray slow = QByteArray(60, 'a') + 'b';
+    EditorWidget* widget = open("a.psm", "b\n" + slow);
+    findReplace.regExp = true;
+    findReplace.find = "(a+)+$";
+    editor.findPreview();
+    EXPECT_EQ(findReplace.result, "Takes too long");
+    editor.findNext(true);
+    editor.findNext(false);
+    EXPECT_EQ(gui.statusText, "String not found; lines in which the regular expression takes too long were left out.");
+    // All or nothing.
+    widget->setText("aaa\n" + slow + "\naa");
+    findReplace.replacement = "x";
+    editor.replaceAll(true);
+    EXPECT_EQ(gui.statusText, "Nothing was replaced: the regular expression takes too long.");
+    EXPECT_EQ(widget->toPlainText(), "aaa\n" + slow + "\naa");
+    EXPECT_FALSE(widget->isUndoAvailable());
+    editor.findPreview();
+    EXPECT_EQ(findReplace.result, "more than 2 hits");
+}
+
+TEST_F(FindExpressions, aLineOfManyCharactersIsLeftOutWhereEachTakesItsTime)
+{
+    // Each place on its own is cheap, all of them together take minutes.
+    EditorWidget* widget = open("a.psm", QByteArray("ab").repeated(40000) + "\nabd");
+    findReplace.regExp = true;
+    findReplace.find = "(a|b)*[cd]";
+    editor.findPreview();
+    EXPECT_EQ(findReplace.result.isEmpty(), false);
+    EXPECT_NE(findReplace.result, "No hit");
+    EXPECT_NE(findReplace.result, "1 hit") << "the long line was not searched to its end";
+    SourceSearch search;
+    QSignalSpy end(&search, &SourceSearch::finished);
+    search.start(TextSearch({"(a|b)*[cd]", false, false, true}), {{"t", true, widget->toPlainText()}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return end.count() > 0; }, 60000));
+    EXPECT_EQ(search.leftOut(), 1);
+    EXPECT_EQ(search.hits(), 1) << "that of the other line";
+}
+
 TEST_F(FindExpressions, findNextGoesFromHitToHitAndWraps)
 {
     EditorWidget* widget = open("a.psm", "s0 s1\nx\ns22");
@@ -144,7 +223,7 @@ TEST_F(FindExpressions, previewMarksCountsAndMovesNoCursor)
     EXPECT_EQ(widget->textCursor().position(), 0);
     EXPECT_FALSE(widget->textCursor().hasSelection());
     EXPECT_GT(widget->verticalScrollBar()->value(), 400);
-    EXPECT_FALSE(widget->overlay()->hits().pattern().isEmpty());
+    EXPECT_FALSE(widget->overlay()->hits().text.isEmpty());
     // The press then finds the first one, as without a preview.
     editor.findNext(true);
     EXPECT_EQ(at(widget), 1000);
@@ -158,11 +237,11 @@ TEST_F(FindExpressions, previewMarksCountsAndMovesNoCursor)
     findReplace.regExp = true;
     editor.findPreview();
     EXPECT_EQ(findReplace.result, "Not valid");
-    EXPECT_TRUE(widget->overlay()->hits().pattern().isEmpty());
+    EXPECT_TRUE(widget->overlay()->hits().text.isEmpty());
     findReplace.find = "needle";
     editor.findPreview();
     editor.findExit();
-    EXPECT_TRUE(widget->overlay()->hits().pattern().isEmpty());
+    EXPECT_TRUE(widget->overlay()->hits().text.isEmpty());
 }
 
 TEST_F(FindExpressions, readOnlyTextIsNotReplaced)

@@ -58,6 +58,14 @@ protected:
         settleLayout();
         return links() != nullptr ? links()->texts() : QStringList();
     }
+    /// The grey texts beside the links.
+    QStringList hints() const
+    {
+        QStringList texts;
+        for (const QLabel* label : links()->findChildren<QLabel*>("pageHint"))
+            texts.append(label->text());
+        return texts;
+    }
     MyLinkButton* link(const QString& text) const
     {
         settleLayout();

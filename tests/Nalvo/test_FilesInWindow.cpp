@@ -1,6 +1,7 @@
 // The panel of files, quick open and recent files under what else happens in the window, and a long run under the
 // project.
 
+#include "DeadDisk.h"
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
 
@@ -13,13 +14,16 @@
 #include "ModPrj.h"
 #include "ModSourcesHookIf.h"
 #include "MyLongWork.h"
+#include "QtPrinters.h"
 #include "QuickOpen.h"
 
 #include <QContextMenuEvent>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTabWidget>
 #include <QTimer>
@@ -157,6 +161,68 @@ TEST_F(FilesInWindow, recentFilesAreThereAsSoonAsTheProjectIs)
     EXPECT_TRUE(recentFiles()->isEnabled()) << "no page was shown since the start";
 }
 
+TEST_F(FilesInWindow, aDiskThatDoesNotAnswerHoldsNothingUp)
+{
+    open(3);
+    for (const char* name : {"s0.psm", "s1.psm", "s2.psm"})
+        ASSERT_TRUE(module<ModEditorHookIf>()->openFile(path(name)));
+    settleLayout();
+    module<ModEditorHookIf>()->closeAllFiles();
+    QMenu* menu = recentFiles()->menu();
+    const auto entries = [menu] {
+        QStringList result;
+        for (const QAction* action : menu->actions())
+            result.append(action->isEnabled() ? action->text() : '(' + action->text() + ')');
+        return result;
+    };
+    ASSERT_TRUE(QFile::remove(path("s1.psm")));
+    DeadDisk first("s1.psm");
+    menu->popup(window->mapToGlobal(QPoint()));
+    EXPECT_EQ(entries(), QStringList({"s2.psm", "s1.psm", "s0.psm"})) << "nobody has answered yet";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return first.isAsked(); }, 60000));
+    first.answer();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return entries().contains("(s1.psm)"); }, 60000));
+    EXPECT_EQ(entries(), QStringList({"s2.psm", "(s1.psm)", "s0.psm"})) << "no line moves below the pointer";
+    menu->close();
+    menu->popup(window->mapToGlobal(QPoint()));
+    EXPECT_EQ(entries(), QStringList({"s2.psm", "s0.psm"}));
+    menu->close();
+    EXPECT_FALSE(first.isAskedByWindow());
+}
+
+TEST_F(FilesInWindow, aFileThatIsGoneLeavesTheListOfQuickOpenAndTheChosenOneStays)
+{
+    open(3);
+    for (const char* name : {"s0.psm", "s1.psm", "s2.psm"})
+        ASSERT_TRUE(module<ModEditorHookIf>()->openFile(path(name)));
+    settleLayout();
+    module<ModEditorHookIf>()->closeAllFiles();
+    ASSERT_TRUE(QFile::remove(path("s1.psm")));
+    DeadDisk disk("s1.psm");
+    ModalAnswers answers({[&](QDialog* box) {
+        auto* edit = box->findChild<QLineEdit*>("quickOpenEdit");
+        const auto names = [box] {
+            QStringList result;
+            const auto* list = box->findChild<QListWidget*>("quickOpenList");
+            for (int i = 0; i < list->count(); ++i)
+                result.append(list->item(i)->data(Qt::UserRole).toString());
+            return result;
+        };
+        QTest::keyClicks(edit, "psm");
+        EXPECT_EQ(names(), QStringList({"s2.psm", "s1.psm", "s0.psm"}));
+        QTest::keyClick(edit, Qt::Key_Down);
+        QTest::keyClick(edit, Qt::Key_Down);
+        disk.answer();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !names().contains("s1.psm"); }, 60000));
+        QTest::keyClick(edit, Qt::Key_Return);
+    }});
+    QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
+    EXPECT_EQ(answers.seen(), 1);
+    settleLayout();
+    ASSERT_NE(document(), nullptr);
+    EXPECT_EQ(document()->filePath(), path("s0.psm"));
+}
+
 TEST_F(FilesInWindow, quickOpenStandsOnTheWindowWhereTheNavigatorIsHidden)
 {
     writeSetting("ModSrcNavi/naviWidgetLocation", "0");
@@ -275,6 +341,73 @@ TEST_F(FilesInWindow, theProjectMayCloseUnderTheMenu)
         ASSERT_TRUE(prj()->openPrj(m_project));
         EXPECT_EQ(sources().size(), 2);
     }
+}
+
+TEST_F(FilesInWindow, aSourceThatIsListedTwiceHasTwoLinesOfItsOwn)
+{
+    open(3);
+    ASSERT_TRUE(prj()->closePrj());
+    QFile file(m_project);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArray text = file.readAll();
+    file.close();
+    text.replace("s0.psm:s1.psm:s2.psm", "s0.psm:s1.psm:s0.psm:s2.psm");
+    writeFile("files.nalvo", text);
+    ASSERT_TRUE(prj()->openPrj(m_project));
+    settleLayout();
+    showFiles();
+    const auto order = [this] {
+        QStringList names;
+        for (const QString& source : sources())
+            names.append(QFileInfo(source).baseName());
+        QStringList lines;
+        for (int i = 0; i < group("Sources")->childCount(); ++i)
+            lines.append(QFileInfo(group("Sources")->child(i)->text(0)).baseName());
+        EXPECT_EQ(lines, names) << "what is shown";
+        return names.join(' ');
+    };
+    const auto currentRow = [this] { return group("Sources")->indexOfChild(tree()->currentItem()); };
+    EXPECT_EQ(order(), "s0 s1 s0 s2");
+    // The second one of the two is dragged, and the keys take it further.
+    tree()->setCurrentItem(group("Sources")->child(2));
+    QMimeData data;
+    const QRect last = tree()->visualItemRect(group("Sources")->child(3));
+    QDropEvent event(QPoint(last.center().x(), last.bottom() - 1), Qt::MoveAction, &data, Qt::LeftButton,
+                     Qt::NoModifier);
+    struct Opened : nsModSrcNavi::FileTree
+    {
+        using FileTree::dropEvent;
+    };
+    (static_cast<nsModSrcNavi::FileTree*>(tree())->*(&Opened::dropEvent))(&event);
+    settleLayout();
+    EXPECT_EQ(order(), "s0 s1 s2 s0");
+    EXPECT_EQ(currentRow(), 3);
+    tree()->setFocus();
+    for (int i = 0; i < 3; ++i) {
+        QTest::keyClick(tree(), Qt::Key_Up, Qt::ControlModifier);
+        settleLayout();
+    }
+    EXPECT_EQ(order(), "s0 s0 s1 s2");
+    EXPECT_EQ(currentRow(), 0) << "over the other one, too";
+    QTest::keyClick(tree(), Qt::Key_Down, Qt::ControlModifier);
+    QTest::keyClick(tree(), Qt::Key_Down, Qt::ControlModifier);
+    settleLayout();
+    EXPECT_EQ(order(), "s0 s1 s0 s2");
+    EXPECT_EQ(currentRow(), 2);
+    // The project has it as it is shown.
+    ASSERT_TRUE(prj()->save());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().contains("<srcFiles>s0.psm:s1.psm:s0.psm:s2.psm</srcFiles>"));
+    QTest::keyClick(tree(), Qt::Key_Delete);
+    settleLayout();
+    EXPECT_EQ(order(), "s0 s1 s2") << "only this line goes";
+    EXPECT_EQ(currentRow(), 2);
+    QMenu* menu = menuAt(tree()->visualItemRect(group("Sources")->child(0)).center());
+    ASSERT_NE(menu, nullptr);
+    QTest::mouseClick(menu, Qt::LeftButton, Qt::NoModifier,
+                      menu->actionGeometry(entry(menu, "Remove from the project")).center());
+    settleLayout();
+    EXPECT_EQ(order(), "s1 s2");
 }
 
 TEST_F(FilesInWindow, anOutputThatIsNotWrittenYetSaysSo)

@@ -3,12 +3,14 @@
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
 
+#include "ButtonCommand.h"
 #include "EditorWidget.h"
 #include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QHelpEvent>
 #include <QLabel>
@@ -149,6 +151,74 @@ TEST_F(ShortcutsInWindow, KeysOfAnotherCommandAreToldAndNotAccepted)
     EXPECT_FALSE(newFile->shortcuts().contains(QKeySequence("Ctrl+N")));
 }
 
+TEST_F(ShortcutsInWindow, TheKeysOfSingleListsAreListedAndStay)
+{
+    openPage();
+    auto* list = onPage<QTreeWidget>("shortcutList");
+    QStringList rows;
+    for (int row = 0; row < list->topLevelItemCount(); ++row)
+        rows.append(list->topLevelItem(row)->text(0) + ": " + list->topLevelItem(row)->text(1) + ": " +
+                    list->topLevelItem(row)->text(2));
+    for (const char* row :
+         {"Files: Take the source out of the project: Del", "Files: Move the source: Ctrl+Up; Ctrl+Down",
+          "Ports of the waves: Remove the port: Del", "Waves: Shorter, longer time: +; -", "Messages: Copy: Ctrl+C"})
+        EXPECT_TRUE(rows.contains(row)) << row << " in " << qPrintable(rows.join('\n'));
+    // They can not be changed.
+    assign("Take the source out of the project", Qt::Key_F12, Qt::NoModifier);
+    EXPECT_EQ(onPage<QLineEdit>("shortcutKeys")->text(), "Del");
+    EXPECT_FALSE(onPage<QLineEdit>("shortcutKeys")->isEnabled());
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(),
+              "These keys hold in this place alone and can not be changed.");
+    screenshot("config-shortcuts-fixed");
+    // A command would take them away from there.
+    assign("File > Open", Qt::Key_Up, Qt::ControlModifier);
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(),
+              "These keys belong to \"Files > Move the source\", where they can not be changed.");
+    EXPECT_FALSE(onPage<QPushButton>("shortcutTake")->isEnabled());
+    press("Apply and close");
+    ASSERT_TRUE(isOpen());
+    assign("File > Open", Qt::Key_F12, Qt::ControlModifier);
+    press("Reset all");
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(readSetting("ModAction/shortcuts"), "");
+}
+
+TEST_F(ShortcutsInWindow, AKeyThatACommandHasInAListTooCanBeGivenBackToIt)
+{
+    openPage();
+    assign("Edit > Copy", Qt::Key_F12, Qt::ControlModifier);
+    assign("Edit > Copy", Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(onPage<QLabel>("shortcutConflict")->text(), "");
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(command("Edit", "Copy")->shortcuts(), QList<QKeySequence>{QKeySequence("Ctrl+C")});
+}
+
+TEST_F(ShortcutsInWindow, KeysOutsideOfTheMenusOfOldAreConflictsToo)
+{
+    openPage();
+    const struct
+    {
+        Qt::Key key;
+        Qt::KeyboardModifiers modifiers;
+        const char* text;
+    } keys[] = {{Qt::Key_Tab, Qt::ControlModifier, "Page used before"},
+                {Qt::Key_F6, Qt::NoModifier, ""},
+                {Qt::Key_F1, Qt::NoModifier, ""},
+                {Qt::Key_PageDown, Qt::ControlModifier, ""},
+                {Qt::Key_F10, Qt::ControlModifier, "Marks of the line"}};
+    for (const auto& key : keys) {
+        assign("File > Open", key.key, key.modifiers);
+        const QString told = onPage<QLabel>("shortcutConflict")->text();
+        EXPECT_TRUE(told.startsWith("These keys belong to ")) << int(key.key) << ' ' << qPrintable(told);
+        EXPECT_TRUE(told.contains(key.text)) << qPrintable(told);
+    }
+    press("Reset all");
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+}
+
 TEST_F(ShortcutsInWindow, TheKeysOfAMenuAreToldAndNotAccepted)
 {
     openPage();
@@ -207,22 +277,66 @@ TEST_F(ShortcutsInWindow, BrokenEntriesOfTheSettingsHarmNothing)
 TEST_F(ShortcutsInWindow, TheToolTipOfAButtonNamesTheKeys)
 {
     ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n")));
+    command("Edit", "Replace")->trigger();
+    settleLayout();
+    const auto tipOf = [](QAbstractButton* button) {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), button->mapToGlobal(QPoint(2, 2)));
+        QApplication::sendEvent(button, &event);
+        return QToolTip::text();
+    };
     int seen = 0;
-    for (QToolBar* bar : window->findChildren<QToolBar*>()) {
-        for (QToolButton* button : bar->findChildren<QToolButton*>()) {
-            const QAction* action = button->defaultAction();
-            if (action == nullptr || action->shortcut().isEmpty())
-                continue;
-            QHelpEvent event(QEvent::ToolTip, QPoint(2, 2), button->mapToGlobal(QPoint(2, 2)));
-            QApplication::sendEvent(button, &event);
-            const QString keys = action->shortcut().toString(QKeySequence::NativeText);
-            EXPECT_TRUE(QToolTip::text().contains(keys)) << qPrintable(action->text() + ": " + QToolTip::text());
-            EXPECT_TRUE(QToolTip::text().startsWith(action->toolTip())) << qPrintable(action->text());
-            ++seen;
-        }
+    for (QAbstractButton* button : window->findChildren<QAbstractButton*>()) {
+        const QAction* action = ButtonCommand::of(button);
+        if (action == nullptr || action->shortcut().isEmpty() || !button->isVisible())
+            continue;
+        const QString tip = tipOf(button);
+        const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+        EXPECT_TRUE(tip.contains(keys)) << qPrintable(action->text() + ": " + tip);
+        EXPECT_TRUE(tip.startsWith(button->toolTip())) << qPrintable(action->text());
+        ++seen;
     }
+    EXPECT_GT(seen, 10);
+    for (const char* name : {"buttonNext", "buttonPrevious", "buttonToggleMode"}) {
+        auto* button = window->findChild<QAbstractButton*>(name);
+        ASSERT_NE(button, nullptr) << name;
+        EXPECT_NE(ButtonCommand::of(button), nullptr) << name;
+    }
+    // Other keys of the user are named at once.
+    openPage();
+    assign("Find next", Qt::Key_F12, Qt::ShiftModifier);
+    press("Apply and close");
+    EXPECT_TRUE(waitForClose());
+    EXPECT_EQ(tipOf(window->findChild<QAbstractButton*>("buttonNext")), "Find the next hit (Shift+F12)");
     QToolTip::hideText();
-    EXPECT_GT(seen, 8);
+}
+
+TEST_F(ShortcutsInWindow, TheToolTipOfAButtonNamesTheKeysOfItsList)
+{
+    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n")));
+    const auto expectKeys = [](const QWidget* root, const QString& name, const QString& keys) {
+        for (const QAbstractButton* button : root->findChildren<QAbstractButton*>()) {
+            if (button->objectName() == name || button->text().remove('&') == name) {
+                EXPECT_TRUE(button->toolTip().endsWith('(' + keys + ')'))
+                    << qPrintable(name + ": " + button->toolTip());
+                return;
+            }
+        }
+        ADD_FAILURE() << "no button " << qPrintable(name);
+    };
+    expectKeys(window.get(), "fileListRemove", "Del");
+    expectKeys(window.get(), "fileListUp", "Ctrl+Up");
+    expectKeys(window.get(), "fileListDown", "Ctrl+Down");
+    expectKeys(window.get(), "buttonCloseTab", QKeySequence(QKeySequence::Close).toString(QKeySequence::NativeText));
+    expectKeys(window.get(), "buttonClose", "Escape");
+    module<ModConfigHookIf>()->openDialog("Sources");
+    const auto* page = window->findChild<QWidget*>("sourcesConfigPage");
+    ASSERT_NE(page, nullptr);
+    expectKeys(page, "Remove", "Del");
+    expectKeys(page, "Up", "Ctrl+Up");
+    expectKeys(page, "Down", "Ctrl+Down");
+    expectKeys(window->findChild<QWidget*>("configDialog"), "Cancel", "Esc");
+    module<ModConfigHookIf>()->closeDialog(false);
 }
 
 TEST_F(ShortcutsInWindow, EscClosesTheSettingsAtOnceWhereNothingWasChanged)

@@ -310,9 +310,9 @@ TEST_F(SplitView, zoomWrapAndHitsOfTheSearchAreThoseOfTheDocument)
     auto* field = window->findChild<QLineEdit*>("editFind");
     ASSERT_NE(field, nullptr);
     QTest::keyClicks(field, "line12");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return second->overlay()->hits().pattern().contains("line12"); }, 60000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return second->overlay()->hits().text.contains("line12"); }, 60000));
     key(Qt::Key_Escape);
-    EXPECT_TRUE(second->overlay()->hits().pattern().isEmpty());
+    EXPECT_TRUE(second->overlay()->hits().text.isEmpty());
 }
 
 TEST_F(SplitView, aReloadKeepsThePlaceOfBothViews)

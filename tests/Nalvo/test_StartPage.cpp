@@ -51,6 +51,31 @@ TEST_F(StartPage, anImportBeginsWithAProjectForIt)
     EXPECT_EQ(window->findChild<QTabWidget*>("widgetAreaTabs")->tabText(0), "Import files");
 }
 
+TEST_F(StartPage, anImportIsForgottenWhereTheUserGoesAnotherWay)
+{
+    const QString file = makeProject("other.nalvo");
+    auto* pages = window->findChild<QTabWidget*>("widgetAreaTabs");
+    for (const bool byCancel : {false, true}) {
+        SCOPED_TRACE(byCancel);
+        click(link("Import sources..."));
+        if (byCancel) {
+            button("&Cancel")->click(); // below the fold
+        } else {
+            pages->findChild<QTabWidget*>("prjMngrTabs")->setCurrentIndex(1);
+            QLineEdit* path = field<QWidget>("prjMngrOpenFile")->findChild<QLineEdit*>();
+            path->setText(file);
+            click(button("Open project"));
+        }
+        if (!prj()->isValid()) {
+            ASSERT_TRUE(prj()->openPrj(file));
+        }
+        settleLayout();
+        EXPECT_EQ(pages->count(), 0) << "no page of an import in a project that was there already";
+        prj()->hndlAction(nsModPrj::PrjActions::eActionClose);
+        settleLayout();
+    }
+}
+
 // --- new project ---
 
 TEST_F(StartPage, fromNothingToHexAndVhdlInEightClicksAndOneDialog)

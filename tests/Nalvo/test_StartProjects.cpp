@@ -1,5 +1,6 @@
 // First contact: examples and recent projects.
 
+#include "DeadDisk.h"
 #include "StartPageFixture.h"
 
 // --- examples ---
@@ -145,10 +146,8 @@ TEST_F(StartPage, recentProjectsAreKeptAndAMissingOneIsToldAndRemoved)
     EXPECT_TRUE(hasMessage("Project file does not exist: " + first));
     EXPECT_FALSE(prj()->isValid());
     EXPECT_NE(link("first"), nullptr) << "its disk may come back";
-    QStringList details;
-    for (const QLabel* label : links()->findChildren<QLabel*>("pageHint"))
-        details.append(label->text());
-    EXPECT_TRUE(details.contains("missing: " + first)) << qPrintable(details.join('\n'));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hints().contains("missing: " + first); }, 60000))
+        << qPrintable(hints().join('\n'));
     const QList<QToolButton*> removers = links()->findChildren<QToolButton*>("linkRemove");
     ASSERT_EQ(removers.size(), 2);
     EXPECT_EQ(removers.last()->accessibleName(), "Remove first from the list");
@@ -159,6 +158,33 @@ TEST_F(StartPage, recentProjectsAreKeptAndAMissingOneIsToldAndRemoved)
     ASSERT_TRUE(closeWindow());
     start();
     EXPECT_EQ(linkTexts().mid(5), QStringList({"Recent projects", "second"}));
+}
+
+TEST_F(StartPage, aDiskThatDoesNotAnswerHoldsTheStartPageNotUp)
+{
+    const QString first = makeProject("first.nalvo");
+    ASSERT_TRUE(prj()->openPrj(first));
+    ASSERT_TRUE(prj()->openPrj(makeProject("second.nalvo")));
+    ASSERT_TRUE(closeWindow());
+    ASSERT_TRUE(QFile::remove(first));
+    DeadDisk disk("first.nalvo");
+    start();
+    EXPECT_EQ(linkTexts().mid(5), QStringList({"Recent projects", "second", "first"}));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return disk.isAsked(); }, 60000));
+    for (int i = 0; i < 3; ++i) {
+        prj()->stepsChanged();
+        settleLayout();
+    }
+    EXPECT_EQ(hints().filter("missing").size(), 0);
+    disk.answer();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return hints().contains("missing: " + first); }, 60000))
+        << qPrintable(hints().join('\n'));
+    EXPECT_FALSE(disk.isAskedByWindow());
+    // The window ends while a disk is still to answer.
+    DeadDisk other("first.nalvo");
+    prj()->stepsChanged();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return other.isAsked(); }, 60000));
+    EXPECT_TRUE(closeWindow());
 }
 
 TEST_F(StartPage, generateAndOpenRemembersTheProject)

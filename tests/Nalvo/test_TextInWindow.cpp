@@ -470,6 +470,48 @@ TEST_F(SessionInWindow, marksAndZoomAreKeptWithTheirSettingOnly)
     EXPECT_EQ(a->zoom(), 3);
 }
 
+TEST_F(SessionInWindow, marksOfAClosedDocumentAreThereWhenItIsOpenedAgain)
+{
+    writeSetting("ModEditor/keepMarksEn", "1");
+    openProject();
+    EditorWidget* a = open("a.psm");
+    a->setBookmark(2);
+    a->setSimBreakpoint(1);
+    open("b.psm")->setBookmark(0);
+    open("c.psm");
+    editor()->removeWidgetRequest(a); // before the project was ever saved
+    EXPECT_EQ(open("a.psm")->bookmarks(), QList<int>{2});
+    EXPECT_EQ(documentOf("a.psm")->simBreakpoints(), QList<int>{1});
+    editor()->closeAllFiles();
+    // Twice: what nobody opens is kept on.
+    startAgain();
+    startAgain();
+    EXPECT_TRUE(editor()->editorWidgets().isEmpty());
+    EXPECT_EQ(open("a.psm")->bookmarks(), QList<int>{2});
+    EXPECT_EQ(documentOf("a.psm")->simBreakpoints(), QList<int>{1});
+    EXPECT_EQ(open("b.psm")->bookmarks(), QList<int>{0});
+    EXPECT_TRUE(open("c.psm")->marks().isEmpty());
+    // All of them are cleared where the user says so, and those of a file that has become shorter go with their lines.
+    editor()->removeWidgetRequest(documentOf("a.psm"));
+    editor()->removeWidgetRequest(documentOf("b.psm"));
+    emit documentOf("c.psm")->clearAllBreakpoints();
+    writeFile("a.psm", "start: JUMP start");
+    EXPECT_TRUE(open("a.psm")->marks().isEmpty());
+    EXPECT_EQ(open("b.psm")->bookmarks(), QList<int>{0});
+    editor()->removeWidgetRequest(documentOf("b.psm"));
+    emit documentOf("c.psm")->clearAllBookmarks();
+    EXPECT_TRUE(open("b.psm")->marks().isEmpty());
+}
+
+TEST_F(SessionInWindow, withoutTheSettingMarksGoWithTheirDocument)
+{
+    openProject();
+    open("a.psm")->setBookmark(2);
+    editor()->removeWidgetRequest(current());
+    EXPECT_TRUE(open("a.psm")->marks().isEmpty());
+    EXPECT_FALSE(sessionText().contains("bookmarks"));
+}
+
 TEST_F(SessionInWindow, aDamagedFileIsIgnoredWithOneMessage)
 {
     openProject();

@@ -64,7 +64,7 @@ public:
     QString prjVersion() override { return version; }
     QString prjComment() override { return comment; }
     void stepsChanged() override { ++stepChanges; }
-    void showNewProject() override { ++newProjects; }
+    void showNewProject(std::function<void()>) override { ++newProjects; }
 
     /// Opens a project with this file and the present tree.
     bool open(QString file) override

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "MyLinkButton.h"
+#include "MyTextButton.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +24,7 @@ inline QString shownText(const QWidget* widget)
         if (tool->toolButtonStyle() == Qt::ToolButtonIconOnly && !tool->icon().isNull())
             return QString();
     }
-    if (const auto* link = qobject_cast<const MyLinkButton*>(widget)) {
+    if (const auto* link = qobject_cast<const MyTextButton*>(widget)) {
         // A short text was written for the place; one with an ellipsis is cut off.
         const QString shown = link->shownText();
         return shown.contains(QChar(0x2026)) ? link->text() : shown;

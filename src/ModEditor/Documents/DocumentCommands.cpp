@@ -69,6 +69,7 @@ EditorWidget* DocumentCommands::openFile(const QString& path)
         return nullptr;
     QPointer<EditorWidget> widget = m_pages->newEditorWidget(path);
     m_sync->showContent(widget, bytes);
+    m_keeper->session().noteOpened(widget);
     m_documents->reportOpened(widget);
     // While this asks a question, the user can close the page.
     m_services->chkProjectMembership(path);

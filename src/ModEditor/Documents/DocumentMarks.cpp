@@ -45,6 +45,7 @@ void DocumentMarks::clearBreakpoints()
     for (EditorWidget* widget : m_documents->all())
         widget->clearSimBreakpoints();
     noteBreakpoints();
+    emit breakpointsCleared();
 }
 
 void DocumentMarks::clearStartPointers()
@@ -57,6 +58,7 @@ void DocumentMarks::clearBookmarks()
 {
     for (EditorWidget* widget : m_documents->all())
         widget->clearBookmarks();
+    emit bookmarksCleared();
 }
 
 } // namespace nsModEditor

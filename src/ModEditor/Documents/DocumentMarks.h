@@ -41,6 +41,11 @@ public:
     void clearStartPointers();
     void clearBookmarks();
 
+signals:
+    // In all documents.
+    void breakpointsCleared();
+    void bookmarksCleared();
+
 private:
     void noteBreakpoints();
 

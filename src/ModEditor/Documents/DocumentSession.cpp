@@ -14,6 +14,8 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <climits>
+
 namespace nsModEditor {
 
 namespace {
@@ -21,6 +23,8 @@ namespace {
 const int version = 1;
 const qint64 maxSize = 1 << 24; ///< bytes of the file
 const int maxMarks = 100000;    ///< of one kind in a document
+const int maxClosed = 1000;     ///< closed documents with marks
+const int anyLine = INT_MAX;
 
 namespace keys {
 const QLatin1String version("nalvoSession");
@@ -124,6 +128,12 @@ void DocumentSession::save(const QString& project, bool keepMarks)
         if (!widget->filePath().isEmpty())
             documents.append(stateOf(widget, keepMarks));
     }
+    for (auto it = m_closed.cbegin(); keepMarks && it != m_closed.cend(); ++it) {
+        if (QFileInfo::exists(QDir(m_services->projectFolder()).filePath(it.key())))
+            documents.append(QJsonObject{{keys::file, it.key()},
+                                         {keys::breakpoints, arrayOf(it->simBreakpoints.lines())},
+                                         {keys::bookmarks, arrayOf(it->bookmarks.lines())}});
+    }
     const QString path = fileOf(project);
     if (documents.isEmpty() && !QFileInfo::exists(path))
         return;
@@ -148,12 +158,64 @@ void DocumentSession::restore(const QString& project, bool keepMarks, bool isNew
     EditorWidget* current = m_documents->current();
     for (const QJsonValue& value : session.value(keys::documents).toArray()) {
         const QJsonObject state = value.toObject();
+        const QString file = state.value(keys::file).toString();
+        bool isOpen = false;
         for (EditorWidget* widget : m_documents->all()) {
+            if (m_services->relPath(widget->filePath()) != file)
+                continue;
+            isOpen = true;
             // The place in the current document stands in the project, too.
-            if (m_services->relPath(widget->filePath()) == state.value(keys::file).toString())
-                restoreState(widget, state, keepMarks, isNewer || widget == current);
+            restoreState(widget, state, keepMarks, isNewer || widget == current);
         }
+        if (!isOpen && !file.isEmpty())
+            keepClosed(file, marksOf(state.value(keys::breakpoints), anyLine),
+                       marksOf(state.value(keys::bookmarks), anyLine));
     }
+}
+
+void DocumentSession::keepClosed(const QString& file, const LineMarks& breakpoints, const LineMarks& bookmarks)
+{
+    // The start mark, of which there is one in all documents, may be elsewhere by then.
+    sDocumentMarks_t marks;
+    marks.simBreakpoints = breakpoints;
+    marks.bookmarks = bookmarks;
+    if (marks.isEmpty())
+        m_closed.remove(file);
+    else if (m_closed.size() < maxClosed)
+        m_closed.insert(file, marks);
+}
+
+void DocumentSession::noteClosing(EditorWidget* widget)
+{
+    if (!widget->filePath().isEmpty() && m_services->isProjectOpen())
+        keepClosed(m_services->relPath(widget->filePath()), widget->marks().simBreakpoints, widget->marks().bookmarks);
+}
+
+void DocumentSession::noteOpened(EditorWidget* widget)
+{
+    const sDocumentMarks_t kept = m_closed.take(m_services->relPath(widget->filePath()));
+    if (kept.isEmpty() || !widget->comfort().keepMarksEn)
+        return;
+    const auto ofText = [widget](LineMarks marks) {
+        marks.map([widget](int line) { return line < widget->blockCount() ? line : -1; });
+        return marks;
+    };
+    sDocumentMarks_t marks;
+    marks.simBreakpoints = ofText(kept.simBreakpoints);
+    marks.bookmarks = ofText(kept.bookmarks);
+    widget->setMarks(marks);
+}
+
+void DocumentSession::clearBreakpoints()
+{
+    for (sDocumentMarks_t& marks : m_closed)
+        marks.simBreakpoints.clear();
+}
+
+void DocumentSession::clearBookmarks()
+{
+    for (sDocumentMarks_t& marks : m_closed)
+        marks.bookmarks.clear();
 }
 
 void DocumentSession::restoreState(EditorWidget* widget, const QJsonObject& state, bool keepMarks,

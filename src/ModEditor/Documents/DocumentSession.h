@@ -1,10 +1,12 @@
 #pragma once
 
+#include "LineMarks.h"
 #include "SplitViews.h"
 
 #include <QByteArray>
 #include <QCoreApplication>
 #include <QJsonObject>
+#include <QMap>
 #include <QString>
 
 namespace nsModEditor {
@@ -32,17 +34,28 @@ public:
     /// ignored with a message.
     /// @param isNewer the cursors have been set from a newer source, and stay
     void restore(const QString& project, bool keepMarks, bool isNewer);
+    /// A document is about to be closed: its marks are kept for the next time that it is opened.
+    void noteClosing(EditorWidget* widget);
+    /// A document was opened again, after restore(), and gets its marks back if the user wants marks to be kept.
+    void noteOpened(EditorWidget* widget);
+    // Also of documents that are closed.
+    void clearBreakpoints();
+    void clearBookmarks();
+    /// No project is open any more.
+    void clear() { m_closed.clear(); }
 
     /// The file of a project.
     static QString fileOf(const QString& project);
 
 private:
     QJsonObject stateOf(EditorWidget* widget, bool keepMarks) const;
+    void keepClosed(const QString& file, const LineMarks& breakpoints, const LineMarks& bookmarks);
     void restoreState(EditorWidget* widget, const QJsonObject& state, bool keepMarks, bool keepsCursor) const;
 
     const OpenDocuments* m_documents;
     EditorServices* m_services;
     SplitViews m_splitViews;
+    QMap<QString, sDocumentMarks_t> m_closed; ///< of documents that were closed, by their name in the project
 };
 
 } // namespace nsModEditor

@@ -74,11 +74,11 @@ void DocumentViews::updateMargins()
         m_second->leftMargin()->update();
 }
 
-void DocumentViews::setHits(const QRegularExpression& expression)
+void DocumentViews::setHits(const sSearch_t& search)
 {
-    m_page->overlay()->setHits(expression);
+    m_page->overlay()->setHits(search);
     if (m_second != nullptr)
-        m_second->overlay()->setHits(expression);
+        m_second->overlay()->setHits(search);
 }
 
 void DocumentViews::flag(int line)
@@ -86,6 +86,13 @@ void DocumentViews::flag(int line)
     m_highlights->flag(line);
     if (m_second != nullptr)
         m_second->lineHighlights()->flag(line);
+}
+
+void DocumentViews::followFolds()
+{
+    m_highlights->followFolds();
+    if (m_second != nullptr)
+        m_second->lineHighlights()->followFolds();
 }
 
 } // namespace nsModEditor

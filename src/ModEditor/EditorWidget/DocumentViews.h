@@ -3,12 +3,12 @@
 #include <QPointer>
 
 class LineHighlights;
-class QRegularExpression;
 
 namespace nsModEditor {
 
 class EditorWidget;
 class SecondView;
+struct sSearch_t;
 
 /// The views of a document: its page, and while that is split a second view of the text. What both look like.
 class DocumentViews
@@ -32,9 +32,11 @@ public:
     /// Marks have changed.
     void updateMargins();
     /// Marks what the expression finds; an empty one marks nothing.
-    void setHits(const QRegularExpression& expression);
+    void setHits(const sSearch_t& search);
     /// Flags the line; one that there is not takes the flag away.
     void flag(int line);
+    /// Lines were hidden or shown.
+    void followFolds();
 
 private:
     EditorWidget* m_page;

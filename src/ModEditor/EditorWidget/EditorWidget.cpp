@@ -8,6 +8,7 @@
 #include "EditorSyntaxHighlighter.h"
 #include "EditorTipManager.h"
 #include "EditorWidgetLeftMargin.h"
+#include "Folding.h"
 #include "HelpRef.h"
 #include "MarkFollower.h"
 #include "PageProperties.h"
@@ -105,6 +106,7 @@ EditorWidget::EditorWidget(QWidget* parent)
     updateLeftMarginWidth();
     connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { m_lineHighlights.followCursor(); });
     m_lineHighlights.followCursor();
+    connect(folding(), &Folding::changed, this, [this] { m_views->followFolds(); });
     calculateTabWidth();
 }
 

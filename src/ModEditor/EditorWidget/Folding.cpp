@@ -123,6 +123,7 @@ void Folding::setVisible(QTextBlock first, const QTextBlock& last, bool visible)
     layout->requestUpdate();
     emit layout->documentSizeChanged(layout->documentSize());
     m_editor->viewport()->update();
+    emit changed();
 }
 
 void Folding::hide(const sFoldRange_t& range)

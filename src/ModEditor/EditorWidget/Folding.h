@@ -50,6 +50,10 @@ public:
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+signals:
+    /// Lines were hidden or shown by this view.
+    void changed();
+
 private:
     void setVisible(QTextBlock first, const QTextBlock& last, bool visible);
     void hide(const sFoldRange_t& range);

@@ -3,6 +3,7 @@
 #include "DocumentViews.h"
 #include "EditorWidget.h"
 #include "EditorWidgetLeftMargin.h"
+#include "Folding.h"
 #include "MessageMarks.h"
 #include "ViewPlace.h"
 
@@ -45,6 +46,7 @@ SecondView::SecondView(EditorWidget* page)
     viewport()->installEventFilter(this);
     showPlace(sViewPlace::of(page));
     m_lineHighlights.followCursor();
+    connect(folding(), &Folding::changed, m_page, [this] { m_page->views()->followFolds(); });
 }
 
 SecondView::~SecondView()

@@ -14,6 +14,7 @@ namespace {
 const int rulerAlpha = 60;
 const int hitAlpha = 45;
 const int maxHitsInLine = 1000; ///< that are marked
+const int maxPaintTime = 250;   ///< milliseconds that the search for the hits may take
 
 /// The characters from one position to another of a line in the pixels of the viewport, a rectangle for each row.
 QList<QRectF> rectsOf(const SourceEdit* editor, const QTextBlock& block, int from, int to)
@@ -36,6 +37,7 @@ QList<QRectF> rectsOf(const SourceEdit* editor, const QTextBlock& block, int fro
 
 TextOverlay::TextOverlay(SourceEdit* editor)
     : m_editor(editor)
+    , m_hits(sSearch_t())
 {
 }
 
@@ -45,11 +47,12 @@ void TextOverlay::setRulerColumn(int column)
     m_editor->viewport()->update();
 }
 
-void TextOverlay::setHits(const QRegularExpression& expression)
+void TextOverlay::setHits(const sSearch_t& search)
 {
-    if (expression == m_hits)
+    if (search == m_hits.search())
         return;
-    m_hits = expression;
+    m_hits = TextSearch(search);
+    m_takesLong = false;
     m_editor->viewport()->update();
 }
 
@@ -90,25 +93,27 @@ void TextOverlay::paintBrackets(QPainter* painter) const
 
 void TextOverlay::paintHits(QPainter* painter) const
 {
-    if (m_hits.pattern().isEmpty() || !m_hits.isValid())
+    if (!m_hits.isValid() || m_takesLong)
         return;
     QColor color = m_editor->palette().color(QPalette::Highlight);
     painter->setPen(color);
     color.setAlpha(hitAlpha);
     painter->setBrush(color);
     const int height = m_editor->viewport()->height();
+    SearchTime time(maxPaintTime);
     for (QTextBlock block = m_editor->firstVisibleBlock(); block.isValid(); block = block.next()) {
         if (m_editor->blockBoundingGeometry(block).translated(m_editor->contentOffset()).top() > height)
             break;
         if (!block.isVisible())
             continue;
-        QRegularExpressionMatchIterator matches = m_hits.globalMatch(block.text());
-        for (int i = 0; i < maxHitsInLine && matches.hasNext(); ++i) {
-            const QRegularExpressionMatch match = matches.next();
-            for (const QRectF& rect : rectsOf(m_editor, block, match.capturedStart(), match.capturedEnd()))
+        const QVector<sHit_t> hits = m_hits.hitsIn(block.text(), &time);
+        for (int i = 0; i < qMin(maxHitsInLine, hits.size()); ++i) {
+            for (const QRectF& rect : rectsOf(m_editor, block, hits.at(i).start, hits.at(i).start + hits.at(i).length))
                 painter->drawRect(rect.adjusted(0, 0, -1, -1));
         }
     }
+    // The text is painted with each blink of the cursor.
+    m_takesLong = time.isOver();
 }
 
 } // namespace nsModEditor

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QRegularExpression>
+#include "TextSearch.h"
 
 class QPainter;
 
@@ -17,9 +17,9 @@ public:
 
     /// Where the ruler stands, in characters from the start of the line; 0 for none.
     void setRulerColumn(int column);
-    /// Marks what the expression finds; an empty one marks nothing.
-    void setHits(const QRegularExpression& expression);
-    const QRegularExpression& hits() const { return m_hits; }
+    /// Marks what the search finds; one without a text marks nothing.
+    void setHits(const sSearch_t& search);
+    const sSearch_t& hits() const { return m_hits.search(); }
 
     void paint(QPainter* painter) const;
 
@@ -30,7 +30,8 @@ private:
 
     SourceEdit* m_editor;
     int m_rulerColumn = 0;
-    QRegularExpression m_hits;
+    TextSearch m_hits;
+    mutable bool m_takesLong = false; ///< the search: its hits are not marked any more
 };
 
 } // namespace nsModEditor

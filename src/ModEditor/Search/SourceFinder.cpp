@@ -143,6 +143,8 @@ void SourceFinder::showEnd(bool complete)
         text = tr("%1; the search was stopped").arg(text);
     if (m_failed > 0)
         text = tr("%1; not searched: %2").arg(text).arg(m_failed);
+    if (m_search->leftOut() > 0)
+        text = tr("%1; lines that take too long: %2").arg(text).arg(m_search->leftOut());
     m_panel->setStatus(text);
 }
 

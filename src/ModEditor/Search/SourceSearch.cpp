@@ -16,6 +16,7 @@ namespace {
 
 const int sliceTime = 15;        ///< milliseconds
 const int pieceLength = 1 << 15; ///< characters that are searched at once
+const int timeOfLine = 100;      ///< milliseconds that a line may take
 
 /// The text of most files: it is the same in all encodings, with one line feed at the end of a line.
 bool isPlainText(const QByteArray& bytes)
@@ -53,12 +54,12 @@ void SourceSearch::start(const TextSearch& search, const QList<sSource_t>& sourc
 {
     m_search = search;
     m_lineByLine = search.isRegExp() && looksAround(search.text());
-    m_lines = search.expression();
-    m_lines.setPatternOptions(m_lines.patternOptions() | QRegularExpression::MultilineOption);
+    m_lines = search.forLines(pieceLength);
     m_sources = sources;
     m_source = 0;
     m_isInSource = false;
     m_hits = 0;
+    m_leftOut = 0;
     m_timer->start();
 }
 
@@ -173,7 +174,9 @@ void SourceSearch::addLine(int start, int end)
     sFoundLine_t line;
     line.line = m_line;
     line.text = m_text.mid(start, end - start);
-    line.hits = m_search.hitsIn(line.text);
+    SearchTime time(timeOfLine);
+    line.hits = m_search.hitsIn(line.text, &time);
+    m_leftOut += time.isComplete() ? 0 : 1;
     if (line.hits.isEmpty())
         return;
     m_hits += line.hits.size();

@@ -41,6 +41,8 @@ public:
     void stop();
     bool isRunning() const;
     int hits() const { return m_hits; }
+    /// Lines that were left out, in part at least, as the expression takes long there.
+    int leftOut() const { return m_leftOut; }
 
 signals:
     /// All hits of a source that has some, in the order of the sources.
@@ -70,6 +72,7 @@ private:
     int m_line = 0;                ///< its number
     QVector<sFoundLine_t> m_found; ///< in it
     int m_hits = 0;
+    int m_leftOut = 0;
 };
 
 } // namespace nsModEditor

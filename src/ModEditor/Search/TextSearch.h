@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QRegularExpression>
 #include <QString>
 #include <QVector>
@@ -29,7 +30,29 @@ struct sHit_t
     QString replacement; ///< what would take its place
 };
 
-/// A search within lines. An expression that would take long is given up: it then has no hits in that line.
+/// How long a search may take, and whether anything was left out for that.
+class SearchTime
+{
+public:
+    explicit SearchTime(int milliseconds)
+        : m_milliseconds(milliseconds)
+    {
+        m_timer.start();
+    }
+
+    /// No time is left. Whoever then leaves anything out says so by leaveOut().
+    bool isOver() const { return m_timer.hasExpired(m_milliseconds); }
+    void leaveOut() { m_isComplete = false; }
+    bool isComplete() const { return m_isComplete; }
+
+private:
+    QElapsedTimer m_timer;
+    int m_milliseconds;
+    bool m_isComplete = true;
+};
+
+/// A search within lines. An expression can try for years: what would take long in a line is given up, and the line is
+/// left out from there on.
 class TextSearch
 {
 public:
@@ -41,19 +64,29 @@ public:
     QString errorText() const;
     bool isRegExp() const { return m_search.regExp; }
     const QString& text() const { return m_search.text; }
-    const QRegularExpression& expression() const { return m_expression; }
+    const sSearch_t& search() const { return m_search; }
+    /// The expression for some lines at once, in a text of up to so many characters. It is given up early: then the
+    /// lines have to be searched on their own.
+    QRegularExpression forLines(int length) const;
     /// The hits of a line that are not empty.
+    /// @param time that may be taken; null for as long as a single line may take
+    QVector<sHit_t> hitsIn(const QString& line, SearchTime* time = nullptr) const { return hitsIn(line, {}, time); }
     /// @param replacement a text; of a regular expression with \0 to \9 for what its groups have found, \t for a tab
     /// and \\ for a backslash
-    QVector<sHit_t> hitsIn(const QString& line, const QString& replacement = QString()) const;
+    QVector<sHit_t> hitsIn(const QString& line, const QString& replacement, SearchTime* time = nullptr) const;
     /// The line after the replacement of the hits.
     static QString replaced(const QString& line, const QVector<sHit_t>& hits);
 
 private:
     QString expanded(const QString& replacement, const QRegularExpressionMatch& match) const;
+    QRegularExpressionMatch next(const QString& line, int from, const QRegularExpression& quick,
+                                 SearchTime* time) const;
+    QRegularExpression limited(int limit) const;
 
     sSearch_t m_search;
-    QRegularExpression m_expression;
+    QString m_pattern;
+    QRegularExpression m_expression;     ///< for a place of a line on its own
+    QVector<QRegularExpression> m_quick; ///< for a line of the lengths of a table each
 };
 
 } // namespace nsModEditor

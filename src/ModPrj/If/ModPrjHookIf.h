@@ -8,6 +8,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class ModPrjPluginIf;
 class ModPrjPluginIfInterMod;
 
@@ -56,5 +58,7 @@ public:
     /// Steps of a client have changed: all are asked again, soon.
     virtual void stepsChanged() = 0;
     /// Brings up the page that makes new projects.
-    virtual void showNewProject() = 0;
+    /// @param opened called when a project that was made there has been opened; may be null. Forgotten if the user goes
+    /// another way.
+    virtual void showNewProject(std::function<void()> opened) = 0;
 };

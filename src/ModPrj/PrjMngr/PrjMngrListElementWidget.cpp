@@ -44,6 +44,7 @@ PrjMngrListElementWidget::PrjMngrListElementWidget(QWidget* parent)
 {
     setObjectName(QStringLiteral("prjView"));
     setToolTip(tr("A double click opens the project"));
+    m_remove->setShortText(tr("Remove"));
     m_remove->setToolTip(tr("Takes the project off this list; its files stay"));
     m_open->setToolTip(tr("Opens the project"));
 

@@ -42,6 +42,8 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     m_note->setObjectName(QStringLiteral("pageHint"));
     m_note->setWordWrap(true);
     m_note->setTextFormat(Qt::PlainText);
+    m_add->setShortText(tr("Generate and add"));
+    m_open->setShortText(tr("Generate and open"));
     m_add->setToolTip(tr("Writes the project file and lists the project under Open"));
     m_open->setToolTip(tr("Writes the project file and opens the project"));
 

@@ -24,6 +24,7 @@ PrjMngrOpenWidget::PrjMngrOpenWidget(QWidget* parent)
     m_file->setWindowTitle(tr("Select project file to open"));
     m_file->setDescription(tr("File of an existing project"));
     PrjMngrFile::setup(m_file);
+    m_add->setShortText(tr("Add to collection"));
     m_add->setToolTip(tr("Lists the project below"));
     m_open->setToolTip(tr("Opens the project"));
 

@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGridLayout>
+#include <QResizeEvent>
 
 namespace nsModPrj {
 
@@ -42,24 +43,14 @@ PrjMngrOptions::PrjMngrOptions(QWidget* parent)
     addHdl(m_vhdl, m_vhdlTemplate, "prjMngrNewVhdlTemplate", QStringLiteral("vhd"));
     addHdl(m_verilog, m_verilogTemplate, "prjMngrNewVerilogTemplate", QStringLiteral("v"));
 
-    auto* processorTitle = new MyFieldTitle(tr("Processor:"), this);
-    processorTitle->setBuddy(m_processor);
-    auto* layout = new QGridLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(gap);
-    layout->setColumnStretch(2, 1);
-    // In line with the fields above.
-    layout->setColumnMinimumWidth(0, MyFieldTitle(tr("Project title:")).sizeHint().width());
-    layout->addWidget(processorTitle, 0, 0);
-    layout->addWidget(m_processor, 0, 1, 1, 2, Qt::AlignLeft);
-    layout->addWidget(m_source, 1, 1, 1, 2);
-    layout->addWidget(new MyFieldTitle(tr("Outputs:"), this), 2, 0);
-    layout->addWidget(m_hex, 2, 1);
-    layout->addWidget(m_mem, 3, 1);
-    layout->addWidget(m_vhdl, 4, 1);
-    layout->addWidget(m_vhdlTemplate, 4, 2);
-    layout->addWidget(m_verilog, 5, 1);
-    layout->addWidget(m_verilogTemplate, 5, 2);
+    m_processorTitle = new MyFieldTitle(tr("Processor:"), this);
+    m_processorTitle->setBuddy(m_processor);
+    m_outputsTitle = new MyFieldTitle(tr("Outputs:"), this);
+    m_layout = new QGridLayout(this);
+    m_layout->setContentsMargins(0, 0, 0, 0);
+    m_layout->setSpacing(gap);
+    m_layout->setColumnStretch(2, 1);
+    arrange(false);
     QWidget* const order[] = {m_processor, m_source,       m_hex,     m_mem,
                               m_vhdl,      m_vhdlTemplate, m_verilog, m_verilogTemplate};
     for (std::size_t i = 1; i < std::size(order); ++i)
@@ -71,6 +62,58 @@ PrjMngrOptions::PrjMngrOptions(QWidget* parent)
         connect(check, &QCheckBox::toggled, this, &PrjMngrOptions::changed);
     for (QComboBox* box : {m_vhdlTemplate, m_verilogTemplate})
         connect(box, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &PrjMngrOptions::changed);
+}
+
+/// @param narrow titles stand above their fields, where a page has no room for them beside each other
+void PrjMngrOptions::arrange(bool narrow)
+{
+    m_isNarrow = narrow;
+    const int titleRows = narrow ? 1 : 0;
+    const int column = narrow ? 0 : 1;
+    // In line with the fields above.
+    m_layout->setColumnMinimumWidth(0, narrow ? 0 : titleWidth());
+    int row = 0;
+    m_layout->addWidget(m_processorTitle, row, 0, 1, narrow ? 3 : 1);
+    row += titleRows;
+    m_layout->addWidget(m_processor, row++, column, 1, narrow ? 3 : 2, Qt::AlignLeft);
+    m_layout->addWidget(m_source, row++, column, 1, narrow ? 3 : 2);
+    m_layout->addWidget(m_outputsTitle, row, 0, 1, narrow ? 3 : 1);
+    row += titleRows;
+    m_layout->addWidget(m_hex, row++, column);
+    m_layout->addWidget(m_mem, row++, column);
+    const int span = narrow ? 2 : 1;
+    m_layout->addWidget(m_vhdl, row, column);
+    m_layout->addWidget(m_vhdlTemplate, row++, column + 1, 1, span);
+    m_layout->addWidget(m_verilog, row, column);
+    m_layout->addWidget(m_verilogTemplate, row++, column + 1, 1, span);
+}
+
+int PrjMngrOptions::titleWidth() const
+{
+    return MyFieldTitle(tr("Project title:")).sizeHint().width();
+}
+
+/// What the fields need without their titles.
+int PrjMngrOptions::fieldWidth() const
+{
+    int check = 0;
+    for (const QCheckBox* box : {m_hex, m_mem, m_vhdl, m_verilog})
+        check = qMax(check, box->minimumSizeHint().width());
+    const int box = qMax(m_vhdlTemplate->minimumSizeHint().width(), m_verilogTemplate->minimumSizeHint().width());
+    return qMax(check + gap + box, qMax(m_processor->minimumSizeHint().width(), m_source->minimumSizeHint().width()));
+}
+
+QSize PrjMngrOptions::minimumSizeHint() const
+{
+    return {fieldWidth(), QWidget::minimumSizeHint().height()};
+}
+
+void PrjMngrOptions::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    const bool narrow = width() < titleWidth() + gap + fieldWidth();
+    if (narrow != m_isNarrow)
+        arrange(narrow);
 }
 
 QCheckBox* PrjMngrOptions::addCheck(const char* name, const QString& text, const QString& toolTip)

@@ -6,6 +6,8 @@
 
 class QCheckBox;
 class QComboBox;
+class QGridLayout;
+class MyFieldTitle;
 
 namespace nsModPrj {
 
@@ -20,13 +22,21 @@ public:
     NewProjectOptions options() const;
     void clear();
 
+    QSize minimumSizeHint() const override;
+
 signals:
     void changed();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QCheckBox* addCheck(const char* name, const QString& text, const QString& toolTip);
     void addHdl(QCheckBox* check, QComboBox* box, const char* name, const QString& suffix);
     void takeProcessor();
+    void arrange(bool narrow);
+    int titleWidth() const;
+    int fieldWidth() const;
 
     QComboBox* m_processor;
     QCheckBox* m_source;
@@ -36,6 +46,10 @@ private:
     QCheckBox* m_verilog;
     QComboBox* m_vhdlTemplate;
     QComboBox* m_verilogTemplate;
+    MyFieldTitle* m_processorTitle = nullptr;
+    MyFieldTitle* m_outputsTitle = nullptr;
+    QGridLayout* m_layout = nullptr;
+    bool m_isNarrow = false;
     bool m_sourceTouched = false; ///< the user has decided about the first source
 };
 

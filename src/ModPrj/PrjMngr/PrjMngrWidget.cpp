@@ -87,6 +87,7 @@ QWidget* PrjMngrWidget::makeButtons()
     auto* frame = new QFrame(this);
     frame->setObjectName(QStringLiteral("configButtons"));
     auto* save = new MyButton(tr("Save project manager configuration and close"), frame);
+    save->setShortText(tr("Save and close"));
     save->setToolTip(tr("Keeps the collection as it is listed and closes this page"));
     auto* cancel = new MyButtonCancel(frame);
     cancel->setToolTip(tr("Closes this page; the collection stays as it was"));

@@ -48,6 +48,7 @@ PrjHome::PrjHome(sAccess_t access, QObject* parent)
         if (const auto act = m_statusAct)
             act();
     });
+    connect(&m_presence, &FilePresence::changed, this, &PrjHome::refreshSoon);
     m_menu->setToolTipsVisible(true);
     connect(m_menu, &QMenu::aboutToShow, this, &PrjHome::fillMenu);
     fillMenu();
@@ -67,6 +68,7 @@ MyLinkList* PrjHome::newStartLinks(QWidget* parent)
     links->setSections(startSections());
     m_startLinks.removeAll(nullptr);
     m_startLinks.append(links);
+    m_presence.look(m_recents.files());
     return links;
 }
 
@@ -99,6 +101,9 @@ void PrjHome::refresh()
     QList<PrjStep> steps = m_access.steps();
     std::stable_sort(steps.begin(), steps.end(), [](const PrjStep& a, const PrjStep& b) { return a.order < b.order; });
     const bool isOpen = m_access.isOpen();
+    m_startLinks.removeAll(nullptr);
+    if (!isOpen || !m_startLinks.isEmpty())
+        m_presence.look(m_recents.files());
     if (m_page)
         m_page->setSections(isOpen ? projectSections(steps) : startSections());
     for (const QPointer<MyLinkList>& links : qAsConst(m_startLinks)) {
@@ -140,11 +145,10 @@ QVector<MyLinkList::sSection_t> PrjHome::startSections() const
     sections.append(begin);
     MyLinkList::sSection_t recent{tr("Recent projects"), {}};
     for (const QString& file : m_recents.files()) {
-        const bool exists = QFileInfo::exists(file);
         MyLinkList::sLink_t link;
         link.text = nameOf(file);
         link.detail = QDir::toNativeSeparators(file);
-        if (!exists)
+        if (m_presence.isMissing(file))
             link.detail = tr("missing: %1").arg(link.detail);
         link.toolTip = QDir::toNativeSeparators(file);
         link.act = [self, file] {

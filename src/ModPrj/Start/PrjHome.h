@@ -3,6 +3,7 @@
 #include "PrjStep.h"
 #include "RecentProjects.h"
 
+#include "FilePresence.h"
 #include "MyLinkList.h"
 
 #include <QList>
@@ -73,6 +74,7 @@ private:
 
     sAccess_t m_access;
     RecentProjects m_recents;
+    FilePresence m_presence; ///< of the recent projects
     QPointer<MyLinkList> m_page;
     QList<QPointer<MyLinkList>> m_startLinks;
     QPointer<QWidget> m_status;

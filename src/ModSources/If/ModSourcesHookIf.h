@@ -24,7 +24,7 @@ public:
     virtual void setFileContentChanged() = 0;
 
     /// Replaces the list: other files, or another order. Notifies all clients if it has changed.
-    /// @param files absolute paths
+    /// @param files absolute paths; a file that a project lists twice stays listed twice
     /// @return false: the list is being edited in the settings dialog, or no project is open
     virtual bool setFiles(QStringList files) = 0;
     /// Asks for files and adds them as the settings page does: those beneath the project's folder, each once.

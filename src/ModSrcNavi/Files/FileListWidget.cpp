@@ -124,13 +124,14 @@ FileListWidget::FileListWidget(QWidget* parent)
         if (!file.isEmpty())
             emit openRequested(file);
     });
-    connect(m_tree, &FileTree::removeRequested, this, &FileListWidget::removeCurrent);
+    const auto removeCurrent = [this] { remove(sourceRow(m_tree->currentItem())); };
+    connect(m_tree, &FileTree::removeRequested, this, removeCurrent);
     connect(m_tree, &FileTree::stepRequested, this, &FileListWidget::moveCurrent);
     connect(m_tree, &FileTree::moved, this, &FileListWidget::moveSource);
     connect(m_tree, &QTreeWidget::currentItemChanged, this, &FileListWidget::updateButtons);
     connect(m_tree, &QWidget::customContextMenuRequested, this, &FileListWidget::showMenu);
     connect(m_add, &QToolButton::clicked, this, &FileListWidget::addRequested);
-    connect(m_remove, &QToolButton::clicked, this, &FileListWidget::removeCurrent);
+    connect(m_remove, &QToolButton::clicked, this, removeCurrent);
     connect(m_up, &QToolButton::clicked, this, [this] { moveCurrent(-1); });
     connect(m_down, &QToolButton::clicked, this, [this] { moveCurrent(1); });
     setFocusProxy(m_tree);
@@ -178,10 +179,15 @@ QTreeWidgetItem* FileListWidget::addGroup(const QString& title, const QStringLis
     return group;
 }
 
-void FileListWidget::setFiles(const ProjectFiles& files, const QDir& dir)
+void FileListWidget::setFiles(const ProjectFiles& files, const QDir& dir, int currentSource)
 {
     const QString current = currentFile();
-    const bool sourceWas = isSource(m_tree->currentItem());
+    const int rowBefore = sourceRow(m_tree->currentItem());
+    if (currentSource < 0 && rowBefore >= 0) {
+        currentSource = ProjectFiles::rowOf(files.sources, ProjectFiles::sourceAt(m_files.sources, rowBefore));
+        if (currentSource < 0)
+            currentSource = qMin(rowBefore, files.sources.size() - 1);
+    }
     // The lines are made anew, and the user sees the same part of them.
     const int place = m_tree->verticalScrollBar()->value();
     const bool wasSeen = isCurrentSeen();
@@ -190,11 +196,13 @@ void FileListWidget::setFiles(const ProjectFiles& files, const QDir& dir)
     m_files = files;
     m_dir = dir;
     m_tree->clear();
-    addGroup(tr("Sources"), files.sources, true, false);
+    const QTreeWidgetItem* sources = addGroup(tr("Sources"), files.sources, true, false);
     addGroup(tr("Templates"), files.templates, false, false);
     addGroup(tr("Outputs"), files.outputs, false, true);
-    if (!current.isEmpty() && !makeCurrent(current) && sourceWas && !files.sources.isEmpty())
-        makeCurrent(files.sources.last());
+    if (currentSource >= 0 && currentSource < sources->childCount())
+        m_tree->setCurrentItem(sources->child(currentSource));
+    else if (!current.isEmpty())
+        makeCurrent(current);
     m_tree->doItemsLayout();
     m_tree->verticalScrollBar()->setValue(place);
     m_tree->setAutoScroll(true);
@@ -252,33 +260,34 @@ QString FileListWidget::currentFile() const
     return m_tree->currentItem() != nullptr ? m_tree->currentItem()->data(0, roleFile).toString() : QString();
 }
 
-bool FileListWidget::isSource(const QTreeWidgetItem* item) const
+/// @return -1: the line is no source
+int FileListWidget::sourceRow(const QTreeWidgetItem* item) const
 {
-    return isSourceItem(item);
+    return isSourceItem(item) ? item->parent()->indexOfChild(const_cast<QTreeWidgetItem*>(item)) : -1;
 }
 
 void FileListWidget::moveSource(int row, int target)
 {
     if (row >= 0 && row < m_files.sources.size() && target >= 0 && target < m_files.sources.size() && row != target)
-        emit moveRequested(m_files.sources.at(row), target);
+        emit moveRequested(ProjectFiles::sourceAt(m_files.sources, row), target);
 }
 
 void FileListWidget::moveCurrent(int step)
 {
-    const int row = isSource(m_tree->currentItem()) ? m_files.sources.indexOf(currentFile()) : -1;
+    const int row = sourceRow(m_tree->currentItem());
     if (row >= 0)
         moveSource(row, row + step);
 }
 
-void FileListWidget::removeCurrent()
+void FileListWidget::remove(int row)
 {
-    if (isSource(m_tree->currentItem()))
-        emit removeRequested(currentFile());
+    if (row >= 0)
+        emit removeRequested(ProjectFiles::sourceAt(m_files.sources, row));
 }
 
 void FileListWidget::updateButtons()
 {
-    const int row = isSource(m_tree->currentItem()) ? m_files.sources.indexOf(currentFile()) : -1;
+    const int row = sourceRow(m_tree->currentItem());
     m_remove->setEnabled(row >= 0);
     m_up->setEnabled(row > 0);
     m_down->setEnabled(row >= 0 && row < m_files.sources.size() - 1);
@@ -303,7 +312,9 @@ void FileListWidget::showMenu(const QPoint& place)
         [file] { QApplication::clipboard()->setText(QDir::toNativeSeparators(file)); });
     menu->addSeparator();
     add(tr("&Add sources..."), true, [this] { emit addRequested(); });
-    add(tr("&Remove from the project"), isSource(item), [this, file] { emit removeRequested(file); });
+    const int row = sourceRow(item);
+    add(tr("&Remove from the project"), row >= 0,
+        [this, source = ProjectFiles::sourceAt(m_files.sources, row)] { emit removeRequested(source); });
     menu->popup(m_tree->viewport()->mapToGlobal(place));
 }
 

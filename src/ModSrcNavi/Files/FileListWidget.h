@@ -45,7 +45,8 @@ public:
     explicit FileListWidget(QWidget* parent = nullptr);
 
     /// Shows files, relative to the folder of the project.
-    void setFiles(const ProjectFiles& files, const QDir& dir);
+    /// @param currentSource row of the source whose line becomes the current one; -1: the one that was it stays it
+    void setFiles(const ProjectFiles& files, const QDir& dir, int currentSource = -1);
     void clear();
     /// Makes the line of a file the current one. @return false: the file is not listed
     bool select(const QString& file);
@@ -57,21 +58,21 @@ public:
 signals:
     void openRequested(const QString& file);
     void addRequested();
-    void removeRequested(const QString& file);
+    void removeRequested(const ProjectFiles::sSource_t& source);
     /// The user wants the source at another place of the order, counted without it.
-    void moveRequested(const QString& file, int target);
+    void moveRequested(const ProjectFiles::sSource_t& source, int target);
 
 private:
     QToolButton* addButton(const char* name, const QString& text, const QString& toolTip);
     QTreeWidgetItem* addGroup(const QString& title, const QStringList& files, bool isSource, bool isOutput);
-    bool isSource(const QTreeWidgetItem* item) const;
+    int sourceRow(const QTreeWidgetItem* item) const;
     /// Does not scroll. @return false: the file is not listed
     bool makeCurrent(const QString& file);
     bool isCurrentSeen() const;
     void noteFolded();
     void moveSource(int row, int target);
     void moveCurrent(int step);
-    void removeCurrent();
+    void remove(int row);
     void updateButtons();
     void showMenu(const QPoint& place);
 

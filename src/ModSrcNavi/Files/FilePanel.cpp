@@ -40,31 +40,39 @@ FilePanel::FilePanel(std::function<sServices_t()> services, QObject* parent)
     m_menu->menuAction()->setEnabled(false);
     m_menu->menuAction()->setToolTip(tr("Files that were shown last"));
     connect(m_menu, &QMenu::aboutToShow, this, &FilePanel::fillMenu);
+    connect(&m_presence, &FilePresence::changed, this, &FilePanel::markMissing);
     connect(m_widget, &FileListWidget::openRequested, this, &FilePanel::open);
     connect(m_widget, &FileListWidget::addRequested, this, [this] {
         if (ModSourcesHookIf* sources = m_services().sources)
             sources->addFilesByDialog(m_widget != nullptr ? m_widget->window() : nullptr);
     });
-    connect(m_widget, &FileListWidget::removeRequested, this,
-            [this](const QString& file) { changeSources([&file](QStringList* files) { files->removeAll(file); }); });
-    connect(m_widget, &FileListWidget::moveRequested, this, [this](const QString& file, int target) {
-        changeSources([&file, target](QStringList* files) {
-            if (files->removeOne(file))
-                files->insert(qBound(0, target, files->size()), file);
+    connect(m_widget, &FileListWidget::removeRequested, this, [this](const ProjectFiles::sSource_t& source) {
+        changeSources(source, [](QStringList* files, int row) {
+            files->removeAt(row);
+            return qMin(row, files->size() - 1);
+        });
+    });
+    connect(m_widget, &FileListWidget::moveRequested, this, [this](const ProjectFiles::sSource_t& source, int target) {
+        changeSources(source, [target](QStringList* files, int row) {
+            const int place = qBound(0, target, files->size() - 1);
+            files->move(row, place);
+            return place;
         });
     });
 }
 
 /// Changes the list as it is now, which need not be the one that is shown, and shows the result at once.
-void FilePanel::changeSources(const std::function<void(QStringList*)>& change)
+/// @param change gets the list and the row of the source in it; its result becomes the current row
+void FilePanel::changeSources(const ProjectFiles::sSource_t& source,
+                              const std::function<int(QStringList*, int row)>& change)
 {
     ModSourcesHookIf* sources = m_services().sources;
     if (sources == nullptr)
         return;
     QStringList files = sources->files();
-    change(&files);
-    sources->setFiles(files);
-    refresh();
+    const int row = ProjectFiles::rowOf(files, source);
+    const int place = row < 0 ? row : change(&files, row);
+    refresh(row >= 0 && sources->setFiles(files) ? place : -1);
 }
 
 FilePanel::~FilePanel()
@@ -83,6 +91,8 @@ FileListWidget* FilePanel::widget() const
 void FilePanel::setProjectOpen(bool isOpen)
 {
     m_isOpen = isOpen;
+    if (isOpen)
+        m_presence.look(m_recent);
     updateMenu();
     if (m_widget == nullptr)
         return;
@@ -111,7 +121,7 @@ void FilePanel::refreshSoon()
         this, [this] { refresh(); }, Qt::QueuedConnection);
 }
 
-void FilePanel::refresh()
+void FilePanel::refresh(int currentSource)
 {
     m_refreshes = false;
     const sServices_t services = m_services();
@@ -132,7 +142,7 @@ void FilePanel::refresh()
             page->installEventFilter(this);
         }
     }
-    m_widget->setFiles(m_files, services.prj->prjDir());
+    m_widget->setFiles(m_files, services.prj->prjDir(), currentSource);
 }
 
 bool FilePanel::eventFilter(QObject* watched, QEvent* event)
@@ -175,15 +185,28 @@ void FilePanel::updateMenu()
 void FilePanel::fillMenu()
 {
     m_menu->clear();
+    m_presence.look(m_recent);
     const sServices_t services = m_services();
     for (const QString& file : qAsConst(m_recent)) {
-        if (services.prj == nullptr || !QFileInfo::exists(file))
+        if (services.prj == nullptr || m_presence.isMissing(file))
             continue;
         const QString name = services.prj->convToRelPath(file).replace(QLatin1Char('&'), QLatin1String("&&"));
-        m_menu->addAction(name, this, [this, file] { open(file); });
+        m_menu->addAction(name, this, [this, file] { open(file); })->setData(file);
     }
     if (m_menu->isEmpty())
         m_menu->addAction(tr("None"))->setEnabled(false);
+}
+
+/// What is known since the menu was shown. Its lines stay where they are.
+void FilePanel::markMissing()
+{
+    if (m_menu == nullptr || !m_menu->isVisible())
+        return;
+    for (QAction* entry : m_menu->actions()) {
+        const QString file = entry->data().toString();
+        if (!file.isEmpty())
+            entry->setEnabled(!m_presence.isMissing(file));
+    }
 }
 
 bool FilePanel::select(const QString& file)
@@ -210,7 +233,8 @@ QVector<QuickOpen::sTarget_t> FilePanel::targets(const NaviTagList& tags) const
     files.removeDuplicates();
     for (const QString& file : qAsConst(files)) {
         const QFileInfo info(file);
-        if (!info.exists())
+        // A recent file may be anywhere, also on a disk that does not answer.
+        if (m_recent.contains(file) ? m_presence.isMissing(file) : !info.exists())
             continue;
         const QString relative = services.prj->convToRelPath(file);
         QuickOpen::sTarget_t target;
@@ -256,7 +280,12 @@ void FilePanel::quickOpen(const NaviTagList& tags)
     if (m_services().prj == nullptr || !m_isOpen)
         return;
     const QPointer<FilePanel> self(this);
+    m_presence.look(m_recent);
     const QPointer<QuickOpen> dialog(new QuickOpen(targets(tags), DialogParent::get()));
+    connect(&m_presence, &FilePresence::changed, dialog, [this, dialog] {
+        if (dialog != nullptr)
+            dialog->leaveOut([this](const QString& file) { return m_presence.isMissing(file); });
+    });
     const bool accepted = dialog->exec() == QDialog::Accepted;
     const QuickOpen::sTarget_t chosen = dialog ? dialog->chosen() : QuickOpen::sTarget_t();
     delete dialog;

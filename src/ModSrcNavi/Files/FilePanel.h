@@ -3,6 +3,8 @@
 #include "ProjectFiles.h"
 #include "QuickOpen.h"
 
+#include "FilePresence.h"
+
 #include <QMenu>
 #include <QObject>
 #include <QPointer>
@@ -66,10 +68,11 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void refresh();
-    void changeSources(const std::function<void(QStringList*)>& change);
+    void refresh(int currentSource = -1);
+    void changeSources(const ProjectFiles::sSource_t& source, const std::function<int(QStringList*, int row)>& change);
     void open(const QString& file);
     void fillMenu();
+    void markMissing();
     void updateMenu();
     QVector<QuickOpen::sTarget_t> targets(const NaviTagList& tags) const;
 
@@ -77,7 +80,8 @@ private:
     QPointer<FileListWidget> m_widget;
     QPointer<QMenu> m_menu;
     ProjectFiles m_files;
-    QStringList m_recent; ///< the file shown last first
+    QStringList m_recent;    ///< the file shown last first
+    FilePresence m_presence; ///< of the recent files
     bool m_isOpen = false;
     bool m_refreshes = false;
 };

@@ -14,6 +14,19 @@ QString tr(const char* text)
 
 } // namespace
 
+ProjectFiles::sSource_t ProjectFiles::sourceAt(const QStringList& sources, int row)
+{
+    return {sources.value(row), sources.mid(0, row).count(sources.value(row))};
+}
+
+int ProjectFiles::rowOf(const QStringList& sources, const sSource_t& source)
+{
+    int row = sources.indexOf(source.file);
+    for (int i = 0; i < source.nth && row >= 0; ++i)
+        row = sources.indexOf(source.file, row + 1);
+    return row;
+}
+
 ProjectFiles::sState_t ProjectFiles::stateOf(const QString& file) const
 {
     sState_t state;

@@ -87,6 +87,24 @@ void QuickOpen::fill()
     m_list->setCurrentRow(m_rows.isEmpty() ? -1 : 0);
 }
 
+void QuickOpen::leaveOut(const std::function<bool(const QString&)>& isMissing)
+{
+    const auto keyOf = [](const sTarget_t& target) {
+        return QStringLiteral("%1\n%2\n%3").arg(target.file, target.name).arg(target.line);
+    };
+    const int before = m_list->currentRow();
+    const QString current = before >= 0 && before < m_rows.size() ? keyOf(m_targets.at(m_rows.at(before))) : QString();
+    m_targets.erase(
+        std::remove_if(m_targets.begin(), m_targets.end(),
+                       [&isMissing](const sTarget_t& target) { return !target.isSymbol && isMissing(target.file); }),
+        m_targets.end());
+    fill();
+    for (int row = 0; row < m_rows.size(); ++row) {
+        if (keyOf(m_targets.at(m_rows.at(row))) == current)
+            m_list->setCurrentRow(row);
+    }
+}
+
 bool QuickOpen::eventFilter(QObject* watched, QEvent* event)
 {
     if (event->type() == QEvent::KeyPress) {

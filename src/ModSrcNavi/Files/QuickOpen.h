@@ -5,6 +5,8 @@
 #include <QDialog>
 #include <QVector>
 
+#include <functional>
+
 class QLineEdit;
 class QListWidget;
 
@@ -34,6 +36,8 @@ public:
 
     /// What was chosen; with an empty file nothing was.
     sTarget_t chosen() const { return m_chosen; }
+    /// Takes files off the list, not their symbols. What the user has chosen in it stays chosen.
+    void leaveOut(const std::function<bool(const QString& file)>& isMissing);
 
 public slots:
     void accept() override;

@@ -17,50 +17,49 @@ sTextPlace JumpHistory::sStop::now() const
     return result;
 }
 
-/// @return false: there is nothing to come back to
-bool JumpHistory::stopOf(EditorDocument* document, sStop* stop)
-{
-    // A document without a file could not be opened again.
-    if (document == nullptr || document->filePath().isEmpty())
-        return false;
-    stop->document = document;
-    stop->cursor = document->textCursor();
-    stop->cursor.clearSelection();
-    stop->place = stop->now();
-    return true;
-}
-
-void JumpHistory::leave(EditorDocument* document)
+JumpHistory::sStop JumpHistory::here(EditorDocument* document)
 {
     sStop stop;
-    if (!stopOf(document, &stop))
+    // A document without a file could not be opened again.
+    if (document == nullptr || document->filePath().isEmpty())
+        return stop;
+    stop.document = document;
+    stop.cursor = document->textCursor();
+    stop.cursor.clearSelection();
+    stop.place = stop.now();
+    return stop;
+}
+
+void JumpHistory::push(std::vector<sStop>* stops, const sStop& stop)
+{
+    if (stop.place.isNull())
         return;
-    if (m_back.size() == maxCount)
-        m_back.erase(m_back.begin());
-    m_back.push_back(stop);
+    if (stops->size() == maxCount)
+        stops->erase(stops->begin());
+    stops->push_back(stop);
+}
+
+void JumpHistory::leave(const sStop& from)
+{
+    if (from.place.isNull())
+        return;
+    push(&m_back, from);
     m_forward.clear();
 }
 
-sTextPlace JumpHistory::move(std::vector<sStop>* from, std::vector<sStop>* to, EditorDocument* document)
+sTextPlace JumpHistory::take(eWay_t way)
 {
-    if (from->empty())
+    std::vector<sStop>& stops = way == wayBack ? m_back : m_forward;
+    if (stops.empty())
         return {};
-    sStop stop;
-    if (stopOf(document, &stop))
-        to->push_back(stop);
-    const sTextPlace place = from->back().now();
-    from->pop_back();
+    const sTextPlace place = stops.back().now();
+    stops.pop_back();
     return place;
 }
 
-sTextPlace JumpHistory::back(EditorDocument* document)
+void JumpHistory::arrive(eWay_t way, const sStop& from)
 {
-    return move(&m_back, &m_forward, document);
-}
-
-sTextPlace JumpHistory::forward(EditorDocument* document)
-{
-    return move(&m_forward, &m_back, document);
+    push(way == wayBack ? &m_forward : &m_back, from);
 }
 
 void JumpHistory::documentClosing(const EditorDocument* document)

@@ -14,6 +14,8 @@ namespace nsProc {
 
 namespace {
 
+const int gapBeforeTitle = 12; ///< pixels
+
 /// Time of one clock in the unit, with the arithmetic in single precision.
 double timeOfClock(double clkFreq, const char** unit)
 {
@@ -110,6 +112,9 @@ QLabel* ProcSimStatusBar::addValue(const QString& name, int width)
 
 void ProcSimStatusBar::addTitle(QWidget* title)
 {
+    // Not in one with the value before it, which can be as wide as its place. A unit belongs to its value.
+    if (qobject_cast<MyStatusBarTitle*>(title) != nullptr)
+        title->setContentsMargins(gapBeforeTitle, 0, 0, 0);
     layout()->addWidget(title);
     m_titles.append(title);
 }
