@@ -69,7 +69,8 @@ public:
     void setProgramFile(const QString& file) { m_programFile = file; }
     /// The open pages of the centre, in the order in which they were opened.
     QList<HlpWidget*> pages() const { return m_pages; }
-    HlpNetworkAccessManager* network() const { return m_network; }
+    /// Made at the first call, as it costs time.
+    HlpNetworkAccessManager* network();
 
     // ModHlpHookIf
     void showDialogHlpRef(QWidget* dialog, QString ref) override;
@@ -172,6 +173,8 @@ private:
     HlpWidget* addPage();
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
+    void makeReady();
+    bool isReady() const;
     void openCollection();
     void closeCollection();
     static QUrl pageStart();
@@ -187,7 +190,7 @@ private:
     PluginList<ModHlpPluginIf> m_plugins;
     QString m_programFile; ///< empty: the running program
     HlpCollection m_collection;
-    HlpNetworkAccessManager* m_network;
+    HlpNetworkAccessManager* m_network = nullptr; ///< null until it is needed
     HlpActionsHelp* m_actionsHelp = nullptr;
     HlpActionsNavi* m_actionsNavi = nullptr;
     QPointer<HlpIndexWidget> m_index;
