@@ -50,7 +50,11 @@ void ModTemplates::setupSupportMenu(const QString& path)
     const QRegExp leading(QStringLiteral("^\\s*"));
     const QRegExp lineEnd(QStringLiteral("[\\r\\n]*$"));
     while (!file.atEnd()) {
-        const QString line = QString::fromLatin1(file.readLine());
+        const QByteArray bytes = file.readLine();
+        // Hardly a line has one, and the expression takes longer than all the rest.
+        if (!bytes.startsWith("menuItem"))
+            continue;
+        const QString line = QString::fromLatin1(bytes);
         if (!menuItem.exactMatch(line))
             continue;
         setupSupportMenuFile(menuItem.cap(1).remove(leading).remove(lineEnd), path);
