@@ -2,6 +2,7 @@
 
 #include "HelpRef.h"
 #include "HlpNetworkAccessManager.h"
+#include "HlpSourceIf.h"
 #include "HlpViewLibrary.h"
 
 #include <QLabel>
@@ -19,9 +20,9 @@ const qreal zoomStep = 0.1;
 
 } // namespace
 
-HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
+HlpWidget::HlpWidget(HlpSourceIf* source, QWidget* parent)
     : QWidget(parent)
-    , m_manager(manager)
+    , m_source(source)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Help page"));
@@ -45,7 +46,7 @@ QWebView* HlpWidget::view()
 
 void HlpWidget::makeView()
 {
-    m_view = HlpViewLibrary::makeView(m_manager, this, this);
+    m_view = HlpViewLibrary::makeView(m_source->network(), this, this);
     if (m_view == nullptr) {
         showFailure(HlpViewLibrary::error());
         return;
@@ -60,7 +61,7 @@ void HlpWidget::makeView()
         view->setFocus();
     // By its real name, to which the links in the page are relative.
     if (!m_target.isEmpty())
-        m_view->goTo(m_manager->pageOf(m_target));
+        m_view->goTo(m_source->network()->pageOf(m_target));
 }
 
 void HlpWidget::showFailure(const QString& reason)
@@ -79,12 +80,12 @@ void HlpWidget::showFailure(const QString& reason)
 
 bool HlpWidget::isPageOfHelp(const QUrl& url)
 {
-    return url.scheme() == QLatin1String("pageid") || m_manager->isOfCollection(url);
+    return url.scheme() == QLatin1String("pageid") || m_source->network()->isOfCollection(url);
 }
 
 void HlpWidget::scriptLinkFollowed(const QUrl& url, const QUrl& page)
 {
-    m_manager->runScriptLink(url, page);
+    m_source->network()->runScriptLink(url, page);
 }
 
 void HlpWidget::paintEvent(QPaintEvent* event)
@@ -99,9 +100,10 @@ void HlpWidget::setSource(const QUrl& url)
 {
     m_target = url;
     if (m_view != nullptr)
-        m_view->goTo(m_manager->pageOf(url));
+        m_view->goTo(m_source->network()->pageOf(url));
     // At the start of the program, the collection is opened after the window is seen.
-    const QString name = m_manager->isReady() ? m_manager->titleOf(m_manager->pageOf(url)) : QString();
+    const QString name =
+        m_source->isReady() ? m_source->network()->titleOf(m_source->network()->pageOf(url)) : QString();
     if (!name.isEmpty())
         emit titleChanged(this, name);
 }
@@ -110,12 +112,13 @@ QUrl HlpWidget::source() const
 {
     if (m_view != nullptr && !m_view->place().isEmpty())
         return m_view->place();
-    return m_target.isEmpty() ? QUrl() : m_manager->pageOf(m_target);
+    return m_target.isEmpty() ? QUrl() : m_source->network()->pageOf(m_target);
 }
 
 QString HlpWidget::title() const
 {
-    return m_view != nullptr && !m_view->pageTitle().isEmpty() ? m_view->pageTitle() : m_manager->titleOf(source());
+    return m_view != nullptr && !m_view->pageTitle().isEmpty() ? m_view->pageTitle()
+                                                               : m_source->network()->titleOf(source());
 }
 
 bool HlpWidget::canGoBack() const

@@ -9,7 +9,7 @@ class QLabel;
 
 namespace nsModHlp {
 
-class HlpNetworkAccessManager;
+class HlpSourceIf;
 
 /// One help page with its history. What draws it is a HlpViewIf.
 ///
@@ -21,8 +21,8 @@ class HlpWidget : public QWidget, private HlpViewClientIf
     Q_OBJECT
 
 public:
-    /// @param manager loads the pages; not owned, must outlive the widget
-    explicit HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent = nullptr);
+    /// @param source of the pages; not owned, must outlive the widget
+    explicit HlpWidget(HlpSourceIf* source, QWidget* parent = nullptr);
     ~HlpWidget() override;
 
     /// Goes to a page. The first page is the start of the history. What is no page of the help leads to the page about
@@ -74,7 +74,7 @@ private:
 
     void zoom(int steps);
 
-    HlpNetworkAccessManager* m_manager;
+    HlpSourceIf* m_source;
     HlpViewIf* m_view = nullptr; ///< null until it is needed
     QLabel* m_failure = nullptr; ///< in place of a view that can not be made
     QUrl m_target;               ///< of setSource(), as it was given

@@ -4,6 +4,7 @@
 #include "HlpActionsNavi.h"
 #include "HlpCollection.h"
 #include "HlpConfig.h"
+#include "HlpSourceIf.h"
 #include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
 #include "ModClipboardPluginIf.h"
@@ -54,7 +55,8 @@ class ModHlp : public QObject,
                public ModFindReplacePluginIf,
                public ModClipboardPluginIf,
                public ModScriptPluginIf,
-               public HlpConfig
+               public HlpConfig,
+               public HlpSourceIf
 {
     Q_OBJECT
 
@@ -69,8 +71,10 @@ public:
     void setProgramFile(const QString& file) { m_programFile = file; }
     /// The open pages of the centre, in the order in which they were opened.
     QList<HlpWidget*> pages() const { return m_pages; }
-    /// Made at the first call, as it costs time.
-    HlpNetworkAccessManager* network();
+
+    // HlpSourceIf
+    HlpNetworkAccessManager* network() override;
+    bool isReady() const override;
 
     // ModHlpHookIf
     void showDialogHlpRef(QWidget* dialog, QString ref) override;
@@ -174,7 +178,6 @@ private:
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
     void makeReady();
-    bool isReady() const;
     void openCollection();
     void closeCollection();
     static QUrl pageStart();

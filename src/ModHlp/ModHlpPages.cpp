@@ -61,7 +61,7 @@ HlpWidget* ModHlp::pageAt(const QUrl& url) const
 
 HlpWidget* ModHlp::addPage()
 {
-    auto* page = new HlpWidget(network());
+    auto* page = new HlpWidget(this);
     page->setObjectName(QStringLiteral("hlpPage"));
     m_pages.append(page);
     connect(page, &HlpWidget::linkClicked, this, &ModHlp::openPsmFile);
@@ -271,7 +271,7 @@ void ModHlp::show(const QUrl& url)
     if (m_window != nullptr && (m_window->parentWidget() != modal || !m_window->isVisible()))
         dropWindow();
     if (m_window == nullptr)
-        m_window = new HlpDialogWindow(network(), modal);
+        m_window = new HlpDialogWindow(this, modal);
     m_window->page()->setSource(url);
     m_window->show();
     m_window->raise();
@@ -358,7 +358,7 @@ void ModHlp::showDialogHlp(QWidget* dialog, const QUrl& url)
         return;
     HlpWidget* page = m_dialogPages.value(dialog);
     if (page == nullptr) {
-        page = new HlpWidget(network());
+        page = new HlpWidget(this);
         page->setObjectName(QStringLiteral("hlpDialogPage"));
         m_dialogPages.insert(dialog, page);
         connect(dialog, &QObject::destroyed, page, [this, dialog] { closeDialogHlp(dialog); });
