@@ -141,11 +141,13 @@ TEST_F(DocumentsInWindow, quickOpenLeadsToTheDefinitionOfEveryName)
     const QStringList names = quickOpen("@a");
     EXPECT_TRUE(names.contains("alpha")) << qPrintable(names.join(' '));
     EXPECT_FALSE(names.contains("a.psm"));
+    quickOpen("send");
+    EXPECT_EQ(current(), "b.psm");
     EXPECT_EQ(quickOpen("@alp").value(0), "alpha");
     EXPECT_EQ(place(), "a.psm:0 alpha");
     // It is a jump, which has a way back.
     QTest::keyClick(tabs()->currentWidget(), Qt::Key_Left, Qt::AltModifier);
-    EXPECT_EQ(current(), "b.psm");
+    EXPECT_EQ(place(), "b.psm:2 ");
     // The text as it stands counts, not that of the run.
     auto* document = qobject_cast<EditorWidget*>(tabs()->currentWidget());
     document->moveCursor(QTextCursor::Start);

@@ -7,6 +7,7 @@
 #include "ModConfigHookIf.h"
 #include "ModEditorHookIf.h"
 #include "ModGuiHookIf.h"
+#include "ModPrj.h"
 
 #include <QAction>
 #include <QHelpEvent>
@@ -318,7 +319,11 @@ TEST_F(ShortcutsInWindow, EveryKeyOfTheWindowIsListed)
 
 TEST_F(ShortcutsInWindow, TheMenuOfTheMarginOpensByItsKeyAlsoByAnotherOne)
 {
-    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(writeFile("a.psm", "loop: JUMP loop\n      JUMP loop\n")));
+    const QString source = writeFile("a.psm", "loop: JUMP loop\n      JUMP loop\n");
+    ASSERT_TRUE(module<nsModPrj::ModPrj>()->openPrj(
+        writeFile("margin.nalvo", "<project version=\"3\"><PrjInfo><title>T</title></PrjInfo>"
+                                  "<sources><srcFiles>a.psm</srcFiles></sources></project>")));
+    ASSERT_TRUE(module<ModEditorHookIf>()->openFile(source));
     auto* document =
         qobject_cast<nsModEditor::EditorWidget*>(module<ModGuiHookIf>()->currentWidget(ModGuiHookIf::eLocationTabs));
     ASSERT_NE(document, nullptr);
