@@ -1,7 +1,7 @@
 # What "cmake --install" puts where. The usual variables apply: CMAKE_INSTALL_PREFIX,
 # DESTDIR, and those of GNUInstallDirs.
 #
-#   libexec/nalvo/bin/     the programs
+#   libexec/nalvo/bin/     the programs, and the library that draws the help
 #   libexec/nalvo/         links to what ships beside them, where a program looks for it from its own folder
 #   share/nalvo/           that itself: templates, filters, fonts, help, examples
 #   bin/                   links to the programs
@@ -34,6 +34,8 @@ endfunction()
 # The programs.
 set(nalvoTools nalvo-asm nalvo-sim nalvo-import nalvo-prove)
 install(TARGETS Nalvo RUNTIME DESTINATION "${nalvoHome}/bin" COMPONENT program)
+# The program loads it from its own folder.
+install(TARGETS HelpView LIBRARY DESTINATION "${nalvoHome}/bin" COMPONENT program)
 install(TARGETS ${nalvoTools} RUNTIME DESTINATION "${nalvoHome}/bin" COMPONENT tools)
 nalvo_install_link(program "${CMAKE_INSTALL_BINDIR}/nalvo" "${nalvoHome}/bin/nalvo")
 foreach(tool IN LISTS nalvoTools)

@@ -14,12 +14,19 @@ AsmCharsets::AsmCharsets(AsmFeMsgHndlr& messages)
 const QStringList& AsmCharsets::names()
 {
     if (m_names.isEmpty()) {
-        const QList<QByteArray> codecs = QTextCodec::availableCodecs();
-        for (const QByteArray& codec : codecs)
-            m_names.append(QString::fromLatin1(codec).toUpper());
+        m_names = available();
         m_set = QSet<QString>(m_names.cbegin(), m_names.cend());
     }
     return m_names;
+}
+
+QStringList AsmCharsets::available()
+{
+    QStringList names;
+    const QList<QByteArray> codecs = QTextCodec::availableCodecs();
+    for (const QByteArray& codec : codecs)
+        names.append(QString::fromLatin1(codec).toUpper());
+    return names;
 }
 
 bool AsmCharsets::contains(const QString& upperName)

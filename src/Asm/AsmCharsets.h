@@ -16,7 +16,9 @@ class AsmCharsets
 public:
     explicit AsmCharsets(AsmFeMsgHndlr& messages);
 
-    /// Names in upper case. Asked from the platform at the first use, which takes its time.
+    /// The names of all character sets of the platform, in upper case.
+    static QStringList available();
+    /// The same, kept. Asked from the platform at the first use, which takes its time.
     const QStringList& names();
     /// @param upperName in upper case
     bool contains(const QString& upperName);

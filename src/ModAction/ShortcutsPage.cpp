@@ -2,6 +2,7 @@
 
 #include "KeyEdit.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -132,7 +133,7 @@ QHash<QString, QList<QKeySequence>> ShortcutsPage::keys() const
 
 QIcon ShortcutsPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModAction/img/configPage/configPageShortcuts.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModAction/img/configPage/configPageShortcuts.png"));
 }
 
 QString ShortcutsPage::pageTitle()

@@ -1,5 +1,6 @@
 #include "AsmEditorFeed.h"
 
+#include "AsmCharsets.h"
 #include "AsmRunListener.h"
 #include "Assembler.h"
 #include "EditorMemPageAddrMap.h"
@@ -92,8 +93,11 @@ void AsmEditorFeed::setupSupportMenuBasic(ModEditorHookIf* editor)
     }
     for (const char* command : navigatorCommands)
         menu->setEntry(QString("Navigator commands/%1").arg(command), command, text);
-    for (const QString& charset : m_assembler.charsets().names())
-        menu->setEntry("Attributes/Characer set/" + charset, charset, text);
+    // There are hundreds of them.
+    menu->fillLater([](EditorSupportMenu* shown) {
+        for (const QString& charset : AsmCharsets::available())
+            shown->setEntry("Attributes/Characer set/" + charset, charset, EditorSupportMenu::typeText);
+    });
     menu->setEntry("Attributes/Numerics/2 Byte Big Endian", "'2BE", text);
     menu->setEntry("Attributes/Numerics/4 Byte Big Endian", "'4BE", text);
 }

@@ -4,6 +4,7 @@
 #include "MyColorSelector.h"
 #include "MyFontTable.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -279,7 +280,7 @@ void EditorConfigPage::setDefaultConfig()
 
 QIcon EditorConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModEditor/img/configPage/configPageEditor.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModEditor/img/configPage/configPageEditor.png"));
 }
 
 QString EditorConfigPage::pageTitle()

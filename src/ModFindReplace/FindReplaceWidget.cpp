@@ -3,6 +3,7 @@
 #include "FindReplaceActions.h"
 
 #include "ButtonCommand.h"
+#include "SchemeIcons.h"
 
 #include <QCheckBox>
 #include <QGridLayout>
@@ -233,7 +234,7 @@ QToolButton* FindReplaceWidget::addToolButton(const char* name, const QString& i
     auto* button = new QToolButton(this);
     button->setObjectName(QLatin1String(name));
     button->setAutoRaise(true);
-    button->setIcon(QIcon(icon));
+    button->setIcon(SchemeIcons::of(icon));
     button->setIconSize(QSize(16, 16));
     button->setFocusPolicy(Qt::StrongFocus);
     button->setToolTip(toolTip);
@@ -358,7 +359,7 @@ void FindReplaceWidget::setMode(eMode_t mode)
         m_find->setFocus();
     for (QWidget* part : {static_cast<QWidget*>(m_replaceLabel), static_cast<QWidget*>(m_replace), m_replaceButtons})
         part->setVisible(shown);
-    m_toggle->setIcon(QIcon(shown ? iconCollapse : iconExpand));
+    m_toggle->setIcon(SchemeIcons::of(shown ? iconCollapse : iconExpand));
     m_toggle->setToolTip(shown ? tr("Hide the replacement") : tr("Show the replacement"));
     m_toggle->setAccessibleName(m_toggle->toolTip());
 }

@@ -1,6 +1,7 @@
 #include "GuiConfigPage.h"
 
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -51,7 +52,7 @@ ColorScheme::eChoice_t GuiConfigPage::colors() const
 
 QIcon GuiConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModGui/img/configPage/configPageAppearance.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModGui/img/configPage/configPageAppearance.png"));
 }
 
 QString GuiConfigPage::pageTitle()

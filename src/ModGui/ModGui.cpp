@@ -4,6 +4,7 @@
 #include "ConfigKeys.h"
 #include "DockShares.h"
 #include "GuiConfigPage.h"
+#include "SchemeIcons.h"
 #include "SplashScreen.h"
 #include "StatusFrame.h"
 #include "WidgetAreaDock.h"
@@ -149,8 +150,7 @@ void ModGui::setupStyle()
 {
     m_colorScheme = new ColorScheme(window());
     // The same in every scheme: it stands in the bars of the desktop.
-    QIcon icon(QPixmap(QStringLiteral(":/ModGui/img/appIcon.png")));
-    window()->setWindowIcon(icon);
+    window()->setWindowIcon(SchemeIcons::always(QStringLiteral(":/ModGui/img/appIcon.png")));
 }
 
 WidgetArea* ModGui::area(int location) const

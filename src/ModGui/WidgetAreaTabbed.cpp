@@ -3,6 +3,7 @@
 #include "EmptyPage.h"
 #include "PageSplitter.h"
 #include "PageSwitcher.h"
+#include "SchemeIcons.h"
 #include "TabControls.h"
 
 #include <QAction>
@@ -48,7 +49,7 @@ WidgetAreaTabbed::WidgetAreaTabbed(QWidget* parent)
     setAccessibleName(tr("Pages"));
     m_closeButton->setObjectName(QStringLiteral("buttonCloseTab"));
     m_closeButton->setFlat(true);
-    m_closeButton->setIcon(QIcon(QStringLiteral(":/ModGui/img/tab-close.png")));
+    m_closeButton->setIcon(SchemeIcons::of(QStringLiteral(":/ModGui/img/tab-close.png")));
     m_closeButton->setAccessibleName(tr("Close page"));
     m_closeButton->setToolTip(
         tr("Close page (%1)").arg(QKeySequence(QKeySequence::Close).toString(QKeySequence::NativeText)));

@@ -1,6 +1,7 @@
 #include "HlpConfigPage.h"
 
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,7 +57,7 @@ void HlpConfigPage::setDefaultConfig()
 
 QIcon HlpConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModHlp/img/configPage/configPageHelp.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModHlp/img/configPage/configPageHelp.png"));
 }
 
 QString HlpConfigPage::pageTitle()

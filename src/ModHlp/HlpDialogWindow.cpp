@@ -12,9 +12,9 @@ const QSize startSize(760, 620);
 
 } // namespace
 
-HlpDialogWindow::HlpDialogWindow(HlpNetworkAccessManager* manager, QWidget* dialog)
+HlpDialogWindow::HlpDialogWindow(HlpSourceIf* source, QWidget* dialog)
     : QDialog(dialog)
-    , m_page(new HlpWidget(manager, this))
+    , m_page(new HlpWidget(source, this))
 {
     setObjectName(QStringLiteral("hlpDialogWindow"));
     setAttribute(Qt::WA_DeleteOnClose);

@@ -4,7 +4,7 @@
 
 namespace nsModHlp {
 
-class HlpNetworkAccessManager;
+class HlpSourceIf;
 class HlpWidget;
 
 /// A help page in a window in front of a modal dialog, which lets no other window have the keyboard and the mouse.
@@ -16,7 +16,7 @@ class HlpDialogWindow : public QDialog
 
 public:
     /// @param manager loads the pages; not owned, must outlive the window
-    HlpDialogWindow(HlpNetworkAccessManager* manager, QWidget* dialog);
+    HlpDialogWindow(HlpSourceIf* source, QWidget* dialog);
 
     HlpWidget* page() const { return m_page; }
 

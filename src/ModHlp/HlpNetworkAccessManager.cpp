@@ -8,7 +8,6 @@
 #include <QRegularExpression>
 #include <QTextDocumentFragment>
 #include <QUrlQuery>
-#include <QWebFrame>
 
 #include <utility>
 
@@ -32,6 +31,14 @@ QString escaped(QString text)
 const QString schemePage = QStringLiteral("pageid");
 const QString schemeScript = QStringLiteral("script");
 const QString schemeHelp = QStringLiteral("qthelp");
+
+/// The page that a request comes from; empty if it comes from none. The class of the engine is known by its name alone,
+/// as the library that it is in need not be loaded.
+QUrl pageThatAsks(const QNetworkRequest& request)
+{
+    const QObject* frame = request.originatingObject();
+    return frame != nullptr && frame->inherits("QWebFrame") ? frame->property("url").toUrl() : QUrl();
+}
 
 } // namespace
 
@@ -164,10 +171,10 @@ QString HlpNetworkAccessManager::mimeType(const QUrl& url)
     return QStringLiteral("text/html");
 }
 
-bool HlpNetworkAccessManager::runScriptLink(const QUrl& url, const QWebFrame* frame)
+bool HlpNetworkAccessManager::runScriptLink(const QUrl& url, const QUrl& page)
 {
     // Only what was shipped with the program may act on it.
-    if (url.scheme() != schemeScript || frame == nullptr || !isOfCollection(frame->url()))
+    if (url.scheme() != schemeScript || !isOfCollection(page))
         return false;
     emit callScript(scriptCall(url));
     return true;
@@ -186,7 +193,7 @@ QNetworkReply* HlpNetworkAccessManager::createRequest(Operation operation, const
         return createRequest(operation, target, data);
     }
     if (url.scheme() == schemeScript)
-        runScriptLink(url, qobject_cast<QWebFrame*>(request.originatingObject()));
+        runScriptLink(url, pageThatAsks(request));
     // What a page shows comes from the collection; anything else stays empty.
     QByteArray bytes = url.scheme() == schemeHelp ? fileData(url) : QByteArray();
     if (bytes.isEmpty())

@@ -10,7 +10,6 @@
 #include <utility>
 
 class QHelpEngineCore;
-class QWebFrame;
 
 namespace nsModHlp {
 
@@ -56,9 +55,9 @@ public:
     /// The call of a script function that a URL of the scheme "script" stands for.
     static QString scriptCall(const QUrl& url);
     /// Calls the script function of a link of the scheme "script".
-    /// @param frame that holds the link
+    /// @param page that holds the link
     /// @return false: the URL is none, or the page is not one of the collection
-    bool runScriptLink(const QUrl& url, const QWebFrame* frame);
+    bool runScriptLink(const QUrl& url, const QUrl& page);
     /// By the end of its name.
     static QString mimeType(const QUrl& url);
 

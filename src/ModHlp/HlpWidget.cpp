@@ -2,11 +2,12 @@
 
 #include "HelpRef.h"
 #include "HlpNetworkAccessManager.h"
-#include "HlpWebView.h"
+#include "HlpSourceIf.h"
+#include "HlpViewLibrary.h"
 
+#include <QLabel>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <QWebHistory>
 #include <QWheelEvent>
 
 namespace nsModHlp {
@@ -19,9 +20,9 @@ const qreal zoomStep = 0.1;
 
 } // namespace
 
-HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
+HlpWidget::HlpWidget(HlpSourceIf* source, QWidget* parent)
     : QWidget(parent)
-    , m_manager(manager)
+    , m_source(source)
 {
     setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(tr("Help page"));
@@ -32,11 +33,7 @@ HlpWidget::HlpWidget(HlpNetworkAccessManager* manager, QWidget* parent)
 
 HlpWidget::~HlpWidget()
 {
-    // The page reports changes while it is deleted.
-    if (m_view == nullptr)
-        return;
-    m_view->page()->disconnect(this);
-    m_view->disconnect(this);
+    // While this is still the client of the view, which ends what it loads.
     delete m_view;
 }
 
@@ -44,41 +41,58 @@ QWebView* HlpWidget::view()
 {
     if (m_view == nullptr)
         makeView();
-    return m_view;
+    return m_view != nullptr ? m_view->webView() : nullptr;
 }
 
 void HlpWidget::makeView()
 {
-    auto* view = new HlpWebView(this);
-    auto* page = new HlpWebPage(m_manager, view);
-    view->usePage(page);
-    view->setContextMenuPolicy(Qt::NoContextMenu);
-    m_view = view;
+    m_view = HlpViewLibrary::makeView(m_source->network(), this, this);
+    if (m_view == nullptr) {
+        showFailure(HlpViewLibrary::error());
+        return;
+    }
+    delete m_failure;
+    m_failure = nullptr;
+    QWidget* view = m_view->widget();
     layout()->addWidget(view);
     const bool hasFocus = this->hasFocus();
     setFocusProxy(view);
     if (hasFocus)
         view->setFocus();
-    connect(view, &HlpWebView::newPage, this, &HlpWidget::newPage);
-    connect(page, &HlpWebPage::linkFollowed, this, &HlpWidget::linkClicked);
-    const auto changed = [this] { emit actionChanged(this); };
-    connect(view, &QWebView::urlChanged, this, changed);
-    connect(view, &QWebView::loadFinished, this, changed);
-    connect(page, &QWebPage::selectionChanged, this, changed);
-    connect(view, &QWebView::titleChanged, this, [this](const QString& title) {
-        if (!title.isEmpty())
-            emit titleChanged(this, title);
-    });
     // By its real name, to which the links in the page are relative.
     if (!m_target.isEmpty())
-        view->load(m_manager->pageOf(m_target));
+        m_view->goTo(m_source->network()->pageOf(m_target));
+}
+
+void HlpWidget::showFailure(const QString& reason)
+{
+    if (m_failure == nullptr) {
+        m_failure = new QLabel;
+        m_failure->setObjectName(QStringLiteral("hlpFailure"));
+        m_failure->setAlignment(Qt::AlignCenter);
+        m_failure->setWordWrap(true);
+        m_failure->setTextFormat(Qt::PlainText);
+        m_failure->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        layout()->addWidget(m_failure);
+    }
+    m_failure->setText(tr("The pages of the help can not be shown:\n%1").arg(reason));
+}
+
+bool HlpWidget::isPageOfHelp(const QUrl& url)
+{
+    return url.scheme() == QLatin1String("pageid") || m_source->network()->isOfCollection(url);
+}
+
+void HlpWidget::scriptLinkFollowed(const QUrl& url, const QUrl& page)
+{
+    m_source->network()->runScriptLink(url, page);
 }
 
 void HlpWidget::paintEvent(QPaintEvent* event)
 {
     QWidget::paintEvent(event);
     // The rest of the window is painted first.
-    if (m_view == nullptr)
+    if (m_view == nullptr && m_failure == nullptr)
         QTimer::singleShot(0, this, [this] { view(); });
 }
 
@@ -86,75 +100,74 @@ void HlpWidget::setSource(const QUrl& url)
 {
     m_target = url;
     if (m_view != nullptr)
-        m_view->load(m_manager->pageOf(url));
+        m_view->goTo(m_source->network()->pageOf(url));
     // At the start of the program, the collection is opened after the window is seen.
-    const QString name = m_manager->isReady() ? m_manager->titleOf(m_manager->pageOf(url)) : QString();
+    const QString name =
+        m_source->isReady() ? m_source->network()->titleOf(m_source->network()->pageOf(url)) : QString();
     if (!name.isEmpty())
         emit titleChanged(this, name);
 }
 
 QUrl HlpWidget::source() const
 {
-    if (m_view != nullptr && !m_view->url().isEmpty())
-        return m_view->url();
-    return m_target.isEmpty() ? QUrl() : m_manager->pageOf(m_target);
+    if (m_view != nullptr && !m_view->place().isEmpty())
+        return m_view->place();
+    return m_target.isEmpty() ? QUrl() : m_source->network()->pageOf(m_target);
 }
 
 QString HlpWidget::title() const
 {
-    return m_view != nullptr && !m_view->title().isEmpty() ? m_view->title() : m_manager->titleOf(source());
+    return m_view != nullptr && !m_view->pageTitle().isEmpty() ? m_view->pageTitle()
+                                                               : m_source->network()->titleOf(source());
 }
 
 bool HlpWidget::canGoBack() const
 {
-    return m_view != nullptr && m_view->history()->canGoBack();
+    return m_view != nullptr && m_view->canGoBack();
 }
 
 bool HlpWidget::canGoForward() const
 {
-    return m_view != nullptr && m_view->history()->canGoForward();
+    return m_view != nullptr && m_view->canGoForward();
 }
 
 bool HlpWidget::hasSelection() const
 {
-    return m_view != nullptr && m_view->hasSelection();
+    return m_view != nullptr && m_view->isTextSelected();
 }
 
 QString HlpWidget::selectedText() const
 {
-    return m_view != nullptr ? m_view->selectedText() : QString();
+    return m_view != nullptr ? m_view->textSelected() : QString();
 }
 
 bool HlpWidget::find(const QString& text, bool backwards, bool caseSensitive, bool wrap)
 {
-    QWebPage::FindFlags flags;
-    flags.setFlag(QWebPage::FindBackward, backwards);
-    flags.setFlag(QWebPage::FindCaseSensitively, caseSensitive);
-    flags.setFlag(QWebPage::FindWrapsAroundDocument, wrap);
-    return view()->findText(text, flags);
+    return view() != nullptr && m_view->find(text, backwards, caseSensitive, wrap);
 }
 
 void HlpWidget::goBack()
 {
     if (m_view != nullptr)
-        m_view->back();
+        m_view->goBack();
 }
 
 void HlpWidget::goForward()
 {
     if (m_view != nullptr)
-        m_view->forward();
+        m_view->goForward();
 }
 
 void HlpWidget::copy()
 {
     if (m_view != nullptr)
-        m_view->triggerPageAction(QWebPage::Copy);
+        m_view->copy();
 }
 
 void HlpWidget::zoom(int steps)
 {
-    view()->setZoomFactor(qBound(minZoom, view()->zoomFactor() + steps * zoomStep, maxZoom));
+    if (view() != nullptr)
+        m_view->setZoom(qBound(minZoom, m_view->zoom() + steps * zoomStep, maxZoom));
 }
 
 void HlpWidget::wheelEvent(QWheelEvent* event)

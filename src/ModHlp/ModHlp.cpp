@@ -25,10 +25,8 @@ const QUrl pageAbout(QStringLiteral("pageid://about"));
 
 ModHlp::ModHlp(QObject* parent)
     : QObject(parent)
-    , m_network(new HlpNetworkAccessManager([this] { openCollection(); }, this))
     , m_closedPages(new QWidget)
 {
-    connect(m_network, &HlpNetworkAccessManager::callScript, this, &ModHlp::callScript);
     // The engine's threads must not run into the end of the process, which does not delete its windows.
     connect(qApp, &QCoreApplication::aboutToQuit, this, &ModHlp::closeCollection);
 }
@@ -42,7 +40,8 @@ ModHlp::~ModHlp()
         delete page;
     }
     delete m_window;
-    m_network->setEngine(nullptr);
+    if (m_network != nullptr)
+        m_network->setEngine(nullptr);
     m_collection.close();
     delete m_index;
     delete m_configPage;
@@ -78,8 +77,27 @@ void ModHlp::modInit()
 bool ModHlp::setupData()
 {
     const bool success = m_collection.open(HlpCollection::find(ShippedFolder::programDir(m_programFile)));
-    m_network->setEngine(m_collection.engine());
+    network()->setEngine(m_collection.engine());
     return success;
+}
+
+HlpNetworkAccessManager* ModHlp::network()
+{
+    if (m_network == nullptr) {
+        m_network = new HlpNetworkAccessManager([this] { openCollection(); }, this);
+        connect(m_network, &HlpNetworkAccessManager::callScript, this, &ModHlp::callScript);
+    }
+    return m_network;
+}
+
+void ModHlp::makeReady()
+{
+    network()->makeReady();
+}
+
+bool ModHlp::isReady() const
+{
+    return m_network != nullptr && m_network->isReady();
 }
 
 void ModHlp::openCollection()
@@ -100,7 +118,7 @@ void ModHlp::closeCollection()
 
 QHelpEngine* ModHlp::openedEngine()
 {
-    m_network->makeReady();
+    makeReady();
     return m_collection.engine();
 }
 
@@ -108,7 +126,7 @@ void ModHlp::modInitIntermod()
 {
     // The window is seen first; without one, what is in progress goes first.
     if (parent() == nullptr)
-        QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
+        QTimer::singleShot(0, this, &ModHlp::makeReady);
     if (modMsgHook != nullptr)
         modMsgHook->registerPluginUrlHndlr(ModMsgHookIf::eUrlHndlrHelp, this);
     showIndexWidget();

@@ -4,6 +4,7 @@
 #include "HlpActionsNavi.h"
 #include "HlpCollection.h"
 #include "HlpConfig.h"
+#include "HlpSourceIf.h"
 #include "ModActionPluginIf.h"
 #include "ModCfgAppPluginIf.h"
 #include "ModClipboardPluginIf.h"
@@ -54,7 +55,8 @@ class ModHlp : public QObject,
                public ModFindReplacePluginIf,
                public ModClipboardPluginIf,
                public ModScriptPluginIf,
-               public HlpConfig
+               public HlpConfig,
+               public HlpSourceIf
 {
     Q_OBJECT
 
@@ -69,7 +71,10 @@ public:
     void setProgramFile(const QString& file) { m_programFile = file; }
     /// The open pages of the centre, in the order in which they were opened.
     QList<HlpWidget*> pages() const { return m_pages; }
-    HlpNetworkAccessManager* network() const { return m_network; }
+
+    // HlpSourceIf
+    HlpNetworkAccessManager* network() override;
+    bool isReady() const override;
 
     // ModHlpHookIf
     void showDialogHlpRef(QWidget* dialog, QString ref) override;
@@ -172,6 +177,7 @@ private:
     HlpWidget* addPage();
     void showDialogHlp(QWidget* dialog, const QUrl& url);
     void showIndexWidget();
+    void makeReady();
     void openCollection();
     void closeCollection();
     static QUrl pageStart();
@@ -187,7 +193,7 @@ private:
     PluginList<ModHlpPluginIf> m_plugins;
     QString m_programFile; ///< empty: the running program
     HlpCollection m_collection;
-    HlpNetworkAccessManager* m_network;
+    HlpNetworkAccessManager* m_network = nullptr; ///< null until it is needed
     HlpActionsHelp* m_actionsHelp = nullptr;
     HlpActionsNavi* m_actionsNavi = nullptr;
     QPointer<HlpIndexWidget> m_index;

@@ -21,7 +21,6 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTimer>
-#include <QWebView>
 #include <QWhatsThis>
 #include <QWhatsThisClickedEvent>
 
@@ -62,7 +61,7 @@ HlpWidget* ModHlp::pageAt(const QUrl& url) const
 
 HlpWidget* ModHlp::addPage()
 {
-    auto* page = new HlpWidget(m_network);
+    auto* page = new HlpWidget(this);
     page->setObjectName(QStringLiteral("hlpPage"));
     m_pages.append(page);
     connect(page, &HlpWidget::linkClicked, this, &ModHlp::openPsmFile);
@@ -70,7 +69,7 @@ HlpWidget* ModHlp::addPage()
     connect(page, &HlpWidget::titleChanged, this, &ModHlp::setFileName);
     connect(page, SIGNAL(newPage(QWebView**)), this, SLOT(openFile(QWebView**)));
     if (modNetworkHook != nullptr)
-        m_network->setProxy(modNetworkHook->proxy());
+        network()->setProxy(modNetworkHook->proxy());
     if (modFindReplaceHook != nullptr)
         modFindReplaceHook->registerPluginWidget(this, page, 0);
     if (modClipboardHook != nullptr)
@@ -272,7 +271,7 @@ void ModHlp::show(const QUrl& url)
     if (m_window != nullptr && (m_window->parentWidget() != modal || !m_window->isVisible()))
         dropWindow();
     if (m_window == nullptr)
-        m_window = new HlpDialogWindow(m_network, modal);
+        m_window = new HlpDialogWindow(this, modal);
     m_window->page()->setSource(url);
     m_window->show();
     m_window->raise();
@@ -322,8 +321,8 @@ bool ModHlp::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Paint:
-        if (watched == parent() && !m_network->isReady())
-            QTimer::singleShot(0, m_network, &HlpNetworkAccessManager::makeReady);
+        if (watched == parent() && !isReady())
+            QTimer::singleShot(0, this, &ModHlp::makeReady);
         return false;
     case QEvent::WhatsThisClicked:
         show(QUrl(static_cast<QWhatsThisClickedEvent*>(event)->href()));
@@ -359,7 +358,7 @@ void ModHlp::showDialogHlp(QWidget* dialog, const QUrl& url)
         return;
     HlpWidget* page = m_dialogPages.value(dialog);
     if (page == nullptr) {
-        page = new HlpWidget(m_network);
+        page = new HlpWidget(this);
         page->setObjectName(QStringLiteral("hlpDialogPage"));
         m_dialogPages.insert(dialog, page);
         connect(dialog, &QObject::destroyed, page, [this, dialog] { closeDialogHlp(dialog); });
@@ -386,8 +385,8 @@ void ModHlp::prjOpen()
     files.append(current);
     for (const QString& file : qAsConst(files)) {
         // Whoever has written the project: it opens pages of the help and nothing else.
-        const QUrl url = m_network->resolved(QUrl(file));
-        if (!m_network->isOfCollection(url))
+        const QUrl url = network()->resolved(QUrl(file));
+        if (!network()->isOfCollection(url))
             continue;
         HlpWidget* present = pageAt(url);
         if (present == nullptr)

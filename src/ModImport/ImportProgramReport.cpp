@@ -1,6 +1,7 @@
 #include "ImportProgramReport.h"
 
 #include "ProgramJob.h"
+#include "SchemeIcons.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -35,11 +36,11 @@ QIcon iconOf(ModMsgHookIf::eMsgType_t grade)
 {
     switch (grade) {
     case ModMsgHookIf::eMsgError:
-        return QIcon(QStringLiteral(":/ModMsg/img/msgError.png"));
+        return SchemeIcons::of(QStringLiteral(":/ModMsg/img/msgError.png"));
     case ModMsgHookIf::eMsgWarning:
-        return QIcon(QStringLiteral(":/ModMsg/img/msgWarning.png"));
+        return SchemeIcons::of(QStringLiteral(":/ModMsg/img/msgWarning.png"));
     default:
-        return QIcon(QStringLiteral(":/ModMsg/img/msgOk.png"));
+        return SchemeIcons::of(QStringLiteral(":/ModMsg/img/msgOk.png"));
     }
 }
 

@@ -1,5 +1,7 @@
 #include "MsgStatusBar.h"
 
+#include "SchemeIcons.h"
+
 #include <QStringList>
 
 namespace nsModMsg {
@@ -67,8 +69,8 @@ void MsgStatusBar::showCounts()
     m_sum = texts.join(QLatin1String(", "));
     setAccessibleName(texts.isEmpty() ? tr("No errors, no warnings") : m_sum);
     setIcon(texts.isEmpty() ? QIcon()
-                            : QIcon(errors > 0 ? QStringLiteral(":/ModMsg/img/msgError.png")
-                                               : QStringLiteral(":/ModMsg/img/msgWarning.png")));
+                            : SchemeIcons::of(errors > 0 ? QStringLiteral(":/ModMsg/img/msgError.png")
+                                                         : QStringLiteral(":/ModMsg/img/msgWarning.png")));
     // It keeps its place and height, so that nothing moves in the bar.
     setEnabled(!texts.isEmpty());
     updateGeometry();

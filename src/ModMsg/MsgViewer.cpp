@@ -2,6 +2,7 @@
 
 #include "HelpRef.h"
 #include "MsgItemDelegate.h"
+#include "SchemeIcons.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -48,7 +49,7 @@ MsgViewer::MsgViewer(QWidget* parent)
     setMouseTracking(true);
     setItemDelegate(new MsgItemDelegate(this));
     for (int grade = ModMsgHookIf::eMsgInfo; grade <= ModMsgHookIf::eMsgError; ++grade)
-        m_icons[grade] = QIcon(QLatin1String(iconPaths[grade]));
+        m_icons[grade] = SchemeIcons::of(QLatin1String(iconPaths[grade]));
     setupColumns();
     resetGroups();
 

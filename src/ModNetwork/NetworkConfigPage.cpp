@@ -1,6 +1,7 @@
 #include "NetworkConfigPage.h"
 
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -91,7 +92,7 @@ void NetworkConfigPage::setDefaultConfig()
 
 QIcon NetworkConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModNetwork/img/configPage/configPageNetwork.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModNetwork/img/configPage/configPageNetwork.png"));
 }
 
 QString NetworkConfigPage::pageTitle()

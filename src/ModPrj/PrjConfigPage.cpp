@@ -1,6 +1,7 @@
 #include "PrjConfigPage.h"
 
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -59,7 +60,7 @@ QWidget* PrjConfigPage::pageWidget()
 
 QIcon PrjConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModPrj/img/configPage/configPageProject.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModPrj/img/configPage/configPageProject.png"));
 }
 
 QString PrjConfigPage::pageTitle()

@@ -5,6 +5,7 @@
 
 #include "ModConfigPageHookIf.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -107,7 +108,7 @@ void ProcConfigPage::setWidgetHelpChanged()
 
 QIcon ProcConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModProcessor/img/configPage/configPageProcessor.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModProcessor/img/configPage/configPageProcessor.png"));
 }
 
 QString ProcConfigPage::pageTitle()

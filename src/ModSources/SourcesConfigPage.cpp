@@ -2,6 +2,7 @@
 
 #include "MyButton.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 #include "SourcesListWidget.h"
 
 #include <QFileDialog>
@@ -261,7 +262,7 @@ QWidget* SourcesConfigPage::pageWidget()
 
 QIcon SourcesConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModSources/img/configPage/configPageSources.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModSources/img/configPage/configPageSources.png"));
 }
 
 QString SourcesConfigPage::pageTitle()

@@ -4,6 +4,7 @@
 #include "MyColorSelector.h"
 #include "MyFontTable.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QComboBox>
 
@@ -75,7 +76,7 @@ void SrcNaviConfigPage::setDefaultConfig()
 
 QIcon SrcNaviConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModSrcNavi/img/configPage/configPageNavi.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModSrcNavi/img/configPage/configPageNavi.png"));
 }
 
 QString SrcNaviConfigPage::pageTitle()

@@ -1,6 +1,7 @@
 #include "SwUpdateConfigPage.h"
 
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 
 #include <QComboBox>
 #include <QLineEdit>
@@ -61,7 +62,7 @@ void SwUpdateConfigPage::setDefaultConfig()
 
 QIcon SwUpdateConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModSwUpdate/img/configPage/configPageSwUpdate.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModSwUpdate/img/configPage/configPageSwUpdate.png"));
 }
 
 QString SwUpdateConfigPage::pageTitle()

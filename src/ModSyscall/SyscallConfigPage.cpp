@@ -3,6 +3,7 @@
 #include "MyFieldTitle.h"
 #include "MyPageLayout.h"
 #include "MyPathEdit.h"
+#include "SchemeIcons.h"
 #include "SyscallProgramSelect.h"
 
 #include <QCheckBox>
@@ -227,7 +228,7 @@ void SyscallConfigPage::setPrjConfigEnabled(bool enabled)
 
 QIcon SyscallConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModSyscall/img/configPage/configPage.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModSyscall/img/configPage/configPage.png"));
 }
 
 QString SyscallConfigPage::title()

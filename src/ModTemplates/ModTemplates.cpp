@@ -46,14 +46,18 @@ void ModTemplates::setupSupportMenu(const QString& path)
             modMsgHook->showWarningMessage(tr("Can not read template file: ") + path);
         return;
     }
-    QRegExp menuItem(QStringLiteral("menuItem\\s*=\\s*(\\S+.*)$"));
     const QRegExp leading(QStringLiteral("^\\s*"));
     const QRegExp lineEnd(QStringLiteral("[\\r\\n]*$"));
-    while (!file.atEnd()) {
-        const QString line = QString::fromLatin1(file.readLine());
-        if (!menuItem.exactMatch(line))
+    const QByteArray text = file.readAll();
+    // Hardly a line begins with the word, and the expression takes longer than all the rest.
+    const QByteArray word("menuItem");
+    for (int at = text.indexOf(word); at >= 0; at = text.indexOf(word, at + 1)) {
+        if (at > 0 && text.at(at - 1) != '\n')
             continue;
-        setupSupportMenuFile(menuItem.cap(1).remove(leading).remove(lineEnd), path);
+        const int end = text.indexOf('\n', at);
+        QRegExp menuItem(QStringLiteral("menuItem\\s*=\\s*(\\S+.*)$"));
+        if (menuItem.exactMatch(QString::fromLatin1(text.mid(at, end < 0 ? -1 : end + 1 - at))))
+            setupSupportMenuFile(menuItem.cap(1).remove(leading).remove(lineEnd), path);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "ActionGroup.h"
 
+#include "SchemeIcons.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QIcon>
@@ -42,7 +44,7 @@ void ActionGroup::setLook(int action, const char* icon, const QString& toolTip)
     if (one == nullptr)
         return;
     if (icon != nullptr)
-        one->setIcon(QIcon(QLatin1String(m_iconFolder) + QLatin1String(icon) + QStringLiteral(".png")));
+        one->setIcon(SchemeIcons::of(QLatin1String(m_iconFolder) + QLatin1String(icon) + QStringLiteral(".png")));
     one->setToolTip(toolTip);
     one->setStatusTip(toolTip);
 }

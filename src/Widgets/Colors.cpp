@@ -3,13 +3,9 @@
 #include <QBrush>
 #include <QFile>
 #include <QRegularExpression>
-#include <QtPlugin>
 
 #include <cmath>
 #include <iterator>
-
-// Makes the icons follow, wherever they are made (SchemeIcons.cpp).
-Q_IMPORT_PLUGIN(SchemeIconPlugin)
 
 namespace {
 

@@ -3,6 +3,7 @@
 #include "MyElidedLabel.h"
 #include "MyLinkButton.h"
 #include "MySectionTitle.h"
+#include "SchemeIcons.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -131,7 +132,7 @@ QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)
         remove->setObjectName(QStringLiteral("linkRemove"));
         remove->setAutoRaise(true);
         remove->setFocusPolicy(Qt::StrongFocus);
-        remove->setIcon(QIcon(QStringLiteral(":/ModGui/img/tab-close.png")));
+        remove->setIcon(SchemeIcons::of(QStringLiteral(":/ModGui/img/tab-close.png")));
         remove->setToolTip(tr("Takes this line off the list"));
         remove->setAccessibleName(tr("Remove %1 from the list").arg(link.text));
         connect(remove, &QToolButton::clicked, this, [act = link.remove] { act(); });

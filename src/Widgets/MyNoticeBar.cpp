@@ -1,5 +1,7 @@
 #include "MyNoticeBar.h"
 
+#include "SchemeIcons.h"
+
 #include <QApplication>
 #include <QHBoxLayout>
 #include <QIcon>
@@ -35,7 +37,7 @@ MyNoticeBar::MyNoticeBar(eGrade_t grade, const QString& text, QWidget* parent)
     // A long word must not make the bar wider than the available space.
     m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_close->setObjectName(QStringLiteral("noticeBarClose"));
-    m_close->setIcon(QIcon(QStringLiteral(":/ModFindReplace/img/widget/closeWidget.png")));
+    m_close->setIcon(SchemeIcons::of(QStringLiteral(":/ModFindReplace/img/widget/closeWidget.png")));
     m_close->setToolTip(tr("Closes this notice (Esc)"));
     m_close->setAccessibleName(tr("Close notice"));
     m_close->setFlat(true);
@@ -66,7 +68,7 @@ void MyNoticeBar::setGrade(eGrade_t grade)
 
 void MyNoticeBar::showIcon()
 {
-    m_icon->setPixmap(QIcon(QString::fromLatin1(gradeIcons[m_grade])).pixmap(iconSize, iconSize));
+    m_icon->setPixmap(SchemeIcons::of(QString::fromLatin1(gradeIcons[m_grade])).pixmap(iconSize, iconSize));
 }
 
 QString MyNoticeBar::text() const

@@ -1,12 +1,11 @@
-// Icons that follow the colour scheme: every QIcon that is made from a picture of the resources with a dark sister.
+#include "SchemeIcons.h"
 
 #include "Colors.h"
 
 #include <QApplication>
 #include <QFile>
-#include <QIcon>
 #include <QIconEngine>
-#include <QIconEnginePlugin>
+#include <QImageReader>
 #include <QPainter>
 #include <QPixmap>
 #include <QStyle>
@@ -15,22 +14,35 @@
 
 namespace {
 
-/// The pictures of an icon, read in the scheme in which they are shown.
+/// The pictures of an icon, read when they are painted, in the scheme in which they are shown.
 class SchemeIconEngine : public QIconEngine
 {
 public:
+    /// @param follows shows the dark sister of the picture in the dark scheme
+    static QIcon icon(const QString& path, bool follows)
+    {
+        if (!QFile::exists(path))
+            return {};
+        auto* engine = new SchemeIconEngine(follows);
+        engine->addFile(path, QSize(), QIcon::Normal, QIcon::Off);
+        // As QIcon does: the finer picture is for fine screens alone.
+        QString fine = path;
+        fine.insert(path.lastIndexOf('.'), QLatin1String("@2x"));
+        if (qApp != nullptr && qApp->devicePixelRatio() > 1 && QFile::exists(fine))
+            engine->addFile(fine, QSize(), QIcon::Normal, QIcon::Off);
+        return QIcon(engine);
+    }
+
     void addFile(const QString& fileName, const QSize&, QIcon::Mode mode, QIcon::State state) override
     {
-        m_files.append({fileName, {}, mode, state});
-        m_isLoaded = false;
+        m_pictures.append({fileName, {}, {}, mode, state});
     }
 
     /// A picture of the caller's, which is the same in both schemes.
     void addPixmap(const QPixmap& pixmap, QIcon::Mode mode, QIcon::State state) override
     {
-        m_files.append({QString(), pixmap, mode, state});
-        m_files.last().pixmap.setDevicePixelRatio(1.0); // sizes here are real pixels
-        m_isLoaded = false;
+        m_pictures.append({QString(), pixmap, {}, mode, state});
+        m_pictures.last().pixmap.setDevicePixelRatio(1.0); // sizes here are real pixels
     }
 
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
@@ -38,10 +50,10 @@ public:
         const int best = nearest(size, mode, state);
         if (best < 0)
             return {};
-        QPixmap result = m_pictures.at(best);
+        QPixmap result = read(best);
         if (result.width() > size.width() || result.height() > size.height())
             result = result.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-        if (mode == QIcon::Normal || m_files.at(best).mode == mode || qApp == nullptr)
+        if (mode == QIcon::Normal || m_pictures.at(best).mode == mode || qApp == nullptr)
             return result;
         QStyleOption option;
         option.palette = QApplication::palette();
@@ -60,7 +72,7 @@ public:
         const int best = nearest(size, mode, state);
         if (best < 0)
             return {};
-        const QSize actual = m_pictures.at(best).size();
+        const QSize actual = sizeOf(best);
         return actual.width() > size.width() || actual.height() > size.height()
                    ? actual.scaled(size, Qt::KeepAspectRatio)
                    : actual;
@@ -68,11 +80,13 @@ public:
 
     QList<QSize> availableSizes(QIcon::Mode, QIcon::State) const override
     {
-        const_cast<SchemeIconEngine*>(this)->load();
+        auto* self = const_cast<SchemeIconEngine*>(this);
+        self->followScheme();
         QList<QSize> sizes;
-        for (const QPixmap& picture : m_pictures) {
-            if (!sizes.contains(picture.size()))
-                sizes.append(picture.size());
+        for (int i = 0; i < m_pictures.size(); ++i) {
+            const QSize size = self->sizeOf(i);
+            if (!sizes.contains(size))
+                sizes.append(size);
         }
         return sizes;
     }
@@ -81,29 +95,54 @@ public:
     QIconEngine* clone() const override { return new SchemeIconEngine(*this); }
 
 private:
-    struct sFile_t
+    struct sPicture_t
     {
-        QString name;   ///< empty: the pixmap is the picture
-        QPixmap pixmap; ///< null if there is a name
+        QString name;   ///< of the light file; empty: the pixmap is the picture
+        QPixmap pixmap; ///< null until it is painted
+        QSize size;     ///< invalid until it is known
         QIcon::Mode mode;
         QIcon::State state;
     };
 
-    void load()
+    explicit SchemeIconEngine(bool follows)
+        : m_follows(follows)
     {
-        if (m_isLoaded && m_scheme == Colors::scheme())
+    }
+
+    /// Drops what has been read in another scheme.
+    void followScheme()
+    {
+        if (!m_follows || m_scheme == Colors::scheme())
             return;
-        m_isLoaded = true;
         m_scheme = Colors::scheme();
-        m_pictures.clear();
-        for (const sFile_t& file : qAsConst(m_files)) {
-            if (file.name.isEmpty()) {
-                m_pictures.append(file.pixmap);
+        for (sPicture_t& picture : m_pictures) {
+            if (picture.name.isEmpty())
                 continue;
-            }
-            // An image, unlike a pixmap, is not replaced by a finer one on a fine screen: sizes here are real pixels.
-            m_pictures.append(QPixmap::fromImage(QImage(Colors::picture(file.name))));
+            picture.pixmap = QPixmap();
+            picture.size = QSize();
         }
+    }
+
+    QString fileOf(const sPicture_t& picture) const { return m_follows ? Colors::picture(picture.name) : picture.name; }
+
+    QPixmap read(int index)
+    {
+        sPicture_t& picture = m_pictures[index];
+        // An image, unlike a pixmap, is not replaced by a finer one on a fine screen: sizes here are real pixels.
+        if (picture.pixmap.isNull() && !picture.name.isEmpty())
+            picture.pixmap = QPixmap::fromImage(QImage(fileOf(picture)));
+        return picture.pixmap;
+    }
+
+    QSize sizeOf(int index)
+    {
+        sPicture_t& picture = m_pictures[index];
+        // The only picture will be painted, so it is read at once.
+        if (!picture.size.isValid() && (m_pictures.size() == 1 || picture.name.isEmpty()))
+            picture.size = read(index).size();
+        else if (!picture.size.isValid())
+            picture.size = QImageReader(fileOf(picture)).size();
+        return picture.size;
     }
 
     /// The smallest picture that is large enough, or the largest one. A mode or state without a picture of its own has
@@ -111,15 +150,13 @@ private:
     /// @return its index; -1: there is none
     int nearest(const QSize& size, QIcon::Mode mode, QIcon::State state)
     {
-        load();
+        followScheme();
         int best = -1;
         int bestRank = -1;
         for (int i = 0; i < m_pictures.size(); ++i) {
-            const sFile_t& file = m_files.at(i);
-            const int rank = (file.mode == mode ? 1 : 0) + (file.state == state ? 2 : 0);
-            const QSize found = m_pictures.at(i).size();
-            if (best < 0 || rank > bestRank ||
-                (rank == bestRank && isBetter(found, m_pictures.at(best).size(), size))) {
+            const sPicture_t& picture = m_pictures.at(i);
+            const int rank = (picture.mode == mode ? 1 : 0) + (picture.state == state ? 2 : 0);
+            if (best < 0 || rank > bestRank || (rank == bestRank && isBetter(sizeOf(i), sizeOf(best), size))) {
                 best = i;
                 bestRank = rank;
             }
@@ -136,27 +173,19 @@ private:
         return isEnough ? found.width() < best.width() : found.width() > best.width();
     }
 
-    QVector<sFile_t> m_files;
-    QVector<QPixmap> m_pictures; ///< those of the files, in the scheme below
-    bool m_isLoaded = false;
-    Colors::eScheme_t m_scheme = Colors::eLight;
+    QVector<sPicture_t> m_pictures;
+    bool m_follows;
+    Colors::eScheme_t m_scheme = Colors::eLight; ///< in which they were read
 };
 
 } // namespace
 
-/// Asked by QIcon for each PNG file. Whoever uses Colors gets it, as it is imported there.
-class SchemeIconPlugin : public QIconEnginePlugin
+QIcon SchemeIcons::of(const QString& path)
 {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.qt-project.Qt.QIconEngineFactoryInterface" FILE "SchemeIcons.json")
+    return SchemeIconEngine::icon(path, true);
+}
 
-public:
-    /// @return null for a picture without a dark sister, which is as QIcon makes it
-    QIconEngine* create(const QString& fileName) override
-    {
-        const QString dark = QStringLiteral(":/dark") + fileName.mid(1);
-        return fileName.startsWith(QLatin1String(":/")) && QFile::exists(dark) ? new SchemeIconEngine : nullptr;
-    }
-};
-
-#include "SchemeIcons.moc"
+QIcon SchemeIcons::always(const QString& path)
+{
+    return SchemeIconEngine::icon(path, false);
+}

@@ -27,7 +27,7 @@ protected:
     {
         writeSetting("ModHlp/showGettingStarted", "0");
         makeWindow();
-        widget = std::make_unique<nsModHlp::HlpWidget>(module<nsModHlp::ModHlp>()->network());
+        widget = std::make_unique<nsModHlp::HlpWidget>(module<nsModHlp::ModHlp>());
         widget->resize(pageSize);
         widget->show();
     }

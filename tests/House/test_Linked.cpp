@@ -1,4 +1,4 @@
-// What the programs without a window load.
+// What the programs load when they start.
 
 #include <gtest/gtest.h>
 
@@ -40,4 +40,10 @@ TEST(Linked, aWindowIsNoticed)
     const QStringList libraries = qtLibrariesOf(NALVO_WINDOW);
     EXPECT_TRUE(libraries.contains("Widgets")) << qPrintable(libraries.join(' '));
     EXPECT_TRUE(libraries.contains("Gui")) << qPrintable(libraries.join(' '));
+}
+
+TEST(Linked, theEngineOfTheHelpIsLeftToItsLibrary)
+{
+    EXPECT_FALSE(qtLibrariesOf(NALVO_WINDOW).contains("WebKit"));
+    EXPECT_TRUE(qtLibrariesOf(NALVO_HELP_VIEW).contains("WebKit"));
 }

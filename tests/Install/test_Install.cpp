@@ -90,7 +90,9 @@ TEST_F(Install, theToolsStandAlone)
 TEST_F(Install, noProgramHasARunPath)
 {
     const QStringList programs = QDir(tree->path("libexec/nalvo/bin")).entryList(QDir::Files);
-    EXPECT_EQ(programs.size(), 5);
+    // The library that draws the help lies beside them.
+    EXPECT_EQ(programs.join(' ').toStdString(),
+              "nalvo nalvo-asm nalvo-help-view.so nalvo-import nalvo-prove nalvo-sim");
     for (const QString& program : programs) {
         const sRun_t run = runProgram("readelf", {"-d", tree->path("libexec/nalvo/bin/" + program)});
         EXPECT_EQ(run.status, 0) << run.out.constData();

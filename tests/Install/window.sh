@@ -37,3 +37,9 @@ done
 copy=$(find "$work/home/.cache" -name hlpCollection.qhc)
 [ -n "$copy" ] || fail "the help was not found"
 cmp -s "$(dirname "$copy")/nalvo.qch" "$shipped/hlp/nalvo.qch" || fail "the help is not that of the installation"
+# What draws its pages is loaded when one is seen: it and all that it needs must be there.
+view="$(dirname "$(readlink -f "$bin/nalvo")")/nalvo-help-view.so"
+missing=$(ldd -r "$view" 2>&1) || fail "the library that draws the help can not be loaded: $missing"
+case "$missing" in
+  *"not found"* | *"undefined symbol"*) fail "the library that draws the help lacks something: $missing" ;;
+esac

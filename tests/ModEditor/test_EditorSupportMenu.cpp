@@ -44,6 +44,40 @@ TEST(EditorSupportMenu, isNotAddedWhileItIsEmpty)
     EXPECT_EQ(entries(&shown), QStringList({"Insert..."}));
 }
 
+TEST(EditorSupportMenu, whatIsMadeLaterIsThereWhenTheMenuIsSeen)
+{
+    for (const bool asPartOfAnother : {false, true}) {
+        EditorSupportMenu menu;
+        int calls = 0;
+        menu.fillLater([&calls](EditorSupportMenu* filled) {
+            ++calls;
+            filled->setEntry("Group/Late", "late", EditorSupportMenu::typeText);
+        });
+        menu.setEntry("Group/Early", "early", EditorSupportMenu::typeText);
+        EXPECT_EQ(calls, 0);
+        QMenu shown;
+        if (asPartOfAnother)
+            menu.addSupportMenu(&shown);
+        else
+            menu.menu->popup(QPoint(0, 0));
+        EXPECT_EQ(calls, 1);
+        EXPECT_EQ(entries(menu.node({"Group"})->menu), QStringList({"Early", "Late"}));
+        menu.menu->hide();
+        menu.menu->popup(QPoint(0, 0));
+        menu.menu->hide();
+        EXPECT_EQ(calls, 1);
+    }
+}
+
+TEST(EditorSupportMenu, whatIsMadeLaterAloneIsSeen)
+{
+    EditorSupportMenu menu;
+    menu.fillLater([](EditorSupportMenu* filled) { filled->setEntry("Late", "late", EditorSupportMenu::typeText); });
+    QMenu shown;
+    menu.addSupportMenu(&shown);
+    EXPECT_EQ(entries(&shown), QStringList({"Insert..."}));
+}
+
 TEST(EditorSupportMenu, entriesStandSortedInSubMenus)
 {
     EditorSupportMenu menu;

@@ -1,6 +1,7 @@
 // The table of colours, and what reads it.
 
 #include "Colors.h"
+#include "SchemeIcons.h"
 
 #include <gtest/gtest.h>
 
@@ -178,7 +179,7 @@ TEST_F(ColorsTest, aChangeIsReportedOnce)
 
 TEST_F(ColorsTest, anIconFollowsTheSchemeAfterItWasMade)
 {
-    const QIcon icon(QStringLiteral(":/ModEditor/img/file/document-new.png"));
+    const QIcon icon = SchemeIcons::of(QStringLiteral(":/ModEditor/img/file/document-new.png"));
     const QImage light = icon.pixmap(24, 24).toImage();
     EXPECT_EQ(most(light), Colors::of(Colors::eDrawingLine, Colors::eLight));
     const QIcon copy = icon;
@@ -202,7 +203,7 @@ TEST_F(ColorsTest, anIconFollowsTheSchemeAfterItWasMade)
 
 TEST_F(ColorsTest, anIconCanHaveAPictureOfItsOwnForAMode)
 {
-    QIcon icon(QStringLiteral(":/ModEditor/img/file/document-new.png"));
+    QIcon icon = SchemeIcons::of(QStringLiteral(":/ModEditor/img/file/document-new.png"));
     QPixmap own(48, 48);
     own.fill(QColor(12, 34, 56));
     own.setDevicePixelRatio(2);
@@ -214,9 +215,19 @@ TEST_F(ColorsTest, anIconCanHaveAPictureOfItsOwnForAMode)
     }
 }
 
+TEST_F(ColorsTest, anIconOfEverySchemeStaysAsItIs)
+{
+    const QIcon icon = SchemeIcons::always(QStringLiteral(":/ModEditor/img/file/document-new.png"));
+    const QImage light = icon.pixmap(24, 24).toImage();
+    EXPECT_EQ(light, QImage(":/ModEditor/img/file/document-new.png").convertToFormat(light.format()));
+    Colors::setScheme(Colors::eDark);
+    EXPECT_EQ(icon.pixmap(24, 24).toImage(), light);
+}
+
 TEST_F(ColorsTest, anIconFromElsewhereIsLeftAlone)
 {
-    const QIcon icon(QStringLiteral(":/there/is/none.png"));
+    const QIcon icon = SchemeIcons::of(QStringLiteral(":/there/is/none.png"));
+    EXPECT_TRUE(icon.isNull());
     EXPECT_TRUE(icon.pixmap(24, 24).isNull());
     EXPECT_EQ(Colors::picture(":/there/is/none.png"), ":/there/is/none.png");
 }

@@ -183,6 +183,10 @@ TEST_F(EditorInWindow, insertionMenuOffersLabelsConstantsAndTemplates)
     EXPECT_TRUE(current()->toPlainText().startsWith("ADD"));
     current()->undo();
     menu->menu->popup(window->mapToGlobal(QPoint(500, 120)));
+    QStringList sets;
+    for (const QAction* entry : menu->node({"Attributes", "Characer set"})->menu->actions())
+        sets.append(entry->text());
+    EXPECT_TRUE(sets.contains("UTF-8") && sets.contains("ISO-8859-1")) << qPrintable(sets.join(' '));
     settleLayout();
     screenshot("editor-insertion-menu", menu->menu);
     menu->menu->hide();

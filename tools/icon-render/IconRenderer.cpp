@@ -48,6 +48,20 @@ bool isBlank(const QImage& image)
     return true;
 }
 
+/// True if nothing shines through.
+bool isSolid(const QImage& image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x) {
+            if (qAlpha(line[x]) != 255) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
 /// "img/a.png" gives "img/a@2x.png" for density 2; density 1 leaves the name as it is.
 QString targetName(const QString& target, int density)
 {
@@ -148,7 +162,8 @@ bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, con
     if (!m_outDir.mkpath(QFileInfo(fileName).path())) {
         return fail(QStringLiteral("can not create folder for ") + fileName);
     }
-    if (!image.convertToFormat(QImage::Format_ARGB32).save(fileName, "PNG")) {
+    // What nothing shines through is read faster without its transparency.
+    if (!image.convertToFormat(isSolid(image) ? QImage::Format_RGB32 : QImage::Format_ARGB32).save(fileName, "PNG")) {
         return fail(QStringLiteral("can not write ") + fileName);
     }
     return true;

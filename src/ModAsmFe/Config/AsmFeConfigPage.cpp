@@ -2,6 +2,7 @@
 
 #include "MyFieldTitle.h"
 #include "MyPageLayout.h"
+#include "SchemeIcons.h"
 #include "TargetConfigWidget.h"
 #include "TargetMapperConfigWidget.h"
 
@@ -218,7 +219,7 @@ void AsmFeConfigPage::setPrjConfigEnabled(bool enabled)
 
 QIcon AsmFeConfigPage::pageIcon()
 {
-    return QIcon(QStringLiteral(":/ModAsmFe/img/configPage/configPageAssembler.png"));
+    return SchemeIcons::of(QStringLiteral(":/ModAsmFe/img/configPage/configPageAssembler.png"));
 }
 
 QString AsmFeConfigPage::pageTitle()

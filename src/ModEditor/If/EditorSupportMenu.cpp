@@ -6,6 +6,8 @@
 #include <QPoint>
 #include <QRegExp>
 
+#include <utility>
+
 namespace nsModEditor {
 
 namespace {
@@ -41,6 +43,7 @@ EditorSupportMenu::EditorSupportMenu(QObject* parent)
     menu = new QMenu(tr("Insert..."));
     // Entries of sub menus report through the menu that they are shown from.
     connect(menu, SIGNAL(triggered(QAction*)), this, SLOT(handleAction(QAction*)));
+    connect(menu, &QMenu::aboutToShow, this, &EditorSupportMenu::makeReady);
 }
 
 void EditorSupportMenu::setEntry(QString path, QString data, eType_t type)
@@ -51,6 +54,18 @@ void EditorSupportMenu::setEntry(QString path, QString data, eType_t type)
     EditorSupportMenuNode* entry = node(names);
     entry->data = data;
     entry->type = type;
+}
+
+void EditorSupportMenu::fillLater(std::function<void(EditorSupportMenu*)> filler)
+{
+    m_fillers.append(std::move(filler));
+}
+
+void EditorSupportMenu::makeReady()
+{
+    const auto fillers = std::exchange(m_fillers, {});
+    for (const auto& filler : fillers)
+        filler(this);
 }
 
 void EditorSupportMenu::removeEntry(QString path)
@@ -77,6 +92,7 @@ void EditorSupportMenu::showMenu(QMenu* shown, const QPoint& pos)
 
 void EditorSupportMenu::addSupportMenu(QMenu* shown)
 {
+    makeReady();
     if (children.isEmpty())
         return;
     // The menu is nobody's child, so it does not inherit the look of the window that it is shown in.

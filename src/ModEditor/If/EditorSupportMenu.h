@@ -2,6 +2,10 @@
 
 #include "EditorSupportMenuNode.h"
 
+#include <QVector>
+
+#include <functional>
+
 class QPoint;
 
 namespace nsModEditor {
@@ -22,6 +26,12 @@ public:
     /// Removes the entry with all below it; an unknown path does nothing.
     void removeEntry(QString path);
     void setEntrySortEn(QString path, bool enabled);
+    /// Has entries made when the menu is about to be seen, for a part that is large, the same in every run, and filled
+    /// by nobody else.
+    /// @param filler calls setEntry() of the menu that it is given; called once, or never
+    void fillLater(std::function<void(EditorSupportMenu*)> filler);
+    /// Makes what is to be made later.
+    void makeReady();
     void setEnabled(bool enabled);
     /// Runs the menu at the position; a separator and this menu follow its own entries, if there is anything to insert.
     void showMenu(QMenu* menu, const QPoint& pos);
@@ -34,6 +44,9 @@ signals:
 
 private slots:
     void handleAction(QAction* action);
+
+private:
+    QVector<std::function<void(EditorSupportMenu*)>> m_fillers;
 };
 
 } // namespace nsModEditor

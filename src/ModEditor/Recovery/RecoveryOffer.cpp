@@ -15,6 +15,7 @@
 #include "ModGuiHookIf.h"
 #include "ModGuiPluginIf.h"
 #include "MyNoticeBar.h"
+#include "SchemeIcons.h"
 #include "TextCompareDialog.h"
 
 #include <QAction>
@@ -58,7 +59,7 @@ RecoveryOffer::RecoveryOffer(ModGuiPluginIf* gui, const sParts_t& parts, QObject
     : QObject(parent)
     , m_gui(gui)
     , m_parts(parts)
-    , m_action(new QAction(QIcon(":/ModEditor/img/file/document-revert.png"), tr("Recover text..."), this))
+    , m_action(new QAction(SchemeIcons::of(":/ModEditor/img/file/document-revert.png"), tr("Recover text..."), this))
     , m_separator(new QAction(this))
 {
     m_action->setToolTip(tr("Texts that were closed without being saved"));

@@ -1,9 +1,9 @@
 #include "SplashScreen.h"
 
 #include "Colors.h"
+#include "SchemeIcons.h"
 
 #include <QCoreApplication>
-#include <QIcon>
 #include <QTimer>
 
 namespace nsModGui {
@@ -12,11 +12,10 @@ namespace {
 
 const int showTime = 2500; ///< milliseconds
 
-/// QIcon selects the picture in the resolution of the screen.
+/// The icon selects the picture in the resolution of the screen.
 QPixmap splashPixmap()
 {
-    const QString path = QStringLiteral(":/SplashScreen/img/splashScreen.png");
-    const QIcon icon(path);
+    const QIcon icon = SchemeIcons::of(QStringLiteral(":/SplashScreen/img/splashScreen.png"));
     return icon.pixmap(icon.availableSizes().value(0, QSize(0, 0)));
 }
 

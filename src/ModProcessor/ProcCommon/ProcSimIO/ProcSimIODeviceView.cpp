@@ -6,6 +6,7 @@
 #include "ProcSimIOAddrLine.h"
 #include "ProcSimIODevice.h"
 #include "ProcSimIOTypeIdentifier.h"
+#include "SchemeIcons.h"
 
 #include <QHBoxLayout>
 #include <QToolButton>
@@ -34,7 +35,7 @@ ProcSimIODeviceView::ProcSimIODeviceView(ProcSimIODevice* device, Colors::eRole_
     m_addrRow->setSpacing(4);
     m_addrRow->addWidget(m_addrLine, 1);
     QToolButton* close = makeButton(QStringLiteral("procSimIOClose"));
-    close->setIcon(QIcon(QStringLiteral(":/ProcSim/img/devClose.png")));
+    close->setIcon(SchemeIcons::of(QStringLiteral(":/ProcSim/img/devClose.png")));
     close->setToolTip(tr("Close device"));
     m_addrRow->addWidget(close);
     m_directionLine->setSpacing(8);
@@ -120,8 +121,8 @@ QToolButton* ProcSimIODeviceView::addButton(const QString& objectName)
 void ProcSimIODeviceView::showExpanded(QToolButton* button, bool expanded)
 {
     button->setToolTip(expanded ? tr("Collapse list") : tr("Expand list"));
-    button->setIcon(QIcon(expanded ? QStringLiteral(":/ProcSim/img/fifoCollapse.png")
-                                   : QStringLiteral(":/ProcSim/img/fifoExpand.png")));
+    button->setIcon(SchemeIcons::of(expanded ? QStringLiteral(":/ProcSim/img/fifoCollapse.png")
+                                             : QStringLiteral(":/ProcSim/img/fifoExpand.png")));
 }
 
 } // namespace nsProc

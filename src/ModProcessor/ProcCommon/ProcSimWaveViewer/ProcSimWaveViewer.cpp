@@ -7,6 +7,7 @@
 #include "ProcSimWaveTree.h"
 #include "ProcSimWavesWidget.h"
 #include "SafeFile.h"
+#include "SchemeIcons.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -125,7 +126,7 @@ QAbstractButton* ProcSimWaveViewer::addButton(QWidget* row, const QString& text,
     button->setToolTip(toolTip);
     button->setIconSize({16, 16});
     if (!icon.isEmpty())
-        button->setIcon(QIcon(QStringLiteral(":/ProcSim/img/%1.png").arg(icon)));
+        button->setIcon(SchemeIcons::of(QStringLiteral(":/ProcSim/img/%1.png").arg(icon)));
     row->layout()->addWidget(button);
     return button;
 }
