@@ -118,6 +118,12 @@ public:
     }
     void registerPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = this; }
     void unregisterPlugin(ModSrcNaviPluginIf* plugin) override { plugin->modSrcNaviHook = nullptr; }
+    void registerPlugin(ModSrcNaviPluginIfSymbols* plugin) override { plugin->modSrcNaviHook = this; }
+    void unregisterPlugin(ModSrcNaviPluginIfSymbols* plugin) override { plugin->modSrcNaviHook = nullptr; }
+    void setTargetFiles(QStringList templates, QStringList outputs, QMap<QString, int> errors) override
+    {
+        m_real->setTargetFiles(templates, outputs, errors);
+    }
     void clearTagList() override
     {
         watch.start();
