@@ -12,7 +12,7 @@ endif()
 
 add_library(NalvoFlags INTERFACE)
 target_compile_options(NalvoFlags INTERFACE -Wall -Wextra -Wpedantic -Wshadow=local -Wnon-virtual-dtor
-                                            -Wno-deprecated-declarations -fno-plt)
+                                            -Wno-deprecated-declarations)
 if(NALVO_CCACHE)
   target_compile_options(NalvoFlags INTERFACE -fpch-preprocess)
 endif()

@@ -1,6 +1,7 @@
 #include "SchemeIcons.h"
 
 #include "Colors.h"
+#include "PixelPicture.h"
 
 #include <QApplication>
 #include <QFile>
@@ -13,6 +14,15 @@
 #include <QVector>
 
 namespace {
+
+QImage imageOf(const QString& path)
+{
+    QFile file(path);
+    QImage image;
+    if (file.open(QIODevice::ReadOnly) && PixelPicture::read(&file, &image))
+        return image;
+    return QImage(path);
+}
 
 /// The pictures of an icon, read when they are painted, in the scheme in which they are shown.
 class SchemeIconEngine : public QIconEngine
@@ -130,7 +140,7 @@ private:
         sPicture_t& picture = m_pictures[index];
         // An image, unlike a pixmap, is not replaced by a finer one on a fine screen: sizes here are real pixels.
         if (picture.pixmap.isNull() && !picture.name.isEmpty())
-            picture.pixmap = QPixmap::fromImage(QImage(fileOf(picture)));
+            picture.pixmap = QPixmap::fromImage(imageOf(fileOf(picture)));
         return picture.pixmap;
     }
 

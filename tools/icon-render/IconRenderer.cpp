@@ -1,6 +1,7 @@
 #include "IconRenderer.h"
 #include "ColorTable.h"
 #include "IconList.h"
+#include "PixelPicture.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -74,9 +75,10 @@ QString targetName(const QString& target, int density)
 
 } // namespace
 
-IconRenderer::IconRenderer(const QDir& svgDir, const QDir& outDir)
+IconRenderer::IconRenderer(const QDir& svgDir, const QDir& outDir, bool isPacked)
     : m_svgDir(svgDir)
     , m_outDir(outDir)
+    , m_isPacked(isPacked)
 {
 }
 
@@ -162,11 +164,22 @@ bool IconRenderer::renderOne(QSvgRenderer& renderer, const IconEntry& entry, con
     if (!m_outDir.mkpath(QFileInfo(fileName).path())) {
         return fail(QStringLiteral("can not create folder for ") + fileName);
     }
-    // What nothing shines through is read faster without its transparency.
-    if (!image.convertToFormat(isSolid(image) ? QImage::Format_RGB32 : QImage::Format_ARGB32).save(fileName, "PNG")) {
+    if (!save(image, fileName)) {
         return fail(QStringLiteral("can not write ") + fileName);
     }
     return true;
+}
+
+bool IconRenderer::save(const QImage& image, const QString& fileName) const
+{
+    if (m_isPacked) {
+        QFile file(fileName);
+        const QByteArray picture = PixelPicture::written(image);
+        return !picture.isEmpty() && file.open(QIODevice::WriteOnly) && file.write(picture) == picture.size() &&
+               file.flush();
+    }
+    // What nothing shines through is smaller without its transparency.
+    return image.convertToFormat(isSolid(image) ? QImage::Format_RGB32 : QImage::Format_ARGB32).save(fileName, "PNG");
 }
 
 bool IconRenderer::fail(const QString& text)

@@ -4,6 +4,7 @@
 #include <QDir>
 #include <QString>
 
+class QImage;
 class QSvgRenderer;
 
 struct IconEntry;
@@ -16,7 +17,8 @@ class IconRenderer
 public:
     /// @param svgDir  folder of the SVG sources
     /// @param outDir  folder of the PNG files; sub folders are made as they are needed
-    IconRenderer(const QDir& svgDir, const QDir& outDir);
+    /// @param isPacked  they go into a program: a PixelPicture each, under the same names
+    IconRenderer(const QDir& svgDir, const QDir& outDir, bool isPacked);
 
     /// Writes the PNG of the entry and its "@2x" sister, and both in the dark colours below "dark/". Returns false,
     /// with a text in errorText(), if the drawing cannot be read, uses what the renderer cannot draw or a colour that
@@ -31,9 +33,11 @@ private:
     bool darkened(const QString& svgFile, QByteArray* drawing);
     bool renderScheme(const QByteArray& drawing, const IconEntry& entry, const QString& folder);
     bool renderOne(QSvgRenderer& renderer, const IconEntry& entry, const QString& folder, int density);
+    bool save(const QImage& image, const QString& fileName) const;
     bool fail(const QString& text);
 
     QDir m_svgDir;
     QDir m_outDir;
+    bool m_isPacked;
     QString m_errorText;
 };

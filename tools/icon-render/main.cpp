@@ -1,7 +1,8 @@
 // Renders the SVG sources of the icons to PNG files.
 //
-//     nalvo-icon-render <list file> <folder of the SVG sources> <output folder>
+//     nalvo-icon-render [--packed] <list file> <folder of the SVG sources> <output folder>
 //
+// Packed, they are what goes into the program: read faster than PNG, by the program alone.
 // Ends with 0 if all pictures were written, with 1 and a message on the error stream otherwise.
 
 #include "IconList.h"
@@ -29,15 +30,16 @@ int main(int argc, char* argv[])
     qSetGlobalQHashSeed(0);
     QCoreApplication app(argc, argv);
 
-    const QStringList arguments = QCoreApplication::arguments();
+    QStringList arguments = QCoreApplication::arguments();
+    const bool isPacked = arguments.removeAll(QStringLiteral("--packed")) > 0;
     if (arguments.size() != 4) {
-        return fail(QStringLiteral("usage: nalvo-icon-render <list file> <svg folder> <output folder>"));
+        return fail(QStringLiteral("usage: nalvo-icon-render [--packed] <list file> <svg folder> <output folder>"));
     }
     IconList list;
     if (!list.read(arguments.at(1))) {
         return fail(list.errorText());
     }
-    IconRenderer renderer(QDir(arguments.at(2)), QDir(arguments.at(3)));
+    IconRenderer renderer(QDir(arguments.at(2)), QDir(arguments.at(3)), isPacked);
     for (const IconEntry& entry : list.entries()) {
         if (!renderer.render(entry)) {
             return fail(QStringLiteral("%1:%2: %3").arg(arguments.at(1)).arg(entry.line).arg(renderer.errorText()));
