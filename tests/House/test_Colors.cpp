@@ -1,9 +1,30 @@
 #include "ColorScan.h"
 #include "FixtureTree.h"
 
+#include <QRegularExpression>
+
 #include <gtest/gtest.h>
 
 using namespace nsHouse;
+
+namespace {
+
+/// Places that read a picture of the program past SchemeIcons: it would be the same in both schemes, and be read at
+/// once.
+QStringList picturesOfOneScheme(const SourceTree& tree)
+{
+    static const QRegularExpression direct(
+        "\\bQ(Icon|Pixmap|Image)(\\s+\\w+)?\\s*[({]\\s*(QStringLiteral\\(|QLatin1String\\(|QString\\()?\":/");
+    QStringList findings;
+    for (const QString& file : tree.files("src", {"*.cpp", "*.h"})) {
+        const QRegularExpressionMatch match = direct.match(tree.text(file));
+        if (match.hasMatch())
+            findings.append(file + ": " + match.captured());
+    }
+    return findings;
+}
+
+} // namespace
 
 TEST(Colors, standInTheTableAlone)
 {
@@ -32,4 +53,14 @@ TEST(Colors, whatIsNoneIsNotFound)
                "fill(Qt::transparent);\n/* #123456\n   #abcdef */\nauto d = \"#EQU\";\nQColor e(color);\n"
                "auto page = \"pageid://asmFeMessages#errSyntax\";\n");
     EXPECT_EQ(ColorScan(SourceTree(tree.root())).findings().join('\n').toStdString(), "");
+}
+
+TEST(Colors, ofPicturesFollowTheScheme)
+{
+    EXPECT_EQ(picturesOfOneScheme(SourceTree(NALVO_SOURCE_DIR)).join('\n').toStdString(), "");
+    FixtureTree tree;
+    tree.write("src/A.cpp", "auto a = QIcon(\":/a.png\");\n");
+    tree.write("src/B.cpp", "QPixmap b(\n    QStringLiteral(\":/b.png\"));\n");
+    tree.write("src/C.cpp", "auto c = SchemeIcons::of(QStringLiteral(\":/c.png\")); QIcon d(path);\n");
+    EXPECT_EQ(picturesOfOneScheme(SourceTree(tree.root())).size(), 2);
 }

@@ -132,6 +132,16 @@ protected:
         QWidget* focus = QApplication::focusWidget();
         QTest::keyClick(focus != nullptr ? focus : window.get(), Qt::Key(key), modifiers);
     }
+    /// From the first document to a definition in the other one, and from there back to one in the first.
+    void openAndJumpTwice()
+    {
+        open();
+        setCursorInto(document, "work");
+        key(Qt::Key_F2);
+        ASSERT_EQ(place(), "sub/other.psm:2 work");
+        setCursorInto(current(), "limit");
+        key(Qt::Key_F2);
+    }
     /// File, line and selected text of the cursor: "main.psm:3 limit".
     QString place() const
     {

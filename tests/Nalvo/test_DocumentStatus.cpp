@@ -1,8 +1,7 @@
 // What the status bar and the buttons say of documents, and long work beside them.
 
 #include "DocumentsFixture.h"
-
-#include "MyLongWork.h"
+#include "LongRun.h"
 
 using nsModEditor::EditorWidget;
 
@@ -97,21 +96,11 @@ TEST_F(DocumentsInWindow, theSplashScreenStandsInFrontOfTheWindow)
 TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
 {
     auto* asmFe = module<nsModAsmFe::ModAsmFe>();
-    QByteArray many;
-    for (int i = 0; i < 20000; ++i)
-        many += "        LOAD s0, 1\n";
-    writeFile("c.psm", many);
+    writeFile("c.psm", longRun::program());
     writeFile("out.hex", "of an earlier run\n");
-    MyLongWork::setDelay(0);
     for (const bool byKey : {false, true}) {
         SCOPED_TRACE(byKey);
-        bool seen = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, window.get(), [&] {
-            auto* cancel = window->findChild<QToolButton*>("longWorkCancel");
-            if (seen || cancel == nullptr || !cancel->isVisible() || !asmFe->isRunning())
-                return;
-            seen = true;
+        const bool seen = longRun::run(asmFe, window.get(), [&](QToolButton* cancel) {
             // Input for anything else waits.
             QTest::keyClick(window.get(), Qt::Key_P, Qt::ControlModifier);
             EXPECT_FALSE(window->close());
@@ -120,9 +109,6 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
             else
                 QTest::mouseClick(cancel, Qt::LeftButton);
         });
-        timer.start(0);
-        asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
-        timer.stop();
         EXPECT_TRUE(seen);
         EXPECT_FALSE(asmFe->isAssembled());
         QFile out(path("out.hex"));
@@ -132,7 +118,6 @@ TEST_F(DocumentsInWindow, aLongRunShowsItsProgressAndIsCancelled)
             << qPrintable(messageTexts().join('\n'));
         EXPECT_EQ(window->findChild<QToolButton*>("longWorkCancel"), nullptr) << "the bar has gone";
     }
-    MyLongWork::setDelay(MyLongWork::usualDelay);
     writeFile("c.psm", "gamma:  JUMP gamma\n");
     asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
     EXPECT_TRUE(asmFe->isAssembled()) << "the next run is whole";

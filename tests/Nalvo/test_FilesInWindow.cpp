@@ -2,6 +2,7 @@
 // project.
 
 #include "DeadDisk.h"
+#include "LongRun.h"
 #include "MainWindowFixture.h"
 #include "ModalAnswers.h"
 
@@ -13,7 +14,6 @@
 #include "ModGuiHookIf.h"
 #include "ModPrj.h"
 #include "ModSourcesHookIf.h"
-#include "MyLongWork.h"
 #include "QtPrinters.h"
 #include "QuickOpen.h"
 
@@ -115,26 +115,8 @@ protected:
     /// Runs a long program. @param act once, while the progress is shown
     void runLong(const std::function<void(QToolButton* cancel)>& act)
     {
-        auto* asmFe = module<ModAsmFe>();
-        QByteArray many;
-        for (int i = 0; i < 20000; ++i)
-            many += "        LOAD s0, 1\n";
-        writeFile("s0.psm", many);
-        MyLongWork::setDelay(0);
-        bool seen = false;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, window.get(), [&] {
-            auto* cancel = window->findChild<QToolButton*>("longWorkCancel");
-            if (seen || cancel == nullptr || !cancel->isVisible() || !asmFe->isRunning())
-                return;
-            seen = true;
-            act(cancel);
-        });
-        timer.start(0);
-        asmFe->assemble(nsModAsmFe::AsmFeConfig::eEventButton1);
-        timer.stop();
-        EXPECT_TRUE(seen);
-        MyLongWork::setDelay(MyLongWork::usualDelay);
+        writeFile("s0.psm", longRun::program());
+        EXPECT_TRUE(longRun::run(module<ModAsmFe>(), window.get(), act));
         settleLayout();
     }
 

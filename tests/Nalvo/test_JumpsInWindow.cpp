@@ -53,12 +53,7 @@ TEST_F(JumpsInWindow, aMessageWhoseFileIsGoneLeavesNoPlaceToComeBackTo)
 
 TEST_F(JumpsInWindow, aPlaceWhoseFileIsGoneIsLeftOutOnTheWayBack)
 {
-    open();
-    setCursorInto(document, "work");
-    key(Qt::Key_F2);
-    ASSERT_EQ(place(), "sub/other.psm:2 work");
-    setCursorInto(current(), "limit");
-    key(Qt::Key_F2);
+    openAndJumpTwice();
     ASSERT_EQ(place(), "main.psm:1 limit");
     editor()->removeWidgetRequest(documentOf("sub/other.psm"));
     removeOther();

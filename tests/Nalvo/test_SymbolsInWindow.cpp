@@ -46,12 +46,7 @@ TEST_F(SymbolsInWindow, f2GoesToDefinitionsAndAltLeftBack)
 
 TEST_F(SymbolsInWindow, backOpensADocumentThatWasClosed)
 {
-    open();
-    setCursorInto(document, "work");
-    key(Qt::Key_F2);
-    ASSERT_EQ(place(), "sub/other.psm:2 work");
-    setCursorInto(current(), "limit");
-    key(Qt::Key_F2);
+    openAndJumpTwice();
     EditorWidget* other = documentOf("sub/other.psm");
     // A line above the place, and then it is closed.
     QTextCursor cursor(other->document());
