@@ -1,7 +1,9 @@
 #include "Nalvo.h"
 
+#include "AppStyle.h"
 #include "Display.h"
 #include "HelpRef.h"
+#include "LateContent.h"
 #include "ModAction.h"
 #include "ModArgs.h"
 #include "ModAsmFe.h"
@@ -42,17 +44,24 @@ Nalvo::Nalvo(int, char**)
     : QMainWindow(nullptr)
 {
     initResources();
+    AppStyle::install();
     HelpRef::set(this, QStringLiteral("pageId://mainWindow"));
     QCoreApplication::setOrganizationName(QStringLiteral("Brelmont"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("brelmont.example"));
     QCoreApplication::setApplicationName(QStringLiteral("Nalvo"));
 
+    LateContent::Start start;
     makeModules();
     m_phases.start();
-
+    start.aboutToShow(this);
+    // What is not seen yet is styled when it is.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
     setVisible(true);
     QCoreApplication::processEvents();
-    handleArgs();
+    start.seen();
+    // The user may have closed it at first sight.
+    if (!m_phases.isStopped())
+        handleArgs();
 }
 
 void Nalvo::makeModules()

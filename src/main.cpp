@@ -17,7 +17,6 @@ int main(int argc, char** argv)
     static QApplication* const application = new (std::nothrow) QApplication(argc, argv);
     if (application == nullptr)
         return -1;
-    QApplication::setStyle(QStringLiteral("fusion"));
     static Nalvo* const window = new (std::nothrow) Nalvo(argc, argv);
     if (window == nullptr)
         return -1;

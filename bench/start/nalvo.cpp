@@ -13,7 +13,6 @@ int main(int argc, char** argv)
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     FirstPaint application(argc, argv, started);
-    QApplication::setStyle(QStringLiteral("fusion"));
     Nalvo window(argc, argv);
     return QApplication::exec();
 }

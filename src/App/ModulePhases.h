@@ -22,6 +22,8 @@ public:
     /// Asks every module whether the program may stop, and if all agree runs the exit phases.
     /// @return false if a module has refused: the modules after it were not asked, and all modules stay in use
     bool stop();
+    /// The exit phases have run.
+    bool isStopped() const { return m_state == eState_t::stopped; }
 
 private:
     enum class eState_t { created, running, stopped };

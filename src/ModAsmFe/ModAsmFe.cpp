@@ -6,6 +6,7 @@
 #include "AsmScriptApi.h"
 #include "FilePath.h"
 #include "HelpRef.h"
+#include "LateContent.h"
 #include "MyLongWork.h"
 
 #include "EquListView.h"
@@ -68,7 +69,7 @@ void ModAsmFe::modInitIntermod()
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationStatusSecond, m_statusBar, QString());
         modGuiHook->addWidget(this, ModGuiHookIf::eLocationDockRight, m_equListView, tr("EQU list"));
     }
-    m_editorFeed.setupSupportMenuBasic(modEditorHook);
+    LateContent::later(this, [this] { m_editorFeed.setupSupportMenuBasic(modEditorHook); });
     if (modScriptHook != nullptr)
         modScriptHook->registerObject(new AsmScriptApi(this), QStringLiteral("assembler"));
 }

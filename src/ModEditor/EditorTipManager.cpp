@@ -18,14 +18,10 @@ const char* const templatePath = ":/ModEditor/tipTemplate/tipTemplate.html";
 
 EditorTipManager::EditorTipManager(QWidget* parent)
     : QDialog(parent)
-    , m_browser(new QTextBrowser(this))
     , m_title("Titel")
     , m_description("A short description.")
 {
     setWindowTitle(tr("Description"));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_browser);
     for (int index = 1; index <= 5; ++index)
         m_argsIn.insert(QString("REG_work%1").arg(index), QString("Eingangsregister %1").arg(index));
     m_argsOut.insert("REG_retVal", "Ausgangsregister");
@@ -52,6 +48,12 @@ bool EditorTipManager::setTip(QString& word)
     content += QString("<p>%1</p>").arg(m_description.toHtmlEscaped());
     content += setTipArgs(tr("Input values"), m_argsIn);
     content += setTipArgs(tr("Output values"), m_argsOut);
+    if (m_browser == nullptr) {
+        m_browser = new QTextBrowser(this);
+        auto* layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(m_browser);
+    }
     m_browser->setHtml(text.replace("{content}", content));
     return true;
 }

@@ -30,7 +30,7 @@ public:
     QString setTipArgs(QString title, QHash<QString, QString>& args);
 
 private:
-    QTextBrowser* m_browser;
+    QTextBrowser* m_browser = nullptr; ///< null before the first tip
     QString m_title;
     QString m_description;
     QHash<QString, QString> m_argsIn;

@@ -34,8 +34,14 @@ enum eRow_t { rowFind, rowFindButtons, rowReplace, rowReplaceButtons, rowOptions
 
 FindReplaceWidget::FindReplaceWidget(QWidget* parent)
     : QWidget(parent)
+    , m_content(this, [this] { makeContent(); })
 {
     setObjectName(QStringLiteral("findReplaceWidget"));
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+}
+
+void FindReplaceWidget::makeContent()
+{
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(gap / 2, gap / 2, gap, gap / 2);
     layout->setHorizontalSpacing(gap);
@@ -49,7 +55,6 @@ FindReplaceWidget::FindReplaceWidget(QWidget* parent)
     layout->setColumnMinimumWidth(columnLabel, labelWidth());
     setupTabOrder();
     setFocusProxy(m_find);
-    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     setMode(eModeFind);
     chkFindStringVld(QString());
 }
@@ -169,6 +174,8 @@ int FindReplaceWidget::buttonsWidth() const
 
 QSize FindReplaceWidget::minimumSizeHint() const
 {
+    if (!m_content.isThere())
+        return QWidget::minimumSizeHint();
     const QMargins margins = layout()->contentsMargins();
     const int boxes = qMax(m_caseSensitive->sizeHint().width(), m_wholeWords->sizeHint().width());
     const int width = qMax(fieldWidth(), qMax(buttonsWidth(), boxes) + margins.left() + margins.right());
@@ -178,6 +185,8 @@ QSize FindReplaceWidget::minimumSizeHint() const
 void FindReplaceWidget::resizeEvent(QResizeEvent* event)
 {
     QWidget::resizeEvent(event);
+    if (!m_content.isThere())
+        return;
     placeResult();
     // The width that the options have in one row, in whichever way they stand now.
     int options = 0;
@@ -274,37 +283,37 @@ QToolButton* FindReplaceWidget::addOption(const char* name, const QString& text,
 
 QString FindReplaceWidget::findString() const
 {
-    return m_find->text();
+    return m_content.isThere() ? m_find->text() : QString();
 }
 
 QString FindReplaceWidget::replaceString() const
 {
-    return m_replace->text();
+    return m_content.isThere() ? m_replace->text() : QString();
 }
 
 bool FindReplaceWidget::isCaseSensitive() const
 {
-    return m_caseSensitive->isChecked();
+    return m_content.isThere() && m_caseSensitive->isChecked();
 }
 
 bool FindReplaceWidget::isWholeWords() const
 {
-    return m_wholeWordsEn && m_wholeWords->isChecked();
+    return m_content.isThere() && m_wholeWordsEn && m_wholeWords->isChecked();
 }
 
 bool FindReplaceWidget::isRegExp() const
 {
-    return m_expressionsEn && m_regExp->isChecked();
+    return m_content.isThere() && m_regExp->isEnabledTo(this) && m_regExp->isChecked();
 }
 
 bool FindReplaceWidget::isInSelection() const
 {
-    return m_expressionsEn && m_inSelection->isChecked();
+    return m_content.isThere() && m_inSelection->isEnabledTo(this) && m_inSelection->isChecked();
 }
 
 void FindReplaceWidget::setExpressionsEnable(bool enable)
 {
-    m_expressionsEn = enable;
+    m_content.need();
     m_regExp->setEnabled(enable);
     m_inSelection->setEnabled(enable);
     // The selection is another one each time the bar opens.
@@ -314,6 +323,7 @@ void FindReplaceWidget::setExpressionsEnable(bool enable)
 
 void FindReplaceWidget::setResult(const QString& text, const QString& toolTip)
 {
+    m_content.need();
     m_result->setText(text);
     m_result->setToolTip(toolTip);
     m_result->adjustSize();
@@ -335,7 +345,7 @@ void FindReplaceWidget::placeResult()
 
 bool FindReplaceWidget::isFindEnabled() const
 {
-    return !m_find->text().isEmpty();
+    return !findString().isEmpty();
 }
 
 void FindReplaceWidget::setInitString(QString text, eMode_t mode)
@@ -352,6 +362,7 @@ void FindReplaceWidget::setInitString(QString text, eMode_t mode)
 
 void FindReplaceWidget::setMode(eMode_t mode)
 {
+    m_content.need();
     m_mode = m_replaceEn ? mode : eModeFind;
     const bool shown = m_mode == eModeReplace;
     // If the focus is in the row that is hidden, it moves to another field of the bar.
@@ -366,6 +377,7 @@ void FindReplaceWidget::setMode(eMode_t mode)
 
 void FindReplaceWidget::setReplaceEnable(bool enable)
 {
+    m_content.need();
     m_replaceEn = enable;
     m_toggle->setEnabled(enable);
     setMode(m_mode);
@@ -373,12 +385,14 @@ void FindReplaceWidget::setReplaceEnable(bool enable)
 
 void FindReplaceWidget::setWholeWordsEnable(bool enable)
 {
+    m_content.need();
     m_wholeWordsEn = enable;
     m_wholeWords->setEnabled(enable);
 }
 
 void FindReplaceWidget::setCommands(const FindReplaceActions& commands)
 {
+    m_content.need();
     ButtonCommand::set(m_nextButton, commands.command(FindReplaceActions::eActionFindNext));
     ButtonCommand::set(m_prevButton, commands.command(FindReplaceActions::eActionFindPrev));
     ButtonCommand::set(m_toggle, commands.command(FindReplaceActions::eActionReplace));

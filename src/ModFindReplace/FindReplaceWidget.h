@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LateContent.h"
+
 #include <QWidget>
 
 class QCheckBox;
@@ -80,6 +82,7 @@ private:
     /// What the width of the window is enough for: all in a row, the options below, the buttons below, too.
     enum eSpace_t { eWide, eNarrow, eTight };
 
+    void makeContent();
     void setupFindRow(QGridLayout* layout);
     void setupReplaceRow(QGridLayout* layout);
     void setupOptions();
@@ -119,7 +122,7 @@ private:
     eSpace_t m_space = eWide;
     bool m_replaceEn = true;
     bool m_wholeWordsEn = true;
-    bool m_expressionsEn = true;
+    LateContent m_content;
 };
 
 } // namespace nsModFindReplace

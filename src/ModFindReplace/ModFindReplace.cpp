@@ -1,6 +1,7 @@
 #include "ModFindReplace.h"
 
 #include "HelpRef.h"
+#include "LateContent.h"
 #include "PluginList.h"
 
 #include <QAction>
@@ -125,7 +126,10 @@ void ModFindReplace::modInit()
     connectWidget();
     m_actions = new FindReplaceActions(this);
     m_actions->setEnabled(false);
-    m_widget->setCommands(*m_actions);
+    LateContent::later(m_widget, [this] {
+        if (m_actions != nullptr)
+            m_widget->setCommands(*m_actions);
+    });
     connect(m_actions, qOverload<FindReplaceActions::eAction_t>(&FindReplaceActions::triggered), this,
             &ModFindReplace::handleActions);
 }

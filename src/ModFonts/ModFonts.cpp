@@ -1,5 +1,6 @@
 #include "ModFonts.h"
 
+#include "LateContent.h"
 #include "ModMsgHookIf.h"
 #include "ShippedFolder.h"
 
@@ -57,7 +58,8 @@ bool ModFonts::setupFont(const QString& path)
 
 void ModFonts::modInitIntermod()
 {
-    initFonts();
+    // The first sight of the window needs none of them.
+    LateContent::later(this, [this] { initFonts(); });
 }
 
 } // namespace nsModFonts

@@ -1,7 +1,10 @@
 #include "DockShares.h"
 
+#include "LateContent.h"
+
 #include <QDockWidget>
 #include <QEvent>
+#include <QLayout>
 #include <QMainWindow>
 #include <QTimer>
 
@@ -117,6 +120,9 @@ void DockShares::apply()
     m_applyPending = false;
     if (!isReady())
         return;
+    // What has changed its smallest size has it now.
+    if (m_window->layout() != nullptr)
+        m_window->layout()->activate();
     for (QDockWidget* dock : qAsConst(m_docks)) {
         if (dock == nullptr || !dock->isVisible())
             continue;
@@ -137,7 +143,11 @@ void DockShares::applySoon()
     if (m_applyPending)
         return;
     m_applyPending = true;
-    QTimer::singleShot(0, this, &DockShares::apply);
+    // At the start, all panels of a dock have to say what room they need.
+    if (LateContent::isStarting())
+        LateContent::later(this, [this] { apply(); });
+    else
+        QTimer::singleShot(0, this, &DockShares::apply);
 }
 
 bool DockShares::eventFilter(QObject* watched, QEvent* event)

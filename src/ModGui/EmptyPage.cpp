@@ -17,26 +17,36 @@ const int pageWidth = 560; ///< pixels that a page gets at the most
 
 EmptyPage::EmptyPage(QWidget* parent)
     : QWidget(parent)
-    , m_area(new QScrollArea(this))
+    , m_content(this, [this] { makeContent(); })
 {
     setObjectName(QStringLiteral("emptyPage"));
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFocusPolicy(Qt::NoFocus);
+}
+
+void EmptyPage::makeContent()
+{
+    m_area = new QScrollArea(this);
     m_area->setObjectName(QStringLiteral("emptyPageArea"));
     m_area->setFrameStyle(QFrame::NoFrame);
     m_area->setWidgetResizable(true);
     m_area->setFocusPolicy(Qt::NoFocus);
     m_area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_area->hide();
+    if (m_page)
+        setPage(m_page);
 }
 
 void EmptyPage::setPage(QWidget* page)
 {
-    if (m_page)
+    const bool isThere = m_content.isThere();
+    if (m_page && isThere)
         m_area->takeWidget();
     if (m_page && m_page != page)
         m_page->setParent(nullptr);
     m_page = page;
+    if (!isThere)
+        return;
     if (page != nullptr)
         m_area->setWidget(page);
     setAttribute(Qt::WA_TransparentForMouseEvents, page == nullptr);
@@ -60,6 +70,8 @@ int EmptyPage::nameHeight() const
 
 void EmptyPage::layoutPage()
 {
+    if (!m_content.isThere())
+        return;
     const int top = 2 * gap + nameHeight();
     const int width = qMin(pageWidth, this->width() - 4 * gap);
     m_area->setGeometry((this->width() - width) / 2, top, qMax(0, width), qMax(0, height() - top - 2 * gap));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LateContent.h"
+
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -29,13 +31,15 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void makeContent();
     int nameHeight() const;
     QFont nameFont() const;
     void layoutPage();
 
     QString m_openText;
-    QScrollArea* m_area;
+    QScrollArea* m_area = nullptr;
     QPointer<QWidget> m_page; ///< in the area
+    LateContent m_content;    ///< the area
 };
 
 } // namespace nsModGui

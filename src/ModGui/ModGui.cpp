@@ -48,10 +48,11 @@ ModGui::ModGui(QMainWindow* window)
     : QObject(window)
     , m_windowObject(window)
 {
+    // First, so that the parts of the window are styled once.
+    setupStyle();
     setupCenter();
     setupDocks();
     setupStatusBar();
-    setupStyle();
     setWindowTitle(QString());
 }
 
@@ -557,6 +558,8 @@ void ModGui::rdAppCfg()
         window()->setWindowState(window()->windowState() | Qt::WindowMaximized);
 
     delete m_splashScreen;
+    // The splash screen handles events. The pages are styled in the window, and when they are seen.
+    QCoreApplication::removePostedEvents(nullptr, QEvent::PolishRequest);
     m_splashScreen = new SplashScreen;
     m_splashScreen->show(geometry.x(), geometry.y(), geometry.width(), geometry.height());
 }

@@ -20,11 +20,17 @@ const int margin = 4; ///< pixels
 PageSwitcher::PageSwitcher(WidgetAreaTabbed* tabs)
     : QFrame(tabs)
     , m_tabs(tabs)
-    , m_list(new QListWidget(this))
 {
     setObjectName(QStringLiteral("pageSwitcher"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setAutoFillBackground(true);
+    hide();
+    connect(m_tabs, &QTabWidget::currentChanged, this, &PageSwitcher::pageChanged);
+}
+
+void PageSwitcher::makeList()
+{
+    m_list = new QListWidget(this);
     m_list->setObjectName(QStringLiteral("pageSwitcherList"));
     m_list->setFocusPolicy(Qt::NoFocus);
     m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -32,8 +38,6 @@ PageSwitcher::PageSwitcher(WidgetAreaTabbed* tabs)
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(margin, margin, margin, margin);
     layout->addWidget(m_list);
-    hide();
-    connect(m_tabs, &QTabWidget::currentChanged, this, &PageSwitcher::pageChanged);
     connect(m_list, &QListWidget::itemClicked, this, [this] {
         show(m_list->currentRow());
         end();
@@ -71,6 +75,8 @@ void PageSwitcher::begin()
     m_isOn = true;
     m_first = m_tabs->currentPage();
     m_shown.clear();
+    if (m_list == nullptr)
+        makeList();
     m_list->clear();
     for (QWidget* page : order()) {
         const int index = m_tabs->indexOfPage(page);

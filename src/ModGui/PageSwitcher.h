@@ -32,12 +32,13 @@ protected:
 
 private:
     void pageChanged();
+    void makeList();
     void begin();
     void end();
     void show(int row);
 
     WidgetAreaTabbed* m_tabs;
-    QListWidget* m_list;
+    QListWidget* m_list = nullptr;    ///< null before the first use
     QList<QPointer<QWidget>> m_used;  ///< the one used last first
     QList<QPointer<QWidget>> m_shown; ///< rows of the list
     QPointer<QWidget> m_first;        ///< the page in front when it began

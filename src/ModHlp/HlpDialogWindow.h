@@ -15,7 +15,7 @@ class HlpDialogWindow : public QDialog
     Q_OBJECT
 
 public:
-    /// @param manager loads the pages; not owned, must outlive the window
+    /// @param source loads the pages; not owned, must outlive the window
     HlpDialogWindow(HlpSourceIf* source, QWidget* dialog);
 
     HlpWidget* page() const { return m_page; }

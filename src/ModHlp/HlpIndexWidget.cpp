@@ -31,19 +31,15 @@ const int gap = 8;
 HlpIndexWidget::HlpIndexWidget(std::function<QHelpEngine*()> engine, QWidget* parent)
     : QWidget(parent)
     , m_openEngine(std::move(engine))
-    , m_tabs(new QTabWidget)
 {
     setObjectName(QStringLiteral("hlpIndex"));
     HelpRef::set(this, QStringLiteral("pageId://gettingStarted"));
-    auto* layout = new QVBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(m_tabs);
 }
 
 void HlpIndexWidget::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
-    if (m_tabs->count() == 0)
+    if (m_tabs == nullptr)
         makeTabs();
 }
 
@@ -52,6 +48,10 @@ void HlpIndexWidget::makeTabs()
     QHelpEngine* engine = m_openEngine();
     if (engine == nullptr)
         return;
+    m_tabs = new QTabWidget;
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(m_tabs);
     QHelpContentWidget* content = engine->contentWidget();
     connect(content, &QHelpContentWidget::linkActivated, this, &HlpIndexWidget::linkActivated);
     connect(engine->contentModel(), &QHelpContentModel::contentsCreated, content,

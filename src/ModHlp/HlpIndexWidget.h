@@ -38,7 +38,7 @@ private:
     void choose(const QMap<QString, QUrl>& links, const QString& keyword);
 
     std::function<QHelpEngine*()> m_openEngine;
-    QTabWidget* m_tabs;
+    QTabWidget* m_tabs = nullptr;
     QLineEdit* m_filter = nullptr;
 };
 

@@ -15,6 +15,8 @@
 #include <QNetworkProxy>
 #include <QTimer>
 
+#include <utility>
+
 namespace nsModHlp {
 
 namespace {
@@ -136,11 +138,17 @@ void ModHlp::modRun()
 {
     if (!showGettingStarted)
         return;
-    QTimer::singleShot(0, this, [this] {
-        // The program may have ended.
-        if (!m_lastPages.has_value())
-            openStart();
-    });
+    m_isStartDue = true;
+    // The window is seen first, see eventFilter().
+    if (parent() == nullptr)
+        QTimer::singleShot(0, this, &ModHlp::openDueStart);
+}
+
+void ModHlp::openDueStart()
+{
+    // The program may have ended.
+    if (std::exchange(m_isStartDue, false) && !m_lastPages.has_value())
+        openStart();
 }
 
 QUrl ModHlp::pageStart()

@@ -182,6 +182,7 @@ private:
     void closeCollection();
     static QUrl pageStart();
     void openStart();
+    void openDueStart();
     QHelpEngine* openedEngine();
     void dropPage(HlpWidget* page);
     void dropWindow();
@@ -202,6 +203,7 @@ private:
     QList<HlpWidget*> m_pages;                 ///< of the centre
     QHash<QWidget*, HlpWidget*> m_dialogPages; ///< by the dialog that they stand beside
     std::unique_ptr<QWidget> m_closedPages;    ///< holds those that are deleted later
+    bool m_isStartDue = false;                 ///< the first page opens as soon as the window is seen
     std::optional<sOpenPages_t> m_lastPages;   ///< those of the end: the project is saved when they are closed
 };
 

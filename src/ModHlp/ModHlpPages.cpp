@@ -106,6 +106,8 @@ void ModHlp::openPsmFile(QUrl) {}
 
 void ModHlp::closeAllFiles()
 {
+    // Also the first page of a start, which is about to open.
+    m_isStartDue = false;
     while (!m_pages.isEmpty())
         closeFile(m_pages.last());
 }
@@ -321,6 +323,8 @@ bool ModHlp::eventFilter(QObject* watched, QEvent* event)
 {
     switch (event->type()) {
     case QEvent::Paint:
+        if (watched == parent() && m_isStartDue)
+            QTimer::singleShot(0, this, &ModHlp::openDueStart);
         if (watched == parent() && !isReady())
             QTimer::singleShot(0, this, &ModHlp::makeReady);
         return false;
@@ -380,6 +384,8 @@ void ModHlp::prjOpen()
 {
     const QString current = modPrjHook->value(keyCurrentFile, QString());
     QWidget* inFront = modGuiHook != nullptr ? modGuiHook->currentWidget(ModGuiHookIf::eLocationTabs) : nullptr;
+    // A project of the command line may be open before the window is seen.
+    openDueStart();
     QStringList files = modPrjHook->value(keyOpenFiles, QStringList()).mid(0, maxPages);
     files.removeAll(current);
     files.append(current);

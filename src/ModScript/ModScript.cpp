@@ -5,6 +5,7 @@
 
 #include "Display.h"
 #include "HelpRef.h"
+#include "LateContent.h"
 #include "ModMsgHookIf.h"
 
 #include <QApplication>
@@ -45,12 +46,21 @@ bool readScript(const QString& fileName, QString* script)
 
 ModScript::ModScript(QObject* parent, eScriptDebugger_t debugger)
     : QObject(parent)
-    , m_engine(new ScriptEngine(debugger))
 {
+    LateContent::later(this, [this, debugger] { makeEngine(debugger); });
+}
+
+void ModScript::makeEngine(eScriptDebugger_t debugger)
+{
+    // The program may have ended before it had started.
+    if (m_isDisposed)
+        return;
+    m_engine = new ScriptEngine(debugger);
     connect(m_engine, &ScriptEngine::busyChanged, this, &ModScript::updateActions);
     connect(m_engine, &ScriptEngine::ended, this, &ModScript::ended);
     connect(m_engine, &ScriptEngine::functionStarts, this, &ModScript::functionStarts);
     connect(m_engine, &ScriptEngine::functionEnded, this, &ModScript::functionEnded);
+    updateActions();
 }
 
 ModScript::~ModScript()
@@ -60,7 +70,9 @@ ModScript::~ModScript()
 
 void ModScript::disposeEngine()
 {
-    ScriptEngine::dispose(m_engine);
+    m_isDisposed = true;
+    if (m_engine != nullptr)
+        ScriptEngine::dispose(m_engine);
     m_engine = nullptr;
 }
 
@@ -68,8 +80,11 @@ void ModScript::disposeEngine()
 
 void ModScript::registerObject(QObject* object, QString name)
 {
-    if (m_engine != nullptr)
-        m_engine->registerObject(object, name);
+    // As late as the engine.
+    LateContent::later(this, [this, object, guard = QPointer<QObject>(object), name] {
+        if (m_engine != nullptr && object == guard)
+            m_engine->registerObject(object, name);
+    });
 }
 
 void ModScript::unregisterObject(QString name)
@@ -221,10 +236,10 @@ QList<QAction*> ModScript::menuActions(ModActionHookIf::eActionClass_t actionCla
 
 void ModScript::updateActions()
 {
-    if (m_actions == nullptr || m_engine == nullptr)
+    if (m_actions == nullptr)
         return;
-    m_actions->setEnabled(ScriptActions::eActionRun, !m_engine->isRunning());
-    m_actions->setEnabled(ScriptActions::eActionStop, m_engine->isBusy());
+    m_actions->setEnabled(ScriptActions::eActionRun, m_engine != nullptr && !m_engine->isRunning());
+    m_actions->setEnabled(ScriptActions::eActionStop, m_engine != nullptr && m_engine->isBusy());
 }
 
 void ModScript::handleActions(ScriptActions::eAction_t action)

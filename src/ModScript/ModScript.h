@@ -85,6 +85,7 @@ private slots:
 private:
     void functionStarts();
     void functionEnded(const ScriptOutcome& outcome);
+    void makeEngine(eScriptDebugger_t debugger);
     void disposeEngine();
     void runFromDialog();
     /// @param file of the script, empty if it comes from no file
@@ -97,7 +98,8 @@ private:
     void error(const QString& text, const nsModMsg::MsgUrl& place = nsModMsg::MsgUrl());
 
     PluginList<ModScriptPluginIf> m_plugins;
-    ScriptEngine* m_engine; ///< ours; null after the program's end has begun
+    bool m_isDisposed = false;        ///< the end of the program has begun
+    ScriptEngine* m_engine = nullptr; ///< ours; null while the program starts and after its end has begun
     ScriptActions* m_actions = nullptr;
     QString m_file;              ///< of the last script, empty if it came from no file
     QString m_lastDir;           ///< in which a script was selected

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPixmap>
 #include <QPushButton>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTreeWidgetItemIterator>
@@ -53,9 +54,16 @@ QFont fontOf(const QTextCharFormat& format)
 
 NaviWidget::NaviWidget(QWidget* parent)
     : QWidget(parent)
+    , m_content(this, [this] { makeContent(); })
 {
     qRegisterMetaType<NaviTag*>("nsModSrcNavi::NaviTag *");
     setObjectName(QStringLiteral("naviWidget"));
+    SrcNaviConfig defaults;
+    setConfig(&defaults);
+}
+
+void NaviWidget::makeContent()
+{
     auto* controls = new QVBoxLayout;
     controls->setContentsMargins(grid, grid, grid, grid);
     controls->setSpacing(grid);
@@ -68,9 +76,7 @@ NaviWidget::NaviWidget(QWidget* parent)
     layout->setSpacing(0);
     layout->addLayout(controls);
     layout->addWidget(m_tree);
-
-    SrcNaviConfig defaults;
-    setConfig(&defaults);
+    showSortMode(m_startOrder);
 }
 
 QBoxLayout* NaviWidget::makeSortRow()
@@ -83,7 +89,7 @@ QBoxLayout* NaviWidget::makeSortRow()
     m_sortBox->addItem(tr("Plain Descent"), SrcNaviConfig::sortPlainDescent);
     // In a narrow panel the end of the text is cut off.
     m_sortBox->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
-    connectSortBox();
+    connect(m_sortBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &NaviWidget::setSortModeChanged);
 
     auto* label = new QLabel(tr("Sort order:"), this);
     label->setBuddy(m_sortBox);
@@ -148,13 +154,9 @@ QSize NaviWidget::sizeHint() const
 
 // --- settings ---
 
-void NaviWidget::connectSortBox()
-{
-    connect(m_sortBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &NaviWidget::setSortModeChanged);
-}
-
 void NaviWidget::setSortMode(SrcNaviConfig::eTagListSortMode_t mode)
 {
+    m_content.need();
     const int index = m_sortBox->findData(int(mode));
     if (index > 0)
         m_sortBox->setCurrentIndex(index);
@@ -162,27 +164,36 @@ void NaviWidget::setSortMode(SrcNaviConfig::eTagListSortMode_t mode)
 
 void NaviWidget::showSortMode(SrcNaviConfig::eTagListSortMode_t mode)
 {
+    m_startOrder = mode;
+    if (!m_content.isThere())
+        return;
     const QSignalBlocker blocker(m_sortBox);
     m_sortBox->setCurrentIndex(qMax(m_sortBox->findData(int(mode)), 0));
 }
 
 SrcNaviConfig::eTagListSortMode_t NaviWidget::sortMode() const
 {
-    return static_cast<SrcNaviConfig::eTagListSortMode_t>(m_sortBox->currentData().toInt());
+    return m_content.isThere() ? static_cast<SrcNaviConfig::eTagListSortMode_t>(m_sortBox->currentData().toInt())
+                               : m_startOrder;
 }
 
 void NaviWidget::setSortModeChanged(int)
 {
-    emit sortModeChanged();
+    if (!m_quiet)
+        emit sortModeChanged();
 }
 
 void NaviWidget::setConfig(SrcNaviConfig* config)
 {
     if (config == nullptr)
         return;
-    disconnect(m_sortBox, QOverload<int>::of(&QComboBox::currentIndexChanged), this, &NaviWidget::setSortModeChanged);
-    setSortMode(static_cast<SrcNaviConfig::eTagListSortMode_t>(config->tagListSortMode));
-    connectSortBox();
+    const auto order = static_cast<SrcNaviConfig::eTagListSortMode_t>(config->tagListSortMode);
+    if (m_content.isThere()) {
+        const QScopedValueRollback<bool> quiet(m_quiet, true);
+        setSortMode(order);
+    } else if (order != SrcNaviConfig::sortDocument) {
+        m_startOrder = order;
+    }
     m_bookmarkColor = Colors::shown(Colors::eMarkBookmark, config->bookmarkSymbolColor);
     for (int i = 0; i < SrcNaviConfig::fontContextCount; ++i)
         m_formats[i] = Colors::shown(SrcNaviConfig::colorOf(SrcNaviConfig::eFontContext_t(i)), config->fontFormats[i]);
@@ -197,7 +208,7 @@ NaviTag* NaviWidget::tagOf(const QTreeWidgetItem* item)
 
 void NaviWidget::clearTagList()
 {
-    if (m_tree->topLevelItemCount() == 0)
+    if (!m_content.isThere() || m_tree->topLevelItemCount() == 0)
         return;
     m_scrollPos = m_tree->verticalScrollBar()->value();
     m_tree->clear();
@@ -205,6 +216,7 @@ void NaviWidget::clearTagList()
 
 void NaviWidget::showTagList(QList<NaviTag*>* list, bool flat)
 {
+    m_content.need();
     clearTagList();
     if (m_shownOrder != m_sortBox->currentIndex())
         m_scrollPos = 0;
@@ -319,6 +331,8 @@ void NaviWidget::setItemFormat(QTreeWidgetItem* item, const NaviTag* tag) const
 
 void NaviWidget::repaintColors()
 {
+    if (!m_content.isThere())
+        return;
     {
         // Painting the tree once is faster than a dataChanged() signal for every property of every item.
         const QSignalBlocker quiet(m_tree->model());
@@ -378,6 +392,7 @@ void NaviWidget::setBookmark(QTreeWidgetItem* item, int)
 
 void NaviWidget::setBookmark()
 {
+    m_content.need();
     const NaviTag* tag = tagOf(m_tree->currentItem());
     if (tag == nullptr || m_bookmarks.contains(tag->lineRef))
         return;
@@ -387,6 +402,7 @@ void NaviWidget::setBookmark()
 
 void NaviWidget::clearBookmark()
 {
+    m_content.need();
     const NaviTag* tag = tagOf(m_tree->currentItem());
     if (tag != nullptr && m_bookmarks.removeOne(tag->lineRef))
         repaintBookmark(tag->lineRef);

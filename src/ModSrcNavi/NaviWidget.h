@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LateContent.h"
 #include "NaviTag.h"
 #include "SrcNaviConfig.h"
 
@@ -73,11 +74,11 @@ signals:
     void selected(nsModSrcNavi::NaviTag* tag);
 
 private:
+    void makeContent();
     QBoxLayout* makeSortRow();
     QBoxLayout* makeBookmarkRow();
     QPushButton* makeButton(const QString& text, const QString& toolTip, const char* objectName);
     void makeTree();
-    void connectSortBox();
     void handleReturn(QTreeWidgetItem* item, int column);
 
     static NaviTag* tagOf(const QTreeWidgetItem* item);
@@ -100,6 +101,9 @@ private:
     QStringList m_shownContent; ///< content that was reported last
     bool m_shownFlat = false;
     int m_shownOrder = 0; ///< index in the combo box when the tree was filled
+    SrcNaviConfig::eTagListSortMode_t m_startOrder = SrcNaviConfig::sortDocument; ///< until there is a combo box
+    bool m_quiet = false; ///< the order is not changed by the user
+    LateContent m_content;
 };
 
 } // namespace nsModSrcNavi

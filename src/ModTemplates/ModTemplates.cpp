@@ -1,6 +1,7 @@
 #include "ModTemplates.h"
 
 #include "EditorSupportMenu.h"
+#include "LateContent.h"
 #include "ModEditorHookIf.h"
 #include "ModMsgHookIf.h"
 #include "ShippedFolder.h"
@@ -70,7 +71,7 @@ void ModTemplates::setupSupportMenuFile(const QString& path, const QString& file
 
 void ModTemplates::modInitIntermod()
 {
-    initTemplates();
+    LateContent::later(this, [this] { initTemplates(); });
 }
 
 } // namespace nsModTemplates

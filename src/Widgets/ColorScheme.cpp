@@ -1,5 +1,6 @@
 #include "ColorScheme.h"
 
+#include "AppStyle.h"
 #include "Colors.h"
 
 #include <QApplication>
@@ -68,6 +69,7 @@ bool ColorScheme::eventFilter(QObject* watched, QEvent* event)
     if (watched != m_window || m_isBusy)
         return QObject::eventFilter(watched, event);
     if (event->type() == QEvent::ThemeChange) {
+        AppStyle::followSystemFont();
         readSystem();
         apply();
     } else if (event->type() == QEvent::ApplicationPaletteChange && QApplication::palette() != Colors::palette()) {

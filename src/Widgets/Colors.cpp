@@ -2,7 +2,6 @@
 
 #include <QBrush>
 #include <QFile>
-#include <QRegularExpression>
 
 #include <cmath>
 #include <iterator>
@@ -23,7 +22,7 @@ double luminance(const QColor& color)
 }
 
 /// @return roleCount for a name that is none
-ColorTable::eRole_t roleOf(const QString& name)
+ColorTable::eRole_t roleOf(const QStringRef& name)
 {
     for (const ColorTable::sRow_t& row : ColorTable::rows) {
         if (name == QLatin1String(row.name))
@@ -92,17 +91,22 @@ QColor Colors::onPaper(const QColor& shown)
 
 QString Colors::filled(QString text)
 {
-    static const QRegularExpression name(QStringLiteral("@([A-Za-z]+)"));
+    const auto isLetter = [](QChar c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
     QString result;
-    int end = 0;
-    for (auto it = name.globalMatch(text); it.hasNext();) {
-        const QRegularExpressionMatch match = it.next();
-        const eRole_t role = roleOf(match.captured(1));
-        result += text.mid(end, match.capturedStart() - end);
-        result += role == roleCount ? match.captured() : of(role).name();
-        end = match.capturedEnd();
+    result.reserve(text.size());
+    int done = 0;
+    for (int at = text.indexOf('@'); at >= 0; at = text.indexOf('@', at + 1)) {
+        int end = at + 1;
+        while (end < text.size() && isLetter(text.at(end)))
+            ++end;
+        const eRole_t role = roleOf(text.midRef(at + 1, end - at - 1));
+        if (role == roleCount)
+            continue;
+        result += text.midRef(done, at - done);
+        result += of(role).name();
+        done = end;
     }
-    result += text.mid(end);
+    result += text.midRef(done);
     if (scheme() == eDark)
         result.replace(QLatin1String("url(:/"), QLatin1String("url(:/dark/"));
     return result;

@@ -10,6 +10,8 @@
 #include <QToolButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 namespace {
 
 const int gap = 4;
@@ -21,11 +23,27 @@ QString plainToolTip(const QString& text)
     return text.isEmpty() ? QString() : QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());
 }
 
+/// Whether two lists look the same, whatever their links do.
+bool isSameLook(const QVector<MyLinkList::sSection_t>& one, const QVector<MyLinkList::sSection_t>& other)
+{
+    const auto isSameLink = [](const MyLinkList::sLink_t& a, const MyLinkList::sLink_t& b) {
+        return a.text == b.text && a.detail == b.detail && a.toolTip == b.toolTip && a.isStrong == b.isStrong &&
+               bool(a.act) == bool(b.act) && bool(a.remove) == bool(b.remove);
+    };
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                      [&](const MyLinkList::sSection_t& a, const MyLinkList::sSection_t& b) {
+                          return a.title == b.title &&
+                                 std::equal(a.links.begin(), a.links.end(), b.links.begin(), b.links.end(), isSameLink);
+                      });
+}
+
 } // namespace
 
 MyLinkList::MyLinkList(QWidget* parent)
     : QWidget(parent)
     , m_layout(new QVBoxLayout(this))
+    , m_late(
+          this, [this] { showSections(); }, LateContent::eTabsOfItsOwn)
 {
     setObjectName(QStringLiteral("linkList"));
     m_layout->setContentsMargins(0, 0, 0, 0);
@@ -33,6 +51,26 @@ MyLinkList::MyLinkList(QWidget* parent)
 }
 
 void MyLinkList::setSections(const QVector<sSection_t>& sections)
+{
+    const bool isShown = m_late.isThere() && m_content != nullptr && isSameLook(sections, m_sections);
+    m_sections = sections;
+    if (m_late.isThere() && !isShown)
+        showSections();
+}
+
+QStringList MyLinkList::texts() const
+{
+    QStringList texts;
+    for (const sSection_t& section : m_sections) {
+        if (!section.links.isEmpty() && !section.title.isEmpty())
+            texts.append(section.title);
+        for (const sLink_t& link : section.links)
+            texts.append(link.text);
+    }
+    return texts;
+}
+
+void MyLinkList::showSections()
 {
     int focused = -1;
     if (m_content != nullptr) {
@@ -45,25 +83,23 @@ void MyLinkList::setSections(const QVector<sSection_t>& sections)
         m_content->deleteLater();
         m_content->setObjectName(QString());
     }
-    m_texts.clear();
     m_content = new QWidget(this);
     m_content->setObjectName(QStringLiteral("linkListContent"));
     auto* lines = new QVBoxLayout(m_content);
     lines->setContentsMargins(0, 0, 0, 0);
     lines->setSpacing(gap);
     bool isFirst = true;
-    for (const sSection_t& section : sections) {
+    for (int i = 0; i < m_sections.size(); ++i) {
+        const sSection_t& section = m_sections.at(i);
         if (section.links.isEmpty())
             continue;
         if (!isFirst)
             lines->addSpacing(sectionGap);
         isFirst = false;
-        if (!section.title.isEmpty()) {
-            m_texts.append(section.title);
+        if (!section.title.isEmpty())
             lines->addWidget(new MySectionTitle(section.title, m_content));
-        }
-        for (const sLink_t& link : section.links)
-            lines->addWidget(makeLine(link, m_content));
+        for (int line = 0; line < section.links.size(); ++line)
+            lines->addWidget(makeLine(i, line, m_content));
     }
     m_layout->insertWidget(0, m_content);
     m_content->show();
@@ -92,9 +128,22 @@ void MyLinkList::orderTabs()
     }
 }
 
-QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)
+/// What a link of the present lines does: what it is for when it is used. It may delete this list.
+std::function<void()> MyLinkList::run(int section, int line, std::function<void()> sLink_t::*what)
 {
-    m_texts.append(link.text);
+    return [this, section, line, what, content = m_content] {
+        // Lines that are no longer shown live on for a moment.
+        if (content != m_content)
+            return;
+        const sLink_t link = m_sections.value(section).links.value(line);
+        if (link.*what)
+            (link.*what)();
+    };
+}
+
+QWidget* MyLinkList::makeLine(int section, int index, QWidget* parent)
+{
+    const sLink_t& link = m_sections.at(section).links.at(index);
     auto* line = new QWidget(parent);
     auto* row = new QHBoxLayout(line);
     row->setContentsMargins(0, 0, 0, 0);
@@ -102,7 +151,7 @@ QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)
     QWidget* text = nullptr;
     if (link.act) {
         auto* button = new MyLinkButton(link.text, line);
-        connect(button, &QPushButton::clicked, this, [act = link.act] { act(); });
+        connect(button, &QPushButton::clicked, this, run(section, index, &sLink_t::act));
         text = button;
     } else {
         auto* label = new QLabel(line);
@@ -135,7 +184,7 @@ QWidget* MyLinkList::makeLine(const sLink_t& link, QWidget* parent)
         remove->setIcon(SchemeIcons::of(QStringLiteral(":/ModGui/img/tab-close.png")));
         remove->setToolTip(tr("Takes this line off the list"));
         remove->setAccessibleName(tr("Remove %1 from the list").arg(link.text));
-        connect(remove, &QToolButton::clicked, this, [act = link.remove] { act(); });
+        connect(remove, &QToolButton::clicked, this, run(section, index, &sLink_t::remove));
         row->addWidget(remove);
     }
     return line;

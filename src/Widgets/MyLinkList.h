@@ -1,5 +1,7 @@
 #pragma once
 
+#include "LateContent.h"
+
 #include <QPointer>
 #include <QVector>
 #include <QWidget>
@@ -38,14 +40,17 @@ public:
     /// itself
     void setTabBefore(QWidget* field);
     /// Texts of all lines, with their sections, from top to bottom.
-    QStringList texts() const { return m_texts; }
+    QStringList texts() const;
 
 private:
     void orderTabs();
-    QWidget* makeLine(const sLink_t& link, QWidget* parent);
+    void showSections();
+    QWidget* makeLine(int section, int index, QWidget* parent);
+    std::function<void()> run(int section, int line, std::function<void()> sLink_t::*what);
 
     QVBoxLayout* m_layout;
     QWidget* m_content = nullptr;
     QPointer<QWidget> m_before;
-    QStringList m_texts;
+    QVector<sSection_t> m_sections;
+    LateContent m_late; ///< the lines
 };

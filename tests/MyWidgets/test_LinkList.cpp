@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace {
 
 const int narrow = 300;
@@ -38,6 +40,45 @@ TEST(LinkList, ALongNameDoesNotMakeItsPageWide)
     EXPECT_NE(button->grab().toImage(), elided) << "the end of the name is seen";
     QTest::mouseClick(button, Qt::LeftButton);
     EXPECT_TRUE(isPressed);
+}
+
+TEST(LinkList, LinksThatLookTheSameStayAndDoWhatIsNew)
+{
+    MyLinkList list;
+    QString done;
+    const auto sections = [&done](const QString& what, const QString& text) {
+        MyLinkList::sLink_t link;
+        link.text = text;
+        link.act = [&done, what] { done = what; };
+        MyLinkList::sSection_t section;
+        section.title = "Start";
+        section.links = {link};
+        return QVector<MyLinkList::sSection_t>{section};
+    };
+    list.setSections(sections("old", "Open"));
+    auto* button = list.findChild<MyLinkButton*>();
+    ASSERT_NE(button, nullptr);
+    list.setSections(sections("new", "Open"));
+    EXPECT_EQ(list.findChild<MyLinkButton*>(), button);
+    button->click();
+    EXPECT_EQ(done, "new");
+    list.setSections(sections("other", "Open it"));
+    EXPECT_EQ(list.texts().join(','), "Start,Open it");
+    list.findChild<QWidget*>("linkListContent")->findChild<MyLinkButton*>()->click();
+    EXPECT_EQ(done, "other");
+}
+
+TEST(LinkList, ALinkMayReplaceAllLinks)
+{
+    auto list = std::make_unique<MyLinkList>();
+    MyLinkList::sLink_t link;
+    link.text = "Close";
+    link.act = [&list] { list->setSections({}); };
+    MyLinkList::sSection_t section;
+    section.links = {link};
+    list->setSections({section});
+    list->findChild<MyLinkButton*>()->click();
+    EXPECT_TRUE(list->texts().isEmpty());
 }
 
 TEST(LinkList, ALinkWithoutRoomShowsItsShortText)

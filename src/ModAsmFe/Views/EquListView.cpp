@@ -13,8 +13,13 @@ namespace nsModAsmFe {
 EquListView::EquListView(QWidget* parent)
     : QWidget(parent)
     , m_model(new EquListModel(this))
-    , m_tree(new QTreeView(this))
+    , m_content(this, [this] { makeContent(); })
 {
+}
+
+void EquListView::makeContent()
+{
+    m_tree = new QTreeView(this);
     m_tree->setObjectName("equListView");
     m_tree->setModel(m_model);
     m_tree->setRootIsDecorated(false);
@@ -85,6 +90,7 @@ void EquListView::endFill()
     // A run that changed no constant leaves scroll position, selection and the front panel as they are.
     if (rows == m_model->rows())
         return;
+    m_content.need();
     const int place = m_tree->verticalScrollBar()->value();
     m_model->setRows(std::move(rows));
     m_tree->verticalScrollBar()->setValue(place);

@@ -2,6 +2,8 @@
 
 #include "EquListModel.h"
 
+#include "LateContent.h"
+
 #include <QWidget>
 
 class QTreeView;
@@ -35,10 +37,13 @@ signals:
     void contentChanged(QWidget* widget);
 
 private:
+    void makeContent();
+
     EquListModel* m_model;
-    QTreeView* m_tree;
+    QTreeView* m_tree = nullptr;
     QVector<EquListModel::sRow_t> m_gathered;
     bool m_filling = false;
+    LateContent m_content;
 };
 
 } // namespace nsModAsmFe

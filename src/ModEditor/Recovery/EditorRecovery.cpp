@@ -1,6 +1,7 @@
 #include "EditorRecovery.h"
 
 #include "EditorWidget.h"
+#include "LateContent.h"
 
 #include <QTextDocument>
 
@@ -28,7 +29,7 @@ EditorRecovery::EditorRecovery(QObject* parent)
     m_timer.setInterval(lookDelay);
     connect(&m_timer, &QTimer::timeout, this, &EditorRecovery::writeChanged);
     m_timer.start();
-    prune();
+    LateContent::later(this, [this] { prune(); });
 }
 
 EditorRecovery::~EditorRecovery()

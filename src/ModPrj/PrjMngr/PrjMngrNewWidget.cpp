@@ -26,14 +26,19 @@ const int gap = 8;
 
 PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
     : QWidget(parent)
-    , m_file(new MyFileSelectSave(this))
-    , m_title(new QLineEdit(this))
-    , m_options(new PrjMngrOptions(this))
-    , m_note(new QLabel(this))
-    , m_add(new MyButton(tr("Generate and add project to collection"), this))
-    , m_open(new MyButton(tr("Generate and open project"), this))
+    , m_content(this, [this] { makeContent(); })
 {
     setObjectName(QStringLiteral("prjMngrNew"));
+}
+
+void PrjMngrNewWidget::makeContent()
+{
+    m_file = new MyFileSelectSave(this);
+    m_title = new QLineEdit(this);
+    m_options = new PrjMngrOptions(this);
+    m_note = new QLabel(this);
+    m_add = new MyButton(tr("Generate and add project to collection"), this);
+    m_open = new MyButton(tr("Generate and open project"), this);
     m_file->setObjectName(QStringLiteral("prjMngrNewFile"));
     m_file->setWindowTitle(tr("New project file"));
     m_file->setDescription(tr("File that keeps the project; its sources stand beside it as a rule"));
@@ -85,13 +90,17 @@ PrjMngrNewWidget::PrjMngrNewWidget(QWidget* parent)
 
 void PrjMngrNewWidget::clear()
 {
+    // What is made later is empty.
+    if (!m_content.isThere())
+        return;
     m_file->setFile(QString(), QString());
     m_title->clear();
     m_options->clear();
 }
 
-NewProjectOptions PrjMngrNewWidget::options() const
+NewProjectOptions PrjMngrNewWidget::options()
 {
+    m_content.need();
     return m_options->options();
 }
 

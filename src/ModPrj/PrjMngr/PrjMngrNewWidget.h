@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LateContent.h"
 #include "NewProject.h"
 
 #include <QWidget>
@@ -24,7 +25,7 @@ public:
     /// Empties all fields.
     void clear();
     /// What the project is given besides its title.
-    NewProjectOptions options() const;
+    NewProjectOptions options();
 
 signals:
     /// @param prjFile absolute path of the file to be written
@@ -43,17 +44,19 @@ private slots:
     void hndlReturn();
 
 private:
+    void makeContent();
     bool isComplete() const;
     void updateButtons();
 
-    MyFileSelectSave* m_file;
-    QLineEdit* m_title;
-    PrjMngrOptions* m_options;
-    QLabel* m_note; ///< says which files will be written, and that the file exists already
-    MyButton* m_add;
-    MyButton* m_open;
+    MyFileSelectSave* m_file = nullptr;
+    QLineEdit* m_title = nullptr;
+    PrjMngrOptions* m_options = nullptr;
+    QLabel* m_note = nullptr; ///< says which files will be written, and that the file exists already
+    MyButton* m_add = nullptr;
+    MyButton* m_open = nullptr;
     bool m_fileValid = false;
     bool m_titleValid = false;
+    LateContent m_content;
 };
 
 } // namespace nsModPrj

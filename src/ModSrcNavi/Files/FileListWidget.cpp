@@ -99,14 +99,20 @@ void FileTree::keyPressEvent(QKeyEvent* event)
 
 FileListWidget::FileListWidget(QWidget* parent)
     : QWidget(parent)
-    , m_add(addButton("fileListAdd", tr("Add..."), tr("Adds sources to the project")))
-    , m_remove(
-          addButton("fileListRemove", tr("Remove"), tr("Takes the source out of the project; the file stays (Del)")))
-    , m_up(addButton("fileListUp", tr("Up"), tr("The assembler reads this source earlier (Ctrl+Up)")))
-    , m_down(addButton("fileListDown", tr("Down"), tr("The assembler reads this source later (Ctrl+Down)")))
-    , m_tree(new FileTree(this))
+    , m_content(this, [this] { makeContent(); })
 {
     setObjectName(QStringLiteral("fileList"));
+}
+
+void FileListWidget::makeContent()
+{
+    m_add = addButton("fileListAdd", tr("Add..."), tr("Adds sources to the project"));
+    m_remove =
+        addButton("fileListRemove", tr("Remove"), tr("Takes the source out of the project; the file stays (Del)"));
+    m_up = addButton("fileListUp", tr("Up"), tr("The assembler reads this source earlier (Ctrl+Up)"));
+    m_down = addButton("fileListDown", tr("Down"), tr("The assembler reads this source later (Ctrl+Down)"));
+    // After the buttons above it, for the Tab key.
+    m_tree = new FileTree(this);
     m_tree->setAccessibleName(tr("Files of the project"));
     auto* buttons = new QHBoxLayout;
     buttons->setSpacing(gap);
@@ -181,6 +187,7 @@ QTreeWidgetItem* FileListWidget::addGroup(const QString& title, const QStringLis
 
 void FileListWidget::setFiles(const ProjectFiles& files, const QDir& dir, int currentSource)
 {
+    m_content.need();
     const QString current = currentFile();
     const int rowBefore = sourceRow(m_tree->currentItem());
     if (currentSource < 0 && rowBefore >= 0) {
@@ -232,13 +239,15 @@ void FileListWidget::noteFolded()
 void FileListWidget::clear()
 {
     m_files = ProjectFiles();
+    if (!m_content.isThere())
+        return;
     m_tree->clear();
     updateButtons();
 }
 
 bool FileListWidget::select(const QString& file)
 {
-    if (!makeCurrent(file))
+    if (!m_content.isThere() || !makeCurrent(file))
         return false;
     m_tree->scrollToItem(m_tree->currentItem());
     return true;
@@ -257,7 +266,8 @@ bool FileListWidget::makeCurrent(const QString& file)
 
 QString FileListWidget::currentFile() const
 {
-    return m_tree->currentItem() != nullptr ? m_tree->currentItem()->data(0, roleFile).toString() : QString();
+    return m_content.isThere() && m_tree->currentItem() != nullptr ? m_tree->currentItem()->data(0, roleFile).toString()
+                                                                   : QString();
 }
 
 /// @return -1: the line is no source

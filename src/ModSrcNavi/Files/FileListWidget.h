@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LateContent.h"
 #include "ProjectFiles.h"
 
 #include <QDir>
@@ -63,6 +64,7 @@ signals:
     void moveRequested(const ProjectFiles::sSource_t& source, int target);
 
 private:
+    void makeContent();
     QToolButton* addButton(const char* name, const QString& text, const QString& toolTip);
     QTreeWidgetItem* addGroup(const QString& title, const QStringList& files, bool isSource, bool isOutput);
     int sourceRow(const QTreeWidgetItem* item) const;
@@ -76,14 +78,15 @@ private:
     void updateButtons();
     void showMenu(const QPoint& place);
 
-    QToolButton* m_add;
-    QToolButton* m_remove;
-    QToolButton* m_up;
-    QToolButton* m_down;
-    FileTree* m_tree; ///< made after the buttons above it, for the Tab key
+    QToolButton* m_add = nullptr;
+    QToolButton* m_remove = nullptr;
+    QToolButton* m_up = nullptr;
+    QToolButton* m_down = nullptr;
+    FileTree* m_tree = nullptr;
     ProjectFiles m_files;
     QDir m_dir;
     QStringList m_folded; ///< titles of the groups that the user has folded
+    LateContent m_content;
 };
 
 } // namespace nsModSrcNavi
